@@ -1,0 +1,42 @@
+#pragma once
+
+#include "OndelCore/benchmark/BenchmarkPlan.h"
+#include "OndelCore/benchmark/BenchmarkProgress.h"
+#include "OndelCore/benchmark/BenchmarkResult.h"
+
+#include <QFuture>
+
+#include <filesystem>
+#include <functional>
+#include <stop_token>
+
+namespace OndelCore::benchmark {
+
+/// Measures a folder's file system with plain blocking calls on one worker thread.
+///
+/// Everything is written into a hidden working folder inside `folder`, which is removed whatever happens. A
+/// run returns everything it was asked for, or an error; never a part. The engine keeps no state between
+/// runs.
+class BenchmarkEngine {
+public:
+    using Progress = std::function<void(const BenchmarkProgress&)>;
+
+    /// Starts a run and returns at once.
+    ///
+    /// `progress` is called on the worker from inside the measured loops: its time counts against the rate,
+    /// so it must return quickly and never wait for the interface. `stop`: a request ends the run within one
+    /// system call, with `Cancelled`; a closing flush is waited for. This is the one way to end a run:
+    /// QFuture::cancel() merely drops the result of a run that goes on.
+    ///
+    /// Threads: any; needs no event loop. The future finishes on the worker, after the working folder is
+    /// gone. Fails: the future throws BenchmarkError, Cancelled, or std::system_error when the working folder
+    /// cannot be made.
+    QFuture<BenchmarkResult> run(BenchmarkPlan plan, std::filesystem::path folder, Progress progress,
+                                 std::stop_token stop = {}) const;
+
+    /// Removes the working folders that killed runs left in `folder`, also that of a run going on there now.
+    /// Threads: any; blocks on the file system. Fails: silently, name by name.
+    static void cleanupOrphans(const std::filesystem::path& folder);
+};
+
+} // namespace OndelCore::benchmark

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <string>
+#include <variant>
+
+namespace OndelCore::benchmark {
+
+/// Why a run failed. The texts for people are the model's; `what` is for logs and debuggers.
+class BenchmarkError : public std::exception {
+public:
+    /// Units: bytes.
+    struct InsufficientSpace {
+        std::int64_t needed = 0;
+        std::int64_t available = 0;
+        bool operator==(const InsufficientSpace&) const = default;
+    };
+    /// `text`: a prefix that names the failed call ("write: "), then the system's wording.
+    struct Io {
+        std::string text;
+        bool operator==(const Io&) const = default;
+    };
+    struct NotWritable {
+        bool operator==(const NotWritable&) const = default;
+    };
+    struct FileTooSmallForRandom {
+        bool operator==(const FileTooSmallForRandom&) const = default;
+    };
+    using Cause = std::variant<InsufficientSpace, Io, NotWritable, FileTooSmallForRandom>;
+
+    explicit BenchmarkError(Cause cause);
+
+    const Cause& cause() const { return m_cause; }
+    const char* what() const noexcept override { return m_what.c_str(); }
+
+    bool operator==(const BenchmarkError& other) const { return m_cause == other.m_cause; }
+
+private:
+    Cause m_cause;
+    std::string m_what;
+};
+
+/// The run was told to stop. Nothing of it is left and there is no partial result.
+class Cancelled : public std::exception {
+public:
+    const char* what() const noexcept override { return "cancelled"; }
+};
+
+} // namespace OndelCore::benchmark

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "OndelCore/benchmark/BenchmarkTest.h"
+
+#include <cstdint>
+
+namespace OndelCore::benchmark {
+
+/// How far the running test is. The two counts are bytes only in the sequential and random tests:
+///   sequentialWrite   bytes written so far; total 0 while the end is not known (fillDisk)
+///   sequentialRead    bytes read so far, of the data file's length
+///   random tests      operations times the block
+///   fileOps           operations, of four times the file count
+struct BenchmarkProgress {
+    BenchmarkTest test = BenchmarkTest::sequentialWrite;
+    std::int64_t completedBytes = 0;
+    std::int64_t totalBytes = 0;
+    double instantBytesPerSecond = 0; ///< of the last interval; always 0 outside the sequential tests
+    double elapsed = 0;               ///< seconds since this test's measuring began
+
+    bool operator==(const BenchmarkProgress&) const = default;
+};
+
+} // namespace OndelCore::benchmark

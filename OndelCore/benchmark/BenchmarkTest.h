@@ -1,0 +1,22 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace OndelCore::benchmark {
+
+/// The five tests, in the order in which a run executes them.
+enum class BenchmarkTest { sequentialWrite, sequentialRead, randomRead, randomWrite, fileOps };
+
+inline constexpr std::array allBenchmarkTests{BenchmarkTest::sequentialWrite, BenchmarkTest::sequentialRead,
+                                              BenchmarkTest::randomRead, BenchmarkTest::randomWrite,
+                                              BenchmarkTest::fileOps};
+
+/// The case's name ("sequentialWrite"), for files and command lines.
+std::string_view rawValue(BenchmarkTest test);
+
+/// The test with exactly this raw value (case-sensitive), or absent.
+std::optional<BenchmarkTest> benchmarkTest(std::string_view rawValue);
+
+} // namespace OndelCore::benchmark

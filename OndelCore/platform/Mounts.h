@@ -1,0 +1,36 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace OndelCore::platform {
+
+/// One mounted file system as the system's mount table tells it (proc(5), "mountinfo").
+/// Paths and source are the decoded bytes; they need not be valid UTF-8.
+struct Mount {
+    std::uint64_t id = 0;       ///< unique among the mounts of now; may be used again later
+    dev_t device = 0;           ///< the superblock's device number; anonymous for Btrfs, network, memory
+    std::filesystem::path root; ///< what of the file system is mounted: "/" or a subvolume, a bind source
+    std::filesystem::path mountPoint; ///< where it is mounted
+    std::string type;                 ///< the kernel's name of the file system: "ext4", "fuse.sshfs"
+    std::string source;               ///< the device's path, the server's address, or a word such as "tmpfs"
+    std::string options;              ///< of this mount, comma-separated: "rw,nosuid"
+    std::string superOptions;         ///< of the file system, comma-separated
+
+    bool operator==(const Mount&) const = default;
+};
+
+/// All mounts of this process's view, in the table's order (a later one covers an earlier one).
+/// Threads: any. Fails: an unreadable table is an empty list.
+std::vector<Mount> mounts();
+
+/// The mount that holds `path`. Threads: any. Fails: absent if the path does not resolve to a mount of this
+/// view.
+std::optional<Mount> mountOfPath(const std::filesystem::path& path);
+
+} // namespace OndelCore::platform

@@ -1,0 +1,32 @@
+# How everything here is compiled: the language, the warnings, the sanitizers. Every target gets it through ondel_options.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+
+set(ONDEL_SANITIZE "" CACHE STRING "Sanitizers to build with, as the compiler's -fsanitize= takes them")
+option(ONDEL_WARNINGS_ARE_ERRORS "Stop the build at a warning" ON)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_library(ondel_options INTERFACE)
+target_include_directories(ondel_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_definitions(ondel_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)
+target_compile_options(ondel_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+  -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough
+  $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>
+  $<$<BOOL:${ONDEL_WARNINGS_ARE_ERRORS}>:-Werror>)
+
+if(ONDEL_SANITIZE)
+  # Also for what Qt's generators compile, hence directory-wide.
+  add_compile_options(-fsanitize=${ONDEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${ONDEL_SANITIZE})
+endif()

@@ -1,0 +1,28 @@
+# One room = one folder = one static library = one namespace.
+#
+# ondel_room(OndelCore::benchmark SOURCES a.cpp a.h … LINK OndelCore::platform … [PRIVATE_LINK …])
+#   makes the target OndelCore_benchmark with the alias OndelCore::benchmark. LINK is what the room's headers need,
+#   PRIVATE_LINK what only its sources need.
+function(ondel_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
+  string(REPLACE "::" "_" target ${name})
+  add_library(${target} STATIC ${ROOM_SOURCES})
+  add_library(${name} ALIAS ${target})
+  target_link_libraries(${target} PUBLIC ${ROOM_LINK} PRIVATE ondel_options ${ROOM_PRIVATE_LINK})
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+endfunction()
+
+# ondel_test(NAME SOURCES … LINK …): a GoogleTest program that CTest runs once, with its own home and without a display.
+function(ondel_test name)
+  cmake_parse_arguments(TEST "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${TEST_SOURCES})
+  target_link_libraries(${name} PRIVATE ondel_options ondel_test_support ${TEST_LINK} GTest::gtest)
+  add_test(NAME ${name} COMMAND ${name})
+endfunction()
+
+# ondel_bench(NAME SOURCES … LINK …): a Google Benchmark program under build/<preset>/bin.
+function(ondel_bench name)
+  cmake_parse_arguments(BENCH "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${BENCH_SOURCES})
+  target_link_libraries(${name} PRIVATE ondel_options ${BENCH_LINK} benchmark::benchmark)
+endfunction()

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+
+namespace test {
+
+/// A folder of its own for one test, removed with everything in it when the object goes.
+/// Owner: the object. Fails: throws std::filesystem::filesystem_error when it cannot be made.
+class TemporaryFolder {
+public:
+    /// `parent`: where to make it; the test program's own temporary folder when empty.
+    explicit TemporaryFolder(const std::filesystem::path& parent = {});
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::filesystem::path& path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path;
+};
+
+} // namespace test
