@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace OndelCore::health {
+
+/// A drive's health as shown to people. All texts are UTF-8 and finished.
+struct DiskSMART {
+    enum class Status { verified, failing, notSupported };
+
+    /// One labelled figure.
+    struct Attribute {
+        std::string label;
+        std::string value;    ///< formatted in the user's locale
+        bool warning = false; ///< the figure is a concern
+
+        bool operator==(const Attribute&) const = default;
+    };
+
+    Status status = Status::notSupported;
+    std::string kind;                  ///< "NVMe" or "ATA"; empty when not supported
+    std::vector<Attribute> attributes; ///< in the order to show them
+
+    bool isSupported() const { return status != Status::notSupported; }
+
+    bool operator==(const DiskSMART&) const = default;
+};
+
+} // namespace OndelCore::health
+
+template <>
+struct std::hash<OndelCore::health::DiskSMART::Attribute> {
+    std::size_t operator()(const OndelCore::health::DiskSMART::Attribute& attribute) const noexcept;
+};
+
+template <>
+struct std::hash<OndelCore::health::DiskSMART> {
+    std::size_t operator()(const OndelCore::health::DiskSMART& smart) const noexcept;
+};

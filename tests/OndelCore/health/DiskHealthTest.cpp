@@ -1,0 +1,162 @@
+#include "OndelCore/health/DiskHealth.h"
+
+#include <QLocale>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <functional>
+#include <limits>
+
+namespace OndelCore::health {
+
+using Row = DiskSMART::Attribute;
+using Rows = std::vector<Row>;
+
+static std::ostream& operator<<(std::ostream& out, const Row& row) {
+    return out << row.label << " = " << row.value << (row.warning ? " !" : "");
+}
+
+namespace {
+
+constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
+
+OndelSMART nvme() {
+    OndelSMART record;
+    record.available = 1;
+    std::strcpy(record.kind, "NVMe");
+    return record;
+}
+
+TEST(DiskHealth, WritesTheRowsInTheirOrderInTheUsersLocale) {
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    OndelSMART record = nvme();
+    record.has_temperature = record.has_percent_used = record.has_spare = record.has_power_on_hours = 1;
+    record.has_power_cycles = record.has_nvme_counters = record.has_data_written = record.has_data_read = 1;
+    record.has_host_commands = record.has_busy_minutes = 1;
+    record.temperature = -273;
+    record.percent_used = 255;
+    record.spare = 100;
+    record.spare_threshold = 5;
+    record.power_on_hours = 12345;
+    record.power_cycles = 1234;
+    record.unsafe_shutdowns = 12;
+    record.data_written_tb = 18.449999;
+    record.data_read_tb = static_cast<double>(largest) * 512000.0 / 1e12;
+    record.host_read_commands = largest;
+    record.host_write_commands = 0;
+    record.busy_minutes = 2880;
+    record.error_log_entries = 1000000;
+
+    const DiskSMART smart = DiskHealth::smart(record);
+    EXPECT_EQ(smart.status, DiskSMART::Status::verified);
+    EXPECT_EQ(smart.kind, "NVMe");
+    EXPECT_EQ(smart.attributes, (Rows{{"Temperature", "-273 °C", false},
+                                      {"Life used", "255%", true},
+                                      {"Spare available", "100%", false},
+                                      {"Spare threshold", "5%", false},
+                                      {"Power-on time", "1.4 years", false},
+                                      {"Power cycles", "1,234", false},
+                                      {"Unsafe shutdowns", "12", false},
+                                      {"Data written", "18.4 TB", false},
+                                      {"Data read", "9444732965739.3 TB", false},
+                                      {"Host read commands", "18,446,744,073,709,551,615", false},
+                                      {"Host write commands", "0", false},
+                                      {"Controller busy", "2 days", false},
+                                      {"Media errors", "0", false},
+                                      {"Error log entries", "1,000,000", false}}));
+
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const Rows german = DiskHealth::smart(record).attributes;
+    EXPECT_EQ(german[5].value, "1.234");
+    EXPECT_EQ(german[7].value, "18.4 TB") << "terabytes and years have a point in every locale";
+    QLocale::setDefault(QLocale::c());
+}
+
+TEST(DiskHealth, WritesTheRowsOfAnAtaDrive) {
+    OndelSMART record;
+    record.available = record.failing = 1;
+    std::strcpy(record.kind, "ATA");
+    record.has_load_cycles = record.has_reallocated = record.has_pending = record.has_uncorrectable = 1;
+    record.has_reported_uncorrectable = record.has_spin_retries = record.has_crc_errors = 1;
+    record.reallocated = 1;
+    record.uncorrectable = 2;
+    record.spin_retries = 3;
+
+    const DiskSMART smart = DiskHealth::smart(record);
+    EXPECT_EQ(smart.status, DiskSMART::Status::failing);
+    EXPECT_EQ(smart.kind, "ATA");
+    EXPECT_EQ(smart.attributes, (Rows{{"Load cycles", "0", false},
+                                      {"Reallocated sectors", "1", true},
+                                      {"Pending sectors", "0", false},
+                                      {"Uncorrectable sectors", "2", true},
+                                      {"Reported uncorrectable", "0", false},
+                                      {"Spin retries", "3", true},
+                                      {"Interface CRC errors", "0", false}}));
+}
+
+TEST(DiskHealth, JudgesEachFigureByItsOwnRule) {
+    using Change = std::function<void(OndelSMART&)>;
+    const auto spare = [](int value, int threshold) {
+        return [=](OndelSMART& record) {
+            record.has_spare = 1;
+            record.spare = value;
+            record.spare_threshold = threshold;
+        };
+    };
+    const auto used = [](int value) {
+        return [=](OndelSMART& record) {
+            record.has_percent_used = 1;
+            record.percent_used = value;
+        };
+    };
+    const auto warning = [](int value) {
+        return [=](OndelSMART& record) { record.critical_warning = value; };
+    };
+    const auto powerOn = [](std::uint64_t value) {
+        return [=](OndelSMART& record) {
+            record.has_power_on_hours = 1;
+            record.power_on_hours = value;
+        };
+    };
+    const auto busy = [](std::uint64_t value) {
+        return [=](OndelSMART& record) {
+            record.has_busy_minutes = 1;
+            record.busy_minutes = value;
+        };
+    };
+    const std::vector<std::pair<Change, Rows>> cases{
+        {[](OndelSMART&) {}, {}},
+        {spare(10, 0), {{"Spare available", "10%", false}}},
+        {spare(9, 0), {{"Spare available", "9%", true}}},
+        {spare(20, 25), {{"Spare available", "20%", true}, {"Spare threshold", "25%", false}}},
+        {used(89), {{"Life used", "89%", false}}},
+        {used(90), {{"Life used", "90%", true}}},
+        {warning(5), {{"Critical warning", "Spare below threshold, Reliability degraded", true}}},
+        {warning(26), {{"Critical warning", "Temperature, Read-only, Backup failed", true}}},
+        {warning(32), {{"Critical warning", "Unknown", true}}},
+        {warning(255),
+         {{"Critical warning",
+           "Spare below threshold, Temperature, Reliability degraded, Read-only, Backup failed", true}}},
+        {powerOn(47), {{"Power-on time", "47 h", false}}},
+        {powerOn(48), {{"Power-on time", "2 days", false}}},
+        {powerOn(8759), {{"Power-on time", "364 days", false}}},
+        {powerOn(8760), {{"Power-on time", "1.0 years", false}}},
+        {powerOn(largest), {{"Power-on time", "2105792702478259.2 years", false}}},
+        {busy(59), {}},
+        {busy(60), {{"Controller busy", "1 h", false}}},
+        {[](OndelSMART& record) { record.media_errors = 3; }, {{"Media errors", "3", true}}},
+        {[](OndelSMART& record) { record.unsafe_shutdowns = 3; }, {{"Unsafe shutdowns", "3", false}}},
+        {[](OndelSMART& record) { record.error_log_entries = 3; }, {}},
+    };
+    for (std::size_t index = 0; index < cases.size(); ++index) {
+        OndelSMART record = nvme();
+        cases[index].first(record);
+        const DiskSMART smart = DiskHealth::smart(record);
+        EXPECT_EQ(smart.attributes, cases[index].second) << "case " << index;
+        EXPECT_EQ(smart.status, DiskSMART::Status::verified) << "rows never change the verdict";
+    }
+}
+
+} // namespace
+} // namespace OndelCore::health
