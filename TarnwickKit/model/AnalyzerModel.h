@@ -1,0 +1,238 @@
+#pragma once
+
+#include "OndelCore/benchmark/BenchmarkPlan.h"
+#include "OndelCore/benchmark/BenchmarkProgress.h"
+#include "OndelCore/benchmark/BenchmarkResult.h"
+#include "TarnwickKit/model/AnalyzerServices.h"
+#include "TarnwickKit/model/ProgressStream.h"
+
+#include <QFuture>
+#include <QFutureWatcher>
+#include <QObject>
+#include <QPromise>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <cstdint>
+#include <exception>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <stop_token>
+#include <vector>
+
+namespace TarnwickKit::model {
+
+/// The application's one central object: what is to be tested, the run that goes on, and what came out.
+///
+/// Views read its properties and make one call per action of the user; every change is announced. Properties
+/// carry what a declarative view can bind to: a test is its raw value ("sequentialWrite"), an absent text or
+/// test is "", and bytes are doubles (exact to 2^53). The getters beside them carry the real types.
+///
+/// Threads: the one that makes it, which must run an event loop.
+/// Owner: a run. The destructor ends a run that goes on and waits until the engine has cleaned up behind it.
+class AnalyzerModel : public QObject {
+    Q_OBJECT
+
+public:
+    /// A declarative view only sees names that begin with a capital.
+    enum class Phase { Idle, Running, Done, Failed };
+    Q_ENUM(Phase)
+
+    explicit AnalyzerModel(AnalyzerServices services = AnalyzerServices::real(), QObject* parent = nullptr);
+    ~AnalyzerModel() override;
+
+    // --- Target
+    // ---------------------------------------------------------------------------------------------
+
+    /// The folder under test; "" while none is chosen.
+    Q_PROPERTY(QString targetFolder READ targetFolderText NOTIFY targetFolderChanged)
+    const std::optional<std::filesystem::path>& targetFolder() const { return m_targetFolder; }
+    QString targetFolderText() const;
+    Q_SIGNAL void targetFolderChanged();
+
+    /// Makes `folder` the target and sweeps up in the background what killed runs left there. Does nothing
+    /// during a run. Selecting the same folder again repeats all of it.
+    void select(const std::filesystem::path& folder);
+    /// The same for a local file URL. Any other URL is ignored.
+    Q_INVOKABLE void select(const QUrl& folder);
+
+    // --- Settings: written directly by the views; no value is refused or changed
+    // -------------------------------
+
+    /// Index into BenchmarkSize::presets. One outside of it is a programming fault, found by makePlan.
+    Q_PROPERTY(int sizeIndex READ sizeIndex WRITE setSizeIndex NOTIFY sizeIndexChanged)
+    int sizeIndex() const { return m_sizeIndex; }
+    void setSizeIndex(int index);
+    Q_SIGNAL void sizeIndexChanged();
+
+    /// The labels of BenchmarkSize::presets.
+    Q_PROPERTY(QStringList sizeLabels READ sizeLabels CONSTANT)
+    static QStringList sizeLabels();
+
+    /// The chosen size fills the disk, which the views ask about before a run.
+    Q_PROPERTY(bool isFillDisk READ isFillDisk NOTIFY sizeIndexChanged)
+    bool isFillDisk() const;
+
+    /// Raw values of the tests to run, in the order of the tests.
+    Q_PROPERTY(QStringList selectedTests READ selectedTestNames NOTIFY selectedTestsChanged)
+    const std::set<OndelCore::benchmark::BenchmarkTest>& selectedTests() const { return m_selectedTests; }
+    QStringList selectedTestNames() const;
+    void setSelectedTests(std::set<OndelCore::benchmark::BenchmarkTest> tests);
+    /// Fails: a name that is no test's raw value is a programming fault and stops the process.
+    Q_INVOKABLE void setTestSelected(const QString& test, bool selected);
+    Q_SIGNAL void selectedTestsChanged();
+
+    /// Raw values of all tests, in their order. testTitles and sidebarValues go along with it.
+    Q_PROPERTY(QStringList tests READ testNames CONSTANT)
+    static QStringList testNames();
+    Q_PROPERTY(QStringList testTitles READ testTitles NOTIFY randomBlockChanged)
+    QStringList testTitles() const;
+
+    /// Block sizes. Units: bytes.
+    Q_PROPERTY(double writeBlock READ writeBlockNumber WRITE setWriteBlockNumber NOTIFY writeBlockChanged)
+    std::int64_t writeBlock() const { return m_writeBlock; }
+    void setWriteBlock(std::int64_t bytes);
+    Q_SIGNAL void writeBlockChanged();
+    Q_PROPERTY(double readBlock READ readBlockNumber WRITE setReadBlockNumber NOTIFY readBlockChanged)
+    std::int64_t readBlock() const { return m_readBlock; }
+    void setReadBlock(std::int64_t bytes);
+    Q_SIGNAL void readBlockChanged();
+    Q_PROPERTY(double randomBlock READ randomBlockNumber WRITE setRandomBlockNumber NOTIFY randomBlockChanged)
+    std::int64_t randomBlock() const { return m_randomBlock; }
+    void setRandomBlock(std::int64_t bytes);
+    Q_SIGNAL void randomBlockChanged();
+
+    /// Ask the system to keep the data file out of its cache.
+    Q_PROPERTY(bool bypassCache READ bypassCache WRITE setBypassCache NOTIFY bypassCacheChanged)
+    bool bypassCache() const { return m_bypassCache; }
+    void setBypassCache(bool bypass);
+    Q_SIGNAL void bypassCacheChanged();
+
+    // --- Run
+    // --------------------------------------------------------------------------------------------------
+
+    Q_PROPERTY(TarnwickKit::model::AnalyzerModel::Phase phase READ phase NOTIFY phaseChanged)
+    Phase phase() const { return m_phase; }
+    /// One sentence for people; empty unless `phase` is Failed.
+    Q_PROPERTY(QString failureMessage READ failureMessage NOTIFY phaseChanged)
+    const QString& failureMessage() const { return m_failureMessage; }
+    Q_PROPERTY(bool isRunning READ isRunning NOTIFY phaseChanged)
+    bool isRunning() const { return m_phase == Phase::Running; }
+    Q_SIGNAL void phaseChanged();
+
+    /// A target and a test are chosen, and no run goes on.
+    Q_PROPERTY(bool canRun READ canRun NOTIFY canRunChanged)
+    bool canRun() const;
+    Q_SIGNAL void canRunChanged();
+
+    /// The test now running. It stays after a run that was cancelled or failed.
+    Q_PROPERTY(QString liveTest READ liveTestName NOTIFY liveTestChanged)
+    std::optional<OndelCore::benchmark::BenchmarkTest> liveTest() const { return m_liveTest; }
+    QString liveTestName() const;
+    Q_PROPERTY(QString liveTestTitle READ liveTestTitle NOTIFY liveTestTitleChanged)
+    QString liveTestTitle() const;
+    Q_SIGNAL void liveTestChanged();
+    Q_SIGNAL void liveTestTitleChanged();
+
+    /// The samples of the current test, at most maxLiveSamples: halved in density when one more comes.
+    Q_PROPERTY(int liveSampleCount READ liveSampleCount NOTIFY liveSamplesChanged)
+    const std::vector<OndelCore::benchmark::ThroughputSample>& liveSamples() const { return m_liveSamples; }
+    int liveSampleCount() const { return static_cast<int>(m_liveSamples.size()); }
+    Q_SIGNAL void liveSamplesChanged();
+    static constexpr std::size_t maxLiveSamples = 2000;
+
+    /// Progress of the current test, in the counts of BenchmarkProgress.
+    Q_PROPERTY(double completedBytes READ completedBytesNumber NOTIFY progressChanged)
+    std::int64_t completedBytes() const { return m_completedBytes; }
+    Q_PROPERTY(double totalBytes READ totalBytesNumber NOTIFY progressChanged)
+    std::int64_t totalBytes() const { return m_totalBytes; }
+    Q_SIGNAL void progressChanged();
+
+    /// What the last finished run since launch brought.
+    Q_PROPERTY(bool hasResult READ hasResult NOTIFY resultChanged)
+    const std::optional<OndelCore::benchmark::BenchmarkResult>& result() const { return m_result; }
+    bool hasResult() const { return m_result.has_value(); }
+    Q_SIGNAL void resultChanged();
+
+    /// The plan for the present settings.
+    OndelCore::benchmark::BenchmarkPlan makePlan() const;
+
+    /// Begins a run. Does nothing without a target, or while a run goes on; it does not look at canRun.
+    Q_INVOKABLE void start();
+    /// Asks the run to end. The phase stays Running until the engine has cleaned up, then it is Idle.
+    Q_INVOKABLE void cancel();
+    /// Cancels; the future finishes on this thread once the run has ended, at once if none goes on.
+    QFuture<void> cancelAndWait();
+
+    /// Takes one progress event.
+    void apply(const OndelCore::benchmark::BenchmarkProgress& progress);
+
+    /// The figure that a test's sidebar row shows for `result`.
+    std::optional<QString> sidebarValue(OndelCore::benchmark::BenchmarkTest test) const;
+    /// The same for all tests in their order, "" where there is none.
+    Q_PROPERTY(QStringList sidebarValues READ sidebarValues NOTIFY resultChanged)
+    QStringList sidebarValues() const;
+
+    /// The sentence for people about a run that failed.
+    static QString describe(const std::exception& error);
+
+private:
+    struct Changes;
+    struct Run;
+
+    // The properties' views of the 64-bit numbers.
+    double writeBlockNumber() const { return static_cast<double>(m_writeBlock); }
+    double readBlockNumber() const { return static_cast<double>(m_readBlock); }
+    double randomBlockNumber() const { return static_cast<double>(m_randomBlock); }
+    double completedBytesNumber() const { return static_cast<double>(m_completedBytes); }
+    double totalBytesNumber() const { return static_cast<double>(m_totalBytes); }
+    void setWriteBlockNumber(double bytes) { setWriteBlock(static_cast<std::int64_t>(bytes)); }
+    void setReadBlockNumber(double bytes) { setReadBlock(static_cast<std::int64_t>(bytes)); }
+    void setRandomBlockNumber(double bytes) { setRandomBlock(static_cast<std::int64_t>(bytes)); }
+
+    void sweepOrphans(const std::filesystem::path& folder);
+    void setPhase(Phase phase, const QString& failureMessage = {});
+    void setLiveTest(std::optional<OndelCore::benchmark::BenchmarkTest> test);
+    void setResult(std::optional<OndelCore::benchmark::BenchmarkResult> result);
+    void clearLiveSamples();
+    void setProgress(std::int64_t completed, std::int64_t total);
+    void announceCanRun();
+
+    Changes take(const OndelCore::benchmark::BenchmarkProgress& progress);
+    void announce(const Changes& changes);
+    void launch();
+    void engineEnded();
+    void endRun(const std::function<void()>& settle);
+    void finish(OndelCore::benchmark::BenchmarkResult result);
+    void fail(const std::exception& error);
+
+    AnalyzerServices m_services;
+
+    std::optional<std::filesystem::path> m_targetFolder;
+    int m_sizeIndex = 1;
+    std::set<OndelCore::benchmark::BenchmarkTest> m_selectedTests;
+    std::int64_t m_writeBlock = 1048576;
+    std::int64_t m_readBlock = 1048576;
+    std::int64_t m_randomBlock = 4096;
+    bool m_bypassCache = true;
+
+    Phase m_phase = Phase::Idle;
+    QString m_failureMessage;
+    std::optional<OndelCore::benchmark::BenchmarkTest> m_liveTest;
+    std::vector<OndelCore::benchmark::ThroughputSample> m_liveSamples;
+    std::int64_t m_completedBytes = 0;
+    std::int64_t m_totalBytes = 0;
+    std::optional<OndelCore::benchmark::BenchmarkResult> m_result;
+    QDateTime m_runStart;
+    bool m_couldRun = false;
+
+    /// Sweeps under way by folder. A run waits for its folder's, which would else take the run's own files.
+    std::map<std::filesystem::path, QFuture<void>> m_sweeps;
+    std::shared_ptr<Run> m_run;
+};
+
+} // namespace TarnwickKit::model

@@ -1,0 +1,206 @@
+// The life of one run: starting it, feeding the live display, cancelling, and what the end does.
+
+#include "OndelCore/benchmark/BenchmarkError.h"
+#include "TarnwickKit/model/AnalyzerRun.h"
+
+#include <utility>
+
+namespace TarnwickKit::model {
+
+using OndelCore::benchmark::BenchmarkPlan;
+using OndelCore::benchmark::BenchmarkProgress;
+using OndelCore::benchmark::BenchmarkResult;
+using OndelCore::benchmark::BenchmarkTest;
+using OndelCore::benchmark::Cancelled;
+
+namespace {
+
+/// The engine's answer. Fails: throws what the engine threw, Cancelled if there is neither.
+BenchmarkResult answer(QFuture<BenchmarkResult> future) {
+    future.waitForFinished();
+    if (future.resultCount() == 0)
+        throw Cancelled();
+    return future.result();
+}
+
+} // namespace
+
+AnalyzerModel::Run::Run(AnalyzerModel& model, BenchmarkPlan runPlan, std::filesystem::path runTarget)
+    : plan(std::move(runPlan))
+    , target(std::move(runTarget))
+    , stream([&model](const ProgressStream::Batch& batch) {
+        Changes changes;
+        for (const BenchmarkProgress& progress : batch)
+            changes |= model.take(progress);
+        model.announce(changes);
+    }) {
+    ended.start();
+}
+
+AnalyzerModel::~AnalyzerModel() {
+    if (!m_run || m_run->hasEnded)
+        return;
+    m_run->stream.cancel();
+    m_run->stop.request_stop();
+    try {
+        m_run->engine.waitForFinished();
+    } catch (...) {
+        // However the run ended: nobody is left to be told.
+    }
+    m_run->ended.finish();
+}
+
+void AnalyzerModel::start() {
+    // Two runs at once would measure each other.
+    if (!m_targetFolder || isRunning())
+        return;
+    auto run = std::make_shared<Run>(*this, makePlan(), *m_targetFolder);
+    setPhase(Phase::Running);
+    setResult(std::nullopt);
+    clearLiveSamples();
+    setLiveTest(std::nullopt);
+    setProgress(0, 0);
+    m_runStart = m_services.now();
+    m_run = run;
+
+    connect(&run->sweep, &QFutureWatcher<void>::finished, this, &AnalyzerModel::launch);
+    connect(&run->engine, &QFutureWatcher<BenchmarkResult>::finished, this, &AnalyzerModel::engineEnded);
+    const auto sweep = m_sweeps.find(run->target);
+    if (sweep == m_sweeps.end() || sweep->second.isFinished())
+        launch();
+    else
+        run->sweep.setFuture(sweep->second);
+}
+
+void AnalyzerModel::launch() {
+    if (m_run->hasEnded)
+        return;
+    m_run->launched = true;
+    try {
+        m_run->engine.setFuture(m_services.runBenchmark(m_run->plan, m_run->target, m_run->stream.sender(),
+                                                        m_run->stop.get_token()));
+    } catch (const std::exception& error) {
+        endRun([&] { fail(error); });
+    }
+}
+
+void AnalyzerModel::cancel() {
+    if (!m_run || m_run->hasEnded)
+        return;
+    m_run->stop.request_stop();
+    if (!m_run->launched)
+        endRun([this] { fail(Cancelled()); });
+}
+
+QFuture<void> AnalyzerModel::cancelAndWait() {
+    if (!m_run)
+        return QtFuture::makeReadyFuture();
+    cancel();
+    return m_run->ended.future();
+}
+
+void AnalyzerModel::engineEnded() {
+    std::optional<BenchmarkResult> result;
+    try {
+        result = answer(m_run->engine.future());
+    } catch (const std::exception& error) {
+        endRun([&] { fail(error); });
+        return;
+    }
+    endRun([&] { finish(std::move(*result)); });
+}
+
+/// A view may begin the next run as soon as the phase allows it: this one is held until its own end is
+/// through.
+void AnalyzerModel::endRun(const std::function<void()>& settle) {
+    const std::shared_ptr<Run> run = m_run;
+    run->hasEnded = true;
+    settle();
+    run->stream.cancel();
+    run->ended.finish();
+}
+
+void AnalyzerModel::finish(BenchmarkResult result) {
+    setResult(std::move(result));
+    setPhase(Phase::Done);
+    setLiveTest(std::nullopt);
+}
+
+void AnalyzerModel::fail(const std::exception& error) {
+    if (dynamic_cast<const Cancelled*>(&error))
+        setPhase(Phase::Idle);
+    else
+        setPhase(Phase::Failed, describe(error));
+}
+
+void AnalyzerModel::apply(const BenchmarkProgress& progress) { announce(take(progress)); }
+
+AnalyzerModel::Changes AnalyzerModel::take(const BenchmarkProgress& progress) {
+    Changes changes;
+    if (m_liveTest != progress.test) {
+        m_liveTest = progress.test;
+        m_liveSamples.clear();
+        changes.liveTest = changes.liveSamples = true;
+    }
+    m_completedBytes = progress.completedBytes;
+    m_totalBytes = progress.totalBytes;
+    changes.progress = true;
+    if (progress.instantBytesPerSecond > 0) {
+        m_liveSamples.push_back({progress.elapsed, progress.instantBytesPerSecond});
+        changes.liveSamples = true;
+    }
+    if (m_liveSamples.size() > maxLiveSamples) {
+        std::size_t kept = 0;
+        for (std::size_t index = 0; index < m_liveSamples.size(); index += 2)
+            m_liveSamples[kept++] = m_liveSamples[index];
+        m_liveSamples.resize(kept);
+    }
+    return changes;
+}
+
+void AnalyzerModel::announce(const Changes& changes) {
+    if (changes.liveTest) {
+        Q_EMIT liveTestChanged();
+        Q_EMIT liveTestTitleChanged();
+    }
+    if (changes.liveSamples)
+        Q_EMIT liveSamplesChanged();
+    if (changes.progress)
+        Q_EMIT progressChanged();
+}
+
+void AnalyzerModel::setPhase(Phase phase, const QString& failureMessage) {
+    if (m_phase == phase && m_failureMessage == failureMessage)
+        return;
+    m_phase = phase;
+    m_failureMessage = failureMessage;
+    Q_EMIT phaseChanged();
+    announceCanRun();
+}
+
+void AnalyzerModel::setLiveTest(std::optional<BenchmarkTest> test) {
+    announce({.liveTest = std::exchange(m_liveTest, test) != test});
+}
+
+void AnalyzerModel::setResult(std::optional<BenchmarkResult> result) {
+    if (m_result == result)
+        return;
+    m_result = std::move(result);
+    Q_EMIT resultChanged();
+}
+
+void AnalyzerModel::clearLiveSamples() {
+    if (m_liveSamples.empty())
+        return;
+    m_liveSamples.clear();
+    Q_EMIT liveSamplesChanged();
+}
+
+void AnalyzerModel::setProgress(std::int64_t completed, std::int64_t total) {
+    const bool changed = m_completedBytes != completed || m_totalBytes != total;
+    m_completedBytes = completed;
+    m_totalBytes = total;
+    announce({.progress = changed});
+}
+
+} // namespace TarnwickKit::model

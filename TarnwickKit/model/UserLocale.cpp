@@ -1,0 +1,44 @@
+#include "TarnwickKit/model/UserLocale.h"
+
+#include <unicode/locid.h>
+
+#include <cstdlib>
+
+namespace TarnwickKit::model {
+
+namespace {
+
+constexpr const char* fallbackName = "en_US";
+
+std::string posixLocale(const char* category) {
+    for (const char* variable : {"LC_ALL", category, "LANG"}) {
+        const char* value = std::getenv(variable);
+        if (value && *value)
+            return value;
+    }
+    return {};
+}
+
+} // namespace
+
+std::string icuLocaleName(const std::string& posixName) {
+    // Codeset and modifier say nothing that the marks of numbers and dates depend on, but for the script.
+    const std::string base = posixName.substr(0, posixName.find_first_of(".@"));
+    if (base.empty() || base == "C" || base == "POSIX")
+        return fallbackName;
+    const std::string script = posixName.ends_with("@latin") ? "_Latn" : "";
+    const std::size_t country = base.find('_');
+    const std::string name = country == std::string::npos
+                                 ? base + script
+                                 : base.substr(0, country) + script + base.substr(country);
+    const icu::Locale locale = icu::Locale::createCanonical(name.c_str());
+    if (locale.isBogus() || !*locale.getLanguage())
+        return fallbackName;
+    return locale.getName();
+}
+
+UserLocale UserLocale::fromEnvironment() {
+    return {icuLocaleName(posixLocale("LC_NUMERIC")), icuLocaleName(posixLocale("LC_TIME"))};
+}
+
+} // namespace TarnwickKit::model
