@@ -1,0 +1,12 @@
+#include "examples/host/Command.h"
+
+#include <array>
+
+namespace examples::host {
+
+std::span<const Command* const> commands() {
+    static constexpr std::array all{&runCommand};
+    return all;
+}
+
+} // namespace examples::host

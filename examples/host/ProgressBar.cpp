@@ -1,0 +1,71 @@
+#include "examples/host/ProgressBar.h"
+
+#include "examples/host/ProgressLine.h"
+
+#include <langinfo.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <string_view>
+
+using namespace OndelCore::benchmark;
+
+namespace examples::host {
+
+namespace {
+
+/// One less than the terminal has: a character in the last column would wrap the line in some.
+int usableColumns() {
+    winsize size{};
+    if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
+        return 79;
+    return size.ws_col - 1;
+}
+
+void replaceLine(const QString& line) {
+    pollfd terminal{.fd = STDERR_FILENO, .events = POLLOUT, .revents = 0};
+    if (poll(&terminal, 1, 0) != 1 || !(terminal.revents & POLLOUT))
+        return;
+    const QByteArray text = "\r" + line.toUtf8() + "\x1b[K";
+    [[maybe_unused]] const ssize_t ignored =
+        write(STDERR_FILENO, text.constData(), static_cast<std::size_t>(text.size()));
+}
+
+} // namespace
+
+bool ProgressBar::isPossible() {
+    const char* const terminal = std::getenv("TERM");
+    return isatty(STDERR_FILENO) && !(terminal && std::string_view(terminal) == "dumb");
+}
+
+ProgressBar::ProgressBar(BenchmarkPlan plan)
+    : m_plan(std::move(plan))
+    , m_unicode(std::string_view(nl_langinfo(CODESET)) == "UTF-8") {}
+
+ProgressBar::~ProgressBar() { replaceLine({}); }
+
+void ProgressBar::note(const BenchmarkProgress& progress) {
+    const std::lock_guard guard(m_lock);
+    m_latest = progress;
+}
+
+void ProgressBar::draw(bool stopping) {
+    const LineStyle style{.columns = usableColumns(), .unicode = m_unicode};
+    const auto shown = [&](const QString& text) { replaceLine(text.left(style.columns)); };
+    if (stopping)
+        return shown("Stopping, removing the test files");
+
+    std::unique_lock guard(m_lock);
+    const auto latest = m_latest;
+    guard.unlock();
+    if (latest)
+        return replaceLine(progressLine(*latest, m_plan, style));
+    const auto waited = std::chrono::floor<std::chrono::seconds>(std::chrono::steady_clock::now() - m_start);
+    const bool writesFirst = m_plan.tests.contains(BenchmarkTest::sequentialWrite);
+    shown((writesFirst ? "Starting, " : "Preparing the test file, ") + QString::number(waited.count()) +
+          " s");
+}
+
+} // namespace examples::host
