@@ -7,7 +7,6 @@
 #include <QFuture>
 
 #include <filesystem>
-#include <functional>
 #include <stop_token>
 
 namespace OndelCore::benchmark {
@@ -19,7 +18,7 @@ namespace OndelCore::benchmark {
 /// runs.
 class BenchmarkEngine {
 public:
-    using Progress = std::function<void(const BenchmarkProgress&)>;
+    using Progress = ProgressListener;
 
     /// Starts a run and returns at once.
     ///
@@ -30,7 +29,7 @@ public:
     ///
     /// Threads: any; needs no event loop. The future finishes on the worker, after the working folder is
     /// gone. Fails: the future throws BenchmarkError, Cancelled, or std::system_error when the working folder
-    /// cannot be made.
+    /// cannot be made; a negative count in the plan stops the process.
     QFuture<BenchmarkResult> run(BenchmarkPlan plan, std::filesystem::path folder, Progress progress,
                                  std::stop_token stop = {}) const;
 

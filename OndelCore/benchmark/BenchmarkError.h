@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/benchmark/Hashing.h"
+
 #include <cstdint>
 #include <exception>
 #include <string>
@@ -15,17 +17,21 @@ public:
         std::int64_t needed = 0;
         std::int64_t available = 0;
         bool operator==(const InsufficientSpace&) const = default;
+        std::size_t hash() const { return hashFields(needed, available); }
     };
     /// `text`: a prefix that names the failed call ("write: "), then the system's wording.
     struct Io {
         std::string text;
         bool operator==(const Io&) const = default;
+        std::size_t hash() const { return hashFields(text); }
     };
     struct NotWritable {
         bool operator==(const NotWritable&) const = default;
+        std::size_t hash() const { return hashFields(); }
     };
     struct FileTooSmallForRandom {
         bool operator==(const FileTooSmallForRandom&) const = default;
+        std::size_t hash() const { return hashFields(); }
     };
     using Cause = std::variant<InsufficientSpace, Io, NotWritable, FileTooSmallForRandom>;
 
@@ -35,6 +41,7 @@ public:
     const char* what() const noexcept override { return m_what.c_str(); }
 
     bool operator==(const BenchmarkError& other) const { return m_cause == other.m_cause; }
+    std::size_t hash() const { return hashFields(m_cause); }
 
 private:
     Cause m_cause;

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "OndelCore/benchmark/BenchmarkTest.h"
+#include "OndelCore/benchmark/Hashing.h"
 
 #include <cstdint>
+#include <limits>
 #include <set>
 #include <string_view>
 #include <variant>
@@ -17,11 +19,13 @@ public:
     struct Fixed {
         std::int64_t bytes = 0;
         bool operator==(const Fixed&) const = default;
+        std::size_t hash() const { return hashFields(bytes); }
     };
     /// The data file grows until the volume has only `leaveFree` bytes left.
     struct FillDisk {
         std::int64_t leaveFree = 0;
         bool operator==(const FillDisk&) const = default;
+        std::size_t hash() const { return hashFields(leaveFree); }
     };
     struct Preset;
 
@@ -40,6 +44,7 @@ public:
     constexpr const FillDisk* asFillDisk() const { return std::get_if<FillDisk>(&m_value); }
 
     bool operator==(const BenchmarkSize&) const = default;
+    std::size_t hash() const { return hashFields(m_value); }
 
 private:
     constexpr explicit BenchmarkSize(std::variant<Fixed, FillDisk> value)
@@ -52,7 +57,7 @@ struct BenchmarkSize::Preset {
     BenchmarkSize size;
 };
 
-/// What a run is asked to do. Any values are accepted: block sizes become whole pages by `alignedBlock`.
+/// What a run is asked to do. Any block sizes are accepted: they become whole pages by `alignedBlock`.
 struct BenchmarkPlan {
     /// Every transfer is a multiple of this. Units: bytes.
     static constexpr std::int64_t page = 4096;
@@ -75,12 +80,23 @@ struct BenchmarkPlan {
     /// Least distance of two throughput samples. Units: seconds.
     double sampleInterval = 0.1;
 
-    /// `size` rounded up to whole pages, at least one: 0 and -5 give 4096, 5000 gives 8192.
+    /// The plan with every field at its default.
+    static const BenchmarkPlan& defaultPlan();
+
+    /// `size` rounded up to whole pages, at least one: 0 and -5 give 4096, 5000 gives 8192. What the largest
+    /// number of bytes cannot be rounded up to is rounded down.
     static constexpr std::int64_t alignedBlock(std::int64_t size) {
-        return size <= page ? page : (size - 1) / page * page + page;
+        constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max() / page * page;
+        if (size <= page)
+            return page;
+        return size > largest ? largest : (size - 1) / page * page + page;
     }
 
     bool operator==(const BenchmarkPlan&) const = default;
+    std::size_t hash() const {
+        return hashFields(tests, size, writeBlockSize, readBlockSize, randomBlockSize, randomOpCount,
+                          fileOpCount, bypassCache, sampleInterval);
+    }
 };
 
 } // namespace OndelCore::benchmark

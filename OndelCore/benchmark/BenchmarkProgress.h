@@ -1,8 +1,10 @@
 #pragma once
 
 #include "OndelCore/benchmark/BenchmarkTest.h"
+#include "OndelCore/benchmark/Hashing.h"
 
 #include <cstdint>
+#include <functional>
 
 namespace OndelCore::benchmark {
 
@@ -19,6 +21,12 @@ struct BenchmarkProgress {
     double elapsed = 0;               ///< seconds since this test's measuring began
 
     bool operator==(const BenchmarkProgress&) const = default;
+    std::size_t hash() const {
+        return hashFields(test, completedBytes, totalBytes, instantBytesPerSecond, elapsed);
+    }
 };
+
+/// Hears how a run goes on; called on the worker, from inside the measured loops.
+using ProgressListener = std::function<void(const BenchmarkProgress&)>;
 
 } // namespace OndelCore::benchmark

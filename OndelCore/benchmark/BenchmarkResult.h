@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/benchmark/Hashing.h"
+
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -12,6 +14,7 @@ struct ThroughputSample {
     double bytesPerSecond = 0; ///< over this interval alone
 
     bool operator==(const ThroughputSample&) const = default;
+    std::size_t hash() const { return hashFields(elapsed, bytesPerSecond); }
 };
 
 /// A sequential test as measured, with the figures derived from it.
@@ -31,6 +34,7 @@ struct ThroughputResult {
     bool observedCacheCliff() const;
 
     bool operator==(const ThroughputResult&) const = default;
+    std::size_t hash() const { return hashFields(bytesProcessed, duration, blockSize, samples); }
 };
 
 /// A random test as measured, one operation outstanding at a time.
@@ -43,6 +47,7 @@ struct IOPSResult {
     double bytesPerSecond() const; ///< blockSize times iops
 
     bool operator==(const IOPSResult&) const = default;
+    std::size_t hash() const { return hashFields(operations, duration, blockSize); }
 };
 
 /// One phase of the file-operations test.
@@ -53,6 +58,7 @@ struct FileOpResult {
     double opsPerSecond() const; ///< 0 without a duration
 
     bool operator==(const FileOpResult&) const = default;
+    std::size_t hash() const { return hashFields(operations, duration); }
 };
 
 struct FileOpsResult {
@@ -62,6 +68,7 @@ struct FileOpsResult {
     FileOpResult remove; ///< the phase "delete", a word that the language keeps for itself
 
     bool operator==(const FileOpsResult&) const = default;
+    std::size_t hash() const { return hashFields(create, stat, rename, remove); }
 };
 
 /// What a run brought; a test that was not asked for is absent.
@@ -73,6 +80,9 @@ struct BenchmarkResult {
     std::optional<FileOpsResult> fileOps;
 
     bool operator==(const BenchmarkResult&) const = default;
+    std::size_t hash() const {
+        return hashFields(sequentialWrite, sequentialRead, randomRead, randomWrite, fileOps);
+    }
 };
 
 } // namespace OndelCore::benchmark

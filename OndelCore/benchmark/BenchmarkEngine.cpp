@@ -1,0 +1,43 @@
+#include "OndelCore/benchmark/BenchmarkEngine.h"
+
+#include "OndelCore/benchmark/Runner.h"
+#include "OndelCore/benchmark/WorkingFolder.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace OndelCore::benchmark {
+
+namespace {
+
+/// Before anything is written, so that the process leaves nothing behind when it stops here.
+void stopAtNegativeCounts(const BenchmarkPlan& plan) {
+    const bool random =
+        plan.tests.contains(BenchmarkTest::randomRead) || plan.tests.contains(BenchmarkTest::randomWrite);
+    const bool files = plan.tests.contains(BenchmarkTest::fileOps);
+    if ((random && plan.randomOpCount < 0) || (files && plan.fileOpCount < 0)) {
+        std::fputs("BenchmarkPlan: a negative count of operations or files\n", stderr);
+        std::abort();
+    }
+}
+
+} // namespace
+
+QFuture<BenchmarkResult> BenchmarkEngine::run(BenchmarkPlan plan, std::filesystem::path folder,
+                                              Progress progress, std::stop_token stop) const {
+    stopAtNegativeCounts(plan);
+    if (!progress)
+        progress = [](const BenchmarkProgress&) {};
+    return runBlocking(
+        [plan = std::move(plan), folder = std::move(folder),
+         progress = std::move(progress)](const CancelFlag& flag) {
+            return runInFolder(EngineEnvironment{}, plan, folder, flag, progress);
+        },
+        std::move(stop));
+}
+
+void BenchmarkEngine::cleanupOrphans(const std::filesystem::path& folder) {
+    WorkingFolder::removeAllIn(folder);
+}
+
+} // namespace OndelCore::benchmark

@@ -1,0 +1,25 @@
+#include "OndelCore/benchmark/BenchmarkError.h"
+
+namespace OndelCore::benchmark {
+
+namespace {
+
+struct Wording {
+    std::string operator()(const BenchmarkError::InsufficientSpace& space) const {
+        return "insufficient space: " + std::to_string(space.needed) + " bytes needed, " +
+               std::to_string(space.available) + " available";
+    }
+    std::string operator()(const BenchmarkError::Io& io) const { return io.text; }
+    std::string operator()(const BenchmarkError::NotWritable&) const { return "not writable"; }
+    std::string operator()(const BenchmarkError::FileTooSmallForRandom&) const {
+        return "file too small for a random block";
+    }
+};
+
+} // namespace
+
+BenchmarkError::BenchmarkError(Cause cause)
+    : m_cause(std::move(cause))
+    , m_what(std::visit(Wording{}, m_cause)) {}
+
+} // namespace OndelCore::benchmark

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "OndelCore/benchmark/TestRun.h"
+#include "OndelCore/platform/CacheBypass.h"
+#include "OndelCore/platform/FileDescriptor.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace OndelCore::benchmark {
+
+/// Memory for one block, aligned to pages as direct transfers require.
+class BlockBuffer {
+public:
+    /// Fails: throws std::bad_alloc.
+    explicit BlockBuffer(std::int64_t blockSize);
+
+    /// Written blocks hold random bytes: a drive that compresses or drops zeros gains nothing by them.
+    void fillWithRandomBytes();
+
+    /// The first `length` bytes. Units: bytes.
+    std::span<std::byte> first(std::int64_t length) const {
+        return {m_bytes.get(), static_cast<std::size_t>(length)};
+    }
+
+private:
+    struct Free {
+        void operator()(std::byte* bytes) const { std::free(bytes); }
+    };
+    std::unique_ptr<std::byte, Free> m_bytes;
+    std::size_t m_size;
+};
+
+/// The data file, opened for one test and closed with the object.
+///
+/// The transfers answer as the system calls of their names do: bytes moved, or negative with errno set. One
+/// that a signal broke off is made again, unless the run has been cancelled meanwhile.
+class DataFile {
+public:
+    /// `openFlags`: of open(2). Fails: throws BenchmarkError with `failurePrefix`.
+    DataFile(const TestRun& run, int openFlags, std::string_view failurePrefix);
+
+    /// 0 when the system does not tell. Units: bytes.
+    std::int64_t length() const;
+
+    ssize_t read(std::span<std::byte> bytes) const {
+        return transfer([&] { return m_run.system.read(m_file.get(), bytes.data(), bytes.size()); });
+    }
+    ssize_t write(std::span<const std::byte> bytes) const {
+        return transfer([&] { return m_run.system.write(m_file.get(), bytes.data(), bytes.size()); });
+    }
+    ssize_t readAt(std::int64_t offset, std::span<std::byte> bytes) const {
+        return transfer([&] { return m_run.system.pread(m_file.get(), bytes.data(), bytes.size(), offset); });
+    }
+    ssize_t writeAt(std::int64_t offset, std::span<const std::byte> bytes) const {
+        return transfer(
+            [&] { return m_run.system.pwrite(m_file.get(), bytes.data(), bytes.size(), offset); });
+    }
+
+    /// Returns when the medium holds the data. Fails: silently.
+    void flush() const { m_run.system.flushToMedium(m_file.get()); }
+
+private:
+    template <class Call>
+    ssize_t transfer(Call call) const {
+        for (;;) {
+            const ssize_t moved = m_cacheBypass.perform(call);
+            if (moved >= 0 || errno != EINTR) [[likely]]
+                return moved;
+            m_run.throwIfCancelled();
+        }
+    }
+
+    const TestRun& m_run;
+    platform::FileDescriptor m_file;
+    platform::CacheBypass m_cacheBypass;
+};
+
+} // namespace OndelCore::benchmark

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "OndelCore/platform/Clock.h"
+#include "OndelCore/platform/Storage.h"
+
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+namespace OndelCore::benchmark {
+
+/// What a run asks of the machine while it measures. The defaults are the machine; a test bends what it
+/// needs. The four transfers answer as the system calls of their names do.
+struct EngineEnvironment {
+    std::function<std::int64_t()> monotonicNanoseconds = platform::monotonicNanoseconds;
+    std::function<std::optional<std::int64_t>(const std::filesystem::path&)> freeBytes = platform::freeBytes;
+    std::function<ssize_t(int, void*, std::size_t)> read = ::read;
+    std::function<ssize_t(int, const void*, std::size_t)> write = ::write;
+    std::function<ssize_t(int, void*, std::size_t, off_t)> pread = ::pread;
+    std::function<ssize_t(int, const void*, std::size_t, off_t)> pwrite = ::pwrite;
+    std::function<void(int)> flushToMedium = platform::flushToMedium;
+};
+
+} // namespace OndelCore::benchmark

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/benchmark/TestRun.h"
+
+#include <cstdint>
+#include <filesystem>
+
+namespace OndelCore::benchmark {
+
+/// Makes `count` empty files in the new folder `dir`, looks each one up, renames each one and deletes each
+/// one, and times the four phases apart. Nothing is flushed: the figures are those of the file system's
+/// metadata path as its cache shows it. `dir` stays, empty.
+///
+/// Blocks; ends with Cancelled before the next operation once the run's flag is set. Fails: throws
+/// BenchmarkError::Io when making, renaming or deleting fails, std::filesystem::filesystem_error when `dir`
+/// cannot be made. What was made by then stays.
+FileOpsResult fileOps(const TestRun& run, const std::filesystem::path& dir, std::int64_t count);
+
+} // namespace OndelCore::benchmark

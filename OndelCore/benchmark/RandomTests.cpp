@@ -1,0 +1,90 @@
+#include "OndelCore/benchmark/RandomTests.h"
+
+#include "OndelCore/benchmark/DataFile.h"
+#include "OndelCore/benchmark/SaturatingMath.h"
+#include "OndelCore/platform/Random.h"
+
+#include <fcntl.h>
+
+namespace OndelCore::benchmark {
+
+IndexDraw::IndexDraw(std::function<void(void*, std::size_t)> fillRandom)
+    : m_fillRandom(std::move(fillRandom)) {}
+
+std::uint64_t IndexDraw::nextBits() {
+    if (m_used == m_bits.size()) {
+        m_fillRandom(m_bits.data(), sizeof m_bits);
+        m_used = 0;
+    }
+    return m_bits[m_used++];
+}
+
+// Multiply and reject: D. Lemire, "Fast Random Integer Generation in an Interval", 2019. The high half of the
+// product is the answer; the low half tells the few draws that would favour some answers.
+std::uint64_t IndexDraw::below(std::uint64_t count) {
+    __extension__ using Product = unsigned __int128;
+    Product product = Product{nextBits()} * count;
+    if (static_cast<std::uint64_t>(product) < count) {
+        const std::uint64_t threshold = -count % count; // 2^64 modulo count
+        while (static_cast<std::uint64_t>(product) < threshold)
+            product = Product{nextBits()} * count;
+    }
+    return static_cast<std::uint64_t>(product >> 64);
+}
+
+namespace {
+
+/// What the two tests differ in.
+struct RandomTest {
+    BenchmarkTest test;
+    int openFlags;
+    std::string_view failurePrefix;
+    bool writes;
+};
+
+IOPSResult measure(const TestRun& run, const RandomTest& kind) {
+    const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.randomBlockSize);
+    const std::int64_t count = run.plan.randomOpCount;
+    const DataFile file(run, kind.openFlags, "open(random): ");
+    const std::int64_t blocks = file.length() / block;
+    if (blocks <= 0)
+        throw BenchmarkError(BenchmarkError::FileTooSmallForRandom{});
+    BlockBuffer buffer(block);
+    if (kind.writes)
+        buffer.fillWithRandomBytes();
+    const auto bytes = buffer.first(block);
+    IndexDraw draw(platform::fillRandom);
+    const auto report = [&](std::int64_t operations, double elapsed) {
+        run.progress(
+            {kind.test, saturatingMultiply(operations, block), saturatingMultiply(count, block), 0, elapsed});
+    };
+
+    const double start = run.now();
+    for (std::int64_t i = 0; i < count; ++i) {
+        run.throwIfCancelled();
+        const auto index = static_cast<std::int64_t>(draw.below(static_cast<std::uint64_t>(blocks)));
+        const std::int64_t offset = index * block;
+        const ssize_t moved = kind.writes ? file.writeAt(offset, bytes) : file.readAt(offset, bytes);
+        if (moved < 0)
+            throw ioError(kind.failurePrefix, errno);
+        if (i % 512 == 0)
+            report(i + 1, run.now() - start);
+    }
+    if (kind.writes)
+        file.flush();
+    const double duration = run.now() - start;
+    report(count, duration);
+    return {count, duration, block};
+}
+
+} // namespace
+
+IOPSResult randomRead(const TestRun& run) {
+    return measure(run, {BenchmarkTest::randomRead, O_RDONLY, "pread: ", false});
+}
+
+IOPSResult randomWrite(const TestRun& run) {
+    return measure(run, {BenchmarkTest::randomWrite, O_RDWR, "pwrite: ", true});
+}
+
+} // namespace OndelCore::benchmark

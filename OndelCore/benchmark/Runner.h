@@ -1,0 +1,80 @@
+#pragma once
+
+#include "OndelCore/benchmark/BenchmarkPlan.h"
+#include "OndelCore/benchmark/BenchmarkProgress.h"
+#include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/benchmark/CancelFlag.h"
+#include "OndelCore/benchmark/EngineEnvironment.h"
+#include "OndelCore/platform/Signals.h"
+
+#include <QFuture>
+#include <QPromise>
+
+#include <cstdint>
+#include <exception>
+#include <filesystem>
+#include <memory>
+#include <stop_token>
+#include <thread>
+#include <utility>
+
+namespace OndelCore::benchmark {
+
+// What BenchmarkEngine is made of, for the engine itself, its tests and its benchmarks. Callers include
+// BenchmarkEngine.h.
+
+/// Runs `work`, a blocking function that takes the run's CancelFlag, on a thread of its own. A stop request
+/// sets the flag; that is the only way from the caller to the work. The future finishes once, on that thread,
+/// with what the work returned or threw, after everything that the work held is gone.
+template <class Work>
+auto runBlocking(Work work, std::stop_token stop)
+    -> QFuture<decltype(work(std::declval<const CancelFlag&>()))> {
+    using Value = decltype(work(std::declval<const CancelFlag&>()));
+    const auto promise = std::make_shared<QPromise<Value>>();
+    const QFuture<Value> future = promise->future();
+    promise->start();
+    const auto body = [promise, stop](Work received) {
+        platform::keepSignalsOffThisThread();
+        try {
+            const Work task = std::move(received);
+            CancelFlag flag;
+            const std::stop_callback onStop(stop, [&flag] { flag.cancel(); });
+            promise->addResult(task(std::as_const(flag)));
+        } catch (...) {
+            promise->setException(std::current_exception());
+        }
+        promise->finish();
+    };
+    try {
+        std::thread(body, std::move(work)).detach();
+    } catch (...) {
+        promise->setException(std::current_exception());
+        promise->finish();
+    }
+    return future;
+}
+
+/// One whole run: proves that `folder` can be written, makes the working folder, executes the plan in it and
+/// removes it, whatever comes.
+///
+/// Blocks. Fails: throws BenchmarkError, Cancelled, or std::filesystem::filesystem_error when the working
+/// folder cannot be made.
+BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan& plan,
+                            const std::filesystem::path& folder, const CancelFlag& flag,
+                            const ProgressListener& progress);
+
+/// Where a run finds its things.
+struct RunPaths {
+    std::filesystem::path dataFile;
+    std::filesystem::path fopsDir;
+    std::filesystem::path volume;
+};
+
+/// Checks the free space and runs the plan's tests in their order. Blocks; fails as runInFolder does.
+BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& plan, const RunPaths& paths,
+                        const CancelFlag& flag, const ProgressListener& progress);
+
+/// 0 when the system does not tell. Units: bytes.
+std::int64_t freeBytes(const EngineEnvironment& system, const std::filesystem::path& path);
+
+} // namespace OndelCore::benchmark

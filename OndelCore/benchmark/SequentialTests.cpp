@@ -1,0 +1,128 @@
+#include "OndelCore/benchmark/SequentialTests.h"
+
+#include "OndelCore/benchmark/DataFile.h"
+#include "OndelCore/benchmark/ThroughputRecorder.h"
+
+#include <fcntl.h>
+
+#include <algorithm>
+
+namespace OndelCore::benchmark {
+
+namespace {
+
+/// Watches the reserve that fillDisk leaves on the volume. It asks at every eighth write only: the question
+/// costs about as much as a small write.
+class ReserveWatch {
+public:
+    ReserveWatch(const TestRun& run, const std::filesystem::path& volume, std::int64_t leaveFree)
+        : m_run(run)
+        , m_volume(volume)
+        , m_leaveFree(leaveFree) {}
+
+    /// Call before each write. A volume that no longer tells its free space has none.
+    bool isReached() {
+        if (m_turn == 0 && m_run.system.freeBytes(m_volume).value_or(0) <= m_leaveFree)
+            return true;
+        m_turn = (m_turn + 1) % 8;
+        return false;
+    }
+
+private:
+    const TestRun& m_run;
+    const std::filesystem::path& m_volume;
+    std::int64_t m_leaveFree;
+    int m_turn = 0;
+};
+
+/// Writes blocks until the target is reached, the last one cut to fit. `transferred` hears the bytes so far.
+template <class Listener>
+std::int64_t writeToTarget(const TestRun& run, const DataFile& file, const BlockBuffer& buffer,
+                           std::int64_t block, std::int64_t target, std::string_view failurePrefix,
+                           Listener transferred) {
+    std::int64_t moved = 0;
+    while (moved < target) {
+        run.throwIfCancelled();
+        const ssize_t written = file.write(buffer.first(std::min(block, target - moved)));
+        if (written < 0)
+            throw ioError(failurePrefix, errno);
+        moved += written; // after a short write the next call starts again from the head of the buffer
+        transferred(moved);
+    }
+    return moved;
+}
+
+/// Writes whole blocks until the reserve is reached or the disk is full.
+template <class Listener>
+std::int64_t writeUntilFull(const TestRun& run, const DataFile& file, const BlockBuffer& buffer,
+                            std::int64_t block, ReserveWatch reserve, Listener transferred) {
+    std::int64_t moved = 0;
+    for (;;) {
+        run.throwIfCancelled();
+        if (reserve.isReached())
+            return moved;
+        const ssize_t written = file.write(buffer.first(block));
+        if (written < 0 && errno == ENOSPC)
+            return moved;
+        if (written < 0)
+            throw ioError("write: ", errno);
+        moved += written;
+        transferred(moved);
+    }
+}
+
+constexpr int createForWriting = O_WRONLY | O_CREAT | O_TRUNC;
+
+} // namespace
+
+ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes,
+                                 const std::filesystem::path& volume) {
+    const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.writeBlockSize);
+    const auto* fillDisk = run.plan.size.asFillDisk();
+    const DataFile file(run, createForWriting, "open(write): ");
+    BlockBuffer buffer(block);
+    buffer.fillWithRandomBytes();
+
+    ThroughputRecorder recorder(run, BenchmarkTest::sequentialWrite, fillDisk ? 0 : targetBytes);
+    const auto transferred = [&](std::int64_t moved) { recorder.transferred(moved); };
+    const std::int64_t moved =
+        fillDisk ? writeUntilFull(run, file, buffer, block, {run, volume, fillDisk->leaveFree}, transferred)
+                 : writeToTarget(run, file, buffer, block, targetBytes, "write: ", transferred);
+    recorder.loopEnded(moved);
+    file.flush();
+    return recorder.result(moved, block);
+}
+
+void prepareDataFile(const TestRun& run, std::int64_t targetBytes) {
+    const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.writeBlockSize);
+    const DataFile file(run, createForWriting, "open(prepare): ");
+    BlockBuffer buffer(block);
+    buffer.fillWithRandomBytes();
+
+    writeToTarget(run, file, buffer, block, targetBytes, "write(prepare): ", [](std::int64_t) {});
+    file.flush();
+}
+
+ThroughputResult sequentialRead(const TestRun& run) {
+    const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.readBlockSize);
+    const DataFile file(run, O_RDONLY, "open(read): ");
+    const std::int64_t totalBytes = file.length();
+    const BlockBuffer buffer(block);
+
+    ThroughputRecorder recorder(run, BenchmarkTest::sequentialRead, totalBytes);
+    std::int64_t moved = 0;
+    for (;;) {
+        run.throwIfCancelled();
+        const ssize_t count = file.read(buffer.first(block));
+        if (count < 0)
+            throw ioError("read: ", errno);
+        if (count == 0)
+            break;
+        moved += count;
+        recorder.transferred(moved);
+    }
+    recorder.loopEnded(moved);
+    return recorder.result(moved, block);
+}
+
+} // namespace OndelCore::benchmark

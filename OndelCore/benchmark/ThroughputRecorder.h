@@ -1,0 +1,56 @@
+#pragma once
+
+#include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/benchmark/TestRun.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace OndelCore::benchmark {
+
+/// Times a sequential test: one sample and one progress call for each interval of at least the plan's
+/// `sampleInterval`. The time starts when the object is made.
+class ThroughputRecorder {
+public:
+    /// `totalBytes`: for the progress calls; 0 while the end is not known.
+    ThroughputRecorder(const TestRun& run, BenchmarkTest test, std::int64_t totalBytes)
+        : m_run(run)
+        , m_test(test)
+        , m_totalBytes(totalBytes)
+        , m_start(run.now())
+        , m_lastTime(m_start) {}
+
+    /// Call after each transfer. `moved`: bytes moved so far.
+    void transferred(std::int64_t moved) {
+        const double now = m_run.now();
+        if (!(now - m_lastTime < m_run.plan.sampleInterval))
+            takeSample(moved, now);
+    }
+
+    /// Call after the loop: a sample for what is left since the last one, so that the tail of a test always
+    /// shows.
+    void loopEnded(std::int64_t moved) {
+        const double now = m_run.now();
+        if (moved > m_lastBytes && now > m_lastTime)
+            takeSample(moved, now);
+    }
+
+    /// Ends the time. `blockSize`: as used.
+    ThroughputResult result(std::int64_t moved, std::int64_t blockSize) {
+        const double duration = m_run.now() - m_start;
+        return {moved, duration, blockSize, std::move(m_samples)};
+    }
+
+private:
+    void takeSample(std::int64_t moved, double now);
+
+    const TestRun& m_run;
+    BenchmarkTest m_test;
+    std::int64_t m_totalBytes;
+    double m_start;
+    double m_lastTime;
+    std::int64_t m_lastBytes = 0;
+    std::vector<ThroughputSample> m_samples;
+};
+
+} // namespace OndelCore::benchmark

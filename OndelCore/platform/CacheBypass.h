@@ -1,0 +1,46 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cerrno>
+
+namespace OndelCore::platform {
+
+/// Keeps the data that moves through one descriptor out of the system's file cache, as far as the file
+/// system goes along with it. A refusal is never an error: the transfers then go through the cache.
+///
+/// Threads: one at a time. Owner: the descriptor stays the caller's and must outlive the object.
+class CacheBypass {
+public:
+    CacheBypass() = default;
+
+    /// Asks for the bypass, right after open(2).
+    explicit CacheBypass(int descriptor);
+
+    /// Makes one transfer. A file system may take only lengths and offsets that suit its device; where it
+    /// refuses this one for that reason, the transfer alone is made again through the cache.
+    /// `transfer`: a call that answers as read(2) does. Fails: as the call does, errno set.
+    template <class Transfer>
+    ssize_t perform(Transfer transfer) const {
+        const ssize_t moved = transfer();
+        if (moved >= 0 || !m_isOn || !isRefusal(errno)) [[likely]]
+            return moved;
+        suspend();
+        const ssize_t movedThroughCache = transfer();
+        const int error = errno;
+        resume();
+        errno = error;
+        return movedThroughCache;
+    }
+
+private:
+    static bool isRefusal(int error);
+    void suspend() const;
+    void resume() const;
+
+    int m_descriptor = -1;
+    int m_statusFlags = 0; ///< of the descriptor without the bypass
+    bool m_isOn = false;
+};
+
+} // namespace OndelCore::platform

@@ -1,0 +1,18 @@
+#include "OndelCore/platform/Signals.h"
+
+#include <pthread.h>
+
+#include <csignal>
+#include <initializer_list>
+
+namespace OndelCore::platform {
+
+void keepSignalsOffThisThread() {
+    sigset_t held;
+    sigfillset(&held);
+    for (const int fault : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP, SIGABRT, SIGSYS, SIGPROF})
+        sigdelset(&held, fault);
+    pthread_sigmask(SIG_BLOCK, &held, nullptr);
+}
+
+} // namespace OndelCore::platform
