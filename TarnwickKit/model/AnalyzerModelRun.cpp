@@ -118,6 +118,8 @@ void AnalyzerModel::endRun(const std::function<void()>& settle) {
     settle();
     run->stream.cancel();
     run->ended.finish();
+    QMetaObject::invokeMethod(
+        this, [run] {}, Qt::QueuedConnection);
 }
 
 void AnalyzerModel::finish(BenchmarkResult result) {

@@ -1,6 +1,7 @@
 #include "TarnwickKit/model/UserLocale.h"
 
 #include <unicode/locid.h>
+#include <unicode/ulocdata.h>
 
 #include <cstdlib>
 
@@ -32,7 +33,10 @@ std::string icuLocaleName(const std::string& posixName) {
                                  ? base + script
                                  : base.substr(0, country) + script + base.substr(country);
     const icu::Locale locale = icu::Locale::createCanonical(name.c_str());
-    if (locale.isBogus() || !*locale.getLanguage())
+    // ICU answers a language that it does not know with a placeholder's marks ("M05 1").
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::LocalULocaleDataPointer data(ulocdata_open(locale.getName(), &status));
+    if (locale.isBogus() || U_FAILURE(status) || status == U_USING_DEFAULT_WARNING)
         return fallbackName;
     return locale.getName();
 }

@@ -1,0 +1,178 @@
+#include "TarnwickKit/model/Formatter.h"
+
+#include "TarnwickKit/model/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/TarnwickFormat.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <limits>
+
+namespace TarnwickKit::model {
+
+namespace {
+
+const UserLocale english{"en_US", "en_US"};
+constexpr std::int64_t GiB = 1073741824;
+constexpr std::int64_t TiB = 1024 * GiB;
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+struct Case {
+    QString text;
+    const char* expected;
+};
+
+void expectAll(std::initializer_list<Case> cases) {
+    for (const Case& each : cases)
+        EXPECT_EQ(each.text.toStdString(), each.expected);
+}
+
+TEST(Formatter, Sizes) {
+    const Formatter format(english);
+    expectAll({
+        {format.block(0), "0 B"},
+        {format.block(512), "512 B"},
+        {format.block(1023), "1023 B"},
+        {format.block(1024), "1 KiB"},
+        {format.block(1536), "1.5 KiB"},
+        {format.block(4096), "4 KiB"},
+        {format.block(1048576), "1 MiB"},
+        {format.block(TiB), "1024 GiB"},
+        {format.block(-4096), "-4096 B"},
+        {format.block(std::numeric_limits<std::int64_t>::max()), "8589934592 GiB"},
+        {format.bytes(0), "0 B"},
+        {format.bytes(1023), "1023 B"},
+        {format.bytes(1024), "1.0 KiB"},
+        {format.bytes(5 * GiB), "5.0 GiB"},
+        {format.bytes(TiB), "1.0 TiB"},
+        {format.bytes(2048 * TiB), "2048.0 TiB"},
+        {format.bytes(-5 * GiB), "-5368709120 B"},
+    });
+}
+
+TEST(Formatter, RatesAndCounts) {
+    const Formatter format(english);
+    expectAll({
+        {format.mbValue(499999), "0"},
+        {format.mbValue(500000), "1"},
+        {format.mbValue(1234567890), "1,235"},
+        {format.compact(0), "0"},
+        {format.compact(950), "950"},
+        {format.compact(999.6), "1000"},
+        {format.compact(1000), "1.0k"},
+        {format.compact(12345), "12.3k"},
+        {format.compact(12345678), "12345.7k"},
+        {format.compact(infinite), "infk"},
+        {format.compact(notANumber), "nan"},
+        {format.compact(1e300 * 1e3).left(4), "1000"},
+        {format.rate(999999999), "1000 MB/s"},
+        {format.rate(1000000000), "1.00 GB/s"},
+        {format.rate(2345000000), "2.35 GB/s"},
+        {format.rate(-infinite), "-inf MB/s"},
+        {format.grouped(1234567.9), "1,234,567"},
+        {format.grouped(-1234.9), "-1,234"},
+        // The double's exact value decides, as in the C library: 0.15 lies below, 0.25 in the middle.
+        {format.bytes(1024 + 154), "1.2 KiB"},
+        {format.compact(2.5), "2"},
+        {format.compact(1150), "1.1k"},
+        {format.compact(1250), "1.2k"},
+    });
+}
+
+TEST(Formatter, FollowsTheLocalesMarks) {
+    const Formatter german({"de_DE", "de_DE"});
+    const Formatter french({"fr_FR", "fr_FR"});
+    const Formatter polish({"pl_PL", "pl_PL"});
+    const Formatter indian({"en_IN", "en_IN"});
+    const Formatter arabic({"ar_EG", "ar_EG"});
+    expectAll({
+        {german.bytes(3 * GiB / 2), "1,5 GiB"},
+        {german.block(4096), "4 KiB"},
+        {german.grouped(1234567), "1.234.567"},
+        {french.grouped(1234567), "1\u00A0234\u00A0567"},
+        {polish.grouped(1234), "1234"},
+        {indian.grouped(1234567), "12,34,567"},
+        {arabic.compact(12345), "١٢٫٣k"},
+        {arabic.block(1048576), "1 MiB"},
+    });
+}
+
+TEST(Formatter, Stamps) {
+    const QDateTime noon(QDate(2024, 5, 1), QTime(12, 34, 56), Qt::UTC);
+    const QTimeZone utc = QTimeZone::utc();
+    const QTimeZone tokyo("Asia/Tokyo");
+    expectAll({
+        {Formatter(english, utc).runStamp(noon, 62.5), "May 1, 2024 · 12:34 PM · 63s"},
+        {Formatter(english, utc).shortStamp(noon), "May 1 · 12:34 PM"},
+        {Formatter(english, tokyo).shortStamp(noon), "May 1 · 9:34 PM"},
+        {Formatter({"en_US", "de_DE"}, utc).runStamp(noon, 12345.4), "1. Mai 2024 · 12:34 · 12345s"},
+        {Formatter({"en_US", "fr_FR"}, utc).shortStamp(noon), "1 mai · 12:34"},
+        {Formatter({"en_US", "ja_JP"}, tokyo).runStamp(noon, 1), "2024年5月1日 · 21:34 · 1s"},
+    });
+}
+
+TEST(Formatter, UsesTheMachinesZoneWhenNoneIsGiven) {
+    const QDateTime noon(QDate(2024, 5, 1), QTime(12, 34, 56), Qt::UTC);
+    setenv("TZ", "XYZ-5:30", 1);
+    tzset();
+    EXPECT_EQ(Formatter(english).shortStamp(noon), "May 1 · 6:04 PM");
+    setenv("TZ", "UTC", 1);
+    tzset();
+    EXPECT_EQ(Formatter(english).shortStamp(noon), "May 1 · 12:34 PM");
+}
+
+TEST(FormatterDeathTest, StopsAtFiguresNoIntegerHolds) {
+    const Formatter format(english);
+    const QDateTime any(QDate(2024, 5, 1), QTime(12, 0), Qt::UTC);
+    EXPECT_DEATH(format.grouped(infinite), "not finite");
+    EXPECT_DEATH(format.mbValue(notANumber), "not finite");
+    EXPECT_DEATH(format.mbValue(1e25), "64 bits");
+    EXPECT_DEATH(format.grouped(9223372036854775808.0), "64 bits");
+    EXPECT_DEATH(format.runStamp(any, -infinite), "not finite");
+    EXPECT_EQ(format.grouped(-9223372036854775808.0), "-9,223,372,036,854,775,808");
+}
+
+TEST(UserLocale, TakesTheFirstVariableThatSaysSomething) {
+    const auto locale = [](const char* all, const char* numeric, const char* time, const char* lang) {
+        setenv("LC_ALL", all, 1);
+        setenv("LC_NUMERIC", numeric, 1);
+        setenv("LC_TIME", time, 1);
+        setenv("LANG", lang, 1);
+        return UserLocale::fromEnvironment();
+    };
+    EXPECT_EQ(locale("", "", "", "de_DE.UTF-8"), (UserLocale{"de_DE", "de_DE"}));
+    EXPECT_EQ(locale("", "fr_FR.UTF-8", "en_DK.UTF-8", "de_DE"), (UserLocale{"fr_FR", "en_DK"}));
+    EXPECT_EQ(locale("C.UTF-8", "fr_FR", "de_DE", "de_DE"), english);
+    EXPECT_EQ(locale("", "", "", ""), english);
+}
+
+TEST(UserLocale, ReadsPosixNames) {
+    const std::pair<const char*, const char*> names[] = {
+        {"de_DE@euro", "de_DE"},
+        {"pt_BR.ISO-8859-1", "pt_BR"},
+        {"sr_RS@latin", "sr_Latn_RS"},
+        {"eo", "eo"},
+        {"POSIX", "en_US"},
+        {"%%&/_", "en_US"},
+        {"xx_YY", "en_US"},
+    };
+    for (const auto& [posix, icu] : names)
+        EXPECT_EQ(icuLocaleName(posix), icu) << posix;
+}
+
+TEST(BenchmarkTestTitle, NamesTheRandomBlock) {
+    using OndelCore::benchmark::BenchmarkTest;
+    expectAll({
+        {title(BenchmarkTest::sequentialWrite, 4096), "Sequential write"},
+        {title(BenchmarkTest::sequentialRead, 4096), "Sequential read"},
+        {title(BenchmarkTest::randomRead, 4096), "Random read (4 KiB)"},
+        {title(BenchmarkTest::randomWrite, 65536), "Random write (64 KiB)"},
+        {title(BenchmarkTest::fileOps, 4096), "File operations"},
+        {TarnwickFormat::block(1536), "1.5 KiB"},
+    });
+}
+
+} // namespace
+
+} // namespace TarnwickKit::model
