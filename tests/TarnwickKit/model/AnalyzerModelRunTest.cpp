@@ -1,0 +1,376 @@
+#include "OndelCore/benchmark/BenchmarkError.h"
+#include "TarnwickKit/model/AnalyzerModel.h"
+#include "support/TemporaryFolder.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <future>
+#include <latch>
+#include <optional>
+#include <thread>
+
+namespace TarnwickKit::model {
+
+namespace {
+
+using namespace OndelCore::benchmark;
+using Phase = AnalyzerModel::Phase;
+
+BenchmarkProgress event(BenchmarkTest test, double rate, double elapsed = 0, std::int64_t completed = 0,
+                        std::int64_t total = 0) {
+    return {test, completed, total, rate, elapsed};
+}
+
+/// An engine whose runs go as the test says.
+struct Engine {
+    struct Call {
+        BenchmarkPlan plan;
+        std::filesystem::path folder;
+        BenchmarkEngine::Progress progress;
+        std::stop_token stop;
+        QPromise<BenchmarkResult> promise;
+
+        void finish(BenchmarkResult result) {
+            promise.addResult(std::move(result));
+            promise.finish();
+        }
+        void fail(auto error) {
+            promise.setException(std::make_exception_ptr(error));
+            promise.finish();
+        }
+    };
+    std::vector<std::shared_ptr<Call>> calls;
+
+    Call& last() { return *calls.back(); }
+
+    AnalyzerServices services() {
+        AnalyzerServices services;
+        services.runBenchmark = [this](BenchmarkPlan plan, std::filesystem::path folder, auto progress,
+                                       auto stop) {
+            auto call = std::make_shared<Call>(plan, folder, progress, stop);
+            call->promise.start();
+            calls.push_back(call);
+            return call->promise.future();
+        };
+        services.cleanupOrphans = [](const std::filesystem::path&) {};
+        services.now = [] { return QDateTime::currentDateTimeUtc(); };
+        return services;
+    }
+};
+
+/// Turns the event loop until `done`; what is waited for is always under way.
+void turnUntil(const std::function<bool()>& done) {
+    while (!done())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+struct AnalyzerModelRun : testing::Test {
+    Engine engine;
+    AnalyzerModel model{engine.services()};
+
+    void startRun() {
+        model.select(std::filesystem::path("/"));
+        model.start();
+        turnUntil([this] { return !engine.calls.empty(); });
+    }
+    void turnUntilEnded() {
+        turnUntil([this] { return !model.isRunning(); });
+    }
+    /// Sends an event and waits until the model has taken it.
+    void send(const BenchmarkProgress& progress) {
+        engine.last().progress(progress);
+        turnUntil([&] { return model.completedBytes() == progress.completedBytes; });
+    }
+};
+
+TEST_F(AnalyzerModelRun, NeedsATarget) {
+    model.start();
+    EXPECT_EQ(model.phase(), Phase::Idle);
+    EXPECT_FALSE(model.canRun());
+    model.select(QUrl("https://example.invalid/"));
+    EXPECT_FALSE(model.targetFolder());
+    model.select(QUrl::fromLocalFile("/tmp/ä b"));
+    EXPECT_EQ(model.targetFolder(), std::filesystem::path("/tmp/ä b"));
+    EXPECT_TRUE(model.canRun());
+    model.setSelectedTests({});
+    EXPECT_FALSE(model.canRun());
+    model.setTestSelected("randomRead", true);
+    EXPECT_TRUE(model.canRun());
+}
+
+TEST_F(AnalyzerModelRun, PlansWhatTheSettingsSay) {
+    model.setSelectedTests({BenchmarkTest::fileOps, BenchmarkTest::sequentialRead});
+    model.setSizeIndex(5);
+    model.setWriteBlock(1);
+    model.setReadBlock(2);
+    model.setRandomBlock(3);
+    model.setBypassCache(false);
+    startRun();
+    BenchmarkPlan expected;
+    expected.tests = {BenchmarkTest::sequentialRead, BenchmarkTest::fileOps};
+    expected.size = BenchmarkSize::fillDisk(1073741824);
+    expected.writeBlockSize = 1;
+    expected.readBlockSize = 2;
+    expected.randomBlockSize = 3;
+    expected.randomOpCount = 10000;
+    expected.fileOpCount = 1000;
+    expected.bypassCache = false;
+    expected.sampleInterval = 0.02;
+    EXPECT_EQ(engine.last().plan, expected);
+    EXPECT_EQ(engine.last().folder, "/");
+    EXPECT_TRUE(model.isFillDisk());
+    engine.last().finish({});
+    turnUntilEnded();
+
+    model.setSizeIndex(6);
+    EXPECT_DEATH(model.makePlan(), "sizeIndex 6");
+    model.setSizeIndex(-1);
+    EXPECT_DEATH(model.makePlan(), "sizeIndex -1");
+    EXPECT_DEATH(model.setTestSelected("SequentialRead", true), "names no test");
+}
+
+TEST_F(AnalyzerModelRun, ShowsTheResult) {
+    startRun();
+    EXPECT_TRUE(model.isRunning());
+    send(event(BenchmarkTest::sequentialWrite, 5e6, 0.1, 10, 20));
+    BenchmarkResult result;
+    result.sequentialWrite = ThroughputResult{1000000000, 2.0, 4096, {{1, 4e8}, {2, 1.2344e9}}};
+    result.randomRead = IOPSResult{12345, 1.0, 4096};
+    result.randomWrite = IOPSResult{5, 0, 4096};
+    result.fileOps = FileOpsResult{{950, 1}, {1, 1}, {1, 1}, {1, 1}};
+    engine.last().finish(result);
+    turnUntilEnded();
+
+    EXPECT_EQ(model.phase(), Phase::Done);
+    EXPECT_EQ(model.result(), result);
+    EXPECT_FALSE(model.liveTest());
+    EXPECT_EQ(model.liveSampleCount(), 1);
+    EXPECT_EQ(model.totalBytes(), 20);
+    EXPECT_EQ(model.sidebarValues(), QStringList({"1,234", "", "12.3k", "0", "950"}));
+
+    model.start();
+    EXPECT_FALSE(model.result());
+    EXPECT_EQ(model.liveSampleCount(), 0);
+    EXPECT_EQ(model.totalBytes(), 0);
+    engine.last().finish({});
+    turnUntilEnded();
+    EXPECT_EQ(model.sidebarValues(), QStringList({"", "", "", "", ""}));
+}
+
+TEST_F(AnalyzerModelRun, AFailureKeepsWhatWasLiveAndStaysUntilTheNextSelection) {
+    startRun();
+    send(event(BenchmarkTest::sequentialRead, 5e6, 0.1, 10, 20));
+    engine.last().fail(BenchmarkError(BenchmarkError::Io{"write: No space left on device"}));
+    turnUntilEnded();
+    EXPECT_EQ(model.phase(), Phase::Failed);
+    EXPECT_EQ(model.failureMessage(), "I/O error: write: No space left on device");
+    EXPECT_EQ(model.liveTest(), BenchmarkTest::sequentialRead);
+    EXPECT_EQ(model.completedBytes(), 10);
+    EXPECT_FALSE(model.result());
+    EXPECT_TRUE(model.canRun());
+
+    model.select(std::filesystem::path("/"));
+    EXPECT_EQ(model.phase(), Phase::Idle);
+    EXPECT_EQ(model.failureMessage(), "");
+    EXPECT_EQ(model.liveSampleCount(), 0);
+    EXPECT_EQ(model.completedBytes(), 10);
+}
+
+TEST_F(AnalyzerModelRun, CancellingWaitsForTheEngine) {
+    EXPECT_TRUE(model.cancelAndWait().isFinished());
+    startRun();
+    send(event(BenchmarkTest::sequentialRead, 5e6, 0.1, 10, 20));
+    model.cancel();
+    QFuture<void> ended = model.cancelAndWait();
+    EXPECT_TRUE(engine.last().stop.stop_requested());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(model.isRunning());
+    EXPECT_FALSE(ended.isFinished());
+    model.select(std::filesystem::path("/elsewhere"));
+    EXPECT_EQ(model.targetFolder(), "/");
+
+    engine.last().fail(Cancelled());
+    turnUntil([&] { return ended.isFinished(); });
+    EXPECT_EQ(model.phase(), Phase::Idle);
+    EXPECT_EQ(model.liveTest(), BenchmarkTest::sequentialRead);
+    model.cancel();
+    EXPECT_TRUE(model.cancelAndWait().isFinished());
+    EXPECT_EQ(model.phase(), Phase::Idle);
+}
+
+TEST_F(AnalyzerModelRun, AnEngineThatThrowsAtOnceFailsTheRun) {
+    AnalyzerServices services = engine.services();
+    services.runBenchmark = [](auto&&...) -> QFuture<BenchmarkResult> {
+        throw std::system_error(EAGAIN, std::generic_category());
+    };
+    AnalyzerModel unlucky(services);
+    unlucky.select(std::filesystem::path("/"));
+    unlucky.start();
+    turnUntil([&] { return !unlucky.isRunning(); });
+    EXPECT_EQ(unlucky.failureMessage(), "Resource temporarily unavailable");
+}
+
+TEST_F(AnalyzerModelRun, AViewMayStartTheNextRunFromTheEndOfOne) {
+    startRun();
+    QObject::connect(&model, &AnalyzerModel::phaseChanged, &model, [this] {
+        if (model.phase() == Phase::Done && engine.calls.size() == 1)
+            model.start();
+    });
+    model.start(); // refused: one goes on
+    EXPECT_EQ(engine.calls.size(), 1u);
+    engine.last().finish({});
+    turnUntil([this] { return engine.calls.size() == 2; });
+    EXPECT_TRUE(model.isRunning());
+    send(event(BenchmarkTest::randomRead, 0, 0.1, 7, 20));
+    engine.last().finish({});
+    turnUntilEnded();
+    EXPECT_EQ(model.phase(), Phase::Done);
+}
+
+TEST_F(AnalyzerModelRun, EventsFeedTheLiveDisplay) {
+    const auto samples = [this] { return model.liveSamples(); };
+    for (int index = 0; index < 2000; ++index)
+        model.apply(event(BenchmarkTest::sequentialWrite, index + 1, index));
+    EXPECT_EQ(model.liveSampleCount(), 2000);
+    model.apply(event(BenchmarkTest::sequentialWrite, 0, 2000, 8, 9));
+    EXPECT_EQ(model.liveSampleCount(), 2000);
+    EXPECT_EQ(model.completedBytes(), 8);
+    EXPECT_EQ(model.totalBytes(), 9);
+    model.apply(event(BenchmarkTest::sequentialWrite, 2001, 2000));
+    ASSERT_EQ(model.liveSampleCount(), 1001);
+    for (std::size_t index = 0; index < 1001; ++index)
+        ASSERT_EQ(samples()[index].elapsed, 2.0 * static_cast<double>(index));
+
+    model.apply(event(BenchmarkTest::sequentialRead, 3, 0.5));
+    EXPECT_EQ(samples(), (std::vector<ThroughputSample>{{0.5, 3}}));
+    EXPECT_EQ(model.property("liveTest").toString(), "sequentialRead");
+}
+
+TEST_F(AnalyzerModelRun, TakesEveryEventInOrderAndAnnouncesByTheBatch) {
+    startRun();
+    int announcements = 0;
+    QObject::connect(&model, &AnalyzerModel::progressChanged, &model, [&] { ++announcements; });
+    std::thread worker([this] {
+        for (int index = 1; index <= 1500; ++index)
+            engine.last().progress(event(BenchmarkTest::sequentialWrite, index, index, index, 1500));
+    });
+    worker.join();
+    turnUntil([this] { return model.completedBytes() == 1500; });
+    EXPECT_EQ(announcements, 1);
+    ASSERT_EQ(model.liveSampleCount(), 1500);
+    for (std::size_t index = 0; index < 1500; ++index)
+        ASSERT_EQ(model.liveSamples()[index].bytesPerSecond, static_cast<double>(index + 1));
+
+    // What a straggler sends after the run's end is dropped.
+    const auto straggler = engine.calls.front();
+    straggler->finish({});
+    turnUntilEnded();
+    straggler->progress(event(BenchmarkTest::sequentialRead, 1, 1, 1, 1));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(model.completedBytes(), 1500);
+}
+
+TEST_F(AnalyzerModelRun, ARunWaitsForTheSweepOfItsFolder) {
+    std::promise<void> gate;
+    AnalyzerServices services = engine.services();
+    services.cleanupOrphans = [opened = gate.get_future().share()](const std::filesystem::path&) {
+        opened.wait();
+    };
+    AnalyzerModel swept(services);
+    swept.select(std::filesystem::path("/"));
+    swept.start();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(swept.isRunning());
+    EXPECT_TRUE(engine.calls.empty());
+
+    swept.cancel();
+    EXPECT_EQ(swept.phase(), Phase::Idle);
+    swept.start();
+    gate.set_value();
+    turnUntil([this] { return !engine.calls.empty(); });
+    EXPECT_EQ(engine.calls.size(), 1u);
+    engine.last().finish({});
+    turnUntil([&] { return !swept.isRunning(); });
+    EXPECT_EQ(swept.phase(), Phase::Done);
+}
+
+TEST(ProgressStream, DropsWhatIsQueuedWhenCancelled) {
+    int taken = 0;
+    auto stream = std::make_unique<ProgressStream>([&](const ProgressStream::Batch&) { ++taken; });
+    const auto send = stream->sender();
+    send(event(BenchmarkTest::sequentialWrite, 1));
+    stream->cancel();
+    QCoreApplication::processEvents();
+    send(event(BenchmarkTest::sequentialWrite, 1));
+    stream.reset();
+    send(event(BenchmarkTest::sequentialWrite, 1));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(taken, 0);
+}
+
+TEST(AnalyzerModel, RunsTheRealEngineAndLeavesNothingBehind) {
+    const test::TemporaryFolder folder;
+    std::filesystem::create_directory(folder.path() / ".ondel-analyzer-DEAD");
+    AnalyzerModel model;
+    model.setSelectedTests({BenchmarkTest::fileOps});
+    model.select(folder.path());
+    model.start();
+    turnUntil([&] { return !model.isRunning(); });
+    EXPECT_EQ(model.failureMessage(), "");
+    ASSERT_TRUE(model.result());
+    EXPECT_EQ(model.result()->fileOps->create.operations, 1000);
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+
+    std::filesystem::remove(folder.path());
+    model.start();
+    turnUntil([&] { return !model.isRunning(); });
+    EXPECT_EQ(model.phase(), Phase::Failed);
+    EXPECT_NE(model.failureMessage(), "");
+}
+
+TEST(AnalyzerModel, ItsEndEndsTheRun) {
+    std::atomic<bool> cleanedUp = false;
+    AnalyzerServices services = Engine().services();
+    services.runBenchmark = [&](BenchmarkPlan, std::filesystem::path, auto progress, std::stop_token stop) {
+        QPromise<BenchmarkResult> promise;
+        promise.start();
+        auto future = promise.future();
+        std::thread([&cleanedUp, stop, progress, promise = std::move(promise)]() mutable {
+            while (!stop.stop_requested())
+                progress(event(BenchmarkTest::sequentialWrite, 1));
+            cleanedUp = true;
+            promise.setException(std::make_exception_ptr(Cancelled()));
+            promise.finish();
+        }).detach();
+        return future;
+    };
+    {
+        AnalyzerModel model(services);
+        model.select(std::filesystem::path("/"));
+        model.start();
+        turnUntil([&] { return model.liveSampleCount() > 0; });
+    }
+    EXPECT_TRUE(cleanedUp);
+}
+
+TEST(AnalyzerModel, DescribesErrorsInASentence) {
+    const auto described = [](auto cause) {
+        return AnalyzerModel::describe(BenchmarkError(cause)).toStdString();
+    };
+    EXPECT_EQ(described(BenchmarkError::InsufficientSpace{5368709120, 1023}),
+              "Not enough space: needs 5.0 GiB, only 1023 B free.");
+    EXPECT_EQ(described(BenchmarkError::Io{"read: %1 %2"}), "I/O error: read: %1 %2");
+    EXPECT_EQ(described(BenchmarkError::NotWritable{}),
+              "Couldn’t write there. The volume may be read-only, or the folder may not allow it.");
+    EXPECT_EQ(described(BenchmarkError::FileTooSmallForRandom{}),
+              "The test file is too small for the random block size.");
+    const std::system_error gone(ENOENT, std::generic_category(), "mkdir");
+    EXPECT_EQ(AnalyzerModel::describe(gone), "No such file or directory");
+}
+
+} // namespace
+
+} // namespace TarnwickKit::model
