@@ -1,0 +1,104 @@
+#pragma once
+
+#include "OndelCore/logging/LogText.h"
+
+#include <concepts>
+#include <cstdint>
+#include <exception>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+class QString;
+
+namespace OndelCore::logging {
+
+/// A text that only a program's run knows, on its way into a field. Bytes that are no UTF-8 are taken as they
+/// are and mended when the line is rendered.
+class LogValue {
+public:
+    // NOLINTBEGIN(google-explicit-constructor): every kind of text may stand for a value.
+    LogValue(const char* text)
+        : m_text(text) {}
+    LogValue(std::string_view text)
+        : m_text(text) {}
+    LogValue(std::string text)
+        : m_text(std::move(text)) {}
+    LogValue(const std::filesystem::path& path)
+        : m_text(path.native()) {}
+    LogValue(const QString& text);
+    // NOLINTEND(google-explicit-constructor)
+
+    std::string take() && { return std::move(m_text); }
+
+private:
+    std::string m_text;
+};
+
+/// A closed vocabulary says how its values read in a log by a function `logToken` found beside it. A type
+/// with a textual `rawValue` reads as that.
+template <typename T>
+concept HasLogToken = requires(const T& value) {
+    { logToken(value) } -> std::convertible_to<std::string_view>;
+};
+template <typename T>
+concept HasTextRawValue = requires(const T& value) {
+    { rawValue(value) } -> std::convertible_to<std::string_view>;
+};
+template <typename T>
+concept LogToken = HasLogToken<T> || HasTextRawValue<T>;
+
+/// One variable part of a log line. The way it is made says how it may be shown. (`int` and `bool` are words
+/// of the language, hence the underscores.)
+class LogField {
+public:
+    /// A plain count: key=123
+    static LogField int_(LogText key, std::int64_t value) { return {Kind::integer, key, value}; }
+    /// A size. Units: bytes. key=123
+    static LogField bytes(LogText key, std::int64_t value) { return {Kind::integer, key, value}; }
+    /// A duration: key=12.3ms. Units: milliseconds.
+    static LogField ms(LogText key, double value) { return {Kind::milliseconds, key, value}; }
+    /// key=true or key=false
+    static LogField bool_(LogText key, std::same_as<bool> auto value) { return {Kind::boolean, key, value}; }
+    /// A value of a closed vocabulary, safe as it stands: key=value
+    static LogField token(LogText key, LogValue value) { return {Kind::token, key, std::move(value).take()}; }
+    static LogField token(LogText key, const LogToken auto& value) {
+        if constexpr (HasLogToken<std::remove_cvref_t<decltype(value)>>)
+            return token(key, LogValue(std::string_view(logToken(value))));
+        else
+            return token(key, LogValue(std::string_view(rawValue(value))));
+    }
+    /// A path or a file's name, never shown whole: key=, then Redact::path of the value
+    static LogField name(LogText key, LogValue value) { return {Kind::name, key, std::move(value).take()}; }
+    /// An identifier to compare but not to read: key=, then Redact::opaque of the value
+    static LogField opaque(LogText key, LogValue value) {
+        return {Kind::opaque, key, std::move(value).take()};
+    }
+    /// A text the caller knows to be safe: key="value", nothing escaped
+    static LogField classified(LogText key, LogValue value) {
+        return {Kind::classified, key, std::move(value).take()};
+    }
+    /// error="...", Redact::failure of the error inside the quotes
+    static LogField failure(const std::exception& error);
+    static LogField failure(const std::exception_ptr& error);
+
+    /// Appends the field as it stands in a line.
+    void appendTo(std::string& line) const;
+
+private:
+    enum class Kind { integer, milliseconds, boolean, token, name, opaque, classified };
+    using Value = std::variant<std::int64_t, double, bool, std::string>;
+
+    LogField(Kind kind, LogText key, Value value)
+        : m_kind(kind)
+        , m_key(key)
+        , m_value(std::move(value)) {}
+
+    Kind m_kind;
+    LogText m_key;
+    Value m_value;
+};
+
+} // namespace OndelCore::logging
