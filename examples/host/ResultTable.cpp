@@ -65,20 +65,25 @@ QString resultTable(const BenchmarkPlan& plan, const BenchmarkResult& result) {
     const std::int64_t randomBlock = BenchmarkPlan::alignedBlock(plan.randomBlockSize);
     const auto titleOf = [&](BenchmarkTest test) { return title(test, randomBlock); };
     std::vector<Row> rows;
+    const auto beginBlock = [&](Row header) {
+        if (!rows.empty())
+            rows.emplace_back();
+        rows.push_back(std::move(header));
+    };
     if (result.sequentialWrite || result.sequentialRead)
-        rows.push_back({"", "Sustained", "Peak", "Lowest", "Overall"});
+        beginBlock({"", "Sustained", "Peak", "Lowest", "Overall"});
     if (result.sequentialWrite)
         rows.push_back(row(titleOf(BenchmarkTest::sequentialWrite), *result.sequentialWrite));
     if (result.sequentialRead)
         rows.push_back(row(titleOf(BenchmarkTest::sequentialRead), *result.sequentialRead));
     if (result.randomRead || result.randomWrite)
-        rows.push_back({"", "Operations", "Rate"});
+        beginBlock({"", "Operations", "Rate"});
     if (result.randomRead)
         rows.push_back(row(titleOf(BenchmarkTest::randomRead), *result.randomRead));
     if (result.randomWrite)
         rows.push_back(row(titleOf(BenchmarkTest::randomWrite), *result.randomWrite));
     if (result.fileOps) {
-        rows.push_back({"", "Create", "Stat", "Rename", "Delete"});
+        beginBlock({"", "Create", "Stat", "Rename", "Delete"});
         rows.push_back(row(titleOf(BenchmarkTest::fileOps), *result.fileOps));
     }
     return aligned(rows);

@@ -27,24 +27,25 @@ BenchmarkResult measured(const RunOptions& options) {
     RunWatch watch;
     std::stop_source stop;
     std::optional<ProgressBar> bar;
-    BenchmarkEngine::Progress progress = [](const BenchmarkProgress&) {};
+    BenchmarkEngine::Progress progress;
     if (ProgressBar::isPossible()) {
         bar.emplace(options.plan);
         progress = [&bar](const BenchmarkProgress& latest) { bar->note(latest); };
     }
 
+    // Not takeResult: in Qt 6.4 it returns the shared state to "unfinished" while the promise still lives.
     QFuture<BenchmarkResult> run =
         BenchmarkEngine()
             .run(options.plan, options.folder, progress, stop.get_token())
             .then([mark = watch.takeEndMark()](QFuture<BenchmarkResult> finished) mutable {
                 mark.reset();
-                return finished.takeResult();
+                return finished.result();
             });
     constexpr int frameMilliseconds = 100;
     for (;;) {
         switch (watch.wait(bar ? frameMilliseconds : -1)) {
         case RunWatch::Event::ended:
-            return run.takeResult();
+            return run.result();
         case RunWatch::Event::terminationRequested:
             stop.request_stop();
             [[fallthrough]];
