@@ -6,14 +6,18 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace OndelCore::platform {
+
+inline const std::filesystem::path systemMountTable = "/proc/self/mountinfo";
 
 /// One mounted file system as the system's mount table tells it (proc(5), "mountinfo").
 /// Paths and source are the decoded bytes; they need not be valid UTF-8.
 struct Mount {
     std::uint64_t id = 0;       ///< unique among the mounts of now; may be used again later
+    std::uint64_t parentId = 0; ///< the mount that `mountPoint` lies in; not always in the table
     dev_t device = 0;           ///< the superblock's device number; anonymous for Btrfs, network, memory
     std::filesystem::path root; ///< what of the file system is mounted: "/" or a subvolume, a bind source
     std::filesystem::path mountPoint; ///< where it is mounted
@@ -26,11 +30,20 @@ struct Mount {
 };
 
 /// All mounts of this process's view, in the table's order (a later one covers an earlier one).
-/// Threads: any. Fails: an unreadable table is an empty list.
-std::vector<Mount> mounts();
+/// Threads: any. Fails: an unreadable table is an empty list; a malformed line is left out.
+std::vector<Mount> mounts(const std::filesystem::path& table = systemMountTable);
 
 /// The mount that holds `path`. Threads: any. Fails: absent if the path does not resolve to a mount of this
 /// view.
 std::optional<Mount> mountOfPath(const std::filesystem::path& path);
+
+/// The same, looked up in another table.
+std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std::filesystem::path& path);
+
+/// Whether `option` ("ro", "noload") is one of a comma-separated list.
+bool hasMountOption(std::string_view options, std::string_view option);
+
+/// The value of "NAME=value" in a comma-separated list; absent without one.
+std::optional<std::string> mountOptionValue(std::string_view options, std::string_view name);
 
 } // namespace OndelCore::platform

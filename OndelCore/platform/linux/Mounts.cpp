@@ -17,10 +17,13 @@ struct Unref {
 using Table = std::unique_ptr<libmnt_table, Unref>;
 using Iterator = std::unique_ptr<libmnt_iter, Unref>;
 
+int skipMalformedLine(libmnt_table*, const char*, int) { return 1; }
+
 std::string textOrEmpty(const char* text) { return text ? text : ""; }
 
 Mount decode(libmnt_fs* fs) {
     return Mount{.id = static_cast<std::uint64_t>(mnt_fs_get_id(fs)),
+                 .parentId = static_cast<std::uint64_t>(mnt_fs_get_parent_id(fs)),
                  .device = mnt_fs_get_devno(fs),
                  .root = textOrEmpty(mnt_fs_get_root(fs)),
                  .mountPoint = textOrEmpty(mnt_fs_get_target(fs)),
@@ -30,28 +33,61 @@ Mount decode(libmnt_fs* fs) {
                  .superOptions = textOrEmpty(mnt_fs_get_fs_options(fs))};
 }
 
+/// The first item of a comma-separated list that `matches`.
+template <typename Predicate>
+std::optional<std::string_view> findOption(std::string_view options, Predicate matches) {
+    while (!options.empty()) {
+        const auto end = options.find(',');
+        const auto item = options.substr(0, end);
+        if (matches(item))
+            return item;
+        options.remove_prefix(end == std::string_view::npos ? options.size() : end + 1);
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
-std::vector<Mount> mounts() {
+std::vector<Mount> mounts(const std::filesystem::path& table) {
     std::vector<Mount> found;
-    const Table table(mnt_new_table_from_file("/proc/self/mountinfo"));
+    const Table parsed(mnt_new_table());
     const Iterator iterator(mnt_new_iter(MNT_ITER_FORWARD));
-    if (!table || !iterator)
+    if (!parsed || !iterator)
+        return found;
+    mnt_table_set_parser_errcb(parsed.get(), skipMalformedLine);
+    if (mnt_table_parse_file(parsed.get(), table.c_str()) != 0)
         return found;
     libmnt_fs* fs = nullptr;
-    while (mnt_table_next_fs(table.get(), iterator.get(), &fs) == 0)
+    while (mnt_table_next_fs(parsed.get(), iterator.get(), &fs) == 0)
         found.push_back(decode(fs));
     return found;
 }
 
 std::optional<Mount> mountOfPath(const std::filesystem::path& path) {
+    return mountOfPathIn(systemMountTable, path);
+}
+
+std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std::filesystem::path& path) {
     struct statx facts {};
     if (statx(AT_FDCWD, path.c_str(), 0, STATX_MNT_ID, &facts) != 0 || !(facts.stx_mask & STATX_MNT_ID))
         return std::nullopt;
-    for (Mount& mount : mounts())
+    for (Mount& mount : mounts(table))
         if (mount.id == facts.stx_mnt_id)
             return std::move(mount);
     return std::nullopt;
+}
+
+bool hasMountOption(std::string_view options, std::string_view option) {
+    return findOption(options, [&](std::string_view item) { return item == option; }).has_value();
+}
+
+std::optional<std::string> mountOptionValue(std::string_view options, std::string_view name) {
+    const auto item = findOption(options, [&](std::string_view candidate) {
+        return candidate.size() > name.size() && candidate.starts_with(name) && candidate[name.size()] == '=';
+    });
+    if (!item)
+        return std::nullopt;
+    return std::string(item->substr(name.size() + 1));
 }
 
 } // namespace OndelCore::platform

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "OndelCore/platform/Mounts.h"
+
+#include <sys/types.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace OndelCore::platform {
+
+/// A block device as the kernel's device tree tells it.
+struct BlockDevice {
+    dev_t number = 0;
+    std::string name;             ///< below "/dev": "sda1", "nvme0n1", "dm-0", "cciss/c0d0"
+    std::filesystem::path folder; ///< its folder in the device tree, without symbolic links
+    bool isPartition = false;
+
+    std::filesystem::path node() const { return std::filesystem::path("/dev") / name; }
+};
+
+/// What lies under a block device: through partitions, device mapper (LUKS, LVM), MD and the like.
+struct BlockStack {
+    std::vector<BlockDevice> wholeDisks; ///< each once, in the device tree's order of names
+    bool isEncrypted = false;            ///< a dm-crypt layer is among those in between
+    bool isSealed = false;               ///< a dm-verity layer is: every block is checked against a hash tree
+};
+
+/// Threads: any. Fails: absent if the device tree has no block device of this number.
+std::optional<BlockDevice> blockDevice(dev_t number, const std::filesystem::path& sysfs = "/sys");
+
+/// The disk that a partition lies on; any other device as it is.
+BlockDevice wholeDevice(const BlockDevice& device);
+
+/// Threads: any. Fails: an unknown number, or one that goes away meanwhile, has no whole disks.
+BlockStack blockStack(dev_t number, const std::filesystem::path& sysfs = "/sys");
+
+/// The number of the block device that a file system is mounted from, also where the file system has an
+/// anonymous number of its own (Btrfs). Threads: any. Fails: absent for network, memory and pool file
+/// systems.
+std::optional<dev_t> deviceOfMount(const Mount& mount);
+
+/// A device's path as the mount table names it, with the kernel's place-holders ("/dev/root") replaced by the
+/// device's real name. Threads: any.
+std::string sourceOfMount(const Mount& mount, const std::filesystem::path& sysfs = "/sys");
+
+/// The text of an attribute in the device tree without the line's end. Fails: absent if unreadable.
+std::optional<std::string> readAttribute(const std::filesystem::path& file);
+
+/// The value of "KEY=value" in a device's `uevent` attribute. Fails: absent.
+std::optional<std::string> readUeventValue(const std::filesystem::path& folder, std::string_view key);
+
+/// An attribute that holds one decimal number. Fails: absent if unreadable or something else.
+std::optional<std::int64_t> readNumber(const std::filesystem::path& file);
+
+} // namespace OndelCore::platform

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <string>
+
+namespace OndelCore::platform {
+
+/// Facts of one block device under the names that the device database uses ("ID_FS_LABEL", "ID_MODEL", …),
+/// as decoded bytes. What is not known has no entry.
+using DeviceProperties = std::map<std::string, std::string, std::less<>>;
+using DevicePropertySource = std::function<DeviceProperties(dev_t)>;
+
+/// What the device database (udev) says of a block device. Threads: any. Fails: no entries.
+DeviceProperties databaseProperties(dev_t device);
+
+/// What the device's own first sectors say: ID_FS_LABEL, ID_FS_TYPE, ID_PART_ENTRY_NAME. Reads the device,
+/// hence only where this process may. Threads: any. Fails: no entries.
+DeviceProperties superblockProperties(dev_t device);
+
+/// Where the answers about volumes and drives come from: the real system, unless a caller hands in something
+/// else.
+struct SystemSources {
+    std::filesystem::path mountTable = "/proc/self/mountinfo";
+    std::filesystem::path sysfs = "/sys";
+    DevicePropertySource database = databaseProperties;
+    DevicePropertySource superblock = superblockProperties;
+};
+
+} // namespace OndelCore::platform

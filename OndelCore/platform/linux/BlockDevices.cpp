@@ -1,0 +1,160 @@
+#include "OndelCore/platform/BlockDevices.h"
+
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <set>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace OndelCore::platform {
+
+namespace {
+
+std::optional<dev_t> numberIn(const fs::path& folder) {
+    const auto text = readAttribute(folder / "dev");
+    if (!text)
+        return std::nullopt;
+    unsigned majorNumber = 0;
+    unsigned minorNumber = 0;
+    const char* const end = text->data() + text->size();
+    const auto first = std::from_chars(text->data(), end, majorNumber);
+    if (first.ec != std::errc{} || first.ptr == end || *first.ptr != ':' ||
+        std::from_chars(first.ptr + 1, end, minorNumber).ec != std::errc{})
+        return std::nullopt;
+    return makedev(majorNumber, minorNumber);
+}
+
+/// The device tree writes '!' where the name below "/dev" has a '/'.
+std::string nameOf(const fs::path& folder) {
+    std::string name = folder.filename().string();
+    std::replace(name.begin(), name.end(), '!', '/');
+    return name;
+}
+
+std::optional<BlockDevice> deviceAt(const fs::path& link) {
+    std::error_code failed;
+    const fs::path folder = fs::canonical(link, failed);
+    if (failed)
+        return std::nullopt;
+    const auto number = numberIn(folder);
+    if (!number)
+        return std::nullopt;
+    return BlockDevice{.number = *number,
+                       .name = nameOf(folder),
+                       .folder = folder,
+                       .isPartition = fs::exists(folder / "partition", failed)};
+}
+
+std::vector<fs::path> sortedEntries(const fs::path& folder) {
+    std::vector<fs::path> entries;
+    std::error_code failed;
+    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
+        entries.push_back(entry->path());
+    std::sort(entries.begin(), entries.end());
+    return entries;
+}
+
+/// cryptsetup's tools mark their layers as CRYPT-<kind>-…; not every kind encrypts.
+void noteLayer(const fs::path& folder, BlockStack& stack) {
+    const auto uuid = readAttribute(folder / "dm" / "uuid");
+    if (!uuid || !uuid->starts_with("CRYPT-"))
+        return;
+    if (uuid->starts_with("CRYPT-VERITY-"))
+        stack.isSealed = true;
+    else if (!uuid->starts_with("CRYPT-INTEGRITY-") && !uuid->starts_with("CRYPT-SUBDEV-"))
+        stack.isEncrypted = true;
+}
+
+void descend(const BlockDevice& device, BlockStack& stack, std::set<dev_t>& seen) {
+    const BlockDevice whole = wholeDevice(device);
+    if (!seen.insert(whole.number).second)
+        return;
+    noteLayer(whole.folder, stack);
+    const auto below = sortedEntries(whole.folder / "slaves");
+    if (below.empty())
+        stack.wholeDisks.push_back(whole);
+    for (const fs::path& link : below)
+        if (const auto next = deviceAt(link))
+            descend(*next, stack, seen);
+}
+
+std::optional<dev_t> blockNumberOfNode(const fs::path& node) {
+    struct stat facts {};
+    if (stat(node.c_str(), &facts) != 0 || !S_ISBLK(facts.st_mode))
+        return std::nullopt;
+    return facts.st_rdev;
+}
+
+} // namespace
+
+std::optional<std::string> readAttribute(const fs::path& file) {
+    std::ifstream stream(file);
+    std::string line;
+    if (!stream || (!std::getline(stream, line) && stream.bad()))
+        return std::nullopt;
+    return line;
+}
+
+std::optional<std::string> readUeventValue(const fs::path& folder, std::string_view key) {
+    std::ifstream stream(folder / "uevent");
+    for (std::string line; std::getline(stream, line);)
+        if (line.size() > key.size() + 1 && line.starts_with(key) && line[key.size()] == '=')
+            return line.substr(key.size() + 1);
+    return std::nullopt;
+}
+
+std::optional<std::int64_t> readNumber(const fs::path& file) {
+    const auto text = readAttribute(file);
+    std::int64_t number = 0;
+    if (!text)
+        return std::nullopt;
+    const auto [end, failed] = std::from_chars(text->data(), text->data() + text->size(), number);
+    if (failed != std::errc{} || end != text->data() + text->size())
+        return std::nullopt;
+    return number;
+}
+
+std::optional<BlockDevice> blockDevice(dev_t number, const fs::path& sysfs) {
+    return deviceAt(sysfs / "dev" / "block" /
+                    (std::to_string(major(number)) + ':' + std::to_string(minor(number))));
+}
+
+BlockDevice wholeDevice(const BlockDevice& device) {
+    if (!device.isPartition)
+        return device;
+    return deviceAt(device.folder.parent_path()).value_or(device);
+}
+
+BlockStack blockStack(dev_t number, const fs::path& sysfs) {
+    BlockStack stack;
+    std::set<dev_t> seen;
+    if (const auto device = blockDevice(number, sysfs))
+        descend(*device, stack, seen);
+    return stack;
+}
+
+std::optional<dev_t> deviceOfMount(const Mount& mount) {
+    if (major(mount.device) != 0)
+        return mount.device;
+    if (!mount.source.starts_with("/dev/"))
+        return std::nullopt;
+    if (const auto number = blockNumberOfNode(mount.source))
+        return number;
+    // Several devices of one file system stand there as "/dev/sda1:/dev/sdb1".
+    return blockNumberOfNode(mount.source.substr(0, mount.source.find(':')));
+}
+
+std::string sourceOfMount(const Mount& mount, const fs::path& sysfs) {
+    const bool isPlaceholder = mount.source == "/dev/root" || !mount.source.starts_with('/');
+    if (isPlaceholder && major(mount.device) != 0)
+        if (const auto device = blockDevice(mount.device, sysfs))
+            return device->node().string();
+    return mount.source;
+}
+
+} // namespace OndelCore::platform

@@ -1,0 +1,93 @@
+#include "OndelCore/platform/BlockDevices.h"
+#include "OndelCore/platform/SystemSources.h"
+
+#include <blkid/blkid.h>
+#include <libudev.h>
+
+#include <memory>
+#include <string_view>
+
+namespace OndelCore::platform {
+
+namespace {
+
+struct Unref {
+    void operator()(udev* context) const { udev_unref(context); }
+    void operator()(udev_device* device) const { udev_device_unref(device); }
+    void operator()(blkid_struct_probe* probe) const { blkid_free_probe(probe); }
+};
+
+int hexDigit(char character) {
+    if (character >= '0' && character <= '9')
+        return character - '0';
+    if (character >= 'a' && character <= 'f')
+        return character - 'a' + 10;
+    if (character >= 'A' && character <= 'F')
+        return character - 'A' + 10;
+    return -1;
+}
+
+/// The database writes a byte that is unsafe in a file name as "\x" and two hexadecimal digits.
+std::string decodeEscapes(std::string_view text) {
+    std::string decoded;
+    while (!text.empty()) {
+        const bool isEscape = text.size() >= 4 && text[0] == '\\' && text[1] == 'x' &&
+                              hexDigit(text[2]) >= 0 && hexDigit(text[3]) >= 0;
+        decoded += isEscape ? static_cast<char>(hexDigit(text[2]) * 16 + hexDigit(text[3])) : text[0];
+        text.remove_prefix(isEscape ? 4 : 1);
+    }
+    return decoded;
+}
+
+void copyTag(blkid_probe probe, const char* tag, const char* name, DeviceProperties& properties) {
+    const char* value = nullptr;
+    std::size_t length = 0; // counts the terminator
+    if (blkid_probe_lookup_value(probe, tag, &value, &length) == 0 && length > 1)
+        properties[name] = std::string(value, length - 1);
+}
+
+} // namespace
+
+DeviceProperties databaseProperties(dev_t number) {
+    DeviceProperties properties;
+    const std::unique_ptr<udev, Unref> context(udev_new());
+    if (!context)
+        return properties;
+    const std::unique_ptr<udev_device, Unref> device(udev_device_new_from_devnum(context.get(), 'b', number));
+    if (!device)
+        return properties;
+    udev_list_entry* entry = nullptr;
+    udev_list_entry_foreach(entry, udev_device_get_properties_list_entry(device.get())) {
+        const char* const name = udev_list_entry_get_name(entry);
+        const char* const value = udev_list_entry_get_value(entry);
+        if (name && value && *value)
+            properties[name] = value;
+    }
+    // The plain forms have lost characters; the encoded ones beside them have all.
+    for (const char* name : {"ID_FS_LABEL", "ID_VENDOR", "ID_MODEL"})
+        if (const auto encoded = properties.find(std::string(name) + "_ENC"); encoded != properties.end())
+            properties[name] = decodeEscapes(encoded->second);
+    if (const auto partition = properties.find("ID_PART_ENTRY_NAME"); partition != properties.end())
+        partition->second = decodeEscapes(partition->second);
+    return properties;
+}
+
+DeviceProperties superblockProperties(dev_t number) {
+    DeviceProperties properties;
+    const auto device = blockDevice(number);
+    if (!device)
+        return properties;
+    const std::unique_ptr<blkid_struct_probe, Unref> probe(
+        blkid_new_probe_from_filename(device->node().c_str()));
+    if (!probe)
+        return properties;
+    blkid_probe_enable_superblocks(probe.get(), 1);
+    blkid_probe_set_superblocks_flags(probe.get(), BLKID_SUBLKS_LABEL | BLKID_SUBLKS_TYPE);
+    if (blkid_do_safeprobe(probe.get()) != 0)
+        return properties;
+    copyTag(probe.get(), "LABEL", "ID_FS_LABEL", properties);
+    copyTag(probe.get(), "TYPE", "ID_FS_TYPE", properties);
+    return properties;
+}
+
+} // namespace OndelCore::platform

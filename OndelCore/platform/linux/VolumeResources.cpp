@@ -1,0 +1,146 @@
+#include "OndelCore/platform/VolumeResources.h"
+
+#include "OndelCore/platform/BlockDevices.h"
+#include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/FileSystemFacts.h"
+#include "OndelCore/platform/linux/DriveBus.h"
+#include "OndelCore/platform/linux/MountedType.h"
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/statvfs.h>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace OndelCore::platform {
+
+namespace {
+
+std::optional<std::string> nonEmpty(const DeviceProperties& properties, std::string_view name) {
+    const auto found = properties.find(name);
+    if (found == properties.end() || found->second.empty())
+        return std::nullopt;
+    return found->second;
+}
+
+/// The label as the mounted file system itself has it, which needs no right to read the device.
+std::optional<std::string> labelOfMounted(const std::filesystem::path& mountPoint) {
+    const FileDescriptor folder(open(mountPoint.c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC));
+    std::array<char, FSLABEL_MAX + 1> label{};
+    if (!folder || ioctl(folder.get(), FS_IOC_GETFSLABEL, label.data()) != 0 || label.front() == '\0')
+        return std::nullopt;
+    return std::string(label.data());
+}
+
+std::optional<std::string> partitionName(const DeviceProperties& properties, dev_t device,
+                                         const SystemSources& sources) {
+    if (auto name = nonEmpty(properties, "ID_PART_ENTRY_NAME"))
+        return name;
+    const auto partition = blockDevice(device, sources.sysfs);
+    return partition ? readUeventValue(partition->folder, "PARTNAME") : std::nullopt;
+}
+
+std::optional<std::string> labelOnDevice(const Mount& mount, dev_t device, const SystemSources& sources) {
+    DeviceProperties properties = sources.database(device);
+    if (!properties.contains("ID_FS_TYPE")) {
+        if (!mount.type.starts_with("fuse"))
+            if (auto label = labelOfMounted(mount.mountPoint))
+                return label;
+        properties.merge(sources.superblock(device));
+    }
+    if (auto label = nonEmpty(properties, "ID_FS_LABEL"))
+        return label;
+    return partitionName(properties, device, sources);
+}
+
+std::string nameOfVolume(const Mount& mount, std::optional<dev_t> device, const SystemSources& sources) {
+    if (device)
+        if (auto label = labelOnDevice(mount, *device, sources))
+            return *label;
+    const std::string last = mount.mountPoint.filename().string();
+    return last.empty() ? "Root" : last;
+}
+
+void addAttachment(VolumeResources& resources, const FileSystemFacts* facts, std::optional<dev_t> device,
+                   const SystemSources& sources) {
+    const auto reach = facts ? facts->reach : FileSystemReach::device;
+    if (reach == FileSystemReach::memory || reach == FileSystemReach::layered)
+        resources.isInternal = true;
+    if (!device)
+        return;
+    const BlockStack stack = blockStack(*device, sources.sysfs);
+    if (stack.wholeDisks.empty())
+        return;
+    resources.isEncrypted = stack.isEncrypted;
+    resources.isInternal = std::none_of(stack.wholeDisks.begin(), stack.wholeDisks.end(),
+                                        [](const BlockDevice& disk) { return busOfDisk(disk).isExternal; });
+    resources.isRemovable =
+        std::any_of(stack.wholeDisks.begin(), stack.wholeDisks.end(),
+                    [](const BlockDevice& disk) { return readNumber(disk.folder / "removable") == 1; });
+}
+
+bool mayBlock(const Mount& mount, const FileSystemFacts* facts) {
+    return !facts || facts->reach == FileSystemReach::network || mount.type.starts_with("fuse");
+}
+
+/// Blocks times their size, held at the greatest number there is.
+std::int64_t bytes(std::uint64_t blocks, std::uint64_t blockSize) {
+    std::int64_t product = 0;
+    return __builtin_mul_overflow(blocks, blockSize, &product) ? std::numeric_limits<std::int64_t>::max()
+                                                               : product;
+}
+
+} // namespace
+
+VolumeResources resourcesOfMount(const Mount& mount, const SystemSources& sources) {
+    VolumeResources resources;
+    const std::string type = mountedType(mount, sources);
+    const FileSystemFacts* const facts = fileSystemFacts(type);
+    const auto device = deviceOfMount(mount);
+    resources.name = nameOfVolume(mount, device, sources);
+    if (!type.empty()) {
+        resources.format = facts ? std::string(facts->displayName) : type;
+        resources.type = type;
+    }
+    resources.mayBlock = mayBlock(mount, facts);
+    resources.isReadOnly = hasMountOption(mount.options, "ro") || hasMountOption(mount.superOptions, "ro");
+    resources.volumeRoot = mount.mountPoint;
+    addAttachment(resources, facts, device, sources);
+    return resources;
+}
+
+void addSizes(VolumeResources& resources, const std::filesystem::path& path) {
+    struct statvfs sizes {};
+    if (statvfs(path.c_str(), &sizes) != 0)
+        return;
+    const std::uint64_t unit = sizes.f_frsize ? sizes.f_frsize : sizes.f_bsize;
+    resources.total = bytes(sizes.f_blocks, unit);
+    resources.available = bytes(sizes.f_bavail, unit);
+}
+
+std::optional<VolumeResources> volumeResources(const std::filesystem::path& path,
+                                               const SystemSources& sources) {
+    VolumeResources resources;
+    addSizes(resources, path);
+    if (!resources.total)
+        return std::nullopt;
+    if (const auto mount = mountOfPathIn(sources.mountTable, path)) {
+        VolumeResources found = resourcesOfMount(*mount, sources);
+        found.total = resources.total;
+        found.available = resources.available;
+        return found;
+    }
+    return resources;
+}
+
+std::optional<std::string> mountedFrom(const std::filesystem::path& path, const SystemSources& sources) {
+    const auto mount = mountOfPathIn(sources.mountTable, path);
+    if (!mount || mount->source.empty())
+        return std::nullopt;
+    return sourceOfMount(*mount, sources.sysfs);
+}
+
+} // namespace OndelCore::platform

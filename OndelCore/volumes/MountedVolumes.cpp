@@ -1,0 +1,40 @@
+#include "OndelCore/volumes/MountedVolumes.h"
+
+#include "OndelCore/platform/Mounts.h"
+#include "OndelCore/platform/TotalSizes.h"
+#include "OndelCore/platform/VisibleMounts.h"
+#include "OndelCore/platform/VolumeResources.h"
+
+namespace OndelCore::volumes {
+
+namespace {
+
+MountedVolume describe(const platform::Mount& mount, const platform::VolumeResources& resources) {
+    MountedVolume volume;
+    volume.url = mount.mountPoint;
+    volume.name = QString::fromStdString(resources.name.value_or(mount.mountPoint.string()));
+    volume.format = QString::fromStdString(resources.format.value_or(""));
+    volume.filesystemType = QString::fromStdString(resources.type.value_or(""));
+    volume.isInternal = resources.isInternal.value_or(false);
+    volume.isRemovable = resources.isRemovable.value_or(false);
+    return volume;
+}
+
+} // namespace
+
+std::vector<MountedVolume> mountedVolumes(const platform::SystemSources& sources,
+                                          std::chrono::milliseconds patience) {
+    std::vector<MountedVolume> volumes;
+    std::vector<platform::SizeQuestion> questions;
+    for (const platform::Mount& mount : platform::visibleMounts(platform::mounts(sources.mountTable))) {
+        const platform::VolumeResources resources = platform::resourcesOfMount(mount, sources);
+        volumes.push_back(describe(mount, resources));
+        questions.push_back({mount.mountPoint, resources.mayBlock});
+    }
+    const auto sizes = platform::totalSizes(questions, patience);
+    for (std::size_t index = 0; index < volumes.size(); ++index)
+        volumes[index].total = sizes[index];
+    return volumes;
+}
+
+} // namespace OndelCore::volumes

@@ -1,0 +1,74 @@
+#include "OndelCore/volumes/VolumeCapabilities.h"
+
+#include <QHash>
+
+#include <array>
+
+namespace OndelCore::volumes {
+
+namespace {
+
+using namespace platform;
+
+struct Feature {
+    bool VolumeCapabilities::*field;
+    CapabilityWord CapabilityWords::*word;
+    std::uint32_t bit;
+};
+constexpr std::array features = {
+    Feature{&VolumeCapabilities::isCaseSensitive, &CapabilityWords::format, formatCaseSensitive},
+    Feature{&VolumeCapabilities::isCasePreserving, &CapabilityWords::format, formatCasePreserving},
+    Feature{&VolumeCapabilities::supportsSparseFiles, &CapabilityWords::format, formatSparseFiles},
+    Feature{&VolumeCapabilities::supportsHardLinks, &CapabilityWords::format, formatHardLinks},
+    Feature{&VolumeCapabilities::supportsSymbolicLinks, &CapabilityWords::format, formatSymbolicLinks},
+    Feature{&VolumeCapabilities::supportsExtendedAttributes, &CapabilityWords::interfaces,
+            interfaceExtendedAttributes},
+    Feature{&VolumeCapabilities::supportsNamedStreams, &CapabilityWords::interfaces, interfaceNamedStreams},
+    Feature{&VolumeCapabilities::supportsExtendedSecurity, &CapabilityWords::interfaces,
+            interfaceExtendedSecurity},
+    Feature{&VolumeCapabilities::supportsCloning, &CapabilityWords::interfaces, interfaceClone},
+    Feature{&VolumeCapabilities::supportsSnapshots, &CapabilityWords::interfaces, interfaceSnapshot},
+    Feature{&VolumeCapabilities::supportsJournal, &CapabilityWords::format, formatJournal},
+    Feature{&VolumeCapabilities::isJournalActive, &CapabilityWords::format, formatJournalActive},
+    Feature{&VolumeCapabilities::isSealed, &CapabilityWords::format, formatSealed},
+};
+
+} // namespace
+
+std::optional<VolumeCapabilities> VolumeCapabilities::probe(const Location& location,
+                                                            const SystemSources& sources) {
+    return location.isLocal() ? probe(location.path, sources) : std::nullopt;
+}
+
+std::optional<VolumeCapabilities> VolumeCapabilities::probe(const std::filesystem::path& path,
+                                                            const SystemSources& sources) {
+    const auto answers = askFileSystem(path, sources);
+    return answers ? std::optional(from(*answers)) : std::nullopt;
+}
+
+VolumeCapabilities VolumeCapabilities::from(const FileSystemAnswers& answers) {
+    VolumeCapabilities capabilities;
+    capabilities.filesystemType = QString::fromStdString(answers.type);
+    capabilities.maxNameLength = answers.maxNameLength;
+    capabilities.maxPathLength = answers.maxPathLength;
+    capabilities.maxLinkCount = answers.maxLinkCount;
+    capabilities.blockSize = answers.blockSizeBytes;
+    capabilities.optimalIOSize = answers.optimalIOSizeBytes;
+    if (answers.capabilities)
+        for (const Feature& feature : features)
+            capabilities.*feature.field = ((*answers.capabilities).*feature.word).has(feature.bit);
+    return capabilities;
+}
+
+} // namespace OndelCore::volumes
+
+std::size_t std::hash<OndelCore::volumes::VolumeCapabilities>::operator()(
+    const OndelCore::volumes::VolumeCapabilities& capabilities) const noexcept {
+    std::size_t seed =
+        qHashMulti(0, capabilities.filesystemType, capabilities.maxNameLength.value_or(-1),
+                   capabilities.maxPathLength.value_or(-1), capabilities.maxLinkCount.value_or(-1),
+                   capabilities.blockSize, capabilities.optimalIOSize);
+    for (const auto& feature : OndelCore::volumes::features)
+        seed = qHash(capabilities.*feature.field, seed);
+    return seed;
+}

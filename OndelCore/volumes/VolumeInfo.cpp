@@ -1,0 +1,68 @@
+#include "OndelCore/volumes/VolumeInfo.h"
+
+#include <algorithm>
+#include <limits>
+#include <system_error>
+
+namespace OndelCore::volumes {
+
+namespace {
+
+QString textOr(const std::optional<std::string>& text, const char* otherwise) {
+    return text ? QString::fromStdString(*text) : QString::fromUtf8(otherwise);
+}
+
+/// a - b, at least 0, without overflow for any two numbers.
+std::int64_t difference(std::int64_t a, std::int64_t b) {
+    std::int64_t result = 0;
+    if (__builtin_sub_overflow(a, b, &result))
+        return a > b ? std::numeric_limits<std::int64_t>::max() : 0;
+    return std::max<std::int64_t>(result, 0);
+}
+
+} // namespace
+
+std::int64_t VolumeInfo::used() const { return difference(total, available); }
+
+std::int64_t VolumeInfo::purgeable() const { return difference(available, rawAvailable); }
+
+double VolumeInfo::usedFraction() const {
+    if (total <= 0)
+        return 0.0;
+    return std::min(static_cast<double>(used()) / static_cast<double>(total), 1.0);
+}
+
+QString VolumeInfo::connection() const {
+    if (isRemovable)
+        return QStringLiteral("Removable");
+    return isInternal ? QStringLiteral("Internal") : QStringLiteral("External");
+}
+
+std::optional<VolumeInfo> VolumeInfo::load(const Location& location, const platform::SystemSources& sources) {
+    if (!location.isLocal())
+        return std::nullopt;
+    std::error_code failed;
+    const auto resolved = std::filesystem::canonical(location.path, failed);
+    const auto resources = platform::volumeResources(failed ? location.path : resolved, sources);
+    if (!resources)
+        return std::nullopt;
+    return from(*resources, platform::mountedFrom(location.path, sources));
+}
+
+VolumeInfo VolumeInfo::from(const platform::VolumeResources& resources, std::optional<std::string> device) {
+    VolumeInfo info;
+    info.name = textOr(resources.name, "Volume");
+    info.format = textOr(resources.format, "--");
+    info.total = resources.total.value_or(0);
+    info.rawAvailable = resources.available.value_or(0);
+    info.available = std::max(info.rawAvailable, resources.availableForImportantUsage.value_or(0));
+    info.isInternal = resources.isInternal.value_or(false);
+    info.isRemovable = resources.isRemovable.value_or(false);
+    info.isReadOnly = resources.isReadOnly.value_or(false);
+    info.isEncrypted = resources.isEncrypted.value_or(false);
+    info.volumeURL = resources.volumeRoot;
+    info.device = std::move(device);
+    return info;
+}
+
+} // namespace OndelCore::volumes
