@@ -1,5 +1,8 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 
+#include <array>
+#include <string_view>
+
 namespace OndelCore::benchmark {
 
 namespace {
@@ -16,10 +19,18 @@ struct Wording {
     }
 };
 
+constexpr std::array<std::string_view, std::variant_size_v<BenchmarkError::Cause>> causeNames{
+    "insufficientSpace", "io", "notWritable", "fileTooSmallForRandom"};
+
 } // namespace
 
 BenchmarkError::BenchmarkError(Cause cause)
     : m_cause(std::move(cause))
     , m_what(std::visit(Wording{}, m_cause)) {}
+
+ErrorName BenchmarkError::errorName() const noexcept {
+    return {"BenchmarkError", causeNames[m_cause.index()], "OndelCore.BenchmarkError",
+            static_cast<int>(m_cause.index())};
+}
 
 } // namespace OndelCore::benchmark

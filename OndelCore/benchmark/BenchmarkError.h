@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/NamedError.h"
 #include "OndelCore/benchmark/Hashing.h"
 
 #include <cstdint>
@@ -10,7 +11,7 @@
 namespace OndelCore::benchmark {
 
 /// Why a run failed. The texts for people are the model's; `what` is for logs and debuggers.
-class BenchmarkError : public std::exception {
+class BenchmarkError : public std::exception, public NamedError {
 public:
     /// Units: bytes.
     struct InsufficientSpace {
@@ -39,6 +40,7 @@ public:
 
     const Cause& cause() const { return m_cause; }
     const char* what() const noexcept override { return m_what.c_str(); }
+    ErrorName errorName() const noexcept override;
 
     bool operator==(const BenchmarkError& other) const { return m_cause == other.m_cause; }
     std::size_t hash() const { return hashFields(m_cause); }
@@ -49,9 +51,10 @@ private:
 };
 
 /// The run was told to stop. Nothing of it is left and there is no partial result.
-class Cancelled : public std::exception {
+class Cancelled : public std::exception, public NamedError {
 public:
     const char* what() const noexcept override { return "cancelled"; }
+    ErrorName errorName() const noexcept override { return {"Cancelled", {}, "OndelCore.Cancelled", 1}; }
 };
 
 } // namespace OndelCore::benchmark

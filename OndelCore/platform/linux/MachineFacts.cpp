@@ -70,28 +70,6 @@ std::optional<std::string> prettyNameIn(const fs::path& osRelease) {
     return std::nullopt;
 }
 
-std::optional<std::string> hardwareModelIn(const fs::path& root) {
-    for (const char* file : {"sys/class/dmi/id/product_name", "proc/device-tree/model"}) {
-        auto model = firstLineOf(root / file);
-        if (model &&
-            std::find(firmwareFillers.begin(), firmwareFillers.end(), *model) == firmwareFillers.end())
-            return model;
-    }
-    return std::nullopt;
-}
-
-std::optional<std::string> processorNameIn(const fs::path& cpuinfo) {
-    std::ifstream stream(cpuinfo);
-    for (std::string line; std::getline(stream, line);) {
-        const auto colon = line.find(':');
-        if (colon == std::string::npos || trimmed(std::string_view(line).substr(0, colon)) != "model name")
-            continue;
-        if (std::string name = trimmed(std::string_view(line).substr(colon + 1)); !name.empty())
-            return name;
-    }
-    return std::nullopt;
-}
-
 /// The memory modules as the kernel counts them, in blocks of one size (sysfs, "memory"): what the kernel
 /// keeps for itself is in there, so that 16 GB read as 16.
 std::optional<std::int64_t> memoryBlocksIn(const fs::path& folder) {
@@ -118,17 +96,36 @@ std::optional<std::int64_t> kernelMemoryBytes() {
 
 } // namespace
 
-MachineFacts machineFacts(const fs::path& root) {
-    MachineFacts facts;
-    facts.systemName = prettyNameIn(root / "etc/os-release");
-    if (!facts.systemName)
-        facts.systemName = prettyNameIn(root / "usr/lib/os-release");
-    facts.hardwareModel = hardwareModelIn(root);
-    facts.processorName = processorNameIn(root / "proc/cpuinfo");
-    facts.memoryBytes = memoryBlocksIn(root / "sys/devices/system/memory");
-    if (!facts.memoryBytes)
-        facts.memoryBytes = kernelMemoryBytes();
-    return facts;
+std::optional<std::string> systemName(const fs::path& root) {
+    const auto name = prettyNameIn(root / "etc/os-release");
+    return name ? name : prettyNameIn(root / "usr/lib/os-release");
+}
+
+std::optional<std::string> hardwareModel(const fs::path& root) {
+    for (const char* file : {"sys/class/dmi/id/product_name", "proc/device-tree/model"}) {
+        auto model = firstLineOf(root / file);
+        if (model &&
+            std::find(firmwareFillers.begin(), firmwareFillers.end(), *model) == firmwareFillers.end())
+            return model;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> processorName(const fs::path& root) {
+    std::ifstream stream(root / "proc/cpuinfo");
+    for (std::string line; std::getline(stream, line);) {
+        const auto colon = line.find(':');
+        if (colon == std::string::npos || trimmed(std::string_view(line).substr(0, colon)) != "model name")
+            continue;
+        if (std::string name = trimmed(std::string_view(line).substr(colon + 1)); !name.empty())
+            return name;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::int64_t> physicalMemoryBytes(const fs::path& root) {
+    const auto blocks = memoryBlocksIn(root / "sys/devices/system/memory");
+    return blocks ? blocks : kernelMemoryBytes();
 }
 
 std::string buildArchitecture() { return QSysInfo::buildCpuArchitecture().toStdString(); }

@@ -1,0 +1,24 @@
+#include "OndelAppSupport/LaunchLog.h"
+
+#include "OndelAppSupport/BugReporter.h"
+#include "OndelCore/logging/LogStore.h"
+#include "OndelCore/platform/StandardFolders.h"
+
+namespace OndelAppSupport {
+
+using OndelCore::logging::Log;
+using OndelCore::logging::LogField;
+using OndelCore::logging::LogOutput;
+
+void startLogging(const LogOutput& output) {
+    if (const auto state = OndelCore::platform::stateHome())
+        output.store.startFileLogging(*state / "Ondel Tarnwick");
+    const Log app("app", &output);
+    app.notice("launched", LogField::token("version", BugReporter::appVersion()),
+               LogField::token("os", BugReporter::osVersion()),
+               LogField::token("arch", BugReporter::architecture()),
+               LogField::token("model", BugReporter::hardwareModel()),
+               LogField::bool_("reportingConfigured", BugReporter::isConfigured()));
+}
+
+} // namespace OndelAppSupport
