@@ -1,0 +1,112 @@
+#include "TarnwickKit/views/PaletteKey.h"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace TarnwickKit::views {
+
+namespace {
+
+PaletteKey* keyOf(QObject* owner) {
+    return owner ? qobject_cast<PaletteKey*>(qmlAttachedPropertiesObject<PaletteKey>(owner, false)) : nullptr;
+}
+
+/// A popup shows in the window's overlay, far from the item that it belongs to.
+QQuickItem* popupParent(const QQuickItem* item) {
+    QObject* owner = item->parent();
+    if (!owner || owner->isWindowType() || qobject_cast<QQuickItem*>(owner))
+        return nullptr;
+    return owner->property("parent").value<QQuickItem*>();
+}
+
+QObject* above(QObject* owner) {
+    if (const auto* item = qobject_cast<QQuickItem*>(owner)) {
+        if (QQuickItem* opener = popupParent(item))
+            return opener;
+        if (item->parentItem())
+            return item->parentItem();
+        return item->window();
+    }
+    return owner->property("parent").value<QQuickItem*>();
+}
+
+} // namespace
+
+PaletteKey* PaletteKey::qmlAttachedProperties(QObject* owner) { return new PaletteKey(owner); }
+
+PaletteKey::PaletteKey(QObject* owner)
+    : QObject(owner) {
+    inherit();
+}
+
+void PaletteKey::install(QObject* view, const Palette& palette) {
+    auto* key = qobject_cast<PaletteKey*>(qmlAttachedPropertiesObject<PaletteKey>(view, true));
+    Q_ASSERT(key);
+    key->setPalette(palette);
+}
+
+void PaletteKey::setPalettePointer(Palette* palette) {
+    if (palette)
+        setPalette(*palette);
+}
+
+void PaletteKey::setPalette(const Palette& palette) {
+    const bool isFirst = !m_installed;
+    m_installed = true;
+    for (const auto& connection : m_wayUp)
+        disconnect(connection);
+    m_wayUp.clear();
+    use(palette);
+
+    // What lies beneath may have looked further up until now.
+    if (!isFirst)
+        return;
+    if (auto* item = qobject_cast<QQuickItem*>(parent()))
+        tellBeneath(item);
+    else if (auto* window = qobject_cast<QQuickWindow*>(parent()))
+        tellBeneath(window->contentItem());
+}
+
+void PaletteKey::tellBeneath(QQuickItem* item) {
+    const auto children = item->childItems();
+    for (QQuickItem* child : children) {
+        if (PaletteKey* key = keyOf(child))
+            key->inherit();
+        else
+            tellBeneath(child);
+    }
+}
+
+/// Takes the palette of the nearest key above, and follows every item on the way there, since each may move.
+void PaletteKey::inherit() {
+    if (m_installed)
+        return;
+    for (const auto& connection : m_wayUp)
+        disconnect(connection);
+    m_wayUp.clear();
+
+    const Palette* found = &Palette::light();
+    for (QObject* view = parent(); view; view = above(view)) {
+        const PaletteKey* key = view == parent() ? nullptr : keyOf(view);
+        if (key) {
+            found = &key->palette();
+            m_wayUp.push_back(connect(key, &PaletteKey::paletteChanged, this, &PaletteKey::inherit));
+            break;
+        }
+        if (auto* item = qobject_cast<QQuickItem*>(view)) {
+            m_wayUp.push_back(connect(item, &QQuickItem::parentChanged, this, &PaletteKey::inherit));
+            if (!item->parentItem())
+                m_wayUp.push_back(connect(item, &QQuickItem::windowChanged, this, &PaletteKey::inherit));
+        }
+    }
+    use(*found);
+}
+
+void PaletteKey::use(const Palette& palette) {
+    if (m_palette == &palette)
+        return;
+    m_palette = &palette;
+    Q_EMIT paletteChanged();
+}
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QQuickItem>
+
+namespace TarnwickKit::views {
+
+/// A symbol by its name ("play.fill"), in one colour, sharp at every scale of the screen. It takes the room
+/// that symbolBox tells and is drawn in the middle of whatever room it gets. An empty name shows nothing.
+///
+/// Fails: an unknown name stops a debug build and shows nothing in a release build.
+class Symbol : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(QString name MEMBER m_name WRITE setName NOTIFY changed)
+    /// Units: logical pixels of the text that the symbol would stand in.
+    Q_PROPERTY(double size MEMBER m_size WRITE setSize NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color WRITE setColor NOTIFY changed)
+    /// As QML's Font type tells weights.
+    Q_PROPERTY(int weight MEMBER m_weight WRITE setWeight NOTIFY changed)
+
+public:
+    explicit Symbol(QQuickItem* parent = nullptr);
+
+    void setName(const QString& name);
+    void setSize(double size);
+    void setColor(const QColor& color);
+    void setWeight(int weight);
+    Q_SIGNAL void changed();
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData*) override;
+    void itemChange(ItemChange change, const ItemChangeData& value) override;
+    void geometryChange(const QRectF& to, const QRectF& from) override;
+
+private:
+    void redraw();
+
+    QString m_name;
+    double m_size = 13;
+    QColor m_color = Qt::black;
+    int m_weight = QFont::Normal;
+    bool m_isStale = true;
+};
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,46 @@
+#include "TarnwickKit/views/Typeface.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <cmath>
+
+namespace TarnwickKit::views {
+
+namespace {
+
+QFont font(const QStringList& families, double size, int weight) {
+    QFont result;
+    result.setFamilies(families);
+    result.setWeight(static_cast<QFont::Weight>(weight));
+    result.setHintingPreference(QFont::PreferNoHinting);
+    if (size == std::floor(size)) {
+        result.setPixelSize(static_cast<int>(size));
+    } else {
+        // Only points take fractions. They are turned back into pixels by the primary screen's resolution.
+        const QScreen* screen = QGuiApplication::primaryScreen();
+        result.setPointSizeF(size * 72 / (screen ? screen->logicalDotsPerInchY() : 96));
+    }
+    return result;
+}
+
+} // namespace
+
+QFont Typeface::display(double size, int weight) {
+    return font({QStringLiteral("Space Grotesk")}, size, weight);
+}
+
+QFont Typeface::figures(double size, int weight) {
+    return font({QStringLiteral("Space Grotesk Figures"), QStringLiteral("Space Grotesk")}, size, weight);
+}
+
+QFont Typeface::text(double size, int weight) { return font({QStringLiteral("Figtree")}, size, weight); }
+
+QFont Typeface::mono(double size, double spacing) {
+    QFont result = font({QStringLiteral("IBM Plex Mono")}, size, QFont::Normal);
+    if (spacing != 0)
+        result.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+    return result;
+}
+
+} // namespace TarnwickKit::views
