@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TarnwickKit/model/UserLocale.h"
+#include "OndelCore/platform/UserLocale.h"
 
 #include <QDateTime>
 #include <QString>
@@ -11,6 +11,8 @@
 #include <optional>
 
 namespace TarnwickKit::model {
+
+using OndelCore::platform::UserLocale;
 
 /// Turns figures into the texts that people read, in one locale and time zone.
 ///

@@ -1,9 +1,8 @@
 #include "OndelCore/health/DiskHealth.h"
 
-#include <QLocale>
-
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <cstring>
 #include <functional>
 #include <limits>
@@ -29,7 +28,6 @@ OndelSMART nvme() {
 }
 
 TEST(DiskHealth, WritesTheRowsInTheirOrderInTheUsersLocale) {
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     OndelSMART record = nvme();
     record.has_temperature = record.has_percent_used = record.has_spare = record.has_power_on_hours = 1;
     record.has_power_cycles = record.has_nvme_counters = record.has_data_written = record.has_data_read = 1;
@@ -66,11 +64,11 @@ TEST(DiskHealth, WritesTheRowsInTheirOrderInTheUsersLocale) {
                                       {"Media errors", "0", false},
                                       {"Error log entries", "1,000,000", false}}));
 
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    setenv("LC_ALL", "de_DE.UTF-8", 1);
     const Rows german = DiskHealth::smart(record).attributes;
+    setenv("LC_ALL", "C.UTF-8", 1);
     EXPECT_EQ(german[5].value, "1.234");
     EXPECT_EQ(german[7].value, "18.4 TB") << "terabytes and years have a point in every locale";
-    QLocale::setDefault(QLocale::c());
 }
 
 TEST(DiskHealth, WritesTheRowsOfAnAtaDrive) {

@@ -158,7 +158,7 @@ TEST(UserLocale, ReadsPosixNames) {
         {"xx_YY", "en_US"},
     };
     for (const auto& [posix, icu] : names)
-        EXPECT_EQ(icuLocaleName(posix), icu) << posix;
+        EXPECT_EQ(OndelCore::platform::icuLocaleName(posix), icu) << posix;
 }
 
 TEST(BenchmarkTestTitle, NamesTheRandomBlock) {

@@ -1,11 +1,11 @@
-#include "TarnwickKit/model/UserLocale.h"
+#include "OndelCore/platform/UserLocale.h"
 
 #include <unicode/locid.h>
 #include <unicode/ulocdata.h>
 
 #include <cstdlib>
 
-namespace TarnwickKit::model {
+namespace OndelCore::platform {
 
 namespace {
 
@@ -45,4 +45,4 @@ UserLocale UserLocale::fromEnvironment() {
     return {icuLocaleName(posixLocale("LC_NUMERIC")), icuLocaleName(posixLocale("LC_TIME"))};
 }
 
-} // namespace TarnwickKit::model
+} // namespace OndelCore::platform

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace TarnwickKit::model {
+namespace OndelCore::platform {
 
 /// Which language's marks and order the user wants for numbers and for dates, as ICU names locales ("de_DE").
 ///
@@ -23,4 +23,4 @@ struct UserLocale {
 /// ask for nothing in particular, which is "en_US" like the texts of the interface.
 std::string icuLocaleName(const std::string& posixName);
 
-} // namespace TarnwickKit::model
+} // namespace OndelCore::platform
