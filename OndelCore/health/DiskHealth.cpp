@@ -1,6 +1,8 @@
 #include "OndelCore/health/DiskHealth.h"
 
+#include "OndelCore/health/SmartReader.h"
 #include "OndelCore/platform/LocaleNumbers.h"
+#include "OndelCore/platform/VolumeResources.h"
 
 #include <string.h>
 
@@ -13,6 +15,15 @@ namespace OndelCore::health {
 namespace {
 
 using Attribute = DiskSMART::Attribute;
+
+/// The device that a mount path's file system lies on, without "/dev/".
+std::optional<std::string> bsdName(const std::filesystem::path& mountPath) {
+    constexpr std::string_view devices = "/dev/";
+    const std::optional<std::string> source = platform::mountedFrom(mountPath);
+    if (!source || !source->starts_with(devices))
+        return std::nullopt;
+    return source->substr(devices.size());
+}
 
 /// One decimal and a point in every locale; printf and streams would follow the process's locale.
 std::string oneDecimal(double value) {
@@ -111,6 +122,20 @@ void addErrors(const OndelSMART& record, Rows& rows) {
 }
 
 } // namespace
+
+DiskHealth::Reading DiskHealth::readInDetail(const std::filesystem::path& mountPath) {
+    const std::optional<std::string> name = bsdName(mountPath);
+    if (!name)
+        return {.smart = std::nullopt, .record = {}, .source = "no device is behind this path"};
+    SmartReading reading = readSmart(*name);
+    return {.smart = reading.record.available ? smart(reading.record) : DiskSMART{},
+            .record = reading.record,
+            .source = std::move(reading.source)};
+}
+
+std::optional<DiskSMART> DiskHealth::read(const std::filesystem::path& mountPath) {
+    return readInDetail(mountPath).smart;
+}
 
 DiskSMART DiskHealth::smart(const OndelSMART& record) {
     Rows rows;
