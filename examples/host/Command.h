@@ -23,6 +23,8 @@ struct Command {
 };
 
 extern const Command runCommand;
+extern const Command factsCommand;
+extern const Command volumesCommand;
 
 /// All commands, in the order in which --help lists them.
 std::span<const Command* const> commands();
