@@ -70,6 +70,7 @@ struct Formatter::Icu {
     std::unique_ptr<icu::SimpleDateFormat> longDate;
     std::unique_ptr<icu::SimpleDateFormat> shortDate;
     std::unique_ptr<icu::SimpleDateFormat> time;
+    std::unique_ptr<icu::SimpleDateFormat> dateAndTime;
 
     explicit Icu(const UserLocale& locale);
 
@@ -77,6 +78,16 @@ struct Formatter::Icu {
 };
 
 namespace {
+
+std::unique_ptr<icu::SimpleDateFormat> formatOf(const icu::UnicodeString& pattern, const icu::Locale& locale,
+                                                UErrorCode& status) {
+    auto format = std::make_unique<icu::SimpleDateFormat>(pattern, locale, status);
+    if (U_FAILURE(status))
+        return nullptr;
+    // Dates come in with the zone already applied.
+    format->adoptTimeZone(icu::TimeZone::getGMT()->clone());
+    return format;
+}
 
 /// The locale's own order, names and clock for the fields of `skeleton` (UTS #35, "Date Field Symbol Table").
 /// Absent only if ICU has no data at all.
@@ -86,13 +97,24 @@ std::unique_ptr<icu::SimpleDateFormat> dateFormat(const icu::Locale& locale, con
         icu::DateTimePatternGenerator::createInstance(locale, status));
     if (U_FAILURE(status))
         return nullptr;
-    const icu::UnicodeString pattern = generator->getBestPattern(skeleton, status);
-    auto format = std::make_unique<icu::SimpleDateFormat>(pattern, locale, status);
+    return formatOf(generator->getBestPattern(skeleton, status), locale, status);
+}
+
+/// A date and a time joined by the words that the locale has for it ("at"), which ICU keeps for long dates
+/// and would not take for abbreviated ones. {1} stands for the date there and {0} for the time.
+std::unique_ptr<icu::SimpleDateFormat> joined(const icu::SimpleDateFormat& date,
+                                              const icu::SimpleDateFormat& time, const icu::Locale& locale) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(locale, status));
     if (U_FAILURE(status))
         return nullptr;
-    // Dates come in with the zone already applied.
-    format->adoptTimeZone(icu::TimeZone::getGMT()->clone());
-    return format;
+    icu::UnicodeString datePattern;
+    icu::UnicodeString timePattern;
+    icu::UnicodeString pattern = generator->getDateTimeFormat(UDAT_LONG, status);
+    pattern.findAndReplace(u"{1}", date.toPattern(datePattern));
+    pattern.findAndReplace(u"{0}", time.toPattern(timePattern));
+    return formatOf(pattern, locale, status);
 }
 
 icu::number::LocalizedNumberFormatter numberFormat(const icu::Locale& locale,
@@ -109,7 +131,9 @@ Formatter::Icu::Icu(const UserLocale& locale)
     longDate = dateFormat(dates, u"MMMdyyyy");
     shortDate = dateFormat(dates, u"MMMd");
     time = dateFormat(dates, u"jmm");
-    if (!longDate || !shortDate || !time)
+    if (longDate && time)
+        dateAndTime = joined(*longDate, *time, dates);
+    if (!longDate || !shortDate || !time || !dateAndTime)
         qFatal("ICU has no data for dates");
 }
 
@@ -201,6 +225,10 @@ QString Formatter::runStamp(const QDateTime& date, double durationSeconds) const
     const QDateTime local = m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime();
     return m_icu->stamp(*m_icu->longDate, local) + separator + m_icu->stamp(*m_icu->time, local) + separator +
            QString::number(toInteger(std::round(durationSeconds))) + u's';
+}
+
+QString Formatter::dateAndTime(const QDateTime& date) const {
+    return m_icu->stamp(*m_icu->dateAndTime, m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime());
 }
 
 } // namespace TarnwickKit::model

@@ -53,6 +53,8 @@ public:
     QString shortStamp(const QDateTime& date) const;
     /// "May 1, 2024 · 12:34 PM · 63s". Fails: as `grouped`, for the duration.
     QString runStamp(const QDateTime& date, double durationSeconds) const;
+    /// "Mar 14, 2026 at 9:26 AM"
+    QString dateAndTime(const QDateTime& date) const;
 
 private:
     struct Icu;
