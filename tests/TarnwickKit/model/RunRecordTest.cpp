@@ -1,0 +1,335 @@
+#include "TarnwickKit/model/RunRecord.h"
+
+#include "SampleRun.h"
+#include "TarnwickKit/model/RunRecordJson.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+namespace TarnwickKit::model {
+
+namespace {
+
+using namespace OndelCore::benchmark;
+using OndelCore::volumes::VolumeCapabilities;
+using OndelCore::volumes::VolumeInfo;
+using Kind = RunRecord::Kind;
+
+const QDateTime start(QDate(2024, 5, 1), QTime(12, 34, 56, 789), Qt::UTC);
+
+DriveIdentity drive(const std::filesystem::path&) { return {"ACME Disk", "NVMe"}; }
+DriveIdentity noDrive(const std::filesystem::path&) {
+    ADD_FAILURE() << "a network volume has no drive to ask";
+    return {};
+}
+
+VolumeInfo volume(bool isInternal, bool isRemovable) {
+    VolumeInfo info;
+    info.name = "Data";
+    info.total = 1000;
+    info.available = 400;
+    info.isInternal = isInternal;
+    info.isRemovable = isRemovable;
+    info.volumeURL = "/mnt/data";
+    return info;
+}
+
+VolumeCapabilities capabilities(const char* type) {
+    VolumeCapabilities known;
+    known.filesystemType = type;
+    known.maxNameLength = 255;
+    known.blockSize = 4096;
+    known.optimalIOSize = 131072;
+    return known;
+}
+
+ThroughputResult throughput(std::size_t sampleCount) {
+    ThroughputResult result{1000, 2.0, 4096, {}};
+    for (std::size_t index = 0; index < sampleCount; ++index)
+        result.samples.push_back({static_cast<double>(index), 1000.0 - static_cast<double>(index)});
+    return result;
+}
+
+TEST(RunRecord, CopiesTheFiguresOfARun) {
+    BenchmarkResult result;
+    result.sequentialWrite = throughput(3);
+    result.sequentialRead = throughput(1);
+    result.randomRead = IOPSResult{500, 0.25, 8192};
+    result.randomWrite = IOPSResult{500, 0, 8192};
+    result.fileOps = FileOpsResult{{1000, 4}, {1, 1}, {1, 1}, {1, 1}};
+    BenchmarkPlan plan;
+    plan.writeBlockSize = 1;
+    plan.readBlockSize = 2;
+    plan.randomBlockSize = 3;
+    plan.bypassCache = false;
+    const auto run =
+        RunRecord::from(result, volume(true, false), capabilities("ext4"), start, plan, std::nullopt, drive);
+    EXPECT_FALSE(run.id.isNull());
+    EXPECT_EQ(run.volumeName, "Data");
+    EXPECT_EQ(run.date, start);
+    EXPECT_EQ(run.duration, 4.25);
+    EXPECT_EQ(run.writeBps, 998);
+    EXPECT_EQ(run.writePeakBps, 1000);
+    EXPECT_EQ(run.writeMinBps, 998);
+    EXPECT_EQ(run.readBps, 500);
+    EXPECT_EQ(run.readPeakBps, 1000);
+    EXPECT_EQ(run.readMinBps, std::nullopt);
+    EXPECT_EQ(run.randomReadIOPS, 2000);
+    EXPECT_EQ(run.randomReadBps, 2000 * 8192);
+    EXPECT_EQ(run.randomWriteIOPS, 0);
+    EXPECT_EQ(run.fileOpsPerSec, 250);
+    EXPECT_EQ(run.writeSamples, (std::vector<RunSample>{{0, 1000}, {1, 999}, {2, 998}}));
+    EXPECT_EQ(run.fsType, "ext4");
+    EXPECT_EQ(run.optimalIO, 131072);
+    EXPECT_EQ(run.blockSize, 4096);
+    EXPECT_EQ(run.maxName, 255);
+    EXPECT_EQ(run.capacityBytes, 1000);
+    EXPECT_EQ(run.freeBytes, 400);
+    EXPECT_EQ(run.sizeLabel, "5.0 GiB");
+    EXPECT_EQ(run.writeBlock, 1);
+    EXPECT_EQ(run.readBlock, 2);
+    EXPECT_EQ(run.randomBlock, 3);
+    EXPECT_EQ(run.bypassCache, false);
+    EXPECT_EQ(run.deviceModel, "ACME Disk");
+    EXPECT_EQ(run.deviceProtocol, "NVMe");
+
+    plan.size = BenchmarkSize::fillDisk(1);
+    const auto bare = RunRecord::from({}, std::nullopt, std::nullopt, start, plan, -3.0, noDrive);
+    EXPECT_EQ(bare.sizeLabel, "Fill disk");
+    EXPECT_EQ(bare.volumeName, "Volume");
+    EXPECT_EQ(bare.duration, 0) << "a clock set back must not make a record that cannot be read again";
+    EXPECT_EQ(bare.writeBps, std::nullopt);
+    EXPECT_EQ(bare.capacityBytes, std::nullopt);
+    EXPECT_NE(bare.id, run.id);
+}
+
+TEST(RunRecord, TellsHowTheVolumeIsAttached) {
+    struct Case {
+        std::optional<VolumeInfo> volume;
+        const char* type;
+        const char* connection;
+        Kind kind;
+        std::optional<QString> protocol;
+    };
+    for (const Case& each : {
+             Case{volume(true, false), "ext4", "Internal", Kind::internalDrive, "NVMe"},
+             Case{volume(true, true), "ext4", "Removable", Kind::external, "NVMe"},
+             Case{volume(false, false), "ext4", "External", Kind::external, "NVMe"},
+             Case{std::nullopt, "ext4", "Internal", Kind::internalDrive, std::nullopt},
+             Case{volume(true, true), "SMBFS", "Network", Kind::network, "SMB"},
+             Case{std::nullopt, "cifs", "Network", Kind::network, "SMB"},
+         }) {
+        const bool isOnNetwork = each.kind == Kind::network;
+        const auto run = RunRecord::from({}, each.volume, capabilities(each.type), start, {}, 1.0,
+                                         isOnNetwork ? noDrive : drive);
+        EXPECT_EQ(run.connection, each.connection);
+        EXPECT_EQ(run.kind, each.kind) << each.connection;
+        EXPECT_EQ(run.deviceProtocol, each.protocol);
+        EXPECT_EQ(run.deviceModel.has_value(), !isOnNetwork && each.volume);
+    }
+}
+
+TEST(RunRecord, ThinsItsCurves) {
+    const std::pair<std::size_t, std::size_t> cases[] = {{0, 0},    {79, 79},   {80, 80},  {159, 159},
+                                                         {160, 80}, {239, 120}, {240, 80}, {100000, 80}};
+    for (const auto& [samples, points] : cases) {
+        BenchmarkResult result;
+        result.sequentialRead = throughput(samples);
+        const auto curve = RunRecord::from(result, std::nullopt, std::nullopt, start, {}).readSamples;
+        EXPECT_EQ(curve.size(), points) << samples;
+        if (points > 1) {
+            EXPECT_EQ(curve.front().t, 0);
+            EXPECT_EQ(curve[1].t, static_cast<double>(std::max<std::size_t>(1, samples / 80)));
+        }
+    }
+}
+
+TEST(RunRecord, HasAHeadline) {
+    RunRecord run;
+    run.volumeName = "Data";
+    const auto titles = [&] { return run.screenshotTitle() + " | " + run.screenshotSubtitle(); };
+    EXPECT_EQ(titles(), "Data | Internal");
+    run.fsType = "apfs";
+    EXPECT_EQ(titles(), "Data | Internal · APFS");
+    run.kind = Kind::external;
+    EXPECT_EQ(titles(), "External Drive | External");
+    run.deviceModel = "ACME Disk";
+    run.deviceProtocol = "USB";
+    EXPECT_EQ(titles(), "ACME Disk | External · USB");
+    run.fsType = "NFS";
+    EXPECT_EQ(titles(), "USB Server | Network volume");
+    run.deviceProtocol.reset();
+    EXPECT_EQ(titles(), "NFS Server | Network volume");
+    run.kind = Kind::network;
+    run.fsType.reset();
+    EXPECT_EQ(titles(), "Network Server | Network volume");
+    run.customTitle = "Mine";
+    EXPECT_EQ(titles(), "Mine | Network volume");
+}
+
+TEST(RunRecord, CutsTitlesBetweenCharacters) {
+    const QString family = "👨‍👩‍👧‍👦";
+    const QString accented = QString::fromUtf8("e\u0301");
+    EXPECT_EQ(RunRecord::customTitleFrom("   \n\t "), std::nullopt);
+    EXPECT_EQ(RunRecord::customTitleFrom("  a b\n"), "a b");
+    EXPECT_EQ(RunRecord::customTitleFrom(" " + QString(61, 'x')), QString(60, 'x'));
+    EXPECT_EQ(RunRecord::customTitleFrom(QString(60, 'x')), QString(60, 'x'));
+    EXPECT_EQ(RunRecord::customTitleFrom(family.repeated(70)), family.repeated(60));
+    EXPECT_EQ(RunRecord::customTitleFrom(accented.repeated(61)), accented.repeated(60));
+}
+
+TEST(RunRecordJson, WritesTheFieldsInTheirOrder) {
+    RunRecord run;
+    run.id = QUuid::fromString(QString("1b4e28ba-2fa1-4d2b-883f-0016d3cca427"));
+    run.volumeName = "A \"quoted\" \\ \n \u0001 Ä";
+    run.connection = "Internal";
+    run.date = start.toOffsetFromUtc(7200);
+    run.duration = 62.5;
+    run.writeBps = 1e8;
+    run.writeSamples = {{0, 1.5}, {0.1, 1e22}};
+    run.freeBytes = 9223372036854775807;
+    run.bypassCache = true;
+    run.kind = Kind::external;
+    const QByteArray expected =
+        R"({"id":"1B4E28BA-2FA1-4D2B-883F-0016D3CCA427","volumeName":"A \"quoted\" \\ \u000a \u0001 Ä",)"
+        R"("connection":"Internal","date":"2024-05-01T12:34:56Z","duration":62.5,"writeBps":1e+08,)"
+        R"("writeSamples":[{"t":0,"v":1.5},{"t":0.1,"v":1e+22}],"readSamples":[],)"
+        R"("freeBytes":9223372036854775807,"bypassCache":true,"kind":"external"})";
+    EXPECT_EQ(encodeRun(run), expected);
+
+    run.date = QDateTime(start.date(), QTime(12, 34, 56), Qt::UTC);
+    EXPECT_EQ(decodeRun(expected), run);
+    EXPECT_EQ(std::hash<RunRecord>()(*decodeRun(expected)), std::hash<RunRecord>()(run));
+
+    run.readMinBps = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(encodeRun(run), std::nullopt);
+}
+
+TEST(RunRecordJson, ReadsBackWhatItWrites) {
+    const RunRecord run = fullRun();
+    const auto json = encodeRun(run);
+    ASSERT_TRUE(json);
+    EXPECT_EQ(decodeRun(*json), run);
+    EXPECT_EQ(decodeRuns("[" + *json + "," + *json + "]"), (std::vector<RunRecord>{run, run}));
+    EXPECT_EQ(decodeRuns(" [ ] "), std::vector<RunRecord>());
+}
+
+/// A record's JSON with one key replaced: by another value, or by nothing if `value` is empty.
+QByteArray replaced(const char* key, const QByteArray& value) {
+    RunRecord run = fullRun();
+    run.writeSamples = run.readSamples = {};
+    const QByteArray json = encodeRun(run).value();
+    const qsizetype begin = json.indexOf(QByteArray("\"") + key + "\":");
+    qsizetype end = json.indexOf(",\"", begin);
+    if (end < 0)
+        end = json.size() - 1;
+    const QByteArray member = value.isEmpty() ? "\"unknown\":[{}]" : QByteArray("\"") + key + "\":" + value;
+    return json.left(begin) + member + json.mid(end);
+}
+
+TEST(RunRecordJson, IsStrictButForUnknownKeysAndAbsentOptions) {
+    struct Case {
+        const char* key;
+        QByteArray value;
+        bool reads;
+    };
+    QByteArray longCurve = "[{\"t\":0,\"v\":0}";
+    for (std::size_t points = 1; points < maxCurvePoints; ++points)
+        longCurve += ",{\"t\":0,\"v\":0}";
+    for (const Case& each : std::initializer_list<Case>{
+             {"sizeLabel", "", true},
+             {"sizeLabel", "null", true},
+             {"sizeLabel", "1", false},
+             {"bypassCache", "null", true},
+             {"bypassCache", "1", false},
+             {"kind", "", false},
+             {"kind", "null", false},
+             {"kind", "\"Network\"", false},
+             {"kind", "\"network\"", true},
+             {"id", "", false},
+             {"id", "\"1b4e28ba-2fa1-4d2b-883f-0016d3cca427\"", true},
+             {"id", "\"{1B4E28BA-2FA1-4D2B-883F-0016D3CCA4}\"", false},
+             {"id", "\"1B4E28BA2FA14D2B883F0016D3CCA42700000\"", false},
+             {"id", "\"00000000-0000-0000-0000-000000000000\"", true},
+             {"date", "\"2024-05-01T12:34:56Z\"", true},
+             {"date", "\"2024-05-01T12:34:56.5Z\"", false},
+             {"date", "\"2024-05-01T12:34:56+00:00\"", false},
+             {"date", "\"2024-05-01 12:34:56Z\"", false},
+             {"date", "\"2024-05-01T24:00:00Z\"", false},
+             {"date", "\"2024-02-30T12:34:56Z\"", false},
+             {"date", "1714566896", false},
+             {"duration", "1e-400", true},
+             {"duration", "1e400", false},
+             {"duration", "-1", false},
+             {"duration", "9.3e18", false},
+             {"duration", "NaN", false},
+             {"duration", "01", false},
+             {"duration", ".5", false},
+             {"duration", "\"1\"", false},
+             {"writeBps", "9e24", true},
+             {"writeBps", "9.3e24", false},
+             {"randomReadIOPS", "9.3e18", false},
+             {"maxName", "255.0", true},
+             {"maxName", "2.55e2", true},
+             {"maxName", "255.5", false},
+             {"maxName", "-1", false},
+             {"capacityBytes", "9223372036854775807", true},
+             {"capacityBytes", "9223372036854775808", false},
+             {"capacityBytes", "1e30", false},
+             {"volumeName", "\"\\ud83d\\ude00\\u00e4\\/\"", true},
+             {"volumeName", "\"\\ud83d\"", false},
+             {"volumeName", "\"\\ud83dx\"", false},
+             {"volumeName", "\"\\ude00\\ud83d\"", false},
+             {"volumeName", "\"\\x\"", false},
+             {"volumeName", "\"\\u12\"", false},
+             {"volumeName", "\"a\nb\"", false},
+             {"volumeName", "\"\xff\"", false},
+             {"writeSamples", "[{\"t\":0,\"v\":1,\"w\":null}]", true},
+             {"writeSamples", "[{\"t\":0}]", false},
+             {"writeSamples", "[{\"t\":0,\"v\":-1}]", false},
+             {"writeSamples", "{}", false},
+             {"writeSamples", longCurve + "]", true},
+             {"writeSamples", longCurve + ",{\"t\":0,\"v\":0}]", false},
+             {"fsType", "\"x\",\"deep\":" + QByteArray(60, '[') + QByteArray(60, ']'), true},
+             {"fsType", "\"x\",\"deep\":" + QByteArray(100000, '['), false},
+         })
+        EXPECT_EQ(decodeRun(replaced(each.key, each.value)).has_value(), each.reads)
+            << each.key << ": " << each.value.left(60).toStdString();
+}
+
+TEST(RunRecordJson, RefusesWhatIsNoRun) {
+    const QByteArray run = encodeRun(fullRun()).value();
+    EXPECT_FALSE(decodeRun(""));
+    EXPECT_FALSE(decodeRun("[]"));
+    EXPECT_FALSE(decodeRun("{}"));
+    EXPECT_FALSE(decodeRun(run + "x"));
+    EXPECT_FALSE(decodeRun(run + QByteArray(1, '\0')));
+    EXPECT_FALSE(decodeRun(run + QByteArray(static_cast<qsizetype>(maxRunFileBytes), ' ')));
+    EXPECT_FALSE(decodeRuns("[" + run + ",]"));
+    EXPECT_FALSE(decodeRuns("[" + run + run + "]"));
+    EXPECT_TRUE(decodeRun(" " + run + "\r\n\t "));
+}
+
+TEST(RunRecordJson, DecodesOrRefusesDamagedRuns) {
+    const QByteArray original = encodeRun(fullRun()).value();
+    std::mt19937 random(20240501);
+    int decoded = 0;
+    for (int round = 0; round < 5000; ++round) {
+        QByteArray damaged = original;
+        mutate(damaged, random);
+        if (const auto run = decodeRun(damaged)) {
+            ++decoded;
+            const auto again = encodeRun(*run);
+            ASSERT_TRUE(again) << damaged.toStdString();
+            ASSERT_EQ(decodeRun(*again), run);
+        }
+    }
+    EXPECT_GT(decoded, 50) << "the mutations no longer leave anything readable";
+    EXPECT_LT(decoded, 4950);
+}
+
+} // namespace
+
+} // namespace TarnwickKit::model
