@@ -22,7 +22,7 @@ struct ThroughputResult {
     std::int64_t bytesProcessed = 0; ///< what the system calls really moved
     double duration = 0;        ///< seconds; for the write with its closing flush, which lies in no sample
     std::int64_t blockSize = 0; ///< bytes per call, as used
-    std::vector<ThroughputSample> samples; ///< in time order
+    std::vector<ThroughputSample> samples{}; ///< in time order
 
     /// Overall rate; 0 without a duration.
     double bytesPerSecond() const;
@@ -62,10 +62,10 @@ struct FileOpResult {
 };
 
 struct FileOpsResult {
-    FileOpResult create;
-    FileOpResult stat;
-    FileOpResult rename;
-    FileOpResult remove; ///< the phase "delete", a word that the language keeps for itself
+    FileOpResult create{};
+    FileOpResult stat{};
+    FileOpResult rename{};
+    FileOpResult remove{}; ///< the phase "delete", a word that the language keeps for itself
 
     bool operator==(const FileOpsResult&) const = default;
     std::size_t hash() const { return hashFields(create, stat, rename, remove); }
@@ -73,11 +73,11 @@ struct FileOpsResult {
 
 /// What a run brought; a test that was not asked for is absent.
 struct BenchmarkResult {
-    std::optional<ThroughputResult> sequentialWrite;
-    std::optional<ThroughputResult> sequentialRead;
-    std::optional<IOPSResult> randomRead;
-    std::optional<IOPSResult> randomWrite;
-    std::optional<FileOpsResult> fileOps;
+    std::optional<ThroughputResult> sequentialWrite{};
+    std::optional<ThroughputResult> sequentialRead{};
+    std::optional<IOPSResult> randomRead{};
+    std::optional<IOPSResult> randomWrite{};
+    std::optional<FileOpsResult> fileOps{};
 
     bool operator==(const BenchmarkResult&) const = default;
     std::size_t hash() const {

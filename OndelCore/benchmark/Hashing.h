@@ -13,6 +13,13 @@ concept HashesItsFields = requires(const Value& value) {
     { value.hash() } -> std::same_as<std::size_t>;
 };
 
+/// Whole numbers hash to themselves: the multiplication (by 2^64 divided by the golden ratio) spreads
+/// neighbours apart, and the shift lets the upper half bear on the fields that follow.
+constexpr std::size_t mixed(std::size_t hash, std::size_t field) {
+    const std::size_t product = (hash ^ field) * 0x9e3779b97f4a7c15U;
+    return product ^ (product >> 32);
+}
+
 template <class Field>
 std::size_t hashField(const Field& field) {
     if constexpr (requires { std::hash<Field>{}(field); }) {
@@ -20,7 +27,7 @@ std::size_t hashField(const Field& field) {
     } else {
         std::size_t hash = std::ranges::size(field);
         for (const auto& element : field)
-            hash = hash * 31 + hashField(element);
+            hash = mixed(hash, hashField(element));
         return hash;
     }
 }
@@ -28,8 +35,7 @@ std::size_t hashField(const Field& field) {
 template <class... Fields>
 std::size_t hashFields(const Fields&... fields) {
     std::size_t hash = 0;
-    // The constant is 2^64 divided by the golden ratio: equal fields do not cancel each other.
-    ((hash ^= hashField(fields) + 0x9e3779b97f4a7c15U + (hash << 6) + (hash >> 2)), ...);
+    ((hash = mixed(hash, hashField(fields))), ...);
     return hash;
 }
 

@@ -1,0 +1,75 @@
+#include "BentSystem.h"
+
+using namespace OndelCore::benchmark;
+
+namespace test {
+
+namespace {
+template <class... Text>
+std::string line(const Text&... text) {
+    std::string whole;
+    ((whole += text), ...);
+    return whole;
+}
+} // namespace
+
+BentSystem::BentSystem() {
+    const auto note = [this](const auto&... text) { diary.push_back(line(text...)); };
+    monotonicNanoseconds = [this, note] {
+        note("clock");
+        return ++seconds * 1'000'000'000;
+    };
+    freeBytes = [note](const auto&) {
+        note("free");
+        return std::int64_t{1} << 40;
+    };
+    read = [note](int file, void* bytes, std::size_t size) {
+        note("read ", std::to_string(size));
+        return ::read(file, bytes, size);
+    };
+    write = [note](int file, const void* bytes, std::size_t size) {
+        note("write ", std::to_string(size));
+        return ::write(file, bytes, size);
+    };
+    pread = [note](int file, void* bytes, std::size_t size, off_t offset) {
+        note("pread ", std::to_string(size), " @ ", std::to_string(offset));
+        return ::pread(file, bytes, size, offset);
+    };
+    pwrite = [note](int file, const void* bytes, std::size_t size, off_t offset) {
+        note("pwrite ", std::to_string(size), " @ ", std::to_string(offset));
+        return ::pwrite(file, bytes, size, offset);
+    };
+    flushToMedium = [note](int) { note("flush"); };
+}
+
+BenchmarkResult BentSystem::run(const BenchmarkPlan& plan, const std::filesystem::path& folder) {
+    return runInFolder(*this, plan, folder, flag, [this](const BenchmarkProgress& now) {
+        onProgress(now);
+        diary.push_back(line("progress ", rawValue(now.test), " ", std::to_string(now.completedBytes), "/",
+                             std::to_string(now.totalBytes), " at ",
+                             std::to_string(static_cast<int>(now.elapsed)), " s"));
+    });
+}
+
+std::string BentSystem::failureOf(const BenchmarkPlan& plan, const std::filesystem::path& folder) {
+    try {
+        run(plan, folder);
+        return {};
+    } catch (const std::exception& failure) {
+        return failure.what();
+    }
+}
+
+BenchmarkPlan smallPlan(std::set<BenchmarkTest> tests, BenchmarkSize size) {
+    return {.tests = std::move(tests),
+            .size = size,
+            .writeBlockSize = 4096,
+            .readBlockSize = 4096,
+            .randomBlockSize = 4096,
+            .randomOpCount = 3,
+            .fileOpCount = 64,
+            .bypassCache = false,
+            .sampleInterval = 0};
+}
+
+} // namespace test

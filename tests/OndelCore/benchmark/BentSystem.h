@@ -1,0 +1,44 @@
+#pragma once
+
+#include "OndelCore/benchmark/Runner.h"
+#include "support/TemporaryFolder.h"
+
+#include <filesystem>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace test {
+
+/// An engine environment whose clock ticks one second per reading and whose disk has room, with a diary of
+/// what the engine asked: "clock", "write 4096", "pread 4096 @ 8192", "flush", "progress sequentialWrite
+/// 1/2".
+struct BentSystem : OndelCore::benchmark::EngineEnvironment {
+    BentSystem();
+    BentSystem(const BentSystem&) = delete;
+
+    OndelCore::benchmark::BenchmarkResult run(const OndelCore::benchmark::BenchmarkPlan& plan,
+                                              const std::filesystem::path& folder);
+    /// What the run failed with: the text of the exception; empty when it did not fail.
+    std::string failureOf(const OndelCore::benchmark::BenchmarkPlan& plan,
+                          const std::filesystem::path& folder);
+
+    std::vector<std::string> diary;
+    OndelCore::benchmark::CancelFlag flag;
+    /// Called at each progress event, before it is written down.
+    OndelCore::benchmark::ProgressListener onProgress = [](const auto&) {};
+    std::int64_t seconds = 0;
+};
+
+/// Everything in the folder, hidden or not.
+inline std::size_t entriesIn(const std::filesystem::path& folder) {
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
+}
+
+inline std::size_t openDescriptors() { return entriesIn("/proc/self/fd"); }
+
+/// A plan of small numbers: these tests alone, blocks of one page, no cache bypass, a sample per transfer.
+OndelCore::benchmark::BenchmarkPlan smallPlan(std::set<OndelCore::benchmark::BenchmarkTest> tests,
+                                              OndelCore::benchmark::BenchmarkSize size);
+
+} // namespace test

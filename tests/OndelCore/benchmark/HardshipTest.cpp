@@ -1,0 +1,249 @@
+// Runs that go wrong: each ends with the error or the result it should, and leaves no file and no descriptor.
+
+#include "BentSystem.h"
+#include "OndelCore/benchmark/BenchmarkEngine.h"
+#include "OndelCore/benchmark/BenchmarkError.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <new>
+
+using namespace OndelCore::benchmark;
+using test::BentSystem;
+using test::smallPlan;
+using enum BenchmarkTest;
+namespace fs = std::filesystem;
+
+namespace {
+
+thread_local std::size_t allocations = 0;
+
+const std::set<BenchmarkTest> everyTest(allBenchmarkTests.begin(), allBenchmarkTests.end());
+
+struct Hardship : testing::Test {
+    ~Hardship() override {
+        EXPECT_EQ(test::entriesIn(folder.path()), 0U);
+        EXPECT_EQ(test::openDescriptors(), descriptorsBefore);
+    }
+    test::TemporaryFolder folder;
+    BentSystem system;
+    std::size_t descriptorsBefore = test::openDescriptors();
+};
+
+template <class Transfer>
+auto failingAt(int call, int error, Transfer transfer) {
+    return [=, calls = 0](auto... arguments) mutable -> ssize_t {
+        if (++calls == call) {
+            errno = error;
+            return -1;
+        }
+        return transfer(arguments...);
+    };
+}
+
+TEST_F(Hardship, AFailingTransferEndsTheRunWithItsName) {
+    const auto plan = [](BenchmarkTest test) { return smallPlan({test}, BenchmarkSize::fixed(8 * 4096)); };
+    struct Case {
+        BenchmarkPlan plan;
+        std::function<void(BentSystem&)> bend;
+        std::string text;
+    };
+    const Case cases[]{
+        {plan(sequentialWrite), [](auto& s) { s.write = failingAt(3, EIO, s.write); },
+         "write: Input/output error"},
+        {plan(sequentialWrite), [](auto& s) { s.write = failingAt(3, ENOSPC, s.write); },
+         "write: No space left on device"},
+        {plan(sequentialRead), [](auto& s) { s.write = failingAt(3, EIO, s.write); },
+         "write(prepare): Input/output error"},
+        {plan(sequentialRead), [](auto& s) { s.read = failingAt(3, EIO, s.read); },
+         "read: Input/output error"},
+        {plan(randomRead), [](auto& s) { s.pread = failingAt(3, EIO, s.pread); },
+         "pread: Input/output error"},
+        {plan(randomWrite), [](auto& s) { s.pwrite = failingAt(3, EROFS, s.pwrite); },
+         "pwrite: Read-only file system"},
+        {smallPlan({randomRead}, BenchmarkSize::fixed(4095)), [](auto&) {},
+         "file too small for a random block"},
+    };
+    for (const Case& each : cases) {
+        BentSystem bent;
+        each.bend(bent);
+        EXPECT_EQ(bent.failureOf(each.plan, folder.path()), each.text);
+    }
+}
+
+TEST_F(Hardship, AFolderThatVanishesIsNoticedAtTheNextName) {
+    const auto vanish = [this] {
+        for (const auto& entry : fs::directory_iterator(folder.path()))
+            fs::remove_all(entry);
+    };
+    const auto beforeFirstOpen = [&](BentSystem& bent) {
+        bent.freeBytes = [&](const auto&) { return vanish(), std::int64_t{1} << 40; };
+    };
+    const auto afterTheFile = [&](BentSystem& bent) { bent.flushToMedium = [&](int) { vanish(); }; };
+    const auto atFileOp = [&](std::int64_t steps) {
+        return [&, steps](BentSystem& bent) {
+            bent.onProgress = [&, steps](const auto& now) {
+                if (now.completedBytes == steps)
+                    vanish();
+            };
+        };
+    };
+    struct Case {
+        BenchmarkTest test;
+        std::function<void(BentSystem&)> bend;
+        std::string text;
+    };
+    const std::string missing = "No such file or directory";
+    const Case cases[]{
+        {sequentialWrite, beforeFirstOpen, "open(write): " + missing},
+        {sequentialRead, beforeFirstOpen, "open(prepare): " + missing},
+        {sequentialRead, afterTheFile, "open(read): " + missing},
+        {randomRead, afterTheFile, "open(random): " + missing},
+        {fileOps, atFileOp(0), "create: " + missing},
+        {fileOps, atFileOp(256), "rename: " + missing}, // the phase of lstat complains of nothing
+        {fileOps, atFileOp(768), "unlink: " + missing},
+    };
+    for (const Case& each : cases) {
+        BentSystem bent;
+        each.bend(bent);
+        auto plan = smallPlan({each.test}, BenchmarkSize::fixed(8192));
+        plan.fileOpCount = 256;
+        EXPECT_EQ(bent.failureOf(plan, folder.path()), each.text);
+    }
+}
+
+TEST_F(Hardship, CancelTakesEffectBeforeTheNextCall) {
+    auto plan = smallPlan(everyTest, BenchmarkSize::fixed(8 * 4096));
+    for (const BenchmarkTest test : allBenchmarkTests) {
+        BentSystem bent;
+        bent.onProgress = [&](const auto& now) {
+            if (now.test == test)
+                bent.flag.cancel();
+        };
+        EXPECT_EQ(bent.failureOf(plan, folder.path()), "cancelled") << rawValue(test);
+        std::erase(bent.diary, "clock");
+        EXPECT_TRUE(bent.diary.back().starts_with("progress " + std::string(rawValue(test))));
+    }
+    plan.tests = {sequentialRead};
+    BentSystem bent;
+    bent.write = [&, write = bent.write](auto... arguments) {
+        return bent.flag.cancel(), write(arguments...);
+    };
+    EXPECT_EQ(bent.failureOf(plan, folder.path()), "cancelled");
+    EXPECT_EQ(bent.diary, (std::vector<std::string>{"free", "write 4096"}));
+}
+
+TEST_F(Hardship, AnInterruptedTransferIsMadeAgainUntilCancelled) {
+    system.write = failingAt(2, EINTR, system.write);
+    const auto plan = smallPlan({sequentialWrite}, BenchmarkSize::fixed(8192));
+    EXPECT_EQ(system.run(plan, folder.path()).sequentialWrite->bytesProcessed, 8192);
+    system.write = [this](auto...) {
+        system.flag.cancel();
+        errno = EINTR;
+        return -1;
+    };
+    EXPECT_EQ(system.failureOf(plan, folder.path()), "cancelled");
+}
+
+TEST_F(Hardship, NumbersBeyondTheMachineAreErrors) {
+    auto plan = smallPlan({sequentialWrite}, BenchmarkSize::fixed(8192));
+    plan.writeBlockSize = std::numeric_limits<std::int64_t>::max();
+    EXPECT_EQ(system.failureOf(plan, folder.path()), "memory: Cannot allocate memory");
+    plan.tests = {fileOps};
+    plan.fileOpCount = std::numeric_limits<std::int64_t>::max();
+    EXPECT_EQ(system.failureOf(plan, folder.path()), "memory: Cannot allocate memory");
+}
+
+TEST_F(Hardship, AFileSizeLimitIsAnErrorAndNotTheEndOfTheProcess) {
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{1048576, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    BenchmarkPlan plan = smallPlan({sequentialWrite}, BenchmarkSize::fixed(2097152));
+    plan.bypassCache = true;
+    std::string text;
+    try {
+        BenchmarkEngine().run(plan, folder.path(), {}).waitForFinished();
+    } catch (const std::exception& failure) {
+        text = failure.what();
+    }
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(text, "write: File too large");
+}
+
+TEST_F(Hardship, AKilledRunIsSweptAway) {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        system.onProgress = [&](const auto&) {
+            [[maybe_unused]] const auto told = write(ends[1], "!", 1);
+            pause();
+        };
+        system.run(smallPlan(everyTest, BenchmarkSize::fixed(1 << 20)), folder.path());
+        _exit(0);
+    }
+    char first = 0;
+    EXPECT_EQ(read(ends[0], &first, 1), 1);
+    close(ends[0]);
+    close(ends[1]);
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    EXPECT_EQ(test::entriesIn(folder.path()), 1U);
+
+    const fs::path bystander = folder.path() / ".ondel-writeprobe-X", target = folder.path() / "target";
+    std::ofstream(bystander).put('x');
+    fs::create_directory(target);
+    fs::create_symlink(target, folder.path() / ".ondel-analyzer-link");
+    std::ofstream(folder.path() / ".ondel-analyzer-file").put('x');
+    BenchmarkEngine::cleanupOrphans(folder.path());
+    EXPECT_EQ(test::entriesIn(folder.path()), 2U);
+    EXPECT_TRUE(fs::remove(bystander) && fs::remove(target));
+    BenchmarkEngine::cleanupOrphans(folder.path() / "missing");
+}
+
+TEST_F(Hardship, NothingIsAllocatedWhileMeasuring) {
+    std::vector<std::size_t> counted;
+    counted.reserve(10000);
+    const auto count = [&counted](auto transfer) {
+        return [&counted, transfer](auto... arguments) {
+            counted.push_back(allocations);
+            return transfer(arguments...);
+        };
+    };
+    EngineEnvironment quiet;
+    quiet.freeBytes = [](const auto&) { return std::int64_t{1} << 40; };
+    auto plan = smallPlan({}, BenchmarkSize::fixed(512 * 4096));
+    plan.randomOpCount = 2000;
+    plan.sampleInterval = 1e9;
+    plan.bypassCache = true;
+    quiet.write = count(quiet.write);
+    quiet.read = count(quiet.read);
+    quiet.pread = count(quiet.pread);
+    quiet.pwrite = count(quiet.pwrite);
+    for (const BenchmarkTest test : {sequentialWrite, sequentialRead, randomRead, randomWrite}) {
+        plan.tests = {test};
+        counted.clear();
+        runInFolder(quiet, plan, folder.path(), system.flag, [](const auto&) {});
+        if (test != sequentialWrite)
+            counted.erase(counted.begin(), counted.begin() + 512); // the preparation
+        ASSERT_GE(counted.size(), 512U);
+        EXPECT_EQ(counted.front(), counted.back()) << rawValue(test);
+    }
+}
+
+} // namespace
+
+void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size))
+        return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "support/TemporaryFolder.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+namespace test {
+
+/// A small file system of one test's own: "tmpfs", or "ext4", "xfs", "btrfs" on a loop device over a sparse
+/// image. Needs root and loop devices; where they are missing, `problem` says so and the test skips.
+///
+/// Units: bytes; XFS takes no less than 300 MiB, Btrfs no less than 110 MiB.
+/// Owner: the object unmounts, detaches and removes everything when it goes.
+class LoopMount {
+public:
+    LoopMount(const std::string& type, std::int64_t bytes, const std::string& mountOptions = {});
+    ~LoopMount();
+    LoopMount(const LoopMount&) = delete;
+    LoopMount& operator=(const LoopMount&) = delete;
+
+    const std::filesystem::path& path() const { return m_mountPoint; }
+
+    /// Why there is no file system; empty when there is one.
+    const std::string& problem() const { return m_problem; }
+
+    /// From now on every write there fails. Fails: false, while a file is open for writing.
+    bool remountReadOnly();
+
+    /// Fails: false, while any file or folder there is in use.
+    bool unmount();
+
+private:
+    TemporaryFolder m_folder;
+    std::filesystem::path m_mountPoint;
+    std::string m_problem;
+};
+
+} // namespace test
