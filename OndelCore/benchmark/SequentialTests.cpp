@@ -11,18 +11,22 @@ namespace OndelCore::benchmark {
 
 namespace {
 
-/// Watches the reserve that fillDisk leaves on the volume. It asks at every eighth write only: the question
-/// costs about as much as a small write.
+/// Watches the reserve that fillDisk leaves on the volume. It looks at every eighth write only: asking costs
+/// about as much as a small write.
 class ReserveWatch {
 public:
-    ReserveWatch(const TestRun& run, const std::filesystem::path& volume, std::int64_t leaveFree)
+    /// `targetBytes`: what could be written when the run began. Btrfs counts new data as used only at its
+    /// next commit, up to half a minute later; its live figure alone would let the reserve be written full.
+    ReserveWatch(const TestRun& run, const std::filesystem::path& volume, std::int64_t targetBytes)
         : m_run(run)
         , m_volume(volume)
-        , m_leaveFree(leaveFree) {}
+        , m_targetBytes(targetBytes)
+        , m_leaveFree(run.plan.size.asFillDisk()->leaveFree) {}
 
     /// Call before each write. A volume that no longer tells its free space has none.
-    bool isReached() {
-        if (m_turn == 0 && m_run.system.freeBytes(m_volume).value_or(0) <= m_leaveFree)
+    bool isReached(std::int64_t moved) {
+        if (m_turn == 0 &&
+            (m_run.system.freeBytes(m_volume).value_or(0) <= m_leaveFree || moved >= m_targetBytes))
             return true;
         m_turn = (m_turn + 1) % 8;
         return false;
@@ -31,6 +35,7 @@ public:
 private:
     const TestRun& m_run;
     const std::filesystem::path& m_volume;
+    std::int64_t m_targetBytes;
     std::int64_t m_leaveFree;
     int m_turn = 0;
 };
@@ -59,7 +64,7 @@ std::int64_t writeUntilFull(const TestRun& run, const DataFile& file, const Bloc
     std::int64_t moved = 0;
     for (;;) {
         run.throwIfCancelled();
-        if (reserve.isReached())
+        if (reserve.isReached(moved))
             return moved;
         const ssize_t written = file.write(buffer.first(block));
         if (written < 0 && errno == ENOSPC)
@@ -78,7 +83,7 @@ constexpr int createForWriting = O_WRONLY | O_CREAT | O_TRUNC;
 ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes,
                                  const std::filesystem::path& volume) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.writeBlockSize);
-    const auto* fillDisk = run.plan.size.asFillDisk();
+    const bool fillDisk = run.plan.size.asFillDisk() != nullptr;
     const DataFile file(run, createForWriting, "open(write): ");
     BlockBuffer buffer(block);
     buffer.fillWithRandomBytes();
@@ -86,7 +91,7 @@ ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes,
     ThroughputRecorder recorder(run, BenchmarkTest::sequentialWrite, fillDisk ? 0 : targetBytes);
     const auto transferred = [&](std::int64_t moved) { recorder.transferred(moved); };
     const std::int64_t moved =
-        fillDisk ? writeUntilFull(run, file, buffer, block, {run, volume, fillDisk->leaveFree}, transferred)
+        fillDisk ? writeUntilFull(run, file, buffer, block, {run, volume, targetBytes}, transferred)
                  : writeToTarget(run, file, buffer, block, targetBytes, "write: ", transferred);
     recorder.loopEnded(moved);
     file.flush();
