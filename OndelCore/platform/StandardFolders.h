@@ -13,4 +13,8 @@ std::optional<std::filesystem::path> homeFolder();
 /// It may not exist yet. Threads: any. Fails: absent without a home folder.
 std::optional<std::filesystem::path> stateHome();
 
+/// Where programs keep what belongs to the user (XDG Base Directory, "data"). It may not exist yet.
+/// Threads: any. Fails: absent without a home folder.
+std::optional<std::filesystem::path> dataHome();
+
 } // namespace OndelCore::platform

@@ -15,6 +15,14 @@ std::optional<std::filesystem::path> absoluteOf(const char* value) {
     return std::filesystem::path(value);
 }
 
+/// What `variable` says, else its default's place in the home folder.
+std::optional<std::filesystem::path> folderOf(const char* variable, const char* localName) {
+    if (auto folder = absoluteOf(std::getenv(variable)))
+        return folder;
+    const auto home = homeFolder();
+    return home ? std::optional(*home / ".local" / localName) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<std::filesystem::path> homeFolder() {
@@ -24,11 +32,8 @@ std::optional<std::filesystem::path> homeFolder() {
     return user ? absoluteOf(user->homeFolder.c_str()) : std::nullopt;
 }
 
-std::optional<std::filesystem::path> stateHome() {
-    if (auto folder = absoluteOf(std::getenv("XDG_STATE_HOME")))
-        return folder;
-    const auto home = homeFolder();
-    return home ? std::optional(*home / ".local" / "state") : std::nullopt;
-}
+std::optional<std::filesystem::path> stateHome() { return folderOf("XDG_STATE_HOME", "state"); }
+
+std::optional<std::filesystem::path> dataHome() { return folderOf("XDG_DATA_HOME", "share"); }
 
 } // namespace OndelCore::platform

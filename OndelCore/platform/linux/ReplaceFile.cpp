@@ -1,0 +1,89 @@
+#include "OndelCore/platform/ReplaceFile.h"
+
+#include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/Uuid.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <string>
+
+namespace OndelCore::platform {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* temporaryPrefix = ".ondel-new-";
+
+std::error_code lastError() { return {errno, std::generic_category()}; }
+
+std::error_code writeAndFlush(int file, std::string_view content) {
+    while (!content.empty()) {
+        const ssize_t written = write(file, content.data(), content.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return lastError();
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return fsync(file) == 0 ? std::error_code() : lastError();
+}
+
+/// Writes a file that has no name until it is complete, so that a killed process leaves nothing.
+/// Fails: also where the file system or a missing /proc does not allow it.
+std::error_code writeNameless(int folder, const std::string& name, std::string_view content, mode_t mode) {
+    const FileDescriptor file(openat(folder, ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, mode));
+    if (!file)
+        return lastError();
+    if (const std::error_code error = writeAndFlush(file.get(), content))
+        return error;
+    const std::string self = "/proc/self/fd/" + std::to_string(file.get());
+    return linkat(AT_FDCWD, self.c_str(), folder, name.c_str(), AT_SYMLINK_FOLLOW) == 0 ? std::error_code()
+                                                                                        : lastError();
+}
+
+std::error_code writeNamed(int folder, const std::string& name, std::string_view content, mode_t mode) {
+    const FileDescriptor file(openat(folder, name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, mode));
+    return file ? writeAndFlush(file.get(), content) : lastError();
+}
+
+} // namespace
+
+std::error_code replaceFile(const fs::path& path, std::string_view content, fs::perms permissions) {
+    const fs::path parent = path.has_parent_path() ? path.parent_path() : fs::path(".");
+    const FileDescriptor folder(open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder)
+        return lastError();
+    const auto mode = static_cast<mode_t>(permissions);
+    const std::string name = path.filename().string();
+    const std::string temporary = temporaryPrefix + newUuid();
+    std::error_code error;
+    if (writeNameless(folder.get(), temporary, content, mode))
+        error = writeNamed(folder.get(), temporary, content, mode);
+    if (!error && renameat(folder.get(), temporary.c_str(), folder.get(), name.c_str()) != 0)
+        error = lastError();
+    if (error) {
+        unlinkat(folder.get(), temporary.c_str(), 0);
+        return error;
+    }
+    // The new name is durable only with its folder. The file is in place whatever this answers.
+    fsync(folder.get());
+    return {};
+}
+
+void removeReplacementLeftovers(const fs::path& folder) {
+    const auto oldest = fs::file_time_type::clock::now() - std::chrono::minutes(1);
+    std::error_code ignored;
+    for (fs::directory_iterator entry(folder, ignored), end; entry != end; entry.increment(ignored)) {
+        std::error_code unknown;
+        if (entry->path().filename().native().starts_with(temporaryPrefix) &&
+            entry->last_write_time(unknown) < oldest && !unknown)
+            fs::remove(entry->path(), unknown);
+    }
+}
+
+} // namespace OndelCore::platform
