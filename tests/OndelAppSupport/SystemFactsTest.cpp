@@ -1,0 +1,84 @@
+#include "OndelAppSupport/AppIdentity.h"
+#include "OndelAppSupport/BugReporter.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+using namespace OndelAppSupport;
+
+namespace {
+
+struct Root {
+    test::TemporaryFolder folder;
+
+    void write(const std::string& file, const std::string& text) const {
+        const auto path = folder.path() / file;
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream(path) << text;
+    }
+};
+
+InformationDictionary dictionary(const QVariantMap& values) { return InformationDictionary(values); }
+
+} // namespace
+
+TEST(AppIdentity, NamesTheProduct) {
+    const AppIdentity identity = AppIdentity::current();
+    EXPECT_EQ(identity, AppIdentity::tarnwick());
+    EXPECT_EQ(identity.name, "Ondel Tarnwick");
+    EXPECT_EQ(identity.shortName, "Tarnwick");
+    EXPECT_EQ(identity.reportID, "tarnwick");
+    EXPECT_EQ(identity.website.scheme(), "https");
+    EXPECT_EQ(identity.website.path(), "/tarnwick");
+    EXPECT_TRUE(identity.website.isValid() && !identity.website.host().isEmpty());
+    EXPECT_EQ(BugReporter::endpoint().scheme(), "https");
+    EXPECT_EQ(BugReporter::endpoint().path(), "/api/report");
+}
+
+TEST(BugReporter, ReadsTheBuild) {
+    const QString version = QStringLiteral("CFBundleShortVersionString");
+    const QString number = QStringLiteral("CFBundleVersion");
+    const QString secret = QStringLiteral("OndelReportSecret");
+    EXPECT_EQ(BugReporter::appVersion(
+                  dictionary({{version, QStringLiteral("2.0")}, {number, QStringLiteral("7")}})),
+              "2.0 (7)");
+    EXPECT_EQ(BugReporter::appVersion(dictionary({{version, QStringLiteral("2.0")}})), "2.0 (?)");
+    EXPECT_EQ(BugReporter::appVersion(dictionary({{version, 2.0}, {number, QVariant()}})), "? (?)");
+    EXPECT_FALSE(BugReporter::appVersion().contains(u'?'));
+    EXPECT_FALSE(BugReporter::isConfigured(dictionary({})));
+    EXPECT_FALSE(BugReporter::isConfigured(dictionary({{secret, QString()}})));
+    EXPECT_FALSE(BugReporter::isConfigured(dictionary({{secret, 5}})));
+    EXPECT_TRUE(BugReporter::isConfigured(dictionary({{secret, QStringLiteral("s")}})));
+}
+
+TEST(BugReporter, ReadsTheSystem) {
+    const Root nothing;
+    EXPECT_EQ(BugReporter::osVersion(nothing.folder.path()), "Linux");
+    EXPECT_EQ(BugReporter::hardwareModel(nothing.folder.path()), "unknown");
+    EXPECT_EQ(BugReporter::chip(nothing.folder.path()), "unknown");
+    EXPECT_GT(BugReporter::memoryGB(nothing.folder.path()), 0) << "what the kernel counts";
+
+    const Root root;
+    const auto& path = root.folder.path();
+    root.write("usr/lib/os-release", "NAME=x\nPRETTY_NAME='Some Linux 7'\n");
+    EXPECT_EQ(BugReporter::osVersion(path), "Some Linux 7");
+    root.write("etc/os-release", "XPRETTY_NAME=no\nPRETTY_NAME=\"The \\\"Quoted\\\" Größe\"\nID=x\n");
+    EXPECT_EQ(BugReporter::osVersion(path), "The \"Quoted\" Größe");
+    root.write("sys/class/dmi/id/product_name", "To Be Filled By O.E.M.\n");
+    EXPECT_EQ(BugReporter::hardwareModel(path), "unknown");
+    root.write("proc/device-tree/model", std::string("Board 5\0", 8));
+    EXPECT_EQ(BugReporter::hardwareModel(path), "Board 5");
+    root.write("sys/class/dmi/id/product_name", "  Desktop 3000 \n");
+    root.write("proc/cpuinfo",
+               "processor\t: 0\nmodel\t\t: 1\nmodel name\t: Fast CPU @ 3 GHz\nmodel name\t: other\n");
+    root.write("sys/devices/system/memory/block_size_bytes", "c0000000\n"); // 3 GiB
+    for (const char* block : {"memory0", "memory1", "memory7", "memory9"})
+        root.write(std::string("sys/devices/system/memory/") + block + "/online", "1\n");
+    root.write("sys/devices/system/memory/memory8/online", "0\n");
+    EXPECT_EQ(BugReporter::memoryGB(path), 12);
+    EXPECT_EQ(BugReporter::hardwareSummary(path), "Desktop 3000 · Fast CPU @ 3 GHz · 12 GB");
+    root.write("sys/devices/system/memory/block_size_bytes", "8000000\n"); // half a GiB in all
+    EXPECT_EQ(BugReporter::memoryGB(path), 1);
+}

@@ -1,0 +1,88 @@
+#include "CapturedLog.h"
+#include "OndelCore/benchmark/BenchmarkTest.h"
+#include "OndelCore/logging/Redact.h"
+
+#include <QString>
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <limits>
+
+using namespace OndelCore::logging;
+
+namespace {
+
+enum class Connection { internal };
+std::string_view logToken(Connection) { return "Internal SSD"; }
+
+} // namespace
+
+TEST(Log, RendersEachKindOfField) {
+    std::setlocale(LC_NUMERIC, "de_DE.UTF-8"); // durations keep their full stop
+    const struct {
+        LogField field;
+        const char* text;
+    } cases[] = {
+        {LogField::int_("n", -5), "n=-5"},
+        {LogField::bytes("size", std::numeric_limits<std::int64_t>::max()), "size=9223372036854775807"},
+        {LogField::ms("took", 12.34), "took=12.3ms"},
+        {LogField::ms("took", -0.04), "took=-0.0ms"},
+        {LogField::ms("took", std::numeric_limits<double>::infinity()), "took=infms"},
+        {LogField::bool_("shown", false), "shown=false"},
+        {LogField::token("fs", "ext4"), "fs=ext4"},
+        {LogField::token("test", OndelCore::benchmark::BenchmarkTest::fileOps), "test=fileOps"},
+        {LogField::token("connection", Connection::internal), "connection=Internal SSD"},
+        {LogField::token("os", QStringLiteral("Größe")), "os=Größe"},
+        {LogField::classified("text", "a \"quoted\" text"), "text=\"a \"quoted\" text\""},
+        {LogField::failure(std::system_error(28, std::generic_category(), "/home/ann/x")),
+         "error=\"system_error posix=28 (No space left on device)\""},
+        {LogField::token("path", "/home/ann/x"), "path=«path» scrubbed=1"},
+        {LogField::classified("path", "ask bob@example.com"), "path=\"ask «email»\" scrubbed=1"},
+        {LogField::token("bytes", std::string_view("\xff\xc3(\0\xed\xa0\x80", 7)), nullptr},
+    };
+    test::CapturedLog captured;
+    for (const auto& [field, text] : cases) {
+        captured.log().notice("line", field);
+        const std::string body = captured.takeBody();
+        if (text)
+            EXPECT_EQ(body, std::string("line ") + text);
+        else // bytes that are no UTF-8 are replaced, and a NUL cuts nothing off
+            EXPECT_EQ(body, std::string("line bytes=\ufffd\ufffd(\0\ufffd\ufffd\ufffd", 5 + 6 + 6 + 2 + 9));
+    }
+    std::setlocale(LC_NUMERIC, "C");
+}
+
+TEST(Log, WritesMessageThenFieldsAtTheLevelAsked) {
+    test::CapturedLog captured;
+    captured.log().notice("launched");
+    EXPECT_EQ(captured.takeBody(), "launched");
+    captured.log().log(Log::Level::fault, "two", std::array{LogField::int_("a", 1), LogField::int_("b", 2)});
+    EXPECT_NE(captured.store().snapshot(1000).find("  fault  test  two a=1 b=2"), std::string::npos);
+    EXPECT_EQ(captured.takeBody(), "two a=1 b=2");
+
+    captured.log().debug("dropped", LogField::int_("a", 1));
+    EXPECT_EQ(captured.takeBody(), "");
+    Log::minimumLevel = Log::Level::error;
+    captured.log().notice("dropped");
+    EXPECT_EQ(captured.takeBody(), "");
+    captured.log().error("kept");
+    EXPECT_EQ(captured.takeBody(), "kept");
+    Log::minimumLevel = Log::Level::notice;
+}
+
+TEST(Log, FullDetailShowsEverything) {
+    test::CapturedLog captured;
+    Redact::detail = Redact::Detail::full;
+    captured.log().notice("line", LogField::name("path", "/home/ann/x"), LogField::opaque("id", "abc"));
+    Redact::detail = Redact::Detail::redacted;
+    EXPECT_EQ(captured.takeBody(), "line path=/home/ann/x id=abc");
+}
+
+TEST(Log, TakesALineOfTenMegabytes) {
+    test::CapturedLog captured;
+    captured.log().notice("line", LogField::token("text", std::string(10'000'000, '.') + " /home/ann/x"));
+    const std::string body = captured.takeBody();
+    EXPECT_EQ(body.size(), std::string("line text= «path» scrubbed=1").size() + 10'000'000);
+    EXPECT_TRUE(body.ends_with(" «path» scrubbed=1"));
+}

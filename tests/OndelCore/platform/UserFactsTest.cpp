@@ -1,0 +1,55 @@
+#include "OndelCore/platform/UserFacts.h"
+
+#include "OndelCore/platform/StandardFolders.h"
+
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <string>
+
+using namespace OndelCore::platform;
+
+namespace {
+
+/// Sets a variable of the environment, or takes it away, until the object goes.
+class Variable {
+public:
+    Variable(const char* name, const char* value)
+        : m_name(name)
+        , m_before(getenv(name)) {
+        value ? setenv(name, value, 1) : unsetenv(name);
+    }
+    ~Variable() { setenv(m_name, m_before.c_str(), 1); }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+private:
+    const char* m_name;
+    std::string m_before;
+};
+
+} // namespace
+
+TEST(StandardFolders, FollowTheEnvironmentThenTheUserDatabase) {
+    EXPECT_EQ(homeFolder(), getenv("HOME"));
+    EXPECT_EQ(stateHome(), getenv("XDG_STATE_HOME"));
+    const passwd* user = getpwuid(geteuid());
+    const Variable relative("XDG_STATE_HOME", "relative/is/ignored");
+    EXPECT_EQ(stateHome(), std::filesystem::path(getenv("HOME")) / ".local/state");
+    for (const char* home : {static_cast<const char*>(nullptr), "", "relative"}) {
+        const Variable noHome("HOME", home);
+        EXPECT_EQ(homeFolder(), user->pw_dir);
+        EXPECT_EQ(userFacts().homeFolder, user->pw_dir);
+    }
+}
+
+TEST(UserFacts, NameTheUserAndTheMachine) {
+    const UserFacts facts = userFacts();
+    EXPECT_EQ(facts.shortName, getpwuid(geteuid())->pw_name);
+    EXPECT_TRUE(facts.fullName && facts.fullName->find(',') == std::string::npos);
+    char name[256] = {};
+    gethostname(name, sizeof name - 1);
+    EXPECT_EQ(facts.hostName, name);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "OndelCore/platform/FileDescriptor.h"
+#include "support/TemporaryFolder.h"
+
+#include <optional>
+#include <string>
+
+namespace test {
+
+/// Listens where a journal would. Owner: the object; the socket goes with it.
+class JournalSocket {
+public:
+    JournalSocket();
+
+    std::filesystem::path path() const { return m_folder.path() / "socket"; }
+
+    /// The next entry as it was sent, read from the memory file if it came in one; absent when none waits.
+    std::optional<std::string> take();
+
+private:
+    TemporaryFolder m_folder;
+    OndelCore::platform::FileDescriptor m_socket;
+};
+
+} // namespace test
