@@ -1,0 +1,166 @@
+#include "OndelCore/platform/FakeDrives.h"
+#include "OndelCore/platform/FakeUDisks.h"
+#include "OndelCore/platform/SmartBlocks.h"
+
+#include <QDateTime>
+
+#include <gtest/gtest.h>
+#include <sys/sysmacros.h>
+
+#include <cerrno>
+
+namespace OndelCore::platform {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using test::FakeUDisks;
+using test::UDisksScript;
+
+const QString ata = u"org.freedesktop.UDisks2.Drive.Ata"_s;
+const QString nvme = u"org.freedesktop.UDisks2.NVMe.Controller"_s;
+const qulonglong disk = makedev(8, 0);
+
+QVariantMap ataProperties() {
+    return {{u"SmartSupported"_s, true},     {u"SmartEnabled"_s, true},
+            {u"SmartFailing"_s, false},      {u"SmartUpdated"_s, QDateTime::currentSecsSinceEpoch()},
+            {u"SmartTemperature"_s, 310.15}, {u"SmartPowerOnSeconds"_s, qulonglong{7200}}};
+}
+
+QVariantMap nvmeProperties() {
+    return {{u"SmartUpdated"_s, static_cast<qulonglong>(QDateTime::currentSecsSinceEpoch())},
+            {u"SmartCriticalWarning"_s, QStringList()},
+            {u"SmartPowerOnHours"_s, qulonglong{8760}},
+            {u"SmartTemperature"_s, QVariant::fromValue(ushort{311})}};
+}
+
+/// A disk that this process may not ask, on a bus where the service speaks by a script.
+class UDisks : public testing::Test {
+protected:
+    void SetUp() override {
+        if (m_bus.address().empty())
+            GTEST_SKIP() << "no dbus-daemon here";
+        m_tree.addDisk("sda", "8:0", "scsi", {{"device/vendor", "ATA"}});
+        m_drives.drives["sda"].openError = EACCES;
+    }
+
+    SmartAnswer ask(UDisksScript script) {
+        SmartSources sources = m_tree.sources(m_drives);
+        sources.serviceBus = m_bus.address();
+        sources.serviceLimit = std::chrono::milliseconds(script.isMute ? 50 : 5000);
+        const FakeUDisks service(m_bus.address(), std::move(script));
+        SmartAnswer answer = smartOfDevice("sda", sources);
+        EXPECT_EQ(service.carelessCalls(), 0);
+        return answer;
+    }
+
+    UDisksScript scriptOf(const QString& interface, const QVariantMap& properties, QVariant attributes) {
+        UDisksScript script;
+        script.objects = test::oneDrive(disk, interface, properties);
+        script.attributes = std::move(attributes);
+        return script;
+    }
+
+private:
+    test::PrivateBus m_bus;
+    test::FakeDeviceTree m_tree;
+    test::FakeDrives m_drives;
+};
+
+TEST_F(UDisks, TellsAnAtaDrivesFiguresInItsRawUnits) {
+    const QVariant table = test::ataTable({{5, 3, 8},
+                                           {9, 2, 3600000LL * 30},
+                                           {10, 1, 0},
+                                           {12, 1, 1234},
+                                           {187, 0, 77},
+                                           {193, 1, -1},
+                                           {194, 4, 311150},
+                                           {197, 3, 2},
+                                           {199, 9, 5}});
+    const SmartAnswer answer = ask(scriptOf(ata, ataProperties(), table));
+    ASSERT_TRUE(std::holds_alternative<AtaSmartReport>(answer.blocks)) << answer.source;
+    const auto& report = std::get<AtaSmartReport>(answer.blocks);
+    EXPECT_FALSE(report.thresholdExceeded);
+    EXPECT_EQ(report.attributes, (std::map<std::uint8_t, std::uint64_t>{
+                                     {5, 8}, {9, 30}, {10, 0}, {12, 1234}, {194, 38}, {197, 2}}));
+    EXPECT_EQ(answer.source, "UDisks2 for sda");
+}
+
+TEST_F(UDisks, KeepsWhatItReadLastWhenTheDriveSleeps) {
+    QVariantMap properties = ataProperties();
+    properties[u"SmartFailing"_s] = true;
+    properties[u"SmartUpdated"_s] = static_cast<qulonglong>(QDateTime::currentSecsSinceEpoch() - 605);
+    UDisksScript script = scriptOf(ata, properties, {});
+    script.refusesUpdate = true;
+    const SmartAnswer answer = ask(script);
+    ASSERT_TRUE(std::holds_alternative<AtaSmartReport>(answer.blocks)) << answer.source;
+    EXPECT_TRUE(std::get<AtaSmartReport>(answer.blocks).thresholdExceeded);
+    EXPECT_EQ(std::get<AtaSmartReport>(answer.blocks).attributes,
+              (std::map<std::uint8_t, std::uint64_t>{{9, 2}, {194, 37}}));
+    EXPECT_EQ(answer.source, "UDisks2 for sda, read 10 min ago");
+}
+
+TEST_F(UDisks, TellsAnNvmeDrivesFigures) {
+    QVariantMap properties = nvmeProperties();
+    properties[u"SmartUpdated"_s] = qulonglong{0};
+    UDisksScript script = scriptOf(nvme, properties,
+                                   QVariantMap{{u"avail_spare"_s, QVariant::fromValue(uchar{100})},
+                                               {u"spare_thresh"_s, QVariant::fromValue(uchar{10})},
+                                               {u"percent_used"_s, u"3"_s},
+                                               {u"total_data_written"_s, ~qulonglong{0}},
+                                               {u"media_errors"_s, qulonglong{0}},
+                                               {u"power_cycles"_s, -5}});
+    script.afterUpdate = nvmeProperties();
+    script.afterUpdate[u"SmartCriticalWarning"_s] =
+        QStringList{u"degraded"_s, u"pmr_readonly"_s, u"tomorrow"_s};
+    const SmartAnswer answer = ask(script);
+    ASSERT_TRUE(std::holds_alternative<NvmeSmartReport>(answer.blocks)) << answer.source;
+    const auto& report = std::get<NvmeSmartReport>(answer.blocks);
+    EXPECT_EQ(report.criticalWarning, 0x04 | 0x20 | 0x80);
+    EXPECT_EQ(report.temperatureCelsius, 38);
+    EXPECT_EQ(report.powerOnHours, 8760U);
+    EXPECT_EQ(report.sparePercent, 100);
+    EXPECT_EQ(report.spareThresholdPercent, 10);
+    EXPECT_EQ(report.bytesWritten, ~std::uint64_t{0});
+    EXPECT_EQ(report.mediaErrors, 0U);
+    EXPECT_FALSE(report.percentUsed) << "a text is no percentage";
+    EXPECT_FALSE(report.powerCycles) << "a negative count is none";
+    EXPECT_FALSE(report.bytesRead);
+}
+
+TEST_F(UDisks, GivesNoVerdictThatNobodyGave) {
+    const auto with = [](QVariantMap properties, const QString& name, const QVariant& value) {
+        value.isValid() ? void(properties[name] = value) : void(properties.remove(name));
+        return properties;
+    };
+    const QVariant none;
+    const std::pair<const char*, UDisksScript> cases[] = {
+        {"no verdict", scriptOf(ata, with(ataProperties(), u"SmartFailing"_s, none), {})},
+        {"verdict of a wrong type", scriptOf(ata, with(ataProperties(), u"SmartFailing"_s, 0), {})},
+        {"switched off", scriptOf(ata, with(ataProperties(), u"SmartEnabled"_s, false), {})},
+        {"not supported", scriptOf(ata, with(ataProperties(), u"SmartSupported"_s, false), {})},
+        {"never read", scriptOf(ata, with(ataProperties(), u"SmartUpdated"_s, qulonglong{0}), {})},
+        {"no time of reading", scriptOf(ata, with(ataProperties(), u"SmartUpdated"_s, u"now"_s), {})},
+        {"NVMe without warning", scriptOf(nvme, with(nvmeProperties(), u"SmartCriticalWarning"_s, none), {})},
+        {"NVMe warning of a wrong type",
+         scriptOf(nvme, with(nvmeProperties(), u"SmartCriticalWarning"_s, 4), {})},
+        {"another interface", scriptOf(u"org.freedesktop.UDisks2.Else"_s, ataProperties(), {})},
+        {"another disk", UDisksScript{.objects = test::oneDrive(disk + 7, ata, ataProperties())}},
+        {"nothing", UDisksScript{}},
+        {"objects of a wrong type", UDisksScript{.insteadOfObjects = QStringList{u"none"_s}}},
+        {"no answer within the limit", UDisksScript{.isMute = true}},
+    };
+    for (const auto& [what, script] : cases) {
+        const SmartAnswer answer = ask(script);
+        EXPECT_TRUE(answer.isEmpty()) << what;
+        EXPECT_NE(answer.source.find("UDisks2"), std::string::npos) << what << ": " << answer.source;
+    }
+}
+
+TEST_F(UDisks, KeepsTheVerdictWhenTheTableIsOfAWrongType) {
+    const SmartAnswer answer = ask(scriptOf(ata, ataProperties(), u"no table"_s));
+    EXPECT_TRUE(std::holds_alternative<AtaSmartReport>(answer.blocks)) << answer.source;
+}
+
+} // namespace
+} // namespace OndelCore::platform
