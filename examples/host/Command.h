@@ -25,6 +25,7 @@ struct Command {
 extern const Command runCommand;
 extern const Command factsCommand;
 extern const Command volumesCommand;
+extern const Command smartReportCommand;
 
 /// All commands, in the order in which --help lists them.
 std::span<const Command* const> commands();

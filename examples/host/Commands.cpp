@@ -5,7 +5,7 @@
 namespace examples::host {
 
 std::span<const Command* const> commands() {
-    static constexpr std::array all{&runCommand, &factsCommand, &volumesCommand};
+    static constexpr std::array all{&runCommand, &factsCommand, &volumesCommand, &smartReportCommand};
     return all;
 }
 

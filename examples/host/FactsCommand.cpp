@@ -1,17 +1,16 @@
 #include "examples/host/Command.h"
+#include "examples/host/Folder.h"
+#include "examples/host/HealthFacts.h"
 #include "examples/host/Output.h"
 #include "examples/host/VolumeFacts.h"
 
 #include <QJsonDocument>
 
-#include <sys/stat.h>
-
 #include <array>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 
 using namespace OndelCore::volumes;
+using OndelCore::health::DiskHealth;
 using TarnwickKit::model::DriveIdentity;
 using TarnwickKit::model::DriveInfo;
 
@@ -21,35 +20,25 @@ namespace {
 
 constexpr std::array options{Option{"--json", "", "Print the facts as one JSON object"}};
 
-std::filesystem::path folderIn(const CommandLine& line) {
-    if (line.operands().empty())
-        throw UsageError("a FOLDER is missing");
-    if (line.operands().size() > 1)
-        throw UsageError("one FOLDER at a time");
-    const std::filesystem::path folder = line.operands().front();
-    struct stat facts {};
-    if (stat(folder.c_str(), &facts) != 0)
-        throw UsageError(quoted(line.operands().front()) + ": " + std::strerror(errno));
-    return folder;
-}
-
 struct Facts {
     std::optional<VolumeInfo> volume;
     std::optional<VolumeCapabilities> capabilities;
     DriveIdentity drive;
+    DiskHealth::Reading health;
 };
 
 Facts factsOf(const std::filesystem::path& folder) {
     Facts facts{.volume = VolumeInfo::load(Location::local(folder)),
                 .capabilities = VolumeCapabilities::probe(Location::local(folder)),
-                .drive = {}};
+                .drive = {},
+                .health = DiskHealth::readInDetail(folder)};
     if (facts.volume && facts.volume->volumeURL)
         facts.drive = DriveInfo::identity(*facts.volume->volumeURL);
     return facts;
 }
 
 QJsonObject json(const Facts& facts) {
-    QJsonObject object{{"drive", driveJson(facts.drive)}};
+    QJsonObject object{{"drive", driveJson(facts.drive)}, {"health", healthJson(facts.health)}};
     if (facts.volume)
         object.insert("volume", volumeJson(*facts.volume));
     if (facts.capabilities)
@@ -71,6 +60,7 @@ QString text(const Facts& facts) {
     if (facts.capabilities)
         add("File system", capabilityRows(*facts.capabilities));
     add("Drive", driveRows(facts.drive));
+    add("Health", healthRows(facts.health));
     return textColumns(rows);
 }
 
@@ -85,7 +75,7 @@ int execute(const CommandLine& line) {
 
 const Command factsCommand{.name = "facts",
                            .operands = "FOLDER",
-                           .summary = "Show what holds FOLDER: volume, file system and drive",
+                           .summary = "Show what holds FOLDER: volume, file system, drive and its health",
                            .options = options,
                            .notes = R"(
 Nothing is written anywhere. What the system does not tell reads "--", and is left out of the JSON object.

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "OndelCore/health/DiskHealth.h"
+#include "examples/host/TextColumns.h"
+
+#include <QJsonObject>
+
+#include <vector>
+
+namespace examples::host {
+
+/// For programs: the source, and where a device was asked the health by its fields with the raw record. A
+/// count above 2^63-1 loses its last digits, since JSON numbers are read as doubles.
+QJsonObject healthJson(const OndelCore::health::DiskHealth::Reading& reading);
+
+/// For people: where the figures come from or why there are none, the verdict, the figures.
+std::vector<TextRow> healthRows(const OndelCore::health::DiskHealth::Reading& reading);
+
+} // namespace examples::host

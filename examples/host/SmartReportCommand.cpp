@@ -1,0 +1,50 @@
+#include "OndelCore/health/DiskHealth.h"
+#include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickKit/model/DriveInfo.h"
+#include "TarnwickKit/model/SMARTReport.h"
+#include "examples/host/Command.h"
+#include "examples/host/Folder.h"
+#include "examples/host/Output.h"
+
+using OndelCore::health::DiskHealth;
+using OndelCore::volumes::Location;
+using OndelCore::volumes::VolumeInfo;
+using TarnwickKit::model::DriveInfo;
+using TarnwickKit::model::SMARTReport;
+
+namespace examples::host {
+
+namespace {
+
+std::optional<QString> driveName(const std::filesystem::path& folder) {
+    const std::optional<VolumeInfo> volume = VolumeInfo::load(Location::local(folder));
+    if (!volume || !volume->volumeURL)
+        return std::nullopt;
+    return DriveInfo::identity(*volume->volumeURL).model;
+}
+
+int execute(const CommandLine& line) {
+    const std::filesystem::path folder = folderIn(line);
+    const DiskHealth::Reading reading = DiskHealth::readInDetail(folder);
+    if (!reading.smart || !reading.smart->isSupported()) {
+        complain("no S.M.A.R.T. figures: " + reading.source);
+        return failed;
+    }
+    const QString text = SMARTReport::text(*reading.smart, driveName(folder), QDateTime::currentDateTime());
+    print(text.toStdString());
+    return done;
+}
+
+} // namespace
+
+const Command smartReportCommand{.name = "smart-report",
+                                 .operands = "FOLDER",
+                                 .summary = "Print the health of the drive that holds FOLDER",
+                                 .options = {},
+                                 .notes = R"(
+The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
+from, or why there is none, is told by "facts".
+)",
+                                 .execute = &execute};
+
+} // namespace examples::host
