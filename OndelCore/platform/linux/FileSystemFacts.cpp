@@ -11,145 +11,98 @@ constexpr std::uint32_t names = formatCaseSensitive | formatCasePreserving;
 constexpr std::uint32_t links = formatSymbolicLinks | formatHardLinks;
 constexpr std::uint32_t posix = names | links | formatSparseFiles;
 constexpr std::uint32_t journal = formatJournal | formatJournalActive;
-constexpr std::uint32_t unsealedFormat = posix | journal;
 
 constexpr std::uint32_t attributes = interfaceExtendedAttributes | interfaceExtendedSecurity;
 constexpr std::uint32_t copies = interfaceClone | interfaceSnapshot;
-constexpr std::uint32_t everyInterface = attributes | copies | interfaceNamedStreams;
 
-/// Every bit is known: those in `claimed` are there, all others are not.
-constexpr CapabilityWord known(std::uint32_t claimed, std::uint32_t valid) { return {claimed, valid}; }
-constexpr CapabilityWord format(std::uint32_t claimed) { return known(claimed, unsealedFormat); }
-constexpr CapabilityWord interfaces(std::uint32_t claimed) { return known(claimed, everyInterface); }
+/// Every bit but those in `open` is known: what is in `claimed` is there, all else is not. Whether a volume
+/// is sealed is never known from its type.
+constexpr CapabilityWord format(std::uint32_t claimed, std::uint32_t open = 0) {
+    return {claimed & ~open, (posix | journal) & ~open};
+}
+constexpr CapabilityWord interfaces(std::uint32_t claimed, std::uint32_t open = 0) {
+    return {claimed & ~open, (attributes | copies | interfaceNamedStreams) & ~open};
+}
+
+constexpr FileSystemFacts row(std::string_view type, std::string_view displayName, FileSystemReach reach,
+                              CapabilityWord format, CapabilityWord interfaces, std::int64_t maxLinks = 0) {
+    return {type, displayName, reach, {format, interfaces}, maxLinks};
+}
 
 using enum FileSystemReach;
 
-// What a server decides, what a mount option or a creation flag decides, is not valid here: whoever asks the
-// mounted file system itself may make it so (see CapabilityWords.cpp). Sources: the kernel's
-// Documentation/filesystems, each tool's manual. Link counts: ext4 EXT4_LINK_MAX, xfs XFS_MAXLINK,
-// btrfs BTRFS_LINK_MAX, f2fs F2FS_LINK_MAX, udf UDF_MAX_LINKS, ntfs NTFS_LINK_MAX.
+// What a server decides, or a mount option, or a choice made at formatting, is open here: asking the mounted
+// file system may settle it (CapabilityWords.cpp). Sources: the kernel's Documentation/filesystems and each
+// tool's manual. Links: ext2 EXT2_LINK_MAX, ext3 and ext4 EXT4_LINK_MAX, xfs XFS_MAXLINK, btrfs
+// BTRFS_LINK_MAX, f2fs F2FS_LINK_MAX, jfs JFS_LINK_MAX, nilfs2 NILFS_LINK_MAX, udf UDF_MAX_LINKS, ntfs
+// NTFS_LINK_MAX.
 constexpr std::array rows = {
-    FileSystemFacts{"ext2", "Ext2", device, {format(posix), interfaces(attributes)}, 32000},
-    FileSystemFacts{"ext3", "Ext3", device, {format(posix | journal), interfaces(attributes)}, 32000},
-    FileSystemFacts{"ext4", "Ext4", device, {format(posix | journal), interfaces(attributes)}, 65000},
-    FileSystemFacts{"xfs",
-                    "XFS",
-                    device,
-                    {format(posix | journal), known(attributes, everyInterface & ~interfaceClone)},
-                    2147483647},
-    FileSystemFacts{"btrfs", "Btrfs", device, {format(posix), interfaces(attributes | copies)}, 65535},
-    FileSystemFacts{
-        "bcachefs", "bcachefs", device, {format(posix | journal), interfaces(attributes | copies)}},
-    FileSystemFacts{"f2fs", "F2FS", device, {format(posix), interfaces(attributes)}, 32000},
-    FileSystemFacts{"zfs",
-                    "ZFS",
-                    device,
-                    {known(posix, unsealedFormat & ~formatCaseSensitive),
-                     known(interfaceExtendedAttributes | interfaceSnapshot,
-                           everyInterface & ~interfaceClone & ~interfaceExtendedSecurity)}},
-    FileSystemFacts{"jfs", "JFS", device, {format(posix | journal), interfaces(attributes)}, 65535},
-    FileSystemFacts{"nilfs2", "NILFS2", device, {format(posix), interfaces(interfaceSnapshot)}, 32000},
-    FileSystemFacts{"reiserfs", "ReiserFS", device, {format(posix | journal), interfaces(attributes)}, 64535},
-    FileSystemFacts{"vfat", "FAT", device, {format(formatCasePreserving), interfaces(0)}, 1},
-    FileSystemFacts{"msdos", "FAT", device, {format(0), interfaces(0)}, 1},
-    FileSystemFacts{"exfat", "exFAT", device, {format(formatCasePreserving), interfaces(0)}, 1},
-    FileSystemFacts{
-        "ntfs",
-        "NTFS",
-        device,
-        {known((posix & ~formatCaseSensitive) | formatJournal, unsealedFormat & ~formatCaseSensitive),
-         known(interfaceExtendedAttributes | interfaceNamedStreams,
-               everyInterface & ~interfaceExtendedSecurity)},
-        1024},
-    FileSystemFacts{
-        "ntfs3",
-        "NTFS",
-        device,
-        {known((posix & ~formatCaseSensitive) | formatJournal, unsealedFormat & ~formatCaseSensitive),
-         known(interfaceExtendedAttributes | interfaceNamedStreams,
-               everyInterface & ~interfaceExtendedSecurity)},
-        1024},
-    FileSystemFacts{
-        "hfsplus",
-        "HFS+",
-        device,
-        {known(formatCasePreserving | links | formatJournal, unsealedFormat & ~formatCaseSensitive),
-         interfaces(interfaceExtendedAttributes)}},
-    FileSystemFacts{"hfs", "HFS", device, {format(formatCasePreserving), interfaces(0)}, 1},
-    FileSystemFacts{"apfs",
-                    "APFS",
-                    device,
-                    {known(posix & ~formatCaseSensitive, unsealedFormat & ~formatCaseSensitive),
-                     interfaces(interfaceExtendedAttributes | copies)}},
-    FileSystemFacts{"iso9660", "ISO 9660", device, {known(0, journal | formatSparseFiles), interfaces(0)}},
-    FileSystemFacts{"udf", "UDF", device, {format(names | links), interfaces(0)}, 65535},
-    FileSystemFacts{"squashfs", "SquashFS", device, {format(posix), interfaces(interfaceExtendedAttributes)}},
-    FileSystemFacts{"erofs", "EROFS", device, {format(posix), interfaces(attributes)}},
-    FileSystemFacts{
-        "fuseblk", "FUSE", device, {known(formatCasePreserving, formatCasePreserving), known(0, copies)}},
-    FileSystemFacts{"tmpfs", "tmpfs", memory, {format(posix), interfaces(attributes)}},
-    FileSystemFacts{"ramfs", "ramfs", memory, {format(posix), interfaces(0)}},
-    FileSystemFacts{"overlay",
-                    "OverlayFS",
-                    layered,
-                    {known(names | links, names | links | journal), known(0, interfaceNamedStreams)}},
-    FileSystemFacts{"nfs",
-                    "NFS",
-                    network,
-                    {known(formatCasePreserving | links, formatCasePreserving | links | journal),
-                     known(0, interfaceNamedStreams | interfaceSnapshot)}},
-    FileSystemFacts{
-        "cifs",
-        "SMB",
-        network,
-        {known(formatCasePreserving, formatCasePreserving | journal), known(0, interfaceSnapshot)}},
-    FileSystemFacts{
-        "smbfs",
-        "SMB",
-        network,
-        {known(formatCasePreserving, formatCasePreserving | journal), known(0, interfaceSnapshot)}},
-    FileSystemFacts{"afpfs",
-                    "AFP",
-                    network,
-                    {known(formatCasePreserving, formatCasePreserving | journal), known(0, copies)}},
-    FileSystemFacts{
-        "9p",
-        "9P",
-        network,
-        {known(formatCasePreserving | links, formatCasePreserving | links | journal),
-         known(0, copies | interfaceNamedStreams)}},
-    FileSystemFacts{"virtiofs",
-                    "VirtioFS",
-                    network,
-                    {known(formatCasePreserving | links, formatCasePreserving | links | journal),
-                     known(0, interfaceNamedStreams)}},
-    FileSystemFacts{"ceph",
-                    "CephFS",
-                    network,
-                    {known(posix, posix | journal), known(attributes | interfaceSnapshot, everyInterface)}},
-    FileSystemFacts{
-        "fuse.glusterfs",
-        "GlusterFS",
-        network,
-        {known(names | links, names | links | journal), known(0, copies | interfaceNamedStreams)}},
-    FileSystemFacts{"fuse.sshfs",
-                    "SSHFS",
-                    network,
-                    {known(formatCasePreserving | formatSymbolicLinks,
-                           formatCasePreserving | formatSymbolicLinks | journal),
-                     interfaces(0)}},
-    FileSystemFacts{"fuse.rclone", "rclone", network, {known(0, formatHardLinks | journal), interfaces(0)}},
-    FileSystemFacts{"webdav",
-                    "WebDAV",
-                    network,
-                    {known(formatCasePreserving, formatCasePreserving | links | journal | formatSparseFiles),
-                     interfaces(0)}},
-    FileSystemFacts{
-        "ftp",
-        "FTP",
-        network,
-        {known(formatCasePreserving, formatCasePreserving | formatHardLinks | journal | formatSparseFiles),
-         interfaces(0)}},
+    row("ext2", "Ext2", device, format(posix), interfaces(attributes), 32000),
+    row("ext3", "Ext3", device, format(posix | journal), interfaces(attributes), 65000),
+    row("ext4", "Ext4", device, format(posix | journal), interfaces(attributes), 65000),
+    row("xfs", "XFS", device, format(posix | journal), interfaces(attributes, interfaceClone), 2147483647),
+    row("btrfs", "Btrfs", device, format(posix), interfaces(attributes | copies), 65535),
+    row("bcachefs", "bcachefs", device, format(posix | journal), interfaces(attributes | copies)),
+    row("f2fs", "F2FS", device, format(posix), interfaces(attributes), 32000),
+    row("zfs", "ZFS", device, format(posix, formatCaseSensitive),
+        interfaces(interfaceExtendedAttributes | interfaceSnapshot,
+                   interfaceExtendedSecurity | interfaceClone)),
+    row("jfs", "JFS", device, format(posix | journal), interfaces(attributes), 65535),
+    row("nilfs2", "NILFS2", device, format(posix), interfaces(interfaceSnapshot), 32000),
+    row("reiserfs", "ReiserFS", device, format(posix | journal), interfaces(attributes), 64535),
+    row("vfat", "FAT", device, format(formatCasePreserving), interfaces(0), 1),
+    row("msdos", "FAT", device, format(0), interfaces(0), 1),
+    row("exfat", "exFAT", device, format(formatCasePreserving), interfaces(0), 1),
+    row("ntfs", "NTFS", device, format(posix | formatJournal, formatCaseSensitive),
+        interfaces(interfaceExtendedAttributes | interfaceNamedStreams, interfaceExtendedSecurity), 1024),
+    row("ntfs3", "NTFS", device, format(posix | formatJournal, formatCaseSensitive),
+        interfaces(interfaceExtendedAttributes | interfaceNamedStreams, interfaceExtendedSecurity), 1024),
+    row("hfsplus", "HFS+", device, format(formatCasePreserving | links | formatJournal, formatCaseSensitive),
+        interfaces(interfaceExtendedAttributes)),
+    row("hfs", "HFS", device, format(formatCasePreserving), interfaces(0), 1),
+    row("apfs", "APFS", device, format(posix, formatCaseSensitive),
+        interfaces(interfaceExtendedAttributes | copies)),
+    row("iso9660", "ISO 9660", device, format(0, names | links), interfaces(0)),
+    row("udf", "UDF", device, format(names | links, formatSparseFiles), interfaces(0), 65535),
+    row("squashfs", "SquashFS", device, format(posix), interfaces(interfaceExtendedAttributes)),
+    row("erofs", "EROFS", device, format(posix), interfaces(attributes)),
+    row("fuseblk", "FUSE", device, format(formatCasePreserving, (posix & ~formatCasePreserving) | journal),
+        interfaces(0, attributes | interfaceNamedStreams)),
+    row("tmpfs", "tmpfs", memory, format(posix), interfaces(attributes)),
+    row("ramfs", "ramfs", memory, format(posix), interfaces(0)),
+    row("overlay", "OverlayFS", layered, format(names | links, formatSparseFiles),
+        interfaces(0, attributes | copies)),
+    row("nfs", "NFS", network, format(formatCasePreserving | links, formatCaseSensitive | formatSparseFiles),
+        interfaces(0, attributes | interfaceClone)),
+    row("cifs", "SMB", network, format(formatCasePreserving, links | formatCaseSensitive | formatSparseFiles),
+        interfaces(0, attributes | interfaceClone | interfaceNamedStreams)),
+    row("smbfs", "SMB", network,
+        format(formatCasePreserving, links | formatCaseSensitive | formatSparseFiles),
+        interfaces(0, attributes | interfaceNamedStreams)),
+    row("afpfs", "AFP", network,
+        format(formatCasePreserving, links | formatCaseSensitive | formatSparseFiles),
+        interfaces(0, attributes | interfaceNamedStreams)),
+    row("9p", "9P", network, format(formatCasePreserving | links, formatCaseSensitive | formatSparseFiles),
+        interfaces(0, attributes)),
+    row("virtiofs", "VirtioFS", network,
+        format(formatCasePreserving | links, formatCaseSensitive | formatSparseFiles),
+        interfaces(0, attributes | copies)),
+    row("vboxsf", "Shared Folder", network, format(formatCasePreserving, posix & ~formatCasePreserving),
+        interfaces(0, attributes)),
+    row("fuse.vmhgfs-fuse", "Shared Folder", network,
+        format(formatCasePreserving, posix & ~formatCasePreserving), interfaces(0, attributes)),
+    row("ceph", "CephFS", network, format(posix), interfaces(attributes | interfaceSnapshot)),
+    row("fuse.glusterfs", "GlusterFS", network, format(names | links, formatSparseFiles),
+        interfaces(0, attributes | copies)),
+    row("fuse.sshfs", "SSHFS", network,
+        format(formatCasePreserving | formatSymbolicLinks,
+               formatHardLinks | formatCaseSensitive | formatSparseFiles),
+        interfaces(0)),
+    row("fuse.rclone", "rclone", network, format(0, names | formatSymbolicLinks | formatSparseFiles),
+        interfaces(0)),
+    row("webdav", "WebDAV", network, format(formatCasePreserving, formatCaseSensitive), interfaces(0)),
+    row("ftp", "FTP", network, format(formatCasePreserving, formatCaseSensitive | formatSymbolicLinks),
+        interfaces(0)),
 };
 
 struct Alias {
@@ -175,9 +128,9 @@ std::string_view resolveAlias(std::string_view type) {
 std::span<const FileSystemFacts> allFileSystemFacts() { return rows; }
 
 const FileSystemFacts* fileSystemFacts(std::string_view type) {
-    const auto* const row = std::find_if(rows.begin(), rows.end(),
-                                         [&](const FileSystemFacts& facts) { return facts.type == type; });
-    return row == rows.end() ? nullptr : row;
+    const auto* const found = std::find_if(rows.begin(), rows.end(),
+                                           [&](const FileSystemFacts& facts) { return facts.type == type; });
+    return found == rows.end() ? nullptr : found;
 }
 
 std::string fileSystemTypeName(std::string_view kernelType, std::string_view source,

@@ -36,7 +36,7 @@ constexpr std::array<std::string_view, 14> systemPlaces = {
     "/var/lib/flatpak",
     "/var/lib/containerd",
 };
-constexpr std::array<std::string_view, 3> peoplesPlaces = {"/run/media", "/run/mount", "/run/user"};
+constexpr std::array<std::string_view, 1> peoplesPlaces = {"/run/media"};
 
 // Where containers mount single files and folders of the host's file system for their own needs.
 constexpr std::array<std::string_view, 6> programPlaces = {"/etc", "/usr", "/bin", "/lib", "/lib64", "/sbin"};
@@ -71,8 +71,7 @@ public:
         for (const Mount& mount : mounts)
             m_byId.emplace(mount.id, &mount);
         for (const Mount& mount : mounts)
-            if (const Mount* const parent = find(mount.parentId);
-                parent && parent != &mount && parent->mountPoint == mount.mountPoint)
+            if (const Mount* const parent = parentOf(mount); parent && parent->mountPoint == mount.mountPoint)
                 covered.insert(parent->id);
         for (const Mount& mount : mounts)
             if (!covered.contains(mount.id))
@@ -100,9 +99,10 @@ public:
     }
 
 private:
-    const Mount* find(std::uint64_t id) const {
-        const auto found = m_byId.find(id);
-        return found == m_byId.end() ? nullptr : found->second;
+    /// Null for the topmost mount, which the kernel lists as its own parent or below one that is out of view.
+    const Mount* parentOf(const Mount& mount) const {
+        const auto found = m_byId.find(mount.parentId);
+        return found == m_byId.end() || mount.parentId == mount.id ? nullptr : found->second;
     }
     bool isTop(const Mount& mount) const {
         const auto top = m_top.find(mount.mountPoint.native());
@@ -122,11 +122,11 @@ private:
     }
     bool isOnTopOfBelow(const Mount& mount) const {
         const Mount* const below = mountBelow(mount);
-        const Mount* parent = find(mount.parentId);
+        const Mount* parent = parentOf(mount);
         for (std::size_t steps = 0; parent && parent->mountPoint == mount.mountPoint; ++steps) {
             if (steps > m_byId.size())
                 return false;
-            parent = find(parent->parentId);
+            parent = parentOf(*parent);
         }
         return !below || !parent || parent == below;
     }
@@ -147,23 +147,24 @@ bool isStorage(const Mount& mount, const std::string& type) {
         return false;
     if (const FileSystemFacts* const facts = fileSystemFacts(type))
         return facts->reach == FileSystemReach::device || facts->reach == FileSystemReach::network;
-    return mount.source.starts_with("/dev/") || major(mount.device) != 0 || type.starts_with("fuse.");
-}
-
-bool isBind(const Mount& mount, const std::string& type) {
-    return mount.root != "/" && type != "btrfs" && !isNetworkFileSystem(type);
+    if (type.starts_with("fuse."))
+        return true;
+    return mount.source != "/dev/fuse" && (mount.source.starts_with("/dev/") || major(mount.device) != 0);
 }
 
 bool isVolume(const Mount& mount, const std::function<bool(const fs::path&)>& isFolder) {
     const std::string& place = mount.mountPoint.native();
     if (place == "/")
         return true;
+    if (!place.starts_with('/'))
+        return false;
     const std::string type = fileSystemTypeName(mount.type, mount.source);
-    if (!isStorage(mount, type) || isHiddenPlace(place))
+    if (!isStorage(mount, type) || isHiddenPlace(place) || (type == "vfat" && place == "/boot"))
         return false;
-    if (type == "vfat" && place == "/boot")
-        return false;
-    return !isBind(mount, type) || (!isBelowAny(place, programPlaces) && isFolder(mount.mountPoint));
+    const bool isForPrograms = isBelowAny(place, programPlaces);
+    if (isNetworkFileSystem(type))
+        return !isForPrograms;
+    return mount.root == "/" || (!isForPrograms && isFolder(mount.mountPoint));
 }
 
 /// What makes two mounts one volume: the same superblock, for ZFS the same pool. Two shares of a server may

@@ -1,0 +1,112 @@
+#include "OndelCore/platform/BlockDevices.h"
+
+#include "support/FakeMachine.h"
+
+#include <gtest/gtest.h>
+#include <sys/sysmacros.h>
+
+#include <fstream>
+
+using namespace OndelCore::platform;
+
+namespace {
+
+const std::string ata1 = "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0/block/sda";
+const std::string ata2 = "pci0000:00/0000:00:17.0/ata2/host1/target1:0:0/1:0:0:0/block/sdb";
+
+class BlockStackTest : public testing::Test {
+protected:
+    BlockStackTest() {
+        machine.addBlockDevice(ata1, makedev(8, 0));
+        machine.addBlockDevice(ata1 + "/sda1", makedev(8, 1), {{"partition", "1"}});
+        machine.addBlockDevice(ata2, makedev(8, 16));
+        machine.addBlockDevice(ata2 + "/sdb1", makedev(8, 17), {{"partition", "1"}});
+    }
+    void addMapping(unsigned minorNumber, const std::string& uuid) {
+        machine.addBlockDevice("virtual/block/dm-" + std::to_string(minorNumber), makedev(253, minorNumber),
+                               {{"dm/uuid", uuid}});
+    }
+    std::string disksUnder(dev_t number) const {
+        std::string names;
+        for (const BlockDevice& disk : blockStack(number, machine.sources().sysfs).wholeDisks)
+            names += disk.name + ' ';
+        return names;
+    }
+    BlockStack stackOf(dev_t number) const { return blockStack(number, machine.sources().sysfs); }
+
+    test::FakeMachine machine;
+};
+
+TEST_F(BlockStackTest, GoesThroughEachLayerToTheWholeDisks) {
+    EXPECT_EQ(disksUnder(makedev(8, 0)), "sda ");
+    EXPECT_EQ(disksUnder(makedev(8, 1)), "sda ");
+    EXPECT_EQ(disksUnder(makedev(99, 9)), "");
+
+    // A logical volume on an encrypted mirror of two partitions, as installers make it.
+    machine.addBlockDevice("virtual/block/md0", makedev(9, 0));
+    machine.stack("virtual/block/md0", ata2 + "/sdb1");
+    machine.stack("virtual/block/md0", ata1 + "/sda1");
+    machine.addBlockDevice("virtual/block/md0/md0p1", makedev(259, 0), {{"partition", "1"}});
+    addMapping(0, "CRYPT-LUKS2-0123-root");
+    machine.stack("virtual/block/dm-0", "virtual/block/md0/md0p1");
+    addMapping(1, "LVM-abcdef");
+    machine.stack("virtual/block/dm-1", "virtual/block/dm-0");
+    EXPECT_EQ(disksUnder(makedev(253, 1)), "sda sdb ");
+    EXPECT_TRUE(stackOf(makedev(253, 1)).isEncrypted);
+    EXPECT_FALSE(stackOf(makedev(259, 0)).isEncrypted);
+}
+
+TEST_F(BlockStackTest, TellsEncryptionFromCryptsetupsOtherLayers) {
+    struct Case {
+        const char* uuid;
+        bool isEncrypted;
+        bool isSealed;
+    };
+    unsigned minorNumber = 10;
+    for (const Case& layer : {Case{"CRYPT-LUKS1-00-home", true, false},
+                              {"CRYPT-PLAIN-swap", true, false},
+                              {"CRYPT-BITLK-00-win", true, false},
+                              {"CRYPT-TCRYPT-00-x", true, false},
+                              {"CRYPT-VERITY-00-usr", false, true},
+                              {"CRYPT-INTEGRITY-00-x", false, false},
+                              {"LVM-CRYPT-", false, false},
+                              {"", false, false}}) {
+        addMapping(++minorNumber, layer.uuid);
+        machine.stack("virtual/block/dm-" + std::to_string(minorNumber), ata1);
+        const BlockStack stack = stackOf(makedev(253, minorNumber));
+        EXPECT_EQ(stack.isEncrypted, layer.isEncrypted) << layer.uuid;
+        EXPECT_EQ(stack.isSealed, layer.isSealed) << layer.uuid;
+        EXPECT_EQ(stack.wholeDisks.size(), 1U);
+    }
+}
+
+TEST_F(BlockStackTest, EndsOnADamagedTree) {
+    addMapping(0, "LVM-a");
+    addMapping(1, "LVM-b");
+    machine.stack("virtual/block/dm-0", "virtual/block/dm-1");
+    machine.stack("virtual/block/dm-1", "virtual/block/dm-0");
+    EXPECT_EQ(disksUnder(makedev(253, 0)), "");
+    addMapping(2, "LVM-c");
+    machine.stack("virtual/block/dm-2", "virtual/block/gone");
+    EXPECT_EQ(disksUnder(makedev(253, 2)), "");
+    std::ofstream(machine.addBlockDevice("virtual/block/odd", makedev(7, 1)) / "dev") << "7;1\n";
+    EXPECT_FALSE(blockDevice(makedev(7, 1), machine.sources().sysfs));
+}
+
+TEST_F(BlockStackTest, NamesTheDeviceBehindThePlaceholders) {
+    machine.addBlockDevice("virtual/block/cciss!c0d0", makedev(104, 0));
+    const auto sysfs = machine.sources().sysfs;
+    const auto source = [&](const std::string& text, dev_t device) {
+        Mount mount;
+        mount.device = device;
+        mount.source = text;
+        return sourceOfMount(mount, sysfs);
+    };
+    EXPECT_EQ(source("/dev/root", makedev(8, 1)), "/dev/sda1");
+    EXPECT_EQ(source("rootfs", makedev(104, 0)), "/dev/cciss/c0d0");
+    EXPECT_EQ(source("/dev/mapper/vg-root", makedev(8, 1)), "/dev/mapper/vg-root");
+    EXPECT_EQ(source("/dev/root", makedev(99, 1)), "/dev/root");
+    EXPECT_EQ(source("server:/export", makedev(0, 40)), "server:/export");
+}
+
+} // namespace

@@ -1,0 +1,121 @@
+#include "OndelCore/platform/FileSystemAnswers.h"
+
+#include "support/FakeMachine.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+
+#include <set>
+
+using namespace OndelCore::platform;
+
+namespace {
+
+TEST(FileSystemFacts, HaveOneSoundRowPerType) {
+    std::set<std::string_view> types;
+    for (const FileSystemFacts& facts : allFileSystemFacts()) {
+        EXPECT_TRUE(types.insert(facts.type).second) << facts.type;
+        EXPECT_FALSE(facts.displayName.empty()) << facts.type;
+        for (const CapabilityWord& word : {facts.capabilities.format, facts.capabilities.interfaces})
+            EXPECT_EQ(word.claimed & ~word.valid, 0U) << facts.type << " claims what it does not know";
+        EXPECT_EQ(fileSystemTypeName(facts.type), facts.type) << "a row that an alias hides";
+    }
+    for (const char* type :
+         {"ext2",  "ext3",  "ext4",    "xfs",     "btrfs",   "f2fs", "zfs",        "bcachefs", "vfat",
+          "exfat", "ntfs",  "ntfs3",   "fuseblk", "hfsplus", "apfs", "iso9660",    "udf",      "squashfs",
+          "erofs", "tmpfs", "overlay", "nfs",     "cifs",    "9p",   "fuse.sshfs", "webdav",   "ftp"})
+        EXPECT_TRUE(types.contains(type)) << type;
+}
+
+TEST(FileSystemFacts, BringTypesToTheFixedVocabulary) {
+    EXPECT_EQ(fileSystemTypeName("nfs4"), "nfs");
+    EXPECT_EQ(fileSystemTypeName("smb3"), "cifs");
+    EXPECT_EQ(fileSystemTypeName("davfs"), "webdav");
+    EXPECT_EQ(fileSystemTypeName("fuse.davfs2"), "webdav");
+    EXPECT_EQ(fileSystemTypeName("fuse", "curlftpfs#ftp://host/"), "ftp");
+    EXPECT_EQ(fileSystemTypeName("fuse", "sshfs#me@host:/x"), "fuse.sshfs");
+    EXPECT_EQ(fileSystemTypeName("fuseblk", "/dev/sdb1", "exfat"), "exfat");
+    EXPECT_EQ(fileSystemTypeName("fuseblk", "/dev/sdb1"), "fuseblk");
+    EXPECT_EQ(fileSystemTypeName("fuseblk.ntfs", "/dev/sdb1"), "ntfs");
+    EXPECT_EQ(fileSystemTypeName("ext4", "a#b"), "ext4");
+    EXPECT_EQ(fileSystemTypeName(""), "");
+    for (const char* type : {"nfs4", "smb3", "fuse.sshfs", "9p", "davfs"})
+        EXPECT_TRUE(isNetworkFileSystem(type)) << type;
+    for (const char* type : {"ext4", "tmpfs", "overlay", "fuseblk", "", "unheard-of"})
+        EXPECT_FALSE(isNetworkFileSystem(type)) << type;
+}
+
+class OptimalSizeTest : public testing::Test {
+protected:
+    std::int64_t optimalSize(const test::FakeMachine::Attributes& queue) {
+        test::FakeMachine machine;
+        const std::string disk = "pci0000:00/ata1/block/sda";
+        machine.addBlockDevice(disk, makedev(8, 0), queue);
+        machine.addBlockDevice(disk + "/sda1", makedev(8, 1), {{"partition", "1"}});
+        machine.pretendMounted(machine.folder(), {.device = makedev(8, 1), .source = "/dev/sda1"});
+        return askFileSystem(machine.folder(), machine.sources())->optimalIOSizeBytes;
+    }
+};
+
+TEST_F(OptimalSizeTest, IsWhatTheQueueOfTheWholeDiskTakesBest) {
+    const char* const declared = "queue/optimal_io_size";
+    const char* const request = "queue/max_sectors_kb";
+    EXPECT_EQ(optimalSize({{declared, "0"}, {request, "1280"}}), 1048576);
+    EXPECT_EQ(optimalSize({{declared, "0"}, {request, "4"}}), 65536);
+    EXPECT_EQ(optimalSize({{declared, "0"}, {request, "32767"}}), 4194304);
+    EXPECT_EQ(optimalSize({{declared, "1572864"}, {request, "512"}}), 1572864); // a RAID's stripe
+    EXPECT_EQ(optimalSize({{declared, "33553920"}, {request, "512"}}), 524288); // a USB bridge's invention
+    EXPECT_EQ(optimalSize({{declared, "-4096"}, {request, "junk"}}), 0);
+    EXPECT_EQ(optimalSize({}), 0);
+}
+
+TEST_F(OptimalSizeTest, OfAServerIsItsOwnWordAndOfMemoryNone) {
+    test::FakeMachine machine;
+    struct stat facts {};
+    ASSERT_EQ(stat(machine.folder().c_str(), &facts), 0);
+    machine.pretendMounted(machine.folder(),
+                           {.type = "nfs4", .device = makedev(0, 40), .source = "filer:/x"});
+    const auto nfs = askFileSystem(machine.folder(), machine.sources());
+    EXPECT_EQ(nfs->optimalIOSizeBytes, facts.st_blksize);
+    EXPECT_EQ(nfs->type, "nfs");
+    machine.pretendMounted(machine.folder(), {.type = "tmpfs", .device = makedev(0, 41), .source = "tmpfs"});
+    EXPECT_EQ(askFileSystem(machine.folder(), machine.sources())->optimalIOSizeBytes, 0);
+}
+
+TEST(FileSystemAnswers, FollowOptionsAndLayers) {
+    test::FakeMachine machine;
+    machine.addBlockDevice("virtual/block/dm-0", makedev(253, 0), {{"dm/uuid", "CRYPT-VERITY-00-usr"}});
+    const auto words = [&](const test::FakeMachine::Row& row) {
+        machine.pretendMounted(machine.folder(), row);
+        return *askFileSystem(machine.folder(), machine.sources())->capabilities;
+    };
+    const dev_t dm = makedev(253, 0);
+    EXPECT_TRUE(words({.type = "erofs", .device = dm}).format.has(formatSealed));
+    EXPECT_FALSE(words({.type = "erofs", .device = makedev(7, 9)}).format.has(formatSealed));
+    EXPECT_TRUE(words({.type = "xfs", .device = dm}).format.has(formatJournalActive));
+    EXPECT_TRUE(words({.type = "ext4", .device = dm}).format.has(formatJournalActive));
+    EXPECT_FALSE(words({.type = "ext4", .device = dm, .superOptions = "ro,norecovery"})
+                     .format.has(formatJournalActive));
+    EXPECT_FALSE(words({.type = "cifs", .device = 40}).format.has(formatCaseSensitive));
+    EXPECT_FALSE(
+        words({.type = "ntfs3", .device = dm, .superOptions = "rw,nocase"}).format.has(formatCaseSensitive));
+    EXPECT_TRUE(words({.type = "zfs", .device = 41, .superOptions = "rw,xattr,casesensitive"})
+                    .format.has(formatCaseSensitive));
+}
+
+TEST(FileSystemAnswers, ToUnknownTypesAndPaths) {
+    test::FakeMachine machine;
+    machine.pretendMounted(machine.folder(), {.type = "unheard-of", .device = makedev(8, 0)});
+    const auto answers = askFileSystem(machine.folder(), machine.sources());
+    EXPECT_EQ(answers->type, "unheard-of");
+    EXPECT_FALSE(answers->capabilities);
+    EXPECT_GT(answers->blockSizeBytes, 0);
+    machine.setMountTable("");
+    EXPECT_EQ(askFileSystem(machine.folder(), machine.sources())->type, "");
+    EXPECT_FALSE(askFileSystem(machine.folder() / "none", machine.sources()));
+    EXPECT_FALSE(askFileSystem(std::string(5000, 'x'), machine.sources()));
+    EXPECT_FALSE(askFileSystem("", machine.sources()));
+}
+
+} // namespace

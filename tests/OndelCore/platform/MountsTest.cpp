@@ -1,0 +1,114 @@
+#include "OndelCore/platform/Mounts.h"
+
+#include "OndelCore/platform/VisibleMounts.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+
+using namespace OndelCore::platform;
+
+namespace {
+
+const std::filesystem::path fixtures = MOUNTINFO_FOLDER;
+
+std::vector<std::string> visiblePoints(std::vector<Mount> table) {
+    std::vector<std::string> points;
+    for (const Mount& mount : visibleMounts(std::move(table), [](const std::filesystem::path& path) {
+             return path.native().find("-file") == std::string::npos;
+         }))
+        points.push_back(mount.mountPoint.string());
+    return points;
+}
+
+TEST(VisibleMounts, AreThoseThatAPersonExpects) {
+    struct Case {
+        const char* fixture;
+        std::vector<std::string> expected;
+    };
+    const std::vector<Case> cases{
+        {"desktop-with-snaps",
+         {"/", "/home", "/media/ada/Backup disk", "/media/ada/CANON_DC", "/home/ada/server", "/mnt/nas"}},
+        {"container-host", {"/", "/boot", "/tank", "/mnt/a", "/mnt/b"}},
+        {"inside-a-container", {"/", "/data-folder"}},
+        {"btrfs-subvolumes", {"/", "/mnt/photos"}},
+        {"stacked-and-bound",
+         {"/", "/d", "/mnt", "/media/usb", "/net/filer/vol", "/misc/nas", "/media/two lines\nand\\more\ttab",
+          "/srv/caf\xe9"}},
+    };
+    for (const Case& machine : cases)
+        EXPECT_EQ(visiblePoints(mounts(fixtures / machine.fixture)), machine.expected) << machine.fixture;
+}
+
+TEST(VisibleMounts, DoNotDependOnTheTablesOrder) {
+    for (const char* fixture : {"desktop-with-snaps", "stacked-and-bound", "container-host"}) {
+        auto table = mounts(fixtures / fixture);
+        auto forward = visiblePoints(table);
+        std::reverse(table.begin(), table.end());
+        auto backward = visiblePoints(table);
+        std::sort(forward.begin(), forward.end());
+        std::sort(backward.begin(), backward.end());
+        EXPECT_EQ(forward, backward) << fixture;
+    }
+}
+
+TEST(VisibleMounts, EndOnATableThatIsDamaged) {
+    const auto mount = [](std::uint64_t id, std::uint64_t parent, const char* point) {
+        Mount one;
+        one.id = one.device = id;
+        one.parentId = parent;
+        one.root = "/";
+        one.mountPoint = point;
+        one.type = "ext4";
+        one.source = "/dev/x";
+        return one;
+    };
+    EXPECT_TRUE(visiblePoints({mount(1, 2, "/a"), mount(2, 1, "/a")}).empty());
+    EXPECT_EQ(visiblePoints({mount(3, 3, "/"), mount(4, 99, "/b"), mount(5, 3, "")}),
+              (std::vector<std::string>{"/", "/b"}));
+}
+
+TEST(MountTable, KeepsBytesAndLeavesMalformedLinesOut) {
+    const test::TemporaryFolder folder;
+    const auto table = folder.path() / "mountinfo";
+    std::ofstream(table)
+        << "20 1 8:1 / / rw,relatime shared:1 - ext4 /dev/sda1 rw,errors=remount-ro\n"
+           "not a mount\n"
+           "21 20 0:40 /sub\\040vol /mnt/caf\xe9 ro - fuse.sshfs me@host:/x\\040y rw,user_id=0\n"
+           "22 20 8:2\n";
+    const auto found = mounts(table);
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[1], (Mount{.id = 21,
+                               .parentId = 20,
+                               .device = 40,
+                               .root = "/sub vol",
+                               .mountPoint = "/mnt/caf\xe9",
+                               .type = "fuse.sshfs",
+                               .source = "me@host:/x y",
+                               .options = "ro",
+                               .superOptions = "rw,user_id=0"}));
+    EXPECT_TRUE(mounts(folder.path() / "none").empty());
+    std::ofstream(table, std::ios::trunc).close();
+    EXPECT_TRUE(mounts(table).empty());
+}
+
+TEST(MountTable, HoldsTheRealRoot) {
+    const auto root = mountOfPath("/");
+    ASSERT_TRUE(root);
+    EXPECT_EQ(root->mountPoint, "/");
+    EXPECT_FALSE(mountOfPath("/no/such/path"));
+}
+
+TEST(MountOptions, AreWholeWords) {
+    const std::string options = "rw,nocase_not,upperdir=/a=b,size=,ro";
+    EXPECT_TRUE(hasMountOption(options, "ro"));
+    EXPECT_FALSE(hasMountOption(options, "nocase"));
+    EXPECT_FALSE(hasMountOption("", "ro"));
+    EXPECT_EQ(mountOptionValue(options, "upperdir"), "/a=b");
+    EXPECT_EQ(mountOptionValue(options, "size"), "");
+    EXPECT_EQ(mountOptionValue(options, "rw"), std::nullopt);
+}
+
+} // namespace

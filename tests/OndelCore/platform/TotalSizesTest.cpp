@@ -1,0 +1,46 @@
+#include "OndelCore/platform/TotalSizes.h"
+
+#include <gtest/gtest.h>
+
+#include <future>
+
+using namespace OndelCore::platform;
+using namespace std::chrono_literals;
+
+namespace {
+
+TEST(TotalSizes, DoNotWaitForAServerThatHangs) {
+    std::promise<void> release;
+    const std::shared_future<void> released = release.get_future().share();
+    std::promise<void> hangs; // set twice, it throws: a hanging question must not be put again
+    std::promise<void> finished;
+    const SizeAnswer answer = [&](const std::filesystem::path& path) -> std::optional<std::int64_t> {
+        if (path != "/hangs")
+            return path.native().size();
+        hangs.set_value();
+        released.wait();
+        finished.set_value();
+        return 99;
+    };
+    const std::vector<std::optional<std::int64_t>> onlyLocal{std::nullopt, 6};
+    EXPECT_EQ(totalSizes({{"/hangs", true}, {"/local", false}}, 1ms, answer), onlyLocal);
+    hangs.get_future().wait();
+    const std::vector<std::optional<std::int64_t>> allOthers{std::nullopt, 4};
+    EXPECT_EQ(totalSizes({{"/hangs", true}, {"/nfs", true}}, 1min, answer), allOthers);
+    release.set_value();
+    finished.get_future().wait();
+}
+
+TEST(TotalSizes, AnswerEveryOneOfMany) {
+    std::vector<SizeQuestion> questions;
+    for (int index = 0; index < 200; ++index)
+        questions.push_back({"/" + std::to_string(index), index % 3 != 0});
+    const auto sizes = totalSizes(questions, 1min, [](const std::filesystem::path& path) {
+        return std::optional<std::int64_t>(std::stoll(path.filename().string()));
+    });
+    for (std::size_t index = 0; index < sizes.size(); ++index)
+        EXPECT_EQ(sizes[index], static_cast<std::int64_t>(index));
+    EXPECT_TRUE(totalSizes({}, 1min).empty());
+}
+
+} // namespace

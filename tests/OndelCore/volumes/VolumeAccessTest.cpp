@@ -1,0 +1,90 @@
+#include "OndelCore/volumes/VolumeAccess.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <stdexcept>
+#include <system_error>
+
+using namespace OndelCore::volumes;
+namespace fs = std::filesystem;
+
+namespace {
+
+TEST(Bookmark, FindsItsFolderAndTellsWhenItIsAnother) {
+    const test::TemporaryFolder parent;
+    for (const std::string name : {"plain", "two words", "two\nlines", "caf\xe9", "12 34\n"}) {
+        const fs::path folder = parent.path() / name;
+        fs::create_directory(folder);
+        const BookmarkData data = VolumeAccess::bookmark(folder);
+        EXPECT_EQ(VolumeAccess::resolve(data), (ResolvedBookmark{folder, false}));
+
+        // The old folder is kept elsewhere, so that the new one cannot get its inode.
+        fs::rename(folder, parent.path() / "elsewhere");
+        EXPECT_EQ(VolumeAccess::resolve(data), (ResolvedBookmark{folder, true}));
+        fs::create_directory(folder);
+        EXPECT_EQ(VolumeAccess::resolve(data), (ResolvedBookmark{folder, true}));
+        fs::remove(folder);
+        std::ofstream(folder).close();
+        EXPECT_EQ(VolumeAccess::resolve(data), (ResolvedBookmark{folder, true}));
+        fs::remove(folder);
+        fs::rename(parent.path() / "elsewhere", folder);
+        EXPECT_EQ(VolumeAccess::resolve(data), (ResolvedBookmark{folder, false}));
+    }
+}
+
+TEST(Bookmark, OfAPlaceRelativeToTheWorkingFolderHoldsItWhole) {
+    EXPECT_EQ(VolumeAccess::resolve(VolumeAccess::bookmark(".")).url, fs::absolute("."));
+}
+
+TEST(Bookmark, RefusesWhatIsNoFolderAndWhatIsNoBookmark) {
+    const test::TemporaryFolder parent;
+    std::ofstream(parent.path() / "file").close();
+    EXPECT_THROW(VolumeAccess::bookmark(parent.path() / "none"), std::system_error);
+    EXPECT_THROW(VolumeAccess::bookmark(parent.path() / "file"), std::system_error);
+    EXPECT_THROW(VolumeAccess::bookmark(""), std::system_error);
+
+    const BookmarkData good = VolumeAccess::bookmark(parent.path());
+    const auto pathAt = good.find("\n/");
+    for (std::size_t length = 0; length <= pathAt + 1; ++length)
+        EXPECT_THROW(VolumeAccess::resolve(good.substr(0, length)), std::system_error) << length;
+    for (const std::string bad :
+         {"ondel-bookmark-1\n-1 2\n/tmp", "ondel-bookmark-1\n1 99999999999999999999\n/tmp",
+          "ondel-bookmark-1\n1  2\n/tmp", "ondel-bookmark-1\n1 2\ntmp", "ondel-bookmark-2\n1 2\n/tmp"})
+        EXPECT_THROW(VolumeAccess::resolve(bad), std::system_error) << bad;
+    EXPECT_THROW(VolumeAccess::resolve(good + '\0' + "x"), std::system_error);
+}
+
+TEST(WithAccess, GivesBackWhatItTookAndNothingElse) {
+    struct Case {
+        bool isGiven;
+        bool throws;
+    };
+    for (const Case& access : {Case{true, false}, {true, true}, {false, false}, {false, true}}) {
+        std::string events;
+        const FolderAccess rights{.start =
+                                      [&](const fs::path& folder) {
+                                          events += "start " + folder.string() + ' ';
+                                          return access.isGiven;
+                                      },
+                                  .stop = [&](const fs::path&) { events += "stop"; }};
+        const auto body = [&] {
+            events += "body ";
+            if (access.throws)
+                throw std::runtime_error("body failed");
+            return 42;
+        };
+        if (access.throws)
+            EXPECT_THROW(VolumeAccess::withAccess("/x", body, rights), std::runtime_error);
+        else
+            EXPECT_EQ(VolumeAccess::withAccess("/x", body, rights), 42);
+        EXPECT_EQ(events, access.isGiven ? "start /x body stop" : "start /x body ");
+    }
+    bool ran = false;
+    VolumeAccess::withAccess("/", [&] { ran = true; });
+    EXPECT_TRUE(ran);
+}
+
+} // namespace

@@ -1,0 +1,91 @@
+#include "OndelCore/volumes/VolumeCapabilities.h"
+
+#include <gtest/gtest.h>
+
+#include <unordered_set>
+
+using namespace OndelCore::volumes;
+using namespace OndelCore::platform;
+
+namespace {
+
+using Field = bool VolumeCapabilities::*;
+
+struct Feature {
+    Field field;
+    CapabilityWord CapabilityWords::*word;
+    std::uint32_t bit;
+};
+
+// The bits in numbers, so that a wrong constant shows.
+const std::vector<Feature> features{
+    {&VolumeCapabilities::isCaseSensitive, &CapabilityWords::format, 0x100},
+    {&VolumeCapabilities::isCasePreserving, &CapabilityWords::format, 0x200},
+    {&VolumeCapabilities::supportsSparseFiles, &CapabilityWords::format, 0x40},
+    {&VolumeCapabilities::supportsHardLinks, &CapabilityWords::format, 0x4},
+    {&VolumeCapabilities::supportsSymbolicLinks, &CapabilityWords::format, 0x2},
+    {&VolumeCapabilities::supportsExtendedAttributes, &CapabilityWords::interfaces, 0x4000},
+    {&VolumeCapabilities::supportsNamedStreams, &CapabilityWords::interfaces, 0x2000},
+    {&VolumeCapabilities::supportsExtendedSecurity, &CapabilityWords::interfaces, 0x400},
+    {&VolumeCapabilities::supportsCloning, &CapabilityWords::interfaces, 0x10000},
+    {&VolumeCapabilities::supportsSnapshots, &CapabilityWords::interfaces, 0x20000},
+    {&VolumeCapabilities::supportsJournal, &CapabilityWords::format, 0x8},
+    {&VolumeCapabilities::isJournalActive, &CapabilityWords::format, 0x10},
+    {&VolumeCapabilities::isSealed, &CapabilityWords::format, 0x2000000},
+};
+
+VolumeCapabilities from(const std::optional<CapabilityWords>& words) {
+    FileSystemAnswers answers;
+    answers.type = "x";
+    answers.capabilities = words;
+    return VolumeCapabilities::from(answers);
+}
+
+TEST(VolumeCapabilities, AreThereOnlyWhenClaimedAndValid) {
+    for (const Feature& feature : features) {
+        CapabilityWords words;
+        (words.*feature.word).claimed = feature.bit;
+        EXPECT_FALSE(from(words).*feature.field);
+        (words.*feature.word).valid = ~feature.bit;
+        EXPECT_FALSE(from(words).*feature.field);
+        (words.*feature.word).valid = feature.bit;
+        const VolumeCapabilities one = from(words);
+        for (const Feature& other : features)
+            EXPECT_EQ(one.*other.field, other.field == feature.field) << feature.bit << ' ' << other.bit;
+        (words.*feature.word).claimed = 0;
+        EXPECT_FALSE(from(words).*feature.field);
+    }
+}
+
+TEST(VolumeCapabilities, WithoutAnAnswerAssumeCasePreservationOnly) {
+    const VolumeCapabilities unknown = from(std::nullopt);
+    for (const Feature& feature : features)
+        EXPECT_EQ(unknown.*feature.field, feature.field == &VolumeCapabilities::isCasePreserving);
+    EXPECT_FALSE(from(CapabilityWords()).isCasePreserving);
+}
+
+TEST(VolumeCapabilities, OfOtherProvidersAndMissingPathsAreAbsent) {
+    EXPECT_FALSE(VolumeCapabilities::probe(Location{.provider = {"cloud"}, .path = "/"}));
+    EXPECT_FALSE(VolumeCapabilities::probe(std::filesystem::path("/no/such/path")));
+    EXPECT_FALSE(VolumeCapabilities::probe(Location::local("")));
+}
+
+TEST(VolumeCapabilities, HashLikeTheyCompare) {
+    std::unordered_set<VolumeCapabilities> different;
+    VolumeCapabilities one;
+    different.insert(one);
+    for (const Feature& feature : features) {
+        VolumeCapabilities other;
+        other.*feature.field = !(other.*feature.field);
+        different.insert(other);
+        different.insert(other);
+    }
+    one.maxLinkCount = 0;
+    different.insert(one);
+    one.maxLinkCount.reset();
+    one.filesystemType = "ext4";
+    different.insert(one);
+    EXPECT_EQ(different.size(), features.size() + 3);
+}
+
+} // namespace

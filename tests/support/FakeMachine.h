@@ -1,0 +1,51 @@
+#pragma once
+
+#include "OndelCore/platform/SystemSources.h"
+#include "support/TemporaryFolder.h"
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <map>
+#include <string>
+
+namespace test {
+
+/// A machine of one test's own: a device tree, a device database and a mount table in a temporary folder, for
+/// whatever asks `sources()` instead of the system.
+class FakeMachine {
+public:
+    using Attributes = std::map<std::string, std::string>;
+
+    FakeMachine();
+
+    /// A block device whose folder is `place` below the tree's "devices", with files for its attributes
+    /// ("queue/optimal_io_size", "device/model").
+    std::filesystem::path addBlockDevice(const std::string& place, dev_t number,
+                                         const Attributes& attributes = {});
+    /// Writes attributes of any folder below the tree's "devices".
+    void setAttributes(const std::string& place, const Attributes& attributes);
+    /// `upper` is made of `lower`, both as given to addBlockDevice.
+    void stack(const std::string& upper, const std::string& lower);
+    void setDatabase(dev_t number, OndelCore::platform::DeviceProperties properties);
+
+    struct Row {
+        std::string type = "ext4";
+        dev_t device = 0;
+        std::string source = "none";
+        std::string options = "rw,relatime";
+        std::string superOptions = "rw";
+    };
+    /// A row of the mount table that pretends that the real mount which holds `path` is this one.
+    void pretendMounted(const std::filesystem::path& path, const Row& row);
+    void setMountTable(const std::string& text);
+
+    OndelCore::platform::SystemSources sources() const;
+    const std::filesystem::path& folder() const { return m_folder.path(); }
+
+private:
+    TemporaryFolder m_folder;
+    std::map<dev_t, OndelCore::platform::DeviceProperties> m_database;
+};
+
+} // namespace test
