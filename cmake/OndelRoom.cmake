@@ -20,6 +20,8 @@ function(ondel_test name)
   add_executable(${name} ${TEST_SOURCES})
   target_link_libraries(${name} PRIVATE ondel_options ondel_test_support ${TEST_LINK} GTest::gtest)
   add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT
+    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/thread-sanitizer.supp")
 endfunction()
 
 # ondel_bench(NAME SOURCES … LINK …): a Google Benchmark program under build/<preset>/bin.
