@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstring>
 #include <functional>
+#include <random>
 
 namespace OndelCore::platform {
 
@@ -100,10 +101,10 @@ TEST(SmartBlocks, AsksAnAtaDriveForItsModeThenItsVerdictThenItsFigures) {
         {0x85, 0x06, 0x20, 0, 0xda, 0, 0, 0, 0, 0, 0x4f, 0, 0xc2, 0, 0xb0, 0},
         {0x85, 0x08, 0x0e, 0, 0xd0, 0, 1, 0, 0, 0, 0x4f, 0, 0xc2, 0, 0xb0, 0},
     };
+    FakeDeviceTree tree;
+    tree.addDisk("sda", "8:0", "scsi", {{"device/vendor", "ATA     "}});
     for (const AtaCase& each : ataCases) {
         SCOPED_TRACE(each.what);
-        FakeDeviceTree tree;
-        tree.addDisk("sda", "8:0", "scsi", {{"device/vendor", "ATA     "}});
         FakeDrives drives;
         FakeDrive& drive = drives.drives["sda"];
         drive.page = filled(0x5a);
@@ -196,6 +197,25 @@ TEST(SmartBlocks, FindsTheFirstDiskThatAnswersUnderAllLayers) {
               "not answer");
     EXPECT_EQ(smartOfDevice("vda", tree.sources(drives)).source, "vda has no S.M.A.R.T. interface");
     EXPECT_EQ(smartOfDevice("new\nline", tree.sources(drives)).source, "new?line is no block device");
+}
+
+/// Damaged sense data of every length, in a buffer of exactly that length so that the sanitizers see a byte
+/// too far.
+TEST(SmartBlocks, ReadsSenseDataOfAnyBytes) {
+    std::mt19937_64 random(8589934592);
+    std::size_t found = 0;
+    for (int round = 0; round < 300000; ++round) {
+        test::Bytes sense =
+            round % 2 ? descriptorSense(0x50, 0xff, 0x4f, 0xc2) : fixedSense(0x50, 0, 0xf4, 0x2c);
+        for (std::size_t changes = random() % 4; changes > 0; --changes)
+            sense[random() % sense.size()] = static_cast<std::uint8_t>(random());
+        sense.resize(random() % (sense.size() + 1));
+        sense.shrink_to_fit();
+        found += ataRegisters(sense).has_value();
+    }
+    EXPECT_GT(found, 1000U);
+    EXPECT_EQ(ataRegisters(fixedSense(0x51, 7, 0x4f, 0xc2)),
+              ataRegisters(descriptorSense(0x51, 7, 0x4f, 0xc2)));
 }
 
 TEST(SmartBlocks, StandsTheRealMachine) {

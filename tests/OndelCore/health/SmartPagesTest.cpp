@@ -1,0 +1,215 @@
+#include "OndelCore/health/SmartPages.h"
+
+#include "OndelCore/health/DiskHealth.h"
+#include "OndelCore/health/OndelSMARTFields.h"
+#include "OndelCore/health/SmartReader.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <limits>
+#include <map>
+#include <random>
+
+namespace OndelCore::health {
+
+namespace {
+
+constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
+
+/// Writes a page the way drives do, byte by byte at the standards' offsets.
+class PageBuilder {
+public:
+    explicit PageBuilder(std::uint8_t filling = 0) { m_page.fill(filling); }
+
+    PageBuilder& put(std::size_t offset, std::uint64_t value, std::size_t size) {
+        for (std::size_t index = 0; index < size; ++index, value >>= 8U)
+            m_page.at(offset + index) = static_cast<std::uint8_t>(value);
+        return *this;
+    }
+    /// An entry of the ATA attribute table; flags, value and worst are noise that must not count.
+    PageBuilder& attribute(std::size_t row, std::uint8_t number, std::uint64_t raw) {
+        const std::size_t offset = 2 + 12 * row;
+        return put(offset, number, 1)
+            .put(offset + 1, 0x64640032, 4)
+            .put(offset + 5, raw, 6)
+            .put(offset + 11, 0xee, 1);
+    }
+    const SmartPage& page() const { return m_page; }
+
+private:
+    SmartPage m_page;
+};
+
+/// The fields that are not zero, by name.
+std::map<std::string, double> fieldsOf(const OndelSMART& record) {
+    std::map<std::string, double> fields;
+    forEachField(record, [&](std::string_view name, const auto& value) {
+        if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(value)>>)
+            if (value != 0)
+                fields[std::string(name)] = static_cast<double>(value);
+    });
+    return fields;
+}
+
+OndelSMART decoded(void (*decode)(const SmartPage&, OndelSMART&), const PageBuilder& builder) {
+    OndelSMART record;
+    decode(builder.page(), record);
+    return record;
+}
+
+TEST(SmartPages, TakeEveryFieldOfAnNvmeHealthLogFromItsPlace) {
+    // Each counter's high half is set as well and must not leak into the figure.
+    PageBuilder log;
+    log.put(0, 0x85, 1).put(1, 311, 2).put(3, 100, 1).put(4, 10, 1).put(5, 255, 1);
+    for (std::uint64_t counter = 0; counter < 10; ++counter)
+        log.put(32 + 16 * counter, 1000 + counter, 8).put(40 + 16 * counter, largest, 8);
+    EXPECT_EQ(fieldsOf(decoded(decodeNvmeHealth, log)),
+              (std::map<std::string, double>{{"failing", 1},
+                                             {"critical_warning", 0x85},
+                                             {"has_temperature", 1},
+                                             {"temperature", 38},
+                                             {"has_spare", 1},
+                                             {"spare", 100},
+                                             {"spare_threshold", 10},
+                                             {"has_percent_used", 1},
+                                             {"percent_used", 255},
+                                             {"has_data_read", 1},
+                                             {"data_read_tb", 1000 * 512000.0 / 1e12},
+                                             {"has_data_written", 1},
+                                             {"data_written_tb", 1001 * 512000.0 / 1e12},
+                                             {"has_host_commands", 1},
+                                             {"host_read_commands", 1002},
+                                             {"host_write_commands", 1003},
+                                             {"has_busy_minutes", 1},
+                                             {"busy_minutes", 1004},
+                                             {"has_power_cycles", 1},
+                                             {"power_cycles", 1005},
+                                             {"has_power_on_hours", 1},
+                                             {"power_on_hours", 1006},
+                                             {"has_nvme_counters", 1},
+                                             {"unsafe_shutdowns", 1007},
+                                             {"media_errors", 1008},
+                                             {"error_log_entries", 1009}}));
+}
+
+TEST(SmartPages, TakeAnyNvmeHealthLogAsItIs) {
+    const OndelSMART zeros = decoded(decodeNvmeHealth, PageBuilder(0));
+    EXPECT_EQ(zeros.failing, 0);
+    EXPECT_EQ(zeros.has_temperature, 1);
+    EXPECT_EQ(zeros.temperature, -273);
+    const OndelSMART ones = decoded(decodeNvmeHealth, PageBuilder(0xff));
+    EXPECT_EQ(ones.failing, 1);
+    EXPECT_EQ(ones.critical_warning, 255);
+    EXPECT_EQ(ones.temperature, 65535 - 273);
+    EXPECT_EQ(ones.error_log_entries, largest);
+    EXPECT_DOUBLE_EQ(ones.data_read_tb, 18446744073709551615.0 * 512000.0 / 1e12);
+}
+
+TEST(SmartPages, TakeTheKnownAtaAttributesInTheirWidths) {
+    constexpr std::uint64_t raw = 0xa1b2c3d4e5f6;
+    PageBuilder data;
+    std::size_t row = 0;
+    for (const int number : {1, 5, 9, 10, 12, 187, 190, 193, 197, 198, 199})
+        data.attribute(row++, static_cast<std::uint8_t>(number), raw);
+    data.attribute(29, 194, 0x002600110026); // the last row counts; extremes stand above the temperature
+    EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, data)),
+              (std::map<std::string, double>{{"has_reallocated", 1},
+                                             {"reallocated", raw},
+                                             {"has_power_on_hours", 1},
+                                             {"power_on_hours", raw},
+                                             {"has_spin_retries", 1},
+                                             {"spin_retries", 0xc3d4e5f6},
+                                             {"has_power_cycles", 1},
+                                             {"power_cycles", raw},
+                                             {"has_reported_uncorrectable", 1},
+                                             {"reported_uncorrectable", 0xc3d4e5f6},
+                                             {"has_load_cycles", 1},
+                                             {"load_cycles", 0xc3d4e5f6},
+                                             {"has_pending", 1},
+                                             {"pending", 0xc3d4e5f6},
+                                             {"has_uncorrectable", 1},
+                                             {"uncorrectable", 0xc3d4e5f6},
+                                             {"has_crc_errors", 1},
+                                             {"crc_errors", 0xc3d4e5f6},
+                                             {"has_temperature", 1},
+                                             {"temperature", 38}}));
+}
+
+TEST(SmartPages, LetTheLaterOfTwoAtaAttributesCount) {
+    PageBuilder data;
+    data.attribute(0, 9, 100).attribute(3, 9, 7).attribute(4, 0, 5);
+    data.attribute(5, 194, 40).attribute(6, 194, 120);
+    const OndelSMART record = decoded(decodeAtaAttributes, data);
+    EXPECT_EQ(record.power_on_hours, 7U);
+    EXPECT_EQ(record.temperature, 40) << "a reading out of range leaves the earlier one";
+    EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, PageBuilder(0xff))), (std::map<std::string, double>{}));
+    for (const std::uint64_t outside : {0U, 120U, 255U, 0x2600U})
+        EXPECT_EQ(decoded(decodeAtaAttributes, PageBuilder().attribute(0, 194, outside)).has_temperature, 0);
+    for (const std::uint64_t inside : {1U, 119U})
+        EXPECT_EQ(decoded(decodeAtaAttributes, PageBuilder().attribute(0, 194, inside)).has_temperature, 1);
+}
+
+TEST(SmartPages, MakeARecordOfWhateverAnswered) {
+    using namespace platform;
+    EXPECT_EQ(recordOf({}), OndelSMART());
+
+    const OndelSMART silent = recordOf({.blocks = AtaSmart{}, .source = {}});
+    EXPECT_EQ(fieldsOf(silent), (std::map<std::string, double>{{"available", 1}}));
+    EXPECT_EQ(DiskHealth::smart(silent), (DiskSMART{DiskSMART::Status::verified, "ATA", {}}));
+    const OndelSMART failing =
+        recordOf({.blocks = AtaSmart{.thresholdExceeded = true, .page = {}}, .source = {}});
+    EXPECT_EQ(fieldsOf(failing), (std::map<std::string, double>{{"available", 1}, {"failing", 1}}));
+
+    NvmeSmartReport partial;
+    partial.criticalWarning = 4;
+    partial.sparePercent = 3;
+    partial.mediaErrors = 5;
+    partial.bytesWritten = 2500000000000;
+    const OndelSMART told = recordOf({.blocks = partial, .source = {}});
+    EXPECT_EQ(fieldsOf(told), (std::map<std::string, double>{{"available", 1},
+                                                             {"failing", 1},
+                                                             {"critical_warning", 4},
+                                                             {"media_errors", 5},
+                                                             {"has_data_written", 1},
+                                                             {"data_written_tb", 2.5}}));
+    EXPECT_STREQ(told.kind, "NVMe");
+
+    const OndelSMART table =
+        recordOf({.blocks = AtaSmartReport{.thresholdExceeded = false, .attributes = {{194, 41}, {250, 1}}},
+                  .source = {}});
+    EXPECT_EQ(fieldsOf(table),
+              (std::map<std::string, double>{{"available", 1}, {"has_temperature", 1}, {"temperature", 41}}));
+    EXPECT_STREQ(table.kind, "ATA");
+}
+
+/// Pages of noise, and pages whose attribute numbers are mostly known ones: nothing is read or written out of
+/// place (the sanitizers watch), flags stay flags, and every record can be shown.
+TEST(SmartPages, StandAnyBytes) {
+    std::mt19937_64 random(20261121);
+    constexpr std::array<std::uint8_t, 12> numbers{5, 9, 10, 12, 187, 193, 194, 197, 198, 199, 0, 77};
+    for (int round = 0; round < 200000; ++round) {
+        SmartPage page;
+        for (std::size_t offset = 0; offset < page.size(); offset += sizeof(std::uint64_t)) {
+            const std::uint64_t bytes = random();
+            std::memcpy(page.data() + offset, &bytes, sizeof bytes);
+        }
+        if (round % 2)
+            for (std::size_t row = 0; row < 30; ++row)
+                page[2 + 12 * row] = numbers[random() % numbers.size()];
+        OndelSMART record;
+        round % 4 < 2 ? decodeNvmeHealth(page, record) : decodeAtaAttributes(page, record);
+        forEachField(record, [](std::string_view name, const auto& value) {
+            if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(value)>>)
+                if (name.starts_with("has_") || name == "failing") {
+                    ASSERT_TRUE(value == 0 || value == 1) << name;
+                }
+        });
+        if (round % 1000 < 4) {
+            ASSERT_LE(DiskHealth::smart(record).attributes.size(), 22U);
+        }
+    }
+}
+
+} // namespace
+} // namespace OndelCore::health
