@@ -1,13 +1,10 @@
-// What is to be tested and how: the target and the settings, which the views write directly.
+// How to test: the settings, which the views write directly, and the plan that they make.
 
 #include "TarnwickKit/model/AnalyzerModel.h"
 
 #include "TarnwickKit/model/AnalyzerRun.h"
 #include "TarnwickKit/model/BenchmarkTestTitle.h"
 
-#include <QFile>
-
-#include <thread>
 #include <utility>
 
 namespace TarnwickKit::model {
@@ -31,47 +28,30 @@ const BenchmarkSize::Preset& preset(int index) {
     return presets[static_cast<std::size_t>(index)];
 }
 
+QStringList labels(const std::vector<AnalyzerModel::BlockOption>& options) {
+    QStringList list;
+    for (const auto& option : options)
+        list.append(option.label);
+    return list;
+}
+
+QList<double> values(const std::vector<AnalyzerModel::BlockOption>& options) {
+    QList<double> list;
+    for (const auto& option : options)
+        list.append(static_cast<double>(option.value));
+    return list;
+}
+
 } // namespace
 
 AnalyzerModel::AnalyzerModel(AnalyzerServices services, QObject* parent)
     : QObject(parent)
     , m_services(std::move(services))
     , m_selectedTests(allBenchmarkTests.begin(), allBenchmarkTests.end())
-    , m_runStart(m_services.now()) {}
-
-QString AnalyzerModel::targetFolderText() const {
-    return m_targetFolder ? QFile::decodeName(QByteArray::fromStdString(m_targetFolder->native()))
-                          : QString();
-}
-
-void AnalyzerModel::select(const QUrl& folder) {
-    if (folder.isLocalFile())
-        select(std::filesystem::path(QFile::encodeName(folder.toLocalFile()).toStdString()));
-}
-
-void AnalyzerModel::select(const std::filesystem::path& folder) {
-    if (isRunning())
-        return;
-    m_targetFolder = folder;
-    Q_EMIT targetFolderChanged();
-    announceCanRun();
-    sweepOrphans(folder);
-    setPhase(Phase::Idle);
-    clearLiveSamples();
-}
-
-/// A thread of its own and not a pool's: on a mount that hangs it may never come back, and nothing, the end
-/// of the process included, is to wait for it.
-void AnalyzerModel::sweepOrphans(const std::filesystem::path& folder) {
-    std::erase_if(m_sweeps, [](const auto& sweep) { return sweep.second.isFinished(); });
-    QPromise<void> ended;
-    ended.start();
-    QFuture<void> previous = std::exchange(m_sweeps[folder], ended.future());
-    std::thread([folder, previous, ended = std::move(ended), sweep = m_services.cleanupOrphans]() mutable {
-        previous.waitForFinished();
-        sweep(folder);
-        ended.finish();
-    }).detach();
+    , m_runStart(m_services.now())
+    , m_history(std::make_unique<HistoryStore>(m_services.historyFolder)) {
+    connect(m_history.get(), &HistoryStore::runsChanged, this, &AnalyzerModel::previousRunsChanged);
+    connect(this, &AnalyzerModel::currentRunChanged, this, &AnalyzerModel::previousRunsChanged);
 }
 
 void AnalyzerModel::setSizeIndex(int index) {
@@ -145,6 +125,14 @@ void AnalyzerModel::setRandomBlock(std::int64_t bytes) {
     Q_EMIT randomBlockChanged();
     Q_EMIT liveTestTitleChanged();
 }
+
+QStringList AnalyzerModel::blockLabels() const { return labels(blockOptions()); }
+
+QList<double> AnalyzerModel::blockValues() const { return values(blockOptions()); }
+
+QStringList AnalyzerModel::randomBlockLabels() { return labels(randomBlockOptions()); }
+
+QList<double> AnalyzerModel::randomBlockSizes() { return values(randomBlockOptions()); }
 
 void AnalyzerModel::setBypassCache(bool bypass) {
     if (std::exchange(m_bypassCache, bypass) != bypass)

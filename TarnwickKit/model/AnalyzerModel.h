@@ -3,17 +3,27 @@
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkProgress.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/health/DiskSMART.h"
+#include "OndelCore/volumes/VolumeCapabilities.h"
+#include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickKit/model/AnalyzerDialogs.h"
 #include "TarnwickKit/model/AnalyzerServices.h"
+#include "TarnwickKit/model/HistoryStore.h"
 #include "TarnwickKit/model/ProgressStream.h"
+#include "TarnwickKit/model/RunRecord.h"
+#include "TarnwickKit/model/VolumeMenuItem.h"
 
 #include <QFuture>
 #include <QFutureWatcher>
+#include <QList>
 #include <QObject>
 #include <QPromise>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
+#include <QUuid>
 
+#include <array>
 #include <cstdint>
 #include <exception>
 #include <filesystem>
@@ -54,11 +64,44 @@ public:
     QString targetFolderText() const;
     Q_SIGNAL void targetFolderChanged();
 
-    /// Makes `folder` the target and sweeps up in the background what killed runs left there. Does nothing
-    /// during a run. Selecting the same folder again repeats all of it.
+    /// Makes `folder` the target: takes a picture of its volume, sets the sequential block sizes to what
+    /// suits the file system, and in the background sweeps up what killed runs left and reads the drive's
+    /// health. Does nothing during a run. Selecting the same folder again repeats all of it.
     void select(const std::filesystem::path& folder);
     /// The same for a local file URL. Any other URL is ignored.
     Q_INVOKABLE void select(const QUrl& folder);
+    /// Selects a folder of the volume that can be written to (see BenchmarkTarget::folder).
+    Q_INVOKABLE void selectVolume(const QUrl& mountPoint);
+    /// Asks for a folder, beginning at the target or, without one, wherever the dialog likes, and selects it.
+    Q_INVOKABLE void chooseFolder();
+    void chooseFolder(const std::optional<std::filesystem::path>& startingAt);
+
+    /// The mounted volumes, in the system's order. Blocks for half a second at most.
+    static std::vector<VolumeMenuItem> mountedVolumeItems();
+
+    /// Facts of the target's volume, as they were when it was selected. Both change together.
+    const std::optional<OndelCore::volumes::VolumeInfo>& volumeInfo() const { return m_volumeInfo; }
+    const std::optional<OndelCore::volumes::VolumeCapabilities>& capabilities() const {
+        return m_capabilities;
+    }
+    Q_SIGNAL void volumeChanged();
+    Q_PROPERTY(bool isNetworkVolume READ isNetworkVolume NOTIFY volumeChanged)
+    bool isNetworkVolume() const;
+    /// "Network", "Removable", "Internal", "External"; "--" without facts of the volume.
+    Q_PROPERTY(QString connectionLabel READ connectionLabel NOTIFY volumeChanged)
+    QString connectionLabel() const;
+    Q_PROPERTY(QString selectedVolumeIcon READ selectedVolumeIcon NOTIFY volumeChanged)
+    QString selectedVolumeIcon() const;
+    RunRecord::Kind selectedVolumeKind() const;
+
+    /// The health of the target's drive, read anew by a selection and after each run.
+    const std::optional<OndelCore::health::DiskSMART>& smart() const { return m_smart; }
+    Q_SIGNAL void smartChanged();
+    /// Asks for a file's name and writes the health report there. Does nothing without a health to report.
+    Q_INVOKABLE void exportSMART();
+
+    /// Who asks people the model's questions; while there is nobody, nothing is asked. Owner: the caller.
+    void setDialogs(AnalyzerDialogs* dialogs) { m_dialogs = dialogs; }
 
     // --- Settings: written directly by the views; no value is refused or changed
     // -------------------------------
@@ -105,6 +148,27 @@ public:
     std::int64_t randomBlock() const { return m_randomBlock; }
     void setRandomBlock(std::int64_t bytes);
     Q_SIGNAL void randomBlockChanged();
+
+    static constexpr std::array<std::int64_t, 5> baseBlockValues{4096, 65536, 262144, 1048576, 4194304};
+    static constexpr std::array<std::int64_t, 4> randomBlockValues{4096, 8192, 16384, 65536};
+    struct BlockOption {
+        QString label;
+        std::int64_t value;
+        bool operator==(const BlockOption&) const = default;
+    };
+    /// The block size that suits the target's file system. Units: bytes.
+    std::optional<std::int64_t> optimalBlock() const;
+    /// What the menus of block sizes offer, ascending, the optimal one among them and marked.
+    std::vector<BlockOption> blockOptions() const;
+    static std::vector<BlockOption> randomBlockOptions();
+    Q_PROPERTY(QStringList blockLabels READ blockLabels NOTIFY volumeChanged)
+    QStringList blockLabels() const;
+    Q_PROPERTY(QList<double> blockValues READ blockValues NOTIFY volumeChanged)
+    QList<double> blockValues() const;
+    Q_PROPERTY(QStringList randomBlockLabels READ randomBlockLabels CONSTANT)
+    static QStringList randomBlockLabels();
+    Q_PROPERTY(QList<double> randomBlockSizes READ randomBlockSizes CONSTANT)
+    static QList<double> randomBlockSizes();
 
     /// Ask the system to keep the data file out of its cache.
     Q_PROPERTY(bool bypassCache READ bypassCache WRITE setBypassCache NOTIFY bypassCacheChanged)
@@ -180,6 +244,63 @@ public:
     /// The sentence for people about a run that failed.
     static QString describe(const std::exception& error);
 
+    // --- Stored runs
+    // --------------------------------------------------------------------------------------------
+
+    HistoryStore& history() { return *m_history; }
+    const HistoryStore& history() const { return *m_history; }
+
+    /// The run that the main pane shows.
+    const std::optional<RunRecord>& currentRun() const { return m_currentRun; }
+    Q_SIGNAL void currentRunChanged();
+    Q_PROPERTY(bool currentRunCollapsed READ currentRunCollapsed WRITE setCurrentRunCollapsed NOTIFY
+                   currentRunCollapsedChanged)
+    bool currentRunCollapsed() const { return m_currentRunCollapsed; }
+    void setCurrentRunCollapsed(bool collapsed);
+    Q_SIGNAL void currentRunCollapsedChanged();
+
+    /// The stored runs but for the one on view, newest first.
+    std::vector<RunRecord> previousRuns() const;
+    Q_SIGNAL void previousRunsChanged();
+    const std::set<QUuid>& expandedRunIDs() const { return m_expandedRunIDs; }
+    Q_INVOKABLE void setRunExpanded(const QUuid& id, bool expanded);
+    Q_SIGNAL void expandedRunIDsChanged();
+
+    Q_INVOKABLE void deleteRun(const QUuid& id);
+    /// Gives a run the title that RunRecord::customTitleFrom makes of `text`.
+    Q_INVOKABLE void renameRun(const QUuid& id, const QString& text);
+    Q_INVOKABLE void clearHistory();
+
+    /// Reads a run file into the history and, unless a run goes on, shows it.
+    /// Fails: false, with a line in the log and nothing changed.
+    bool importRun(const std::filesystem::path& file);
+
+    // --- Comparison
+    // ---------------------------------------------------------------------------------------------
+
+    /// The history's rows show selection marks instead of their normal actions.
+    Q_PROPERTY(bool compareMode READ compareMode NOTIFY compareModeChanged)
+    bool compareMode() const { return m_compareMode; }
+    Q_INVOKABLE void toggleCompareMode();
+    Q_SIGNAL void compareModeChanged();
+
+    Q_PROPERTY(int compareSelectionCount READ compareSelectionCount NOTIFY compareSelectionChanged)
+    const std::set<QUuid>& compareSelection() const { return m_compareSelection; }
+    int compareSelectionCount() const { return static_cast<int>(m_compareSelection.size()); }
+    Q_INVOKABLE void toggleCompareSelection(const QUuid& id);
+    Q_SIGNAL void compareSelectionChanged();
+
+    /// The current run, then the previous ones.
+    std::vector<RunRecord> comparableRuns() const;
+    /// The runs being compared, which the main pane then shows.
+    Q_PROPERTY(bool isComparing READ isComparing NOTIFY comparisonChanged)
+    const std::optional<std::vector<RunRecord>>& comparison() const { return m_comparison; }
+    bool isComparing() const { return m_comparison.has_value(); }
+    /// Compares the runs picked, in the order of comparableRuns. Does nothing with fewer than two of them.
+    Q_INVOKABLE void beginComparison();
+    Q_INVOKABLE void endComparison();
+    Q_SIGNAL void comparisonChanged();
+
 private:
     struct Changes;
     struct Run;
@@ -195,6 +316,12 @@ private:
     void setRandomBlockNumber(double bytes) { setRandomBlock(static_cast<std::int64_t>(bytes)); }
 
     void sweepOrphans(const std::filesystem::path& folder);
+    void refreshSMART();
+    void setSMART(std::optional<OndelCore::health::DiskSMART> smart);
+    void setCurrentRun(std::optional<RunRecord> run);
+    void setComparison(std::optional<std::vector<RunRecord>> runs);
+    void setCompareMode(bool mode);
+    void clearCompareSelection();
     void setPhase(Phase phase, const QString& failureMessage = {});
     void setLiveTest(std::optional<OndelCore::benchmark::BenchmarkTest> test);
     void setResult(std::optional<OndelCore::benchmark::BenchmarkResult> result);
@@ -209,6 +336,7 @@ private:
     void endRun(const std::function<void()>& settle);
     void finish(OndelCore::benchmark::BenchmarkResult result);
     void fail(const std::exception& error);
+    void logStart() const;
 
     AnalyzerServices m_services;
 
@@ -233,6 +361,21 @@ private:
     /// Sweeps under way by folder. A run waits for its folder's, which would else take the run's own files.
     std::map<std::filesystem::path, QFuture<void>> m_sweeps;
     std::shared_ptr<Run> m_run;
+
+    AnalyzerDialogs* m_dialogs = nullptr;
+    std::optional<OndelCore::volumes::VolumeInfo> m_volumeInfo;
+    std::optional<OndelCore::volumes::VolumeCapabilities> m_capabilities;
+    std::optional<OndelCore::health::DiskSMART> m_smart;
+    /// The read under way: another one takes its place, and its answer is then dropped.
+    QFutureWatcher<std::optional<OndelCore::health::DiskSMART>>* m_smartTask = nullptr;
+
+    std::optional<RunRecord> m_currentRun;
+    bool m_currentRunCollapsed = false;
+    std::set<QUuid> m_expandedRunIDs;
+    bool m_compareMode = false;
+    std::set<QUuid> m_compareSelection;
+    std::optional<std::vector<RunRecord>> m_comparison;
+    std::unique_ptr<HistoryStore> m_history;
 };
 
 } // namespace TarnwickKit::model

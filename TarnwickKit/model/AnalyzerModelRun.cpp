@@ -1,8 +1,11 @@
 // The life of one run: starting it, feeding the live display, cancelling, and what the end does.
 
 #include "OndelCore/benchmark/BenchmarkError.h"
+#include "OndelCore/logging/Log.h"
 #include "TarnwickKit/model/AnalyzerRun.h"
+#include "TarnwickKit/model/WholeNumber.h"
 
+#include <cmath>
 #include <utility>
 
 namespace TarnwickKit::model {
@@ -12,6 +15,8 @@ using OndelCore::benchmark::BenchmarkProgress;
 using OndelCore::benchmark::BenchmarkResult;
 using OndelCore::benchmark::BenchmarkTest;
 using OndelCore::benchmark::Cancelled;
+using OndelCore::logging::Log;
+using OndelCore::logging::LogField;
 
 namespace {
 
@@ -28,6 +33,8 @@ BenchmarkResult answer(QFuture<BenchmarkResult> future) {
 AnalyzerModel::Run::Run(AnalyzerModel& model, BenchmarkPlan runPlan, std::filesystem::path runTarget)
     : plan(std::move(runPlan))
     , target(std::move(runTarget))
+    , volumeInfo(model.m_volumeInfo)
+    , capabilities(model.m_capabilities)
     , stream([&model](const ProgressStream::Batch& batch) {
         Changes changes;
         for (const BenchmarkProgress& progress : batch)
@@ -57,11 +64,13 @@ void AnalyzerModel::start() {
     auto run = std::make_shared<Run>(*this, makePlan(), *m_targetFolder);
     setPhase(Phase::Running);
     setResult(std::nullopt);
+    setCurrentRun(std::nullopt);
     clearLiveSamples();
     setLiveTest(std::nullopt);
     setProgress(0, 0);
     m_runStart = m_services.now();
     m_run = run;
+    logStart();
 
     connect(&run->sweep, &QFutureWatcher<void>::finished, this, &AnalyzerModel::launch);
     connect(&run->engine, &QFutureWatcher<BenchmarkResult>::finished, this, &AnalyzerModel::engineEnded);
@@ -123,16 +132,45 @@ void AnalyzerModel::endRun(const std::function<void()>& settle) {
 }
 
 void AnalyzerModel::finish(BenchmarkResult result) {
-    setResult(std::move(result));
+    const auto secondsSinceStart = [this] {
+        return static_cast<double>(m_runStart.msecsTo(m_services.now())) / 1000;
+    };
+    setResult(result);
+    const RunRecord record = RunRecord::from(result, m_run->volumeInfo, m_run->capabilities, m_runStart,
+                                             m_run->plan, secondsSinceStart(), m_services.driveIdentity);
+    setCurrentRun(record);
+    setCurrentRunCollapsed(false);
+    m_history->add(record);
+    const auto megabytes = [](const auto& test) {
+        return test ? wholeNumber(std::trunc(test->sustainedBytesPerSecond() / 1e6)) : 0;
+    };
+    Log::app.notice("benchmark finished", LogField::ms("took", secondsSinceStart() * 1000),
+                    LogField::int_("writeMBps", megabytes(result.sequentialWrite)),
+                    LogField::int_("readMBps", megabytes(result.sequentialRead)));
     setPhase(Phase::Done);
     setLiveTest(std::nullopt);
+    refreshSMART();
 }
 
 void AnalyzerModel::fail(const std::exception& error) {
-    if (dynamic_cast<const Cancelled*>(&error))
+    if (dynamic_cast<const Cancelled*>(&error)) {
+        Log::app.notice("benchmark cancelled");
         setPhase(Phase::Idle);
-    else
+    } else {
+        Log::app.error("benchmark failed", LogField::failure(error));
         setPhase(Phase::Failed, describe(error));
+    }
+}
+
+void AnalyzerModel::logStart() const {
+    const BenchmarkPlan& plan = m_run->plan;
+    Log::app.notice(
+        "benchmark started",
+        LogField::token("fs", m_run->capabilities ? m_run->capabilities->filesystemType : "unknown"),
+        LogField::token("connection", connectionLabel()),
+        LogField::int_("tests", static_cast<std::int64_t>(plan.tests.size())),
+        LogField::bool_("fillDisk", plan.size.asFillDisk() != nullptr),
+        LogField::int_("writeBlock", plan.writeBlockSize), LogField::bool_("bypassCache", plan.bypassCache));
 }
 
 void AnalyzerModel::apply(const BenchmarkProgress& progress) { announce(take(progress)); }

@@ -11,6 +11,9 @@ struct AnalyzerModel::Run {
 
     const OndelCore::benchmark::BenchmarkPlan plan;
     const std::filesystem::path target;
+    /// As they were when the run began; the record is made of them.
+    const std::optional<OndelCore::volumes::VolumeInfo> volumeInfo;
+    const std::optional<OndelCore::volumes::VolumeCapabilities> capabilities;
     std::stop_source stop;
     bool launched = false; ///< the engine has been called
     bool hasEnded = false;

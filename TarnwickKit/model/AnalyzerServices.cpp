@@ -1,8 +1,13 @@
 #include "TarnwickKit/model/AnalyzerServices.h"
 
+#include "OndelCore/health/DiskHealth.h"
+
 namespace TarnwickKit::model {
 
 using OndelCore::benchmark::BenchmarkEngine;
+using OndelCore::volumes::Location;
+using OndelCore::volumes::VolumeCapabilities;
+using OndelCore::volumes::VolumeInfo;
 
 AnalyzerServices AnalyzerServices::real() {
     AnalyzerServices services;
@@ -14,6 +19,12 @@ AnalyzerServices AnalyzerServices::real() {
     services.cleanupOrphans = [](const std::filesystem::path& folder) {
         BenchmarkEngine::cleanupOrphans(folder);
     };
+    services.loadVolume = [](const Location& location) { return VolumeInfo::load(location); };
+    services.probeCapabilities = [](const Location& location) { return VolumeCapabilities::probe(location); };
+    services.readHealth = [](const std::filesystem::path& path) {
+        return OndelCore::health::DiskHealth::read(path);
+    };
+    services.driveIdentity = RunRecord::identityOf;
     services.now = [] { return QDateTime::currentDateTimeUtc(); };
     return services;
 }

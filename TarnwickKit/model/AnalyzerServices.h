@@ -1,11 +1,17 @@
 #pragma once
 
 #include "OndelCore/benchmark/BenchmarkEngine.h"
+#include "OndelCore/health/DiskSMART.h"
+#include "OndelCore/volumes/Location.h"
+#include "OndelCore/volumes/VolumeCapabilities.h"
+#include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickKit/model/RunRecord.h"
 
 #include <QDateTime>
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <stop_token>
 
 namespace TarnwickKit::model {
@@ -19,6 +25,15 @@ struct AnalyzerServices {
         runBenchmark;
     /// See BenchmarkEngine::cleanupOrphans. Threads: called on a thread of its own.
     std::function<void(const std::filesystem::path& folder)> cleanupOrphans;
+    std::function<std::optional<OndelCore::volumes::VolumeInfo>(const OndelCore::volumes::Location&)>
+        loadVolume;
+    std::function<std::optional<OndelCore::volumes::VolumeCapabilities>(const OndelCore::volumes::Location&)>
+        probeCapabilities;
+    /// See DiskHealth::read. Threads: called on a thread of its own.
+    std::function<std::optional<OndelCore::health::DiskSMART>(const std::filesystem::path&)> readHealth;
+    RunRecord::IdentityOf driveIdentity;
+    /// See HistoryStore.
+    std::optional<std::filesystem::path> historyFolder;
     /// The wall clock.
     std::function<QDateTime()> now;
 

@@ -1,5 +1,7 @@
 #include "TarnwickKit/model/Formatter.h"
 
+#include "TarnwickKit/model/WholeNumber.h"
+
 #include <QtGlobal>
 
 #include <unicode/dtptngen.h>
@@ -51,14 +53,6 @@ Scaled scale(std::int64_t bytes, std::size_t unitCount) {
 
 constexpr std::array<QLatin1StringView, 5> sizeUnits{"B"_L1, "KiB"_L1, "MiB"_L1, "GiB"_L1, "TiB"_L1};
 constexpr std::size_t blockUnitCount = 4;
-
-std::int64_t toInteger(double wholeNumber) {
-    // 2^63 is the least double above the largest integer; its negative is the smallest integer itself.
-    constexpr double limit = 9223372036854775808.0;
-    if (!(wholeNumber >= -limit && wholeNumber < limit))
-        qFatal("a figure to be shown is not finite or does not fit into 64 bits");
-    return static_cast<std::int64_t>(wholeNumber);
-}
 
 } // namespace
 
@@ -202,7 +196,7 @@ QString Formatter::bytes(std::int64_t bytes) const {
 }
 
 QString Formatter::mbValue(double bytesPerSecond) const {
-    return groupedInteger(toInteger(std::round(bytesPerSecond / 1e6)));
+    return groupedInteger(wholeNumber(std::round(bytesPerSecond / 1e6)));
 }
 
 QString Formatter::compact(double value) const {
@@ -214,7 +208,7 @@ QString Formatter::rate(double bytesPerSecond) const {
                                  : decimals(bytesPerSecond / 1e6, 0) + " MB/s"_L1;
 }
 
-QString Formatter::grouped(double value) const { return groupedInteger(toInteger(std::trunc(value))); }
+QString Formatter::grouped(double value) const { return groupedInteger(wholeNumber(std::trunc(value))); }
 
 QString Formatter::shortStamp(const QDateTime& date) const {
     const QDateTime local = m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime();
@@ -224,7 +218,7 @@ QString Formatter::shortStamp(const QDateTime& date) const {
 QString Formatter::runStamp(const QDateTime& date, double durationSeconds) const {
     const QDateTime local = m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime();
     return m_icu->stamp(*m_icu->longDate, local) + separator + m_icu->stamp(*m_icu->time, local) + separator +
-           QString::number(toInteger(std::round(durationSeconds))) + u's';
+           QString::number(wholeNumber(std::round(durationSeconds))) + u's';
 }
 
 QString Formatter::dateAndTime(const QDateTime& date) const {

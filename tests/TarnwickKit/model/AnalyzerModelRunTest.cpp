@@ -1,3 +1,4 @@
+#include "ModelHarness.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
 #include "support/TemporaryFolder.h"
@@ -22,49 +23,6 @@ using Phase = AnalyzerModel::Phase;
 BenchmarkProgress event(BenchmarkTest test, double rate, double elapsed = 0, std::int64_t completed = 0,
                         std::int64_t total = 0) {
     return {test, completed, total, rate, elapsed};
-}
-
-/// An engine whose runs go as the test says.
-struct Engine {
-    struct Call {
-        BenchmarkPlan plan;
-        std::filesystem::path folder;
-        BenchmarkEngine::Progress progress;
-        std::stop_token stop;
-        QPromise<BenchmarkResult> promise;
-
-        void finish(BenchmarkResult result) {
-            promise.addResult(std::move(result));
-            promise.finish();
-        }
-        void fail(auto error) {
-            promise.setException(std::make_exception_ptr(error));
-            promise.finish();
-        }
-    };
-    std::vector<std::shared_ptr<Call>> calls;
-
-    Call& last() { return *calls.back(); }
-
-    AnalyzerServices services() {
-        AnalyzerServices services;
-        services.runBenchmark = [this](BenchmarkPlan plan, std::filesystem::path folder, auto progress,
-                                       auto stop) {
-            auto call = std::make_shared<Call>(plan, folder, progress, stop);
-            call->promise.start();
-            calls.push_back(call);
-            return call->promise.future();
-        };
-        services.cleanupOrphans = [](const std::filesystem::path&) {};
-        services.now = [] { return QDateTime::currentDateTimeUtc(); };
-        return services;
-    }
-};
-
-/// Turns the event loop until `done`; what is waited for is always under way.
-void turnUntil(const std::function<bool()>& done) {
-    while (!done())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 struct AnalyzerModelRun : testing::Test {

@@ -1,0 +1,160 @@
+// The stored runs: which one is on view, which are compared, and what people do to them.
+
+#include "OndelCore/logging/Log.h"
+#include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/model/RunFile.h"
+#include "TarnwickKit/model/RunRecordJson.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace TarnwickKit::model {
+
+using OndelCore::logging::Log;
+using OndelCore::logging::LogField;
+
+namespace {
+
+auto hasId(const QUuid& id) {
+    return [id](const RunRecord& run) { return run.id == id; };
+}
+
+} // namespace
+
+void AnalyzerModel::setCurrentRun(std::optional<RunRecord> run) {
+    if (m_currentRun == run)
+        return;
+    m_currentRun = std::move(run);
+    Q_EMIT currentRunChanged();
+}
+
+void AnalyzerModel::setCurrentRunCollapsed(bool collapsed) {
+    if (std::exchange(m_currentRunCollapsed, collapsed) != collapsed)
+        Q_EMIT currentRunCollapsedChanged();
+}
+
+std::vector<RunRecord> AnalyzerModel::previousRuns() const {
+    std::vector<RunRecord> runs;
+    std::ranges::copy_if(m_history->runs(), std::back_inserter(runs), [this](const RunRecord& run) {
+        return !m_currentRun || run.id != m_currentRun->id;
+    });
+    return runs;
+}
+
+void AnalyzerModel::setRunExpanded(const QUuid& id, bool expanded) {
+    const bool changed = expanded ? m_expandedRunIDs.insert(id).second : m_expandedRunIDs.erase(id) > 0;
+    if (changed)
+        Q_EMIT expandedRunIDsChanged();
+}
+
+void AnalyzerModel::deleteRun(const QUuid& id) {
+    m_history->deleteRun(id);
+    setRunExpanded(id, false);
+    if (m_compareSelection.contains(id))
+        toggleCompareSelection(id);
+    if (m_comparison && std::ranges::any_of(*m_comparison, hasId(id)))
+        setComparison(std::nullopt);
+    if (m_currentRun && m_currentRun->id == id) {
+        setCurrentRun(std::nullopt);
+        if (m_phase == Phase::Done)
+            setPhase(Phase::Idle);
+    }
+}
+
+void AnalyzerModel::renameRun(const QUuid& id, const QString& text) {
+    const std::optional<QString> title = RunRecord::customTitleFrom(text);
+    m_history->setTitle(title, id);
+    if (m_currentRun && m_currentRun->id == id) {
+        RunRecord renamed = *m_currentRun;
+        renamed.customTitle = title;
+        setCurrentRun(std::move(renamed));
+    }
+    if (m_comparison) {
+        auto runs = *m_comparison;
+        if (const auto found = std::ranges::find_if(runs, hasId(id)); found != runs.end())
+            found->customTitle = title;
+        setComparison(std::move(runs));
+    }
+}
+
+void AnalyzerModel::clearHistory() {
+    m_history->clear();
+    if (!std::exchange(m_expandedRunIDs, {}).empty())
+        Q_EMIT expandedRunIDsChanged();
+    clearCompareSelection();
+    setCompareMode(false);
+    setComparison(std::nullopt);
+    setCurrentRun(std::nullopt);
+    if (m_phase == Phase::Done)
+        setPhase(Phase::Idle);
+}
+
+bool AnalyzerModel::importRun(const std::filesystem::path& file) {
+    const auto content = readRunFile(file);
+    const auto run = content ? decodeRun(*content) : std::nullopt;
+    if (!run) {
+        Log::app.error("run from another app couldn't be read");
+        return false;
+    }
+    m_history->add(*run);
+    const bool isShown = !isRunning();
+    Log::app.notice("run imported", LogField::bool_("shown", isShown));
+    if (isShown) {
+        setCurrentRun(run);
+        setCurrentRunCollapsed(false);
+        setResult(std::nullopt);
+        setComparison(std::nullopt);
+        setPhase(Phase::Done);
+    }
+    return true;
+}
+
+void AnalyzerModel::setCompareMode(bool mode) {
+    if (std::exchange(m_compareMode, mode) != mode)
+        Q_EMIT compareModeChanged();
+}
+
+void AnalyzerModel::clearCompareSelection() {
+    if (!std::exchange(m_compareSelection, {}).empty())
+        Q_EMIT compareSelectionChanged();
+}
+
+void AnalyzerModel::setComparison(std::optional<std::vector<RunRecord>> runs) {
+    if (m_comparison == runs)
+        return;
+    m_comparison = std::move(runs);
+    Q_EMIT comparisonChanged();
+}
+
+void AnalyzerModel::toggleCompareMode() {
+    setCompareMode(!m_compareMode);
+    if (!m_compareMode)
+        clearCompareSelection();
+}
+
+void AnalyzerModel::toggleCompareSelection(const QUuid& id) {
+    if (!m_compareSelection.insert(id).second)
+        m_compareSelection.erase(id);
+    Q_EMIT compareSelectionChanged();
+}
+
+std::vector<RunRecord> AnalyzerModel::comparableRuns() const {
+    std::vector<RunRecord> runs = previousRuns();
+    if (m_currentRun)
+        runs.insert(runs.begin(), *m_currentRun);
+    return runs;
+}
+
+void AnalyzerModel::beginComparison() {
+    std::vector<RunRecord> runs = comparableRuns();
+    std::erase_if(runs, [this](const RunRecord& run) { return !m_compareSelection.contains(run.id); });
+    if (runs.size() < 2)
+        return;
+    setComparison(std::move(runs));
+    setCompareMode(false);
+    clearCompareSelection();
+}
+
+void AnalyzerModel::endComparison() { setComparison(std::nullopt); }
+
+} // namespace TarnwickKit::model

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "TarnwickKit/model/AnalyzerModel.h"
+#include "support/TemporaryFolder.h"
+
+#include <QCoreApplication>
+#include <QPromise>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace TarnwickKit::model {
+
+using OndelCore::benchmark::BenchmarkEngine;
+using OndelCore::benchmark::BenchmarkPlan;
+using OndelCore::benchmark::BenchmarkResult;
+
+/// An engine whose runs go as the test says.
+struct Engine {
+    test::TemporaryFolder history;
+    struct Call {
+        BenchmarkPlan plan;
+        std::filesystem::path folder;
+        BenchmarkEngine::Progress progress;
+        std::stop_token stop;
+        QPromise<BenchmarkResult> promise;
+
+        void finish(BenchmarkResult result) {
+            promise.addResult(std::move(result));
+            promise.finish();
+        }
+        void fail(auto error) {
+            promise.setException(std::make_exception_ptr(error));
+            promise.finish();
+        }
+    };
+    std::vector<std::shared_ptr<Call>> calls;
+
+    Call& last() { return *calls.back(); }
+
+    AnalyzerServices services() {
+        AnalyzerServices services;
+        services.runBenchmark = [this](BenchmarkPlan plan, std::filesystem::path folder, auto progress,
+                                       auto stop) {
+            auto call = std::make_shared<Call>(plan, folder, progress, stop);
+            call->promise.start();
+            calls.push_back(call);
+            return call->promise.future();
+        };
+        services.cleanupOrphans = [](const std::filesystem::path&) {};
+        services.loadVolume = [](const auto&) { return std::nullopt; };
+        services.probeCapabilities = [](const auto&) { return std::nullopt; };
+        services.readHealth = [](const auto&) { return std::nullopt; };
+        services.driveIdentity = [](const auto&) { return DriveIdentity(); };
+        services.historyFolder = history.path();
+        services.now = [] { return QDateTime::currentDateTimeUtc(); };
+        return services;
+    }
+};
+
+/// Turns the event loop until `done`; what is waited for is always under way.
+inline void turnUntil(const std::function<bool()>& done) {
+    while (!done())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+} // namespace TarnwickKit::model
