@@ -4,6 +4,7 @@
 #include "OndelCore/platform/Random.h"
 
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 
 #include <new>
@@ -14,15 +15,17 @@ BenchmarkError ioError(std::string_view prefix, int error) {
     return BenchmarkError(BenchmarkError::Io{std::string(prefix) + platform::errorText(error)});
 }
 
-BlockBuffer::BlockBuffer(std::int64_t blockSize)
-    : m_bytes(static_cast<std::byte*>(
-          std::aligned_alloc(BenchmarkPlan::page, static_cast<std::size_t>(blockSize))))
-    , m_size(static_cast<std::size_t>(blockSize)) {
-    if (!m_bytes)
+BlockBuffer::BlockBuffer(std::int64_t blockSize) {
+    const auto size = static_cast<std::size_t>(blockSize);
+    void* bytes = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (bytes == MAP_FAILED)
         throw std::bad_alloc();
+    m_bytes = {static_cast<std::byte*>(bytes), size};
 }
 
-void BlockBuffer::fillWithRandomBytes() { platform::fillRandom(m_bytes.get(), m_size); }
+BlockBuffer::~BlockBuffer() { munmap(m_bytes.data(), m_bytes.size()); }
+
+void BlockBuffer::fillWithRandomBytes() { platform::fillRandom(m_bytes.data(), m_bytes.size()); }
 
 DataFile::DataFile(const TestRun& run, int openFlags, std::string_view failurePrefix)
     : m_run(run)

@@ -7,33 +7,31 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
 #include <span>
 #include <string_view>
 
 namespace OndelCore::benchmark {
 
-/// Memory for one block, aligned to pages as direct transfers require.
+/// Memory for one block, mapped for the test alone: aligned to pages, as direct transfers require, and given
+/// back to the system at its end.
 class BlockBuffer {
 public:
     /// Fails: throws std::bad_alloc.
     explicit BlockBuffer(std::int64_t blockSize);
+    ~BlockBuffer();
+    BlockBuffer(const BlockBuffer&) = delete;
+    BlockBuffer& operator=(const BlockBuffer&) = delete;
 
     /// Written blocks hold random bytes: a drive that compresses or drops zeros gains nothing by them.
     void fillWithRandomBytes();
 
     /// The first `length` bytes. Units: bytes.
     std::span<std::byte> first(std::int64_t length) const {
-        return {m_bytes.get(), static_cast<std::size_t>(length)};
+        return m_bytes.first(static_cast<std::size_t>(length));
     }
 
 private:
-    struct Free {
-        void operator()(std::byte* bytes) const { std::free(bytes); }
-    };
-    std::unique_ptr<std::byte, Free> m_bytes;
-    std::size_t m_size;
+    std::span<std::byte> m_bytes;
 };
 
 /// The data file, opened for one test and closed with the object.

@@ -1,0 +1,150 @@
+// What the machine gives when nothing but system calls is done: the yardstick for the engine's loops.
+//
+//   bare-loop FOLDER SIZE BLOCK RANDOM_BLOCK RANDOM_OPS FILES DIRECT
+//
+// Sizes in bytes, DIRECT 0 or 1. It makes a folder inside FOLDER, runs the same tests in the same order as
+// the engine, removes the folder and prints one JSON object of rates: bytes or operations per second. No
+// samples, no progress, no cancellation, offsets from a generator that costs next to nothing. It measures and
+// does nothing else: any failing call ends it with status 1, SIZE must be a multiple of both blocks.
+
+#include <fcntl.h>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::string folder;
+
+void removeAll() { std::system(("rm -rf '" + folder + "'").c_str()) == 0 ? void() : std::abort(); }
+
+template <class Answer>
+Answer must(Answer answer, const char* call) {
+    if (answer >= 0)
+        return answer;
+    std::perror(call);
+    removeAll();
+    std::exit(1);
+}
+
+double now() {
+    timespec time{};
+    clock_gettime(CLOCK_MONOTONIC, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+std::uint64_t nextRandom() {
+    static std::uint64_t state = 0x853c49e6748fea9bU; // xorshift64: G. Marsaglia, "Xorshift RNGs", 2003
+    state ^= state << 13;
+    state ^= state >> 7;
+    state ^= state << 17;
+    return state;
+}
+
+int openData(int flags, bool direct) {
+    const int file = must(open((folder + "/data").c_str(), flags, 0600), "open");
+    if (direct)
+        fcntl(file, F_SETFL, flags | O_DIRECT);
+    return file;
+}
+
+struct Request {
+    std::uint64_t size, block, randomBlock, randomOps, files;
+    bool direct;
+};
+
+void sequential(const Request& ask, char* buffer) {
+    int file = openData(O_WRONLY | O_CREAT | O_TRUNC, ask.direct);
+    double start = now();
+    for (std::uint64_t moved = 0; moved < ask.size;)
+        moved += static_cast<std::uint64_t>(must(write(file, buffer, ask.block), "write"));
+    fsync(file);
+    std::printf("{\"sequentialWrite\": %.0f", static_cast<double>(ask.size) / (now() - start));
+    close(file);
+
+    file = openData(O_RDONLY, ask.direct);
+    start = now();
+    while (must(read(file, buffer, ask.block), "read") > 0) {
+    }
+    std::printf(", \"sequentialRead\": %.0f", static_cast<double>(ask.size) / (now() - start));
+    close(file);
+}
+
+void random(const Request& ask, char* buffer) {
+    const std::uint64_t blocks = ask.size / ask.randomBlock;
+    int file = openData(O_RDONLY, ask.direct);
+    double start = now();
+    for (std::uint64_t i = 0; i < ask.randomOps; ++i)
+        must(
+            pread(file, buffer, ask.randomBlock, static_cast<off_t>(nextRandom() % blocks * ask.randomBlock)),
+            "pread");
+    std::printf(", \"randomRead\": %.0f", static_cast<double>(ask.randomOps) / (now() - start));
+    close(file);
+
+    file = openData(O_RDWR, ask.direct);
+    start = now();
+    for (std::uint64_t i = 0; i < ask.randomOps; ++i)
+        must(pwrite(file, buffer, ask.randomBlock,
+                    static_cast<off_t>(nextRandom() % blocks * ask.randomBlock)),
+             "pwrite");
+    fsync(file);
+    std::printf(", \"randomWrite\": %.0f", static_cast<double>(ask.randomOps) / (now() - start));
+    close(file);
+}
+
+template <class Operation>
+void phase(const char* name, std::uint64_t files, Operation operation) {
+    const double start = now();
+    for (std::uint64_t i = 0; i < files; ++i)
+        operation(i);
+    std::printf(", \"%s\": %.0f", name, static_cast<double>(files) / (now() - start));
+}
+
+void fileOps(const Request& ask) {
+    const std::string dir = folder + "/files";
+    must(mkdir(dir.c_str(), 0700), "mkdir");
+    std::vector<std::string> names, newNames;
+    for (std::uint64_t i = 0; i < ask.files; ++i) {
+        names.push_back(dir + "/f" + std::to_string(i));
+        newNames.push_back(names.back() + ".r");
+    }
+    struct stat facts {};
+    phase("create", ask.files,
+          [&](auto i) { close(must(open(names[i].c_str(), O_WRONLY | O_CREAT | O_EXCL, 0600), "create")); });
+    phase("stat", ask.files, [&](auto i) { must(lstat(names[i].c_str(), &facts), "lstat"); });
+    phase("rename", ask.files,
+          [&](auto i) { must(std::rename(names[i].c_str(), newNames[i].c_str()), "rename"); });
+    phase("delete", ask.files, [&](auto i) { must(unlink(newNames[i].c_str()), "unlink"); });
+    std::printf("}\n");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 8) {
+        std::fputs("usage: bare-loop FOLDER SIZE BLOCK RANDOM_BLOCK RANDOM_OPS FILES DIRECT\n", stderr);
+        return 2;
+    }
+    const auto number = [&](int i) { return std::strtoull(argv[i], nullptr, 10); };
+    const Request ask{number(2), number(3), number(4), number(5), number(6), number(7) != 0};
+    const std::size_t largest = ask.block > ask.randomBlock ? ask.block : ask.randomBlock;
+    auto* buffer = static_cast<char*>(std::aligned_alloc(4096, largest));
+    for (std::size_t filled = 0; filled < largest;)
+        filled +=
+            static_cast<std::size_t>(must(getrandom(buffer + filled, largest - filled, 0), "getrandom"));
+
+    folder = std::string(argv[1]) + "/.bare-loop-XXXXXX";
+    if (!mkdtemp(folder.data()))
+        return std::perror("mkdtemp"), 1;
+    sequential(ask, buffer);
+    random(ask, buffer);
+    fileOps(ask);
+    removeAll();
+}
