@@ -27,7 +27,9 @@ QObject* above(QObject* owner) {
             return item->parentItem();
         return item->window();
     }
-    return owner->property("parent").value<QQuickItem*>();
+    if (auto* opener = owner->property("parent").value<QQuickItem*>())
+        return opener;
+    return owner->parent();
 }
 
 } // namespace

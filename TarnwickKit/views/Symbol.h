@@ -1,8 +1,10 @@
 #pragma once
 
+#include "TarnwickKit/views/ImageItem.h"
+
 #include <QColor>
 #include <QFont>
-#include <QQuickItem>
+#include <QString>
 
 namespace TarnwickKit::views {
 
@@ -10,7 +12,7 @@ namespace TarnwickKit::views {
 /// that symbolBox tells and is drawn in the middle of whatever room it gets. An empty name shows nothing.
 ///
 /// Fails: an unknown name stops a debug build and shows nothing in a release build.
-class Symbol : public QQuickItem {
+class Symbol : public ImageItem {
     Q_OBJECT
     QML_ELEMENT
 
@@ -31,18 +33,13 @@ public:
     Q_SIGNAL void changed();
 
 protected:
-    QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData*) override;
-    void itemChange(ItemChange change, const ItemChangeData& value) override;
-    void geometryChange(const QRectF& to, const QRectF& from) override;
+    Picture paint(double scale) override;
 
 private:
-    void redraw();
-
     QString m_name;
     double m_size = 13;
     QColor m_color = Qt::black;
     int m_weight = QFont::Normal;
-    bool m_isStale = true;
 };
 
 } // namespace TarnwickKit::views

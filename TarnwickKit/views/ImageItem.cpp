@@ -1,0 +1,54 @@
+#include "TarnwickKit/views/ImageItem.h"
+
+#include <QQuickWindow>
+#include <QSGImageNode>
+
+namespace TarnwickKit::views {
+
+ImageItem::ImageItem(QQuickItem* parent)
+    : QQuickItem(parent) {
+    setFlag(ItemHasContents);
+}
+
+void ImageItem::redraw() {
+    m_isStale = true;
+    update();
+}
+
+void ImageItem::itemChange(ItemChange change, const ItemChangeData& value) {
+    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
+        redraw();
+    QQuickItem::itemChange(change, value);
+}
+
+void ImageItem::geometryChange(const QRectF& to, const QRectF& from) {
+    if (to.size() != from.size())
+        redraw();
+    QQuickItem::geometryChange(to, from);
+}
+
+QSGNode* ImageItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
+    if (node && !m_isStale)
+        return node;
+    // Only an item that observes what is visible is told when that changes.
+    if (flags().testFlag(ItemObservesViewport) && clipRect().isEmpty())
+        return node;
+    m_isStale = false;
+    const double scale = window()->effectiveDevicePixelRatio();
+    const Picture picture = size().isEmpty() ? Picture() : paint(scale);
+    if (picture.image.isNull()) {
+        delete node;
+        return nullptr;
+    }
+    auto* shown = static_cast<QSGImageNode*>(node);
+    if (!shown) {
+        shown = window()->createImageNode();
+        shown->setOwnsTexture(true);
+        shown->setFiltering(QSGTexture::Linear);
+    }
+    shown->setTexture(window()->createTextureFromImage(picture.image));
+    shown->setRect(QRectF(picture.place, QSizeF(picture.image.size()) / scale));
+    return shown;
+}
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,28 @@
+#include "TarnwickKit/views/LiveSeries.h"
+
+#include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/views/CurvePoints.h"
+
+namespace TarnwickKit::views {
+
+LiveSeries::LiveSeries(QObject* parent) : ChartSeries(parent) {}
+
+LiveSeries::~LiveSeries() = default;
+
+model::AnalyzerModel* LiveSeries::analyzer() const { return m_analyzer; }
+
+void LiveSeries::setAnalyzer(model::AnalyzerModel* analyzer) {
+    if (analyzer == m_analyzer)
+        return;
+    if (m_analyzer)
+        m_analyzer->disconnect(this);
+    m_analyzer = analyzer;
+    if (analyzer) {
+        const auto read = [this, analyzer] { setPoints(pointsOf(analyzer->liveSamples())); };
+        connect(analyzer, &model::AnalyzerModel::liveSamplesChanged, this, read);
+        read();
+    }
+    Q_EMIT analyzerChanged();
+}
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,14 @@
+import QtQuick
+import TarnwickKit.views
+
+/// Rate over time: one or more curves with axes. Its series are its children.
+ThroughputCanvas {
+    id: chart
+
+    gridColor: PaletteKey.palette.grid
+    labelColor: PaletteKey.palette.text3
+
+    Accessible.role: Accessible.Chart
+    Accessible.name: qsTr("Throughput over time")
+    Accessible.description: chart.summary
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "TarnwickKit/views/CurveRaster.h"
+#include "TarnwickKit/views/ThroughputScale.h"
+
+#include <QColor>
+#include <QImage>
+#include <QList>
+#include <QPointF>
+#include <QSizeF>
+
+#include <optional>
+#include <vector>
+
+namespace TarnwickKit::views {
+
+/// One curve as it is painted.
+struct ChartCurve {
+    QColor color;
+    QColor fill;           ///< the area's colour at the curve's highest point; it fades towards the floor
+    QList<QPointF> points; ///< seconds and decimal megabytes per second
+
+    bool operator==(const ChartCurve&) const = default;
+};
+
+/// What a throughput chart shows.
+struct ThroughputContent {
+    std::vector<ChartCurve> curves; ///< later ones lie above earlier ones, lines above all areas
+    bool live = false;
+    QColor grid;
+    QColor label;
+
+    bool operator==(const ThroughputContent&) const = default;
+};
+
+/// Paints throughput charts, and what is merely added to the one before at the price of what is new.
+///
+/// Threads: one at a time.
+class ThroughputPicture {
+public:
+    static constexpr double lineWidth = 2.2; ///< logical pixels
+
+    /// Units: `size` in logical pixels, `scale` device pixels per logical one.
+    const QImage& paint(const ThroughputContent& content, QSizeF size, double scale);
+
+private:
+    struct Layer;
+
+    bool isMoreOf(const ThroughputContent& content, QSizeF size, double scale,
+                  const ThroughputScale& axes) const;
+    void begin(const ThroughputContent& content, QSizeF size, double scale, const ThroughputScale& axes);
+    void paintGrid(const ThroughputPlot& plot);
+    void compose(int fromColumn);
+
+    ThroughputContent m_content;
+    QSizeF m_size;
+    double m_scale = 0;
+    std::optional<ThroughputScale> m_axes;
+    std::vector<CurveRaster> m_rasters; ///< one per curve
+    std::vector<double> m_peaks;        ///< largest y per curve
+    QImage m_grid;
+    QImage m_picture;
+};
+
+/// A line through `points` from edge to edge, painted on an image that reaches `sparklineMargin` beyond
+/// `size` on each side, where the line's own width needs it.
+QImage sparklineImage(const QList<QPointF>& points, const QColor& color, QSizeF size, double scale);
+constexpr int sparklineMargin = 2;   ///< logical pixels
+constexpr double sparklineWidth = 2; ///< logical pixels
+
+} // namespace TarnwickKit::views
