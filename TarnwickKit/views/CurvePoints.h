@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/benchmark/BenchmarkResult.h"
+#include "TarnwickKit/model/RunRecord.h"
 
 #include <QList>
 #include <QPointF>
@@ -9,7 +10,8 @@
 
 namespace TarnwickKit::views {
 
-/// A curve's points: seconds as they are, bytes per second as decimal megabytes.
+/// A curve's points, one per sample in order: seconds as they are, bytes per second as decimal megabytes.
 QList<QPointF> pointsOf(const std::vector<OndelCore::benchmark::ThroughputSample>& samples);
+QList<QPointF> pointsOf(const std::vector<model::RunSample>& samples);
 
 } // namespace TarnwickKit::views

@@ -5,7 +5,8 @@
 
 namespace TarnwickKit::views {
 
-LiveSeries::LiveSeries(QObject* parent) : ChartSeries(parent) {}
+LiveSeries::LiveSeries(QObject* parent)
+    : ChartSeries(parent) {}
 
 LiveSeries::~LiveSeries() = default;
 

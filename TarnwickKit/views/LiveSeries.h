@@ -13,7 +13,7 @@ class AnalyzerModel;
 namespace TarnwickKit::views {
 
 /// The curve of the test that runs, as the model's samples come in.
-class LiveSeries : public ChartSeries {
+class LiveSeries : public TarnwickKit::views::ChartSeries {
     Q_OBJECT
     QML_ELEMENT
 
@@ -24,7 +24,7 @@ public:
     explicit LiveSeries(QObject* parent = nullptr);
     ~LiveSeries() override;
 
-    model::AnalyzerModel* analyzer() const ;
+    model::AnalyzerModel* analyzer() const;
     void setAnalyzer(model::AnalyzerModel* analyzer);
     Q_SIGNAL void analyzerChanged();
 

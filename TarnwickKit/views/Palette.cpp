@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <cstdlib>
+
 namespace TarnwickKit::views {
 
 namespace {
@@ -77,6 +79,18 @@ Palette::Palette(Tone tone) {
         this->*entry.field = (tone == Tone::Dark ? entry.dark : entry.light).color();
     for (const Shade& shade : tone == Tone::Dark ? seriesDark : seriesLight)
         series.append(shade.color());
+}
+
+std::pair<QColor, QColor> Palette::badgeColors(model::RunRecord::Kind kind) const {
+    switch (kind) {
+    case model::RunRecord::Kind::internalDrive:
+        return {teal2, blue};
+    case model::RunRecord::Kind::external:
+        return {QColor::fromRgb(0xff9a74), coral2};
+    case model::RunRecord::Kind::network:
+        return {QColor::fromRgb(0xe0993f), QColor::fromRgb(0xb9772a)};
+    }
+    std::abort();
 }
 
 const Palette& Palette::light() {

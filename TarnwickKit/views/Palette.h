@@ -1,10 +1,14 @@
 #pragma once
 
+#include "TarnwickKit/model/RunRecord.h"
+
 #include <QColor>
 #include <QList>
 #include <QObject>
 #include <QQmlEngine>
 #include <QStringView>
+
+#include <utility>
 
 namespace TarnwickKit::views {
 
@@ -61,6 +65,12 @@ public:
     static const Palette& light();
     static const Palette& dark();
 
+    /// The two stops of the gradient behind a volume's symbol.
+    std::pair<QColor, QColor> badgeColors(model::RunRecord::Kind kind) const;
+    /// The same for views, of which each knows which stop it wants.
+    Q_INVOKABLE QColor badgeStart(int kind) const { return badgeColors(kindOf(kind)).first; }
+    Q_INVOKABLE QColor badgeEnd(int kind) const { return badgeColors(kindOf(kind)).second; }
+
     QColor bg;   ///< the whole window
     QColor body; ///< main pane
     QColor sidebar;
@@ -99,6 +109,8 @@ public:
 private:
     enum class Tone { Light, Dark };
     explicit Palette(Tone tone);
+
+    static model::RunRecord::Kind kindOf(int kind) { return static_cast<model::RunRecord::Kind>(kind); }
 };
 
 } // namespace TarnwickKit::views

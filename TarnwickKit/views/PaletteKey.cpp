@@ -41,11 +41,11 @@ PaletteKey::PaletteKey(QObject* owner)
     inherit();
 }
 
-void PaletteKey::install(QObject* view, const Palette& palette) {
-    auto* key = qobject_cast<PaletteKey*>(qmlAttachedPropertiesObject<PaletteKey>(view, true));
-    Q_ASSERT(key);
-    key->setPalette(palette);
+PaletteKey* PaletteKey::of(QObject* view) {
+    return qobject_cast<PaletteKey*>(qmlAttachedPropertiesObject<PaletteKey>(view, true));
 }
+
+void PaletteKey::install(QObject* view, const Palette& palette) { of(view)->setPalette(palette); }
 
 void PaletteKey::setPalettePointer(Palette* palette) {
     if (palette)

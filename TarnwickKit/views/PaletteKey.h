@@ -28,6 +28,9 @@ class PaletteKey final : public QObject {
 public:
     static PaletteKey* qmlAttachedProperties(QObject* owner);
 
+    /// The key of a view, made at the first call.
+    static PaletteKey* of(QObject* view);
+
     /// Installs `palette` for `view` and what lies beneath it.
     static void install(QObject* view, const Palette& palette);
 

@@ -1,11 +1,21 @@
 #pragma once
 
-#include <QColor>
-#include <QRgb>
+#include "TarnwickKit/views/CurveRaster.h"
 
+#include <QColor>
+#include <QImage>
+#include <QRgb>
+#include <QSizeF>
+
+#include <cmath>
 #include <cstdint>
 
 namespace TarnwickKit::views {
+
+inline QSize inPixels(QSizeF size, double scale) {
+    return {static_cast<int>(std::ceil(size.width() * scale)),
+            static_cast<int>(std::ceil(size.height() * scale))};
+}
 
 /// A premultiplied pixel times a share of 0 to 255.
 constexpr QRgb timesShare(QRgb pixel, std::uint32_t share) {
@@ -18,5 +28,17 @@ constexpr QRgb timesShare(QRgb pixel, std::uint32_t share) {
 
 /// One premultiplied pixel laid over another.
 constexpr QRgb over(QRgb upper, QRgb lower) { return upper + timesShare(lower, 255 - (upper >> 24)); }
+
+/// Lays a curve's line over a premultiplied picture, from a column on.
+inline void blendLine(QImage& picture, const CurveRaster& raster, const QColor& color, int from) {
+    const QRgb pixel = qPremultiply(color.rgba());
+    for (int row = 0; row < raster.height(); ++row) {
+        const std::uint8_t* shares = raster.line(row);
+        auto* pixels = reinterpret_cast<QRgb*>(picture.scanLine(row));
+        for (int column = from; column < raster.width(); ++column)
+            if (const std::uint32_t share = shares[column])
+                pixels[column] = over(timesShare(pixel, share), pixels[column]);
+    }
+}
 
 } // namespace TarnwickKit::views

@@ -1,6 +1,6 @@
 #include "TarnwickKit/views/Sparkline.h"
 
-#include "TarnwickKit/views/ThroughputPicture.h"
+#include "TarnwickKit/views/SparklinePicture.h"
 
 namespace TarnwickKit::views {
 
@@ -15,7 +15,11 @@ void Sparkline::setColor(const QColor& color) {
 }
 
 ImageItem::Picture Sparkline::paint(double scale) {
-    return {sparklineImage(m_points, m_color, size(), scale), {-sparklineMargin, -sparklineMargin}};
+    if (m_points.size() < 2)
+        return {};
+    QImage image = sparklineCanvas(size(), scale);
+    paintSparkline(image, m_points, m_color, size(), scale);
+    return {image, {-sparklineMargin, -sparklineMargin}};
 }
 
 } // namespace TarnwickKit::views

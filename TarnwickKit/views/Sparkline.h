@@ -9,7 +9,7 @@
 namespace TarnwickKit::views {
 
 /// A bare curve from edge to edge, without axes; nothing with fewer than two points.
-class Sparkline : public ImageItem {
+class Sparkline : public TarnwickKit::views::ImageItem {
     Q_OBJECT
     QML_ELEMENT
 

@@ -12,7 +12,7 @@ namespace TarnwickKit::views {
 /// that symbolBox tells and is drawn in the middle of whatever room it gets. An empty name shows nothing.
 ///
 /// Fails: an unknown name stops a debug build and shows nothing in a release build.
-class Symbol : public ImageItem {
+class Symbol : public TarnwickKit::views::ImageItem {
     Q_OBJECT
     QML_ELEMENT
 

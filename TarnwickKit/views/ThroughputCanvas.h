@@ -13,7 +13,7 @@ QString throughputSummary(const QList<ChartSeries*>& series);
 
 /// The curves and axes of a throughput chart. However often its series change it is painted once per frame,
 /// and not at all while it lies outside of what is visible.
-class ThroughputCanvas : public ImageItem {
+class ThroughputCanvas : public TarnwickKit::views::ImageItem {
     Q_OBJECT
     QML_ELEMENT
 

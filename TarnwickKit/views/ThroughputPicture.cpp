@@ -13,11 +13,6 @@ namespace TarnwickKit::views {
 
 namespace {
 
-QSize inPixels(QSizeF size, double scale) {
-    return {static_cast<int>(std::ceil(size.width() * scale)),
-            static_cast<int>(std::ceil(size.height() * scale))};
-}
-
 /// Text held at its leading edge (0), its centre (0.5) or its trailing edge (1), and by its middle height.
 void drawLabel(QPainter& painter, const QString& text, QPointF place, double anchor) {
     const QFontMetricsF metrics(painter.font());
@@ -61,17 +56,6 @@ void blendArea(QImage& picture, const CurveRaster& raster, const QColor& fill, d
             if (share >= 0.5f)
                 pixels[i] = over(timesShare(color, static_cast<std::uint32_t>(share + 0.5f)), pixels[i]);
         }
-    }
-}
-
-void blendLine(QImage& picture, const CurveRaster& raster, const QColor& color, int from) {
-    const QRgb pixel = qPremultiply(color.rgba());
-    for (int row = 0; row < raster.height(); ++row) {
-        const std::uint8_t* shares = raster.line(row);
-        auto* pixels = reinterpret_cast<QRgb*>(picture.scanLine(row));
-        for (int column = from; column < raster.width(); ++column)
-            if (const std::uint32_t share = shares[column])
-                pixels[column] = over(timesShare(pixel, share), pixels[column]);
     }
 }
 
@@ -170,21 +154,6 @@ void ThroughputPicture::compose(int fromColumn) {
     for (std::size_t i = 0; i < m_rasters.size(); ++i)
         if (isDrawn(m_content.curves[i]))
             blendLine(m_picture, m_rasters[i], m_content.curves[i].color, fromColumn);
-}
-
-QImage sparklineImage(const QList<QPointF>& points, const QColor& color, QSizeF size, double scale) {
-    QImage image(
-        inPixels(size.grownBy({sparklineMargin, sparklineMargin, sparklineMargin, sparklineMargin}), scale),
-        QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    if (points.size() < 2 || image.isNull())
-        return image;
-    const SparklineScale axes(size, points);
-    CurveRaster raster(image.width(), image.height(), sparklineWidth * scale, 0, CurveRaster::Caps::Round);
-    for (const QPointF& point : points)
-        raster.add((axes.map(point) + QPointF(sparklineMargin, sparklineMargin)) * scale);
-    blendLine(image, raster, color, 0);
-    return image;
 }
 
 } // namespace TarnwickKit::views

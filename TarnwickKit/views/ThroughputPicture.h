@@ -62,10 +62,4 @@ private:
     QImage m_picture;
 };
 
-/// A line through `points` from edge to edge, painted on an image that reaches `sparklineMargin` beyond
-/// `size` on each side, where the line's own width needs it.
-QImage sparklineImage(const QList<QPointF>& points, const QColor& color, QSizeF size, double scale);
-constexpr int sparklineMargin = 2;   ///< logical pixels
-constexpr double sparklineWidth = 2; ///< logical pixels
-
 } // namespace TarnwickKit::views

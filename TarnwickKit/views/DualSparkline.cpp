@@ -1,0 +1,28 @@
+#include "TarnwickKit/views/DualSparkline.h"
+
+#include "TarnwickKit/views/CurvePoints.h"
+#include "TarnwickKit/views/SparklinePicture.h"
+
+namespace TarnwickKit::views {
+
+DualSparkline::DualSparkline(QQuickItem* parent)
+    : ImageItem(parent)
+    , m_key(PaletteKey::of(this)) {
+    connect(m_key, &PaletteKey::paletteChanged, this, &DualSparkline::redraw);
+}
+
+void DualSparkline::setRun(const model::RunRecord& run) {
+    if (take(m_run, run))
+        Q_EMIT runChanged();
+}
+
+ImageItem::Picture DualSparkline::paint(double scale) {
+    if (m_run.readSamples.size() < 2 && m_run.writeSamples.size() < 2)
+        return {};
+    QImage image = sparklineCanvas(size(), scale);
+    paintSparkline(image, pointsOf(m_run.readSamples), m_key->palette().teal, size(), scale);
+    paintSparkline(image, pointsOf(m_run.writeSamples), m_key->palette().coral, size(), scale);
+    return {image, {-sparklineMargin, -sparklineMargin}};
+}
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "TarnwickKit/model/RunRecord.h"
+#include "TarnwickKit/views/ImageItem.h"
+#include "TarnwickKit/views/PaletteKey.h"
+
+#include <QList>
+#include <QPointF>
+
+namespace TarnwickKit::views {
+
+/// The two curves of a saved run, write above read, each scaled by its own peak. It is one item and not two,
+/// since a history shows fifty of them.
+class DualSparkline : public TarnwickKit::views::ImageItem {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(TarnwickKit::model::RunRecord run READ run WRITE setRun NOTIFY runChanged)
+
+public:
+    explicit DualSparkline(QQuickItem* parent = nullptr);
+
+    const model::RunRecord& run() const { return m_run; }
+    void setRun(const model::RunRecord& run);
+    Q_SIGNAL void runChanged();
+
+protected:
+    Picture paint(double scale) override;
+
+private:
+    model::RunRecord m_run;
+    PaletteKey* m_key;
+};
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,27 @@
+import QtQuick
+import TarnwickKit.views
+
+/// A throughput chart for use outside of the window: it brings its own palette. Points are seconds and decimal megabytes
+/// per second.
+ThroughputChart {
+    id: chart
+
+    property list<point> write
+    property list<point> read
+    property bool dark: Appearance.dark
+
+    PaletteKey.palette: dark ? Appearance.darkPalette : Appearance.lightPalette
+
+    ChartSeries {
+        name: qsTr("Read")
+        points: chart.read
+        color: PaletteKey.palette.teal
+        fill: PaletteKey.palette.readFill
+    }
+    ChartSeries {
+        name: qsTr("Write")
+        points: chart.write
+        color: PaletteKey.palette.coral
+        fill: PaletteKey.palette.writeFill
+    }
+}
