@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/platform/Mounts.h"
+#include "OndelCore/platform/SystemSources.h"
 
 #include <sys/types.h>
 
@@ -38,6 +39,10 @@ BlockDevice wholeDevice(const BlockDevice& device);
 
 /// Threads: any. Fails: an unknown number, or one that goes away meanwhile, has no whole disks.
 BlockStack blockStack(dev_t number, const std::filesystem::path& sysfs = "/sys");
+
+/// What lies under a mounted file system, under all the devices of one that has several (Btrfs, a ZFS pool).
+/// Threads: any. Fails: no whole disks for network and memory file systems.
+BlockStack blockStack(const Mount& mount, const SystemSources& sources = {});
 
 /// The number of the block device that a file system is mounted from, also where the file system has an
 /// anonymous number of its own (Btrfs). Threads: any. Fails: absent for network, memory and pool file

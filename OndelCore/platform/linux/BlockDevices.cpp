@@ -83,6 +83,45 @@ void descend(const BlockDevice& device, BlockStack& stack, std::set<dev_t>& seen
             descend(*next, stack, seen);
 }
 
+BlockStack stackUnder(const std::vector<BlockDevice>& devices) {
+    BlockStack stack;
+    std::set<dev_t> seen;
+    for (const BlockDevice& device : devices)
+        descend(device, stack, seen);
+    return stack;
+}
+
+/// The kernel lists the devices of each Btrfs that is in use.
+std::vector<BlockDevice> devicesOfBtrfs(const BlockDevice& mounted, const fs::path& sysfs) {
+    for (const fs::path& fileSystem : sortedEntries(sysfs / "fs" / "btrfs")) {
+        std::vector<BlockDevice> devices;
+        for (const fs::path& link : sortedEntries(fileSystem / "devices"))
+            if (const auto device = deviceAt(link))
+                devices.push_back(*device);
+        const auto isMounted = [&](const BlockDevice& device) { return device.number == mounted.number; };
+        if (std::any_of(devices.begin(), devices.end(), isMounted))
+            return devices;
+    }
+    return {mounted};
+}
+
+/// A pool is found by its name, which each of its devices carries as a label.
+std::vector<BlockDevice> devicesOfZfsPool(const std::string& pool, const SystemSources& sources) {
+    std::vector<BlockDevice> devices;
+    for (const fs::path& link : sortedEntries(sources.sysfs / "dev" / "block")) {
+        const auto device = deviceAt(link);
+        if (!device)
+            continue;
+        const DeviceProperties properties = sources.database(device->number);
+        const auto type = properties.find("ID_FS_TYPE");
+        const auto label = properties.find("ID_FS_LABEL");
+        if (type != properties.end() && type->second == "zfs_member" && label != properties.end() &&
+            label->second == pool)
+            devices.push_back(*device);
+    }
+    return devices;
+}
+
 std::optional<dev_t> blockNumberOfNode(const fs::path& node) {
     struct stat facts {};
     if (stat(node.c_str(), &facts) != 0 || !S_ISBLK(facts.st_mode))
@@ -120,8 +159,11 @@ std::optional<std::int64_t> readNumber(const fs::path& file) {
 }
 
 std::optional<BlockDevice> blockDevice(dev_t number, const fs::path& sysfs) {
-    return deviceAt(sysfs / "dev" / "block" /
-                    (std::to_string(major(number)) + ':' + std::to_string(minor(number))));
+    const fs::path link =
+        sysfs / "dev" / "block" / (std::to_string(major(number)) + ':' + std::to_string(minor(number)));
+    std::error_code failed;
+    // One system call for a number without a device, where resolving the path would take one per folder.
+    return fs::is_symlink(link, failed) ? deviceAt(link) : std::nullopt;
 }
 
 BlockDevice wholeDevice(const BlockDevice& device) {
@@ -131,11 +173,18 @@ BlockDevice wholeDevice(const BlockDevice& device) {
 }
 
 BlockStack blockStack(dev_t number, const fs::path& sysfs) {
-    BlockStack stack;
-    std::set<dev_t> seen;
-    if (const auto device = blockDevice(number, sysfs))
-        descend(*device, stack, seen);
-    return stack;
+    const auto device = blockDevice(number, sysfs);
+    return device ? stackUnder({*device}) : BlockStack();
+}
+
+BlockStack blockStack(const Mount& mount, const SystemSources& sources) {
+    if (mount.type == "zfs")
+        return stackUnder(devicesOfZfsPool(mount.source.substr(0, mount.source.find('/')), sources));
+    const auto number = deviceOfMount(mount);
+    const auto device = number ? blockDevice(*number, sources.sysfs) : std::nullopt;
+    if (!device)
+        return {};
+    return stackUnder(mount.type == "btrfs" ? devicesOfBtrfs(*device, sources.sysfs) : std::vector{*device});
 }
 
 std::optional<dev_t> deviceOfMount(const Mount& mount) {

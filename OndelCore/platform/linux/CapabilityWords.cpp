@@ -100,8 +100,7 @@ CapabilityWords capabilityWords(const FileSystemFacts& facts, const Mount& mount
     if (facts.type == "ext3" || facts.type == "ext4")
         askJournal(words, mount, sources);
     if (facts.reach == FileSystemReach::device)
-        if (const auto number = deviceOfMount(mount))
-            words.format.state(formatSealed, blockStack(*number, sources.sysfs).isSealed);
+        words.format.state(formatSealed, blockStack(mount, sources).isSealed);
     return words;
 }
 

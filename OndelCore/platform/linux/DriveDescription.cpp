@@ -69,11 +69,10 @@ void keepCommon(std::optional<std::string>& value, const std::optional<std::stri
 std::optional<DriveDescription> describeDrive(const std::filesystem::path& volumeRoot,
                                               const SystemSources& sources) {
     const auto mount = mountOfPathIn(sources.mountTable, volumeRoot);
-    const auto number = mount ? deviceOfMount(*mount) : std::nullopt;
-    if (!number)
+    if (!mount)
         return std::nullopt;
     std::optional<DriveDescription> common;
-    for (const BlockDevice& disk : blockStack(*number, sources.sysfs).wholeDisks) {
+    for (const BlockDevice& disk : blockStack(*mount, sources).wholeDisks) {
         const DriveDescription one = describe(disk, sources);
         if (!common) {
             common = one;

@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
+#include <sys/stat.h>
 #include <sys/statvfs.h>
 
 #include <algorithm>
@@ -27,36 +28,39 @@ std::optional<std::string> nonEmpty(const DeviceProperties& properties, std::str
 }
 
 /// The label as the mounted file system itself has it, which needs no right to read the device.
-std::optional<std::string> labelOfMounted(const std::filesystem::path& mountPoint) {
-    const FileDescriptor folder(open(mountPoint.c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC));
+std::optional<std::string> labelOfMounted(const Mount& mount) {
+    if (mount.type.starts_with("fuse"))
+        return std::nullopt;
+    const FileDescriptor folder(
+        open(mount.mountPoint.c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC));
+    struct statx facts {};
+    if (!folder || statx(folder.get(), "", AT_EMPTY_PATH, STATX_MNT_ID, &facts) != 0 ||
+        facts.stx_mnt_id != mount.id)
+        return std::nullopt; // another file system covers this one
     std::array<char, FSLABEL_MAX + 1> label{};
-    if (!folder || ioctl(folder.get(), FS_IOC_GETFSLABEL, label.data()) != 0 || label.front() == '\0')
+    if (ioctl(folder.get(), FS_IOC_GETFSLABEL, label.data()) != 0 || label.front() == '\0')
         return std::nullopt;
     return std::string(label.data());
 }
 
-std::optional<std::string> partitionName(const DeviceProperties& properties, dev_t device,
+/// The label of the file system, else the name of the partition that it lies in.
+std::optional<std::string> labelOnDevice(const Mount& mount, const BlockDevice& device,
                                          const SystemSources& sources) {
-    if (auto name = nonEmpty(properties, "ID_PART_ENTRY_NAME"))
-        return name;
-    const auto partition = blockDevice(device, sources.sysfs);
-    return partition ? readUeventValue(partition->folder, "PARTNAME") : std::nullopt;
-}
-
-std::optional<std::string> labelOnDevice(const Mount& mount, dev_t device, const SystemSources& sources) {
-    DeviceProperties properties = sources.database(device);
+    DeviceProperties properties = sources.database(device.number);
     if (!properties.contains("ID_FS_TYPE")) {
-        if (!mount.type.starts_with("fuse"))
-            if (auto label = labelOfMounted(mount.mountPoint))
-                return label;
-        properties.merge(sources.superblock(device));
+        if (auto label = labelOfMounted(mount))
+            return label;
+        properties.merge(sources.superblock(device.number));
     }
     if (auto label = nonEmpty(properties, "ID_FS_LABEL"))
         return label;
-    return partitionName(properties, device, sources);
+    if (auto name = nonEmpty(properties, "ID_PART_ENTRY_NAME"))
+        return name;
+    return readUeventValue(device.folder, "PARTNAME");
 }
 
-std::string nameOfVolume(const Mount& mount, std::optional<dev_t> device, const SystemSources& sources) {
+std::string nameOfVolume(const Mount& mount, const std::optional<BlockDevice>& device,
+                         const SystemSources& sources) {
     if (device)
         if (auto label = labelOnDevice(mount, *device, sources))
             return *label;
@@ -64,14 +68,12 @@ std::string nameOfVolume(const Mount& mount, std::optional<dev_t> device, const 
     return last.empty() ? "Root" : last;
 }
 
-void addAttachment(VolumeResources& resources, const FileSystemFacts* facts, std::optional<dev_t> device,
+void addAttachment(VolumeResources& resources, const FileSystemFacts* facts, const Mount& mount,
                    const SystemSources& sources) {
     const auto reach = facts ? facts->reach : FileSystemReach::device;
     if (reach == FileSystemReach::memory || reach == FileSystemReach::layered)
         resources.isInternal = true;
-    if (!device)
-        return;
-    const BlockStack stack = blockStack(*device, sources.sysfs);
+    const BlockStack stack = blockStack(mount, sources);
     if (stack.wholeDisks.empty())
         return;
     resources.isEncrypted = stack.isEncrypted;
@@ -99,7 +101,8 @@ VolumeResources resourcesOfMount(const Mount& mount, const SystemSources& source
     VolumeResources resources;
     const std::string type = mountedType(mount, sources);
     const FileSystemFacts* const facts = fileSystemFacts(type);
-    const auto device = deviceOfMount(mount);
+    const auto number = deviceOfMount(mount);
+    const auto device = number ? blockDevice(*number, sources.sysfs) : std::nullopt;
     resources.name = nameOfVolume(mount, device, sources);
     if (!type.empty()) {
         resources.format = facts ? std::string(facts->displayName) : type;
@@ -108,7 +111,7 @@ VolumeResources resourcesOfMount(const Mount& mount, const SystemSources& source
     resources.mayBlock = mayBlock(mount, facts);
     resources.isReadOnly = hasMountOption(mount.options, "ro") || hasMountOption(mount.superOptions, "ro");
     resources.volumeRoot = mount.mountPoint;
-    addAttachment(resources, facts, device, sources);
+    addAttachment(resources, facts, mount, sources);
     return resources;
 }
 

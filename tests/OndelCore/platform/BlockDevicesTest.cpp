@@ -6,6 +6,7 @@
 #include <sys/sysmacros.h>
 
 #include <fstream>
+#include <tuple>
 
 using namespace OndelCore::platform;
 
@@ -78,6 +79,35 @@ TEST_F(BlockStackTest, TellsEncryptionFromCryptsetupsOtherLayers) {
         EXPECT_EQ(stack.isSealed, layer.isSealed) << layer.uuid;
         EXPECT_EQ(stack.wholeDisks.size(), 1U);
     }
+}
+
+TEST_F(BlockStackTest, CountsEveryDeviceOfAFileSystemThatHasSeveral) {
+    const auto disksOf = [&](const char* type, dev_t device, const char* source) {
+        Mount mount;
+        mount.type = type;
+        mount.device = device;
+        mount.source = source;
+        std::string names;
+        for (const BlockDevice& disk : blockStack(mount, machine.sources()).wholeDisks)
+            names += disk.name + ' ';
+        return names;
+    };
+    const auto sysfs = machine.sources().sysfs;
+    for (const auto& [fileSystem, name, place] :
+         {std::tuple{"1-a", "sda1", ata1 + "/sda1"}, {"1-a", "sdb1", ata2 + "/sdb1"}, {"0-b", "sdb", ata2}}) {
+        std::filesystem::create_directories(sysfs / "fs/btrfs" / fileSystem / "devices");
+        std::filesystem::create_symlink(sysfs / "devices" / place,
+                                        sysfs / "fs/btrfs" / fileSystem / "devices" / name);
+    }
+    EXPECT_EQ(disksOf("btrfs", makedev(8, 17), "/dev/sdb1"), "sda sdb ");
+    EXPECT_EQ(disksOf("btrfs", makedev(8, 16), "/dev/sdb"), "sdb ");
+    EXPECT_EQ(disksOf("btrfs", makedev(8, 0), "/dev/sda"), "sda ");
+
+    machine.setDatabase(makedev(8, 17), {{"ID_FS_TYPE", "zfs_member"}, {"ID_FS_LABEL", "tank"}});
+    machine.setDatabase(makedev(8, 1), {{"ID_FS_TYPE", "zfs_member"}, {"ID_FS_LABEL", "other"}});
+    EXPECT_EQ(disksOf("zfs", makedev(0, 50), "tank/home/ada"), "sdb ");
+    EXPECT_EQ(disksOf("zfs", makedev(0, 51), "gone"), "");
+    EXPECT_EQ(disksOf("tmpfs", makedev(0, 52), "tmpfs"), "");
 }
 
 TEST_F(BlockStackTest, EndsOnADamagedTree) {
