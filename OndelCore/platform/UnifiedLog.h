@@ -32,7 +32,9 @@ public:
     void record(const UnifiedLogEntry& entry) const;
 
 private:
-    bool sendAsFile(std::string_view payload, msghdr& header) const;
+    bool reconnect() const;
+    bool send(const msghdr& header) const;
+    void sendAsFile(std::string_view payload) const;
 
     FileDescriptor m_socket;
     sockaddr_un m_address{};

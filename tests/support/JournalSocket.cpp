@@ -12,8 +12,15 @@ using OndelCore::platform::FileDescriptor;
 
 namespace test {
 
-JournalSocket::JournalSocket()
-    : m_socket(socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
+JournalSocket::JournalSocket() { open(); }
+
+void JournalSocket::close() {
+    m_socket = FileDescriptor();
+    std::filesystem::remove(path());
+}
+
+void JournalSocket::open() {
+    m_socket = FileDescriptor(socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0));
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     std::strncpy(address.sun_path, path().c_str(), sizeof address.sun_path - 1);
@@ -22,7 +29,7 @@ JournalSocket::JournalSocket()
 }
 
 std::optional<std::string> JournalSocket::take() {
-    std::vector<char> bytes(1 << 20);
+    std::vector<char> bytes(256 * 1024); // above what a datagram may hold by default
     iovec piece{bytes.data(), bytes.size()};
     alignas(cmsghdr) char control[CMSG_SPACE(sizeof(int))] = {};
     msghdr header{};

@@ -13,6 +13,10 @@ class JournalSocket {
 public:
     JournalSocket();
 
+    /// As a journal that stops and starts again.
+    void close();
+    void open();
+
     std::filesystem::path path() const { return m_folder.path() / "socket"; }
 
     /// The next entry as it was sent, read from the memory file if it came in one; absent when none waits.

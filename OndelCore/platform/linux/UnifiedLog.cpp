@@ -67,6 +67,19 @@ UnifiedLog::UnifiedLog(const std::filesystem::path& socket) {
     m_address.sun_family = AF_UNIX;
     std::memcpy(m_address.sun_path, name.c_str(), name.size() + 1);
     m_socket = FileDescriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    reconnect(); // spares every line the way through the file system
+}
+
+bool UnifiedLog::reconnect() const {
+    return connect(m_socket.get(), reinterpret_cast<const sockaddr*>(&m_address), sizeof m_address) == 0;
+}
+
+bool UnifiedLog::send(const msghdr& header) const {
+    const auto sent = [&] { return sendmsg(m_socket.get(), &header, MSG_NOSIGNAL | MSG_DONTWAIT) >= 0; };
+    if (sent())
+        return true;
+    const bool journalRestarted = errno == ECONNREFUSED || errno == ENOTCONN || errno == ECONNRESET;
+    return journalRestarted && reconnect() && sent();
 }
 
 bool UnifiedLog::isEnabled(UnifiedLogType) const { return static_cast<bool>(m_socket); }
@@ -76,33 +89,28 @@ void UnifiedLog::record(const UnifiedLogEntry& entry) const {
         return;
     const std::string payload = payloadOf(entry);
     iovec piece{const_cast<char*>(payload.data()), payload.size()};
-    sockaddr_un address = m_address;
     msghdr header{};
-    header.msg_name = &address;
-    header.msg_namelen = sizeof address;
     header.msg_iov = &piece;
     header.msg_iovlen = 1;
-    if (sendmsg(m_socket.get(), &header, MSG_NOSIGNAL | MSG_DONTWAIT) < 0 &&
-        (errno == EMSGSIZE || errno == ENOBUFS))
-        sendAsFile(payload, header);
+    if (!send(header) && (errno == EMSGSIZE || errno == ENOBUFS))
+        sendAsFile(payload);
 }
 
-bool UnifiedLog::sendAsFile(std::string_view payload, msghdr& header) const {
+void UnifiedLog::sendAsFile(std::string_view payload) const {
     const FileDescriptor file(memfd_create("journal-entry", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     if (!file)
-        return false;
+        return;
     while (!payload.empty()) {
         const ssize_t written = write(file.get(), payload.data(), payload.size());
         if (written <= 0)
-            return false;
+            return;
         payload.remove_prefix(static_cast<std::size_t>(written));
     }
     if (fcntl(file.get(), F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL) != 0)
-        return false;
+        return;
 
     alignas(cmsghdr) char control[CMSG_SPACE(sizeof(int))] = {};
-    header.msg_iov = nullptr;
-    header.msg_iovlen = 0;
+    msghdr header{};
     header.msg_control = control;
     header.msg_controllen = sizeof control;
     cmsghdr* rights = CMSG_FIRSTHDR(&header);
@@ -111,7 +119,7 @@ bool UnifiedLog::sendAsFile(std::string_view payload, msghdr& header) const {
     rights->cmsg_len = CMSG_LEN(sizeof(int));
     const int descriptor = file.get();
     std::memcpy(CMSG_DATA(rights), &descriptor, sizeof descriptor);
-    return sendmsg(m_socket.get(), &header, MSG_NOSIGNAL | MSG_DONTWAIT) >= 0;
+    send(header);
 }
 
 } // namespace OndelCore::platform

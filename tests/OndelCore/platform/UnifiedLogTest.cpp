@@ -56,8 +56,11 @@ TEST(UnifiedLog, NeverWaitsAndNeedsNoJournal) {
         EXPECT_FALSE(log.isEnabled(UnifiedLogType::fault));
         log.record(entryOf("line"));
     }
-    auto gone = std::make_unique<test::JournalSocket>();
-    const UnifiedLog log(gone->path());
-    gone.reset();
-    log.record(entryOf("line"));
+    test::JournalSocket journal;
+    const UnifiedLog log(journal.path());
+    journal.close();
+    log.record(entryOf("lost"));
+    journal.open();
+    log.record(entryOf("after its restart"));
+    EXPECT_EQ(journal.take(), headOf('5') + "MESSAGE=after its restart\n");
 }
