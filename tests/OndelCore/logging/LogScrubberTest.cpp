@@ -55,11 +55,12 @@ TEST(LogScrubber, ReplacesTheShapesOfPrivateText) {
 }
 
 TEST(LogScrubber, ReplacesTheUserFirst) {
-    const LogScrubber scrubber(UserFacts{"ann", "Ann Example", "bo", "/srv/ann"});
+    const LogScrubber scrubber(UserFacts{"ann", "ann Example", "bo", "/srv/ann"});
     expectScrubbed(scrubber, {{"/Users/ann/x", "«path»", 2},
                               {"ann ann ann", "«local» «local» «local»", 1},
-                              {"Ann Example on bo", "«local» on bo", 1},
+                              {"ann Example on bo", "«local» Example on bo", 1},
                               {"/srv/ann/x", "/srv/«local»/x", 1}});
+    expectScrubbed(LogScrubber(UserFacts{"", "", "box9", "/box9"}), {{"/box9/x", "/«local»/x", 1}});
     const std::string family = "👨‍👩‍👧‍👦";
     expectScrubbed(
         LogScrubber(UserFacts{family + "e\u0301", std::nullopt, "", "/root"}), // two characters: too short
