@@ -2,22 +2,23 @@
 
 #include "OndelCore/platform/linux/UserRecord.h"
 
-#include <cstdlib>
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <string>
 
 namespace OndelCore::platform {
 
 namespace {
 
 /// The XDG Base Directory rules want relative values ignored.
-std::optional<std::filesystem::path> absoluteOf(const char* value) {
-    if (!value || *value != '/')
-        return std::nullopt;
-    return std::filesystem::path(value);
+std::optional<std::filesystem::path> absoluteOf(const std::string& value) {
+    return value.starts_with('/') ? std::optional<std::filesystem::path>(value) : std::nullopt;
 }
 
 /// What `variable` says, else its default's place in the home folder.
 std::optional<std::filesystem::path> folderOf(const char* variable, const char* localName) {
-    if (auto folder = absoluteOf(std::getenv(variable)))
+    if (auto folder = absoluteOf(qgetenv(variable).toStdString()))
         return folder;
     const auto home = homeFolder();
     return home ? std::optional(*home / ".local" / localName) : std::nullopt;
@@ -26,10 +27,10 @@ std::optional<std::filesystem::path> folderOf(const char* variable, const char* 
 } // namespace
 
 std::optional<std::filesystem::path> homeFolder() {
-    if (auto home = absoluteOf(std::getenv("HOME")))
+    if (auto home = absoluteOf(qgetenv("HOME").toStdString()))
         return home;
     const std::optional<UserRecord> user = userRecord();
-    return user ? absoluteOf(user->homeFolder.c_str()) : std::nullopt;
+    return user ? absoluteOf(user->homeFolder) : std::nullopt;
 }
 
 std::optional<std::filesystem::path> stateHome() { return folderOf("XDG_STATE_HOME", "state"); }

@@ -3,12 +3,14 @@
 #include "OndelCore/platform/StandardFolders.h"
 #include "OndelCore/platform/linux/UserRecord.h"
 
+#include <QByteArray>
+#include <QtGlobal>
+
 #include <unistd.h>
 
 #include <array>
 #include <cctype>
 #include <climits>
-#include <cstdlib>
 
 namespace OndelCore::platform {
 
@@ -43,8 +45,8 @@ UserFacts userFacts() {
     if (const auto user = userRecord()) {
         facts.shortName = user->name;
         facts.fullName = fullNameOf(*user);
-    } else if (const char* name = std::getenv("USER")) {
-        facts.shortName = name;
+    } else if (qEnvironmentVariableIsSet("USER")) {
+        facts.shortName = qgetenv("USER").toStdString();
     }
     facts.hostName = hostName();
     if (const auto home = homeFolder())
