@@ -12,10 +12,11 @@ namespace {
 /// Longer than the longest spelling of a double or an integer.
 constexpr std::size_t longestNumber = 32;
 
-QByteArray spelled(auto value) {
+/// Appends a number as the C++ library spells it, which no locale changes.
+void appendNumber(QByteArray& json, auto value) {
     std::array<char, longestNumber> buffer;
     const char* end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
-    return {buffer.data(), end - buffer.data()};
+    json.append(buffer.data(), end - buffer.data());
 }
 
 } // namespace
@@ -59,9 +60,15 @@ void JsonWriter::string(QStringView text) {
     m_json += '"';
 }
 
-void JsonWriter::number(double value) { raw(spelled(value)); }
+void JsonWriter::number(double value) {
+    separate();
+    appendNumber(m_json, value);
+}
 
-void JsonWriter::integer(std::int64_t value) { raw(spelled(value)); }
+void JsonWriter::integer(std::int64_t value) {
+    separate();
+    appendNumber(m_json, value);
+}
 
 void JsonWriter::boolean(bool value) { raw(value ? "true" : "false"); }
 

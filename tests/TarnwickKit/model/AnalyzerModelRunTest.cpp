@@ -291,7 +291,8 @@ TEST(AnalyzerModel, RunsTheRealEngineAndLeavesNothingBehind) {
 
 TEST(AnalyzerModel, ItsEndEndsTheRun) {
     std::atomic<bool> cleanedUp = false;
-    AnalyzerServices services = Engine().services();
+    Engine engine;
+    AnalyzerServices services = engine.services();
     services.runBenchmark = [&](BenchmarkPlan, std::filesystem::path, auto progress, std::stop_token stop) {
         QPromise<BenchmarkResult> promise;
         promise.start();

@@ -1,0 +1,216 @@
+#include "ModelHarness.h"
+#include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/model/VolumeMenuItem.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <fstream>
+#include <future>
+#include <sstream>
+#include <thread>
+
+namespace TarnwickKit::model {
+
+namespace {
+
+using OndelCore::health::DiskSMART;
+using OndelCore::volumes::MountedVolume;
+using OndelCore::volumes::VolumeCapabilities;
+using OndelCore::volumes::VolumeInfo;
+
+DiskSMART health(const char* kind) {
+    return {DiskSMART::Status::verified, kind, {{"Power on", "3 hours", false}}};
+}
+
+/// Answers at once, or notes what it was asked.
+struct Dialogs : AnalyzerDialogs {
+    std::optional<std::filesystem::path> answer;
+    std::optional<std::filesystem::path> startingAt;
+    QStringList asked;
+
+    void askForFolder(const QString& message, const QString& prompt,
+                      const std::optional<std::filesystem::path>& start, Chosen chosen) override {
+        asked << message << prompt;
+        startingAt = start;
+        if (answer)
+            chosen(*answer);
+    }
+    void askForTextFile(const QString& proposedName, Chosen chosen) override {
+        asked << proposedName;
+        if (answer)
+            chosen(*answer);
+    }
+    void showError(const QString& sentence) override { asked << sentence; }
+};
+
+struct AnalyzerModelTarget : testing::Test {
+    Engine engine;
+    std::optional<VolumeInfo> volume = VolumeInfo();
+    std::optional<VolumeCapabilities> capabilities = VolumeCapabilities();
+    AnalyzerServices services = engine.services();
+    Dialogs dialogs;
+
+    AnalyzerModelTarget() {
+        services.loadVolume = [this](const auto&) { return volume; };
+        services.probeCapabilities = [this](const auto&) { return capabilities; };
+    }
+    /// The file is gone with the test's other things.
+    std::filesystem::path file(const char* name) const { return engine.history.path() / name; }
+};
+
+TEST_F(AnalyzerModelTarget, NamesHowTheVolumeIsAttached) {
+    using Kind = RunRecord::Kind;
+    struct Case {
+        bool isKnown, isInternal, isRemovable;
+        const char* type;
+        const char* label;
+        const char* icon;
+        Kind kind;
+    };
+    const char* networkIcon = "externaldrive.connected.to.line.below";
+    for (const Case& each : {
+             Case{false, false, false, "", "--", "externaldrive", Kind::external},
+             Case{true, true, false, "ext4", "Internal", "internaldrive", Kind::internalDrive},
+             Case{true, true, true, "ext4", "Removable", "externaldrive", Kind::external},
+             Case{true, false, true, "ext4", "Removable", "externaldrive", Kind::external},
+             Case{true, false, false, "ext4", "External", "externaldrive", Kind::external},
+             Case{true, true, true, "NFS", "Network", networkIcon, Kind::network},
+             Case{false, false, false, "nfs", "Network", "externaldrive", Kind::network},
+         }) {
+        volume = std::nullopt;
+        if (each.isKnown) {
+            volume.emplace();
+            volume->isInternal = each.isInternal;
+            volume->isRemovable = each.isRemovable;
+        }
+        capabilities->filesystemType = each.type;
+        AnalyzerModel model(services);
+        model.select(std::filesystem::path("/"));
+        EXPECT_EQ(model.connectionLabel(), each.label);
+        EXPECT_EQ(model.selectedVolumeIcon(), each.icon) << each.label;
+        EXPECT_EQ(model.selectedVolumeKind(), each.kind) << each.label;
+    }
+    const AnalyzerModel fresh(services);
+    EXPECT_EQ(fresh.connectionLabel(), "--");
+}
+
+TEST_F(AnalyzerModelTarget, OffersTheBlockThatSuitsTheFileSystem) {
+    const auto labelsFor = [this](std::int64_t optimalIOSize) {
+        capabilities->optimalIOSize = optimalIOSize;
+        AnalyzerModel model(services);
+        model.setWriteBlock(1);
+        model.setReadBlock(2);
+        model.setRandomBlock(3);
+        model.select(std::filesystem::path("/"));
+        EXPECT_EQ(model.randomBlock(), 3);
+        return QString::number(model.writeBlock()) + " " + QString::number(model.readBlock()) + ": " +
+               model.blockLabels().join(", ");
+    };
+    EXPECT_EQ(labelsFor(0), "1 2: 4 KiB, 64 KiB, 256 KiB, 1 MiB, 4 MiB");
+    EXPECT_EQ(labelsFor(512), "4096 4096: 4 KiB  ·  optimal, 64 KiB, 256 KiB, 1 MiB, 4 MiB");
+    EXPECT_EQ(labelsFor(4097), "8192 8192: 4 KiB, 8 KiB  ·  optimal, 64 KiB, 256 KiB, 1 MiB, 4 MiB");
+    EXPECT_EQ(labelsFor(1048576), "1048576 1048576: 4 KiB, 64 KiB, 256 KiB, 1 MiB  ·  optimal, 4 MiB");
+    EXPECT_EQ(AnalyzerModel::randomBlockLabels(), QStringList({"4 KiB", "8 KiB", "16 KiB", "64 KiB"}));
+    EXPECT_EQ(AnalyzerModel::randomBlockSizes(), QList<double>({4096, 8192, 16384, 65536}));
+}
+
+TEST_F(AnalyzerModelTarget, ListsVolumesForTheMenu) {
+    struct Case {
+        QString format, type;
+        std::optional<std::int64_t> total;
+        bool isInternal, isRemovable;
+        const char* detail;
+        const char* image;
+    };
+    for (const Case& each : {
+             Case{"Ext4", "ext4", 5368709120, true, false, "Ext4 · 5.0 GiB", "internaldrive"},
+             Case{"", "ext4", 5368709120, true, true, "5.0 GiB", "externaldrive"},
+             Case{"NFS", "nfs", std::nullopt, true, false, "NFS", "externaldrive.connected.to.line.below"},
+             Case{"", "what", 0, false, false, "", "externaldrive"},
+         }) {
+        const auto item = VolumeMenuItem::from(
+            {"/mnt", "Data", each.format, each.type, each.total, each.isInternal, each.isRemovable});
+        EXPECT_EQ(item, (VolumeMenuItem{"/mnt", "Data", each.image, each.detail}));
+    }
+}
+
+TEST_F(AnalyzerModelTarget, OnlyTheLatestHealthReadLands) {
+    std::promise<void> gate;
+    services.readHealth = [opened = gate.get_future().share()](const std::filesystem::path& path) {
+        if (path == "/slow")
+            opened.wait();
+        return std::optional(health(path.filename().c_str()));
+    };
+    AnalyzerModel model(services);
+    QStringList kinds;
+    QObject::connect(&model, &AnalyzerModel::smartChanged, &model, [&] {
+        kinds << (model.smart() ? QString::fromStdString(model.smart()->kind) : "none");
+    });
+    model.select(std::filesystem::path("/slow"));
+    model.select(std::filesystem::path("/quick"));
+    turnUntil([&] { return model.smart().has_value(); });
+    gate.set_value();
+    model.select(std::filesystem::path("/next"));
+    turnUntil([&] { return model.smart().has_value(); });
+    EXPECT_EQ(kinds, QStringList({"quick", "none", "next"}));
+}
+
+TEST_F(AnalyzerModelTarget, AReadMayOutliveTheModel) {
+    std::promise<void> gate;
+    std::promise<void> ended;
+    services.readHealth = [&](const std::filesystem::path&) {
+        gate.get_future().wait();
+        ended.set_value_at_thread_exit();
+        return std::optional(health("late"));
+    };
+    std::make_unique<AnalyzerModel>(services)->select(std::filesystem::path("/"));
+    gate.set_value();
+    ended.get_future().wait();
+}
+
+TEST_F(AnalyzerModelTarget, AsksForAFolder) {
+    AnalyzerModel model(services);
+    model.chooseFolder();
+    model.setDialogs(&dialogs);
+    model.chooseFolder();
+    EXPECT_EQ(dialogs.asked.join(" / "),
+              "Choose a folder on the volume to test (a temporary working folder is "
+              "written there and removed). / Select");
+    EXPECT_EQ(dialogs.startingAt, std::nullopt);
+    EXPECT_FALSE(model.targetFolder());
+    model.chooseFolder(std::filesystem::path("/"));
+    EXPECT_EQ(dialogs.startingAt, std::filesystem::path(getenv("HOME")));
+    dialogs.answer = "/tmp";
+    model.chooseFolder(std::filesystem::path("/usr"));
+    EXPECT_EQ(dialogs.startingAt, "/usr");
+    EXPECT_EQ(model.targetFolder(), "/tmp");
+}
+
+TEST_F(AnalyzerModelTarget, ExportsTheHealth) {
+    services.readHealth = [](const auto&) { return std::optional(health("NVMe")); };
+    services.driveIdentity = [](const auto&) { return DriveIdentity{"ACME", std::nullopt}; };
+    services.now = [] { return QDateTime(QDate(2026, 3, 14), QTime(9, 26), Qt::UTC); };
+    AnalyzerModel model(services);
+    model.setDialogs(&dialogs);
+    model.exportSMART();
+    EXPECT_TRUE(dialogs.asked.isEmpty());
+    model.select(std::filesystem::path("/"));
+    turnUntil([&] { return model.smart().has_value(); });
+
+    model.exportSMART();
+    EXPECT_EQ(dialogs.asked, QStringList("S.M.A.R.T. ACME 2026-03-14.txt"));
+    dialogs.answer = file("report.txt");
+    model.exportSMART();
+    std::stringstream written;
+    written << std::ifstream(*dialogs.answer).rdbuf();
+    EXPECT_NE(written.str().find("Power on"), std::string::npos);
+    dialogs.asked.clear();
+    dialogs.answer = file("no such folder/report.txt");
+    model.exportSMART();
+    EXPECT_EQ(dialogs.asked.last(), "No such file or directory");
+}
+
+} // namespace
+
+} // namespace TarnwickKit::model
