@@ -28,7 +28,7 @@ constexpr Range randomOpRange{0, 1'000'000'000};
 constexpr Range fileOpRange{0, 1'000'000};
 
 constexpr std::array options{
-    Option{"--tests", "A,B,…",
+    Option{"--tests", "A,B",
            "Tests to run, always in this order: sequentialWrite, sequentialRead,\n"
            "randomRead, randomWrite, fileOps (default: all)"},
     Option{"--size", "BYTES|fill", "Size of the data file, or fill the disk (default: 5GiB)"},
@@ -39,7 +39,7 @@ constexpr std::array options{
     Option{"--random-ops", "N", "Operations in each random test (default: 10000)"},
     Option{"--file-ops", "N", "Files in the file-operations test (default: 1000)"},
     Option{"--cached", "", "Let the system cache the data file, as ordinary programs do"},
-    Option{"--sample-interval", "SECONDS", "Least time between two samples (default: 0.02)"},
+    Option{"--sample-interval", "S", "Least seconds between two samples (default: 0.02)"},
     Option{"--json", "", "Print one JSON object: the plan, every figure, every sample"},
 };
 
