@@ -8,6 +8,7 @@
 #include "examples/host/ResultTable.h"
 #include "examples/host/RunOptions.h"
 #include "examples/host/RunWatch.h"
+#include "examples/host/SweptFolder.h"
 
 #include <QJsonDocument>
 
@@ -61,7 +62,7 @@ int execute(const CommandLine& line) {
     requireStandardOutput();
     BenchmarkResult result;
     try {
-        BenchmarkEngine::cleanupOrphans(options.folder);
+        const SweptFolder swept(options.folder);
         result = measured(options);
     } catch (const Cancelled&) {
         return interrupted;
@@ -87,7 +88,7 @@ BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 
 whole pages of 4096. Every default is the one of the window, so that its figures and these can be compared.
 
 Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
-run left behind in FOLDER is removed before the start, so measure a folder with one program at a time.
+run left behind in FOLDER is removed before the start, unless another tarnwick-host measures there.
 
 Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.
 )",

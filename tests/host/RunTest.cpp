@@ -190,6 +190,16 @@ TEST_F(Run, WhatAKilledRunLeftIsRemovedByTheNext) {
     EXPECT_TRUE(folderIsEmpty());
 }
 
+TEST_F(Run, ARunGoingOnInTheSameFolderIsLeftAlone) {
+    HostProcess first({.arguments = endlessRun()});
+    test::waitForWorkingFolder(folder);
+    EXPECT_EQ(runHost({"run", "--tests", "fileOps", "--file-ops", "1", folder}).exitStatus, 0);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1);
+    first.signal(SIGTERM);
+    EXPECT_EQ(first.wait().exitStatus, 130);
+    EXPECT_TRUE(folderIsEmpty());
+}
+
 TEST_F(Run, SignalsEndARunWithItsFilesRemoved) {
     struct Case {
         std::vector<int> signals;
