@@ -44,7 +44,7 @@ static void answerScsi(FakeDrive& drive, sg_io_hdr_t& io) {
     const Bytes& command = drive.commands.emplace_back(io.cmdp, io.cmdp + io.cmd_len);
     const auto give = [&](const std::uint8_t* data, std::size_t size) {
         const std::size_t given = std::min<std::size_t>(size, io.dxfer_len);
-        std::memcpy(io.dxferp, data, given);
+        std::copy_n(data, given, static_cast<std::uint8_t*>(io.dxferp));
         io.resid = static_cast<int>(io.dxfer_len - given);
     };
     const auto complain = [&](const Bytes& sense) {
