@@ -10,7 +10,7 @@ namespace OndelCore::health {
 /// A block of health data exactly as the drive sent it.
 using SmartPage = std::array<std::uint8_t, 512>;
 
-/// Fills the fields of a SMART / Health Information log page (NVM Express base specification, log page 02h).
+/// Fills the fields of a SMART / Health Information log page (NVM Express, Get Log Page, log identifier 02h).
 /// Every page is accepted; nothing is judged for plausibility. Threads: any.
 void decodeNvmeHealth(const SmartPage& page, OndelSMART& record);
 

@@ -9,8 +9,8 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// Get Log Page for the SMART / Health Information log of the whole controller (NVM Express base
-/// specification, log page 02h).
+/// Get Log Page for the SMART / Health Information log (02h) of the whole controller (NVM Express, Admin
+/// Command Set).
 nvme_passthru_cmd getHealthLog(SmartPage& page) {
     constexpr std::uint8_t getLogPage = 0x02;
     constexpr std::uint32_t healthLog = 0x02;
