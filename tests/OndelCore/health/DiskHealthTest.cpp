@@ -96,32 +96,17 @@ TEST(DiskHealth, WritesTheRowsOfAnAtaDrive) {
 TEST(DiskHealth, JudgesEachFigureByItsOwnRule) {
     using Change = std::function<void(OndelSMART&)>;
     const auto spare = [](int value, int threshold) {
-        return [=](OndelSMART& record) {
-            record.has_spare = 1;
-            record.spare = value;
-            record.spare_threshold = threshold;
-        };
+        return [=](OndelSMART& r) { r.has_spare = 1, r.spare = value, r.spare_threshold = threshold; };
     };
     const auto used = [](int value) {
-        return [=](OndelSMART& record) {
-            record.has_percent_used = 1;
-            record.percent_used = value;
-        };
+        return [=](OndelSMART& r) { r.has_percent_used = 1, r.percent_used = value; };
     };
-    const auto warning = [](int value) {
-        return [=](OndelSMART& record) { record.critical_warning = value; };
-    };
+    const auto warning = [](int value) { return [=](OndelSMART& r) { r.critical_warning = value; }; };
     const auto powerOn = [](std::uint64_t value) {
-        return [=](OndelSMART& record) {
-            record.has_power_on_hours = 1;
-            record.power_on_hours = value;
-        };
+        return [=](OndelSMART& r) { r.has_power_on_hours = 1, r.power_on_hours = value; };
     };
     const auto busy = [](std::uint64_t value) {
-        return [=](OndelSMART& record) {
-            record.has_busy_minutes = 1;
-            record.busy_minutes = value;
-        };
+        return [=](OndelSMART& r) { r.has_busy_minutes = 1, r.busy_minutes = value; };
     };
     const std::vector<std::pair<Change, Rows>> cases{
         {[](OndelSMART&) {}, {}},
@@ -154,6 +139,15 @@ TEST(DiskHealth, JudgesEachFigureByItsOwnRule) {
         EXPECT_EQ(smart.attributes, cases[index].second) << "case " << index;
         EXPECT_EQ(smart.status, DiskSMART::Status::verified) << "rows never change the verdict";
     }
+}
+
+TEST(DiskHealth, IsAbsentWhereNoDeviceIsBehindThePath) {
+    for (const char* path : {"", "/proc", "/no/such/path", "/proc/self/mountinfo/below", "bytes \xff\n"})
+        EXPECT_EQ(DiskHealth::read(path), std::nullopt) << path;
+
+    OndelSMART record = nvme();
+    EXPECT_EQ(ondel_read_smart("no-such-device", &record), 0);
+    EXPECT_EQ(record, OndelSMART()) << "what the record held before is gone";
 }
 
 } // namespace

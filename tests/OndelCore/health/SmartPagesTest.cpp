@@ -8,8 +8,8 @@
 
 #include <cstring>
 #include <limits>
-#include <map>
 #include <random>
+#include <sstream>
 
 namespace OndelCore::health {
 
@@ -41,15 +41,18 @@ private:
     SmartPage m_page;
 };
 
-/// The fields that are not zero, by name.
-std::map<std::string, double> fieldsOf(const OndelSMART& record) {
-    std::map<std::string, double> fields;
+/// The fields that are not zero, by name; of those that are 1 the name alone.
+std::string fieldsOf(const OndelSMART& record) {
+    std::ostringstream text;
     forEachField(record, [&](std::string_view name, const auto& value) {
-        if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(value)>>)
-            if (value != 0)
-                fields[std::string(name)] = static_cast<double>(value);
+        if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(value)>>) {
+            if (value == 1)
+                text << name << ' ';
+            else if (value != 0)
+                text << name << '=' << value << ' ';
+        }
     });
-    return fields;
+    return text.str();
 }
 
 OndelSMART decoded(void (*decode)(const SmartPage&, OndelSMART&), const PageBuilder& builder) {
@@ -63,34 +66,14 @@ TEST(SmartPages, TakeEveryFieldOfAnNvmeHealthLogFromItsPlace) {
     PageBuilder log;
     log.put(0, 0x85, 1).put(1, 311, 2).put(3, 100, 1).put(4, 10, 1).put(5, 255, 1);
     for (std::uint64_t counter = 0; counter < 10; ++counter)
-        log.put(32 + 16 * counter, 1000 + counter, 8).put(40 + 16 * counter, largest, 8);
+        log.put(32 + 16 * counter, (1000 + counter) * 1000, 8).put(40 + 16 * counter, largest, 8);
     EXPECT_EQ(fieldsOf(decoded(decodeNvmeHealth, log)),
-              (std::map<std::string, double>{{"failing", 1},
-                                             {"critical_warning", 0x85},
-                                             {"has_temperature", 1},
-                                             {"temperature", 38},
-                                             {"has_spare", 1},
-                                             {"spare", 100},
-                                             {"spare_threshold", 10},
-                                             {"has_percent_used", 1},
-                                             {"percent_used", 255},
-                                             {"has_data_read", 1},
-                                             {"data_read_tb", 1000 * 512000.0 / 1e12},
-                                             {"has_data_written", 1},
-                                             {"data_written_tb", 1001 * 512000.0 / 1e12},
-                                             {"has_host_commands", 1},
-                                             {"host_read_commands", 1002},
-                                             {"host_write_commands", 1003},
-                                             {"has_busy_minutes", 1},
-                                             {"busy_minutes", 1004},
-                                             {"has_power_cycles", 1},
-                                             {"power_cycles", 1005},
-                                             {"has_power_on_hours", 1},
-                                             {"power_on_hours", 1006},
-                                             {"has_nvme_counters", 1},
-                                             {"unsafe_shutdowns", 1007},
-                                             {"media_errors", 1008},
-                                             {"error_log_entries", 1009}}));
+              "failing has_temperature temperature=38 has_percent_used percent_used=255 has_spare spare=100 "
+              "spare_threshold=10 critical_warning=133 has_power_on_hours power_on_hours=1006000 "
+              "has_power_cycles power_cycles=1005000 has_nvme_counters unsafe_shutdowns=1007000 "
+              "media_errors=1008000 error_log_entries=1009000 has_data_written data_written_tb=0.512512 "
+              "has_data_read data_read_tb=0.512 has_host_commands host_read_commands=1002000 "
+              "host_write_commands=1003000 has_busy_minutes busy_minutes=1004000 ");
 }
 
 TEST(SmartPages, TakeAnyNvmeHealthLogAsItIs) {
@@ -114,26 +97,12 @@ TEST(SmartPages, TakeTheKnownAtaAttributesInTheirWidths) {
         data.attribute(row++, static_cast<std::uint8_t>(number), raw);
     data.attribute(29, 194, 0x002600110026); // the last row counts; extremes stand above the temperature
     EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, data)),
-              (std::map<std::string, double>{{"has_reallocated", 1},
-                                             {"reallocated", raw},
-                                             {"has_power_on_hours", 1},
-                                             {"power_on_hours", raw},
-                                             {"has_spin_retries", 1},
-                                             {"spin_retries", 0xc3d4e5f6},
-                                             {"has_power_cycles", 1},
-                                             {"power_cycles", raw},
-                                             {"has_reported_uncorrectable", 1},
-                                             {"reported_uncorrectable", 0xc3d4e5f6},
-                                             {"has_load_cycles", 1},
-                                             {"load_cycles", 0xc3d4e5f6},
-                                             {"has_pending", 1},
-                                             {"pending", 0xc3d4e5f6},
-                                             {"has_uncorrectable", 1},
-                                             {"uncorrectable", 0xc3d4e5f6},
-                                             {"has_crc_errors", 1},
-                                             {"crc_errors", 0xc3d4e5f6},
-                                             {"has_temperature", 1},
-                                             {"temperature", 38}}));
+              "has_temperature temperature=38 has_power_on_hours power_on_hours=177789161760246 "
+              "has_power_cycles power_cycles=177789161760246 has_reallocated reallocated=177789161760246 "
+              "has_pending pending=3285509622 has_uncorrectable uncorrectable=3285509622 "
+              "has_reported_uncorrectable reported_uncorrectable=3285509622 has_crc_errors "
+              "crc_errors=3285509622 has_spin_retries spin_retries=3285509622 has_load_cycles "
+              "load_cycles=3285509622 ");
 }
 
 TEST(SmartPages, LetTheLaterOfTwoAtaAttributesCount) {
@@ -143,7 +112,7 @@ TEST(SmartPages, LetTheLaterOfTwoAtaAttributesCount) {
     const OndelSMART record = decoded(decodeAtaAttributes, data);
     EXPECT_EQ(record.power_on_hours, 7U);
     EXPECT_EQ(record.temperature, 40) << "a reading out of range leaves the earlier one";
-    EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, PageBuilder(0xff))), (std::map<std::string, double>{}));
+    EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, PageBuilder(0xff))), "");
     for (const std::uint64_t outside : {0U, 120U, 255U, 0x2600U})
         EXPECT_EQ(decoded(decodeAtaAttributes, PageBuilder().attribute(0, 194, outside)).has_temperature, 0);
     for (const std::uint64_t inside : {1U, 119U})
@@ -152,35 +121,22 @@ TEST(SmartPages, LetTheLaterOfTwoAtaAttributesCount) {
 
 TEST(SmartPages, MakeARecordOfWhateverAnswered) {
     using namespace platform;
+    const auto record = [](auto blocks) { return recordOf({.blocks = std::move(blocks), .source = {}}); };
     EXPECT_EQ(recordOf({}), OndelSMART());
-
-    const OndelSMART silent = recordOf({.blocks = AtaSmart{}, .source = {}});
-    EXPECT_EQ(fieldsOf(silent), (std::map<std::string, double>{{"available", 1}}));
-    EXPECT_EQ(DiskHealth::smart(silent), (DiskSMART{DiskSMART::Status::verified, "ATA", {}}));
-    const OndelSMART failing =
-        recordOf({.blocks = AtaSmart{.thresholdExceeded = true, .page = {}}, .source = {}});
-    EXPECT_EQ(fieldsOf(failing), (std::map<std::string, double>{{"available", 1}, {"failing", 1}}));
+    EXPECT_EQ(DiskHealth::smart(record(AtaSmart{})), (DiskSMART{DiskSMART::Status::verified, "ATA", {}}));
+    EXPECT_EQ(fieldsOf(record(AtaSmart{.thresholdExceeded = true, .page = {}})), "available failing ");
+    EXPECT_EQ(
+        fieldsOf(record(AtaSmartReport{.thresholdExceeded = false, .attributes = {{194, 41}, {250, 1}}})),
+        "available has_temperature temperature=41 ");
 
     NvmeSmartReport partial;
     partial.criticalWarning = 4;
     partial.sparePercent = 3;
     partial.mediaErrors = 5;
     partial.bytesWritten = 2500000000000;
-    const OndelSMART told = recordOf({.blocks = partial, .source = {}});
-    EXPECT_EQ(fieldsOf(told), (std::map<std::string, double>{{"available", 1},
-                                                             {"failing", 1},
-                                                             {"critical_warning", 4},
-                                                             {"media_errors", 5},
-                                                             {"has_data_written", 1},
-                                                             {"data_written_tb", 2.5}}));
-    EXPECT_STREQ(told.kind, "NVMe");
-
-    const OndelSMART table =
-        recordOf({.blocks = AtaSmartReport{.thresholdExceeded = false, .attributes = {{194, 41}, {250, 1}}},
-                  .source = {}});
-    EXPECT_EQ(fieldsOf(table),
-              (std::map<std::string, double>{{"available", 1}, {"has_temperature", 1}, {"temperature", 41}}));
-    EXPECT_STREQ(table.kind, "ATA");
+    EXPECT_EQ(fieldsOf(record(partial)),
+              "available failing critical_warning=4 media_errors=5 has_data_written data_written_tb=2.5 ");
+    EXPECT_STREQ(record(partial).kind, "NVMe");
 }
 
 /// Pages of noise, and pages whose attribute numbers are mostly known ones: nothing is read or written out of

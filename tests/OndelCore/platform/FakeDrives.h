@@ -13,8 +13,9 @@ namespace test {
 using Bytes = std::vector<std::uint8_t>;
 
 /// Sense data as a translator answers CK_COND with, around the registers that matter here.
-Bytes descriptorSense(std::uint8_t status, std::uint8_t count, std::uint8_t lbaMid, std::uint8_t lbaHigh);
-Bytes fixedSense(std::uint8_t status, std::uint8_t count, std::uint8_t lbaMid, std::uint8_t lbaHigh);
+Bytes descriptorSense(std::uint8_t status, std::uint8_t count, std::uint8_t lbaMid = 0,
+                      std::uint8_t lbaHigh = 0);
+Bytes fixedSense(std::uint8_t status, std::uint8_t count, std::uint8_t lbaMid = 0, std::uint8_t lbaHigh = 0);
 
 /// How a drive answers. The defaults are an awake, healthy ATA or NVMe drive.
 struct FakeDrive {
@@ -28,9 +29,9 @@ struct FakeDrive {
     int hostStatus = 0; ///< of reading the page
     int missing = 0;    ///< bytes of the page that do not arrive
     OndelCore::platform::SmartPage page{};
-    Bytes supportedPages; ///< answer to the inquiry for product data pages
+    Bytes supportedPages{}; ///< answer to the inquiry for product data pages
 
-    std::vector<Bytes> commands; ///< what it was sent
+    std::vector<Bytes> commands{}; ///< what it was sent
 };
 
 /// Stands where the kernel would: answers the two kinds of commands for the drives it holds.
