@@ -9,90 +9,61 @@ using namespace OndelCore::platform;
 
 namespace {
 
-struct Drive {
-    const char* what;
-    std::string place;
-    test::FakeMachine::Attributes attributes;
-    DeviceProperties database;
-    DriveDescription expected;
-};
+using Text = std::optional<std::string>;
 
-DriveDescription described(const Drive& drive) {
+/// What is told of one disk with these attributes, and these entries in the device database.
+DriveDescription described(const std::string& place, const test::FakeMachine::Attributes& attributes,
+                           const DeviceProperties& database = {}) {
     test::FakeMachine machine;
     const dev_t number = makedev(8, 0);
-    machine.addBlockDevice(drive.place, number, drive.attributes);
-    machine.setDatabase(number, drive.database);
+    machine.addBlockDevice(place, number, attributes);
+    machine.setDatabase(number, database);
     machine.pretendMounted(machine.folder(), {.device = number});
     return describeDrive(machine.folder(), machine.sources()).value_or(DriveDescription());
 }
 
-const std::string pci = "pci0000:00/0000:00:1d.0";
+DriveDescription drive(const Text& vendor, const Text& model, const Text& bus, const Text& protocol = {}) {
+    return {vendor, model, bus, protocol};
+}
 
-TEST(DriveDescription, TellsEachKindOfDrive) {
-    const std::vector<Drive> drives{
-        {"SATA disk, database",
-         "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0/block/sda",
-         {{"device/vendor", "ATA     "}, {"device/model", "Samsung SSD 860 "}},
-         {{"ID_MODEL", "Samsung SSD 860 EVO 500GB               "}, {"ID_BUS", "ata"}},
-         {{}, "Samsung SSD 860 EVO 500GB               ", "SATA", "SATA"}},
-        {"SATA disk, no database",
-         "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0/block/sda",
-         {{"device/vendor", "ATA     "}, {"device/model", "Samsung SSD 860 "}},
-         {},
-         {{}, "Samsung SSD 860 ", "SATA", {}}},
-        {"SATA disk behind a USB bridge that passes ATA commands on",
-         "pci0000:00/0000:00:14.0/usb2/2-1/2-1:1.0/host6/target6:0:0/6:0:0:0/block/sdc",
-         {{"device/vendor", "WD      "}, {"device/model", "My Passport 25E2"}},
-         {{"ID_VENDOR", "WD"}, {"ID_MODEL", "My Passport 25E2"}, {"ID_BUS", "ata"}},
-         {"WD", "My Passport 25E2", "USB", "SATA"}},
-        {"NVMe",
-         pci + "/nvme/nvme0/nvme0n1",
-         {{"../transport", "pcie"}, {"device/model", "WDC PC SN730"}},
-         {},
-         {{}, "WDC PC SN730", "NVMe", {}}},
-        {"NVMe in a Thunderbolt case",
-         "pci0000:00/0000:00:07.0/0000:04:00.0/nvme/nvme1/nvme1n1",
-         {{"../transport", "pcie"}, {"../../../removable", "removable"}},
-         {},
-         {{}, {}, "Thunderbolt", {}}},
-        {"NVMe over a network",
-         "virtual/nvme-fabrics/ctl/nvme2/nvme2n1",
-         {{"../transport", "tcp"}},
-         {},
-         {{}, {}, "NVMe over Fabrics", {}}},
-        {"SAS",
-         pci + "/host1/port-1:0/end_device-1:0/target1:0:0/1:0:0:0/block/sdd",
-         {{"device/vendor", "SEAGATE "}, {"device/model", "ST4000NM0023"}},
-         {},
-         {"SEAGATE ", "ST4000NM0023", "SAS", {}}},
-        {"SATA disk on a SAS controller",
-         pci + "/host1/port-1:1/end_device-1:1/target1:0:1/1:0:1:0/block/sde",
-         {{"device/vendor", "ATA     "}, {"device/model", "HGST HUS72"}},
-         {},
-         {{}, "HGST HUS72", "SATA", {}}},
-        {"memory card",
-         "pci0000:00/mmc_host/mmc0/mmc0:aaaa/block/mmcblk0",
-         {{"device/type", "SD"}, {"device/name", "SD32G"}},
-         {},
-         {{}, "SD32G", "SD", {}}},
-        {"soldered flash",
-         "platform/mmc_host/mmc1/mmc1:0001/block/mmcblk1",
-         {{"device/type", "MMC"}, {"device/name", "DA4064"}},
-         {},
-         {{}, "DA4064", "eMMC", {}}},
-        {"virtio disk",
-         "pci0000:00/0000:00:02.0/virtio1/block/vda",
-         {{"device/vendor", "0x1af4"}},
-         {},
-         {{}, {}, "VirtIO", {}}},
-        {"FireWire, known to the database only",
-         "pci0000:00/other/block/sdf",
-         {},
-         {{"ID_BUS", "ieee1394"}},
-         {{}, {}, {}, "FireWire"}},
-    };
-    for (const Drive& drive : drives)
-        EXPECT_EQ(described(drive), drive.expected) << drive.what;
+constexpr std::nullopt_t none = std::nullopt;
+
+TEST(DriveDescription, TellsDisksOnCables) {
+    const std::string sata = "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0/block/sda";
+    const test::FakeMachine::Attributes cut{{"device/vendor", "ATA     "},
+                                            {"device/model", "Samsung SSD 860 "}};
+    EXPECT_EQ(described(sata, cut), drive(none, "Samsung SSD 860 ", "SATA"));
+    EXPECT_EQ(described(sata, cut, {{"ID_MODEL", "Samsung SSD 860 EVO 500GB "}, {"ID_BUS", "ata"}}),
+              drive(none, "Samsung SSD 860 EVO 500GB ", "SATA", "SATA"));
+    // A bridge that passes ATA commands on makes the database call the disk an ATA one.
+    EXPECT_EQ(described("pci0000:00/usb2/2-1/2-1:1.0/host6/target6:0:0/6:0:0:0/block/sdc",
+                        {{"device/vendor", "WD      "}, {"device/model", "My Passport 25E2"}},
+                        {{"ID_BUS", "ata"}}),
+              drive("WD      ", "My Passport 25E2", "USB", "SATA"));
+    const std::string sas = "pci0000:00/host1/port-1:0/end_device-1:0/target1:0:0/1:0:0:0/block/sdd";
+    EXPECT_EQ(described(sas, {{"device/vendor", "SEAGATE "}, {"device/model", "ST4000"}}),
+              drive("SEAGATE ", "ST4000", "SAS"));
+    EXPECT_EQ(described(sas, {{"device/vendor", "ATA     "}, {"device/model", "HGST"}}),
+              drive(none, "HGST", "SATA"));
+    EXPECT_EQ(described("pci0000:00/other/block/sdf", {}, {{"ID_BUS", "ieee1394"}}),
+              drive(none, none, none, "FireWire"));
+}
+
+TEST(DriveDescription, TellsFlashAndMadeUpDisks) {
+    const std::string slot = "pci0000:00/0000:00:07.0/0000:04:00.0/nvme/nvme1/nvme1n1";
+    EXPECT_EQ(described(slot, {{"../transport", "pcie"}, {"device/model", "SN730"}}),
+              drive(none, "SN730", "NVMe"));
+    EXPECT_EQ(described(slot, {{"../transport", "pcie"}, {"../../../removable", "removable"}}),
+              drive(none, none, "Thunderbolt"));
+    EXPECT_EQ(described("virtual/nvme-fabrics/ctl/nvme2/nvme2n1", {{"../transport", "tcp"}}),
+              drive(none, none, "NVMe over Fabrics"));
+    const std::string card = "pci0000:00/mmc_host/mmc0/mmc0:aaaa/block/mmcblk0";
+    EXPECT_EQ(described(card, {{"device/type", "SD"}, {"device/name", "SD32G"}}), drive(none, "SD32G", "SD"));
+    EXPECT_EQ(described(card, {{"device/type", "MMC"}, {"device/name", "DA4064"}}),
+              drive(none, "DA4064", "eMMC"));
+    EXPECT_EQ(described("pci0000:00/virtio1/block/vda", {{"device/vendor", "0x1af4"}}),
+              drive(none, none, "VirtIO"));
+    EXPECT_EQ(described("virtual/block/loop0", {}), DriveDescription());
 }
 
 TEST(DriveDescription, OfSeveralDisksTellsWhatTheyHaveInCommon) {
