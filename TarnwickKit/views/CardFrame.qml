@@ -1,0 +1,41 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// The raised card that shows a run: a header row, a hairline, and what belongs under it.
+Card {
+    id: frame
+
+    property alias header: head.data
+    default property alias content: column.data
+
+    implicitHeight: column.implicitHeight
+    radius: 15
+    color: PaletteKey.palette.panel
+    outline: PaletteKey.palette.border
+    shadowColor: PaletteKey.palette.shadow
+    shadowRadius: 22
+    shadowOffset: 16
+
+    ColumnLayout {
+        id: column
+
+        width: frame.width
+        spacing: 0
+
+        RowLayout {
+            id: head
+
+            Layout.fillWidth: true
+            Layout.leftMargin: 18
+            Layout.rightMargin: 18
+            Layout.topMargin: 15
+            Layout.bottomMargin: 15
+            spacing: 12
+        }
+        Rule {
+            Layout.fillWidth: true
+            color: PaletteKey.palette.borderSoft
+        }
+    }
+}

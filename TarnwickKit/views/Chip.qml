@@ -1,0 +1,21 @@
+import QtQuick
+import TarnwickKit.views
+
+Card {
+    id: chip
+
+    property alias text: words.text
+
+    implicitWidth: words.implicitWidth + 18
+    implicitHeight: words.implicitHeight + 6
+    radius: height / 2
+    color: PaletteKey.palette.chip
+
+    Words {
+        id: words
+
+        anchors.centerIn: parent
+        font: Typeface.text(12, Font.Medium)
+        color: PaletteKey.palette.text2
+    }
+}

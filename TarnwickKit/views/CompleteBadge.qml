@@ -1,0 +1,18 @@
+import QtQuick
+import TarnwickKit.views
+
+Rectangle {
+    implicitWidth: words.implicitWidth + 18
+    implicitHeight: words.implicitHeight + 6
+    radius: height / 2
+    color: Qt.alpha(PaletteKey.palette.good, 0.14)
+
+    Words {
+        id: words
+
+        anchors.centerIn: parent
+        text: qsTr("Complete")
+        font: Typeface.text(11, Font.DemiBold)
+        color: PaletteKey.palette.good
+    }
+}

@@ -1,0 +1,66 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// A run while it goes.
+CardFrame {
+    id: pane
+
+    required property AnalyzerModel analyzer
+    required property string volumeName
+
+    header: [
+        Spinner {},
+        Words {
+            Layout.fillWidth: true
+            Layout.maximumWidth: implicitWidth
+            text: pane.volumeName
+            font: Typeface.display(16)
+            color: PaletteKey.palette.text
+            elide: Text.ElideRight
+        },
+        Chip {
+            visible: text.length > 0
+            text: pane.analyzer.liveTestTitle
+        },
+        Item {
+            Layout.fillWidth: true
+        }
+    ]
+
+    ColumnLayout {
+        Layout.leftMargin: 18
+        Layout.rightMargin: 18
+        Layout.topMargin: 16
+        Layout.bottomMargin: 18
+        spacing: 10
+
+        ProgressTrack {
+            Layout.fillWidth: true
+            label: pane.analyzer.liveTestTitle
+            to: Math.max(1, pane.analyzer.totalBytes)
+            value: pane.analyzer.completedBytes
+        }
+        Words {
+            text: qsTr("%1 of %2").arg(Format.bytes(pane.analyzer.completedBytes)).arg(Format.bytes(pane.analyzer.totalBytes))
+            font: Typeface.mono(11)
+            color: PaletteKey.palette.text3
+        }
+        ThroughputChart {
+            id: chart
+
+            readonly property bool reads: pane.analyzer.liveTest === "sequentialRead"
+
+            Layout.fillWidth: true
+            Layout.preferredHeight: 200
+            live: true
+
+            LiveSeries {
+                analyzer: pane.analyzer
+                name: pane.analyzer.liveTestTitle
+                color: chart.reads ? chart.PaletteKey.palette.teal : chart.PaletteKey.palette.coral
+                fill: chart.reads ? chart.PaletteKey.palette.readFill : chart.PaletteKey.palette.writeFill
+            }
+        }
+    }
+}

@@ -1,0 +1,50 @@
+import QtQuick
+import QtQuick.Templates as T
+import TarnwickKit.views
+
+/// A button without looks of its own: what it shows is its content item. It says to assistive technology what it is,
+/// answers to Space and Return, and shows when it has the keyboard's focus.
+T.AbstractButton {
+    id: button
+
+    required property string label
+    property string hint: ""
+    /// What assistive technology reads after the label: a value, an explanation.
+    property string detail: hint
+    property real corner: 8
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    focusPolicy: Qt.TabFocus
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: label
+    // The toolkit has no word for a disabled item on the accessibility tree.
+    Accessible.description: enabled ? detail : qsTr("Not available now")
+    Accessible.focusable: enabled
+    Accessible.onPressAction: if (button.enabled) button.activate()
+    Keys.onReturnPressed: button.activate()
+    Keys.onEnterPressed: button.activate()
+
+    function activate(): void {
+        if (checkable)
+            toggle();
+        else
+            clicked();
+    }
+
+    HoverHandler {
+        id: pointer
+
+        cursorShape: Qt.PointingHandCursor
+    }
+    HoverTip {
+        text: button.hint
+        wanted: pointer.hovered && button.hint.length > 0
+    }
+    FocusRing {
+        control: button
+        corner: button.corner
+    }
+}

@@ -1,0 +1,39 @@
+import QtQuick
+import QtQuick.Templates as T
+import TarnwickKit.views
+
+/// A menu that drops from a control. Arrow keys move in it, Return chooses, Escape closes.
+T.Menu {
+    id: menu
+
+    property real leastWidth: 120
+
+    implicitWidth: Math.max(leastWidth, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    margins: 8
+    padding: 5
+    overlap: 1
+    cascade: false
+
+    delegate: PopupMenuItem {}
+
+    contentItem: ListView {
+        implicitWidth: {
+            let widest = 0;
+            for (let i = 0; i < menu.count; ++i)
+                widest = Math.max(widest, menu.itemAt(i).implicitWidth);
+            return widest;
+        }
+        implicitHeight: contentHeight
+        model: menu.contentModel
+        currentIndex: menu.currentIndex
+        interactive: contentHeight > height
+        clip: interactive
+        boundsBehavior: Flickable.StopAtBounds
+    }
+    background: Card {
+        radius: 10
+        color: PaletteKey.palette.panel
+        outline: PaletteKey.palette.border
+    }
+}

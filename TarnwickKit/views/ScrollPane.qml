@@ -1,0 +1,58 @@
+import QtQuick
+import QtQuick.Templates as T
+import TarnwickKit.views
+
+/// A vertical scroll area. What gets the keyboard's focus is brought into view.
+Flickable {
+    id: pane
+
+    default property alias content: holder.data
+    readonly property Item focusItem: Window.activeFocusItem
+
+    contentWidth: width
+    contentHeight: holder.childrenRect.height
+    boundsBehavior: Flickable.StopAtBounds
+    flickableDirection: Flickable.VerticalFlick
+    clip: true
+    interactive: contentHeight > height
+
+    onFocusItemChanged: reveal()
+
+    function reveal(): void {
+        let ancestor = focusItem;
+        while (ancestor && ancestor !== holder)
+            ancestor = ancestor.parent;
+        if (!ancestor)
+            return;
+        const top = focusItem.mapToItem(holder, 0, 0).y - 12;
+        const bottom = top + focusItem.height + 24;
+        if (top < contentY || focusItem.height > height)
+            contentY = Math.max(0, Math.min(top, contentHeight - height));
+        else if (bottom > contentY + height)
+            contentY = Math.max(0, Math.min(bottom, contentHeight) - height);
+    }
+
+    Item {
+        id: holder
+
+        width: pane.width
+        height: childrenRect.height
+    }
+
+    T.ScrollBar.vertical: T.ScrollBar {
+        id: bar
+
+        implicitWidth: 10
+        padding: 2
+        policy: T.ScrollBar.AsNeeded
+        minimumSize: 0.08
+        visible: size < 1
+        Accessible.ignored: true
+
+        contentItem: Rectangle {
+            radius: 3
+            color: PaletteKey.palette.text3
+            opacity: bar.pressed ? 0.8 : bar.active || bar.hovered ? 0.5 : 0.2
+        }
+    }
+}

@@ -1,0 +1,84 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// A setting with its value, and the menu that changes it.
+RowLayout {
+    id: setting
+
+    required property string label
+    required property list<string> options
+    required property int current
+    property string value: options[current] ?? ""
+
+    signal chosen(index: int)
+
+    spacing: 8
+
+    Text {
+        Layout.fillWidth: true
+        Layout.leftMargin: 4
+        text: setting.label
+        font: Typeface.text(13, Font.Medium)
+        color: PaletteKey.palette.text2
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    PlainButton {
+        id: button
+
+        Layout.rightMargin: 4
+        label: setting.label
+        corner: 7
+        leftPadding: 9
+        rightPadding: 9
+        topPadding: 5
+        bottomPadding: 5
+        detail: setting.value
+        onClicked: menu.open()
+        Keys.onDownPressed: menu.open()
+
+        background: Card {
+            radius: 7
+            color: PaletteKey.palette.panel
+            outline: PaletteKey.palette.border
+        }
+        contentItem: Row {
+            spacing: 5
+
+            Text {
+                text: setting.value
+                font: Typeface.mono(11.5)
+                color: PaletteKey.palette.text
+                Accessible.ignored: true
+            }
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "chevron.down"
+                size: 8
+                color: PaletteKey.palette.text3
+            }
+        }
+        PopupMenu {
+            id: menu
+
+            x: button.width - width
+            y: button.height + 4
+            onAboutToShow: currentIndex = setting.current
+
+            Repeater {
+                model: setting.options
+
+                PopupMenuItem {
+                    required property int index
+                    required property string modelData
+
+                    text: modelData
+                    checkable: true
+                    chosen: index === setting.current
+                    onTriggered: setting.chosen(index)
+                }
+            }
+        }
+    }
+}

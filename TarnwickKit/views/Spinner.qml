@@ -1,0 +1,42 @@
+import QtQuick
+import TarnwickKit.views
+
+/// Says that something is under way. It steps twelve times a second: a smooth turn would have the whole window
+/// drawn sixty times a second beside a measurement.
+Item {
+    id: spinner
+
+    property int step: 0
+
+    implicitWidth: 16
+    implicitHeight: 16
+    Accessible.ignored: true
+
+    Repeater {
+        model: 8
+
+        Rectangle {
+            required property int index
+
+            x: spinner.width / 2 - 1
+            y: 0
+            width: 2
+            height: 5
+            radius: 1
+            antialiasing: true
+            color: PaletteKey.palette.text3
+            opacity: 1 - 0.75 * ((spinner.step - index + 8) % 8) / 7
+            transform: Rotation {
+                origin.x: 1
+                origin.y: spinner.height / 2
+                angle: index * 45
+            }
+        }
+    }
+    Timer {
+        interval: 83
+        repeat: true
+        running: spinner.visible
+        onTriggered: spinner.step = (spinner.step + 1) % 8
+    }
+}

@@ -1,0 +1,9 @@
+import QtQuick
+import TarnwickKit.views
+
+/// The analyzer as a host application's window shows it.
+/// Units: logical pixels. Its window should not be made smaller than leastWidth by leastHeight.
+ContentView {
+    readonly property int leastWidth: 900
+    readonly property int leastHeight: 620
+}

@@ -1,0 +1,66 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// One test: whether it runs, and its figure of the last run.
+PlainButton {
+    id: row
+
+    required property string title
+    required property string figure
+    property bool chosen: false
+
+    signal wanted(chosen: bool)
+
+    label: title
+    corner: 9
+    leftPadding: 11
+    rightPadding: 11
+    topPadding: 9
+    bottomPadding: 9
+
+    detail: figure
+    checkable: true
+    checked: chosen
+    onCheckedChanged: if (checked !== chosen) wanted(checked)
+
+    background: Card {
+        radius: 9
+        color: row.chosen ? PaletteKey.palette.sel : "transparent"
+    }
+    contentItem: RowLayout {
+        spacing: 11
+
+        Card {
+            implicitWidth: 18
+            implicitHeight: 18
+            radius: 6
+            color: row.chosen ? PaletteKey.palette.accent : PaletteKey.palette.panel
+            outline: row.chosen ? "transparent" : PaletteKey.palette.border
+            outlineWidth: 1.5
+
+            Symbol {
+                anchors.centerIn: parent
+                visible: row.chosen
+                name: "checkmark"
+                size: 9
+                color: PaletteKey.palette.onAccent
+            }
+        }
+        Text {
+            Layout.fillWidth: true
+            text: row.title
+            font: Typeface.text(13.5, Font.Medium)
+            color: PaletteKey.palette.text
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        Text {
+            Layout.leftMargin: 4
+            text: row.figure
+            font: Typeface.mono(11)
+            color: PaletteKey.palette.text3
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,54 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// A labelled on/off switch.
+PlainButton {
+    id: control
+
+    property bool on: false
+
+    signal wanted(on: bool)
+
+    corner: 7
+    leftPadding: 4
+    rightPadding: 4
+    checkable: true
+    checked: on
+    onCheckedChanged: if (checked !== on) wanted(checked)
+
+    contentItem: RowLayout {
+        spacing: 8
+
+        Text {
+            Layout.fillWidth: true
+            text: control.label
+            font: Typeface.text(13, Font.Medium)
+            color: PaletteKey.palette.text2
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        Rectangle {
+            implicitWidth: 34
+            implicitHeight: 20
+            radius: 10
+            color: control.on ? PaletteKey.palette.accent : PaletteKey.palette.track
+
+            Rectangle {
+                x: control.on ? parent.width - width - 2 : 2
+                anchors.verticalCenter: parent.verticalCenter
+                width: 16
+                height: 16
+                radius: 8
+                color: control.on ? PaletteKey.palette.onAccent : PaletteKey.palette.panel
+
+                Behavior on x {
+                    NumberAnimation {
+                        duration: 120
+                        easing.type: Easing.InOutQuad
+                    }
+                }
+            }
+        }
+    }
+}

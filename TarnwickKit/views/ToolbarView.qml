@@ -1,0 +1,40 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+Rectangle {
+    id: toolbar
+
+    required property AnalyzerModel analyzer
+
+    implicitHeight: row.implicitHeight + 22
+    color: PaletteKey.palette.panel2
+
+    RowLayout {
+        id: row
+
+        anchors.fill: parent
+        anchors.leftMargin: 18
+        anchors.rightMargin: 18
+        spacing: 14
+
+        VolumeDropdown {
+            Layout.maximumWidth: row.width - pill.implicitWidth - run.implicitWidth - 3 * row.spacing - 8
+            analyzer: toolbar.analyzer
+        }
+        Item {
+            Layout.fillWidth: true
+            Layout.minimumWidth: 8
+        }
+        StatusPill {
+            id: pill
+
+            analyzer: toolbar.analyzer
+        }
+        RunButton {
+            id: run
+
+            analyzer: toolbar.analyzer
+        }
+    }
+}

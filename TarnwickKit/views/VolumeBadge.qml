@@ -1,0 +1,22 @@
+import QtQuick
+import TarnwickKit.views
+
+/// The volume's square: its symbol on the colours of how it is attached.
+Card {
+    id: badge
+
+    property alias symbol: glyph.name
+
+    implicitWidth: 30
+    implicitHeight: 30
+    radius: 8
+    outline: Qt.rgba(1, 1, 1, 0.18)
+
+    Symbol {
+        id: glyph
+
+        anchors.centerIn: parent
+        size: 14
+        color: "white"
+    }
+}

@@ -1,0 +1,81 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// Names the volume under test and drops the menu to choose another.
+PlainButton {
+    id: dropdown
+
+    required property AnalyzerModel analyzer
+    readonly property bool hasTarget: analyzer.targetFolder.length > 0
+
+    label: qsTr("Volume")
+    corner: 10
+    leftPadding: 9
+    rightPadding: 12
+    topPadding: 7
+    bottomPadding: 7
+    implicitWidth: Math.max(244, implicitContentWidth + leftPadding + rightPadding)
+    enabled: !analyzer.isRunning
+    hoverEnabled: true
+
+    detail: title.text + ", " + subtitle.text
+    onClicked: menu.open()
+    Keys.onDownPressed: menu.open()
+
+    background: Card {
+        radius: 10
+        color: PaletteKey.palette.panel
+        outline: dropdown.hovered ? Qt.alpha(PaletteKey.palette.teal, 0.6) : PaletteKey.palette.border
+        shadowColor: Qt.rgba(0, 0, 0, 0.04)
+        shadowRadius: 1
+        shadowOffset: 1
+    }
+    contentItem: RowLayout {
+        spacing: 11
+
+        VolumeBadge {
+            symbol: "externaldrive"
+            color: dropdown.hasTarget ? PaletteKey.palette.teal2 : PaletteKey.palette.text3
+            endColor: dropdown.hasTarget ? PaletteKey.palette.blue : Qt.alpha(PaletteKey.palette.text3, 0.7)
+        }
+        ColumnLayout {
+            spacing: 1
+
+            Text {
+                id: title
+
+                Layout.fillWidth: true
+                text: dropdown.hasTarget ? dropdown.analyzer.targetFolder.replace(/^.*\/(?=.)/, "") : qsTr("Select a volume")
+                font: Typeface.display(14)
+                color: PaletteKey.palette.text
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+            Text {
+                id: subtitle
+
+                Layout.fillWidth: true
+                text: dropdown.hasTarget ? dropdown.analyzer.targetFolder : qsTr("No volume selected")
+                font: Typeface.mono(10.5)
+                color: PaletteKey.palette.text3
+                elide: Text.ElideMiddle
+                Accessible.ignored: true
+            }
+        }
+        Symbol {
+            Layout.leftMargin: 8
+            name: "chevron.up.chevron.down"
+            size: 11
+            color: PaletteKey.palette.text3
+        }
+    }
+
+    VolumeMenu {
+        id: menu
+
+        analyzer: dropdown.analyzer
+        y: dropdown.height + 4
+        leastWidth: dropdown.width
+    }
+}

@@ -1,0 +1,123 @@
+#!/usr/bin/python3
+"""A real benchmark in the real window, from outside. Usage: driven_window.py PROGRAM"""
+
+import os
+import pathlib
+import re
+import signal
+import subprocess
+import sys
+
+import driver
+
+TESTS = ["Sequential write", "Sequential read", "Random read (4 KiB)", "Random write (4 KiB)", "File operations"]
+
+
+def check(holds, what):
+    if not holds:
+        raise driver.Failure(what)
+
+
+def choose_small_size(window):
+    window.press("Size")
+    window.press("1 GiB")
+    window.gone("64 GiB")
+
+
+def start(window, folder):
+    """Presses run; returns when files are being written."""
+    window.press("Run Benchmark")
+    window.find("Running…", "status bar")
+    window.until("the working folder", lambda: list(folder.glob(".ondel-analyzer-*/data.bin")))
+
+
+def nothing_left(folder):
+    left = sorted(path.name for path in folder.iterdir())
+    check(not left, f"left behind: {left}")
+
+
+def runs_to_the_end(program, folder):
+    with driver.Window(program, folder) as window:
+        window.find("Ready", "status bar")
+        window.find("Ready to benchmark")
+        choose_small_size(window)
+        start(window, folder)
+
+        check(not window.enabled("Volume"), "the volume menu is open to change during a run")
+        bar = window.find(TESTS[0], "progress bar")
+        window.until("progress", lambda: 0 < window.value(bar) <= 1)
+        window.find("Throughput over time", "chart")
+
+        window.find("Complete", "status bar")
+        for name in TESTS:
+            figure = window.find(name, "check box").get_description()
+            check(re.fullmatch(r"[1-9][0-9,]*|[0-9.]+k", figure), f"{name} shows {figure!r}")
+        write = window.find(TESTS[0], "check box").get_description()
+        window.until("the same figure in the result", lambda: any(
+            node.get_name().startswith(f"Sequential Write: {write} MB/s") for node, _ in window.nodes()))
+        nothing_left(folder)
+
+        start(window, folder)
+        window.press("Stop")
+        window.find("Ready", "status bar")
+        nothing_left(folder)
+        check(window.terminate() == (0, ""), "an idle window does not end quietly")
+
+
+def ends_cleanly_in_a_run(program, folder):
+    def by_signals(*signals):
+        return lambda window: window.end(*signals)
+
+    def by_keyboard(window):
+        window.keys("ctrl+q")
+        return window.end()
+
+    for way in (by_signals(signal.SIGTERM), by_signals(signal.SIGINT, signal.SIGINT, signal.SIGTERM), by_keyboard):
+        with driver.Window(program, folder) as window:
+            choose_small_size(window)
+            start(window, folder)
+            status, words = way(window)
+            check((status, words) == (0, ""), f"ended with {status}: {words}")
+        nothing_left(folder)
+
+
+def goes_by_keyboard(program, folder):
+    with driver.Window(program, folder) as window:
+        window.find("Ready to benchmark")
+        order = []
+        for _ in range(12):
+            window.keys("Tab")
+            order.append(window.until("a focused control", window.focused))
+        expected = ["Volume", "Run Benchmark", *TESTS, "Size", "Write block", "Read block", "Random block", "Bypass cache"]
+        check(order == expected, f"the keyboard goes {order}")
+
+        window.keys("space")
+        window.until("the switch off", lambda: not window.shows(window.find("Bypass cache"), "CHECKED"))
+        window.keys("shift+Tab", "shift+Tab", "shift+Tab", "shift+Tab", "Return", "Up", "Return")
+        window.until("the smaller size", lambda: window.find("Size").get_description() == "1 GiB")
+        window.keys("ctrl+Return")
+        window.find("Running…", "status bar")
+        window.find("Complete", "status bar")
+
+
+def refuses_what_it_cannot_use(program, folder):
+    with driver.Window(program, folder / "missing") as window:
+        window.find("Choose a volume to begin")
+        check(not window.enabled("Run Benchmark"), "a run without a target")
+        status, words = window.terminate()
+        check(status == 0 and words.count("\n") == 1 and "missing is not a folder" in words, f"{status}: {words}")
+
+    blind = {name: value for name, value in os.environ.items() if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
+    for arguments, env, status in ((["--help"], blind, 0), ([folder], blind, 1), (["--nonsense"], os.environ, 2)):
+        done = subprocess.run([program, *arguments], env=env, capture_output=True, text=True)
+        words = done.stdout + done.stderr
+        check(done.returncode == status and 0 < words.count("\n") < 3, f"{arguments}: {done.returncode} {words}")
+
+
+if __name__ == "__main__":
+    driver.enter_display()
+    with driver.fast_folder() as name:
+        for case in (runs_to_the_end, ends_cleanly_in_a_run, goes_by_keyboard, refuses_what_it_cannot_use):
+            print(case.__name__.replace("_", " "), flush=True)
+            case(sys.argv[1], pathlib.Path(name))
+            nothing_left(pathlib.Path(name))

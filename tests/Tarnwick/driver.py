@@ -1,0 +1,185 @@
+"""Drives the real window from outside, as a person with assistive technology would: by names and roles on the
+accessibility tree (AT-SPI), with the keyboard through xdotool."""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+SKIP = 77
+GUARD_SECONDS = 40  # no test of speed: what is not there by then does not come
+
+
+def enter_display(width=1400, height=1000):
+    """Runs this script again inside a display and a session bus of its own, with its own home. Skips without the tools."""
+    if os.environ.get("ONDEL_DRIVEN"):
+        return
+    missing = [tool for tool in ("Xvfb", "dbus-run-session", "xdotool", "import") if not shutil.which(tool)]
+    check = subprocess.run(["/usr/bin/python3", "-c", "import gi; gi.require_version('Atspi', '2.0')"],
+                           capture_output=True)
+    if check.returncode != 0:
+        missing.append("python3-gi with gir1.2-atspi-2.0")
+    if missing:
+        print("skipped, not installed:", ", ".join(missing))
+        sys.exit(SKIP)
+    with tempfile.TemporaryDirectory(prefix="ondel-test-") as home:
+        runtime = pathlib.Path(home, "run")
+        runtime.mkdir(mode=0o700)
+        env = os.environ | {
+            "ONDEL_DRIVEN": "1", "HOME": home, "XDG_RUNTIME_DIR": str(runtime), "TMPDIR": home, "LC_ALL": "C.UTF-8",
+            "XDG_CONFIG_HOME": f"{home}/config", "XDG_DATA_HOME": f"{home}/data", "XDG_STATE_HOME": f"{home}/state",
+            "XDG_CACHE_HOME": f"{home}/cache", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb",
+            "GSETTINGS_BACKEND": "memory"}
+        for name in ("NO_AT_BRIDGE", "WAYLAND_DISPLAY", "AT_SPI_BUS_ADDRESS"):
+            env.pop(name, None)
+        with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24", "-dpi", "96", "-nolisten",
+                               "tcp"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as server:
+            env["DISPLAY"] = ":" + server.stdout.readline().strip()
+            done = subprocess.run(["dbus-run-session", "--", "/usr/bin/python3", *sys.argv], env=env)
+            server.terminate()
+    sys.exit(done.returncode)
+
+
+def fast_folder(prefix="ondel test "):
+    """A folder on memory where there is enough of it, else on the temporary folder's disk. Remove it afterwards."""
+    memory = pathlib.Path("/dev/shm")
+    enough = memory.is_dir() and shutil.disk_usage(memory).free > 3 * 2**30
+    return tempfile.TemporaryDirectory(prefix=prefix, dir=memory if enough else None)
+
+
+class Failure(Exception):
+    pass
+
+
+class Window:
+    """One started program and its accessibility tree."""
+
+    def __init__(self, program, *arguments, env=None):
+        import gi
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi, GLib
+        self.atspi = Atspi
+        self.gone_error = GLib.Error
+        self.process = subprocess.Popen([program, *map(str, arguments)], stderr=subprocess.PIPE, text=True,
+                                        env=os.environ | (env or {}))
+        self.root = self.until("the window on the accessibility bus", self._application)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        if self.process.poll() is None:
+            self.process.kill()
+        self.process.wait()
+        self.process.stderr.close()
+
+    def until(self, what, answer):
+        """Asks until the answer is true and returns it."""
+        end = time.monotonic() + GUARD_SECONDS
+        while time.monotonic() < end:
+            try:
+                found = answer()
+            except self.gone_error:  # nodes vanish while they are walked
+                found = None
+            if found:
+                return found
+            if self.process.poll() is not None:
+                raise Failure(f"ended with {self.process.returncode} before {what}: {self.process.stderr.read()}")
+            time.sleep(0.02)
+        raise Failure(f"never saw {what}; the tree:\n{self.tree()}")
+
+    def _application(self):
+        desktop = self.atspi.get_desktop(0)
+        for i in range(desktop.get_child_count()):
+            child = desktop.get_child_at_index(i)
+            if child and child.get_process_id() == self.process.pid and child.get_child_count():
+                child.set_cache_mask(self.atspi.Cache.NONE)
+                return child
+        return None
+
+    def nodes(self, start=None, depth=0):
+        node = start or self.root
+        yield node, depth
+        for i in range(node.get_child_count()):
+            child = node.get_child_at_index(i)
+            if child:
+                yield from self.nodes(child, depth + 1)
+
+    def shows(self, node, *states):
+        held = node.get_state_set()
+        return all(held.contains(getattr(self.atspi.StateType, state)) for state in states)
+
+    def look(self, name, role=None):
+        """The node that is on the screen now, or None."""
+        for node, _ in self.nodes():
+            if node.get_name() == name and (role is None or node.get_role_name() == role) and self.shows(node, "SHOWING"):
+                return node
+        return None
+
+    def find(self, name, role=None):
+        return self.until(f"{role or 'node'} {name!r}", lambda: self.look(name, role))
+
+    def gone(self, name, role=None):
+        self.until(f"the end of {role or 'node'} {name!r}", lambda: self.look(name, role) is None)
+
+    def enabled(self, name, role=None):
+        return self.find(name, role).get_description() != "Not available now"
+
+    def press(self, name, role=None):
+        node = self.find(name, role)
+        actions = [node.get_action_name(i) for i in range(node.get_n_actions())]
+        for wanted in ("Press", "Toggle"):
+            if wanted in actions:
+                node.do_action(actions.index(wanted))
+                return
+        raise Failure(f"{name!r} has no press action but {actions}")
+
+    def value(self, node):
+        return self.atspi.Value.get_current_value(node) / max(1, self.atspi.Value.get_maximum_value(node))
+
+    def id(self, title="Ondel Tarnwick"):
+        def search():
+            out = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title], capture_output=True, text=True)
+            return out.stdout.split()
+        return self.until(f"the window {title!r}", search)[0]
+
+    def keys(self, *keys):
+        subprocess.run(["xdotool", "windowfocus", "--sync", self.id()], check=True)
+        subprocess.run(["xdotool", "key", "--delay", "30", *keys], check=True)
+
+    def focused(self):
+        for node, _ in self.nodes():
+            if self.shows(node, "FOCUSED", "SHOWING") and node.get_role_name() not in ("frame", "application", "filler"):
+                return node.get_name()
+        return None
+
+    def settled(self):
+        """Waits until two pictures of the window are alike: nothing moves any more."""
+        def still():
+            last = subprocess.run(["import", "-window", self.id(), "rgb:-"], capture_output=True).stdout
+            time.sleep(0.2)
+            return last == subprocess.run(["import", "-window", self.id(), "rgb:-"], capture_output=True).stdout
+        self.until("a still picture", still)
+
+    def picture(self, path):
+        subprocess.run(["import", "-window", self.id(), str(path)], check=True)
+
+    def end(self, *signals):
+        for number in signals:
+            self.process.send_signal(number)
+        status = self.process.wait(GUARD_SECONDS)
+        return status, self.process.stderr.read()
+
+    def terminate(self):
+        return self.end(signal.SIGTERM)
+
+    def tree(self):
+        lines = []
+        for node, depth in self.nodes():
+            actions = [node.get_action_name(i) for i in range(node.get_n_actions())]
+            lines.append(f"{'  ' * depth}{node.get_role_name()} {node.get_name()!r} {node.get_description()!r} {actions}")
+        return "\n".join(lines)
