@@ -3,7 +3,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <cstring>
+#include <system_error>
 
 namespace examples::host {
 
@@ -12,10 +12,10 @@ std::filesystem::path folderIn(const CommandLine& line) {
         throw UsageError("a FOLDER is missing");
     if (line.operands().size() > 1)
         throw UsageError("one FOLDER at a time");
-    const std::filesystem::path folder = line.operands().front();
+    std::filesystem::path folder = line.operands().front();
     struct stat facts {};
     if (stat(folder.c_str(), &facts) != 0)
-        throw UsageError(quoted(line.operands().front()) + ": " + std::strerror(errno));
+        throw UsageError(quoted(line.operands().front()) + ": " + std::generic_category().message(errno));
     return folder;
 }
 

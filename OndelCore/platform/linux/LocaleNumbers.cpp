@@ -14,7 +14,7 @@ void widenNarrowSpaces(icu::UnicodeString& text) { text.findAndReplace(u"\u202f"
 } // namespace
 
 std::string groupedNumber(std::uint64_t number) {
-    const std::string digits = std::to_string(number);
+    std::string digits = std::to_string(number);
     const icu::Locale locale(UserLocale::fromEnvironment().numbers.c_str());
     UErrorCode status = U_ZERO_ERROR;
     icu::UnicodeString text = icu::number::NumberFormatter::withLocale(locale)

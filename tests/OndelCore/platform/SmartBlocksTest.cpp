@@ -84,7 +84,7 @@ std::string outcomeOf(const SmartAnswer& answer, const FakeDrive& drive) {
     std::string text = "none";
     if (const auto* smart = std::get_if<AtaSmart>(&answer.blocks)) {
         text = smart->thresholdExceeded.value() ? "exceeded" : "good";
-        text += smart->page == filled(0x5a) ? ", page" : "";
+        text += !smart->page ? "" : *smart->page == filled(0x5a) ? ", page" : ", another page";
     }
     return text + ", " + std::to_string(drive.commands.size());
 }
