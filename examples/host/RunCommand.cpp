@@ -38,7 +38,7 @@ BenchmarkResult measured(const RunOptions& options) {
     QFuture<BenchmarkResult> run =
         BenchmarkEngine()
             .run(options.plan, options.folder, progress, stop.get_token())
-            .then([mark = watch.takeEndMark()](QFuture<BenchmarkResult> finished) mutable {
+            .then([mark = watch.takeEndMark()](const QFuture<BenchmarkResult>& finished) mutable {
                 mark.reset();
                 return finished.result();
             });
