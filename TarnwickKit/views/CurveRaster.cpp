@@ -102,6 +102,8 @@ void CurveRaster::stroke(QPointF from, QPointF to, bool roundStart, bool roundEn
         const int last = clampedFloor(right, -1, m_width - 1);
         std::uint8_t* pixels = m_line.data() + at(0, row);
         for (int column = clampedFloor(left, 0, m_width); column <= last; ++column) {
+            if (pixels[column] == 255)
+                continue;
             const float coverage = segment.coverage(float(column) + soft, float(row) + soft);
             pixels[column] = std::max(pixels[column], static_cast<std::uint8_t>(coverage * 255 + 0.5f));
         }

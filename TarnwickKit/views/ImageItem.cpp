@@ -30,8 +30,7 @@ void ImageItem::geometryChange(const QRectF& to, const QRectF& from) {
 QSGNode* ImageItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
     if (node && !m_isStale)
         return node;
-    // Only an item that observes what is visible is told when that changes.
-    if (flags().testFlag(ItemObservesViewport) && clipRect().isEmpty())
+    if (node && canWait())
         return node;
     m_isStale = false;
     const double scale = window()->effectiveDevicePixelRatio();

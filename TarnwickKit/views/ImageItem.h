@@ -25,6 +25,9 @@ protected:
     /// Threads: the renderer's, while the main thread waits.
     virtual Picture paint(double scale) = 0;
 
+    /// The picture before may stand for the new one until the next.
+    virtual bool canWait() const { return false; }
+
     void redraw();
 
     /// Takes a property's new value; says whether it is one.

@@ -70,13 +70,20 @@ void PaletteKey::setPalette(const Palette& palette) {
 }
 
 void PaletteKey::tellBeneath(QQuickItem* item) {
-    const auto children = item->childItems();
-    for (QQuickItem* child : children) {
-        if (PaletteKey* key = keyOf(child))
+    const auto tell = [](QObject* child) {
+        PaletteKey* key = keyOf(child);
+        if (key)
             key->inherit();
-        else
+        return key != nullptr;
+    };
+    const auto items = item->childItems();
+    for (QQuickItem* child : items)
+        if (!tell(child))
             tellBeneath(child);
-    }
+    const auto others = item->children(); // what is no item, such as a chart's series
+    for (QObject* child : others)
+        if (!qobject_cast<QQuickItem*>(child))
+            tell(child);
 }
 
 /// Takes the palette of the nearest key above, and follows every item on the way there, since each may move.

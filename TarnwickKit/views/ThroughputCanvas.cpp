@@ -79,6 +79,9 @@ void ThroughputCanvas::setLabelColor(const QColor& color) {
         Q_EMIT colorsChanged();
 }
 
+/// The next sample is never far off, so that what comes into sight again is up to date at once.
+bool ThroughputCanvas::canWait() const { return isLive() && clipRect().isEmpty(); }
+
 ImageItem::Picture ThroughputCanvas::paint(double scale) {
     m_content.curves.clear();
     for (const ChartSeries* series : std::as_const(m_series))

@@ -12,7 +12,7 @@ namespace TarnwickKit::views {
 QString throughputSummary(const QList<ChartSeries*>& series);
 
 /// The curves and axes of a throughput chart. However often its series change it is painted once per frame,
-/// and not at all while it lies outside of what is visible.
+/// and a live one not at all while it is scrolled out of sight.
 class ThroughputCanvas : public TarnwickKit::views::ImageItem {
     Q_OBJECT
     QML_ELEMENT
@@ -44,6 +44,7 @@ public:
 
 protected:
     Picture paint(double scale) override;
+    bool canWait() const override;
 
 private:
     void add(ChartSeries* series);

@@ -139,12 +139,10 @@ void ThroughputPicture::paintGrid(const ThroughputPlot& plot) {
 void ThroughputPicture::compose(int fromColumn) {
     if (fromColumn >= m_picture.width())
         return;
-    {
-        QPainter painter(&m_picture);
-        painter.setCompositionMode(QPainter::CompositionMode_Source);
-        const QRect changed = m_grid.rect().adjusted(fromColumn, 0, 0, 0);
-        painter.drawImage(QRectF(changed.topLeft() / m_scale, QSizeF(changed.size()) / m_scale), m_grid,
-                          changed);
+    for (int row = 0; row < m_picture.height(); ++row) {
+        const auto* grid = reinterpret_cast<const QRgb*>(m_grid.constScanLine(row));
+        std::copy(grid + fromColumn, grid + m_grid.width(),
+                  reinterpret_cast<QRgb*>(m_picture.scanLine(row)) + fromColumn);
     }
     const ThroughputPlot plot{m_size, *m_axes};
     for (std::size_t i = 0; i < m_rasters.size(); ++i)

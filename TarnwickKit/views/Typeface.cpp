@@ -1,8 +1,5 @@
 #include "TarnwickKit/views/Typeface.h"
 
-#include <QGuiApplication>
-#include <QScreen>
-
 #include <cmath>
 
 namespace TarnwickKit::views {
@@ -14,13 +11,7 @@ QFont font(const QStringList& families, double size, int weight) {
     result.setFamilies(families);
     result.setWeight(static_cast<QFont::Weight>(weight));
     result.setHintingPreference(QFont::PreferNoHinting);
-    if (size == std::floor(size)) {
-        result.setPixelSize(static_cast<int>(size));
-    } else {
-        // Only points take fractions. They are turned back into pixels by the primary screen's resolution.
-        const QScreen* screen = QGuiApplication::primaryScreen();
-        result.setPointSizeF(size * 72 / (screen ? screen->logicalDotsPerInchY() : 96));
-    }
+    result.setPixelSize(static_cast<int>(std::lround(size)));
     return result;
 }
 

@@ -8,7 +8,8 @@ namespace TarnwickKit::views {
 
 /// The fonts of the window: `font: Typeface.mono(11.5)`.
 ///
-/// Units: sizes are in logical pixels and need not be whole. Weights are those of QML's Font type.
+/// Units: sizes are in logical pixels; Qt sets text in whole ones, so a half is rounded up. Weights are those
+/// of QML's Font type.
 class Typeface final : public QObject {
     Q_OBJECT
     QML_ELEMENT

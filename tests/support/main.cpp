@@ -2,9 +2,8 @@
 // this process alone, no display, English texts. Whatever a test writes by mistake lands in there and is
 // removed.
 
+#include "support/Application.h"
 #include "support/TemporaryFolder.h"
-
-#include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
@@ -40,6 +39,6 @@ int main(int argc, char** argv) {
     setenv("LC_ALL", "C.UTF-8", 1);
     setenv("TZ", "UTC", 1);
 
-    QCoreApplication application(argc, argv);
+    const auto application = test::makeApplication(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,107 @@
+#include "TarnwickKit/model/RunRecord.h"
+#include "TarnwickKit/views/Palette.h"
+#include "TarnwickKit/views/ThroughputCanvas.h"
+#include "tests/TarnwickKit/views/Pictures.h"
+
+#include <gtest/gtest.h>
+
+using namespace TarnwickKit::views;
+using TarnwickKit::model::RunRecord;
+
+namespace {
+
+RunRecord run() {
+    RunRecord record;
+    for (int i = 0; i < 20; ++i) {
+        record.writeSamples.push_back({i * 0.1, 4e8 + i * 1e6});
+        record.readSamples.push_back({i * 0.2, 9e8 - i * 2e7});
+    }
+    return record;
+}
+
+bool shows(const QImage& image, const QColor& color) {
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y) == color)
+                return true;
+    return false;
+}
+
+TEST(RunChart, ShowsBothCurvesOfItsRun) {
+    test::Stage stage("RunChart { width: 500; height: 270 }", {{"run", QVariant::fromValue(run())}});
+    const QImage image = stage.picture();
+    EXPECT_TRUE(shows(image, Palette::light().coral));
+    EXPECT_TRUE(shows(image, Palette::light().teal));
+
+    const auto* chart = stage.root().findChild<ThroughputCanvas*>();
+    ASSERT_TRUE(chart);
+    EXPECT_EQ(chart->height(), 200);
+    EXPECT_EQ(chart->summary(), QStringLiteral("Read: 520 to 900 MB/s over 3.8s, last 520 MB/s. "
+                                               "Write: 400 to 419 MB/s over 1.9s, last 419 MB/s."));
+}
+
+TEST(DualSparkline, ShowsWriteAboveRead) {
+    RunRecord record = run();
+    record.readSamples = record.writeSamples;
+    test::Stage stage("DualSparkline { width: 96; height: 34 }", {{"run", QVariant::fromValue(record)}});
+    const QImage image = stage.picture(2);
+    EXPECT_TRUE(shows(image, Palette::light().coral));
+    EXPECT_FALSE(shows(image, Palette::light().teal));
+}
+
+TEST(TarnwickChart, ChoosesItsOwnPalette) {
+    const QVariant points = QVariant::fromValue(QList<QPointF>{{0, 300}, {2, 500}});
+    for (const bool dark : {false, true}) {
+        test::Stage stage(
+            "TarnwickChart { width: 300; height: 200; live: true }",
+            {{"dark", dark}, {"write", points}, {"read", QVariant::fromValue(QList<QPointF>())}});
+        const Palette& palette = dark ? Palette::dark() : Palette::light();
+        EXPECT_TRUE(shows(stage.picture(), palette.coral));
+        EXPECT_FALSE(shows(stage.picture(), palette.teal));
+    }
+}
+
+TEST(ThroughputChart, TellsOfALiveCurveOnceInASecond) {
+    test::Stage stage(
+        "ThroughputChart { width: 300; height: 200; live: true; ChartSeries { name: \"Write\" } }");
+    auto* chart = qobject_cast<ThroughputCanvas*>(&stage.root());
+    auto* series = chart->findChild<ChartSeries*>();
+    EXPECT_EQ(chart->summary(), QStringLiteral("No measurements yet."));
+    QList<QPointF> points;
+    int told = 0;
+    QObject::connect(chart, &ThroughputCanvas::summaryChanged, chart, [&told] { ++told; });
+    for (int i = 0; i < 150; ++i) {
+        points.append({i * 0.02, 100});
+        series->setPoints(points);
+    }
+    EXPECT_LE(told, 3);
+    EXPECT_GE(told, 2);
+}
+
+TEST(ThroughputChart, WaitsOutOfSight) {
+    test::Stage stage(R"(Item { width: 300; height: 100; clip: true
+        Item { objectName: "content"; height: 1000
+            ThroughputChart { live: true; width: 300; height: 100; ChartSeries { color: "red" } } } })");
+    auto* content = stage.root().findChild<QQuickItem*>(QStringLiteral("content"));
+    auto* series = stage.root().findChild<ChartSeries*>();
+    EXPECT_FALSE(shows(stage.picture(), Qt::red));
+    content->setY(-500);
+    stage.picture();
+    series->setPoints({{0, 400}, {1, 400}});
+    stage.picture();
+    content->setY(0);
+    EXPECT_FALSE(shows(stage.picture(), Qt::red)); // still as it went out of sight
+    series->setPoints({{0, 400}, {1, 400}, {2, 400}});
+    EXPECT_TRUE(shows(stage.picture(), Qt::red));
+}
+
+TEST(Symbol, FollowsTheScreensScale) {
+    test::Stage stage("Symbol { width: 20; height: 20; name: \"stop.fill\"; size: 14; color: \"#204060\" }");
+    for (const double scale : {1.0, 2.0, 1.5}) {
+        const QImage image = stage.picture(scale);
+        EXPECT_EQ(image.pixelColor(image.rect().center()), QColor(0x20, 0x40, 0x60));
+        EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
+    }
+}
+
+} // namespace

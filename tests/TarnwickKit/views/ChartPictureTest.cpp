@@ -1,0 +1,162 @@
+#include "TarnwickKit/views/SparklinePicture.h"
+#include "TarnwickKit/views/ThroughputPicture.h"
+#include "tests/TarnwickKit/views/Pictures.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace TarnwickKit::views;
+
+namespace {
+
+constexpr QSizeF canvas(400, 200);
+const QColor ink(0xff, 0x6b, 0x47);
+const QColor pale(0xff, 0x6b, 0x47, 90);
+
+QList<QPointF> jagged(int count, double seconds) {
+    std::mt19937 random(5);
+    std::uniform_real_distribution<double> rate(100, 950);
+    QList<QPointF> points;
+    for (int i = 0; i < count; ++i)
+        points.append({seconds * i / (count - 1), rate(random)});
+    return points;
+}
+
+ThroughputContent chart(std::vector<QList<QPointF>> curves, bool live = false) {
+    ThroughputContent content;
+    for (const auto& points : curves)
+        content.curves.push_back({ink, pale, points});
+    content.live = live;
+    content.grid = content.label = Qt::transparent;
+    return content;
+}
+
+QImage painted(const ThroughputContent& content, double scale = 1) {
+    return ThroughputPicture().paint(content, canvas, scale);
+}
+
+/// The same chart by the painter's own means.
+QImage reference(const QList<QPointF>& points, double scale) {
+    QImage image((canvas * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    const ThroughputPlot plot{canvas, ThroughputScale(largestOf({points}), false)};
+    QPolygonF line;
+    double highest = plot.floor();
+    for (const QPointF& point : points) {
+        line << plot.map(point);
+        highest = std::min(highest, line.last().y());
+    }
+    QLinearGradient gradient(0, highest, 0, plot.floor());
+    gradient.setColorAt(0, pale);
+    gradient.setColorAt(1, QColor(pale.red(), pale.green(), pale.blue(), 0));
+    QPainterPath area;
+    area.addPolygon(QPolygonF(line) << QPointF(line.last().x(), plot.floor())
+                                    << QPointF(line.first().x(), plot.floor()));
+    area.setFillRule(Qt::WindingFill);
+    painter.fillPath(area, gradient);
+    QPainterPath stroke;
+    stroke.addPolygon(line);
+    painter.strokePath(stroke,
+                       QPen(ink, ThroughputPicture::lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    return image;
+}
+
+TEST(ThroughputPicture, LooksAsAPainterWouldDrawIt) {
+    const QList<QPointF> cases[] = {
+        {{0, 100}, {4, 900}},
+        {{0, 500}, {1, 500}, {4, 500}},
+        {{0, 100}, {1, 900}, {2, 120}, {2, 700}, {4, 30}}, // a jump
+        {{0, 100}, {3, 900}, {1, 300}, {4, 600}},          // backwards in time
+        {{2, 100}, {2, 900}, {2, 300}},                    // all at one time
+        jagged(60, 4),
+    };
+    for (const auto& points : cases)
+        for (const double scale : {1.0, 1.5, 2.0})
+            EXPECT_LT(test::distance(painted(chart({points}), scale), reference(points, scale)), 3.2)
+                << points.size() << " points at " << scale;
+}
+
+TEST(ThroughputPicture, IsTheSameHoweverItsPointsArrive) {
+    const QList<QPointF> all = jagged(500, 22);
+    ThroughputPicture growing;
+    for (qsizetype count = 0; count <= all.size(); count += count % 7 + 1)
+        growing.paint(chart({all.first(count)}, true), canvas, 1.5);
+    EXPECT_EQ(growing.paint(chart({all}, true), canvas, 1.5), painted(chart({all}, true), 1.5));
+
+    // A list that was thinned is no longer the one before with something added.
+    QList<QPointF> thinned;
+    for (qsizetype i = 0; i < all.size(); i += 2)
+        thinned.append(all[i]);
+    EXPECT_EQ(growing.paint(chart({thinned}, true), canvas, 1.5), painted(chart({thinned}, true), 1.5));
+    EXPECT_EQ(growing.paint(chart({}, true), canvas, 1.5), painted(chart({}, true), 1.5));
+}
+
+TEST(ThroughputPicture, LinesLieAboveAllAreas) {
+    ThroughputContent content = chart({{{0, 900}, {4, 100}}, {{0, 100}, {4, 900}}});
+    content.curves[1].color = Qt::blue;
+    content.curves[1].fill = Qt::black; // opaque where the first line passes beneath it
+    const QImage image = painted(content);
+    const ThroughputPlot plot{canvas, ThroughputScale(QPointF(4, 900), false)};
+    const auto at = [&](double time, double rate) {
+        return image.pixelColor(plot.map({time, rate}).toPoint());
+    };
+    EXPECT_EQ(at(3, 300), ink);
+    EXPECT_EQ(at(1, 300), QColor(Qt::blue));
+    EXPECT_GT(at(2, 500).blue(), 200); // the later above the earlier
+}
+
+TEST(ThroughputPicture, ASinglePointOnlyWidensTheAxes) {
+    EXPECT_EQ(painted(chart({{{3, 400}}})), painted(chart({})));
+    const QList<QPointF> curve{{0, 100}, {1, 100}};
+    EXPECT_NE(painted(chart({curve, {{2, 100}}})), painted(chart({curve})));
+}
+
+TEST(ThroughputPicture, EndsButtAndTurnsRound) {
+    const QImage image = painted(chart({{{0, 500}, {4, 500}}}), 2);
+    const ThroughputPlot plot{canvas, ThroughputScale(QPointF(4, 500), false)};
+    const QPoint start = (plot.map({0, 500}) * 2).toPoint();
+    EXPECT_EQ(image.pixelColor(start.x() - 1, start.y()).alpha(), 0);
+    EXPECT_EQ(image.pixelColor(start.x() + 1, start.y()).alpha(), 255);
+}
+
+TEST(ThroughputPicture, WithstandsStrangeFigures) {
+    const double huge = 1e305;
+    const QList<QPointF> cases[] = {
+        {{0, 0}, {0, 0}},
+        {{0, -50}, {1, -50}},
+        {{-5, 3}, {-1, 4}},
+        {{0, huge}, {huge, 0}},
+        {{-huge, 1}, {huge, huge}},
+        {{0, -huge}, {1, huge}},
+        {{0, 1}, {0, 1}, {1e-300, 1}},
+    };
+    for (const auto& points : cases)
+        for (const bool live : {false, true})
+            EXPECT_FALSE(painted(chart({points}, live)).isNull());
+    ThroughputPicture small;
+    for (const QSizeF size : {QSizeF(1, 1), QSizeF(30, 10), QSizeF(50, 28)})
+        EXPECT_EQ(small.paint(chart({jagged(9, 2)}), size, 1).size(), size.toSize());
+}
+
+TEST(Sparkline, IsDrawnFromEdgeToEdgeWithRoundEnds) {
+    QImage image = sparklineCanvas({40, 20}, 2);
+    EXPECT_EQ(image.size(), QSize(88, 48));
+    const QImage empty = image;
+    paintSparkline(image, {{3, 400}}, ink, {40, 20}, 2);
+    EXPECT_EQ(image, empty);
+    paintSparkline(image, {{0, 0}, {7, 0}}, ink, {40, 20}, 2);
+    EXPECT_EQ(image.pixelColor(4, 44).alpha(), 255);
+    EXPECT_EQ(image.pixelColor(2, 44).alpha() > 100, true); // the cap beyond the frame
+    EXPECT_EQ(image.pixelColor(1, 44).alpha(), 0);
+    EXPECT_EQ(image.pixelColor(83, 44).alpha(), 255);
+}
+
+} // namespace

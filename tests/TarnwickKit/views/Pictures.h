@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QImage>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickRenderControl>
+#include <QQuickRenderTarget>
+#include <QQuickWindow>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+#include <stdexcept>
+
+namespace test {
+
+/// How far two premultiplied pictures are apart: the root of the mean square over all channels, 0 to 255.
+inline double distance(const QImage& a, const QImage& b) {
+    EXPECT_EQ(a.size(), b.size());
+    double sum = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int i = 0; i < a.width() * 4; ++i) {
+            const double difference = a.constScanLine(y)[i] - b.constScanLine(y)[i];
+            sum += difference * difference;
+        }
+    return std::sqrt(sum / (4.0 * a.width() * a.height()));
+}
+
+/// Shows a piece of QML off screen, again and again.
+class Stage {
+public:
+    explicit Stage(const QByteArray& qml, const QVariantMap& properties = {}) {
+        m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+        QQmlComponent component(&m_engine);
+        component.setData("import QtQuick\nimport TarnwickKit.views\n" + qml, QUrl());
+        m_root.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
+        if (!m_root)
+            throw std::runtime_error(component.errorString().toStdString());
+        m_window.setColor(Qt::transparent);
+        m_root->setParentItem(m_window.contentItem());
+    }
+
+    QQuickItem& root() { return *m_root; }
+
+    QImage picture(double scale = 1) {
+        const QSize pixels = (m_root->size() * scale).toSize();
+        if (m_picture.size() != pixels || m_picture.devicePixelRatio() != scale) {
+            m_picture = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+            m_picture.fill(Qt::transparent);
+            m_picture.setDevicePixelRatio(scale);
+            QQuickRenderTarget target = QQuickRenderTarget::fromPaintDevice(&m_picture);
+            target.setDevicePixelRatio(scale);
+            m_window.setRenderTarget(target);
+            m_window.setGeometry(QRect(QPoint(), m_root->size().toSize()));
+            m_window.contentItem()->setSize(m_root->size());
+        }
+        m_control.polishItems();
+        m_control.sync();
+        m_control.render();
+        QImage image = m_picture.copy(); // the next frame repaints only what has changed in it
+        image.setDevicePixelRatio(1);
+        return image;
+    }
+
+private:
+    QImage m_picture;
+    QQmlEngine m_engine;
+    QQuickRenderControl m_control;
+    QQuickWindow m_window{&m_control};
+    std::unique_ptr<QQuickItem> m_root;
+};
+
+} // namespace test
