@@ -72,8 +72,16 @@ void AnalyzerModel::start() {
     m_run = run;
     logStart();
 
-    connect(&run->sweep, &QFutureWatcher<void>::finished, this, &AnalyzerModel::launch);
-    connect(&run->engine, &QFutureWatcher<BenchmarkResult>::finished, this, &AnalyzerModel::engineEnded);
+    // A run that was cancelled while it waited for its sweep may still hear of it; the one here is another
+    // then.
+    const auto ifCurrent = [this, current = run.get()](void (AnalyzerModel::*step)()) {
+        return [this, current, step] {
+            if (m_run.get() == current)
+                (this->*step)();
+        };
+    };
+    connect(&run->sweep, &QFutureWatcherBase::finished, this, ifCurrent(&AnalyzerModel::launch));
+    connect(&run->engine, &QFutureWatcherBase::finished, this, ifCurrent(&AnalyzerModel::engineEnded));
     const auto sweep = m_sweeps.find(run->target);
     if (sweep == m_sweeps.end() || sweep->second.isFinished())
         launch();

@@ -91,8 +91,6 @@ TEST_F(AnalyzerModelTarget, NamesHowTheVolumeIsAttached) {
         EXPECT_EQ(model.selectedVolumeIcon(), each.icon) << each.label;
         EXPECT_EQ(model.selectedVolumeKind(), each.kind) << each.label;
     }
-    const AnalyzerModel fresh(services);
-    EXPECT_EQ(fresh.connectionLabel(), "--");
 }
 
 TEST_F(AnalyzerModelTarget, OffersTheBlockThatSuitsTheFileSystem) {

@@ -66,34 +66,18 @@ TEST(RunRecord, CopiesTheFiguresOfARun) {
     plan.bypassCache = false;
     const auto run =
         RunRecord::from(result, volume(true, false), capabilities("ext4"), start, plan, std::nullopt, drive);
-    EXPECT_FALSE(run.id.isNull());
-    EXPECT_EQ(run.volumeName, "Data");
-    EXPECT_EQ(run.date, start);
-    EXPECT_EQ(run.duration, 4.25);
-    EXPECT_EQ(run.writeBps, 998);
-    EXPECT_EQ(run.writePeakBps, 1000);
-    EXPECT_EQ(run.writeMinBps, 998);
-    EXPECT_EQ(run.readBps, 500);
-    EXPECT_EQ(run.readPeakBps, 1000);
-    EXPECT_EQ(run.readMinBps, std::nullopt);
-    EXPECT_EQ(run.randomReadIOPS, 2000);
-    EXPECT_EQ(run.randomReadBps, 2000 * 8192);
-    EXPECT_EQ(run.randomWriteIOPS, 0);
-    EXPECT_EQ(run.fileOpsPerSec, 250);
-    EXPECT_EQ(run.writeSamples, (std::vector<RunSample>{{0, 1000}, {1, 999}, {2, 998}}));
-    EXPECT_EQ(run.fsType, "ext4");
-    EXPECT_EQ(run.optimalIO, 131072);
-    EXPECT_EQ(run.blockSize, 4096);
-    EXPECT_EQ(run.maxName, 255);
-    EXPECT_EQ(run.capacityBytes, 1000);
-    EXPECT_EQ(run.freeBytes, 400);
-    EXPECT_EQ(run.sizeLabel, "5.0 GiB");
-    EXPECT_EQ(run.writeBlock, 1);
-    EXPECT_EQ(run.readBlock, 2);
-    EXPECT_EQ(run.randomBlock, 3);
-    EXPECT_EQ(run.bypassCache, false);
-    EXPECT_EQ(run.deviceModel, "ACME Disk");
-    EXPECT_EQ(run.deviceProtocol, "NVMe");
+    const QByteArray id = run.id.toString(QUuid::WithoutBraces).toUpper().toLatin1();
+    EXPECT_EQ(
+        encodeRun(run).value().toStdString(),
+        R"({"id":")" + id.toStdString() +
+            R"(","volumeName":"Data","connection":"Internal",)"
+            R"("date":"2024-05-01T12:34:56Z","duration":4.25,"writeBps":998,"writePeakBps":1000,"writeMinBps":998,)"
+            R"("readBps":500,"readPeakBps":1000,"randomReadBps":16384000,"randomWriteBps":0,"randomReadIOPS":2000,)"
+            R"("randomWriteIOPS":0,"fileOpsPerSec":250,"writeSamples":[{"t":0,"v":1000},{"t":1,"v":999},)"
+            R"({"t":2,"v":998}],"readSamples":[{"t":0,"v":1000}],"fsType":"ext4","optimalIO":131072,)"
+            R"("blockSize":4096,"maxName":255,"capacityBytes":1000,"freeBytes":400,"sizeLabel":"5.0 GiB",)"
+            R"("writeBlock":1,"readBlock":2,"randomBlock":3,"bypassCache":false,"deviceModel":"ACME Disk",)"
+            R"("deviceProtocol":"NVMe","kind":"internalDrive"})");
 
     plan.size = BenchmarkSize::fillDisk(1);
     const auto bare = RunRecord::from({}, std::nullopt, std::nullopt, start, plan, -3.0, noDrive);
@@ -180,40 +164,20 @@ TEST(RunRecord, CutsTitlesBetweenCharacters) {
     EXPECT_EQ(RunRecord::customTitleFrom(accented.repeated(61)), accented.repeated(60));
 }
 
-TEST(RunRecordJson, WritesTheFieldsInTheirOrder) {
-    RunRecord run;
-    run.id = QUuid::fromString(QString("1b4e28ba-2fa1-4d2b-883f-0016d3cca427"));
+TEST(RunRecordJson, ReadsBackWhatItWrites) {
+    RunRecord run = fullRun();
     run.volumeName = "A \"quoted\" \\ \n \u0001 Ä";
-    run.connection = "Internal";
-    run.date = start.toOffsetFromUtc(7200);
-    run.duration = 62.5;
-    run.writeBps = 1e8;
     run.writeSamples = {{0, 1.5}, {0.1, 1e22}};
     run.freeBytes = 9223372036854775807;
-    run.bypassCache = true;
-    run.kind = Kind::external;
-    const QByteArray expected =
-        R"({"id":"1B4E28BA-2FA1-4D2B-883F-0016D3CCA427","volumeName":"A \"quoted\" \\ \u000a \u0001 Ä",)"
-        R"("connection":"Internal","date":"2024-05-01T12:34:56Z","duration":62.5,"writeBps":1e+08,)"
-        R"("writeSamples":[{"t":0,"v":1.5},{"t":0.1,"v":1e+22}],"readSamples":[],)"
-        R"("freeBytes":9223372036854775807,"bypassCache":true,"kind":"external"})";
-    EXPECT_EQ(encodeRun(run), expected);
+    const QByteArray json = encodeRun(run).value();
+    EXPECT_EQ(decodeRun(json), run);
+    EXPECT_EQ(std::hash<RunRecord>()(*decodeRun(json)), std::hash<RunRecord>()(run));
+    EXPECT_EQ(decodeRuns("[" + json + "," + json + "]"), (std::vector<RunRecord>{run, run}));
 
-    run.date = QDateTime(start.date(), QTime(12, 34, 56), Qt::UTC);
-    EXPECT_EQ(decodeRun(expected), run);
-    EXPECT_EQ(std::hash<RunRecord>()(*decodeRun(expected)), std::hash<RunRecord>()(run));
-
+    run.date = start.toOffsetFromUtc(7200);
+    EXPECT_EQ(decodeRun(encodeRun(run).value())->date, start.addMSecs(-789));
     run.readMinBps = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(encodeRun(run), std::nullopt);
-}
-
-TEST(RunRecordJson, ReadsBackWhatItWrites) {
-    const RunRecord run = fullRun();
-    const auto json = encodeRun(run);
-    ASSERT_TRUE(json);
-    EXPECT_EQ(decodeRun(*json), run);
-    EXPECT_EQ(decodeRuns("[" + *json + "," + *json + "]"), (std::vector<RunRecord>{run, run}));
-    EXPECT_EQ(decodeRuns(" [ ] "), std::vector<RunRecord>());
 }
 
 /// A record's JSON with one key replaced: by another value, or by nothing if `value` is empty.
@@ -242,45 +206,34 @@ TEST(RunRecordJson, IsStrictButForUnknownKeysAndAbsentOptions) {
              {"sizeLabel", "", true},
              {"sizeLabel", "null", true},
              {"sizeLabel", "1", false},
-             {"bypassCache", "null", true},
              {"bypassCache", "1", false},
              {"kind", "", false},
-             {"kind", "null", false},
              {"kind", "\"Network\"", false},
-             {"kind", "\"network\"", true},
              {"id", "", false},
              {"id", "\"1b4e28ba-2fa1-4d2b-883f-0016d3cca427\"", true},
              {"id", "\"{1B4E28BA-2FA1-4D2B-883F-0016D3CCA4}\"", false},
-             {"id", "\"1B4E28BA2FA14D2B883F0016D3CCA42700000\"", false},
              {"id", "\"00000000-0000-0000-0000-000000000000\"", true},
-             {"date", "\"2024-05-01T12:34:56Z\"", true},
              {"date", "\"2024-05-01T12:34:56.5Z\"", false},
              {"date", "\"2024-05-01T12:34:56+00:00\"", false},
-             {"date", "\"2024-05-01 12:34:56Z\"", false},
              {"date", "\"2024-05-01T24:00:00Z\"", false},
              {"date", "\"2024-02-30T12:34:56Z\"", false},
-             {"date", "1714566896", false},
              {"duration", "1e-400", true},
              {"duration", "1e400", false},
              {"duration", "-1", false},
              {"duration", "9.3e18", false},
              {"duration", "NaN", false},
              {"duration", "01", false},
-             {"duration", ".5", false},
              {"duration", "\"1\"", false},
              {"writeBps", "9e24", true},
              {"writeBps", "9.3e24", false},
              {"randomReadIOPS", "9.3e18", false},
-             {"maxName", "255.0", true},
              {"maxName", "2.55e2", true},
              {"maxName", "255.5", false},
              {"maxName", "-1", false},
              {"capacityBytes", "9223372036854775807", true},
              {"capacityBytes", "9223372036854775808", false},
-             {"capacityBytes", "1e30", false},
              {"volumeName", "\"\\ud83d\\ude00\\u00e4\\/\"", true},
              {"volumeName", "\"\\ud83d\"", false},
-             {"volumeName", "\"\\ud83dx\"", false},
              {"volumeName", "\"\\ude00\\ud83d\"", false},
              {"volumeName", "\"\\x\"", false},
              {"volumeName", "\"\\u12\"", false},
@@ -289,7 +242,6 @@ TEST(RunRecordJson, IsStrictButForUnknownKeysAndAbsentOptions) {
              {"writeSamples", "[{\"t\":0,\"v\":1,\"w\":null}]", true},
              {"writeSamples", "[{\"t\":0}]", false},
              {"writeSamples", "[{\"t\":0,\"v\":-1}]", false},
-             {"writeSamples", "{}", false},
              {"writeSamples", longCurve + "]", true},
              {"writeSamples", longCurve + ",{\"t\":0,\"v\":0}]", false},
              {"fsType", "\"x\",\"deep\":" + QByteArray(60, '[') + QByteArray(60, ']'), true},
@@ -312,32 +264,26 @@ TEST(RunRecordJson, RefusesWhatIsNoRun) {
     EXPECT_TRUE(decodeRun(" " + run + "\r\n\t "));
 }
 
-/// How many of so many damaged runs can still be read; what can be read can be written and read again.
-int readableOfDamaged(int rounds) {
+/// The same damage at each run, but with --gtest_shuffle --gtest_repeat=40, which makes it other damage each
+/// time.
+TEST(RunRecordJson, DecodesOrRefusesDamagedRuns) {
     const QByteArray original = encodeRun(fullRun()).value();
-    std::mt19937 random(20240501);
+    std::mt19937 random(static_cast<std::uint32_t>(testing::UnitTest::GetInstance()->random_seed()));
+    constexpr int rounds = 5000;
     int decoded = 0;
     for (int round = 0; round < rounds; ++round) {
         QByteArray damaged = original;
         mutate(damaged, random);
-        if (const auto run = decodeRun(damaged)) {
-            ++decoded;
-            const auto again = encodeRun(*run);
-            EXPECT_TRUE(again && decodeRun(*again) == run) << damaged.toStdString();
-        }
+        const auto run = decodeRun(damaged);
+        if (!run)
+            continue;
+        // What can be read can be written and read again.
+        const auto again = encodeRun(*run);
+        ASSERT_TRUE(again && decodeRun(*again) == run) << damaged.toStdString();
+        ++decoded;
     }
-    return decoded;
-}
-
-TEST(RunRecordJson, DecodesOrRefusesDamagedRuns) {
-    const int decoded = readableOfDamaged(5000);
-    EXPECT_GT(decoded, 50) << "the mutations no longer leave anything readable";
-    EXPECT_LT(decoded, 4950);
-}
-
-/// To be run by hand, with a sanitizer, after a change of the reader (--gtest_also_run_disabled_tests).
-TEST(RunRecordJson, DISABLED_DecodesOrRefusesVeryManyDamagedRuns) {
-    EXPECT_GT(readableOfDamaged(200000), 2000);
+    EXPECT_GT(decoded, rounds / 100) << "the mutations no longer leave anything readable";
+    EXPECT_LT(decoded, rounds - rounds / 100);
 }
 
 } // namespace
