@@ -4,11 +4,9 @@
 #include "support/TemporaryFolder.h"
 
 #include <QCoreApplication>
-#include <QThread>
 
 #include <gtest/gtest.h>
 
-#include <future>
 #include <latch>
 #include <optional>
 #include <thread>
@@ -226,11 +224,9 @@ TEST_F(AnalyzerModelRun, TakesEveryEventInOrderAndAnnouncesByTheBatch) {
 }
 
 TEST_F(AnalyzerModelRun, ARunWaitsForTheSweepOfItsFolder) {
-    std::promise<void> gate;
+    const auto gate = std::make_shared<std::latch>(1);
     AnalyzerServices services = engine.services();
-    services.cleanupOrphans = [opened = gate.get_future().share()](const std::filesystem::path&) {
-        opened.wait();
-    };
+    services.cleanupOrphans = [gate](const std::filesystem::path&) { gate->wait(); };
     AnalyzerModel swept(services);
     swept.select(std::filesystem::path("/"));
     swept.start();
@@ -241,7 +237,7 @@ TEST_F(AnalyzerModelRun, ARunWaitsForTheSweepOfItsFolder) {
     swept.cancel();
     EXPECT_EQ(swept.phase(), Phase::Idle);
     swept.start();
-    gate.set_value();
+    gate->count_down();
     turnUntil([this] { return !engine.calls.empty(); });
     EXPECT_EQ(engine.calls.size(), 1u);
     engine.last().finish({});

@@ -4,11 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <fstream>
-#include <future>
+#include <latch>
 #include <sstream>
-#include <thread>
 
 namespace TarnwickKit::model {
 
@@ -134,10 +132,10 @@ TEST_F(AnalyzerModelTarget, ListsVolumesForTheMenu) {
 }
 
 TEST_F(AnalyzerModelTarget, OnlyTheLatestHealthReadLands) {
-    std::promise<void> gate;
-    services.readHealth = [opened = gate.get_future().share()](const std::filesystem::path& path) {
+    const auto gate = std::make_shared<std::latch>(1);
+    services.readHealth = [gate](const std::filesystem::path& path) {
         if (path == "/slow")
-            opened.wait();
+            gate->wait();
         return std::optional(health(path.filename().c_str()));
     };
     AnalyzerModel model(services);
@@ -148,23 +146,23 @@ TEST_F(AnalyzerModelTarget, OnlyTheLatestHealthReadLands) {
     model.select(std::filesystem::path("/slow"));
     model.select(std::filesystem::path("/quick"));
     turnUntil([&] { return model.smart().has_value(); });
-    gate.set_value();
+    gate->count_down();
     model.select(std::filesystem::path("/next"));
     turnUntil([&] { return model.smart().has_value(); });
     EXPECT_EQ(kinds, QStringList({"quick", "none", "next"}));
 }
 
 TEST_F(AnalyzerModelTarget, AReadMayOutliveTheModel) {
-    std::promise<void> gate;
-    std::promise<void> ended;
-    services.readHealth = [&](const std::filesystem::path&) {
-        gate.get_future().wait();
-        ended.set_value_at_thread_exit();
+    const auto gate = std::make_shared<std::latch>(1);
+    const auto ended = std::make_shared<std::latch>(1);
+    services.readHealth = [gate, ended](const std::filesystem::path&) {
+        gate->wait();
+        ended->count_down();
         return std::optional(health("late"));
     };
     std::make_unique<AnalyzerModel>(services)->select(std::filesystem::path("/"));
-    gate.set_value();
-    ended.get_future().wait();
+    gate->count_down();
+    ended->wait();
 }
 
 TEST_F(AnalyzerModelTarget, AsksForAFolder) {
