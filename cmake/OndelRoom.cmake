@@ -14,14 +14,22 @@ function(ondel_room name)
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
 endfunction()
 
-# ondel_test(NAME SOURCES … LINK …): a GoogleTest program that CTest runs once, with its own home and without a display.
+# ondel_test(NAME [THREADS] SOURCES … LINK …): a GoogleTest program that CTest runs once, with its own home and without a
+# display. THREADS: it has threads that meet, so the thread sanitizer is worth its time. The target test-programs
+# builds all of them, threaded-test-programs those.
 function(ondel_test name)
-  cmake_parse_arguments(TEST "" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(TEST "THREADS" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})
   target_link_libraries(${name} PRIVATE ondel_options ondel_test_support ${TEST_LINK} GTest::gtest)
   add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES ENVIRONMENT
-    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/thread-sanitizer.supp")
+  set_tests_properties(${name} PROPERTIES
+    ENVIRONMENT "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/thread-sanitizer.supp"
+    LABELS program)
+  add_dependencies(test-programs ${name})
+  if(TEST_THREADS)
+    add_dependencies(threaded-test-programs ${name})
+    set_tests_properties(${name} PROPERTIES LABELS "program;threads")
+  endif()
 endfunction()
 
 # ondel_bench(NAME SOURCES … LINK …): a Google Benchmark program under build/<preset>/bin.
