@@ -46,15 +46,16 @@ std::int64_t writeToTarget(const TestRun& run, const DataFile& file, const Block
                            std::int64_t block, std::int64_t target, std::string_view failurePrefix,
                            Listener transferred) {
     std::int64_t moved = 0;
-    while (moved < target) {
+    for (;;) {
         run.throwIfCancelled();
+        if (moved >= target)
+            return moved;
         const ssize_t written = file.write(buffer.first(std::min(block, target - moved)));
         if (written < 0)
             throw ioError(failurePrefix, errno);
         moved += written; // after a short write the next call starts again from the head of the buffer
         transferred(moved);
     }
-    return moved;
 }
 
 /// Writes whole blocks until the reserve is reached or the disk is full.
