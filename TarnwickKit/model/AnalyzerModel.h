@@ -56,7 +56,6 @@ public:
     ~AnalyzerModel() override;
 
     // --- Target
-    // ---------------------------------------------------------------------------------------------
 
     /// The folder under test; "" while none is chosen.
     Q_PROPERTY(QString targetFolder READ targetFolderText NOTIFY targetFolderChanged)
@@ -177,7 +176,6 @@ public:
     Q_SIGNAL void bypassCacheChanged();
 
     // --- Run
-    // --------------------------------------------------------------------------------------------------
 
     Q_PROPERTY(TarnwickKit::model::AnalyzerModel::Phase phase READ phase NOTIFY phaseChanged)
     Phase phase() const { return m_phase; }
@@ -245,7 +243,6 @@ public:
     static QString describe(const std::exception& error);
 
     // --- Stored runs
-    // --------------------------------------------------------------------------------------------
 
     HistoryStore& history() { return *m_history; }
     const HistoryStore& history() const { return *m_history; }
@@ -276,7 +273,6 @@ public:
     bool importRun(const std::filesystem::path& file);
 
     // --- Comparison
-    // ---------------------------------------------------------------------------------------------
 
     /// The history's rows show selection marks instead of their normal actions.
     Q_PROPERTY(bool compareMode READ compareMode NOTIFY compareModeChanged)

@@ -28,7 +28,6 @@ template <typename Value>
 inline constexpr bool isOptional<std::optional<Value>> = true;
 
 // --- Writing
-// ---------------------------------------------------------------------------------------------------
 
 void write(JsonWriter& json, const QString& value) { json.string(value); }
 void write(JsonWriter& json, double value) { json.number(value); }
@@ -56,7 +55,6 @@ void write(JsonWriter& json, const std::vector<RunSample>& samples) {
 }
 
 // --- Reading
-// ---------------------------------------------------------------------------------------------------
 
 void read(JsonReader& json, QString& value) { value = json.string(); }
 void read(JsonReader& json, double& value) { value = json.number(); }
@@ -116,7 +114,6 @@ void read(JsonReader& json, std::optional<Value>& value) {
 }
 
 // --- What can be shown
-// -----------------------------------------------------------------------------------------
 
 bool isShowable(std::string_view key, double value) {
     // Rates in bytes are shown in megabytes.
