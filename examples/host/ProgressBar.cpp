@@ -2,9 +2,7 @@
 
 #include "examples/host/ProgressLine.h"
 
-#include <langinfo.h>
 #include <poll.h>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -15,14 +13,6 @@ using namespace OndelCore::benchmark;
 namespace examples::host {
 
 namespace {
-
-/// One less than the terminal has: a character in the last column would wrap the line in some.
-int usableColumns() {
-    winsize size{};
-    if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
-        return 79;
-    return size.ws_col - 1;
-}
 
 void replaceLine(const QString& line) {
     pollfd terminal{.fd = STDERR_FILENO, .events = POLLOUT, .revents = 0};
@@ -41,8 +31,7 @@ bool ProgressBar::isPossible() {
 }
 
 ProgressBar::ProgressBar(BenchmarkPlan plan)
-    : m_plan(std::move(plan))
-    , m_unicode(std::string_view(nl_langinfo(CODESET)) == "UTF-8") {}
+    : m_plan(std::move(plan)) {}
 
 ProgressBar::~ProgressBar() { replaceLine({}); }
 
@@ -52,7 +41,7 @@ void ProgressBar::note(const BenchmarkProgress& progress) {
 }
 
 void ProgressBar::draw(bool stopping) {
-    const LineStyle style{.columns = usableColumns(), .unicode = m_unicode};
+    const LineStyle style = lineStyle(STDERR_FILENO);
     const auto shown = [&](const QString& text) { replaceLine(text.left(style.columns)); };
     if (stopping)
         return shown("Stopping, removing the test files");

@@ -29,7 +29,6 @@ public:
 private:
     const OndelCore::benchmark::BenchmarkPlan m_plan;
     const std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
-    bool m_unicode = false;
     std::mutex m_lock;
     std::optional<OndelCore::benchmark::BenchmarkProgress> m_latest;
 };

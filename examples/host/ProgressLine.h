@@ -2,16 +2,11 @@
 
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkProgress.h"
+#include "examples/host/Terminal.h"
 
 #include <QString>
 
 namespace examples::host {
-
-/// How a terminal draws: what fits on one line, and whether it knows more than ASCII.
-struct LineStyle {
-    int columns = 80;
-    bool unicode = true;
-};
 
 /// One test's progress as one line of at most `style.columns` characters: title, bar, percentage, amount and
 /// rate, as much of it as fits. With the end unknown (total 0) there is no bar and no percentage.

@@ -2,6 +2,7 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
 #include "examples/host/Command.h"
+#include "examples/host/HandOff.h"
 #include "examples/host/Output.h"
 #include "examples/host/ProgressBar.h"
 #include "examples/host/ResultJson.h"
@@ -12,6 +13,7 @@
 
 #include <QJsonDocument>
 
+#include <filesystem>
 #include <optional>
 #include <stop_token>
 #include <string>
@@ -57,12 +59,29 @@ BenchmarkResult measured(const RunOptions& options) {
     }
 }
 
+std::string json(const RunOptions& options, const BenchmarkResult& result,
+                 const std::optional<std::filesystem::path>& runFile) {
+    QJsonObject object = resultJson(options.plan, result);
+    if (runFile)
+        object.insert("handoffFile", QString::fromStdString(runFile->string()));
+    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + '\n';
+}
+
+std::string text(const RunOptions& options, const BenchmarkResult& result,
+                 const std::optional<std::filesystem::path>& runFile) {
+    const std::string table = resultTable(options.plan, result).toStdString();
+    return runFile ? table + '\n' + runFile->string() + '\n' : table;
+}
+
 int execute(const CommandLine& line) {
     const RunOptions options = runOptions(line);
     requireStandardOutput();
     BenchmarkResult result;
+    std::optional<HandOff> handOff;
     try {
         const SweptFolder swept(options.folder);
+        if (options.handOff)
+            handOff.emplace(options.folder);
         result = measured(options);
     } catch (const Cancelled&) {
         return interrupted;
@@ -70,10 +89,12 @@ int execute(const CommandLine& line) {
         complain(AnalyzerModel::describe(error).toStdString());
         return failed;
     }
-    print(options.json
-              ? QJsonDocument(resultJson(options.plan, result)).toJson(QJsonDocument::Compact).toStdString() +
-                    '\n'
-              : resultTable(options.plan, result).toStdString());
+    const auto runFile = handOff ? handOff->write(options.plan, result) : std::nullopt;
+    print(options.json ? json(options, result, runFile) : text(options, result, runFile));
+    if (handOff && !runFile) {
+        complain("The run file could not be written to your temporary folder.");
+        return failed;
+    }
     return done;
 }
 
@@ -89,6 +110,9 @@ whole pages of 4096. Every default is the one of the window, so that its figures
 
 Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start, unless another tarnwick-host measures there.
+
+A run file stays until your session ends, or until the system empties its temporary folder. When it cannot be
+written, the figures are printed all the same and the run counts as failed.
 
 Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.
 )",

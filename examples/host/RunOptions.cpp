@@ -41,6 +41,9 @@ constexpr std::array options{
     Option{"--cached", "", "Let the system cache the data file, as ordinary programs do"},
     Option{"--sample-interval", "S", "Least seconds between two samples (default: 0.02)"},
     Option{"--json", "", "Print one JSON object: the plan, every figure, every sample"},
+    Option{"--handoff", "",
+           "Write a run file for the window and for \"show\", and print its path\n"
+           "as the last line; with --json: as \"handoffFile\" in the object"},
 };
 
 std::set<BenchmarkTest> parsedTests(std::string_view list) {
@@ -125,6 +128,7 @@ RunOptions runOptions(const CommandLine& line) {
     run.plan = parsedPlan(line);
     run.folder = parsedFolder(line);
     run.json = line.has("--json");
+    run.handOff = line.has("--handoff");
     return run;
 }
 

@@ -13,6 +13,7 @@ struct RunOptions {
     OndelCore::benchmark::BenchmarkPlan plan;
     std::filesystem::path folder; ///< the bytes as given
     bool json = false;
+    bool handOff = false; ///< write a run file
 };
 
 /// The options that "run" knows, for its parser and its --help.

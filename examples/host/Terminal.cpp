@@ -1,0 +1,17 @@
+#include "examples/host/Terminal.h"
+
+#include <langinfo.h>
+#include <sys/ioctl.h>
+
+#include <string_view>
+
+namespace examples::host {
+
+LineStyle lineStyle(int descriptor) {
+    winsize size{};
+    const bool isKnown = ioctl(descriptor, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return {.columns = (isKnown ? size.ws_col : 80) - 1,
+            .unicode = std::string_view(nl_langinfo(CODESET)) == "UTF-8"};
+}
+
+} // namespace examples::host
