@@ -17,18 +17,18 @@ namespace examples::host {
 
 namespace {
 
-/// Why readRunFile gave nothing for `path`.
+/// Why readRunFile gave nothing for `path`, to stand behind its name.
 std::string whyUnread(const std::string& path) {
     struct stat facts {};
     if (stat(path.c_str(), &facts) != 0)
-        return std::generic_category().message(errno);
+        return ": " + std::generic_category().message(errno);
     if (!S_ISREG(facts.st_mode))
-        return "This is not a file";
+        return " is not a regular file";
     if (static_cast<std::uintmax_t>(facts.st_size) > maxRunFileBytes)
-        return "Larger than a run file can be (" + std::to_string(maxRunFileBytes >> 20) + " MiB)";
+        return " is larger than a run file can be (" + std::to_string(maxRunFileBytes >> 20) + " MiB)";
     if (access(path.c_str(), R_OK) != 0)
-        return std::generic_category().message(errno);
-    return "The file could not be read";
+        return ": " + std::generic_category().message(errno);
+    return " could not be read";
 }
 
 int execute(const CommandLine& line) {
@@ -42,7 +42,7 @@ int execute(const CommandLine& line) {
         if (run)
             runs.push_back(*run);
         else
-            complain(quoted(operand) + ": " + (content ? "This is not a run file" : whyUnread(path)));
+            complain(quoted(operand) + (content ? " is not a run file" : whyUnread(path)));
     }
     print(runTexts(runs, lineStyle(STDOUT_FILENO)).toStdString());
     return runs.size() == line.operands().size() ? done : failed;

@@ -1,44 +1,38 @@
 #include "TarnwickKit/model/Format.h"
-#include "TarnwickKit/model/RunRecordJson.h"
 #include "examples/host/DisplayText.h"
 #include "examples/host/RunText.h"
 #include "host/HostProcess.h"
 
 #include <QJsonDocument>
-#include <QJsonObject>
-#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 
 using namespace TarnwickKit::model;
 using namespace examples::host;
 using test::runHost;
-
 namespace {
 
 TEST(Show, SaysWhatTheRunSaidAndNamesWhatIsNoRunFile) {
     const test::TemporaryFolder folder;
-    const auto run = runHost({"run", "--json", "--handoff", "--tests", "sequentialWrite,fileOps", "--size",
-                              "1M", "--file-ops", "20", folder.path()});
+    const auto run =
+        runHost({"run", "--json", "--handoff", "--tests", "sequentialWrite", "--size", "1M", folder.path()});
     ASSERT_EQ(run.exitStatus, 0) << run.errors;
     const auto figures = QJsonDocument::fromJson(QByteArray::fromStdString(run.output));
     const std::string file = figures["handoffFile"].toString().toStdString();
     const std::string damaged = folder.path() / "damaged\x1b[2J";
     std::ofstream(damaged) << std::ifstream(file).rdbuf() << "]";
-
     const auto shown = runHost({"show", damaged, file, folder.path(), file + "x", file});
     std::filesystem::remove(file);
     EXPECT_EQ(shown.exitStatus, 1);
     EXPECT_EQ(std::ranges::count(shown.errors, '\n'), 3) << shown.errors;
     EXPECT_EQ(shown.errors.find('\x1b'), std::string::npos);
-    const QString text = QString::fromStdString(shown.output);
     const QJsonValue write = figures["sequentialWrite"];
-    EXPECT_EQ(text.count(" peak " + Format::rate(write["peakBytesPerSecond"].toDouble())), 2) << shown.output;
-    EXPECT_EQ(text.count("\nWrite         " + Format::rate(write["sustainedBytesPerSecond"].toDouble())), 2);
-    EXPECT_EQ(text.count(Format::compact(figures["fileOps"]["create"]["opsPerSecond"].toDouble()) + " ops/s"),
-              2);
+    const QString line = "\nWrite         " + Format::rate(write["sustainedBytesPerSecond"].toDouble()) +
+                         " · peak " + Format::rate(write["peakBytesPerSecond"].toDouble());
+    EXPECT_EQ(QString::fromStdString(shown.output).count(line), 2) << shown.output;
 }
 
 TEST(Show, KeepsAnyTitleOnItsLineAndWithinTheTerminal) {
@@ -54,10 +48,9 @@ TEST(Show, KeepsAnyTitleOnItsLineAndWithinTheTerminal) {
         for (const int columns : {24, 40, 79}) {
             const QString text = runTexts(runs, {.columns = columns});
             EXPECT_TRUE(text.contains(u"\n1 █ ")) << "a value above 0 is seen";
-            EXPECT_TRUE(text.contains(QRegularExpression("\n3 +--"))) << text.toStdString();
+            EXPECT_TRUE(text.contains(" --  ")) << text.toStdString();
             for (const QString& line : text.split('\n')) {
                 EXPECT_LE(columnsOf(line), columns) << line.toStdString();
-                EXPECT_LT(line.size(), 200);
                 EXPECT_EQ(harmless(line), line) << line.toStdString();
             }
         }
