@@ -20,8 +20,7 @@ TEST(ComparisonChart, ShowsTheMetricsThatARunHas) {
         return list;
     };
     RunRecord random;
-    random.randomWriteIOPS = 1;
-    random.fileOpsPerSec = 1;
+    random.randomWriteIOPS = random.fileOpsPerSec = 1;
     EXPECT_EQ(labels({}), QStringList());
     EXPECT_EQ(labels({RunRecord(), random, writing(0)}),
               QStringList({"Write MB/s", "Random write IOPS", "File ops ops/s"}));

@@ -12,6 +12,7 @@ namespace TarnwickKit::model {
 namespace {
 
 const UserLocale english{"en_US", "en_US"};
+const QDateTime noon(QDate(2024, 5, 1), QTime(12, 34, 56), Qt::UTC);
 constexpr std::int64_t GiB = 1073741824;
 constexpr std::int64_t TiB = 1024 * GiB;
 constexpr double infinite = std::numeric_limits<double>::infinity();
@@ -38,6 +39,7 @@ TEST(Formatter, Sizes) {
         {format.block(TiB), "1024 GiB"},
         {format.block(-4096), "-4096 B"},
         {format.block(std::numeric_limits<std::int64_t>::max()), "8589934592 GiB"},
+        {title(OndelCore::benchmark::BenchmarkTest::randomWrite, 65536), "Random write (64 KiB)"},
         {format.bytes(1023), "1023 B"},
         {format.bytes(1024), "1.0 KiB"},
         {format.bytes(5 * GiB), "5.0 GiB"},
@@ -72,25 +74,19 @@ TEST(Formatter, RatesAndCounts) {
 }
 
 TEST(Formatter, FollowsTheLocalesMarks) {
-    const Formatter german({"de_DE", "de_DE"});
-    const Formatter french({"fr_FR", "fr_FR"});
-    const Formatter polish({"pl_PL", "pl_PL"});
-    const Formatter indian({"en_IN", "en_IN"});
-    const Formatter arabic({"ar_EG", "ar_EG"});
+    const auto in = [](const char* locale) { return Formatter({locale, locale}); };
     expectAll({
-        {german.bytes(3 * GiB / 2), "1,5 GiB"},
-        {german.block(4096), "4 KiB"},
-        {german.grouped(1234567), "1.234.567"},
-        {french.grouped(1234567), "1\u00A0234\u00A0567"},
-        {polish.grouped(1234), "1234"},
-        {indian.grouped(1234567), "12,34,567"},
-        {arabic.compact(12345), "١٢٫٣k"},
-        {arabic.block(1048576), "1 MiB"},
+        {in("de_DE").bytes(3 * GiB / 2), "1,5 GiB"},
+        {in("de_DE").grouped(1234567), "1.234.567"},
+        {in("fr_FR").grouped(1234567), "1\u00A0234\u00A0567"},
+        {in("pl_PL").grouped(1234), "1234"},
+        {in("en_IN").grouped(1234567), "12,34,567"},
+        {in("ar_EG").compact(12345), "١٢٫٣k"},
+        {in("ar_EG").block(1048576), "1 MiB"},
     });
 }
 
 TEST(Formatter, Stamps) {
-    const QDateTime noon(QDate(2024, 5, 1), QTime(12, 34, 56), Qt::UTC);
     const QTimeZone utc = QTimeZone::utc();
     const QTimeZone tokyo("Asia/Tokyo");
     expectAll({
@@ -104,23 +100,21 @@ TEST(Formatter, Stamps) {
 }
 
 TEST(Formatter, UsesTheMachinesZoneWhenNoneIsGiven) {
-    const QDateTime noon(QDate(2024, 5, 1), QTime(12, 34, 56), Qt::UTC);
-    setenv("TZ", "XYZ-5:30", 1);
-    tzset();
-    EXPECT_EQ(Formatter(english).shortStamp(noon), "May 1 · 6:04 PM");
-    setenv("TZ", "UTC", 1);
-    tzset();
-    EXPECT_EQ(Formatter(english).shortStamp(noon), "May 1 · 12:34 PM");
+    for (const auto& [zone, stamp] :
+         {std::pair("XYZ-5:30", "May 1 · 6:04 PM"), {"UTC", "May 1 · 12:34 PM"}}) {
+        setenv("TZ", zone, 1);
+        tzset();
+        EXPECT_EQ(Formatter(english).shortStamp(noon), stamp);
+    }
 }
 
 TEST(FormatterDeathTest, StopsAtFiguresNoIntegerHolds) {
     const Formatter format(english);
-    const QDateTime any(QDate(2024, 5, 1), QTime(12, 0), Qt::UTC);
     EXPECT_DEATH(format.grouped(infinite), "not finite");
     EXPECT_DEATH(format.mbValue(notANumber), "not finite");
     EXPECT_DEATH(format.mbValue(1e25), "64 bits");
     EXPECT_DEATH(format.grouped(9223372036854775808.0), "64 bits");
-    EXPECT_DEATH(format.runStamp(any, -infinite), "not finite");
+    EXPECT_DEATH(format.runStamp(noon, -infinite), "not finite");
     EXPECT_EQ(format.grouped(-9223372036854775808.0), "-9,223,372,036,854,775,808");
 }
 
@@ -139,21 +133,15 @@ TEST(UserLocale, TakesTheFirstVariableThatSaysSomething) {
 }
 
 TEST(UserLocale, ReadsPosixNames) {
-    const std::pair<const char*, const char*> names[] = {
-        {"de_DE@euro", "de_DE"},
-        {"pt_BR.ISO-8859-1", "pt_BR"},
-        {"sr_RS@latin", "sr_Latn_RS"},
-        {"eo", "eo"},
-        {"POSIX", "en_US"},
-        {"%%&/_", "en_US"},
-        {"xx_YY", "en_US"},
-    };
+    const std::pair<const char*, const char*> names[] = {{"de_DE@euro", "de_DE"},
+                                                         {"pt_BR.ISO-8859-1", "pt_BR"},
+                                                         {"sr_RS@latin", "sr_Latn_RS"},
+                                                         {"eo", "eo"},
+                                                         {"POSIX", "en_US"},
+                                                         {"%%&/_", "en_US"},
+                                                         {"xx_YY", "en_US"}};
     for (const auto& [posix, icu] : names)
         EXPECT_EQ(OndelCore::platform::icuLocaleName(posix), icu) << posix;
-}
-
-TEST(BenchmarkTestTitle, NamesTheRandomBlock) {
-    EXPECT_EQ(title(OndelCore::benchmark::BenchmarkTest::randomWrite, 65536), "Random write (64 KiB)");
 }
 
 } // namespace

@@ -68,6 +68,16 @@ TEST_F(History, KeepsTheNewestRunsAcrossRestarts) {
         EXPECT_EQ(store.runs()[index].id, ids[index]);
     EXPECT_EQ(stored(), store.runs());
     EXPECT_EQ(fs::status(file).permissions() & fs::perms::others_all, fs::perms::none);
+
+    // A file of more is taken as it is until the next run.
+    QByteArray sixty;
+    for (int count = 0; count < 60; ++count)
+        sixty += (count ? "," : "[") + *encodeRun(fullRun(1));
+    put(file, sixty + "]");
+    HistoryStore larger(folder.path());
+    EXPECT_EQ(larger.runs().size(), 60u);
+    larger.add(fullRun(1));
+    EXPECT_EQ(larger.runs().size(), 50u);
 }
 
 TEST_F(History, ChangesTheFileOnlyWhenToldTo) {
@@ -96,17 +106,6 @@ TEST_F(History, ChangesTheFileOnlyWhenToldTo) {
     store.clear();
     EXPECT_EQ(readRunFile(file), "[]");
     EXPECT_EQ(announced, 5);
-}
-
-TEST_F(History, LoadsMoreThanItsLimitUntilTheNextRun) {
-    QByteArray sixty;
-    for (int count = 0; count < 60; ++count)
-        sixty += (count ? "," : "[") + *encodeRun(fullRun(1));
-    put(file, sixty + "]");
-    HistoryStore store(folder.path());
-    EXPECT_EQ(store.runs().size(), 60u);
-    store.add(fullRun(1));
-    EXPECT_EQ(store.runs().size(), 50u);
 }
 
 TEST_F(History, KeepsAFileThatItCannotRead) {
@@ -144,10 +143,8 @@ TEST_F(History, KeepsAFileThatItCannotRead) {
 
 TEST_F(History, NeverWritesWhatItCouldNotReadAgain) {
     HistoryStore store(folder.path());
-    RunRecord own = fullRun();
-    RunRecord largeCurves = fullRun(100000);
-    RunRecord largeTexts = fullRun();
-    RunRecord unwritable = fullRun();
+    const RunRecord own = fullRun(), largeCurves = fullRun(100000);
+    RunRecord largeTexts = fullRun(), unwritable = fullRun();
     largeTexts.volumeName = QString(9 * 1024 * 1024, 'x');
     unwritable.writeBps = std::numeric_limits<double>::infinity();
     for (const RunRecord& run : {own, largeCurves, largeTexts, unwritable, own})
@@ -162,19 +159,20 @@ TEST_F(History, NeverWritesWhatItCouldNotReadAgain) {
 }
 
 TEST_F(History, ForgivesAFolderThatCannotBe) {
-    put(folder.path() / "occupied", "");
-    HistoryStore store(folder.path() / "occupied");
+    put(file, "");
+    HistoryStore store(file);
     store.add(fullRun(2));
     EXPECT_EQ(store.runs().size(), 1u);
 }
 
-/// Runs `work` in a process of its own that never comes back from it.
+/// Runs `work`, and nothing after it, in a process of its own.
 pid_t inChild(const std::function<void()>& work) {
     const pid_t child = fork();
-    if (child != 0)
-        return child;
-    work();
-    _exit(1);
+    if (child == 0) {
+        work();
+        _exit(0);
+    }
+    return child;
 }
 
 TEST_F(History, SurvivesBeingKilledInTheMiddleOfASave) {
@@ -190,7 +188,7 @@ TEST_F(History, SurvivesBeingKilledInTheMiddleOfASave) {
                 if (store.runs().size() < 20)
                     store.add(fullRun());
                 if (write(saves[1], "", 1) != 1)
-                    _exit(1);
+                    return;
             }
         });
         char one = 0;
@@ -221,7 +219,6 @@ TEST_F(History, TwoWritersNeverTearTheFile) {
             HistoryStore store(folder.path());
             for (int saves = 0; saves < 30; ++saves)
                 store.save();
-            _exit(0);
         });
     }
     int status = 0;

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
 #include "support/TemporaryFolder.h"
 
 #include <QCoreApplication>
 #include <QPromise>
+
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <memory>
@@ -39,6 +42,9 @@ struct Engine {
 
     Call& last() { return *calls.back(); }
 
+    /// Starts the model's next run and waits until it has come here.
+    void begin(AnalyzerModel& model);
+
     AnalyzerServices services() {
         AnalyzerServices services;
         services.runBenchmark = [this](BenchmarkPlan plan, std::filesystem::path folder, auto progress,
@@ -63,6 +69,16 @@ struct Engine {
 inline void turnUntil(const std::function<bool()>& done) {
     while (!done())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+inline void turnUntilEnded(const AnalyzerModel& model) {
+    turnUntil([&] { return !model.isRunning(); });
+}
+
+inline void Engine::begin(AnalyzerModel& model) {
+    const std::size_t before = calls.size();
+    model.start();
+    turnUntil([&] { return calls.size() > before; });
 }
 
 } // namespace TarnwickKit::model
