@@ -8,6 +8,7 @@
 namespace fs = std::filesystem;
 
 AppDelegate::AppDelegate() {
+    m_model.setDialogs(&m_dialogs);
     // The reply follows the wait whatever the run's outcome was.
     connect(&m_end, &QFutureWatcher<void>::finished, this, [] { QCoreApplication::exit(0); });
 

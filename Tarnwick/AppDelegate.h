@@ -1,9 +1,11 @@
 #pragma once
 
 #include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/views/Dialogs.h"
 
 #include <QFutureWatcher>
 #include <QObject>
+#include <QWindow>
 #include <QtQml/qqmlregistration.h>
 
 #include <filesystem>
@@ -25,10 +27,14 @@ public:
     /// for, the window stays alive meanwhile, and further requests change nothing.
     Q_INVOKABLE void terminate();
 
+    /// The window over which dialogs open. Owner: the caller.
+    Q_INVOKABLE void setWindow(QWindow* window) { m_dialogs.setWindow(window); }
+
     /// Makes the folder the target. Fails: false, and nothing changes, when it is no folder.
     bool select(const std::filesystem::path& folder);
 
 private:
+    TarnwickKit::views::Dialogs m_dialogs;
     TarnwickKit::model::AnalyzerModel m_model;
     QFutureWatcher<void> m_end;
     bool m_terminating = false;

@@ -9,13 +9,14 @@ Window {
     required property AppDelegate delegate
 
     title: "Ondel Tarnwick"
-    width: 1080
-    height: 720
+    width: 1180
+    height: 780
     minimumWidth: view.leastWidth
     minimumHeight: view.leastHeight
     visible: true
     color: view.color
 
+    Component.onCompleted: delegate.setWindow(window)
     onClosing: close => {
         close.accepted = false;
         delegate.terminate();
@@ -28,7 +29,7 @@ Window {
         analyzer: window.delegate.model
     }
     Shortcut {
-        sequences: [StandardKey.Quit]
+        sequences: ["Ctrl+Q"]
         onActivated: window.delegate.terminate()
     }
 }

@@ -1,3 +1,5 @@
+#include "OndelAppSupport/AppIdentity.h"
+#include "OndelAppSupport/LaunchLog.h"
 #include "OndelCore/platform/GraphicsDevice.h"
 #include "Tarnwick/AppDelegate.h"
 #include "TarnwickKit/views/TarnwickFonts.h"
@@ -6,6 +8,7 @@
 #include <QFont>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -66,6 +69,8 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     qInstallMessageHandler(previous);
     application.setApplicationName(QStringLiteral("Ondel Tarnwick"));
+    application.setOrganizationName(
+        QStringLiteral("Ondel")); // names the settings file together with the line above
     application.setApplicationVersion(QStringLiteral(ONDEL_VERSION));
     application.setDesktopFileName(QStringLiteral("tools.ondel.tarnwick"));
     application.setQuitOnLastWindowClosed(false); // AppDelegate decides
@@ -75,6 +80,7 @@ int main(int argc, char** argv) {
         std::fputs(usage, stderr);
         return 2;
     }
+    OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
     TarnwickKit::views::TarnwickFonts::registerFrom();
     application.setFont(TarnwickKit::views::TarnwickFonts::applicationFont());
 
@@ -88,5 +94,6 @@ int main(int argc, char** argv) {
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml")));
     if (engine.rootObjects().isEmpty())
         return EXIT_FAILURE;
+    QTimer::singleShot(0, [] { OndelAppSupport::startLogging(); });
     return QApplication::exec();
 }

@@ -5,13 +5,17 @@ import TarnwickKit.views
 SettingMenu {
     id: menu
 
-    required property list<double> values
-    required property double bytes
+    required property list<double> sizes
+    required property double size
 
     signal picked(size: double)
 
-    options: values.map(size => Format.block(size))
-    current: values.indexOf(bytes)
-    value: Format.block(bytes)
-    onChosen: index => picked(values[index])
+    current: {
+        let at = sizes.length - 1;
+        while (at >= 0 && sizes[at] !== size)
+            --at;
+        return at;
+    }
+    value: Format.block(size)
+    onChosen: index => picked(sizes[index])
 }

@@ -38,4 +38,12 @@ Card {
             color: PaletteKey.palette.borderSoft
         }
     }
+    // Above what reaches to the card's sides.
+    Card {
+        z: 1
+        width: frame.width
+        height: frame.height
+        radius: frame.radius
+        outline: frame.outline
+    }
 }

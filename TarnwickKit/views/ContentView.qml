@@ -2,16 +2,23 @@ import QtQuick
 import QtQuick.Layouts
 import TarnwickKit.views
 
+/// The whole of the window: the toolbar, the sidebar, and the pane that shows the runs.
 Rectangle {
     id: content
 
     required property AnalyzerModel analyzer
+    property alias sidebarFooter: sidebar.footer
 
     PaletteKey.palette: Appearance.palette
     color: PaletteKey.palette.bg
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
+    TargetFacts {
+        id: target
+
+        analyzer: content.analyzer
+    }
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
@@ -19,6 +26,7 @@ Rectangle {
         ToolbarView {
             Layout.fillWidth: true
             analyzer: content.analyzer
+            target: target
         }
         Rule {
             Layout.fillWidth: true
@@ -28,9 +36,12 @@ Rectangle {
             spacing: 0
 
             SidebarView {
+                id: sidebar
+
                 Layout.preferredWidth: 272
                 Layout.fillHeight: true
                 analyzer: content.analyzer
+                target: target
             }
             Rule {
                 Layout.fillHeight: true
@@ -40,6 +51,7 @@ Rectangle {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 analyzer: content.analyzer
+                target: target
             }
         }
     }

@@ -1,9 +1,10 @@
 import QtQuick
+import QtQuick.Templates as T
 import TarnwickKit.views
 
 /// Marks the control that the keyboard would act on, just outside its edge.
 Rectangle {
-    required property Item control
+    required property T.Control control
     property real corner: 10
 
     anchors.fill: control

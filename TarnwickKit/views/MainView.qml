@@ -1,15 +1,25 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import TarnwickKit.views
 
-/// The main pane: what it shows follows from the model's phase alone.
+/// The main pane: what it shows follows from the model's state alone.
 Rectangle {
     id: main
 
     required property AnalyzerModel analyzer
-    readonly property string volumeName: analyzer.targetFolder.replace(/^.*\/(?=.)/, "")
+    required property TargetFacts target
+    readonly property bool showsRun: runs.hasCurrentRun
+                                     && (analyzer.phase === AnalyzerModel.Idle || analyzer.phase === AnalyzerModel.Done)
+    readonly property bool showsIdle: !runs.hasCurrentRun && analyzer.phase === AnalyzerModel.Idle
 
     color: PaletteKey.palette.body
 
+    StoredRuns {
+        id: runs
+
+        analyzer: main.analyzer
+    }
     ScrollPane {
         anchors.fill: parent
 
@@ -20,47 +30,59 @@ Rectangle {
             bottomPadding: 20
             spacing: 20
 
-            Loader {
-                width: parent.width
-                sourceComponent: {
-                    switch (main.analyzer.phase) {
-                    case AnalyzerModel.Running: return live;
-                    case AnalyzerModel.Failed: return failure;
-                    default: return main.analyzer.hasResult ? result : idle;
-                    }
+            // Each pane is there only while its state holds; a repeater of one or none makes and unmakes it.
+            Repeater {
+                model: main.showsIdle ? 1 : 0
+
+                IdleCard {
+                    width: parent.width
+                    analyzer: main.analyzer
                 }
             }
-        }
-    }
+            Repeater {
+                model: main.analyzer.isRunning ? 1 : 0
 
-    Component {
-        id: idle
+                LiveRunPane {
+                    width: parent.width
+                    analyzer: main.analyzer
+                    volumeName: main.target.volumeName || qsTr("Volume")
+                }
+            }
+            Repeater {
+                model: main.analyzer.phase === AnalyzerModel.Failed ? 1 : 0
 
-        IdleCard {
-            analyzer: main.analyzer
-        }
-    }
-    Component {
-        id: live
+                FailureBanner {
+                    width: parent.width
+                    message: main.analyzer.failureMessage
+                }
+            }
+            Repeater {
+                model: main.showsRun && !main.analyzer.currentRunCollapsed ? 1 : 0
 
-        LiveRunPane {
-            analyzer: main.analyzer
-            volumeName: main.volumeName
-        }
-    }
-    Component {
-        id: failure
+                ExpandedRunPane {
+                    width: parent.width
+                    analyzer: main.analyzer
+                    run: runs.currentRun
+                    onCollapse: main.analyzer.currentRunCollapsed = true
+                    onRemove: main.analyzer.deleteRun(facts.id)
+                }
+            }
+            Repeater {
+                model: main.showsRun && main.analyzer.currentRunCollapsed ? 1 : 0
 
-        FailureBanner {
-            message: main.analyzer.failureMessage
-        }
-    }
-    Component {
-        id: result
-
-        ResultPane {
-            analyzer: main.analyzer
-            volumeName: main.volumeName
+                CollapsedRunView {
+                    width: parent.width
+                    run: runs.currentRun
+                    onClicked: main.analyzer.currentRunCollapsed = false
+                    onRemove: main.analyzer.deleteRun(facts.id)
+                }
+            }
+            PreviousRunsSection {
+                width: parent.width
+                visible: runs.count > 0
+                analyzer: main.analyzer
+                runs: runs
+            }
         }
     }
 }

@@ -4,6 +4,7 @@
 #include "TarnwickKit/model/AnalyzerModel.h"
 #include "TarnwickKit/model/Format.h"
 
+#include <QAbstractListModel>
 #include <QObject>
 #include <QQmlEngine>
 
@@ -15,6 +16,18 @@ struct AnalyzerModelType {
     QML_FOREIGN(TarnwickKit::model::AnalyzerModel)
     QML_NAMED_ELEMENT(AnalyzerModel)
     QML_UNCREATABLE("The application owns the one model and hands it to its views.")
+};
+
+// No module that these views import tells what a list's base classes are.
+struct AbstractItemModelType {
+    Q_GADGET
+    QML_FOREIGN(QAbstractItemModel)
+    QML_ANONYMOUS
+};
+struct AbstractListModelType {
+    Q_GADGET
+    QML_FOREIGN(QAbstractListModel)
+    QML_ANONYMOUS
 };
 
 /// Format, for QML. Units: bytes and bytes per second, exact to 2^53.

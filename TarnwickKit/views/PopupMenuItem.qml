@@ -7,17 +7,20 @@ T.MenuItem {
     id: item
 
     property string symbol: ""
+    /// The mark of the choice that holds, in a menu that offers one of several.
     property bool chosen: false
+    property bool isHeading: false
+    property bool destructive: false
 
     implicitWidth: row.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(28, row.implicitHeight + topPadding + bottomPadding)
+    implicitHeight: Math.max(isHeading ? 24 : 28, row.implicitHeight + topPadding + bottomPadding)
     horizontalPadding: 10
-    verticalPadding: 5
+    verticalPadding: isHeading ? 3 : 5
     hoverEnabled: true
+    enabled: !isHeading
 
-    Accessible.role: Accessible.MenuItem
+    Accessible.role: isHeading ? Accessible.Heading : Accessible.MenuItem
     Accessible.name: text
-    Accessible.checkable: checkable
     Accessible.checked: chosen
     Accessible.onPressAction: if (item.enabled) item.clicked()
 
@@ -29,7 +32,7 @@ T.MenuItem {
         Symbol {
             Layout.preferredWidth: 16
             Layout.alignment: Qt.AlignVCenter
-            visible: item.symbol.length > 0 || item.checkable
+            visible: name.length > 0 || item.checkable
             name: item.symbol.length > 0 ? item.symbol : item.chosen ? "checkmark" : ""
             size: 11
             color: PaletteKey.palette.text2
@@ -37,9 +40,10 @@ T.MenuItem {
         Text {
             Layout.fillWidth: true
             text: item.text
-            font: Typeface.text(13)
-            color: PaletteKey.palette.text
-            opacity: item.enabled ? 1 : 0.5
+            textFormat: Text.PlainText
+            font: item.isHeading ? Typeface.text(11, Font.DemiBold) : Typeface.text(13)
+            color: item.isHeading ? PaletteKey.palette.text3
+                                  : item.destructive ? PaletteKey.palette.coralink : PaletteKey.palette.text
             elide: Text.ElideRight
             maximumLineCount: 1
             Accessible.ignored: true

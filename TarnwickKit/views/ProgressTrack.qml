@@ -10,7 +10,8 @@ T.ProgressBar {
 
     implicitHeight: 6
     Accessible.role: Accessible.ProgressBar
-    Accessible.name: label
+    // The toolkit tells assistive technology no value of a progress bar, so it is part of its name.
+    Accessible.name: qsTr("%1: %2 %").arg(label).arg(Math.floor(100 * position))
 
     background: Rectangle {
         radius: height / 2

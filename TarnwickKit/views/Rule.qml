@@ -1,5 +1,4 @@
 import QtQuick
-import TarnwickKit.views
 
 /// A hairline of one logical pixel.
 Rectangle {

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
 import TarnwickKit.views
@@ -6,7 +8,7 @@ import TarnwickKit.views
 RowLayout {
     id: headline
 
-    required property runFigures run
+    required property runFacts facts
 
     spacing: 0
 
@@ -15,9 +17,9 @@ RowLayout {
         Layout.preferredWidth: 1
         label: qsTr("Sequential Write")
         dot: PaletteKey.palette.coral
-        value: headline.run.writeBps
-        peak: headline.run.writePeakBps
-        least: headline.run.writeMinBps
+        value: headline.facts.writeBps
+        peak: headline.facts.writePeakBps
+        least: headline.facts.writeMinBps
     }
     Rule {
         Layout.fillHeight: true
@@ -28,9 +30,9 @@ RowLayout {
         Layout.preferredWidth: 1
         label: qsTr("Sequential Read")
         dot: PaletteKey.palette.teal
-        value: headline.run.readBps
-        peak: headline.run.readPeakBps
-        least: headline.run.readMinBps
+        value: headline.facts.readBps
+        peak: headline.facts.readPeakBps
+        least: headline.facts.readMinBps
     }
     Rule {
         Layout.fillHeight: true
@@ -44,20 +46,16 @@ RowLayout {
         bottomPadding: 17
         spacing: 9
 
-        MiniStat {
-            width: 180
-            label: qsTr("Random %1 read").arg(Format.block(headline.run.randomBlock))
-            value: isNaN(headline.run.randomReadIOPS) ? "" : Format.grouped(headline.run.randomReadIOPS) + " IOPS"
-        }
-        MiniStat {
-            width: 180
-            label: qsTr("Random %1 write").arg(Format.block(headline.run.randomBlock))
-            value: isNaN(headline.run.randomWriteIOPS) ? "" : Format.grouped(headline.run.randomWriteIOPS) + " IOPS"
-        }
-        MiniStat {
-            width: 180
-            label: qsTr("File operations")
-            value: isNaN(headline.run.fileOpsPerSec) ? "" : Format.grouped(headline.run.fileOpsPerSec) + " /s"
+        Repeater {
+            model: headline.facts.minor
+
+            MiniStat {
+                required property infoItem modelData
+
+                width: 180
+                label: modelData.label
+                value: modelData.value
+            }
         }
     }
 }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
 import TarnwickKit.views
@@ -7,7 +9,8 @@ RowLayout {
     id: setting
 
     required property string label
-    required property list<string> options
+    /// The labels, a QStringList.
+    required property var options
     required property int current
     property string value: options[current] ?? ""
 

@@ -6,9 +6,6 @@ Column {
 
     required property AnalyzerModel analyzer
 
-    readonly property list<double> blockSizes: [4096, 65536, 262144, 1048576, 4194304]
-    readonly property list<double> randomBlockSizes: [4096, 8192, 16384, 65536]
-
     spacing: 9
 
     SettingMenu {
@@ -21,22 +18,25 @@ Column {
     BlockMenu {
         width: parent.width
         label: qsTr("Write block")
-        values: block.blockSizes
-        bytes: block.analyzer.writeBlock
+        options: block.analyzer.blockLabels
+        sizes: block.analyzer.blockValues
+        size: block.analyzer.writeBlock
         onPicked: size => block.analyzer.writeBlock = size
     }
     BlockMenu {
         width: parent.width
         label: qsTr("Read block")
-        values: block.blockSizes
-        bytes: block.analyzer.readBlock
+        options: block.analyzer.blockLabels
+        sizes: block.analyzer.blockValues
+        size: block.analyzer.readBlock
         onPicked: size => block.analyzer.readBlock = size
     }
     BlockMenu {
         width: parent.width
         label: qsTr("Random block")
-        values: block.randomBlockSizes
-        bytes: block.analyzer.randomBlock
+        options: block.analyzer.randomBlockLabels
+        sizes: block.analyzer.randomBlockSizes
+        size: block.analyzer.randomBlock
         onPicked: size => block.analyzer.randomBlock = size
     }
     ToggleSwitch {

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import TarnwickKit.views
 
@@ -6,11 +8,21 @@ Rectangle {
     id: sidebar
 
     required property AnalyzerModel analyzer
+    required property TargetFacts target
+    /// What always stands at the foot, if anything does.
+    property alias footer: foot.data
 
     color: PaletteKey.palette.sidebar
 
+    function holds(tests: var, test: string): bool {
+        return tests.includes(test);
+    }
+
     ScrollPane {
-        anchors.fill: parent
+        anchors.top: parent.top
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: inset.top
 
         Column {
             x: 16
@@ -35,7 +47,7 @@ Rectangle {
                         width: parent.width
                         title: sidebar.analyzer.testTitles[index]
                         figure: sidebar.analyzer.sidebarValues[index]
-                        chosen: sidebar.analyzer.selectedTests.includes(modelData)
+                        chosen: sidebar.holds(sidebar.analyzer.selectedTests, modelData)
                         onWanted: chosen => sidebar.analyzer.setTestSelected(modelData, chosen)
                     }
                 }
@@ -48,6 +60,27 @@ Rectangle {
                 width: parent.width
                 analyzer: sidebar.analyzer
             }
+            TargetSections {
+                width: parent.width
+                analyzer: sidebar.analyzer
+                target: sidebar.target
+            }
+        }
+    }
+    Item {
+        id: inset
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: foot.height > 0 ? foot.height + 28 : 0
+
+        Item {
+            id: foot
+
+            x: 16
+            y: 14
+            width: parent.width - 32
+            height: childrenRect.height
         }
     }
 }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import TarnwickKit.views
 
@@ -16,6 +18,8 @@ Item {
         model: 8
 
         Rectangle {
+            id: spoke
+
             required property int index
 
             x: spinner.width / 2 - 1
@@ -25,11 +29,11 @@ Item {
             radius: 1
             antialiasing: true
             color: PaletteKey.palette.text3
-            opacity: 1 - 0.75 * ((spinner.step - index + 8) % 8) / 7
+            opacity: 1 - 0.75 * ((spinner.step - spoke.index + 8) % 8) / 7
             transform: Rotation {
                 origin.x: 1
                 origin.y: spinner.height / 2
-                angle: index * 45
+                angle: spoke.index * 45
             }
         }
     }

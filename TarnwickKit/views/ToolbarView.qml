@@ -6,6 +6,7 @@ Rectangle {
     id: toolbar
 
     required property AnalyzerModel analyzer
+    required property TargetFacts target
 
     implicitHeight: row.implicitHeight + 22
     color: PaletteKey.palette.panel2
@@ -21,6 +22,7 @@ Rectangle {
         VolumeDropdown {
             Layout.maximumWidth: row.width - pill.implicitWidth - run.implicitWidth - 3 * row.spacing - 8
             analyzer: toolbar.analyzer
+            target: toolbar.target
         }
         Item {
             Layout.fillWidth: true

@@ -7,9 +7,11 @@ PlainButton {
     id: dropdown
 
     required property AnalyzerModel analyzer
+    required property TargetFacts target
     readonly property bool hasTarget: analyzer.targetFolder.length > 0
 
     label: qsTr("Volume")
+    hint: analyzer.targetFolder
     corner: 10
     leftPadding: 9
     rightPadding: 12
@@ -35,9 +37,10 @@ PlainButton {
         spacing: 11
 
         VolumeBadge {
-            symbol: "externaldrive"
-            color: dropdown.hasTarget ? PaletteKey.palette.teal2 : PaletteKey.palette.text3
-            endColor: dropdown.hasTarget ? PaletteKey.palette.blue : Qt.alpha(PaletteKey.palette.text3, 0.7)
+            symbol: dropdown.analyzer.selectedVolumeIcon
+            color: dropdown.hasTarget ? PaletteKey.palette.badgeStart(dropdown.target.volumeKind) : PaletteKey.palette.text3
+            endColor: dropdown.hasTarget ? PaletteKey.palette.badgeEnd(dropdown.target.volumeKind)
+                                         : Qt.alpha(PaletteKey.palette.text3, 0.7)
         }
         ColumnLayout {
             spacing: 1
@@ -46,7 +49,8 @@ PlainButton {
                 id: title
 
                 Layout.fillWidth: true
-                text: dropdown.hasTarget ? dropdown.analyzer.targetFolder.replace(/^.*\/(?=.)/, "") : qsTr("Select a volume")
+                text: dropdown.target.volumeName || qsTr("Select a volume")
+                textFormat: Text.PlainText
                 font: Typeface.display(14)
                 color: PaletteKey.palette.text
                 elide: Text.ElideRight
@@ -56,10 +60,11 @@ PlainButton {
                 id: subtitle
 
                 Layout.fillWidth: true
-                text: dropdown.hasTarget ? dropdown.analyzer.targetFolder : qsTr("No volume selected")
+                text: dropdown.target.volumeLine || qsTr("No volume selected")
+                textFormat: Text.PlainText
                 font: Typeface.mono(10.5)
                 color: PaletteKey.palette.text3
-                elide: Text.ElideMiddle
+                elide: Text.ElideRight
                 Accessible.ignored: true
             }
         }
@@ -75,6 +80,7 @@ PlainButton {
         id: menu
 
         analyzer: dropdown.analyzer
+        target: dropdown.target
         y: dropdown.height + 4
         leastWidth: dropdown.width
     }

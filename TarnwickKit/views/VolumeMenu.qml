@@ -1,21 +1,43 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import QtQuick.Templates as T
 import TarnwickKit.views
 
-/// Where to measure.
+/// Where to measure: a mounted volume, or any folder.
 PopupMenu {
     id: menu
 
     required property AnalyzerModel analyzer
+    required property TargetFacts target
 
+    // Asked anew each time, since volumes come and go.
+    onAboutToShow: volumes.model = target.mountedVolumes()
+
+    PopupMenuItem {
+        text: qsTr("Mounted volumes")
+        isHeading: true
+    }
+    Repeater {
+        id: volumes
+
+        PopupMenuItem {
+            required property volumeItem modelData
+
+            text: modelData.label
+            symbol: modelData.symbol
+            onTriggered: menu.analyzer.selectVolume(modelData.url)
+        }
+    }
+    T.MenuSeparator {
+        verticalPadding: 5
+        contentItem: Rule {
+            color: PaletteKey.palette.borderSoft
+        }
+    }
     PopupMenuItem {
         text: qsTr("Choose Folder…")
         symbol: "folder"
-        onTriggered: chooser.open(menu.parent.Window.window, menu.analyzer.targetFolder)
-    }
-
-    readonly property FolderChooser chooser: FolderChooser {
-        id: chooser
-
-        onChosen: folder => menu.analyzer.select(folder)
+        onTriggered: menu.analyzer.chooseFolder()
     }
 }

@@ -3,6 +3,7 @@ accessibility tree (AT-SPI), with the keyboard through xdotool."""
 
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -36,8 +37,8 @@ def enter_display(width=1400, height=1000):
             "GSETTINGS_BACKEND": "memory"}
         for name in ("NO_AT_BRIDGE", "WAYLAND_DISPLAY", "AT_SPI_BUS_ADDRESS"):
             env.pop(name, None)
-        with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24", "-dpi", "96", "-nolisten",
-                               "tcp"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as server:
+        with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24", "-dpi", "96", "-noreset",
+                               "-nolisten", "tcp"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as server:
             env["DISPLAY"] = ":" + server.stdout.readline().strip()
             done = subprocess.run(["dbus-run-session", "--", "/usr/bin/python3", *sys.argv], env=env)
             server.terminate()
@@ -138,8 +139,13 @@ class Window:
                 return
         raise Failure(f"{name!r} has no press action but {actions}")
 
-    def value(self, node):
-        return self.atspi.Value.get_current_value(node) / max(1, self.atspi.Value.get_maximum_value(node))
+    def progress(self, title):
+        """The percentage that the progress bar of a test tells; None while there is no such bar."""
+        for node, _ in self.nodes():
+            if node.get_role_name() == "progress bar" and self.shows(node, "SHOWING"):
+                told = re.fullmatch(re.escape(title) + r": (\d+) %", node.get_name())
+                return int(told.group(1)) if told else None
+        return None
 
     def id(self, title="Ondel Tarnwick"):
         def search():

@@ -1,0 +1,57 @@
+#include "TarnwickKit/views/Dialogs.h"
+
+#include <QFile>
+#include <QMessageBox>
+#include <QWindow>
+
+namespace fs = std::filesystem;
+
+namespace TarnwickKit::views {
+
+Dialogs::~Dialogs() { delete m_dialog; }
+
+QFileDialog* Dialogs::newFileDialog(const Chosen& chosen) {
+    auto* dialog = new QFileDialog;
+    QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [chosen](const QString& file) {
+        chosen(fs::path(QFile::encodeName(file).toStdString()));
+    });
+    return dialog;
+}
+
+void Dialogs::show(QDialog* dialog) {
+    delete m_dialog;
+    m_dialog = dialog;
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->winId(); // makes the window that gets the parent
+    dialog->windowHandle()->setTransientParent(m_window);
+    dialog->show();
+}
+
+void Dialogs::askForFolder(const QString& message, const QString& prompt,
+                           const std::optional<fs::path>& startingAt, Chosen chosen) {
+    QFileDialog* dialog = newFileDialog(chosen);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->setLabelText(QFileDialog::Accept, prompt);
+    dialog->setWindowTitle(message);
+    if (startingAt)
+        dialog->setDirectory(QFile::decodeName(startingAt->c_str()));
+    show(dialog);
+}
+
+void Dialogs::askForTextFile(const QString& proposedName, Chosen chosen) {
+    QFileDialog* dialog = newFileDialog(chosen);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setMimeTypeFilters({QStringLiteral("text/plain")});
+    dialog->setDefaultSuffix(QStringLiteral("txt"));
+    dialog->selectFile(proposedName);
+    show(dialog);
+}
+
+void Dialogs::showError(const QString& sentence) {
+    show(new QMessageBox(QMessageBox::Warning, QStringLiteral("Ondel Tarnwick"), sentence, QMessageBox::Ok));
+}
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "TarnwickKit/model/AnalyzerDialogs.h"
+
+#include <QFileDialog>
+#include <QPointer>
+
+class QWindow;
+
+namespace TarnwickKit::views {
+
+/// The model's questions, asked in the desktop's dialogs over the main window. None of them blocks.
+/// Threads: main. Needs a QApplication.
+class Dialogs : public model::AnalyzerDialogs {
+public:
+    ~Dialogs() override;
+
+    /// The window that dialogs belong to from now on. Owner: the caller.
+    void setWindow(QWindow* window) { m_window = window; }
+
+    void askForFolder(const QString& message, const QString& prompt,
+                      const std::optional<std::filesystem::path>& startingAt, Chosen chosen) override;
+    void askForTextFile(const QString& proposedName, Chosen chosen) override;
+    void showError(const QString& sentence) override;
+
+private:
+    QFileDialog* newFileDialog(const Chosen& chosen);
+    void show(QDialog* dialog);
+
+    QPointer<QWindow> m_window;
+    QPointer<QDialog> m_dialog;
+};
+
+} // namespace TarnwickKit::views

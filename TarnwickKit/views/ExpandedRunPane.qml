@@ -1,0 +1,87 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// A finished run at full size.
+CardFrame {
+    id: pane
+
+    required property AnalyzerModel analyzer
+    required property runRecord run
+    readonly property runFacts facts: Runs.facts(run)
+
+    signal collapse
+    signal remove
+
+    header: [
+        StatusDot {
+            color: PaletteKey.palette.goodDot
+        },
+        EditableRunTitle {
+            id: title
+
+            Layout.fillWidth: true
+            Layout.maximumWidth: implicitWidth
+            facts: pane.facts
+            onRenamed: text => pane.analyzer.renameRun(pane.facts.id, text)
+        },
+        CompleteBadge {},
+        Item {
+            Layout.fillWidth: true
+        },
+        Words {
+            text: pane.facts.stamp
+            font: Typeface.mono(11.5)
+            color: PaletteKey.palette.text3
+        },
+        IconButton {
+            label: qsTr("Delete Run")
+            symbol: "trash"
+            onClicked: pane.remove()
+        },
+        IconButton {
+            label: qsTr("Collapse")
+            symbol: "chevron.up"
+            onClicked: pane.collapse()
+        }
+    ]
+
+    RunHeadline {
+        Layout.fillWidth: true
+        facts: pane.facts
+    }
+    Rule {
+        Layout.fillWidth: true
+        color: PaletteKey.palette.borderSoft
+    }
+    RunChart {
+        Layout.fillWidth: true
+        run: pane.run
+    }
+    Rule {
+        Layout.fillWidth: true
+        color: PaletteKey.palette.borderSoft
+    }
+    RunCapturedStrip {
+        Layout.fillWidth: true
+        facts: pane.facts
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => menu.popup(point.position.x, point.position.y)
+    }
+    PopupMenu {
+        id: menu
+
+        PopupMenuItem {
+            text: qsTr("Rename Report…")
+            onTriggered: title.edit()
+        }
+        PopupMenuItem {
+            text: qsTr("Delete Run")
+            destructive: true
+            onTriggered: pane.remove()
+        }
+    }
+}

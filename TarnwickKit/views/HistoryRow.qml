@@ -1,0 +1,124 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// A saved run in the history.
+PlainButton {
+    id: row
+
+    required property runRecord run
+    readonly property runFacts facts: Runs.facts(run)
+    /// Without it the row is part of something else that is pressed as a whole.
+    property bool live: true
+
+    signal remove
+
+    label: facts.title
+    detail: facts.shortStamp + " · " + facts.connection
+    corner: 12
+    leftPadding: 16
+    rightPadding: 16
+    topPadding: 13
+    bottomPadding: 13
+    hoverEnabled: true
+
+    background: Card {
+        radius: 12
+        color: PaletteKey.palette.panel
+        outline: row.hovered ? Qt.alpha(PaletteKey.palette.teal, 0.6) : PaletteKey.palette.border
+    }
+    contentItem: RowLayout {
+        spacing: 12
+
+        Rectangle {
+            implicitWidth: 8
+            implicitHeight: 8
+            radius: 4
+            color: row.facts.isNetwork ? PaletteKey.palette.amber : PaletteKey.palette.goodDot
+        }
+        Card {
+            implicitWidth: 30
+            implicitHeight: 30
+            radius: 8
+            color: PaletteKey.palette.badgeStart(row.facts.kind)
+            endColor: PaletteKey.palette.badgeEnd(row.facts.kind)
+            diagonal: false
+
+            Card {
+                anchors.centerIn: parent
+                width: 12
+                height: 12
+                radius: 3
+                color: Qt.rgba(1, 1, 1, 0.85)
+            }
+        }
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 2
+
+            Text {
+                Layout.fillWidth: true
+                text: row.facts.title
+                textFormat: Text.PlainText
+                font: Typeface.display(14)
+                color: PaletteKey.palette.text
+                elide: Text.ElideRight
+                maximumLineCount: 1
+                Accessible.ignored: true
+            }
+            Text {
+                readonly property bool fits: whole.width <= width
+
+                Layout.fillWidth: true
+                text: fits ? whole.text : row.facts.shortStamp + "\n" + row.facts.connection
+                font: Typeface.mono(10.5)
+                color: PaletteKey.palette.text3
+                elide: Text.ElideRight
+                lineHeight: fits ? 1 : 1.07
+                Accessible.ignored: true
+
+                TextMetrics {
+                    id: whole
+
+                    text: row.detail
+                    font: Typeface.mono(10.5)
+                }
+            }
+        }
+        RunSummaryStat {
+            Layout.preferredWidth: 104
+            label: qsTr("Write")
+            value: row.facts.writeBps
+            dot: PaletteKey.palette.coral
+        }
+        RunSummaryStat {
+            Layout.preferredWidth: 104
+            label: qsTr("Read")
+            value: row.facts.readBps
+            dot: PaletteKey.palette.teal
+        }
+        DualSparkline {
+            implicitWidth: 96
+            implicitHeight: 34
+            run: row.run
+        }
+        PlainButton {
+            label: qsTr("Delete %1").arg(row.facts.title)
+            hint: qsTr("Delete this run")
+            corner: 4
+            enabled: row.live
+            onClicked: row.remove()
+
+            contentItem: Symbol {
+                name: "trash"
+                size: 11
+                color: PaletteKey.palette.text3
+            }
+        }
+        Symbol {
+            name: "chevron.down"
+            size: 11
+            color: PaletteKey.palette.text3
+        }
+    }
+}

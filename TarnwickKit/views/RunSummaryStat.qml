@@ -1,0 +1,52 @@
+import QtQuick
+import TarnwickKit.views
+
+/// A rate in a row of runs. Units: bytes per second; not a number where there is none.
+Column {
+    id: stat
+
+    required property string label
+    required property color dot
+    required property real value
+
+    spacing: 2
+    Accessible.role: Accessible.StaticText
+    Accessible.name: label + ": " + figure.text + " MB/s"
+
+    Row {
+        spacing: 6
+
+        Card {
+            anchors.verticalCenter: parent.verticalCenter
+            width: 8
+            height: 8
+            radius: 2
+            color: stat.dot
+        }
+        Text {
+            text: stat.label
+            font: Typeface.text(11)
+            color: PaletteKey.palette.text2
+            Accessible.ignored: true
+        }
+    }
+    Row {
+        spacing: 3
+
+        Text {
+            id: figure
+
+            text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)
+            font: Typeface.figures(18)
+            color: PaletteKey.palette.text
+            Accessible.ignored: true
+        }
+        Text {
+            anchors.baseline: figure.baseline
+            text: "MB/s"
+            font: Typeface.text(11)
+            color: PaletteKey.palette.text3
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,87 @@
+#include "TarnwickKit/views/StoredRuns.h"
+
+#include <algorithm>
+
+namespace TarnwickKit::views {
+
+using model::AnalyzerModel;
+using model::RunRecord;
+
+void StoredRuns::setAnalyzer(AnalyzerModel* analyzer) {
+    if (analyzer == m_analyzer)
+        return;
+    if (m_analyzer)
+        disconnect(m_analyzer, nullptr, this, nullptr);
+    m_analyzer = analyzer;
+    if (m_analyzer) {
+        connect(m_analyzer, &AnalyzerModel::previousRunsChanged, this, &StoredRuns::refresh);
+        connect(m_analyzer, &AnalyzerModel::currentRunChanged, this, &StoredRuns::currentRunChanged);
+        connect(m_analyzer, &AnalyzerModel::expandedRunIDsChanged, this, [this] { announce(ExpandedRole); });
+        connect(m_analyzer, &AnalyzerModel::compareSelectionChanged, this, [this] { announce(PickedRole); });
+    }
+    refresh();
+    Q_EMIT analyzerChanged();
+    Q_EMIT currentRunChanged();
+}
+
+QVariant StoredRuns::data(const QModelIndex& index, int role) const {
+    const RunRecord& run = m_runs.at(static_cast<std::size_t>(index.row()));
+    switch (role) {
+    case RunRole:
+        return QVariant::fromValue(run);
+    case ExpandedRole:
+        return m_analyzer && m_analyzer->expandedRunIDs().contains(run.id);
+    case PickedRole:
+        return m_analyzer && m_analyzer->compareSelection().contains(run.id);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> StoredRuns::roleNames() const {
+    return {{RunRole, "run"}, {ExpandedRole, "expanded"}, {PickedRole, "picked"}};
+}
+
+void StoredRuns::removeAllBut(const std::vector<RunRecord>& runs) {
+    for (int row = count() - 1; row >= 0; --row) {
+        const QUuid id = m_runs[static_cast<std::size_t>(row)].id;
+        if (std::ranges::find(runs, id, &RunRecord::id) != runs.end())
+            continue;
+        beginRemoveRows({}, row, row);
+        m_runs.erase(m_runs.begin() + row);
+        endRemoveRows();
+    }
+}
+
+void StoredRuns::refresh() {
+    std::vector<RunRecord> now = m_analyzer ? m_analyzer->previousRuns() : std::vector<RunRecord>{};
+    const int before = count();
+    removeAllBut(now);
+    for (std::size_t row = 0; row < now.size(); ++row) {
+        const int at = static_cast<int>(row);
+        if (row < m_runs.size() && m_runs[row].id == now[row].id) {
+            if (m_runs[row] == now[row])
+                continue;
+            m_runs[row] = now[row];
+            Q_EMIT dataChanged(index(at), index(at), {RunRole});
+        } else if (std::ranges::find(m_runs, now[row].id, &RunRecord::id) == m_runs.end()) {
+            beginInsertRows({}, at, at);
+            m_runs.insert(m_runs.begin() + at, now[row]);
+            endInsertRows();
+        } else { // in another order, which a history never takes by itself
+            beginResetModel();
+            m_runs = std::move(now);
+            endResetModel();
+            break;
+        }
+    }
+    if (count() != before)
+        Q_EMIT countChanged();
+}
+
+void StoredRuns::announce(Role role) {
+    if (!m_runs.empty())
+        Q_EMIT dataChanged(index(0), index(count() - 1), {role});
+}
+
+} // namespace TarnwickKit::views
