@@ -12,8 +12,9 @@ namespace TarnwickKit::views {
 
 namespace {
 
-/// A tile's picture, laid out as up to nine pieces.
-class CardNode final : public QSGNode {
+/// A tile's picture, laid out as up to nine pieces. It is a transform, though of nothing, because the
+/// software renderer knows the place of pieces that come later only by a parent of that kind.
+class CardNode final : public QSGTransformNode {
 public:
     void show(const CardTile& tile, QSize card, double scale, QQuickWindow& window) {
         if (tile.image.cacheKey() != m_shown || !m_texture) {

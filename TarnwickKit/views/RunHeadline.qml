@@ -39,7 +39,6 @@ RowLayout {
         color: PaletteKey.palette.borderSoft
     }
     Column {
-        Layout.preferredWidth: 220
         leftPadding: 20
         rightPadding: 20
         topPadding: 17
@@ -52,7 +51,7 @@ RowLayout {
             MiniStat {
                 required property infoItem modelData
 
-                width: 180
+                width: 220
                 label: modelData.label
                 value: modelData.value
             }

@@ -53,7 +53,7 @@ Rectangle {
                 }
             }
             SidebarHeader {
-                topPadding: 6
+                topPadding: 14
                 text: qsTr("Settings")
             }
             SettingsBlock {

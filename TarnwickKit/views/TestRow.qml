@@ -56,7 +56,7 @@ PlainButton {
             Accessible.ignored: true
         }
         Text {
-            Layout.leftMargin: 4
+            Layout.leftMargin: 4 - parent.spacing // the least gap, so that long titles stay whole
             text: row.figure
             font: Typeface.mono(11)
             color: PaletteKey.palette.text3
