@@ -86,7 +86,8 @@ void PaletteKey::tellBeneath(QQuickItem* item) {
             tell(child);
 }
 
-/// Takes the palette of the nearest key above, and follows every item on the way there, since each may move.
+/// Takes the palette of the nearest key above. A window has hundreds of keys, so each listens to as little as
+/// will do: to that key, to its own view's moving, and to that of a tree which is not in a window yet.
 void PaletteKey::inherit() {
     if (m_installed)
         return;
@@ -94,21 +95,22 @@ void PaletteKey::inherit() {
         disconnect(connection);
     m_wayUp.clear();
 
-    const Palette* found = &Palette::light();
-    for (QObject* view = parent(); view; view = above(view)) {
-        const PaletteKey* key = view == parent() ? nullptr : keyOf(view);
-        if (key) {
-            found = &key->palette();
-            m_wayUp.push_back(connect(key, &PaletteKey::paletteChanged, this, &PaletteKey::inherit));
-            break;
-        }
-        if (auto* item = qobject_cast<QQuickItem*>(view)) {
-            m_wayUp.push_back(connect(item, &QQuickItem::parentChanged, this, &PaletteKey::inherit));
-            if (!item->parentItem())
-                m_wayUp.push_back(connect(item, &QQuickItem::windowChanged, this, &PaletteKey::inherit));
-        }
+    QObject* top = parent();
+    const PaletteKey* key = nullptr;
+    for (QObject* view = above(top); view && !key; view = above(view)) {
+        top = view;
+        key = keyOf(view);
     }
-    use(*found);
+    const auto followMoves = [this](QObject* view) {
+        if (auto* item = qobject_cast<QQuickItem*>(view))
+            m_wayUp.push_back(connect(item, &QQuickItem::parentChanged, this, &PaletteKey::inherit));
+    };
+    followMoves(parent());
+    if (key)
+        m_wayUp.push_back(connect(key, &PaletteKey::paletteChanged, this, &PaletteKey::inherit));
+    else if (top != parent())
+        followMoves(top);
+    use(key ? key->palette() : Palette::light());
 }
 
 void PaletteKey::use(const Palette& palette) {

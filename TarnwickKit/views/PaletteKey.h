@@ -15,7 +15,8 @@ namespace TarnwickKit::views {
 ///
 /// A view that sets it installs that palette for itself and everything beneath; a view that only reads it
 /// gets the palette of the nearest view above that has one, light if there is none. Popups take that of the
-/// item they belong to.
+/// item they belong to. A key follows when its own view moves; a view on the way up that has no key must not
+/// move from one palette to another.
 class PaletteKey final : public QObject {
     Q_OBJECT
     QML_ELEMENT

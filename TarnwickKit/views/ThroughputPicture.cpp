@@ -61,7 +61,7 @@ void blendArea(QImage& picture, const CurveRaster& raster, const QColor& fill, d
 
 } // namespace
 
-const QImage& ThroughputPicture::paint(const ThroughputContent& content, QSizeF size, double scale) {
+QImage ThroughputPicture::paint(const ThroughputContent& content, QSizeF size, double scale) {
     std::vector<QList<QPointF>> curves;
     for (const ChartCurve& curve : content.curves)
         curves.push_back(curve.points);
@@ -85,7 +85,10 @@ const QImage& ThroughputPicture::paint(const ThroughputContent& content, QSizeF 
     }
     m_content = content;
     compose(fromColumn);
-    return m_picture;
+    QImage picture = m_picture;
+    if (!content.live)
+        *this = {}; // nothing is added to a finished run, and a wide chart's coverages are megabytes
+    return picture;
 }
 
 bool ThroughputPicture::isMoreOf(const ThroughputContent& content, QSizeF size, double scale,

@@ -33,7 +33,7 @@ struct ThroughputContent {
     bool operator==(const ThroughputContent&) const = default;
 };
 
-/// Paints throughput charts, and what is merely added to the one before at the price of what is new.
+/// Paints throughput charts, and what is merely added to a live one at the price of what is new.
 ///
 /// Threads: one at a time.
 class ThroughputPicture {
@@ -41,11 +41,9 @@ public:
     static constexpr double lineWidth = 2.2; ///< logical pixels
 
     /// Units: `size` in logical pixels, `scale` device pixels per logical one.
-    const QImage& paint(const ThroughputContent& content, QSizeF size, double scale);
+    QImage paint(const ThroughputContent& content, QSizeF size, double scale);
 
 private:
-    struct Layer;
-
     bool isMoreOf(const ThroughputContent& content, QSizeF size, double scale,
                   const ThroughputScale& axes) const;
     void begin(const ThroughputContent& content, QSizeF size, double scale, const ThroughputScale& axes);

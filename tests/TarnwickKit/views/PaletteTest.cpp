@@ -56,6 +56,7 @@ protected:
         width: 10; height: 10
         Item {
             objectName: "between"
+            property color seen: PaletteKey.palette.bg
             Item { Item { objectName: "leaf"; property color seen: PaletteKey.palette.bg } }
             ChartSeries { objectName: "series"; color: PaletteKey.palette.bg }
         }
