@@ -5,15 +5,18 @@
 
 namespace TarnwickKit::views {
 
-DualSparkline::DualSparkline(QQuickItem* parent)
-    : ImageItem(parent)
-    , m_key(PaletteKey::of(this)) {
-    connect(m_key, &PaletteKey::paletteChanged, this, &DualSparkline::redraw);
-}
-
 void DualSparkline::setRun(const model::RunRecord& run) {
     if (take(m_run, run))
         Q_EMIT runChanged();
+}
+
+/// The key is not made before the engine has put its data onto the new item, or both would be lost.
+void DualSparkline::itemChange(ItemChange change, const ItemChangeData& value) {
+    if (change == ItemSceneChange && value.window && !m_key) {
+        m_key = PaletteKey::of(this);
+        connect(m_key, &PaletteKey::paletteChanged, this, &DualSparkline::redraw);
+    }
+    ImageItem::itemChange(change, value);
 }
 
 ImageItem::Picture DualSparkline::paint(double scale) {

@@ -18,7 +18,7 @@ class DualSparkline : public TarnwickKit::views::ImageItem {
     Q_PROPERTY(TarnwickKit::model::RunRecord run READ run WRITE setRun NOTIFY runChanged)
 
 public:
-    explicit DualSparkline(QQuickItem* parent = nullptr);
+    using ImageItem::ImageItem;
 
     const model::RunRecord& run() const { return m_run; }
     void setRun(const model::RunRecord& run);
@@ -26,10 +26,11 @@ public:
 
 protected:
     Picture paint(double scale) override;
+    void itemChange(ItemChange change, const ItemChangeData& value) override;
 
 private:
     model::RunRecord m_run;
-    PaletteKey* m_key;
+    PaletteKey* m_key = nullptr;
 };
 
 } // namespace TarnwickKit::views

@@ -29,7 +29,7 @@ class PaletteKey final : public QObject {
 public:
     static PaletteKey* qmlAttachedProperties(QObject* owner);
 
-    /// The key of a view, made at the first call.
+    /// The key of a view, made at the first call, which must not come from the view's constructor.
     static PaletteKey* of(QObject* view);
 
     /// Installs `palette` for `view` and what lies beneath it.
