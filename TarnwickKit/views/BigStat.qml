@@ -13,7 +13,7 @@ ColumnLayout {
     required property real least
 
     spacing: 6
-    Layout.maximumWidth: Number.POSITIVE_INFINITY // the figures in it would not let it grow
+    Layout.maximumWidth: Infinity // the figures in it would not let it grow
 
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + figure.text + " MB/s" + (extremes.visible ? ", " + extremes.text : "")
