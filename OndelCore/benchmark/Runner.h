@@ -31,7 +31,7 @@ auto runBlocking(Work work, std::stop_token stop)
     -> QFuture<decltype(work(std::declval<const CancelFlag&>()))> {
     using Value = decltype(work(std::declval<const CancelFlag&>()));
     const auto promise = std::make_shared<QPromise<Value>>();
-    const QFuture<Value> future = promise->future();
+    QFuture<Value> future = promise->future();
     promise->start();
     const auto body = [promise, stop](Work received) {
         platform::keepSignalsOffThisThread();
