@@ -133,15 +133,11 @@ TEST(UserLocale, TakesTheFirstVariableThatSaysSomething) {
 }
 
 TEST(UserLocale, ReadsPosixNames) {
-    const std::pair<const char*, const char*> names[] = {{"de_DE@euro", "de_DE"},
-                                                         {"pt_BR.ISO-8859-1", "pt_BR"},
-                                                         {"sr_RS@latin", "sr_Latn_RS"},
-                                                         {"eo", "eo"},
-                                                         {"POSIX", "en_US"},
-                                                         {"%%&/_", "en_US"},
-                                                         {"xx_YY", "en_US"}};
-    for (const auto& [posix, icu] : names)
-        EXPECT_EQ(OndelCore::platform::icuLocaleName(posix), icu) << posix;
+    std::string names;
+    for (const char* posix :
+         {"de_DE@euro", "pt_BR.ISO-8859-1", "sr_RS@latin", "eo", "POSIX", "%%&/_", "xx_YY"})
+        names += OndelCore::platform::icuLocaleName(posix) + " ";
+    EXPECT_EQ(names, "de_DE pt_BR sr_Latn_RS eo en_US en_US en_US ");
 }
 
 } // namespace
