@@ -1,4 +1,3 @@
-#include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/BugReporter.h"
 #include "support/TemporaryFolder.h"
 
@@ -14,43 +13,25 @@ struct Root {
     test::TemporaryFolder folder;
 
     void write(const std::string& file, const std::string& text) const {
-        const auto path = folder.path() / file;
-        std::filesystem::create_directories(path.parent_path());
-        std::ofstream(path) << text;
+        std::filesystem::create_directories((folder.path() / file).parent_path());
+        std::ofstream(folder.path() / file) << text;
     }
 };
 
-InformationDictionary dictionary(const QVariantMap& values) { return InformationDictionary(values); }
-
 } // namespace
 
-TEST(AppIdentity, NamesTheProduct) {
-    const AppIdentity identity = AppIdentity::current();
-    EXPECT_EQ(identity, AppIdentity::tarnwick());
-    EXPECT_EQ(identity.name, "Ondel Tarnwick");
-    EXPECT_EQ(identity.shortName, "Tarnwick");
-    EXPECT_EQ(identity.reportID, "tarnwick");
-    EXPECT_EQ(identity.website.scheme(), "https");
-    EXPECT_EQ(identity.website.path(), "/tarnwick");
-    EXPECT_TRUE(identity.website.isValid() && !identity.website.host().isEmpty());
-    EXPECT_EQ(BugReporter::endpoint().scheme(), "https");
-    EXPECT_EQ(BugReporter::endpoint().path(), "/api/report");
-}
-
 TEST(BugReporter, ReadsTheBuild) {
-    const QString version = QStringLiteral("CFBundleShortVersionString");
-    const QString number = QStringLiteral("CFBundleVersion");
-    const QString secret = QStringLiteral("OndelReportSecret");
-    EXPECT_EQ(BugReporter::appVersion(
-                  dictionary({{version, QStringLiteral("2.0")}, {number, QStringLiteral("7")}})),
-              "2.0 (7)");
-    EXPECT_EQ(BugReporter::appVersion(dictionary({{version, QStringLiteral("2.0")}})), "2.0 (?)");
+    const auto dictionary = [](const QVariantMap& values) { return InformationDictionary(values); };
+    const QString version = "CFBundleShortVersionString", number = "CFBundleVersion",
+                  secret = "OndelReportSecret";
+    EXPECT_EQ(BugReporter::appVersion(dictionary({{version, "2.0"}, {number, "7"}})), "2.0 (7)");
+    EXPECT_EQ(BugReporter::appVersion(dictionary({{version, "2.0"}})), "2.0 (?)");
     EXPECT_EQ(BugReporter::appVersion(dictionary({{version, 2.0}, {number, QVariant()}})), "? (?)");
     EXPECT_FALSE(BugReporter::appVersion().contains(u'?'));
     EXPECT_FALSE(BugReporter::isConfigured(dictionary({})));
     EXPECT_FALSE(BugReporter::isConfigured(dictionary({{secret, QString()}})));
     EXPECT_FALSE(BugReporter::isConfigured(dictionary({{secret, 5}})));
-    EXPECT_TRUE(BugReporter::isConfigured(dictionary({{secret, QStringLiteral("s")}})));
+    EXPECT_TRUE(BugReporter::isConfigured(dictionary({{secret, "s"}})));
 }
 
 TEST(BugReporter, ReadsTheSystem) {

@@ -25,7 +25,8 @@ std::string numberText(dev_t number) {
 } // namespace
 
 FakeMachine::FakeMachine() {
-    fs::create_directories(m_folder.path() / "sys/dev/block");
+    for (const char* folder : {"sys/dev/block", "sys/class/block"})
+        fs::create_directories(m_folder.path() / folder);
     setMountTable("");
 }
 
@@ -34,6 +35,7 @@ fs::path FakeMachine::addBlockDevice(const std::string& place, dev_t number, con
     writeFile(folder / "dev", numberText(number));
     setAttributes(place, attributes);
     fs::create_symlink(folder, m_folder.path() / "sys/dev/block" / numberText(number));
+    fs::create_symlink(folder, m_folder.path() / "sys/class/block" / folder.filename());
     return folder;
 }
 

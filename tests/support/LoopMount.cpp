@@ -15,16 +15,17 @@ std::string complaintOf(const QString& program, const QStringList& arguments) {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(program, arguments);
-    if (!process.waitForStarted() || !process.waitForFinished(-1))
-        return program.toStdString() + ": " + process.errorString().toStdString();
-    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+    const bool isDone = process.waitForStarted() && process.waitForFinished(-1);
+    if (isDone && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
         return {};
-    return program.toStdString() + " failed: " + process.readAll().trimmed().toStdString();
+    const QString said = isDone ? QString::fromUtf8(process.readAll().trimmed()) : process.errorString();
+    return (program + ": " + said).toStdString();
 }
 
 } // namespace
 
-LoopMount::LoopMount(const std::string& type, std::int64_t bytes, const std::string& mountOptions)
+LoopMount::LoopMount(const std::string& type, std::int64_t bytes, const std::string& mountOptions,
+                     const QStringList& formatOptions)
     : m_mountPoint(m_folder.path() / "mount") {
     std::filesystem::create_directory(m_mountPoint);
     const QString fileSystem = QString::fromStdString(type);
@@ -39,10 +40,11 @@ LoopMount::LoopMount(const std::string& type, std::int64_t bytes, const std::str
         std::filesystem::resize_file(image, static_cast<std::uintmax_t>(bytes));
         source = QString::fromStdString(image.string());
         options << "loop";
-        m_problem = complaintOf("mkfs." + fileSystem, {"-q", source});
+        m_problem = complaintOf("mkfs." + fileSystem, formatOptions + QStringList{source});
     }
     if (m_problem.empty())
-        m_problem = complaintOf("mount", {"-t", fileSystem, "-o", options.join(','), source, mountPoint});
+        m_problem = complaintOf("mount", {"-t", type == "exfat" ? "exfat-fuse" : fileSystem, "-o",
+                                          options.join(','), source, mountPoint});
 }
 
 LoopMount::~LoopMount() {

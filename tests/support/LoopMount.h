@@ -2,20 +2,21 @@
 
 #include "support/TemporaryFolder.h"
 
-#include <cstdint>
-#include <filesystem>
+#include <QStringList>
+
 #include <string>
 
 namespace test {
 
-/// A small file system of one test's own: "tmpfs", or "ext4", "xfs", "btrfs" on a loop device over a sparse
+/// A small file system of one test's own: "tmpfs", or what mkfs.`type` makes on a loop device over a sparse
 /// image. Needs root and loop devices; where they are missing, `problem` says so and the test skips.
 ///
 /// Units: bytes; XFS takes no less than 300 MiB, Btrfs no less than 110 MiB.
 /// Owner: the object unmounts, detaches and removes everything when it goes.
 class LoopMount {
 public:
-    LoopMount(const std::string& type, std::int64_t bytes, const std::string& mountOptions = {});
+    LoopMount(const std::string& type, std::int64_t bytes, const std::string& mountOptions = {},
+              const QStringList& formatOptions = {"-q"});
     ~LoopMount();
     LoopMount(const LoopMount&) = delete;
     LoopMount& operator=(const LoopMount&) = delete;

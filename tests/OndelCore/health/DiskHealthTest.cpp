@@ -105,9 +105,6 @@ TEST(DiskHealth, JudgesEachFigureByItsOwnRule) {
     const auto powerOn = [](std::uint64_t value) {
         return [=](OndelSMART& r) { r.has_power_on_hours = 1, r.power_on_hours = value; };
     };
-    const auto busy = [](std::uint64_t value) {
-        return [=](OndelSMART& r) { r.has_busy_minutes = 1, r.busy_minutes = value; };
-    };
     const std::vector<std::pair<Change, Rows>> cases{
         {[](OndelSMART&) {}, {}},
         {spare(10, 0), {{"Spare available", "10%", false}}},
@@ -126,8 +123,9 @@ TEST(DiskHealth, JudgesEachFigureByItsOwnRule) {
         {powerOn(8759), {{"Power-on time", "364 days", false}}},
         {powerOn(8760), {{"Power-on time", "1.0 years", false}}},
         {powerOn(largest), {{"Power-on time", "2105792702478259.2 years", false}}},
-        {busy(59), {}},
-        {busy(60), {{"Controller busy", "1 h", false}}},
+        {[](OndelSMART& r) { r.has_busy_minutes = 1, r.busy_minutes = 59; }, {}},
+        {[](OndelSMART& r) { r.has_busy_minutes = 1, r.busy_minutes = 60; },
+         {{"Controller busy", "1 h", false}}},
         {[](OndelSMART& record) { record.media_errors = 3; }, {{"Media errors", "3", true}}},
         {[](OndelSMART& record) { record.unsafe_shutdowns = 3; }, {{"Unsafe shutdowns", "3", false}}},
         {[](OndelSMART& record) { record.error_log_entries = 3; }, {}},

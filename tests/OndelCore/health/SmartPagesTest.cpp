@@ -74,9 +74,7 @@ TEST(SmartPages, TakeEveryFieldOfAnNvmeHealthLogFromItsPlace) {
               "media_errors=1008000 error_log_entries=1009000 has_data_written data_written_tb=0.512512 "
               "has_data_read data_read_tb=0.512 has_host_commands host_read_commands=1002000 "
               "host_write_commands=1003000 has_busy_minutes busy_minutes=1004000 ");
-}
 
-TEST(SmartPages, TakeAnyNvmeHealthLogAsItIs) {
     const OndelSMART zeros = decoded(decodeNvmeHealth, PageBuilder(0));
     EXPECT_EQ(zeros.failing, 0);
     EXPECT_EQ(zeros.has_temperature, 1);

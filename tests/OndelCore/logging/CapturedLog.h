@@ -7,33 +7,64 @@
 #include "support/JournalSocket.h"
 #include "support/TemporaryFolder.h"
 
-#include <memory>
-#include <string>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
 
 namespace test {
 
-std::string contentOf(const std::filesystem::path& file);
+using namespace OndelCore::logging;
+
+inline std::string contentOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 /// A Log of category "test" with a store, a file and a journal of its own, for a user of the test's choice.
 class CapturedLog {
 public:
-    explicit CapturedLog(const OndelCore::platform::UserFacts& user = {});
+    explicit CapturedLog(const OndelCore::platform::UserFacts& user = {})
+        : m_scrubber(user)
+        , m_unified(m_journal.path()) {
+        m_store->startFileLogging(m_folder.path());
+    }
 
-    OndelCore::logging::Log log() const { return OndelCore::logging::Log("test", &m_output); }
-    OndelCore::logging::LogStore& store() { return *m_store; }
+    Log log() const { return Log("test", &m_output); }
+    LogStore& store() { return *m_store; }
     std::filesystem::path file() const { return m_folder.path() / "ondel.log"; }
 
     /// The one line logged since the last call, without stamp, level and category. Store, file and journal
     /// must hold the same; what they hold otherwise is a test failure.
-    std::string takeBody();
+    std::string takeBody() {
+        const std::string line = m_store->snapshot(1 << 30);
+        m_store->flush();
+        EXPECT_EQ(contentOf(file()), line.empty() ? "" : line + "\n");
+        const auto entry = m_journal.take();
+        EXPECT_FALSE(m_journal.take()) << "one line, one entry";
+        m_store->clear();
+        std::filesystem::remove(file());
+
+        const std::string head = "  test  ";
+        const auto at = line.find(head);
+        if (at == std::string::npos) {
+            EXPECT_FALSE(entry);
+            return {};
+        }
+        const std::string body = line.substr(at + head.size());
+        EXPECT_TRUE(entry && entry->ends_with(body + "\n"))
+            << entry.value_or("no entry") << "\nis not the entry of\n"
+            << body;
+        return body;
+    }
 
 private:
     TemporaryFolder m_folder;
     JournalSocket m_journal;
-    OndelCore::logging::LogScrubber m_scrubber;
-    std::unique_ptr<OndelCore::logging::LogStore> m_store;
+    LogScrubber m_scrubber;
+    std::unique_ptr<LogStore> m_store = LogStore::makeForTesting(8);
     OndelCore::platform::UnifiedLog m_unified;
-    OndelCore::logging::LogOutput m_output;
+    LogOutput m_output{*m_store, m_scrubber, m_unified};
 };
 
 } // namespace test

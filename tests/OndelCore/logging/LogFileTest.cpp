@@ -52,32 +52,28 @@ TEST(LogFile, HoldsTheLinesSinceItsStart) {
     EXPECT_TRUE(test::contentOf(file).ends_with("  again\n"));
 }
 
-TEST(LogFile, TheBackgroundWriterTicks) {
-    const test::TemporaryFolder folder;
+TEST(LogFile, TheBackgroundWriterTicksInTheDefaultFolder) {
     const auto store = LogStore::makeForTesting(100, {.tick = std::chrono::milliseconds(1)});
-    store->startFileLogging(folder.path());
+    store->startFileLogging(std::nullopt);
+    const fs::path file = fs::path(getenv("XDG_STATE_HOME")) / "Ondel" / "ondel.log";
     for (const char* body : {"first", "second"}) {
         store->append(LogLevel::notice, "app", body);
-        while (!test::contentOf(folder.path() / "ondel.log").ends_with(body + std::string("\n")))
+        while (!test::contentOf(file).ends_with(body + std::string("\n")))
             std::this_thread::yield();
     }
 }
 
 TEST(LogFile, RotatesAboveItsLimit) {
     const test::TemporaryFolder folder;
-    const fs::path file = folder.path() / "ondel.log";
-    const fs::path old = folder.path() / "ondel.1.log";
+    const fs::path file = folder.path() / "ondel.log", old = folder.path() / "ondel.1.log";
     const auto store = storeWritingTo(folder.path());
-    makeFile(file, 1'000'000);
-    write(*store, "fits");
-    EXPECT_FALSE(fs::exists(old));
-    makeFile(file, 1'000'001);
-    write(*store, "next");
-    EXPECT_EQ(fs::file_size(old), 1'000'001u);
-    EXPECT_TRUE(test::contentOf(file).ends_with("  next\n"));
-    makeFile(file, 1'000'002);
-    write(*store, "third");
-    EXPECT_EQ(fs::file_size(old), 1'000'002u);
+    for (const std::size_t bytes : {1'000'000U, 1'000'001U, 1'000'002U}) {
+        makeFile(file, bytes);
+        write(*store, std::to_string(bytes));
+        EXPECT_TRUE(test::contentOf(file).ends_with("  " + std::to_string(bytes) + "\n"));
+        EXPECT_EQ(fs::exists(old), bytes > 1'000'000) << bytes;
+        EXPECT_TRUE(!fs::exists(old) || fs::file_size(old) == bytes);
+    }
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 2);
 }
 
@@ -137,12 +133,4 @@ TEST(LogFile, AFullOrReadOnlyDiskLeavesWholeLines) {
         EXPECT_TRUE(store->snapshot(100).ends_with("  refused"));
     }
     umount2(folder.path().c_str(), MNT_DETACH);
-}
-
-TEST(LogFile, HasADefaultFolder) {
-    const auto store = LogStore::makeForTesting(10);
-    store->startFileLogging(std::nullopt);
-    write(*store, "line");
-    EXPECT_TRUE(
-        test::contentOf(fs::path(getenv("XDG_STATE_HOME")) / "Ondel" / "ondel.log").ends_with("  line\n"));
 }

@@ -73,11 +73,13 @@ TEST(LogStore, SnapshotFitsItsBudgetInWholeLines) {
     log.append("a longer line than the first");
     const std::string both = log.store->snapshot(1000);
     const std::string newest = both.substr(both.find('\n') + 1);
-    const auto bytes = [](const std::string& text) { return static_cast<std::int64_t>(text.size()); };
-    EXPECT_EQ(log.store->snapshot(bytes(both) + 1), both);
-    EXPECT_EQ(log.store->snapshot(bytes(both)), newest);
-    EXPECT_EQ(log.store->snapshot(bytes(newest) + 1), newest);
-    EXPECT_EQ(log.store->snapshot(bytes(newest)), "");
+    const auto snapshot = [&](std::size_t bytes) {
+        return log.store->snapshot(static_cast<std::int64_t>(bytes));
+    };
+    EXPECT_EQ(snapshot(both.size() + 1), both);
+    EXPECT_EQ(snapshot(both.size()), newest);
+    EXPECT_EQ(snapshot(newest.size() + 1), newest);
+    EXPECT_EQ(snapshot(newest.size()), "");
     EXPECT_EQ(log.store->snapshot(0), "");
     EXPECT_EQ(log.store->snapshot(-1), "");
 }

@@ -15,6 +15,14 @@ namespace {
 const std::string ata1 = "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0/block/sda";
 const std::string ata2 = "pci0000:00/0000:00:17.0/ata2/host1/target1:0:0/1:0:0:0/block/sdb";
 
+Mount mountOf(dev_t device, const std::string& source, const char* type = "") {
+    Mount mount;
+    mount.type = type;
+    mount.device = device;
+    mount.source = source;
+    return mount;
+}
+
 class BlockStackTest : public testing::Test {
 protected:
     BlockStackTest() {
@@ -27,12 +35,13 @@ protected:
         machine.addBlockDevice("virtual/block/dm-" + std::to_string(minorNumber), makedev(253, minorNumber),
                                {{"dm/uuid", uuid}});
     }
-    std::string disksUnder(dev_t number) const {
+    static std::string namesOf(const BlockStack& stack) {
         std::string names;
-        for (const BlockDevice& disk : blockStack(number, machine.sources().sysfs).wholeDisks)
+        for (const BlockDevice& disk : stack.wholeDisks)
             names += disk.name + ' ';
         return names;
     }
+    std::string disksUnder(dev_t number) const { return namesOf(stackOf(number)); }
     BlockStack stackOf(dev_t number) const { return blockStack(number, machine.sources().sysfs); }
 
     test::FakeMachine machine;
@@ -83,14 +92,7 @@ TEST_F(BlockStackTest, TellsEncryptionFromCryptsetupsOtherLayers) {
 
 TEST_F(BlockStackTest, CountsEveryDeviceOfAFileSystemThatHasSeveral) {
     const auto disksOf = [&](const char* type, dev_t device, const char* source) {
-        Mount mount;
-        mount.type = type;
-        mount.device = device;
-        mount.source = source;
-        std::string names;
-        for (const BlockDevice& disk : blockStack(mount, machine.sources()).wholeDisks)
-            names += disk.name + ' ';
-        return names;
+        return namesOf(blockStack(mountOf(device, source, type), machine.sources()));
     };
     const auto sysfs = machine.sources().sysfs;
     for (const auto& [fileSystem, name, place] :
@@ -127,10 +129,7 @@ TEST_F(BlockStackTest, NamesTheDeviceBehindThePlaceholders) {
     machine.addBlockDevice("virtual/block/cciss!c0d0", makedev(104, 0));
     const auto sysfs = machine.sources().sysfs;
     const auto source = [&](const std::string& text, dev_t device) {
-        Mount mount;
-        mount.device = device;
-        mount.source = text;
-        return sourceOfMount(mount, sysfs);
+        return sourceOfMount(mountOf(device, text), sysfs);
     };
     EXPECT_EQ(source("/dev/root", makedev(8, 1)), "/dev/sda1");
     EXPECT_EQ(source("rootfs", makedev(104, 0)), "/dev/cciss/c0d0");

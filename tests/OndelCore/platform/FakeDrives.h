@@ -2,20 +2,34 @@
 
 #include "OndelCore/platform/SmartBlocks.h"
 #include "OndelCore/platform/linux/DriveCalls.h"
-#include "support/TemporaryFolder.h"
+#include "support/FakeMachine.h"
 
-#include <map>
-#include <string>
-#include <vector>
+#include <fcntl.h>
+#include <linux/nvme_ioctl.h>
+#include <scsi/sg.h>
+#include <sys/ioctl.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
 
 namespace test {
 
+using namespace OndelCore::platform;
 using Bytes = std::vector<std::uint8_t>;
 
 /// Sense data as a translator answers CK_COND with, around the registers that matter here.
-Bytes descriptorSense(std::uint8_t status, std::uint8_t count, std::uint8_t lbaMid = 0,
-                      std::uint8_t lbaHigh = 0);
-Bytes fixedSense(std::uint8_t status, std::uint8_t count, std::uint8_t lbaMid = 0, std::uint8_t lbaHigh = 0);
+inline Bytes descriptorSense(std::uint8_t status, std::uint8_t count, std::uint8_t lbaMid = 0,
+                             std::uint8_t lbaHigh = 0) {
+    // A vendor's descriptor of 4 bytes stands in front, as the order is free.
+    return {0x72, 0x01, 0x00, 0x1d, 0,     0, 0, 18, 0x80,   0x02, 0,       0, 0x09,
+            0x0c, 0,    0,    0,    count, 0, 0, 0,  lbaMid, 0,    lbaHigh, 0, status};
+}
+
+inline Bytes fixedSense(std::uint8_t status, std::uint8_t count, std::uint8_t lbaMid = 0,
+                        std::uint8_t lbaHigh = 0) {
+    return {0xf0, 0, 0x01, 0, status, 0, count, 10, 0, 0, lbaMid, lbaHigh, 0x00, 0x1d, 0, 0, 0, 0};
+}
 
 /// How a drive answers. The defaults are an awake, healthy ATA or NVMe drive.
 struct FakeDrive {
@@ -28,41 +42,82 @@ struct FakeDrive {
     Bytes verdict = descriptorSense(0x50, 0, 0x4f, 0xc2);
     int hostStatus = 0; ///< of reading the page
     int missing = 0;    ///< bytes of the page that do not arrive
-    OndelCore::platform::SmartPage page{};
+    SmartPage page{};
     Bytes supportedPages{}; ///< answer to the inquiry for product data pages
 
     std::vector<Bytes> commands{}; ///< what it was sent
 };
 
 /// Stands where the kernel would: answers the two kinds of commands for the drives it holds.
-class FakeDrives : public OndelCore::platform::DriveCalls {
+class FakeDrives : public DriveCalls {
 public:
     std::map<std::string, FakeDrive> drives;
     std::vector<std::string> opened;
 
-    OndelCore::platform::FileDescriptor open(const OndelCore::platform::BlockDevice& disk) override;
-    int control(const OndelCore::platform::FileDescriptor& drive, unsigned long request,
-                void* argument) override;
-};
-
-/// A device tree of its own in a temporary folder.
-class FakeDeviceTree {
-public:
-    FakeDeviceTree();
-
-    /// `files`: attributes by their paths below the disk's folder.
-    void addDisk(const std::string& name, const std::string& number, const std::string& subsystem,
-                 const std::map<std::string, std::string>& files = {});
-    void addPartition(const std::string& disk, const std::string& name, const std::string& number);
-    void addLayer(const std::string& name, const std::string& number, const std::vector<std::string>& below);
-
-    /// Sources that know nothing but this tree and these drives; no second reader is reachable.
-    OndelCore::platform::SmartSources sources(FakeDrives& drives) const;
+    FileDescriptor open(const BlockDevice& disk) override {
+        opened.push_back(disk.name);
+        const auto found = drives.find(disk.name);
+        errno = found == drives.end() ? ENOENT : found->second.openError;
+        return errno ? FileDescriptor() : FileDescriptor(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    }
+    int control(const FileDescriptor&, unsigned long request, void* argument) override {
+        FakeDrive& drive = drives.at(opened.back());
+        if (drive.commandError && drive.commands.size() >= drive.commandsBeforeError)
+            return -drive.commandError;
+        if (request == NVME_IOCTL_ADMIN_CMD)
+            return answerNvme(drive, *static_cast<nvme_passthru_cmd*>(argument));
+        answerScsi(drive, *static_cast<sg_io_hdr_t*>(argument));
+        return 0;
+    }
 
 private:
-    void registerDevice(const std::filesystem::path& folder, const std::string& number);
+    static int answerNvme(FakeDrive& drive, const nvme_passthru_cmd& command) {
+        const auto* const bytes = reinterpret_cast<const std::uint8_t*>(&command);
+        drive.commands.emplace_back(bytes, bytes + sizeof command);
+        std::memcpy(reinterpret_cast<void*>(command.addr), drive.page.data(), command.data_len);
+        return drive.nvmeStatus;
+    }
 
-    TemporaryFolder m_root;
+    static void answerScsi(FakeDrive& drive, sg_io_hdr_t& io) {
+        const Bytes& command = drive.commands.emplace_back(io.cmdp, io.cmdp + io.cmd_len);
+        const auto give = [&](const std::uint8_t* data, std::size_t size) {
+            const std::size_t given = std::min<std::size_t>(size, io.dxfer_len);
+            std::copy_n(data, given, static_cast<std::uint8_t*>(io.dxferp));
+            io.resid = static_cast<int>(io.dxfer_len - given);
+        };
+        const auto complain = [&](const Bytes& sense) {
+            io.status = 0x02;
+            io.driver_status = 0x08;
+            io.info = SG_INFO_CHECK;
+            io.sb_len_wr = static_cast<unsigned char>(std::min<std::size_t>(sense.size(), io.mx_sb_len));
+            std::copy_n(sense.begin(), io.sb_len_wr, io.sbp);
+        };
+        if (command[0] == 0x12)
+            return give(drive.supportedPages.data(), drive.supportedPages.size());
+        if (command[14] == 0xe5)
+            return complain(drive.power);
+        if (command[4] == 0xda)
+            return complain(drive.verdict);
+        give(drive.page.data(), drive.page.size() - static_cast<std::size_t>(drive.missing));
+        io.host_status = static_cast<unsigned short>(drive.hostStatus);
+        io.info = drive.hostStatus ? SG_INFO_CHECK : SG_INFO_OK;
+    }
 };
+
+/// A disk of `machine` with the bus or class that its driver belongs to.
+inline void addDisk(FakeMachine& machine, const std::string& name, dev_t number, const std::string& subsystem,
+                    const FakeMachine::Attributes& attributes = {}) {
+    const auto device = machine.addBlockDevice(name, number, attributes) / "device";
+    std::filesystem::create_directories(device);
+    std::filesystem::create_symlink("/sys/class/" + subsystem, device / "subsystem");
+}
+
+/// Sources that know nothing but this machine and these drives; no second reader is reachable.
+inline SmartSources sourcesOf(const FakeMachine& machine, FakeDrives& drives) {
+    return {.system = machine.sources(),
+            .devices = machine.folder() / "no-nodes",
+            .calls = &drives,
+            .serviceBus = "unix:path=" + (machine.folder() / "no-bus").string()};
+}
 
 } // namespace test

@@ -3,20 +3,43 @@
 #include "OndelCore/platform/linux/UDisksBus.h"
 #include "support/TemporaryFolder.h"
 
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusVirtualObject>
 #include <QProcess>
 #include <QThread>
 
-#include <memory>
-#include <string>
+#include <atomic>
+#include <fstream>
+#include <stdexcept>
 
 namespace test {
+
+using namespace OndelCore::platform;
 
 /// A message bus of its own with nothing on it that nobody puts there.
 class PrivateBus {
 public:
-    PrivateBus();
-    ~PrivateBus();
+    PrivateBus() {
+        const auto configuration = m_folder.path() / "bus.conf";
+        std::ofstream(configuration) << "<busconfig><listen>unix:path=" << (m_folder.path() / "bus").string()
+                                     << "</listen><auth>EXTERNAL</auth><policy context=\"default\">"
+                                        "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow "
+                                        "eavesdrop=\"true\"/><allow own=\"*\"/>"
+                                        "</policy></busconfig>\n";
+        m_daemon.start(QStringLiteral("dbus-daemon"),
+                       {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
+                        QStringLiteral("--config-file=") + QString::fromStdString(configuration.string())});
+        if (m_daemon.waitForReadyRead())
+            m_address = m_daemon.readLine().trimmed().toStdString();
+    }
+
+    ~PrivateBus() {
+        m_daemon.kill();
+        m_daemon.waitForFinished();
+    }
 
     /// Empty when no bus could be started here.
     const std::string& address() const { return m_address; }
@@ -34,9 +57,19 @@ struct UDisksAtaRow {
     qlonglong pretty = 0;
 };
 
+inline QDBusArgument& operator<<(QDBusArgument& argument, const UDisksAtaRow& row) {
+    argument.beginStructure();
+    argument << row.number << QStringLiteral("attribute") << ushort{50} << 100 << 100 << 0 << row.pretty
+             << row.unit << QVariantMap();
+    argument.endStructure();
+    return argument;
+}
+
+inline const QDBusArgument& operator>>(const QDBusArgument& argument, UDisksAtaRow&) { return argument; }
+
 /// What the service is to answer.
 struct UDisksScript {
-    OndelCore::platform::UDisksObjects objects{};
+    UDisksObjects objects{};
     QVariant attributes{};       ///< of SmartGetAttributes; invalid: an error
     QVariantMap afterUpdate{};   ///< properties of the S.M.A.R.T. interface behind SmartUpdate
     bool refusesUpdate = false;  ///< "it would wake the drive"
@@ -44,24 +77,109 @@ struct UDisksScript {
     QVariant insteadOfObjects{}; ///< valid: what GetManagedObjects answers against its contract
 };
 
-QVariant ataTable(const QList<UDisksAtaRow>& rows);
+inline QVariant ataTable(const QList<UDisksAtaRow>& rows) {
+    qDBusRegisterMetaType<UDisksAtaRow>();
+    qDBusRegisterMetaType<QList<UDisksAtaRow>>();
+    return QVariant::fromValue(rows);
+}
 
 /// The objects of one disk with a drive that has one S.M.A.R.T. interface.
-OndelCore::platform::UDisksObjects oneDrive(qulonglong deviceNumber, const QString& interface,
-                                            const QVariantMap& properties);
+inline UDisksObjects oneDrive(qulonglong deviceNumber, const QString& interface,
+                              const QVariantMap& properties) {
+    const QDBusObjectPath drive(QStringLiteral("/org/freedesktop/UDisks2/drives/ACME"));
+    const QString block = QStringLiteral("org.freedesktop.UDisks2.Block");
+    UDisksObjects objects;
+    objects[QDBusObjectPath(QStringLiteral("/org/freedesktop/UDisks2/block_devices/other"))] = {
+        {block, {{QStringLiteral("DeviceNumber"), deviceNumber + 1}}}};
+    objects[QDBusObjectPath(QStringLiteral("/org/freedesktop/UDisks2/block_devices/disk"))] = {
+        {block,
+         {{QStringLiteral("DeviceNumber"), deviceNumber},
+          {QStringLiteral("Drive"), QVariant::fromValue(drive)}}}};
+    objects[drive] = {{QStringLiteral("org.freedesktop.UDisks2.Drive"), {}}, {interface, properties}};
+    return objects;
+}
 
 /// Speaks as org.freedesktop.UDisks2 on a bus, in a thread of its own. Fails: throws std::runtime_error when
 /// the bus refuses it.
 class FakeUDisks {
 public:
-    FakeUDisks(const std::string& address, UDisksScript script);
-    ~FakeUDisks();
+    FakeUDisks(const std::string& address, UDisksScript script)
+        : m_name(QStringLiteral("fake-udisks"))
+        , m_service(std::make_unique<Service>(std::move(script))) {
+        qDBusRegisterMetaType<UDisksInterfaces>();
+        qDBusRegisterMetaType<UDisksObjects>();
+        QDBusConnection connection = QDBusConnection::connectToBus(QString::fromStdString(address), m_name);
+        const bool isRegistered = connection.registerVirtualObject(QStringLiteral("/org/freedesktop/UDisks2"),
+                                                                   m_service.get(), QDBusConnection::SubPath);
+        m_service->moveToThread(&m_thread);
+        m_thread.start();
+        if (!isRegistered || !connection.registerService(QStringLiteral("org.freedesktop.UDisks2")))
+            throw std::runtime_error("the bus does not take the service");
+    }
+
+    ~FakeUDisks() {
+        QDBusConnection::disconnectFromBus(m_name);
+        m_thread.quit();
+        m_thread.wait();
+    }
 
     /// How often a S.M.A.R.T. method came without the two options that spare people and drives.
-    int carelessCalls() const;
+    int carelessCalls() const { return m_service->carelessCalls; }
 
 private:
-    class Service;
+    class Service : public QDBusVirtualObject {
+    public:
+        explicit Service(UDisksScript script)
+            : m_script(std::move(script)) {}
+
+        QString introspect(const QString&) const override { return {}; }
+
+        bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+            if (m_script.isMute)
+                return true;
+            connection.send(answer(message));
+            return true;
+        }
+
+        std::atomic<int> carelessCalls = 0;
+
+    private:
+        QDBusMessage answer(const QDBusMessage& message) {
+            const QString method = message.member();
+            if (method == QLatin1String("GetManagedObjects"))
+                return message.createReply(m_script.insteadOfObjects.isValid()
+                                               ? m_script.insteadOfObjects
+                                               : QVariant::fromValue(m_script.objects));
+            if (method == QLatin1String("GetAll"))
+                return message.createReply(QVariant(
+                    m_script.objects[QDBusObjectPath(message.path())][message.arguments().at(0).toString()]));
+
+            const auto options = qdbus_cast<QVariantMap>(message.arguments().value(0));
+            if (options != QVariantMap{{QStringLiteral("nowakeup"), true},
+                                       {QStringLiteral("auth.no_user_interaction"), true}})
+                ++carelessCalls;
+            if (method == QLatin1String("SmartUpdate"))
+                return update(message);
+            return m_script.attributes.isValid() ? message.createReply(m_script.attributes)
+                                                 : refusal(message);
+        }
+
+        QDBusMessage update(const QDBusMessage& message) {
+            if (m_script.refusesUpdate)
+                return refusal(message);
+            QVariantMap& properties = m_script.objects[QDBusObjectPath(message.path())][message.interface()];
+            properties.insert(m_script.afterUpdate);
+            return message.createReply();
+        }
+
+        static QDBusMessage refusal(const QDBusMessage& message) {
+            return message.createErrorReply(QStringLiteral("org.freedesktop.UDisks2.Error.WouldWakeup"),
+                                            QStringLiteral("asleep"));
+        }
+
+        UDisksScript m_script;
+    };
+
     QThread m_thread;
     QString m_name;
     std::unique_ptr<Service> m_service;

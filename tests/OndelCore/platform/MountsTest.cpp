@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <set>
 
 using namespace OndelCore::platform;
 
@@ -38,19 +39,15 @@ TEST(VisibleMounts, AreThoseThatAPersonExpects) {
          {"/", "/d", "/mnt", "/media/usb", "/net/filer/vol", "/misc/nas", "/media/two lines\nand\\more\ttab",
           "/srv/caf\xe9"}},
     };
-    for (const Case& machine : cases)
-        EXPECT_EQ(visiblePoints(mounts(fixtures / machine.fixture)), machine.expected) << machine.fixture;
-}
-
-TEST(VisibleMounts, DoNotDependOnTheTablesOrder) {
-    for (const char* fixture : {"desktop-with-snaps", "stacked-and-bound", "container-host"}) {
-        auto table = mounts(fixtures / fixture);
-        auto forward = visiblePoints(table);
+    for (const Case& machine : cases) {
+        auto table = mounts(fixtures / machine.fixture);
+        EXPECT_EQ(visiblePoints(table), machine.expected) << machine.fixture;
         std::reverse(table.begin(), table.end());
-        auto backward = visiblePoints(table);
-        std::sort(forward.begin(), forward.end());
-        std::sort(backward.begin(), backward.end());
-        EXPECT_EQ(forward, backward) << fixture;
+        const auto backward = visiblePoints(table);
+        EXPECT_EQ(std::set(backward.begin(), backward.end()),
+                  std::set(machine.expected.begin(), machine.expected.end()))
+            << machine.fixture;
+        EXPECT_EQ(backward.size(), machine.expected.size()) << machine.fixture;
     }
 }
 
@@ -92,13 +89,6 @@ TEST(MountTable, KeepsBytesAndLeavesMalformedLinesOut) {
     EXPECT_TRUE(mounts(folder.path() / "none").empty());
     std::ofstream(table, std::ios::trunc).close();
     EXPECT_TRUE(mounts(table).empty());
-}
-
-TEST(MountTable, HoldsTheRealRoot) {
-    const auto root = mountOfPath("/");
-    ASSERT_TRUE(root);
-    EXPECT_EQ(root->mountPoint, "/");
-    EXPECT_FALSE(mountOfPath("/no/such/path"));
 }
 
 TEST(MountOptions, AreWholeWords) {

@@ -4,10 +4,8 @@
 #include "OndelCore/platform/linux/AtaPassThrough.h"
 
 #include <gtest/gtest.h>
-#include <linux/nvme_ioctl.h>
+#include <sys/sysmacros.h>
 
-#include <cerrno>
-#include <cstring>
 #include <random>
 
 namespace OndelCore::platform {
@@ -15,10 +13,11 @@ namespace OndelCore::platform {
 namespace {
 
 using test::descriptorSense;
-using test::FakeDeviceTree;
 using test::FakeDrive;
 using test::FakeDrives;
+using test::FakeMachine;
 using test::fixedSense;
+using test::sourcesOf;
 
 SmartPage filled(std::uint8_t byte) {
     SmartPage page;
@@ -27,13 +26,13 @@ SmartPage filled(std::uint8_t byte) {
 }
 
 TEST(SmartBlocks, AsksAnNvmeDriveForItsHealthLogAndNothingElse) {
-    FakeDeviceTree tree;
-    tree.addDisk("nvme0n1", "259:0", "nvme");
-    tree.addPartition("nvme0n1", "nvme0n1p2", "259:2");
+    FakeMachine machine;
+    addDisk(machine, "nvme0n1", makedev(259, 0), "nvme");
+    machine.addBlockDevice("nvme0n1/nvme0n1p2", makedev(259, 2), {{"partition", "1"}});
     FakeDrives drives;
     drives.drives["nvme0n1"].page = filled(0xff);
 
-    const SmartAnswer answer = smartOfDevice("nvme0n1p2", tree.sources(drives));
+    const SmartAnswer answer = smartOfDevice("nvme0n1p2", sourcesOf(machine, drives));
     ASSERT_TRUE(std::holds_alternative<NvmeSmart>(answer.blocks)) << answer.source;
     EXPECT_EQ(std::get<NvmeSmart>(answer.blocks).page, filled(0xff));
     EXPECT_EQ(answer.source, "NVMe health log of nvme0n1");
@@ -95,14 +94,14 @@ TEST(SmartBlocks, AsksAnAtaDriveForItsModeThenItsVerdictThenItsFigures) {
         {0x85, 0x06, 0x20, 0, 0xda, 0, 0, 0, 0, 0, 0x4f, 0, 0xc2, 0, 0xb0, 0},
         {0x85, 0x08, 0x0e, 0, 0xd0, 0, 1, 0, 0, 0, 0x4f, 0, 0xc2, 0, 0xb0, 0},
     };
-    FakeDeviceTree tree;
-    tree.addDisk("sda", "8:0", "scsi", {{"device/vendor", "ATA     "}});
+    FakeMachine machine;
+    addDisk(machine, "sda", makedev(8, 0), "scsi", {{"device/vendor", "ATA     "}});
     for (const AtaCase& each : ataCases) {
         SCOPED_TRACE(each.what);
         FakeDrives drives;
         FakeDrive& drive = drives.drives["sda"] = each.drive;
         drive.page = filled(0x5a);
-        const SmartAnswer answer = smartOfDevice("sda", tree.sources(drives));
+        const SmartAnswer answer = smartOfDevice("sda", sourcesOf(machine, drives));
         EXPECT_EQ(outcomeOf(answer, drive), each.outcome) << answer.source;
         EXPECT_NE(answer.source.find("sda"), std::string::npos) << answer.source;
         for (std::size_t index = 0; index < drive.commands.size(); ++index)
@@ -111,15 +110,14 @@ TEST(SmartBlocks, AsksAnAtaDriveForItsModeThenItsVerdictThenItsFigures) {
 }
 
 TEST(SmartBlocks, SendsNoAtaCommandToWhatDoesNotDeclareToTakeThem) {
-    using Files = std::map<std::string, std::string>;
     struct Case {
         const char* what;
-        Files files;
+        FakeMachine::Attributes files;
         test::Bytes supportedPages;
         bool answers;
         std::size_t opened;
     };
-    const Files fixed{{"device/vendor", "ACME"}, {"removable", "0"}};
+    const FakeMachine::Attributes fixed{{"device/vendor", "ACME"}, {"removable", "0"}};
     const test::Bytes listed{0, 0, 0, 3, 0x00, 0x83, 0x89};
     const Case cases[] = {
         {"bridge that lists the page", fixed, listed, true, 1},
@@ -135,14 +133,13 @@ TEST(SmartBlocks, SendsNoAtaCommandToWhatDoesNotDeclareToTakeThem) {
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.what);
-        FakeDeviceTree tree;
-        tree.addDisk("sdb", "8:16", "scsi", each.files);
+        FakeMachine machine;
+        addDisk(machine, "sdb", makedev(8, 16), "scsi", each.files);
         FakeDrives drives;
         drives.drives["sdb"].supportedPages = each.supportedPages;
-        SmartSources sources = tree.sources(drives);
         if (each.files.contains("in-database"))
-            sources.system.database = [](dev_t) { return DeviceProperties{{"ID_ATA", "1"}}; };
-        EXPECT_EQ(smartOfDevice("sdb", sources).isEmpty(), !each.answers);
+            machine.setDatabase(makedev(8, 16), {{"ID_ATA", "1"}});
+        EXPECT_EQ(smartOfDevice("sdb", sourcesOf(machine, drives)).isEmpty(), !each.answers);
         EXPECT_EQ(drives.opened.size(), each.opened);
         for (const test::Bytes& command : drives.drives["sdb"].commands)
             EXPECT_TRUE(each.answers || command[0] == 0x12) << int{command[0]};
@@ -150,26 +147,29 @@ TEST(SmartBlocks, SendsNoAtaCommandToWhatDoesNotDeclareToTakeThem) {
 }
 
 TEST(SmartBlocks, FindsTheFirstDiskThatAnswersUnderAllLayers) {
-    FakeDeviceTree tree;
-    tree.addDisk("sda", "8:0", "scsi", {{"device/vendor", "ATA"}});
-    tree.addDisk("sdb", "8:16", "scsi", {{"device/vendor", "ATA"}});
-    tree.addDisk("vda", "254:0", "virtio");
-    tree.addPartition("sda", "sda1", "8:1");
-    tree.addPartition("sdb", "sdb1", "8:17");
-    tree.addLayer("md0", "9:0", {"sda1", "sdb1"});
-    tree.addLayer("dm-0", "253:0", {"md0"});
-    tree.addLayer("dm-1", "253:1", {"dm-0"});
+    FakeMachine machine;
+    addDisk(machine, "sda", makedev(8, 0), "scsi", {{"device/vendor", "ATA"}});
+    addDisk(machine, "sdb", makedev(8, 16), "scsi", {{"device/vendor", "ATA"}});
+    addDisk(machine, "vda", makedev(254, 0), "virtio");
+    machine.addBlockDevice("sda/sda1", makedev(8, 1), {{"partition", "1"}});
+    machine.addBlockDevice("sdb/sdb1", makedev(8, 17), {{"partition", "1"}});
+    unsigned layer = 0;
+    for (const auto& [upper, lower] : {std::pair{"md0", "sda/sda1"}, {"dm-0", "md0"}, {"dm-1", "dm-0"}}) {
+        machine.addBlockDevice(upper, makedev(253, layer++));
+        machine.stack(upper, lower);
+    }
+    machine.stack("md0", "sdb/sdb1");
     FakeDrives drives;
     drives.drives["sda"].power = descriptorSense(0x50, 0x00);
     drives.drives["sdb"];
 
-    EXPECT_EQ(smartOfDevice("dm-1", tree.sources(drives)).source, "ATA S.M.A.R.T. of sdb");
+    EXPECT_EQ(smartOfDevice("dm-1", sourcesOf(machine, drives)).source, "ATA S.M.A.R.T. of sdb");
     drives.drives["sdb"].openError = EACCES;
-    EXPECT_EQ(smartOfDevice("dm-1", tree.sources(drives)).source,
+    EXPECT_EQ(smartOfDevice("dm-1", sourcesOf(machine, drives)).source,
               "sda is asleep and was left alone; sdb may only be asked by an administrator, and UDisks2 does "
               "not answer");
-    EXPECT_EQ(smartOfDevice("vda", tree.sources(drives)).source, "vda has no S.M.A.R.T. interface");
-    EXPECT_EQ(smartOfDevice("new\nline", tree.sources(drives)).source, "new?line is no block device");
+    EXPECT_EQ(smartOfDevice("vda", sourcesOf(machine, drives)).source, "vda has no S.M.A.R.T. interface");
+    EXPECT_EQ(smartOfDevice("new\nline", sourcesOf(machine, drives)).source, "new?line is no block device");
 }
 
 /// Damaged sense data of every length, in a buffer of exactly that length so that the sanitizers see a byte

@@ -34,16 +34,4 @@ TEST(TotalSizes, DoNotWaitForAServerThatHangs) {
     finished.get_future().wait();
 }
 
-TEST(TotalSizes, AnswerEveryOneOfMany) {
-    std::vector<SizeQuestion> questions;
-    for (int index = 0; index < 200; ++index)
-        questions.push_back({"/" + std::to_string(index), index % 3 != 0});
-    const auto sizes = totalSizes(questions, 1min, [](const std::filesystem::path& path) {
-        return std::optional<std::int64_t>(std::stoll(path.filename().string()));
-    });
-    for (std::size_t index = 0; index < sizes.size(); ++index)
-        EXPECT_EQ(sizes[index], static_cast<std::int64_t>(index));
-    EXPECT_TRUE(totalSizes({}, 1min).empty());
-}
-
 } // namespace

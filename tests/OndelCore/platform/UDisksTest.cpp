@@ -1,16 +1,10 @@
 #include "OndelCore/platform/FakeDrives.h"
 #include "OndelCore/platform/FakeUDisks.h"
-#include "OndelCore/platform/SmartBlocks.h"
 
-#include <QDBusServiceWatcher>
 #include <QDateTime>
-#include <QEventLoop>
-#include <QFile>
 
 #include <gtest/gtest.h>
 #include <sys/sysmacros.h>
-
-#include <cerrno>
 
 namespace OndelCore::platform {
 
@@ -43,12 +37,12 @@ protected:
     void SetUp() override {
         if (m_bus.address().empty())
             GTEST_SKIP() << "no dbus-daemon here";
-        m_tree.addDisk("sda", "8:0", "scsi", {{"device/vendor", "ATA"}});
+        addDisk(m_machine, "sda", disk, "scsi", {{"device/vendor", "ATA"}});
         m_drives.drives["sda"].openError = EACCES;
     }
 
     SmartAnswer ask(UDisksScript script) {
-        SmartSources sources = m_tree.sources(m_drives);
+        SmartSources sources = sourcesOf(m_machine, m_drives);
         sources.serviceBus = m_bus.address();
         sources.serviceLimit = std::chrono::milliseconds(script.isMute ? 50 : 5000);
         const FakeUDisks service(m_bus.address(), std::move(script));
@@ -66,7 +60,7 @@ protected:
 
 private:
     test::PrivateBus m_bus;
-    test::FakeDeviceTree m_tree;
+    test::FakeMachine m_machine;
     test::FakeDrives m_drives;
 };
 
@@ -87,6 +81,8 @@ TEST_F(UDisks, TellsAnAtaDrivesFiguresInItsRawUnits) {
     EXPECT_EQ(report.attributes, (std::map<std::uint8_t, std::uint64_t>{
                                      {5, 8}, {9, 30}, {10, 0}, {12, 1234}, {194, 38}, {197, 2}}));
     EXPECT_EQ(answer.source, "UDisks2 for sda");
+    const SmartAnswer withoutTable = ask(scriptOf(ata, ataProperties(), u"no table"_s));
+    EXPECT_TRUE(std::holds_alternative<AtaSmartReport>(withoutTable.blocks)) << withoutTable.source;
 }
 
 TEST_F(UDisks, KeepsWhatItReadLastWhenTheDriveSleeps) {
@@ -158,51 +154,6 @@ TEST_F(UDisks, GivesNoVerdictThatNobodyGave) {
         EXPECT_TRUE(answer.isEmpty()) << what;
         EXPECT_NE(answer.source.find("UDisks2"), std::string::npos) << what << ": " << answer.source;
     }
-}
-
-TEST_F(UDisks, KeepsTheVerdictWhenTheTableIsOfAWrongType) {
-    const SmartAnswer answer = ask(scriptOf(ata, ataProperties(), u"no table"_s));
-    EXPECT_TRUE(std::holds_alternative<AtaSmartReport>(answer.blocks)) << answer.source;
-}
-
-/// The real service, its state in memory file systems of its own, so that it leaves nothing behind.
-TEST(RealUDisks, AnswersAsItsStandInDoes) {
-    const test::PrivateBus bus;
-    const QString daemon = u"/usr/libexec/udisks2/udisksd"_s;
-    if (bus.address().empty() || !QFile::exists(daemon))
-        GTEST_SKIP() << "no dbus-daemon or no udisks2 here";
-    QDBusConnection watching = QDBusConnection::connectToBus(QString::fromStdString(bus.address()), "watch");
-    QDBusServiceWatcher watcher(u"org.freedesktop.UDisks2"_s, watching);
-    QEventLoop untilItSpeaksOrEnds;
-    QObject::connect(&watcher, &QDBusServiceWatcher::serviceRegistered, &untilItSpeaksOrEnds,
-                     &QEventLoop::quit);
-    QProcess service;
-    QObject::connect(&service, &QProcess::finished, &untilItSpeaksOrEnds, &QEventLoop::quit);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, QString::fromStdString(bus.address()));
-    service.setProcessEnvironment(environment);
-    service.start(u"unshare"_s, {u"--mount"_s, u"sh"_s, u"-ec"_s,
-                                 u"for folder in /run /var/lib/udisks2; do mount -t tmpfs none $folder; done;"
-                                 "mkdir /run/lock; exec "_s +
-                                     daemon});
-    untilItSpeaksOrEnds.exec();
-    if (service.state() == QProcess::NotRunning)
-        GTEST_SKIP() << "not allowed here: " << service.readAllStandardError().toStdString();
-
-    const auto objects = UDisksBus(bus.address(), std::chrono::seconds(5)).objects();
-    ASSERT_TRUE(objects);
-    EXPECT_TRUE(objects->contains(QDBusObjectPath(u"/org/freedesktop/UDisks2/Manager"_s)));
-
-    test::FakeDeviceTree tree;
-    tree.addDisk("sda", "240:77", "scsi", {{"device/vendor", "ATA"}});
-    test::FakeDrives drives;
-    SmartSources sources = tree.sources(drives);
-    sources.serviceBus = bus.address();
-    EXPECT_EQ(smartOfDevice("sda", sources).source,
-              "sda is out of this process's reach, and UDisks2 knows no drive behind sda");
-    QDBusConnection::disconnectFromBus("watch");
-    service.terminate();
-    service.waitForFinished();
 }
 
 } // namespace

@@ -33,18 +33,14 @@ TEST(Bookmark, FindsItsFolderAndTellsWhenItIsAnother) {
         fs::rename(parent.path() / "elsewhere", folder);
         EXPECT_EQ(VolumeAccess::resolve(data), (ResolvedBookmark{folder, false}));
     }
-}
-
-TEST(Bookmark, OfAPlaceRelativeToTheWorkingFolderHoldsItWhole) {
     EXPECT_EQ(VolumeAccess::resolve(VolumeAccess::bookmark(".")).url, fs::absolute("."));
 }
 
 TEST(Bookmark, RefusesWhatIsNoFolderAndWhatIsNoBookmark) {
     const test::TemporaryFolder parent;
     std::ofstream(parent.path() / "file").close();
-    EXPECT_THROW(VolumeAccess::bookmark(parent.path() / "none"), std::system_error);
-    EXPECT_THROW(VolumeAccess::bookmark(parent.path() / "file"), std::system_error);
-    EXPECT_THROW(VolumeAccess::bookmark(""), std::system_error);
+    for (const fs::path& none : {parent.path() / "none", parent.path() / "file", fs::path()})
+        EXPECT_THROW(VolumeAccess::bookmark(none), std::system_error) << none;
 
     const BookmarkData good = VolumeAccess::bookmark(parent.path());
     const auto pathAt = good.find("\n/");
@@ -58,29 +54,25 @@ TEST(Bookmark, RefusesWhatIsNoFolderAndWhatIsNoBookmark) {
 }
 
 TEST(WithAccess, GivesBackWhatItTookAndNothingElse) {
-    struct Case {
-        bool isGiven;
-        bool throws;
-    };
-    for (const Case& access : {Case{true, false}, {true, true}, {false, false}, {false, true}}) {
+    for (const auto& [isGiven, throws] :
+         {std::pair{true, false}, {true, true}, {false, false}, {false, true}}) {
         std::string events;
-        const FolderAccess rights{.start =
-                                      [&](const fs::path& folder) {
-                                          events += "start " + folder.string() + ' ';
-                                          return access.isGiven;
-                                      },
-                                  .stop = [&](const fs::path&) { events += "stop"; }};
-        const auto body = [&] {
+        const auto start = [&, isGiven = isGiven](const fs::path& folder) {
+            events += "start " + folder.string() + ' ';
+            return isGiven;
+        };
+        const FolderAccess rights{.start = start, .stop = [&](const fs::path&) { events += "stop"; }};
+        const auto body = [&, throws = throws] {
             events += "body ";
-            if (access.throws)
+            if (throws)
                 throw std::runtime_error("body failed");
             return 42;
         };
-        if (access.throws)
+        if (throws)
             EXPECT_THROW(VolumeAccess::withAccess("/x", body, rights), std::runtime_error);
         else
             EXPECT_EQ(VolumeAccess::withAccess("/x", body, rights), 42);
-        EXPECT_EQ(events, access.isGiven ? "start /x body stop" : "start /x body ");
+        EXPECT_EQ(events, isGiven ? "start /x body stop" : "start /x body ");
     }
     bool ran = false;
     VolumeAccess::withAccess("/", [&] { ran = true; });

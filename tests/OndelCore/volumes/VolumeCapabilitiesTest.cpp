@@ -2,17 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <unordered_set>
-
 using namespace OndelCore::volumes;
 using namespace OndelCore::platform;
 
 namespace {
 
-using Field = bool VolumeCapabilities::*;
-
 struct Feature {
-    Field field;
+    bool VolumeCapabilities::*field;
     CapabilityWord CapabilityWords::*word;
     std::uint32_t bit;
 };
@@ -36,7 +32,6 @@ const std::vector<Feature> features{
 
 VolumeCapabilities from(const std::optional<CapabilityWords>& words) {
     FileSystemAnswers answers;
-    answers.type = "x";
     answers.capabilities = words;
     return VolumeCapabilities::from(answers);
 }
@@ -62,30 +57,6 @@ TEST(VolumeCapabilities, WithoutAnAnswerAssumeCasePreservationOnly) {
     for (const Feature& feature : features)
         EXPECT_EQ(unknown.*feature.field, feature.field == &VolumeCapabilities::isCasePreserving);
     EXPECT_FALSE(from(CapabilityWords()).isCasePreserving);
-}
-
-TEST(VolumeCapabilities, OfOtherProvidersAndMissingPathsAreAbsent) {
-    EXPECT_FALSE(VolumeCapabilities::probe(Location{.provider = {"cloud"}, .path = "/"}));
-    EXPECT_FALSE(VolumeCapabilities::probe(std::filesystem::path("/no/such/path")));
-    EXPECT_FALSE(VolumeCapabilities::probe(Location::local("")));
-}
-
-TEST(VolumeCapabilities, HashLikeTheyCompare) {
-    std::unordered_set<VolumeCapabilities> different;
-    VolumeCapabilities one;
-    different.insert(one);
-    for (const Feature& feature : features) {
-        VolumeCapabilities other;
-        other.*feature.field = !(other.*feature.field);
-        different.insert(other);
-        different.insert(other);
-    }
-    one.maxLinkCount = 0;
-    different.insert(one);
-    one.maxLinkCount.reset();
-    one.filesystemType = "ext4";
-    different.insert(one);
-    EXPECT_EQ(different.size(), features.size() + 3);
 }
 
 } // namespace

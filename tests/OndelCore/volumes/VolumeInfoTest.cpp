@@ -1,5 +1,6 @@
 #include "OndelCore/volumes/VolumeInfo.h"
 
+#include "OndelCore/volumes/VolumeCapabilities.h"
 #include "support/FakeMachine.h"
 
 #include <gtest/gtest.h>
@@ -17,8 +18,7 @@ constexpr auto least = std::numeric_limits<std::int64_t>::min();
 
 TEST(VolumeInfo, ComputesUsedPurgeableAndFraction) {
     struct Case {
-        std::int64_t total, available, rawAvailable;
-        std::int64_t used, purgeable;
+        std::int64_t total, available, rawAvailable, used, purgeable;
         double fraction;
     };
     for (const Case& sizes : {Case{1000, 250, 200, 750, 50, 0.75},
@@ -37,19 +37,6 @@ TEST(VolumeInfo, ComputesUsedPurgeableAndFraction) {
         EXPECT_EQ(info.purgeable(), sizes.purgeable);
         EXPECT_EQ(info.usedFraction(), sizes.fraction);
     }
-}
-
-TEST(VolumeInfo, NamesTheConnection) {
-    const auto connection = [](bool isInternal, bool isRemovable) {
-        VolumeInfo info;
-        info.isInternal = isInternal;
-        info.isRemovable = isRemovable;
-        return info.connection();
-    };
-    EXPECT_EQ(connection(true, true), "Removable");
-    EXPECT_EQ(connection(false, true), "Removable");
-    EXPECT_EQ(connection(true, false), "Internal");
-    EXPECT_EQ(connection(false, false), "External");
 }
 
 TEST(VolumeInfo, DefaultsEachMissingFactByItself) {
@@ -72,11 +59,13 @@ TEST(VolumeInfo, DefaultsEachMissingFactByItself) {
 }
 
 TEST(VolumeInfo, OfOtherProvidersAndMissingPathsIsAbsent) {
-    EXPECT_FALSE(VolumeInfo::load({.provider = {"cloud"}, .path = "/"}));
-    EXPECT_FALSE(VolumeInfo::load({.provider = {"Local"}, .path = "/"}));
-    for (const std::string path : {"", "/no/such/path", "/proc/self/fd/999"})
-        EXPECT_FALSE(VolumeInfo::load(Location::local(path))) << path;
-    EXPECT_FALSE(VolumeInfo::load(Location::local(std::string(5000, 'x'))));
+    for (const Location& place :
+         {Location{.provider = {"cloud"}, .path = "/"}, Location{.provider = {"Local"}, .path = "/"},
+          Location::local(""), Location::local("/no/such/path"), Location::local("/proc/self/fd/999"),
+          Location::local(std::string(5000, 'x'))}) {
+        EXPECT_FALSE(VolumeInfo::load(place)) << place.path;
+        EXPECT_FALSE(VolumeCapabilities::probe(place)) << place.path;
+    }
     const auto root = VolumeInfo::load(Location::local("/proc/.."));
     ASSERT_TRUE(root);
     EXPECT_EQ(root->volumeURL, "/");
