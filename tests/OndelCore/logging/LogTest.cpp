@@ -6,9 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <clocale>
 #include <limits>
+#include <thread>
+#include <vector>
 
 using namespace OndelCore::logging;
 
@@ -79,4 +82,20 @@ TEST(Log, WritesMessageThenFieldsAtTheLevelAndDetailAsked) {
     const std::string dots(10'000'000, '.');
     captured.log().notice("line", LogField::token("text", dots + " /home/ann/x"));
     EXPECT_TRUE(captured.takeBody() == "line text=" + dots + " «path» scrubbed=1");
+}
+
+TEST(Log, AnyThreadMayLog) {
+    test::CapturedLog captured({"annika", std::nullopt, std::nullopt, std::nullopt});
+    std::vector<std::jthread> threads;
+    for (int t = 0; t < 4; ++t)
+        threads.emplace_back([&captured] {
+            for (int i = 0; i < 500; ++i)
+                captured.log().notice("line", LogField::name("path", "/é/annika.txt"),
+                                      LogField::token("text", "annika@example.com 10.0.0.1"));
+        });
+    threads.clear();
+    captured.store().flush();
+    const std::string text = test::contentOf(captured.file());
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 2000);
+    EXPECT_EQ(text.find("annika"), std::string::npos);
 }

@@ -1,7 +1,11 @@
 #include "OndelCore/platform/FakeDrives.h"
 #include "OndelCore/platform/FakeUDisks.h"
+#include "OndelCore/platform/SmartBlocks.h"
 
+#include <QDBusServiceWatcher>
 #include <QDateTime>
+#include <QEventLoop>
+#include <QFile>
 
 #include <gtest/gtest.h>
 #include <sys/sysmacros.h>
@@ -154,6 +158,46 @@ TEST_F(UDisks, GivesNoVerdictThatNobodyGave) {
         EXPECT_TRUE(answer.isEmpty()) << what;
         EXPECT_NE(answer.source.find("UDisks2"), std::string::npos) << what << ": " << answer.source;
     }
+}
+
+/// The real service, its state in memory file systems of its own, so that it leaves nothing behind.
+TEST(RealUDisks, AnswersAsItsStandInDoes) {
+    const test::PrivateBus bus;
+    const QString daemon = u"/usr/libexec/udisks2/udisksd"_s;
+    if (bus.address().empty() || !QFile::exists(daemon))
+        GTEST_SKIP() << "no dbus-daemon or no udisks2 here";
+    QDBusConnection watching = QDBusConnection::connectToBus(QString::fromStdString(bus.address()), "watch");
+    QDBusServiceWatcher watcher(u"org.freedesktop.UDisks2"_s, watching);
+    QEventLoop untilItSpeaksOrEnds;
+    QObject::connect(&watcher, &QDBusServiceWatcher::serviceRegistered, &untilItSpeaksOrEnds,
+                     &QEventLoop::quit);
+    QProcess service;
+    QObject::connect(&service, &QProcess::finished, &untilItSpeaksOrEnds, &QEventLoop::quit);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, QString::fromStdString(bus.address()));
+    service.setProcessEnvironment(environment);
+    service.start(u"unshare"_s, {u"--mount"_s, u"sh"_s, u"-ec"_s,
+                                 u"for folder in /run /var/lib/udisks2; do mount -t tmpfs none $folder; done;"
+                                 "mkdir /run/lock; exec "_s +
+                                     daemon});
+    untilItSpeaksOrEnds.exec();
+    if (service.state() == QProcess::NotRunning)
+        GTEST_SKIP() << "not allowed here: " << service.readAllStandardError().toStdString();
+
+    const auto objects = UDisksBus(bus.address(), std::chrono::seconds(5)).objects();
+    ASSERT_TRUE(objects);
+    EXPECT_TRUE(objects->contains(QDBusObjectPath(u"/org/freedesktop/UDisks2/Manager"_s)));
+
+    test::FakeMachine machine;
+    addDisk(machine, "sda", makedev(240, 77), "scsi", {{"device/vendor", "ATA"}});
+    test::FakeDrives drives;
+    SmartSources sources = sourcesOf(machine, drives);
+    sources.serviceBus = bus.address();
+    EXPECT_EQ(smartOfDevice("sda", sources).source,
+              "sda is out of this process's reach, and UDisks2 knows no drive behind sda");
+    QDBusConnection::disconnectFromBus("watch");
+    service.terminate();
+    service.waitForFinished();
 }
 
 } // namespace

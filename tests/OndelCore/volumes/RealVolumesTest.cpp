@@ -24,17 +24,18 @@ namespace {
 
 constexpr std::int64_t mebibyte = 1048576;
 
-/// A second mount of a Btrfs disk's subvolume. Owner: the object unmounts.
-class Subvolume {
+/// A second mount of what is mounted already. Owner: the object unmounts.
+class Mounted {
 public:
-    Subvolume(const std::string& device, const fs::path& point)
+    Mounted(const fs::path& source, const fs::path& point, const char* type, unsigned long flags,
+            const char* options)
         : m_point(point) {
         fs::create_directories(point);
-        EXPECT_EQ(mount(device.c_str(), point.c_str(), "btrfs", 0, "subvol=home"), 0);
+        EXPECT_EQ(mount(source.c_str(), point.c_str(), type, flags, options), 0);
     }
-    ~Subvolume() { umount2(m_point.c_str(), MNT_DETACH); }
-    Subvolume(const Subvolume&) = delete;
-    Subvolume& operator=(const Subvolume&) = delete;
+    ~Mounted() { umount2(m_point.c_str(), MNT_DETACH); }
+    Mounted(const Mounted&) = delete;
+    Mounted& operator=(const Mounted&) = delete;
 
 private:
     fs::path m_point;
@@ -134,15 +135,32 @@ TEST(RealVolumes, SubvolumesAreOneVolumeAtTheShortestPlace) {
         GTEST_SKIP() << "no btrfs tool";
     const std::string device = *VolumeInfo::load(Location::local(disk.path()))->device;
     const test::TemporaryFolder elsewhere;
-    const Subvolume longer(device, elsewhere.path() / "a-much-longer-name-than-the-other-one-has");
+    const Mounted longer(device, elsewhere.path() / "a-much-longer-name-than-the-other-one-has", "btrfs", 0,
+                         "subvol=home");
     EXPECT_TRUE(listedBelow(elsewhere.path()).empty());
     EXPECT_EQ(listedBelow(disk.path()), std::vector<fs::path>{disk.path()});
-    const Subvolume shorter(device, elsewhere.path() / "h");
+    const Mounted shorter(device, elsewhere.path() / "h", "btrfs", 0, "subvol=home");
     EXPECT_EQ(listedBelow(elsewhere.path()), std::vector<fs::path>{elsewhere.path() / "h"});
     EXPECT_EQ(listedBelow(disk.path()), std::vector<fs::path>{});
     const auto info = VolumeInfo::load(Location::local(elsewhere.path() / "h"));
     EXPECT_EQ(info->volumeURL, elsewhere.path() / "h");
     EXPECT_EQ(info->device, device);
+}
+
+TEST(RealVolumes, KeepTheBytesOfAnyName) {
+    const test::LoopMount disk("ext4", 64 * mebibyte);
+    SKIP_WITHOUT(disk);
+    const test::TemporaryFolder elsewhere;
+    for (const std::string name : {"two words", "two\nlines", "caf\xe9", "back\\slash\ttab", "#hash", "ü"}) {
+        const fs::path point = elsewhere.path() / name;
+        const Mounted bound(disk.path(), point, nullptr, MS_BIND, nullptr);
+        const auto info = VolumeInfo::load(Location::local(point));
+        ASSERT_TRUE(info);
+        EXPECT_EQ(info->volumeURL, point);
+        EXPECT_EQ(info->name, QString::fromStdString(name));
+        EXPECT_TRUE(VolumeCapabilities::probe(point));
+        EXPECT_EQ(listedBelow(elsewhere.path()).size() + listedBelow(disk.path()).size(), 1U);
+    }
 }
 
 /// File systems that the kernel or a FUSE program serves, whichever there is: the type is the device's.
