@@ -153,12 +153,17 @@ QByteArray HistoryStore::encoded() const {
 /// Keeps the file under another name, with a link where there are any, so that a process killed in between
 /// leaves it in its place.
 bool HistoryStore::keepUnreadableFile() const {
-    const std::string time =
-        QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddTHHmmss.zzzZ")).toStdString();
-    const fs::path kept = m_url.parent_path() / (unreadablePrefix + time + ".json");
+    QDateTime time = QDateTime::currentDateTimeUtc();
     std::error_code error;
-    fs::create_hard_link(m_url, kept, error);
-    if (error)
+    fs::path kept;
+    do { // two files of one millisecond: the later one takes the next free name, in order
+        kept = m_url.parent_path() /
+               (unreadablePrefix + time.toString(QStringLiteral("yyyyMMddTHHmmss.zzzZ")).toStdString() +
+                ".json");
+        fs::create_hard_link(m_url, kept, error);
+        time = time.addMSecs(1);
+    } while (error == std::errc::file_exists);
+    if (error) // a folder, or a file system without links
         fs::rename(m_url, kept, error);
     if (error)
         return false;
