@@ -149,6 +149,7 @@ std::vector<AnalyzerModel::BlockOption> AnalyzerModel::blockOptions() const {
     if (optimal)
         values.insert(*optimal);
     std::vector<BlockOption> options;
+    options.reserve(values.size());
     for (const std::int64_t value : values)
         options.push_back({Format::block(value) + (value == optimal ? u"  ·  optimal"_s : QString()), value});
     return options;
@@ -156,6 +157,7 @@ std::vector<AnalyzerModel::BlockOption> AnalyzerModel::blockOptions() const {
 
 std::vector<AnalyzerModel::BlockOption> AnalyzerModel::randomBlockOptions() {
     std::vector<BlockOption> options;
+    options.reserve(randomBlockValues.size());
     for (const std::int64_t value : randomBlockValues)
         options.push_back({Format::block(value), value});
     return options;

@@ -142,7 +142,7 @@ QString Formatter::Icu::stamp(icu::SimpleDateFormat& format, const QDateTime& lo
         .replace(thinSpace, u' ');
 }
 
-Formatter::Formatter(UserLocale locale, std::optional<QTimeZone> zone)
+Formatter::Formatter(const UserLocale& locale, std::optional<QTimeZone> zone)
     : m_zone(std::move(zone))
     , m_icu(std::make_unique<Icu>(locale)) {}
 

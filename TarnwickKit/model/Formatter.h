@@ -28,7 +28,7 @@ using OndelCore::platform::UserLocale;
 class Formatter {
 public:
     /// `zone`: absent is the machine's own, asked anew for each stamp.
-    explicit Formatter(UserLocale locale, std::optional<QTimeZone> zone = std::nullopt);
+    explicit Formatter(const UserLocale& locale, std::optional<QTimeZone> zone = std::nullopt);
     ~Formatter();
     Formatter(const Formatter&) = delete;
     Formatter& operator=(const Formatter&) = delete;

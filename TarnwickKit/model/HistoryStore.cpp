@@ -28,7 +28,7 @@ constexpr auto ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
 fs::path defaultFolder() {
     std::error_code error;
     if (const auto data = OndelCore::platform::dataHome()) {
-        const fs::path folder = *data / folderName;
+        fs::path folder = *data / folderName;
         fs::create_directories(folder, error);
         if (!error)
             return folder;

@@ -12,7 +12,6 @@ namespace TarnwickKit::model {
 using namespace Qt::StringLiterals;
 using OndelCore::benchmark::BenchmarkPlan;
 using OndelCore::benchmark::BenchmarkResult;
-using OndelCore::benchmark::IOPSResult;
 using OndelCore::benchmark::ThroughputResult;
 using OndelCore::volumes::VolumeCapabilities;
 using OndelCore::volumes::VolumeInfo;

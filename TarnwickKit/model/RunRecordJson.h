@@ -17,7 +17,7 @@ namespace TarnwickKit::model {
 /// more than `maxCurvePoints`, and on figures that cannot be shown: negative ones, and those beyond
 /// `largestShownFigure` once scaled to what a screen shows. Writing fails on a record that could not be read.
 
-inline constexpr std::size_t maxRunFileBytes = 16 * 1024 * 1024;
+inline constexpr std::size_t maxRunFileBytes = std::size_t{16} * 1024 * 1024;
 inline constexpr std::size_t maxCurvePoints = 100000;
 /// Shown figures pass through a signed 64-bit integer, which ends at 9.22e18; an axis rounds up from there.
 inline constexpr double largestShownFigure = 9.0e18;

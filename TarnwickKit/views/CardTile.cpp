@@ -30,10 +30,12 @@ void boxBlur(uchar* pixels, int count, qsizetype step, int half, std::vector<uch
     for (int i = 0; i < std::min(half, count); ++i)
         sum += line[static_cast<std::size_t>(i)];
     for (int i = 0; i < count; ++i) {
-        if (i + half < count)
-            sum += line[static_cast<std::size_t>(i + half)];
-        if (i - half - 1 >= 0)
-            sum -= line[static_cast<std::size_t>(i - half - 1)];
+        const int entering = i + half;
+        const int leaving = i - half - 1;
+        if (entering < count)
+            sum += line[static_cast<std::size_t>(entering)];
+        if (leaving >= 0)
+            sum -= line[static_cast<std::size_t>(leaving)];
         pixels[i * step] = static_cast<uchar>((sum + width / 2) / width);
     }
 }

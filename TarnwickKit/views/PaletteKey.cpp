@@ -80,7 +80,7 @@ void PaletteKey::tellBeneath(QQuickItem* item) {
     for (QQuickItem* child : items)
         if (!tell(child))
             tellBeneath(child);
-    const auto others = item->children(); // what is no item, such as a chart's series
+    const auto& others = item->children(); // what is no item, such as a chart's series
     for (QObject* child : others)
         if (!qobject_cast<QQuickItem*>(child))
             tell(child);

@@ -2,11 +2,10 @@
 
 #include "examples/host/ProgressLine.h"
 
+#include <QByteArray>
+
 #include <poll.h>
 #include <unistd.h>
-
-#include <cstdlib>
-#include <string_view>
 
 using namespace OndelCore::benchmark;
 
@@ -25,10 +24,7 @@ void replaceLine(const QString& line) {
 
 } // namespace
 
-bool ProgressBar::isPossible() {
-    const char* const terminal = std::getenv("TERM");
-    return isatty(STDERR_FILENO) && !(terminal && std::string_view(terminal) == "dumb");
-}
+bool ProgressBar::isPossible() { return isatty(STDERR_FILENO) && qgetenv("TERM") != "dumb"; }
 
 ProgressBar::ProgressBar(BenchmarkPlan plan)
     : m_plan(std::move(plan)) {}

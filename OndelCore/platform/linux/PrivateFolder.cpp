@@ -1,5 +1,7 @@
 #include "OndelCore/platform/PrivateFolder.h"
 
+#include <QByteArray>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -23,10 +25,10 @@ bool isOurs(const fs::path& folder) {
 }
 
 std::optional<fs::path> sessionFolder() {
-    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (!runtime || *runtime != '/' || !isOurs(runtime))
+    const fs::path runtime = qgetenv("XDG_RUNTIME_DIR").toStdString();
+    if (!runtime.is_absolute() || !isOurs(runtime))
         return std::nullopt;
-    const fs::path folder = fs::path(runtime) / "tools.ondel.tarnwick";
+    const fs::path folder = runtime / "tools.ondel.tarnwick";
     mkdir(folder.c_str(), ownerOnly);
     return isOurs(folder) ? std::optional(folder) : std::nullopt;
 }

@@ -54,7 +54,8 @@ bool removeEntry(int parent, const char* name);
 bool removeChildren(DIR* folder) {
     bool removedAny = false;
     rewinddir(folder);
-    while (const dirent* entry = readdir(folder)) {
+    // readdir is safe where each thread has a DIR of its own, as here.
+    while (const dirent* entry = readdir(folder)) { // NOLINT(concurrency-mt-unsafe)
         const std::string_view child = entry->d_name;
         if (child != "." && child != "..")
             removedAny |= removeEntry(dirfd(folder), entry->d_name);

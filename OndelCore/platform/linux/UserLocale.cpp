@@ -1,9 +1,9 @@
 #include "OndelCore/platform/UserLocale.h"
 
+#include <QByteArray>
+
 #include <unicode/locid.h>
 #include <unicode/ulocdata.h>
-
-#include <cstdlib>
 
 namespace OndelCore::platform {
 
@@ -13,9 +13,9 @@ constexpr const char* fallbackName = "en_US";
 
 std::string posixLocale(const char* category) {
     for (const char* variable : {"LC_ALL", category, "LANG"}) {
-        const char* value = std::getenv(variable);
-        if (value && *value)
-            return value;
+        const QByteArray value = qgetenv(variable);
+        if (!value.isEmpty())
+            return value.toStdString();
     }
     return {};
 }
