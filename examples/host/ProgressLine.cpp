@@ -31,13 +31,11 @@ Amount bytesAmount(const BenchmarkProgress& progress) {
 }
 
 Amount operationsAmount(const BenchmarkProgress& progress, std::int64_t perOperation, const QString& unit) {
-    const auto grouped = [&](std::int64_t count) {
-        return Format::grouped(static_cast<double>(count / perOperation));
-    };
-    const QString total = grouped(progress.totalBytes);
-    const auto operations = static_cast<double>(progress.completedBytes / perOperation);
-    const double rate = progress.elapsed > 0 ? operations / progress.elapsed : 0;
-    return {grouped(progress.completedBytes).rightJustified(total.size()) + " of " + total,
+    const std::int64_t completed = progress.completedBytes / perOperation;
+    const std::int64_t all = progress.totalBytes / perOperation;
+    const QString total = Format::grouped(static_cast<double>(all));
+    const double rate = progress.elapsed > 0 ? static_cast<double>(completed) / progress.elapsed : 0;
+    return {Format::grouped(static_cast<double>(completed)).rightJustified(total.size()) + " of " + total,
             (Format::compact(rate) + ' ' + unit).rightJustified(12)};
 }
 

@@ -100,6 +100,7 @@ int main(int argc, char** argv) {
     occupyStandardDescriptors();
     std::signal(SIGPIPE, SIG_IGN);
     // Only how the terminal encodes characters: numbers and dates ask for the locale themselves.
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread runs yet.
     std::setlocale(LC_CTYPE, "");
     try {
         const std::span<const char* const> words(argv, static_cast<std::size_t>(argc));
