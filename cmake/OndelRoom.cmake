@@ -38,3 +38,10 @@ function(ondel_bench name)
   add_executable(${name} ${BENCH_SOURCES})
   target_link_libraries(${name} PRIVATE ondel_options ${BENCH_LINK} benchmark::benchmark)
 endfunction()
+
+# What Qt's generators write is not ours to keep free of warnings. Call it after qt_add_qml_module.
+function(ondel_quiet_generated target)
+  get_target_property(sources ${target} SOURCES)
+  list(FILTER sources INCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/.*\\.cpp$")
+  set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+endfunction()

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import OndelDrawing
 import TarnwickKit.views
 
 /// A question over the whole window. Escape and the first button leave everything as it is.

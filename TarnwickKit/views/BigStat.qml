@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// One headline rate with its best and least sample. Units: bytes per second; absent figures are not numbers.

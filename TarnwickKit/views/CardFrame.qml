@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// The raised card that shows a run: a header row, a hairline, and what belongs under it.

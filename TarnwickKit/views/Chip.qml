@@ -1,4 +1,5 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 Card {

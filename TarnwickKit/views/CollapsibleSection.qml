@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// A heading that shows and hides what belongs to it.

@@ -19,7 +19,7 @@ void DualSparkline::itemChange(ItemChange change, const ItemChangeData& value) {
     ImageItem::itemChange(change, value);
 }
 
-ImageItem::Picture DualSparkline::paint(double scale) {
+OndelDrawing::ImageItem::Picture DualSparkline::paint(double scale) {
     if (m_run.readSamples.size() < 2 && m_run.writeSamples.size() < 2)
         return {};
     QImage image = sparklineCanvas(size(), scale);

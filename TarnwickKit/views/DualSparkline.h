@@ -1,7 +1,7 @@
 #pragma once
 
+#include "OndelDrawing/ImageItem.h"
 #include "TarnwickKit/model/RunRecord.h"
-#include "TarnwickKit/views/ImageItem.h"
 #include "TarnwickKit/views/PaletteKey.h"
 
 #include <QList>
@@ -11,7 +11,7 @@ namespace TarnwickKit::views {
 
 /// The two curves of a saved run, write above read, each scaled by its own peak. It is one item and not two,
 /// since a history shows fifty of them.
-class DualSparkline : public TarnwickKit::views::ImageItem {
+class DualSparkline : public OndelDrawing::ImageItem {
     Q_OBJECT
     QML_ELEMENT
 

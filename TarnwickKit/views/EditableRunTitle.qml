@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import OndelDrawing
 import TarnwickKit.views
 
 /// A run's title, which a press turns into a field for another one.

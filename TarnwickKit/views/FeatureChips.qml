@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// What the target's file system can do.

@@ -1,4 +1,5 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// A small square button that is nothing but its symbol.

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import OndelDrawing
 import TarnwickKit.views
 
 /// A menu that drops from a control. Arrow keys move in it, Return chooses, Escape closes.

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import OndelDrawing
 import TarnwickKit.views
 
 T.MenuItem {

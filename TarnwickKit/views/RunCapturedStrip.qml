@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// The facts of the volume and the settings that were captured with a run, at the foot of its card.

@@ -1,4 +1,5 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// A rate in a row of runs. Units: bytes per second; not a number where there is none.

@@ -1,4 +1,5 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// The figures of the target's drive, and the way to keep them.

@@ -14,7 +14,7 @@ void Sparkline::setColor(const QColor& color) {
         Q_EMIT changed();
 }
 
-ImageItem::Picture Sparkline::paint(double scale) {
+OndelDrawing::ImageItem::Picture Sparkline::paint(double scale) {
     if (m_points.size() < 2)
         return {};
     QImage image = sparklineCanvas(size(), scale);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TarnwickKit/views/ImageItem.h"
+#include "OndelDrawing/ImageItem.h"
 
 #include <QColor>
 #include <QList>
@@ -9,7 +9,7 @@
 namespace TarnwickKit::views {
 
 /// A bare curve from edge to edge, without axes; nothing with fewer than two points.
-class Sparkline : public TarnwickKit::views::ImageItem {
+class Sparkline : public OndelDrawing::ImageItem {
     Q_OBJECT
     QML_ELEMENT
 

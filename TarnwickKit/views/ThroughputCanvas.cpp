@@ -82,7 +82,7 @@ void ThroughputCanvas::setLabelColor(const QColor& color) {
 /// The next sample is never far off, so that what comes into sight again is up to date at once.
 bool ThroughputCanvas::canWait() const { return isLive() && clipRect().isEmpty(); }
 
-ImageItem::Picture ThroughputCanvas::paint(double scale) {
+OndelDrawing::ImageItem::Picture ThroughputCanvas::paint(double scale) {
     m_content.curves.clear();
     for (const ChartSeries* series : std::as_const(m_series))
         m_content.curves.push_back(series->curve());

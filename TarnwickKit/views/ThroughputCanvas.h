@@ -1,7 +1,7 @@
 #pragma once
 
+#include "OndelDrawing/ImageItem.h"
 #include "TarnwickKit/views/ChartSeries.h"
-#include "TarnwickKit/views/ImageItem.h"
 #include "TarnwickKit/views/ThroughputPicture.h"
 
 #include <QQmlListProperty>
@@ -13,7 +13,7 @@ QString throughputSummary(const QList<ChartSeries*>& series);
 
 /// The curves and axes of a throughput chart. However often its series change it is painted once per frame,
 /// and a live one not at all while it is scrolled out of sight.
-class ThroughputCanvas : public TarnwickKit::views::ImageItem {
+class ThroughputCanvas : public OndelDrawing::ImageItem {
     Q_OBJECT
     QML_ELEMENT
 

@@ -1,5 +1,5 @@
 import QtQuick
-import TarnwickKit.views
+import OndelDrawing
 
 /// The volume's square: its symbol on the colours of how it is attached.
 Card {

@@ -1,9 +1,9 @@
-#include "TarnwickKit/views/CardTile.h"
+#include "OndelDrawing/CardTile.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
 #include <gtest/gtest.h>
 
-using namespace TarnwickKit::views;
+using namespace OndelDrawing;
 
 namespace {
 

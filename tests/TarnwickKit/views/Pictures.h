@@ -34,7 +34,7 @@ public:
     explicit Stage(const QByteArray& qml, const QVariantMap& properties = {}) {
         m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
         QQmlComponent component(&m_engine);
-        component.setData("import QtQuick\nimport TarnwickKit.views\n" + qml, QUrl());
+        component.setData("import QtQuick\nimport OndelDrawing\nimport TarnwickKit.views\n" + qml, QUrl());
         m_root.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
         if (!m_root)
             throw std::runtime_error(component.errorString().toStdString());

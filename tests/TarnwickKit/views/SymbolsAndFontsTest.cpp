@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/SymbolTable.h"
+#include "OndelDrawing/SymbolTable.h"
 #include "TarnwickKit/views/TarnwickFonts.h"
 #include "TarnwickKit/views/Typeface.h"
 
@@ -10,6 +10,7 @@
 
 #include <set>
 
+using namespace OndelDrawing;
 using namespace TarnwickKit::views;
 
 namespace {

@@ -1,10 +1,10 @@
-#include "TarnwickKit/views/Symbol.h"
+#include "OndelDrawing/Symbol.h"
 
-#include "TarnwickKit/views/SymbolTable.h"
+#include "OndelDrawing/SymbolTable.h"
 
 #include <cmath>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 namespace {
 
@@ -49,4 +49,4 @@ ImageItem::Picture Symbol::paint(double scale) {
             {toPixelGrid((width() - side) / 2, scale), toPixelGrid((height() - side) / 2, scale)}};
 }
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing

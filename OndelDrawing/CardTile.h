@@ -7,7 +7,7 @@
 #include <QRectF>
 #include <QSize>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 /// How a card is painted.
 ///
@@ -45,4 +45,4 @@ struct CardTile {
 /// given again.
 CardTile cardTile(const CardLook& look, QSize size, double scale);
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing

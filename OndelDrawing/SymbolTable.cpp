@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/SymbolTable.h"
+#include "OndelDrawing/SymbolTable.h"
 
 #include <QCache>
 #include <QFile>
@@ -10,7 +10,7 @@
 #include <array>
 #include <cmath>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 namespace {
 
@@ -59,7 +59,7 @@ const Entry* find(QStringView name) {
 double widening(int weight) { return weight <= QFont::Normal ? 0 : (weight - QFont::Normal) * 0.0025; }
 
 QByteArray drawing(const char* file, int weight) {
-    QFile svg(QStringLiteral(":/tarnwick/Symbols/%1.svg").arg(QLatin1String(file)));
+    QFile svg(QStringLiteral(":/ondel/Symbols/%1.svg").arg(QLatin1String(file)));
     if (!svg.open(QIODevice::ReadOnly))
         return {};
     QByteArray content = svg.readAll();
@@ -106,4 +106,4 @@ QImage symbolImage(const QString& name, int pixels, const QColor& color, int wei
     return image;
 }
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing

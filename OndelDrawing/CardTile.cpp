@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/CardTile.h"
+#include "OndelDrawing/CardTile.h"
 
 #include <QCache>
 #include <QLinearGradient>
@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 namespace {
 
@@ -196,4 +196,4 @@ CardTile cardTile(const CardLook& look, QSize size, double scale) {
     return {image, plan.outside, plan.fixed};
 }
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing

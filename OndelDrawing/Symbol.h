@@ -1,18 +1,18 @@
 #pragma once
 
-#include "TarnwickKit/views/ImageItem.h"
+#include "OndelDrawing/ImageItem.h"
 
 #include <QColor>
 #include <QFont>
 #include <QString>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 /// A symbol by its name ("play.fill"), in one colour, sharp at every scale of the screen. It takes the room
 /// that symbolBox tells and is drawn in the middle of whatever room it gets. An empty name shows nothing.
 ///
 /// Fails: an unknown name stops a debug build and shows nothing in a release build.
-class Symbol : public TarnwickKit::views::ImageItem {
+class Symbol : public OndelDrawing::ImageItem {
     Q_OBJECT
     QML_ELEMENT
 
@@ -42,4 +42,4 @@ private:
     int m_weight = QFont::Normal;
 };
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing

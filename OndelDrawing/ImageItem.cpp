@@ -1,9 +1,9 @@
-#include "TarnwickKit/views/ImageItem.h"
+#include "OndelDrawing/ImageItem.h"
 
 #include <QQuickWindow>
 #include <QSGImageNode>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 ImageItem::ImageItem(QQuickItem* parent)
     : QQuickItem(parent) {
@@ -50,4 +50,4 @@ QSGNode* ImageItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
     return shown;
 }
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing

@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QStringView>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 bool isSymbol(QStringView name);
 
@@ -19,4 +19,4 @@ int symbolBox(double fontSize);
 /// Fails: a name that no symbol has is a programming fault; release builds give a null image.
 QImage symbolImage(const QString& name, int pixels, const QColor& color, int weight = QFont::Normal);
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing

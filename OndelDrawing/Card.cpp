@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/Card.h"
+#include "OndelDrawing/Card.h"
 
 #include <QQuickWindow>
 #include <QSGImageNode>
@@ -8,7 +8,7 @@
 #include <cmath>
 #include <memory>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 namespace {
 
@@ -117,4 +117,4 @@ QSGNode* Card::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
     return card;
 }
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing

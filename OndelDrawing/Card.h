@@ -1,11 +1,11 @@
 #pragma once
 
-#include "TarnwickKit/views/CardTile.h"
+#include "OndelDrawing/CardTile.h"
 
 #include <QQmlEngine>
 #include <QQuickItem>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 /// A surface with continuous corners, an outline within its edge and a shadow beneath it, which reaches
 /// beyond the item. It costs no more when it is large. Whatever is put into it lies above it.
@@ -68,4 +68,4 @@ private:
     CardLook m_look;
 };
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing

@@ -5,7 +5,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 
-namespace TarnwickKit::views {
+namespace OndelDrawing {
 
 /// An item that shows one image, painted in the screen's own pixels, and painted again only when it must be.
 class ImageItem : public QQuickItem {
@@ -48,4 +48,4 @@ private:
     bool m_isStale = true;
 };
 
-} // namespace TarnwickKit::views
+} // namespace OndelDrawing
