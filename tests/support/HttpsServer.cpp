@@ -1,0 +1,154 @@
+#include "support/HttpsServer.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QSslSocket>
+
+#include <algorithm>
+#include <optional>
+#include <stdexcept>
+
+namespace test {
+
+namespace {
+
+/// An authority and its certificates, made once in a process with the command that every system with TLS has.
+class Authority {
+public:
+    static const Authority& shared() {
+        static const Authority authority;
+        return authority;
+    }
+
+    QSslConfiguration serverConfiguration(HttpsServer::Certificate which) const {
+        const QString name = QStringLiteral("%1").arg(which == HttpsServer::Certificate::forThisHost
+                                                          ? QStringLiteral("here")
+                                                          : QStringLiteral("elsewhere"));
+        QFile key(path(name + QStringLiteral(".key")));
+        if (!key.open(QIODevice::ReadOnly))
+            throw std::runtime_error("no key was made");
+        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+        configuration.setLocalCertificate(certificate(name));
+        configuration.setPrivateKey(QSslKey(&key, QSsl::Ec));
+        return configuration;
+    }
+
+    QSslCertificate certificate(const QString& name) const {
+        return QSslCertificate::fromPath(path(name + QStringLiteral(".pem"))).value(0);
+    }
+
+private:
+    Authority() {
+        make(QStringLiteral("authority"), {QStringLiteral("-subj"), QStringLiteral("/CN=Test Authority")});
+        sign(QStringLiteral("here"), QStringLiteral("DNS:localhost,IP:127.0.0.1"));
+        sign(QStringLiteral("elsewhere"), QStringLiteral("DNS:elsewhere.example"));
+    }
+
+    QString path(const QString& name) const {
+        return QString::fromStdString((m_folder.path() / name.toStdString()).string());
+    }
+
+    void sign(const QString& name, const QString& hosts) {
+        make(name,
+             {QStringLiteral("-CA"), path(QStringLiteral("authority.pem")), QStringLiteral("-CAkey"),
+              path(QStringLiteral("authority.key")), QStringLiteral("-subj"), QStringLiteral("/CN=test"),
+              QStringLiteral("-addext"), QStringLiteral("subjectAltName=") + hosts, QStringLiteral("-addext"),
+              QStringLiteral("basicConstraints=critical,CA:FALSE")});
+    }
+
+    void make(const QString& name, const QStringList& how) {
+        QProcess openssl;
+        openssl.start(QStringLiteral("openssl"),
+                      QStringList{QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-noenc"),
+                                  QStringLiteral("-days"), QStringLiteral("2"), QStringLiteral("-newkey"),
+                                  QStringLiteral("ec"), QStringLiteral("-pkeyopt"),
+                                  QStringLiteral("ec_paramgen_curve:P-256"), QStringLiteral("-keyout"),
+                                  path(name + QStringLiteral(".key")), QStringLiteral("-out"),
+                                  path(name + QStringLiteral(".pem"))} +
+                          how);
+        if (!openssl.waitForFinished(-1) || openssl.exitCode() != 0)
+            throw std::runtime_error("openssl: " + openssl.readAllStandardError().toStdString());
+    }
+
+    TemporaryFolder m_folder;
+};
+
+/// Absent while not all of it has come.
+std::optional<HttpsServer::Request> parse(const QByteArray& bytes) {
+    const auto end = bytes.indexOf("\r\n\r\n");
+    if (end < 0)
+        return std::nullopt;
+    const QList<QByteArray> lines = bytes.left(end).split('\n');
+    const QList<QByteArray> words = lines.first().split(' ');
+    HttpsServer::Request request{words.value(0), words.value(1), {}, bytes.mid(end + 4)};
+    for (const QByteArray& line : lines.mid(1))
+        request.headers[line.left(line.indexOf(':')).toLower()] = line.mid(line.indexOf(':') + 1).trimmed();
+    if (request.body.size() < request.headers.value("content-length").toLongLong())
+        return std::nullopt;
+    return request;
+}
+
+} // namespace
+
+HttpsServer::HttpsServer(Certificate certificate) {
+    m_server.setSslConfiguration(Authority::shared().serverConfiguration(certificate));
+    if (!m_server.listen(QHostAddress::LocalHost))
+        throw std::runtime_error(m_server.errorString().toStdString());
+    QObject::connect(&m_server, &QTcpServer::pendingConnectionAvailable, &m_server, [this] {
+        while (auto* socket = qobject_cast<QSslSocket*>(m_server.nextPendingConnection())) {
+            ++m_connections;
+            QObject::connect(socket, &QSslSocket::readyRead, socket, [this, socket] { read(socket); });
+            QObject::connect(socket, &QSslSocket::disconnected, socket, &QObject::deleteLater);
+        }
+    });
+}
+
+QUrl HttpsServer::url(const QString& path) const {
+    return QUrl(QStringLiteral("https://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(path));
+}
+
+QSslConfiguration HttpsServer::trustingConfiguration() {
+    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    configuration.addCaCertificate(Authority::shared().certificate(QStringLiteral("authority")));
+    return configuration;
+}
+
+void HttpsServer::read(QSslSocket* socket) {
+    const QByteArray bytes = socket->peek(socket->bytesAvailable());
+    const auto request = parse(bytes);
+    if (!request)
+        return;
+    socket->readAll();
+    m_requests.append(*request);
+    const auto scripted = m_script.find(request->path);
+    send(socket, scripted == m_script.end() ? Answer{404, {}, {}} : scripted->second);
+}
+
+void HttpsServer::send(QSslSocket* socket, const Answer& answer) {
+    const bool whole = answer.ending == Answer::Ending::whole;
+    if (answer.status != 0) {
+        QByteArray head =
+            "HTTP/1.1 " + QByteArray::number(answer.status) + " Scripted\r\nConnection: close\r\n";
+        for (const auto& [name, value] : answer.headers)
+            head += name + ": " + value + "\r\n";
+        if (answer.ending != Answer::Ending::endless)
+            head += "Content-Length: " + QByteArray::number(answer.body.size() + (whole ? 0 : 1)) + "\r\n";
+        socket->write(head + "\r\n" + answer.body);
+    }
+    if (answer.ending == Answer::Ending::endless) {
+        const auto feed = [socket] {
+            if (socket->bytesToWrite() + socket->encryptedBytesToWrite() < (1 << 18))
+                socket->write(QByteArray(1 << 16, '\0'));
+        };
+        QObject::connect(socket, &QSslSocket::encryptedBytesWritten, socket, feed);
+        feed();
+    } else if (answer.ending != Answer::Ending::silence) {
+        socket->disconnectFromHost(); // after what is still to be written
+    }
+}
+
+} // namespace test
