@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <QUrl>
 
@@ -7,6 +8,12 @@ namespace OndelAppSupport {
 
 /// Which product this is.
 struct AppIdentity {
+    Q_GADGET
+    Q_PROPERTY(QString name MEMBER name)
+    Q_PROPERTY(QString shortName MEMBER shortName)
+    Q_PROPERTY(QString reportID MEMBER reportID)
+    Q_PROPERTY(QUrl website MEMBER website)
+public:
     QString name;      ///< in full
     QString shortName; ///< where there is little room
     QString reportID;  ///< the word by which the report service knows the product

@@ -1,12 +1,18 @@
 #pragma once
 
 #include "OndelAppSupport/InformationDictionary.h"
+#include "OndelAppSupport/ReportError.h"
 
+#include <QFuture>
+#include <QSslConfiguration>
 #include <QString>
 #include <QUrl>
+#include <QVariantMap>
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 
 namespace OndelAppSupport {
 
@@ -14,6 +20,39 @@ namespace OndelAppSupport {
 /// Threads: any. `build` and `root` (where the system's files are found) are others only in tests.
 class BugReporter {
 public:
+    using ReportError = OndelAppSupport::ReportError;
+
+    /// What the user has to say.
+    struct Report {
+        bool isFeature = false; ///< a wish, not a fault
+        QString summary;        ///< one line
+        QString details;
+        QString email;                      ///< where to answer, if anywhere
+        bool attachDiagnostics = false;     ///< the user's choice
+        std::optional<QString> diagnostics; ///< the text to send, once it was taken
+
+        bool operator==(const Report&) const = default;
+    };
+
+    /// Where reports go, and for how long an answer is waited for.
+    struct Service {
+        QUrl endpoint;
+        QString secret; ///< travels in one header of the request to `endpoint` and nowhere else
+        std::chrono::milliseconds limit = std::chrono::seconds(60); ///< for the whole exchange
+        QSslConfiguration encryption = QSslConfiguration::defaultConfiguration();
+
+        /// The maker's, with the secret of this build; a build without one sends it empty.
+        static Service maker();
+    };
+
+    /// What is sent. All values are texts. A wish never carries diagnostics.
+    static QVariantMap payload(const Report& report);
+
+    /// Sends the report once, to the endpoint alone: over verified TLS, following nobody elsewhere, and
+    /// reading at most 1 MiB of an answer. Cancelling the future ends the exchange.
+    /// Threads: main. Fails: ReportError, by the future.
+    static QFuture<void> submit(const Report& report, const Service& service = Service::maker());
+
     /// The report service.
     static QUrl endpoint();
 

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+#include <string>
+#include <variant>
+
+namespace OndelAppSupport {
+
+/// Why a report did not arrive.
+class ReportError : public std::exception {
+public:
+    /// The service answered and refused. `text`: its own reason, or a sentence that names the status.
+    struct Server {
+        QString text;
+        bool operator==(const Server&) const = default;
+    };
+    /// What answered did not speak as the service does.
+    struct Network {
+        bool operator==(const Network&) const = default;
+    };
+    /// No answer came, or none to be trusted. `text`: the system's own words.
+    struct Transport {
+        QString text;
+        bool operator==(const Transport&) const = default;
+    };
+    using Cause = std::variant<Server, Network, Transport>;
+
+    explicit ReportError(Cause cause);
+
+    const Cause& cause() const { return m_cause; }
+    /// One sentence for the user.
+    QString localizedDescription() const;
+    const char* what() const noexcept override { return m_what.c_str(); }
+
+private:
+    Cause m_cause;
+    std::string m_what;
+};
+
+} // namespace OndelAppSupport

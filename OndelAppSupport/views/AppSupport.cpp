@@ -1,0 +1,52 @@
+#include "OndelAppSupport/views/AppSupport.h"
+
+#include "OndelAppSupport/BugReporter.h"
+#include "OndelAppSupport/MakerSite.h"
+#include "OndelAppSupport/ThirdPartyNotices.h"
+
+#include <QDesktopServices>
+#include <QFile>
+#include <QGuiApplication>
+
+namespace OndelAppSupport::views {
+
+namespace {
+
+/// The shared note follows the application's activation, and its page opens with the desktop.
+SupportNudges* sharedNudges() {
+    SupportNudges& nudges = SupportNudges::shared();
+    QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &nudges,
+                     [&nudges](Qt::ApplicationState state) {
+                         if (state == Qt::ApplicationActive)
+                             nudges.applicationBecameActive();
+                     });
+    QObject::connect(&nudges, &SupportNudges::pageWanted, &nudges, &AppSupport::openPage);
+    QQmlEngine::setObjectOwnership(&nudges, QQmlEngine::CppOwnership);
+    return &nudges;
+}
+
+} // namespace
+
+SupportNudges* AppSupport::nudges() {
+    static SupportNudges* const nudges = sharedNudges();
+    return nudges;
+}
+
+QString AppSupport::appVersion() { return BugReporter::appVersion(); }
+
+QString AppSupport::osVersion() { return BugReporter::osVersion(); }
+
+QString AppSupport::hardwareModel() { return BugReporter::hardwareModel(); }
+
+QUrl AppSupport::reportPage() { return makerSitePage(QStringLiteral("/report")); }
+
+QUrl AppSupport::notices() {
+    const auto file = thirdPartyNotices();
+    return file ? QUrl::fromLocalFile(QFile::decodeName(file->c_str())) : QUrl();
+}
+
+void AppSupport::openPage(const QUrl& page) { QDesktopServices::openUrl(page); }
+
+void AppSupport::openFile(const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
+
+} // namespace OndelAppSupport::views

@@ -1,0 +1,45 @@
+import QtQuick
+import QtQuick.Templates as T
+import OndelDrawing
+import OndelAppSupport.views
+
+/// A button on the maker's backdrop.
+T.AbstractButton {
+    id: button
+
+    property bool prominent: false
+
+    implicitWidth: words.implicitWidth + leftPadding + rightPadding
+    implicitHeight: words.implicitHeight + topPadding + bottomPadding
+    horizontalPadding: 10
+    verticalPadding: prominent ? 5 : 4
+    opacity: pressed ? 0.75 : 1
+    activeFocusOnTab: true
+    focusPolicy: Qt.TabFocus
+
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Accessible.focusable: true
+    Accessible.onPressAction: button.clicked()
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
+
+    contentItem: Text {
+        id: words
+
+        text: button.text
+        textFormat: Text.PlainText
+        font.pixelSize: 10
+        font.weight: button.prominent ? Font.DemiBold : Font.Normal
+        color: "white"
+        Accessible.ignored: true
+    }
+    background: Card {
+        radius: 6
+        color: button.prominent ? OndelBrand.coralButton : Qt.rgba(1, 1, 1, 0.16)
+    }
+    FocusMark {
+        control: button
+        border.color: "white"
+    }
+}
