@@ -1,6 +1,7 @@
 // tarnwick-host: a host application on the library's public surface, for terminals and scripts.
 
 #include "examples/host/Command.h"
+#include "examples/host/DisplayText.h"
 #include "examples/host/Output.h"
 
 #include <algorithm>
@@ -18,29 +19,32 @@ constexpr std::string_view program = "tarnwick-host";
 /// Two columns: the words on the left, what they mean on the right.
 class HelpLines {
 public:
-    explicit HelpLines(std::size_t leftColumns)
+    explicit HelpLines(int leftColumns)
         : m_leftColumns(leftColumns) {}
 
     void add(std::string_view left, std::string_view right) {
         std::string line = "  " + std::string(left);
+        // An ellipsis is three bytes, and one column.
+        line.append(spaces(m_leftColumns + 2 - std::min(m_leftColumns, columnsOf(QString::fromUtf8(left)))));
         for (std::size_t start = 0; start <= right.size();) {
             const std::size_t end = std::min(right.find('\n', start), right.size());
-            line.resize(std::max(line.size(), m_leftColumns + 4), ' ');
             m_text.append(line).append(right.substr(start, end - start)).append("\n");
-            line.clear();
+            line = spaces(m_leftColumns + 4);
             start = end + 1;
         }
     }
     const std::string& text() const { return m_text; }
 
 private:
-    std::size_t m_leftColumns;
+    static std::string spaces(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
+
+    int m_leftColumns;
     std::string m_text;
 };
 
 std::string helpOf(const Command& command) {
-    std::string usage = "Usage: " + std::string(program) + " " + std::string(command.name) + " [OPTION]… " +
-                        std::string(command.operands) + "\n";
+    std::string usage = "Usage: " + std::string(program) + " " + std::string(command.name) + " [OPTION]…" +
+                        (command.operands.empty() ? "" : " ") + std::string(command.operands) + "\n";
     HelpLines lines(24);
     for (const Option& option : command.options)
         lines.add(std::string(option.name) + (option.argument.empty() ? "" : " ") +
