@@ -17,9 +17,10 @@ class Card : public QQuickItem {
 
     Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY lookChanged)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY lookChanged)
-    /// Where it is set the fill runs from `color` to it, to the far corner or downwards.
+    /// Where it is set the fill runs from `color` at the top left to it at `endPoint`.
     Q_PROPERTY(QColor endColor READ endColor WRITE setEndColor NOTIFY lookChanged)
-    Q_PROPERTY(bool diagonal READ isDiagonal WRITE setDiagonal NOTIFY lookChanged)
+    /// Units: parts of the width and the height. The far corner at first.
+    Q_PROPERTY(QPointF endPoint READ endPoint WRITE setEndPoint NOTIFY lookChanged)
     Q_PROPERTY(QColor outline READ outline WRITE setOutline NOTIFY lookChanged)
     Q_PROPERTY(double outlineWidth READ outlineWidth WRITE setOutlineWidth NOTIFY lookChanged)
     Q_PROPERTY(QColor shadowColor READ shadowColor WRITE setShadowColor NOTIFY lookChanged)
@@ -36,8 +37,8 @@ public:
     void setColor(const QColor& color) { set(m_look.color, color); }
     QColor endColor() const { return m_look.endColor; }
     void setEndColor(const QColor& color) { set(m_look.endColor, color); }
-    bool isDiagonal() const { return m_look.isDiagonal; }
-    void setDiagonal(bool isDiagonal) { set(m_look.isDiagonal, isDiagonal); }
+    QPointF endPoint() const { return m_look.endPoint; }
+    void setEndPoint(QPointF point) { set(m_look.endPoint, point); }
     QColor outline() const { return m_look.outline; }
     void setOutline(const QColor& color) { set(m_look.outline, color); }
     double outlineWidth() const { return m_look.outlineWidth; }

@@ -72,7 +72,8 @@ QImage shadowOf(const QPainterPath& shape, QSize size, const QColor& color, doub
 QBrush fillOf(const CardLook& look, const QRectF& card) {
     if (!look.endColor.isValid())
         return look.color;
-    QLinearGradient gradient(card.topLeft(), look.isDiagonal ? card.bottomRight() : card.bottomLeft());
+    const QPointF way(look.endPoint.x() * card.width(), look.endPoint.y() * card.height());
+    QLinearGradient gradient(card.topLeft(), card.topLeft() + way);
     gradient.setColorAt(0, look.color);
     gradient.setColorAt(1, look.endColor);
     return gradient;
@@ -145,10 +146,19 @@ QString keyOf(const CardLook& look, QSize card, double scale) {
     const auto color = [](const QColor& value) {
         return value.isValid() ? QString::number(value.rgba(), 16) : QString();
     };
-    return QStringList{number(look.radius),     color(look.color),         color(look.endColor),
-                       number(look.isDiagonal), color(look.outline),       number(look.outlineWidth),
-                       color(look.shadow),      number(look.shadowRadius), number(look.shadowOffset),
-                       number(card.width()),    number(card.height()),     number(scale)}
+    return QStringList{number(look.radius),
+                       color(look.color),
+                       color(look.endColor),
+                       number(look.endPoint.x()),
+                       number(look.endPoint.y()),
+                       color(look.outline),
+                       number(look.outlineWidth),
+                       color(look.shadow),
+                       number(look.shadowRadius),
+                       number(look.shadowOffset),
+                       number(card.width()),
+                       number(card.height()),
+                       number(scale)}
         .join(QLatin1Char(' '));
 }
 

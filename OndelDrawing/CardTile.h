@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QMargins>
 #include <QPainterPath>
+#include <QPointF>
 #include <QRectF>
 #include <QSize>
 
@@ -15,8 +16,8 @@ namespace OndelDrawing {
 struct CardLook {
     double radius = 0;
     QColor color = Qt::transparent;
-    QColor endColor;        ///< valid: the fill runs from `color` to this one
-    bool isDiagonal = true; ///< it runs to the far corner, else downwards
+    QColor endColor;        ///< valid: the fill runs from `color` at the top left to this one
+    QPointF endPoint{1, 1}; ///< where it ends; parts of the width and the height
     QColor outline = Qt::transparent;
     double outlineWidth = 1; ///< lies within the edge, so that it is sharp at every scale
     QColor shadow = Qt::transparent;

@@ -1,11 +1,15 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import QtQuick.Window
 import OndelAppSupport.views
 
-/// Who made this, and of what.
+/// Which program this is, and who made it of what.
 Window {
     id: panel
 
     property appIdentity app: AppSupport.app
+    property url icon: "qrc:/ondel/Icons/tools.ondel.tarnwick.svg"
 
     /// Opens the panel, or brings the open one to the front.
     function show(): void {
@@ -15,6 +19,83 @@ Window {
     }
 
     title: qsTr("About %1").arg(app.name)
-    width: 320
-    height: 300
+    width: Math.max(300, column.implicitWidth + 48)
+    height: column.implicitHeight + 48
+    minimumWidth: width
+    maximumWidth: width
+    minimumHeight: height
+    maximumHeight: height
+    flags: Qt.Dialog | Qt.WindowTitleHint | Qt.WindowCloseButtonHint
+    color: palette.window
+
+    component Credit: Row {
+        id: credit
+
+        required property string text
+        required property url address
+        property bool first: false
+
+        Text {
+            visible: !credit.first
+            text: " · "
+            font.pixelSize: 11
+            color: panel.palette.placeholderText
+            Accessible.ignored: true
+        }
+        LinkButton {
+            textSize: 11
+            text: credit.text
+            onClicked: AppSupport.openPage(credit.address)
+        }
+    }
+
+    Shortcut {
+        sequences: ["Escape", "Ctrl+W"]
+        onActivated: panel.close()
+    }
+    Column {
+        id: column
+
+        anchors.centerIn: parent
+        spacing: 6
+
+        Image {
+            anchors.horizontalCenter: parent.horizontalCenter
+            source: panel.icon
+            sourceSize.width: 96
+            sourceSize.height: 96
+            Accessible.ignored: true
+        }
+        SheetText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: panel.app.name
+            font.pixelSize: 17
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+        SheetText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            bottomPadding: 6
+            text: qsTr("Version %1").arg(AppSupport.appVersion)
+            font.pixelSize: 11
+        }
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+
+            Credit {
+                first: true
+                text: AppSupport.siteName
+                address: panel.app.website
+            }
+            Credit {
+                text: qsTr("Support %1").arg(panel.app.shortName)
+                address: AppSupport.supportPage
+            }
+            Credit {
+                visible: AppSupport.hasNotices
+                text: qsTr("Acknowledgments")
+                address: AppSupport.thirdPartyNotices
+            }
+        }
+    }
 }

@@ -38,11 +38,19 @@ QString AppSupport::osVersion() { return BugReporter::osVersion(); }
 
 QString AppSupport::hardwareModel() { return BugReporter::hardwareModel(); }
 
+QString AppSupport::siteName() { return shown(makerSitePage(QString())); }
+
 QUrl AppSupport::reportPage() { return makerSitePage(QStringLiteral("/report")); }
 
 QUrl AppSupport::notices() {
     const auto file = thirdPartyNotices();
     return file ? QUrl::fromLocalFile(QFile::decodeName(file->c_str())) : QUrl();
+}
+
+QString AppSupport::shown(const QUrl& page) {
+    const QString host = page.host();
+    const QString www = QStringLiteral("www.");
+    return (host.startsWith(www) ? host.sliced(www.size()) : host) + page.path();
 }
 
 void AppSupport::openPage(const QUrl& page) { QDesktopServices::openUrl(page); }

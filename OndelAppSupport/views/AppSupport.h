@@ -20,11 +20,14 @@ class AppSupport : public QObject {
     Q_PROPERTY(QString appVersion READ appVersion CONSTANT)
     Q_PROPERTY(QString osVersion READ osVersion CONSTANT)
     Q_PROPERTY(QString hardwareModel READ hardwareModel CONSTANT)
+    /// The maker's site, as people call it.
+    Q_PROPERTY(QString siteName READ siteName CONSTANT)
     /// The web form for reports.
     Q_PROPERTY(QUrl reportPage READ reportPage CONSTANT)
     Q_PROPERTY(QUrl supportPage READ supportPage CONSTANT)
-    /// Empty when this installation has none.
+    /// The works of others in here, if this installation has the file that lists them.
     Q_PROPERTY(QUrl thirdPartyNotices READ notices CONSTANT)
+    Q_PROPERTY(bool hasNotices READ hasNotices CONSTANT)
 public:
     using QObject::QObject;
 
@@ -33,9 +36,14 @@ public:
     static QString appVersion();
     static QString osVersion();
     static QString hardwareModel();
+    static QString siteName();
     static QUrl reportPage();
     static QUrl supportPage() { return SupportNudges::supportURL(); }
     static QUrl notices();
+    static bool hasNotices() { return !notices().isEmpty(); }
+
+    /// The address of a page as people write it: without the scheme and what all sites begin with.
+    Q_INVOKABLE static QString shown(const QUrl& page);
 
     /// Both open with whatever the desktop has for it, and return at once.
     Q_INVOKABLE static void openPage(const QUrl& page);

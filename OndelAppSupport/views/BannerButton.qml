@@ -8,6 +8,7 @@ T.AbstractButton {
     id: button
 
     property bool prominent: false
+    property string hint: ""
 
     implicitWidth: words.implicitWidth + leftPadding + rightPadding
     implicitHeight: words.implicitHeight + topPadding + bottomPadding
@@ -19,6 +20,7 @@ T.AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: text
+    Accessible.description: hint
     Accessible.focusable: true
     Accessible.onPressAction: button.clicked()
     Keys.onReturnPressed: button.clicked()
@@ -37,6 +39,10 @@ T.AbstractButton {
     background: Card {
         radius: 6
         color: button.prominent ? OndelBrand.coralButton : Qt.rgba(1, 1, 1, 0.16)
+    }
+    HintTip {
+        text: button.hint
+        visible: button.hovered && button.hint.length > 0
     }
     FocusMark {
         control: button

@@ -1,20 +1,132 @@
 import QtQuick
+import QtQuick.Layouts
+import OndelDrawing
 import OndelAppSupport.views
 
-/// The sheet in which the user writes a report. Whoever shows it closes it when it is dismissed, and makes a new one for
+/// The sheet in which the user writes a report. Whoever shows it closes it when it is `dismissed`, and makes a new one for
 /// the next report.
 FocusScope {
     id: view
 
     property appIdentity app: AppSupport.app
+    /// Is given the path of a file that the user wants to read.
     property var showDiagnostics: path => AppSupport.openFile(path)
 
     signal dismissed
 
     implicitWidth: 470
-    implicitHeight: 300
+    implicitHeight: column.implicitHeight + 40
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+    Accessible.role: Accessible.Dialog
+    Accessible.name: title.text
+
+    Keys.onEscapePressed: dismissed()
+    Keys.onReturnPressed: view.proceed()
+    Keys.onEnterPressed: view.proceed()
+
+    function proceed(): void {
+        if (form.sent)
+            dismissed();
+        else
+            form.send();
+    }
 
     ReportForm {
         id: form
+
+        onChanged: if (sent) done.forceActiveFocus()
+    }
+    ColumnLayout {
+        id: column
+
+        x: 20
+        y: 20
+        width: parent.width - 40
+        spacing: 14
+
+        RowLayout {
+            spacing: 8
+
+            Symbol {
+                name: "ladybug"
+                size: 17
+                color: view.palette.windowText
+            }
+            SheetText {
+                id: title
+
+                text: form.sent ? qsTr("Thank You") : qsTr("Report a Problem")
+                font.pixelSize: 17
+                font.weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
+            }
+        }
+        ReportFormPage {
+            Layout.fillWidth: true
+            visible: !form.sent
+            form: form
+            app: view.app
+            showDiagnostics: view.showDiagnostics
+        }
+        RowLayout {
+            visible: form.sent
+            spacing: 12
+
+            Symbol {
+                name: "checkmark.seal.fill"
+                size: 28
+                color: view.palette.highlight
+            }
+            SheetText {
+                Layout.fillWidth: true
+                text: qsTr("Your report has been filed. Thanks for helping make %1 better.").arg(view.app.shortName)
+            }
+        }
+        RowLayout {
+            spacing: 8
+
+            SheetText {
+                visible: !form.sent
+                secondary: true
+                font.pixelSize: 10
+                wrapMode: Text.NoWrap
+                text: qsTr("Report on the web:")
+            }
+            LinkButton {
+                visible: !form.sent
+                Layout.leftMargin: -4
+                textSize: 10
+                text: AppSupport.shown(AppSupport.reportPage)
+                onClicked: AppSupport.openPage(AppSupport.reportPage)
+            }
+            Item {
+                Layout.fillWidth: true
+            }
+            Spinner {
+                visible: form.submitting
+                color: view.palette.placeholderText
+            }
+            SheetButton {
+                visible: !form.sent
+                text: qsTr("Cancel")
+                onClicked: view.dismissed()
+            }
+            SheetButton {
+                visible: !form.sent
+                prominent: true
+                enabled: form.canSend
+                text: qsTr("Send")
+                onClicked: form.send()
+            }
+            SheetButton {
+                id: done
+
+                visible: form.sent
+                prominent: true
+                text: qsTr("Done")
+                onClicked: view.dismissed()
+            }
+        }
     }
 }

@@ -2,15 +2,85 @@ import QtQuick
 import OndelDrawing
 import OndelAppSupport.views
 
-/// The note that asks for support.
+/// The note that asks for support. Where there is no room for one row its buttons go below its words.
 Card {
     id: banner
 
     property SupportNudges nudges: AppSupport.nudges
     property appIdentity app: AppSupport.app
+    readonly property bool fitsOneRow: width >= 24 + heart.width + 8 + Math.max(free.implicitWidth, plea.implicitWidth) + 12 + buttons.width
 
-    implicitHeight: 60
+    implicitHeight: 24 + (fitsOneRow ? Math.max(words.height, buttons.height) : words.height + 10 + buttons.height)
     radius: 10
-    color: OndelBrand.blue
-    endColor: OndelBrand.navy
+    color: LayoutMirroring.enabled ? OndelBrand.navy : OndelBrand.blue
+    endColor: LayoutMirroring.enabled ? OndelBrand.blue : OndelBrand.navy
+    endPoint: Qt.point(1, 0)
+    Accessible.role: Accessible.Grouping
+    Accessible.name: free.text
+
+    Symbol {
+        id: heart
+
+        anchors.left: parent.left
+        anchors.leftMargin: 12
+        y: banner.fitsOneRow ? Math.round((parent.height - height) / 2) : 12
+        name: "heart.fill"
+        size: 13
+        color: OndelBrand.coral
+    }
+    Column {
+        id: words
+
+        anchors.left: heart.right
+        anchors.leftMargin: 8
+        anchors.right: banner.fitsOneRow ? buttons.left : parent.right
+        anchors.rightMargin: 12
+        y: banner.fitsOneRow ? Math.round((parent.height - height) / 2) : 12
+
+        SheetText {
+            id: free
+
+            width: parent.width
+            text: qsTr("%1 is free.").arg(banner.app.shortName)
+            font.pixelSize: 12
+            font.weight: Font.Medium
+            color: "white"
+        }
+        SheetText {
+            id: plea
+
+            width: parent.width
+            text: qsTr("If it’s useful to you, your support helps keep it going.")
+            font.pixelSize: 10
+            color: Qt.rgba(1, 1, 1, 0.78)
+        }
+    }
+    Row {
+        id: buttons
+
+        anchors.left: banner.fitsOneRow ? undefined : parent.left
+        anchors.leftMargin: 12
+        anchors.right: banner.fitsOneRow ? parent.right : undefined
+        anchors.rightMargin: 12
+        y: banner.fitsOneRow ? Math.round((parent.height - height) / 2) : words.y + words.height + 10
+        spacing: 6
+
+        BannerButton {
+            anchors.verticalCenter: parent.verticalCenter
+            prominent: true
+            text: qsTr("Support on Ko-fi")
+            onClicked: banner.nudges.openSupportPage(true)
+        }
+        BannerButton {
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Not Now")
+            hint: qsTr("Hide this for a week")
+            onClicked: banner.nudges.notNow()
+        }
+        BannerMenu {
+            anchors.verticalCenter: parent.verticalCenter
+            entry: qsTr("I’ve Already Supported %1").arg(banner.app.shortName)
+            onChosen: banner.nudges.isSupporter = true
+        }
+    }
 }

@@ -43,7 +43,7 @@ PlainButton {
             radius: 8
             color: PaletteKey.palette.badgeStart(row.facts.kind)
             endColor: PaletteKey.palette.badgeEnd(row.facts.kind)
-            diagonal: false
+            endPoint: Qt.point(0, 1)
 
             Card {
                 anchors.centerIn: parent

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// A run while it goes.
@@ -10,7 +11,9 @@ CardFrame {
     required property string volumeName
 
     header: [
-        Spinner {},
+        Spinner {
+            color: PaletteKey.palette.text3
+        },
         Words {
             Layout.fillWidth: true
             Layout.maximumWidth: implicitWidth

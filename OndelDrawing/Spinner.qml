@@ -1,13 +1,13 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import TarnwickKit.views
 
 /// Says that something is under way. It steps twelve times a second: a smooth turn would have the whole window
 /// drawn sixty times a second beside a measurement.
 Item {
     id: spinner
 
+    property color color: "gray"
     property int step: 0
 
     implicitWidth: 16
@@ -28,7 +28,7 @@ Item {
             height: 5
             radius: 1
             antialiasing: true
-            color: PaletteKey.palette.text3
+            color: spinner.color
             opacity: 1 - 0.75 * ((spinner.step - spoke.index + 8) % 8) / 7
             transform: Rotation {
                 origin.x: 1

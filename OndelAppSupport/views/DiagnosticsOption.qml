@@ -1,0 +1,35 @@
+import QtQuick
+import OndelAppSupport.views
+
+/// Whether the log goes along with a report, and what is in it.
+Column {
+    id: option
+
+    required property ReportForm form
+    required property var show
+
+    spacing: 4
+
+    CheckRow {
+        text: qsTr("Attach diagnostics")
+        checked: option.form.attachDiagnostics
+        onCheckedChanged: option.form.attachDiagnostics = checked
+    }
+    SheetText {
+        x: 22
+        width: parent.width - x
+        secondary: true
+        font.pixelSize: 10
+        text: qsTr("Recent activity from this session. File names, servers and accounts are replaced with anonymous tokens before anything is written down.")
+    }
+    LinkButton {
+        x: 22
+        textSize: 10
+        text: qsTr("View…")
+        onClicked: {
+            const path = option.form.writePreview();
+            if (path.length > 0)
+                option.show(path);
+        }
+    }
+}

@@ -1,0 +1,30 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// The words that appear under a control when the pointer rests on it.
+T.ToolTip {
+    id: tip
+
+    delay: 700
+    x: parent ? Math.round((parent.width - width) / 2) : 0
+    y: parent ? parent.height + 6 : 0
+    margins: 6
+    implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    horizontalPadding: 9
+    verticalPadding: 5
+    closePolicy: T.Popup.NoAutoClose
+
+    contentItem: Text {
+        text: tip.text
+        textFormat: Text.PlainText
+        font.pixelSize: 12
+        color: tip.palette.windowText
+        Accessible.ignored: true
+    }
+    background: Rectangle {
+        radius: 6
+        color: tip.palette.window
+        border.color: tip.palette.mid
+    }
+}

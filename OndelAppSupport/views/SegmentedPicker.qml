@@ -1,0 +1,92 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import OndelDrawing
+
+/// One choice of a few, side by side. The keyboard comes to the one that holds and moves it with the arrows.
+FocusScope {
+    id: picker
+
+    required property list<string> options
+    required property string label
+    property int current: 0
+
+    signal chosen(index: int)
+
+    implicitWidth: row.implicitWidth + 4
+    implicitHeight: 26
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label
+    Keys.onLeftPressed: step(LayoutMirroring.enabled ? 1 : -1)
+    Keys.onRightPressed: step(LayoutMirroring.enabled ? -1 : 1)
+
+    Card {
+        anchors.fill: parent
+        radius: 7
+        color: Qt.alpha(picker.palette.windowText, 0.08)
+    }
+    Row {
+        id: row
+
+        x: 2
+        y: 2
+
+        Repeater {
+            id: segments
+
+            model: picker.options
+
+            T.RadioButton {
+                id: segment
+
+                required property int index
+                required property string modelData
+
+                text: modelData
+                checked: index === picker.current
+                focus: checked
+                width: Math.max(implicitWidth, (picker.width - 4) / picker.options.length)
+                height: picker.height - 4
+                implicitWidth: words.implicitWidth + 28
+                focusPolicy: checked ? Qt.StrongFocus : Qt.NoFocus
+                Accessible.name: text
+                Accessible.onPressAction: picker.choose(index)
+                onClicked: picker.choose(index)
+
+                contentItem: Text {
+                    id: words
+
+                    text: segment.text
+                    textFormat: Text.PlainText
+                    font.pixelSize: 13
+                    font.weight: segment.checked ? Font.Medium : Font.Normal
+                    color: segment.palette.windowText
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                    Accessible.ignored: true
+                }
+                background: Card {
+                    visible: segment.checked
+                    radius: 5
+                    color: segment.palette.button
+                    outline: segment.palette.mid
+                }
+                FocusMark {
+                    control: segment
+                    radius: 8
+                }
+            }
+        }
+    }
+
+    function step(by: int): void {
+        choose(Math.max(0, Math.min(options.length - 1, current + by)));
+    }
+    function choose(index: int): void {
+        if (index === current)
+            return;
+        chosen(index);
+        segments.itemAt(index).forceActiveFocus(Qt.TabFocusReason);
+    }
+}

@@ -1,0 +1,88 @@
+import QtQuick
+import QtQuick.Templates as T
+import OndelDrawing
+
+/// An editor for a text of several lines. Tab leaves it; Return begins a line, with Control it is `confirmed`.
+FocusScope {
+    id: editor
+
+    property alias text: area.text
+    required property string label
+    required property string prompt
+
+    signal confirmed
+
+    implicitWidth: 200
+    implicitHeight: 116
+
+    Card {
+        anchors.fill: parent
+        radius: 6
+        color: editor.palette.base
+        outline: area.activeFocus ? editor.palette.highlight : editor.palette.mid
+        outlineWidth: area.activeFocus ? 2 : 1
+    }
+    Flickable {
+        id: pane
+
+        anchors.fill: parent
+        anchors.margins: 2
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+
+        T.ScrollBar.vertical: T.ScrollBar {
+            id: bar
+
+            implicitWidth: 8
+            padding: 2
+            visible: size < 1
+            contentItem: Rectangle {
+                radius: 2
+                color: editor.palette.placeholderText
+                opacity: bar.active ? 0.7 : 0.35
+            }
+        }
+        T.TextArea.flickable: T.TextArea {
+            id: area
+
+            leftPadding: 6
+            rightPadding: 12
+            topPadding: 5
+            bottomPadding: 5
+            focus: true
+            font.family: Application.font.family
+            font.pixelSize: 13
+            color: palette.text
+            selectionColor: palette.highlight
+            selectedTextColor: palette.highlightedText
+            selectByMouse: true
+            textFormat: TextEdit.PlainText
+            wrapMode: TextEdit.Wrap
+            Accessible.name: editor.label
+            Accessible.description: editor.prompt
+
+            Keys.onTabPressed: area.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: area.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+            Keys.onReturnPressed: event => editor.enter(event)
+            Keys.onEnterPressed: event => editor.enter(event)
+        }
+    }
+    Text {
+        x: 8
+        y: 8
+        width: parent.width - 16
+        visible: area.length + area.preeditText.length === 0
+        text: editor.prompt
+        textFormat: Text.PlainText
+        font.pixelSize: 10
+        color: editor.palette.placeholderText
+        wrapMode: Text.Wrap
+        Accessible.ignored: true
+    }
+
+    function enter(event: KeyEvent): void {
+        event.accepted = event.modifiers & Qt.ControlModifier;
+        if (event.accepted)
+            confirmed();
+    }
+}

@@ -1,0 +1,43 @@
+import QtQuick
+import QtQuick.Templates as T
+import OndelDrawing
+
+/// A field for one line, which tells within itself what it is for while it is empty.
+T.TextField {
+    id: field
+
+    required property string prompt
+
+    implicitWidth: 200
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    leftPadding: 8
+    rightPadding: 8
+    topPadding: 6
+    bottomPadding: 6
+    font.family: Application.font.family
+    font.pixelSize: 13
+    color: palette.text
+    selectionColor: palette.highlight
+    selectedTextColor: palette.highlightedText
+    selectByMouse: true
+    Accessible.name: prompt
+
+    background: Card {
+        radius: 6
+        color: field.palette.base
+        outline: field.activeFocus ? field.palette.highlight : field.palette.mid
+        outlineWidth: field.activeFocus ? 2 : 1
+    }
+    Text {
+        x: field.leftPadding
+        y: field.topPadding
+        width: field.width - field.leftPadding - field.rightPadding
+        visible: field.length + field.preeditText.length === 0
+        text: field.prompt
+        textFormat: Text.PlainText
+        font.pixelSize: 13
+        color: field.palette.placeholderText
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+}
