@@ -15,6 +15,8 @@ UpdaterModel::UpdaterModel(UpdaterEnvironment environment, QObject* parent)
     : QObject(parent)
     , m_isConfigured(hasFeedAndKey(environment.build))
     , m_controller(std::move(environment)) {
+    connect(&m_controller, &UpdaterController::automaticallyChecksForUpdatesChanged, this,
+            &UpdaterModel::automaticallyChecksForUpdatesChanged);
     if (!m_isConfigured)
         return;
     m_controller.start();
@@ -23,13 +25,6 @@ UpdaterModel::UpdaterModel(UpdaterEnvironment environment, QObject* parent)
         if (std::exchange(m_canCheckForUpdates, m_controller.canCheckForUpdates()) != m_canCheckForUpdates)
             Q_EMIT canCheckForUpdatesChanged();
     });
-}
-
-void UpdaterModel::setAutomaticallyChecksForUpdates(bool checks) {
-    if (checks == automaticallyChecksForUpdates())
-        return;
-    m_controller.setAutomaticallyChecksForUpdates(checks);
-    Q_EMIT automaticallyChecksForUpdatesChanged();
 }
 
 } // namespace OndelAppSupport

@@ -32,7 +32,9 @@ public:
     Q_PROPERTY(bool automaticallyChecksForUpdates READ automaticallyChecksForUpdates WRITE
                    setAutomaticallyChecksForUpdates NOTIFY automaticallyChecksForUpdatesChanged)
     bool automaticallyChecksForUpdates() const { return m_controller.automaticallyChecksForUpdates(); }
-    void setAutomaticallyChecksForUpdates(bool checks);
+    void setAutomaticallyChecksForUpdates(bool checks) {
+        m_controller.setAutomaticallyChecksForUpdates(checks);
+    }
     Q_SIGNAL void automaticallyChecksForUpdatesChanged();
 
     /// Checks by the user's hand: opens the update window, or asks an open one to come to the front.

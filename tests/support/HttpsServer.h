@@ -21,7 +21,7 @@ public:
         QByteArray method;
         QByteArray path;                      ///< with the query
         QMap<QByteArray, QByteArray> headers; ///< names in lower case
-        QByteArray body;
+        QByteArray body = {};
     };
 
     struct Answer {
@@ -32,8 +32,8 @@ public:
             endless, ///< zeros without end follow, without a length
         };
         int status = 200; ///< 0: not one byte is sent
-        QByteArray body;
-        QList<std::pair<QByteArray, QByteArray>> headers;
+        QByteArray body = {};
+        QList<std::pair<QByteArray, QByteArray>> headers = {};
         Ending ending = Ending::whole;
     };
 

@@ -1,0 +1,15 @@
+#include "OndelAppSupport/UpdaterEnvironment.h"
+
+#include "OndelCore/platform/PrivateFolder.h"
+
+#include <QSysInfo>
+
+namespace OndelAppSupport {
+
+UpdaterEnvironment::UpdaterEnvironment()
+    : folder(OndelCore::platform::privateTemporaryFolder)
+    , platforms{QSysInfo::kernelType(),
+                QSysInfo::kernelType() + QLatin1Char('-') + QSysInfo::buildCpuArchitecture()}
+    , systemVersion(QSysInfo::kernelVersion()) {}
+
+} // namespace OndelAppSupport

@@ -1,0 +1,118 @@
+#include "OndelAppSupport/updates/PackageLoad.h"
+
+#include "OndelAppSupport/updates/Ed25519.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+
+namespace OndelAppSupport::updates {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Cause = UpdateError::Cause;
+
+constexpr qsizetype longestName = 100; // characters
+
+/// A name that means the same to every program it is handed to.
+QString packageName(const QUrl& url) {
+    QString name = url.fileName(QUrl::FullyDecoded).right(longestName);
+    name.removeIf([](QChar c) {
+        return c.unicode() > 0x7e || (!c.isLetterOrNumber() && !QStringView(u"._+~-").contains(c));
+    });
+    while (name.startsWith(u'.') || name.startsWith(u'-'))
+        name.remove(0, 1);
+    return name.isEmpty() ? QStringLiteral("update") : name;
+}
+
+void prepare(const fs::path& folder) {
+    std::error_code error;
+    fs::remove_all(folder, error); // packages of earlier updates
+    if (!error)
+        fs::create_directory(folder, error);
+    if (!error)
+        fs::permissions(folder, fs::perms::owner_all, error);
+    if (error)
+        throw UpdateError(Cause::notWritable);
+}
+
+/// The package while nobody may trust it. Owner: the object; the file goes with it unless it got its name.
+class Part {
+public:
+    Part(const fs::path& name, qint64 length)
+        : m_name(name)
+        , m_file(fs::path(name) += ".part")
+        , m_length(length) {
+        if (!m_file.open(QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Unbuffered,
+                         QFile::ReadOwner | QFile::WriteOwner))
+            throw UpdateError(Cause::notWritable);
+    }
+    ~Part() {
+        if (!m_kept)
+            m_file.remove();
+    }
+    Part(const Part&) = delete;
+    Part& operator=(const Part&) = delete;
+
+    void append(const HttpsAnswer& answer, const QByteArray& bytes) {
+        if ((answer.length >= 0 && answer.length != m_length) || size() + bytes.size() > m_length)
+            throw UpdateError(Cause::wrongLength);
+        errno = 0;
+        if (m_file.write(bytes) != bytes.size())
+            throw UpdateError(errno == ENOSPC || errno == EDQUOT ? Cause::noRoom : Cause::notWritable);
+    }
+
+    qint64 size() const { return m_file.pos(); }
+
+    void verify(const QByteArray& signature, const QByteArray& key) {
+        if (size() != m_length)
+            throw UpdateError(Cause::wrongLength);
+        const uchar* content = m_file.map(0, m_length);
+        if (!content)
+            throw UpdateError(Cause::notWritable);
+        if (!isSignedWithEd25519({content, m_length}, signature, key))
+            throw UpdateError(Cause::wrongSignature);
+    }
+
+    void keep() {
+        std::error_code error;
+        fs::rename(m_file.filesystemFileName(), m_name, error);
+        if (error)
+            throw UpdateError(Cause::notWritable);
+        m_kept = true;
+    }
+
+private:
+    fs::path m_name;
+    QFile m_file;
+    qint64 m_length;
+    bool m_kept = false;
+};
+
+} // namespace
+
+fs::path loadPackage(const Offer& offer, const Destination& destination, const Connection& connection,
+                     const LoadProgress& progress, const std::stop_token& stop) {
+    prepare(destination.folder);
+    fs::path path = destination.folder / packageName(offer.url).toStdString();
+    Part part(path, offer.length);
+    httpsGet(
+        offer.url, connection, Cause::packageUnreachable,
+        [&](const HttpsAnswer& answer, const QByteArray& bytes) {
+            part.append(answer, bytes);
+            progress.loaded(part.size());
+        },
+        stop);
+    progress.verifying();
+    part.verify(offer.signature, destination.publicKey);
+    if (stop.stop_requested())
+        throw Stopped();
+    part.keep();
+    return path;
+}
+
+} // namespace OndelAppSupport::updates

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "OndelCore/NamedError.h"
+
+#include <QString>
+
+#include <exception>
+
+namespace OndelAppSupport::updates {
+
+/// Why there is no update.
+class UpdateError : public std::exception, public OndelCore::NamedError {
+public:
+    enum class Cause {
+        feedUnreachable,
+        feedUnreadable,
+        feedNotSecure, ///< this build's feed has an address that is no https:// one
+        offerIncomplete,
+        packageUnreachable,
+        wrongLength,
+        wrongSignature,
+        noRoom,
+        notWritable,
+        notOpened,
+    };
+
+    explicit UpdateError(Cause cause)
+        : m_cause(cause) {}
+
+    Cause cause() const { return m_cause; }
+    /// One sentence for the user, of the product `name`.
+    QString description(const QString& name) const;
+
+    const char* what() const noexcept override;
+    OndelCore::ErrorName errorName() const noexcept override;
+
+private:
+    Cause m_cause;
+};
+
+} // namespace OndelAppSupport::updates

@@ -1,0 +1,48 @@
+#include "OndelAppSupport/updates/UpdateSearch.h"
+
+#include "OndelAppSupport/updates/PlainNotes.h"
+#include "OndelAppSupport/updates/VersionOrder.h"
+
+namespace OndelAppSupport::updates {
+
+namespace {
+
+using Cause = UpdateError::Cause;
+
+constexpr qint64 longestFeed = 1 << 20;  // bytes
+constexpr qint64 longestNotes = 1 << 18; // bytes
+
+QString loadNotes(const QUrl& link, const Connection& connection, const std::stop_token& stop) {
+    try {
+        const auto [answer, body] =
+            httpsGetSmall(link, connection, Cause::feedUnreachable, longestNotes, stop);
+        const QString text = QString::fromUtf8(body);
+        const bool isPlain =
+            answer.contentType.startsWith("text/plain") || answer.contentType.startsWith("text/markdown");
+        return showableNotes(isPlain ? text : plainNotes(text));
+    } catch (const UpdateError&) {
+        return {};
+    }
+}
+
+} // namespace
+
+std::optional<Offer> findUpdate(const Search& search, const std::stop_token& stop) {
+    if (search.feed.scheme() != QLatin1String("https"))
+        throw UpdateError(Cause::feedNotSecure);
+    const auto feed =
+        httpsGetSmall(search.feed, search.connection, Cause::feedUnreachable, longestFeed, stop);
+    const auto offers = readAppcast(feed.body);
+    if (!offers)
+        throw UpdateError(Cause::feedUnreadable);
+    auto offer = newestOffer(*offers, search.platforms, search.systemVersion);
+    if (!offer || std::is_lteq(compareVersions(offer->version, search.currentVersion)))
+        return std::nullopt;
+    if (!offer->isComplete())
+        throw UpdateError(Cause::offerIncomplete);
+    if (offer->notes.isEmpty() && !offer->notesLink.isEmpty())
+        offer->notes = loadNotes(offer->notesLink, search.connection, stop);
+    return offer;
+}
+
+} // namespace OndelAppSupport::updates

@@ -1,0 +1,113 @@
+#include "OndelAppSupport/updates/UpdaterHarness.h"
+
+#include <QFileInfo>
+
+namespace fs = std::filesystem;
+using namespace test;
+using enum Answer::Ending;
+
+TEST_F(UpdaterTest, APackageIsProvedOrThrownAway) {
+    const QString signature = sign(package);
+    const QString forged = sign(package + 'x');
+    QByteArray altered = package;
+    altered[7] = '!';
+    struct Case {
+        const char* name;
+        Answer answer;
+        QString says; ///< a piece of the failure; "" when it arrives
+        QString signature;
+        qint64 stated;
+    };
+    const qint64 size = package.size();
+    const Answer good{200, package};
+    const Case cases[]{
+        {"good", good, {}, signature, size},
+        {"moved", {302, "", {{"Location", "/elsewhere"}}}, {}, signature, size},
+        {"signed another", good, u"signed"_s, forged, size},
+        {"signed by nobody", good, u"signed"_s, anySignature, size},
+        {"altered", {200, altered}, u"signed"_s, signature, size},
+        {"shorter than stated", good, u"as long"_s, signature, size + 1},
+        {"longer than stated", good, u"as long"_s, signature, size - 1},
+        {"without end", {200, package, {}, endless}, u"as long"_s, signature, size},
+        {"empty", {200, ""}, u"as long"_s, signature, size},
+        {"cut", {200, package.chopped(1), {}, cut}, u"downloaded"_s, signature, size},
+        {"stops", {200, package.chopped(1), {}, silence}, u"downloaded"_s, signature, size},
+        {"gone", {404, package}, u"downloaded"_s, signature, size},
+        {"moved into the open",
+         {302, "", {{"Location", "http://127.0.0.1/"}}},
+         u"downloaded"_s,
+         signature,
+         size},
+    };
+    server.script("/elsewhere", good);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        opened.clear();
+        server.script("/files/tarnwick_1.1_amd64.deb", c.answer);
+        environment.patience = std::chrono::seconds(c.answer.ending == silence ? 1 : 60);
+        UpdaterModel model(environment);
+        const UpdaterController& updater = *model.controller();
+        EXPECT_EQ(load(model, c.stated, c.signature), c.says.isEmpty() ? State::Opened : State::Failed);
+        const fs::path place = folder.path() / "update";
+        if (c.says.isEmpty()) {
+            EXPECT_EQ(updater.loaded(), static_cast<double>(size));
+            ASSERT_EQ(opened.size(), 1);
+            QFile file(opened.first().toLocalFile());
+            EXPECT_EQ(file.fileName().toStdString(), (place / "tarnwick_1.1_amd64.deb").string());
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+            EXPECT_EQ(file.readAll(), package);
+            EXPECT_EQ(file.permissions() & (QFile::ExeOwner | QFile::ReadGroup | QFile::ReadOther), 0);
+        } else {
+            EXPECT_TRUE(updater.failure().contains(c.says)) << qPrintable(updater.failure());
+            EXPECT_TRUE(opened.empty());
+            EXPECT_TRUE(fs::is_empty(place));
+        }
+    }
+}
+
+TEST_F(UpdaterTest, WhatStandsInTheWayOfAPackageIsTold) {
+    const QString signature = sign(package);
+    server.script("/files/tarnwick_1.1_amd64.deb", {200, package});
+    const QString key = publicKey();
+    const auto says = [&](const char* words) {
+        UpdaterModel model(environment);
+        EXPECT_EQ(load(model, package.size(), signature), State::Failed);
+        EXPECT_TRUE(model.controller()->failure().contains(QLatin1String(words)))
+            << qPrintable(model.controller()->failure());
+    };
+    environment.openPackage = [](const QUrl&) { return false; };
+    says("opens");
+    for (const QString& wrong : {key.chopped(4), key + key, u"no key"_s}) {
+        configure(server.url(u"/feed"_s), wrong);
+        says("signed");
+    }
+    configure(server.url(u"/feed"_s), key);
+    environment.folder = [this] { return std::optional(folder.path() / "missing"); };
+    says("written");
+    environment.folder = []() -> std::optional<fs::path> { return std::nullopt; };
+    says("written");
+}
+
+TEST_F(UpdaterTest, ALoadCanBeStoppedAndLeavesNothing) {
+    server.script("/feed", {200, feed(enclosure(package.size() + 1, anySignature))});
+    server.script("/files/tarnwick_1.1_amd64.deb", {200, package, {}, silence});
+    const auto part = folder.path() / "update" / "tarnwick_1.1_amd64.deb.part";
+    for (const bool byQuitting : {false, true}) {
+        std::optional<UpdaterModel> model(std::in_place, environment);
+        UpdaterController& updater = *model->controller();
+        checkByHand(*model);
+        updater.install();
+        waitUntil([&] { return updater.loaded() == static_cast<double>(package.size()); });
+        EXPECT_TRUE(fs::exists(part));
+        int wanted = 0;
+        QObject::connect(&updater, &UpdaterController::attentionWanted, [&] { ++wanted; });
+        model->checkForUpdates();
+        EXPECT_EQ(wanted, 1);
+        if (!byQuitting) {
+            updater.dismiss();
+            EXPECT_EQ(updater.state(), State::Idle);
+        }
+        model.reset();
+        EXPECT_FALSE(fs::exists(part));
+    }
+}
