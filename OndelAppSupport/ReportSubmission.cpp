@@ -1,5 +1,6 @@
 #include "OndelAppSupport/ReportSubmission.h"
 
+#include "OndelAppSupport/UnrepeatableBody.h"
 #include "OndelCore/platform/ErrorText.h"
 
 #include <QCoreApplication>
@@ -18,14 +19,16 @@ namespace {
 constexpr qint64 longestAnswer = 1 << 20; // bytes
 constexpr int filed = 200;
 
-QNetworkRequest request(const BugReporter::Service& service) {
+QNetworkRequest request(const BugReporter::Service& service, qsizetype bodySize) {
     QNetworkRequest request(service.endpoint);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false); // one request has nothing to gain
     request.setSslConfiguration(service.encryption);
+    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    request.setHeader(QNetworkRequest::ContentLengthHeader, bodySize);
     // What is not compressed cannot swell.
     request.setRawHeader("Accept-Encoding", "identity");
     // A null value would take the header away, an empty one is sent.
@@ -37,6 +40,10 @@ QNetworkRequest request(const BugReporter::Service& service) {
 std::optional<QString> reason(const QByteArray& answer) {
     const QJsonValue error = QJsonDocument::fromJson(answer).object().value(QStringLiteral("error"));
     return error.isString() ? std::optional(error.toString()) : std::nullopt;
+}
+
+ReportError failure(int error) {
+    return ReportError(ReportError::Transport{QString::fromStdString(OndelCore::platform::errorText(error))});
 }
 
 /// Whether the exchange itself failed. The other errors only repeat what the status says.
@@ -60,8 +67,9 @@ ReportSubmission::ReportSubmission(const QVariantMap& payload, const BugReporter
         end(ReportError(ReportError::Network()));
         return;
     }
-    m_reply = m_network.post(
-        request(service), QJsonDocument(QJsonObject::fromVariantMap(payload)).toJson(QJsonDocument::Compact));
+    const QByteArray body =
+        QJsonDocument(QJsonObject::fromVariantMap(payload)).toJson(QJsonDocument::Compact);
+    m_reply = m_network.post(request(service, body.size()), new UnrepeatableBody(body, this));
     m_reply->setReadBufferSize(longestAnswer);
     connect(m_reply, &QNetworkReply::metaDataChanged, this, [this] {
         if (status() == filed) // whatever else it has to say
@@ -69,10 +77,7 @@ ReportSubmission::ReportSubmission(const QVariantMap& payload, const BugReporter
     });
     connect(m_reply, &QNetworkReply::readyRead, this, &ReportSubmission::readMore);
     connect(m_reply, &QNetworkReply::finished, this, &ReportSubmission::judge);
-    QTimer::singleShot(service.limit, this, [this] {
-        const std::string words = OndelCore::platform::errorText(ETIMEDOUT);
-        end(ReportError(ReportError::Transport{QString::fromStdString(words)}));
-    });
+    QTimer::singleShot(service.limit, this, [this] { end(failure(ETIMEDOUT)); });
 }
 
 ReportSubmission::~ReportSubmission() {
@@ -98,6 +103,8 @@ void ReportSubmission::judge() {
         return;
     if (isTransportError(m_reply->error())) {
         end(ReportError(ReportError::Transport{m_reply->errorString()}));
+    } else if (status() == 0 && m_reply->error() == QNetworkReply::ContentReSendError) {
+        end(failure(ECONNRESET)); // it would have been sent again
     } else if (status() == 0) {
         end(ReportError(ReportError::Network()));
     } else if (status() == filed) {
@@ -114,12 +121,10 @@ void ReportSubmission::end(const std::optional<ReportError>& error) {
     if (m_ended)
         return;
     m_ended = true;
-    if (m_reply && m_reply->isRunning())
-        m_reply->abort();
     if (error)
         m_promise.setException(std::make_exception_ptr(*error));
     m_promise.finish();
-    deleteLater();
+    deleteLater(); // and with it what is left of the exchange
 }
 
 } // namespace OndelAppSupport
