@@ -6,13 +6,16 @@
 
 namespace OndelCore::platform {
 
+/// Whether a replaced file must outlast a loss of power; what can be made again need not wait for the medium.
+enum class Lasting { onMedium, untilPowerLoss };
+
 /// Makes `content` the whole content of the file `path`. Whoever opens the file meets either the old bytes or
 /// the new ones, also after a killed process or a loss of power; once this returns, the new ones are on the
-/// medium. A symbolic link at `path` is replaced, not followed. `permissions` are those of a new file, before
-/// the process's mask.
-/// Threads: any. Fails: the system's error, and the old file stays; no error is a good end.
+/// medium, unless `lasting` asks for less. A symbolic link at `path` is replaced, not followed. `permissions`
+/// are those of a new file, before the process's mask. Threads: any. Fails: the system's error, and the old
+/// file stays; no error is a good end.
 std::error_code replaceFile(const std::filesystem::path& path, std::string_view content,
-                            std::filesystem::perms permissions);
+                            std::filesystem::perms permissions, Lasting lasting = Lasting::onMedium);
 
 /// Removes what processes killed inside `replaceFile` left in `folder`, if it is older than a minute.
 /// Threads: any. Fails: silently.

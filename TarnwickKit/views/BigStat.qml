@@ -15,6 +15,7 @@ ColumnLayout {
 
     spacing: 6
     Layout.maximumWidth: Infinity // the figures in it would not let it grow
+    Layout.fillHeight: false // one without a third line is centred beside one with it
 
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + figure.text + " MB/s" + (extremes.visible ? ", " + extremes.text : "")

@@ -11,14 +11,15 @@ bool isLaidOut(const QQuickItem& child) { return child.isVisible() && !child.siz
 
 } // namespace
 
-Flow flowLayout(const std::vector<QSizeF>& children, double width, double spacing) {
+Flow flowLayout(const std::vector<QSizeF>& children, double width, double spacing,
+                std::optional<double> lineSpacing) {
     Flow flow;
     double x = 0;
     double y = 0;
     double line = 0;
     for (const QSizeF& child : children) {
         if (x > 0 && x + child.width() > width) {
-            y += line + spacing;
+            y += line + lineSpacing.value_or(spacing);
             x = 0;
             line = 0;
         }
@@ -39,6 +40,14 @@ void FlowLayout::setSpacing(double spacing) {
     if (spacing == m_spacing)
         return;
     m_spacing = spacing;
+    polish();
+    Q_EMIT spacingChanged();
+}
+
+void FlowLayout::setLineSpacing(double spacing) {
+    if (spacing == m_lineSpacing)
+        return;
+    m_lineSpacing = spacing;
     polish();
     Q_EMIT spacingChanged();
 }
@@ -75,7 +84,7 @@ void FlowLayout::updatePolish() {
             children.push_back(child);
             sizes.push_back(child->size());
         }
-    const Flow flow = flowLayout(sizes, width(), m_spacing);
+    const Flow flow = flowLayout(sizes, width(), m_spacing, m_lineSpacing);
     for (std::size_t i = 0; i < children.size(); ++i)
         children[i]->setPosition(flow.places[static_cast<qsizetype>(i)]);
     setImplicitHeight(flow.height);

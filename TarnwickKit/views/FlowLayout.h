@@ -5,6 +5,7 @@
 #include <QQuickItem>
 #include <QSizeF>
 
+#include <optional>
 #include <vector>
 
 namespace TarnwickKit::views {
@@ -15,9 +16,10 @@ struct Flow {
     double height = 0;
 };
 
-/// Lays children of their own sizes out in lines of `width`, `spacing` apart in both directions. A child
-/// wider than that gets a line of its own, over-long.
-Flow flowLayout(const std::vector<QSizeF>& children, double width, double spacing);
+/// Lays children of their own sizes out in lines of `width`, `spacing` apart in both directions, lines
+/// `lineSpacing` where it is given. A child wider than that gets a line of its own, over-long.
+Flow flowLayout(const std::vector<QSizeF>& children, double width, double spacing,
+                std::optional<double> lineSpacing = std::nullopt);
 
 /// Lets its visible children wrap like words, in lines as wide as itself. Its height follows.
 class FlowLayout : public QQuickItem {
@@ -25,6 +27,8 @@ class FlowLayout : public QQuickItem {
     QML_ELEMENT
 
     Q_PROPERTY(double spacing READ spacing WRITE setSpacing NOTIFY spacingChanged)
+    /// Between lines; as `spacing` until it is set.
+    Q_PROPERTY(double lineSpacing READ lineSpacing WRITE setLineSpacing NOTIFY spacingChanged)
 
 public:
     /// What is laid out in while no width is given.
@@ -34,6 +38,8 @@ public:
 
     double spacing() const { return m_spacing; }
     void setSpacing(double spacing);
+    double lineSpacing() const { return m_lineSpacing.value_or(m_spacing); }
+    void setLineSpacing(double spacing);
     Q_SIGNAL void spacingChanged();
 
 protected:
@@ -45,6 +51,7 @@ private:
     void follow(QQuickItem* child);
 
     double m_spacing = 0;
+    std::optional<double> m_lineSpacing;
 };
 
 } // namespace TarnwickKit::views

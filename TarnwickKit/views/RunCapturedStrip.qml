@@ -1,35 +1,36 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import OndelDrawing
 import TarnwickKit.views
 
 /// The facts of the volume and the settings that were captured with a run, at the foot of its card.
-Item {
+CardFoot {
     id: strip
 
     required property runFacts facts
-    readonly property real corner: 15
 
     implicitHeight: items.height + 26
-    clip: true
+    corner: 15
 
-    Card {
-        y: -strip.corner
-        width: strip.width
-        height: strip.height + strip.corner
-        radius: strip.corner
-        color: PaletteKey.palette.panel2
-    }
     FlowLayout {
         id: items
 
         x: 20
         y: 13
         width: strip.width - 40
-        spacing: 22
+        spacing: {
+            let taken = 0;
+            for (let i = 0; i < each.count; ++i)
+                taken += each.itemAt(i)?.width ?? 0;
+            const room = Math.floor((width - taken) / (each.count - 1));
+            return room < 12 ? 22 : Math.min(22, room);
+        }
+        lineSpacing: 8
 
+        // Closer together before they wrap: all that a run can tell is a little wider than an image.
         Repeater {
+            id: each
+
             model: strip.facts.captured
 
             Row {

@@ -71,20 +71,36 @@ QVariantList capturedFacts(const RunRecord& run) {
     return items.take();
 }
 
+QString symbolOf(RunRecord::Kind kind) {
+    switch (kind) {
+    case RunRecord::Kind::internalDrive:
+        return QStringLiteral("internaldrive");
+    case RunRecord::Kind::external:
+        return QStringLiteral("externaldrive");
+    case RunRecord::Kind::network:
+        return QStringLiteral("externaldrive.connected.to.line.below");
+    }
+    Q_UNREACHABLE();
+}
+
 } // namespace
 
 RunFacts RunFacts::of(const RunRecord& run) {
     const bool isNetwork =
         run.kind == RunRecord::Kind::network || (run.fsType && model::isNetworkFilesystem(*run.fsType));
+    const auto kind = isNetwork ? RunRecord::Kind::network : run.kind;
     const auto orNone = [](const std::optional<double>& rate) { return rate.value_or(qQNaN()); };
     return RunFacts{.id = run.id,
                     .title = run.customTitle.value_or(run.volumeName),
+                    .screenshotTitle = run.screenshotTitle(),
+                    .screenshotSubtitle = run.screenshotSubtitle(),
+                    .badgeSymbol = symbolOf(kind),
                     .customTitle = run.customTitle.value_or(QString()),
                     .stamp = Format::runStamp(run.date, run.duration),
                     .shortStamp = Format::shortStamp(run.date),
                     .connection = isNetwork ? Runs::tr("Network") : run.connection,
                     .isNetwork = isNetwork,
-                    .kind = static_cast<int>(isNetwork ? RunRecord::Kind::network : run.kind),
+                    .kind = static_cast<int>(kind),
                     .writeBps = orNone(run.writeBps),
                     .writePeakBps = orNone(run.writePeakBps),
                     .writeMinBps = orNone(run.writeMinBps),

@@ -33,6 +33,9 @@ struct RunFacts {
     QML_VALUE_TYPE(runFacts)
     Q_PROPERTY(QVariant id READ idValue CONSTANT)
     Q_PROPERTY(QString title MEMBER title CONSTANT)
+    Q_PROPERTY(QString screenshotTitle MEMBER screenshotTitle CONSTANT)
+    Q_PROPERTY(QString screenshotSubtitle MEMBER screenshotSubtitle CONSTANT)
+    Q_PROPERTY(QString badgeSymbol MEMBER badgeSymbol CONSTANT)
     Q_PROPERTY(QString customTitle MEMBER customTitle CONSTANT)
     Q_PROPERTY(QString stamp MEMBER stamp CONSTANT)
     Q_PROPERTY(QString shortStamp MEMBER shortStamp CONSTANT)
@@ -52,7 +55,10 @@ public:
     QVariant idValue() const { return id; }
 
     QUuid id;
-    QString title;       ///< the user's, else the volume's name
+    QString title;           ///< the user's, else the volume's name
+    QString screenshotTitle; ///< what the run is called on images
+    QString screenshotSubtitle;
+    QString badgeSymbol; ///< how the volume was attached, as `kind`
     QString customTitle; ///< "" without one
     QString stamp;       ///< date, time and length
     QString shortStamp;

@@ -6,6 +6,7 @@ Card {
     id: badge
 
     property alias symbol: glyph.name
+    property alias symbolSize: glyph.size
 
     implicitWidth: 30
     implicitHeight: 30
@@ -17,6 +18,7 @@ Card {
 
         anchors.centerIn: parent
         size: 14
+        weight: Font.Medium
         color: "white"
     }
 }

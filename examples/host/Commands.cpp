@@ -5,8 +5,8 @@
 namespace examples::host {
 
 std::span<const Command* const> commands() {
-    static constexpr std::array all{&runCommand, &showCommand, &factsCommand, &volumesCommand,
-                                    &smartReportCommand};
+    static constexpr std::array all{&runCommand,   &showCommand,    &cardCommand,
+                                    &factsCommand, &volumesCommand, &smartReportCommand};
     return all;
 }
 

@@ -1,6 +1,7 @@
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
+#include "examples/host/CardProgram.h"
 #include "examples/host/Command.h"
 #include "examples/host/HandOff.h"
 #include "examples/host/Output.h"
@@ -17,6 +18,7 @@
 #include <optional>
 #include <stop_token>
 #include <string>
+#include <vector>
 
 using namespace OndelCore::benchmark;
 using TarnwickKit::model::AnalyzerModel;
@@ -59,18 +61,55 @@ BenchmarkResult measured(const RunOptions& options) {
     }
 }
 
-std::string json(const RunOptions& options, const BenchmarkResult& result,
-                 const std::optional<std::filesystem::path>& runFile) {
+/// Where a run's files lie.
+struct Files {
+    std::optional<std::filesystem::path> run;
+    std::optional<std::filesystem::path> card;
+};
+
+/// Writes what `options` ask for. A file that cannot be made gets a line on standard error and is absent.
+Files written(const RunOptions& options, const HandOff& handOff, const BenchmarkResult& result) {
+    Files files{.run = handOff.write(options.plan, result), .card = std::nullopt};
+    if (!files.run) {
+        complain("The run file could not be written to your temporary folder.");
+        return files;
+    }
+    if (options.card) {
+        std::vector<std::string> arguments{"--", *files.run};
+        if (options.card == CardColors::dark)
+            arguments.insert(arguments.begin(), "--dark");
+        const CardAnswer answer = drawCard(arguments);
+        if (answer.status == done)
+            files.card = answer.output.substr(0, answer.output.find('\n'));
+    }
+    if (!options.handOff) {
+        std::error_code ignored;
+        std::filesystem::remove(*files.run, ignored);
+        std::filesystem::remove(files.run->parent_path(), ignored); // if nothing else is in it
+        files.run.reset();
+    }
+    return files;
+}
+
+std::string json(const RunOptions& options, const BenchmarkResult& result, const Files& files) {
     QJsonObject object = resultJson(options.plan, result);
-    if (runFile)
-        object.insert("handoffFile", QString::fromStdString(runFile->string()));
+    const auto insert = [&](const char* key, const std::optional<std::filesystem::path>& file) {
+        if (file)
+            object.insert(QLatin1String(key), QString::fromStdString(file->string()));
+    };
+    insert("handoffFile", files.run);
+    insert("cardFile", files.card);
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + '\n';
 }
 
-std::string text(const RunOptions& options, const BenchmarkResult& result,
-                 const std::optional<std::filesystem::path>& runFile) {
-    const std::string table = resultTable(options.plan, result).toStdString();
-    return runFile ? table + '\n' + runFile->string() + '\n' : table;
+std::string text(const RunOptions& options, const BenchmarkResult& result, const Files& files) {
+    std::string lines = resultTable(options.plan, result).toStdString();
+    if (files.run || files.card)
+        lines += '\n';
+    for (const auto& file : {files.run, files.card})
+        if (file)
+            lines += file->string() + '\n';
+    return lines;
 }
 
 int execute(const CommandLine& line) {
@@ -80,7 +119,7 @@ int execute(const CommandLine& line) {
     std::optional<HandOff> handOff;
     try {
         const SweptFolder swept(options.folder);
-        if (options.handOff)
+        if (options.handOff || options.card)
             handOff.emplace(options.folder);
         result = measured(options);
     } catch (const Cancelled&) {
@@ -89,13 +128,11 @@ int execute(const CommandLine& line) {
         complain(AnalyzerModel::describe(error).toStdString());
         return failed;
     }
-    const auto runFile = handOff ? handOff->write(options.plan, result) : std::nullopt;
-    print(options.json ? json(options, result, runFile) : text(options, result, runFile));
-    if (handOff && !runFile) {
-        complain("The run file could not be written to your temporary folder.");
-        return failed;
-    }
-    return done;
+    const Files files = handOff ? written(options, *handOff, result) : Files();
+    print(options.json ? json(options, result, files) : text(options, result, files));
+    const bool isWhole =
+        options.handOff == files.run.has_value() && options.card.has_value() == files.card.has_value();
+    return isWhole ? done : failed;
 }
 
 } // namespace
@@ -111,8 +148,8 @@ whole pages of 4096. Every default is the one of the window, so that its figures
 Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start, unless another tarnwick-host measures there.
 
-A run file stays until your session ends, or until the system empties its temporary folder. When it cannot be
-written, the figures are printed all the same and the run counts as failed.
+A run file and a picture stay until your session ends, or until the system empties its temporary folder. When one
+cannot be written, the figures are printed all the same and the run counts as failed.
 
 Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.
 )",

@@ -44,6 +44,9 @@ constexpr std::array options{
     Option{"--handoff", "",
            "Write a run file for the window and for \"show\", and print its path\n"
            "as the last line; with --json: as \"handoffFile\" in the object"},
+    Option{"--card", "light|dark",
+           "Draw a picture of the run to share, in light or dark colours, and\n"
+           "print its path as the last line; with --json: as \"cardFile\""},
 };
 
 std::set<BenchmarkTest> parsedTests(std::string_view list) {
@@ -100,6 +103,15 @@ BenchmarkPlan parsedPlan(const CommandLine& line) {
     return plan;
 }
 
+std::optional<CardColors> parsedCard(const CommandLine& line) {
+    const auto colors = line.value("--card");
+    if (!colors)
+        return std::nullopt;
+    if (colors != "light" && colors != "dark")
+        throw UsageError("--card is light or dark, not " + quoted(*colors));
+    return colors == "dark" ? CardColors::dark : CardColors::light;
+}
+
 std::filesystem::path parsedFolder(const CommandLine& line) {
     if (line.operands().empty())
         throw UsageError("a FOLDER to measure is missing");
@@ -129,6 +141,7 @@ RunOptions runOptions(const CommandLine& line) {
     run.folder = parsedFolder(line);
     run.json = line.has("--json");
     run.handOff = line.has("--handoff");
+    run.card = parsedCard(line);
     return run;
 }
 

@@ -4,16 +4,20 @@
 #include "examples/host/CommandLine.h"
 
 #include <filesystem>
+#include <optional>
 #include <span>
 
 namespace examples::host {
+
+enum class CardColors { light, dark };
 
 /// What "run" was asked to do.
 struct RunOptions {
     OndelCore::benchmark::BenchmarkPlan plan;
     std::filesystem::path folder; ///< the bytes as given
     bool json = false;
-    bool handOff = false; ///< write a run file
+    bool handOff = false;           ///< write a run file
+    std::optional<CardColors> card; ///< draw a picture
 };
 
 /// The options that "run" knows, for its parser and its --help.

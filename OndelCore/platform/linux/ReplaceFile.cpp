@@ -21,7 +21,17 @@ constexpr const char* temporaryPrefix = ".ondel-new-";
 
 std::error_code lastError() { return {errno, std::generic_category()}; }
 
-std::error_code writeAndFlush(int file, std::string_view content) {
+/// How a new file is made.
+struct Manner {
+    mode_t mode;
+    Lasting lasting;
+};
+
+std::error_code flush(int file, Lasting lasting) {
+    return lasting == Lasting::untilPowerLoss || fsync(file) == 0 ? std::error_code() : lastError();
+}
+
+std::error_code writeAndFlush(int file, std::string_view content, Lasting lasting) {
     while (!content.empty()) {
         const ssize_t written = write(file, content.data(), content.size());
         if (written < 0 && errno == EINTR)
@@ -30,40 +40,42 @@ std::error_code writeAndFlush(int file, std::string_view content) {
             return lastError();
         content.remove_prefix(static_cast<std::size_t>(written));
     }
-    return fsync(file) == 0 ? std::error_code() : lastError();
+    return flush(file, lasting);
 }
 
 /// Writes a file that has no name until it is complete, so that a killed process leaves nothing.
 /// Fails: also where the file system or a missing /proc does not allow it.
-std::error_code writeNameless(int folder, const std::string& name, std::string_view content, mode_t mode) {
-    const FileDescriptor file(openat(folder, ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, mode));
+std::error_code writeNameless(int folder, const std::string& name, std::string_view content, Manner manner) {
+    const FileDescriptor file(openat(folder, ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, manner.mode));
     if (!file)
         return lastError();
-    if (const std::error_code error = writeAndFlush(file.get(), content))
+    if (const std::error_code error = writeAndFlush(file.get(), content, manner.lasting))
         return error;
     const std::string self = "/proc/self/fd/" + std::to_string(file.get());
     return linkat(AT_FDCWD, self.c_str(), folder, name.c_str(), AT_SYMLINK_FOLLOW) == 0 ? std::error_code()
                                                                                         : lastError();
 }
 
-std::error_code writeNamed(int folder, const std::string& name, std::string_view content, mode_t mode) {
-    const FileDescriptor file(openat(folder, name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, mode));
-    return file ? writeAndFlush(file.get(), content) : lastError();
+std::error_code writeNamed(int folder, const std::string& name, std::string_view content, Manner manner) {
+    const FileDescriptor file(
+        openat(folder, name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, manner.mode));
+    return file ? writeAndFlush(file.get(), content, manner.lasting) : lastError();
 }
 
 } // namespace
 
-std::error_code replaceFile(const fs::path& path, std::string_view content, fs::perms permissions) {
+std::error_code replaceFile(const fs::path& path, std::string_view content, fs::perms permissions,
+                            Lasting lasting) {
     const fs::path parent = path.has_parent_path() ? path.parent_path() : fs::path(".");
     const FileDescriptor folder(open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!folder)
         return lastError();
-    const auto mode = static_cast<mode_t>(permissions);
+    const Manner manner{static_cast<mode_t>(permissions), lasting};
     const std::string name = path.filename().string();
     const std::string temporary = temporaryPrefix + newUuid();
     std::error_code error;
-    if (writeNameless(folder.get(), temporary, content, mode))
-        error = writeNamed(folder.get(), temporary, content, mode);
+    if (writeNameless(folder.get(), temporary, content, manner))
+        error = writeNamed(folder.get(), temporary, content, manner);
     if (!error && renameat(folder.get(), temporary.c_str(), folder.get(), name.c_str()) != 0)
         error = lastError();
     if (error) {
@@ -71,7 +83,7 @@ std::error_code replaceFile(const fs::path& path, std::string_view content, fs::
         return error;
     }
     // The new name is durable only with its folder. The file is in place whatever this answers.
-    fsync(folder.get());
+    flush(folder.get(), lasting);
     return {};
 }
 

@@ -1,0 +1,116 @@
+#include "TarnwickKit/views/ViewPicture.h"
+
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QOpenGLFramebufferObject>
+#include <QOpenGLFunctions>
+#include <QQuickGraphicsDevice>
+#include <QQuickItem>
+#include <QQuickRenderControl>
+#include <QQuickRenderTarget>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
+
+#include <memory>
+
+namespace TarnwickKit::views {
+
+namespace {
+
+/// A window that exists nowhere, around one view. The two ways of drawing it differ in when the renderer gets
+/// its device, so that a window is good for one picture.
+class Offscreen {
+public:
+    Offscreen(QQuickItem& view, double scale)
+        : m_view(view)
+        , m_scale(scale) {
+        m_window.setColor(Qt::transparent);
+        view.setParentItem(m_window.contentItem());
+    }
+    ~Offscreen() { m_view.setParentItem(nullptr); }
+    Offscreen(const Offscreen&) = delete;
+    Offscreen& operator=(const Offscreen&) = delete;
+
+    QImage picture() {
+        // Asked of this window: the static question does not know of the software renderer.
+        switch (m_window.rendererInterface()->graphicsApi()) {
+        case QSGRendererInterface::Software:
+            return software();
+        case QSGRendererInterface::OpenGL:
+            return openGL();
+        default:
+            return {};
+        }
+    }
+
+private:
+    /// Lets the view take its height and gives the window the same size. Answers that in device pixels.
+    QSize layOut() {
+        m_control.polishItems();
+        const QSizeF size = m_view.size();
+        m_window.setGeometry(QRect(QPoint(), size.toSize()));
+        m_window.contentItem()->setSize(size);
+        return (size * m_scale).toSize();
+    }
+
+    void drawOn(QQuickRenderTarget target) {
+        target.setDevicePixelRatio(m_scale);
+        m_window.setRenderTarget(target);
+        m_control.polishItems();
+    }
+
+    QImage software() {
+        QImage image(layOut(), QImage::Format_ARGB32_Premultiplied);
+        if (image.isNull())
+            return {};
+        image.fill(Qt::transparent);
+        image.setDevicePixelRatio(m_scale);
+        drawOn(QQuickRenderTarget::fromPaintDevice(&image));
+        m_control.sync();
+        m_control.render();
+        image.setDevicePixelRatio(1);
+        return image;
+    }
+
+    QImage openGL() {
+        QOffscreenSurface surface;
+        surface.create();
+        QOpenGLContext context;
+        if (!context.create() || !context.makeCurrent(&surface))
+            return {};
+        m_window.setGraphicsDevice(QQuickGraphicsDevice::fromOpenGLContext(&context));
+        QImage image;
+        if (m_control.initialize()) {
+            image = renderedTexture(context);
+            m_view.setParentItem(nullptr); // its textures go while their context is current
+            m_control.invalidate();
+        }
+        context.doneCurrent();
+        return image;
+    }
+
+    QImage renderedTexture(QOpenGLContext& context) {
+        const QSize pixels = layOut();
+        if (pixels.isEmpty())
+            return {};
+        QOpenGLFramebufferObject buffer(pixels, QOpenGLFramebufferObject::CombinedDepthStencil);
+        drawOn(QQuickRenderTarget::fromOpenGLTexture(buffer.texture(), pixels));
+        m_control.beginFrame();
+        m_control.sync();
+        m_control.render();
+        m_control.endFrame();
+        context.functions()->glFinish();
+        return buffer.toImage();
+    }
+
+    QQuickItem& m_view;
+    double m_scale;
+    QQuickRenderControl m_control;
+    QQuickWindow m_window{&m_control};
+};
+
+} // namespace
+
+QImage viewPicture(QQuickItem& view, double scale) { return Offscreen(view, scale).picture(); }
+
+} // namespace TarnwickKit::views

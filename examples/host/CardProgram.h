@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace examples::host {
+
+/// What the program that draws cards answered.
+struct CardAnswer {
+    int status; ///< an ExitStatus
+    std::string output;
+};
+
+/// Draws a card in a program of its own, "tarnwick-host-card" beside this one, so that no other command loads
+/// what draws. Its lines on standard error are its own. `arguments`: as those of the "card" command. Fails:
+/// `failed`, with a line on standard error.
+CardAnswer drawCard(const std::vector<std::string>& arguments);
+
+} // namespace examples::host

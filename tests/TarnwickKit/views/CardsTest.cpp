@@ -1,0 +1,201 @@
+#include "OndelAppSupport/AppIdentity.h"
+#include "TarnwickKit/views/CardView.h"
+#include "TarnwickKit/views/QRCode.h"
+#include "TarnwickKit/views/ReportImage.h"
+#include "TarnwickKit/views/ViewPicture.h"
+#include "support/TemporaryFolder.h"
+#include "tests/TarnwickKit/views/Runs.h"
+
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QQuickItem>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+using namespace TarnwickKit::views;
+using TarnwickKit::model::RunRecord;
+using test::bareRun;
+using test::fullRun;
+
+namespace {
+
+QByteArray content(const std::filesystem::path& path) {
+    QFile file(QString::fromStdString(path.string()));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What a camera would read; the name of a reader that is not installed is no answer of any code.
+QString scanned(const std::filesystem::path& picture) {
+    QProcess reader;
+    reader.start(QStringLiteral("zbarimg"),
+                 {QStringLiteral("-q"), QStringLiteral("--raw"), QString::fromStdString(picture.string())});
+    reader.waitForFinished(-1);
+    return QString::fromUtf8(reader.readAllStandardOutput()).trimmed();
+}
+
+bool hasReader() { return !QStandardPaths::findExecutable(QStringLiteral("zbarimg")).isEmpty(); }
+
+QString link() { return QStringLiteral("https://") + productLink(); }
+
+/// A picture as every card's must be, whatever it shows.
+void expectCard(const ImageFile& file, const Palette& palette) {
+    ASSERT_TRUE(file);
+    const QImage card(QString::fromStdString(file->string()));
+    ASSERT_EQ(card.width(), 1616);
+    const int right = card.width() - 1;
+    const int bottom = card.height() - 1;
+    for (const QPoint corner : {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom)}) {
+        EXPECT_EQ(card.pixelColor(corner).alpha(), 0);
+        const QPoint inwards(corner.x() == 0 ? 1 : -1, corner.y() == 0 ? 1 : -1);
+        EXPECT_EQ(card.pixelColor(corner + inwards * 50).alpha(), 0) << "the card's own corner is round";
+        EXPECT_EQ(card.pixelColor(corner + inwards * 70).alpha(), 255);
+    }
+    EXPECT_EQ(card.pixelColor(70, 70), palette.panel);
+    EXPECT_EQ(card.pixelColor(70, bottom - 70), palette.panel2);
+    // The tile's padding, right of the code.
+    EXPECT_EQ(card.pixelColor(right - 48 - 40 - 6, bottom - 48 - 32 - 56), QColor(Qt::white));
+    if (hasReader()) {
+        EXPECT_EQ(scanned(*file), link());
+    }
+}
+
+TEST(ReportImage, IsACardWithACodeThatCamerasRead) {
+    RunRecord network = fullRun();
+    network.fsType = QStringLiteral("SMBFS");
+    RunRecord titled = fullRun();
+    titled.customTitle = QString(60, u'W');
+    for (const RunRecord& run : {fullRun(), bareRun(), network, titled})
+        for (const Palette* palette : {&Palette::light(), &Palette::dark()}) {
+            const ImageFile file = ReportImage::render(run, *palette);
+            expectCard(file, *palette);
+            ASSERT_TRUE(file);
+            const QByteArray bytes = content(*file);
+            EXPECT_EQ(ReportImage::renderLater(run, *palette).result(), file) << "replaces the one before";
+            EXPECT_EQ(content(*file), bytes) << "the same run gives the same bytes";
+        }
+    EXPECT_EQ(link(), OndelAppSupport::AppIdentity::tarnwick().website.toString());
+}
+
+TEST(ReportImage, FileNamesAreSafe) {
+    const QString astronaut = QStringLiteral("🧑‍🚀"); // three code points, eleven bytes
+    const std::pair<QString, std::string> cases[] = {
+        {QStringLiteral("a/b//c"), "a-b--c.png"},
+        {QStringLiteral("../x"), "-.-x.png"},
+        {QStringLiteral("a\u0001\nb\u2028c\u0085") + QChar(0), "a--b-c--.png"},
+        {QString(), "-.png"},
+        {QString(300, u'x'), std::string(251, 'x') + ".png"},
+        {QString(249, u'x') + QStringLiteral("é!"), std::string(249, 'x') + "é.png"},
+        {QString(241, u'x') + astronaut, std::string(241, 'x') + ".png"},
+        {QStringLiteral("e") + QString(300, QChar(0x301)), "-.png"}, // one character, too long by itself
+    };
+    for (const auto& [base, name] : cases)
+        EXPECT_EQ(ReportImage::fileName(base), name);
+}
+
+TEST(ReportImage, AsksForNothingWhereThereIsNoPicture) {
+    QQuickItem nothing;
+    EXPECT_FALSE(ReportImage::png(nothing, QStringLiteral("empty")));
+    nothing.setSize({40000, 40000}); // more than an image can be
+    EXPECT_FALSE(ReportImage::png(nothing, QStringLiteral("huge")));
+    const auto picture = ReportImage::render(bareRun(), Palette::light());
+    ASSERT_TRUE(picture);
+    std::filesystem::remove(*picture);
+    std::filesystem::create_directories(*picture / "in the way");
+    EXPECT_FALSE(ReportImage::render(bareRun(), Palette::light()));
+    std::filesystem::remove_all(*picture);
+}
+
+TEST(QRCode, IsSharpAndHoldsWhatItCan) {
+    const auto code = QRCode::image(QStringLiteral("https://example.org/é"));
+    ASSERT_TRUE(code);
+    EXPECT_EQ(code->width(),
+              (25 + 2 * QRCode::quietModules) * QRCode::pixelsPerModule); // 22 bytes: version 2
+    EXPECT_TRUE(QRCode::image(QString(2331, u'x')));
+    EXPECT_FALSE(QRCode::image(QString(2332, u'x')));
+}
+
+/// All that a card says, piece by piece; the parts of a piece are joined.
+QStringList texts(const QQuickItem& item) {
+    QStringList all;
+    if (item.inherits("QQuickText") && item.isVisible())
+        all << item.property("text").toString();
+    const auto children = item.childItems();
+    for (const QQuickItem* child : children)
+        all << texts(*child);
+    return all;
+}
+
+QStringList cardTexts(const RunRecord& run) {
+    const auto card = newCard(QStringLiteral("ReportCard"),
+                              {{QStringLiteral("run"), QVariant::fromValue(run)},
+                               {QStringLiteral("link"), QStringLiteral("example.org")}},
+                              Palette::light());
+    return texts(*card);
+}
+
+TEST(ReportCard, ShowsWhatTheRecordHas) {
+    using Change = void (*)(RunRecord&);
+    struct Case {
+        const char* what;
+        Change change;
+        QStringList shown;  ///< in this order, behind each other
+        QStringList absent; ///< nowhere
+    };
+    const QString none = QStringLiteral("--");
+    const Case cases[] = {
+        {"everything",
+         [](RunRecord&) {},
+         {"Sequential Write", "987", "MB/s", "peak 1,150 · min 700", "Sequential Read", "1,043", "MB/s",
+          "peak 1,043 · min 1,043", "Random 16 KiB read", "12,345 IOPS", "Random 16 KiB write", "23,456 IOPS",
+          "File operations", "1,999 /s"},
+         {none, "Write ", "Read "}},
+        {"the strip",
+         [](RunRecord&) {},
+         {"File system ", "EXT4", "Capacity ", "2.0 TiB", "Free ", "1.0 TiB", "Size ", "5.0 GiB",
+          "Read/Write ", "1 MiB", "Random ", "16 KiB", "Cache ", "Bypassed", "Ondel Tarnwick", "example.org"},
+         {}},
+        {"two blocks",
+         [](RunRecord& run) { run.readBlock = 4 << 20; },
+         {"Write ", "1 MiB", "Read ", "4 MiB"},
+         {"Read/Write "}},
+        {"only a peak",
+         [](RunRecord& run) { run.writeMinBps = run.readPeakBps = std::nullopt; },
+         {"987", "MB/s", "Sequential Read", "1,043", "MB/s", "Random 16 KiB read"},
+         {}},
+        {"no read",
+         [](RunRecord& run) { run.readBps = run.readPeakBps = run.readMinBps = std::nullopt; },
+         {"Sequential Read", none, "MB/s", "Random 16 KiB read"},
+         {"Read ", "Read/Write "}},
+        {"no random",
+         [](RunRecord& run) {
+             run.randomReadBps = run.randomWriteBps = run.randomReadIOPS = run.randomWriteIOPS = std::nullopt;
+             run.randomBlock = std::nullopt;
+         },
+         {"Random 4 KiB read", none, "Random 4 KiB write", none},
+         {"Random "}},
+        {"cached", [](RunRecord& run) { run.bypassCache = false; }, {"Cache ", "Cached"}, {}},
+        {"nothing",
+         [](RunRecord& run) { run = bareRun(); },
+         {"Old", "Internal", "May 1, 2024 · 12:34 PM · 0s", "Sequential Write", none, "MB/s",
+          "Sequential Read", none, "MB/s", "Random 4 KiB read", none, "Random 4 KiB write", none,
+          "File operations", none, "Throughput over time", "Write", "Read", "Ondel Tarnwick"},
+         {"File system ", "Capacity ", "Free ", "Size ", "Random ", "Cache ", "Write ", "Read "}},
+        {"markup in a title",
+         [](RunRecord& run) { run.customTitle = "<b>x</b>"; },
+         {"<b>x</b>", "External · USB"},
+         {}},
+    };
+    for (const Case& c : cases) {
+        RunRecord run = fullRun();
+        c.change(run);
+        const QString all = cardTexts(run).join(u'\n') + u'\n';
+        EXPECT_TRUE(all.contains(c.shown.join(u'\n') + u'\n')) << c.what << "\n" << all.toStdString();
+        for (const QString& text : c.absent)
+            EXPECT_FALSE(all.contains(u'\n' + text + u'\n')) << c.what << ": " << text.toStdString();
+    }
+}
+
+} // namespace
