@@ -1,5 +1,6 @@
 // tarnwick-host-card: draws the cards of tarnwick-host, which starts it. Usage: [--dark] RUNFILE…
 
+#include "TarnwickKit/views/ComparisonImage.h"
 #include "TarnwickKit/views/ReportImage.h"
 #include "TarnwickKit/views/TarnwickFonts.h"
 #include "examples/host/Command.h"
@@ -32,7 +33,12 @@ int draw(const CommandLine& line) {
     const auto runs = readRuns(line.operands());
     if (runs.empty() || runs.size() != line.operands().size())
         return failed;
-    const auto file = views::reportImage({runs.front()}, line.has("--dark"));
+    const bool isDark = line.has("--dark");
+    views::TarnwickFonts::registerFrom();
+    const auto file =
+        runs.size() == 1
+            ? views::reportImage({runs.front()}, isDark)
+            : views::ComparisonImage::render(runs, isDark ? views::Palette::dark() : views::Palette::light());
     if (!file) {
         complain("The picture could not be written to your temporary folder.");
         return failed;

@@ -1,5 +1,8 @@
 #include "OndelAppSupport/AppIdentity.h"
+#include "OndelDrawing/Card.h"
 #include "TarnwickKit/views/CardView.h"
+#include "TarnwickKit/views/ComparedRuns.h"
+#include "TarnwickKit/views/ComparisonImage.h"
 #include "TarnwickKit/views/QRCode.h"
 #include "TarnwickKit/views/ReportImage.h"
 #include "TarnwickKit/views/ViewPicture.h"
@@ -31,7 +34,8 @@ QByteArray content(const std::filesystem::path& path) {
 QString scanned(const std::filesystem::path& picture) {
     QProcess reader;
     reader.start(QStringLiteral("zbarimg"),
-                 {QStringLiteral("-q"), QStringLiteral("--raw"), QString::fromStdString(picture.string())});
+                 {QStringLiteral("-q"), QStringLiteral("--raw"), QStringLiteral("-Sdisable"),
+                  QStringLiteral("-Sqrcode.enable"), QString::fromStdString(picture.string())});
     reader.waitForFinished(-1);
     return QString::fromUtf8(reader.readAllStandardOutput()).trimmed();
 }
@@ -117,14 +121,21 @@ TEST(QRCode, IsSharpAndHoldsWhatItCan) {
     EXPECT_FALSE(QRCode::image(QString(2332, u'x')));
 }
 
-/// All that a card says, piece by piece; the parts of a piece are joined.
-QStringList texts(const QQuickItem& item) {
-    QStringList all;
-    if (item.inherits("QQuickText") && item.isVisible())
-        all << item.property("text").toString();
+/// All items of a card in the order in which it is read.
+QList<const QQuickItem*> itemsOf(const QQuickItem& item) {
+    QList<const QQuickItem*> all{&item};
     const auto children = item.childItems();
     for (const QQuickItem* child : children)
-        all << texts(*child);
+        if (child->isVisible())
+            all << itemsOf(*child);
+    return all;
+}
+
+QStringList texts(const QQuickItem& card) {
+    QStringList all;
+    for (const QQuickItem* item : itemsOf(card))
+        if (item->inherits("QQuickText"))
+            all << item->property("text").toString();
     return all;
 }
 
@@ -195,6 +206,60 @@ TEST(ReportCard, ShowsWhatTheRecordHas) {
         EXPECT_TRUE(all.contains(c.shown.join(u'\n') + u'\n')) << c.what << "\n" << all.toStdString();
         for (const QString& text : c.absent)
             EXPECT_FALSE(all.contains(u'\n' + text + u'\n')) << c.what << ": " << text.toStdString();
+    }
+}
+
+/// A comparison whose runs differ in title, and in figures only where `change` makes them.
+std::vector<RunRecord> eightRuns() {
+    std::vector<RunRecord> runs(8, fullRun());
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        runs[i].customTitle = QStringLiteral("Disk %1").arg(i);
+        runs[i].writeBps = 1e9 / static_cast<double>(i + 1);
+        runs[i].readBps = i == 0 ? 1e12 : 1e3; // a thousandth of a pixel is seen as a stub
+        runs[i].randomReadIOPS = i == 3 ? std::optional(5.0) : std::nullopt;
+        runs[i].randomWriteIOPS = 0;
+        runs[i].fileOpsPerSec = std::nullopt;
+    }
+    return runs;
+}
+
+TEST(ComparisonImage, IsACardWithACodeThatCamerasRead) {
+    for (const Palette* palette : {&Palette::light(), &Palette::dark()}) {
+        const ImageFile file = ComparisonImage::render(eightRuns(), *palette);
+        expectCard(file, *palette);
+        ASSERT_TRUE(file);
+        EXPECT_EQ(file->filename(), "Ondel Tarnwick — Comparison.png");
+        EXPECT_EQ(ComparisonImage::renderLater({fullRun(), bareRun()}, *palette).result(), file);
+    }
+}
+
+TEST(ComparisonChart, HasBarsInTheColorsOfTheRuns) {
+    const auto card = newCard(QStringLiteral("ComparisonCard"),
+                              {{QStringLiteral("runs"), QVariant::fromValue(ComparedRuns{eightRuns()})},
+                               {QStringLiteral("link"), QString()}},
+                              Palette::dark());
+    QString all = texts(*card).join(u'\n');
+    EXPECT_TRUE(all.contains(
+        QStringLiteral("Random read\nIOPS\n--\n--\n--\n5\n--\n--\n--\n--\nRandom write\nIOPS\n0\n0")));
+    EXPECT_TRUE(all.contains(QStringLiteral("8 benchmarks compared")));
+    EXPECT_FALSE(all.contains(QStringLiteral("File ops")));
+
+    std::vector<std::pair<double, QColor>> bars; // of a height no other card has, one in each track
+    for (const QQuickItem* item : itemsOf(*card))
+        if (const auto* track = qobject_cast<const OndelDrawing::Card*>(item);
+            track && track->height() == 15 && track->color() == Palette::dark().track) {
+            ASSERT_EQ(track->width(), 460);
+            const auto* bar = qobject_cast<OndelDrawing::Card*>(track->childItems().at(0));
+            bars.emplace_back(bar->width(), bar->color());
+        }
+    ASSERT_EQ(bars.size(), 4U * 8U);
+    const QList<QColor>& series = Palette::dark().series;
+    for (std::size_t i = 0; i < bars.size(); ++i) {
+        const std::size_t run = i % 8;
+        const double widths[] = {460.0 / static_cast<double>(run + 1), run == 0 ? 460.0 : 3.0,
+                                 run == 3 ? 460.0 : 0.0, 0};
+        EXPECT_DOUBLE_EQ(bars[i].first, widths[i / 8]) << i;
+        EXPECT_EQ(bars[i].second, series.at(static_cast<qsizetype>(run) % series.size()));
     }
 }
 

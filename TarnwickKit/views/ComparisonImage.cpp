@@ -1,0 +1,35 @@
+#include "TarnwickKit/views/ComparisonImage.h"
+
+#include "TarnwickKit/views/CardView.h"
+#include "TarnwickKit/views/ComparedRuns.h"
+
+#include <QQuickItem>
+
+namespace TarnwickKit::views {
+
+using Runs = std::vector<model::RunRecord>;
+
+namespace {
+
+const auto baseName = QStringLiteral("Ondel Tarnwick — Comparison");
+
+std::unique_ptr<QQuickItem> comparisonCard(const Runs& runs, const Palette& palette) {
+    return newCard(QStringLiteral("ComparisonCard"),
+                   {{QStringLiteral("runs"), QVariant::fromValue(ComparedRuns{runs})},
+                    {QStringLiteral("link"), productLink()}},
+                   palette);
+}
+
+} // namespace
+
+ImageFile ComparisonImage::render(const Runs& runs, const Palette& palette) {
+    const auto card = comparisonCard(runs, palette);
+    return card ? ReportImage::png(*card, baseName) : std::nullopt;
+}
+
+QFuture<ImageFile> ComparisonImage::renderLater(const Runs& runs, const Palette& palette) {
+    const auto card = comparisonCard(runs, palette);
+    return card ? ReportImage::pngLater(*card, baseName) : QtFuture::makeReadyFuture(ImageFile());
+}
+
+} // namespace TarnwickKit::views
