@@ -22,9 +22,8 @@ T.Popup {
     modal: true
     focus: true
     padding: 22
-    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape
-    onOpened: cancel.forceActiveFocus(Qt.TabFocusReason)
 
     T.Overlay.modal: Rectangle {
         color: Qt.rgba(0, 0, 0, 0.32)

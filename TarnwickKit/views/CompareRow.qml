@@ -1,39 +1,53 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Layouts
 import OndelDrawing
 import TarnwickKit.views
 
-/// A run to pick for comparing; the row in it does nothing of its own.
-PlainButton {
+/// A row that can be picked while runs are being compared. What it holds is then part of it and does nothing of its own;
+/// at other times it is nothing but what it holds.
+Item {
     id: row
 
-    required property runRecord run
-    property bool chosen: false
-    readonly property runFacts facts: Runs.facts(run)
+    required property bool picking
+    required property bool chosen
+    required property string label
+    required property string detail
+    default property alias content: holder.data
 
     signal wanted(chosen: bool)
 
-    label: facts.title
-    detail: facts.shortStamp
-    corner: 12
-    checkable: true
-    checked: chosen
-    onCheckedChanged: if (checked !== chosen) wanted(checked)
+    implicitHeight: holder.implicitHeight
 
-    contentItem: RowLayout {
-        spacing: 12
+    Item {
+        id: holder
 
-        Symbol {
-            name: row.chosen ? "checkmark.circle.fill" : "circle"
-            size: 18
-            color: row.chosen ? PaletteKey.palette.accent : PaletteKey.palette.text3
-        }
-        HistoryRow {
-            Layout.fillWidth: true
-            run: row.run
-            live: false
-            enabled: false
-            Accessible.ignored: true
+        anchors.right: parent.right
+        width: parent.width - (row.picking ? mark.width + 12 : 0)
+        implicitHeight: childrenRect.height
+        enabled: !row.picking
+    }
+    Symbol {
+        id: mark
+
+        anchors.verticalCenter: parent.verticalCenter
+        visible: row.picking
+        name: row.chosen ? "checkmark.circle.fill" : "circle"
+        size: 18
+        color: row.chosen ? row.PaletteKey.palette.accent : row.PaletteKey.palette.text3
+    }
+    Repeater {
+        model: row.picking ? 1 : 0
+
+        PlainButton {
+            width: row.width
+            height: row.height
+            label: row.label
+            detail: row.detail
+            corner: 12
+            checkable: true
+            checked: row.chosen
+            onCheckedChanged: if (checked !== row.chosen) row.wanted(checked)
         }
     }
 }

@@ -1,17 +1,11 @@
 import QtQuick
-import QtQuick.Templates as T
 import TarnwickKit.views
 
-/// Marks the control that the keyboard would act on, just outside its edge.
+/// Marks the control that the keyboard would act on.
 Rectangle {
-    required property T.Control control
-    property real corner: 10
+    required property real corner
 
-    anchors.fill: control
-    anchors.margins: -3
-    z: 10
-    visible: control.activeFocus && control.visualFocus
-    radius: corner + 3
+    radius: corner
     color: "transparent"
     border.width: 2
     border.color: PaletteKey.palette.teal

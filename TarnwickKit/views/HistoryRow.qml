@@ -22,11 +22,12 @@ PlainButton {
     topPadding: 13
     bottomPadding: 13
     hoverEnabled: true
+    Accessible.ignored: !live
 
     background: Card {
         radius: 12
-        color: PaletteKey.palette.panel
-        outline: row.hovered ? Qt.alpha(PaletteKey.palette.teal, 0.6) : PaletteKey.palette.border
+        color: row.PaletteKey.palette.panel
+        outline: row.hovered ? Qt.alpha(row.PaletteKey.palette.teal, 0.6) : row.PaletteKey.palette.border
     }
     contentItem: RowLayout {
         spacing: 12
@@ -35,14 +36,14 @@ PlainButton {
             implicitWidth: 8
             implicitHeight: 8
             radius: 4
-            color: row.facts.isNetwork ? PaletteKey.palette.amber : PaletteKey.palette.goodDot
+            color: row.facts.isNetwork ? row.PaletteKey.palette.amber : row.PaletteKey.palette.goodDot
         }
         Card {
             implicitWidth: 30
             implicitHeight: 30
             radius: 8
-            color: PaletteKey.palette.badgeStart(row.facts.kind)
-            endColor: PaletteKey.palette.badgeEnd(row.facts.kind)
+            color: row.PaletteKey.palette.badgeStart(row.facts.kind)
+            endColor: row.PaletteKey.palette.badgeEnd(row.facts.kind)
             endPoint: Qt.point(0, 1)
 
             Card {
@@ -62,7 +63,7 @@ PlainButton {
                 text: row.facts.title
                 textFormat: Text.PlainText
                 font: Typeface.display(14)
-                color: PaletteKey.palette.text
+                color: row.PaletteKey.palette.text
                 elide: Text.ElideRight
                 maximumLineCount: 1
                 Accessible.ignored: true
@@ -73,7 +74,7 @@ PlainButton {
                 Layout.fillWidth: true
                 text: fits ? whole.text : row.facts.shortStamp + "\n" + row.facts.connection
                 font: Typeface.mono(10.5)
-                color: PaletteKey.palette.text3
+                color: row.PaletteKey.palette.text3
                 elide: Text.ElideRight
                 lineHeight: fits ? 1 : 1.07
                 Accessible.ignored: true
@@ -90,13 +91,13 @@ PlainButton {
             Layout.preferredWidth: 104
             label: qsTr("Write")
             value: row.facts.writeBps
-            dot: PaletteKey.palette.coral
+            dot: row.PaletteKey.palette.coral
         }
         RunSummaryStat {
             Layout.preferredWidth: 104
             label: qsTr("Read")
             value: row.facts.readBps
-            dot: PaletteKey.palette.teal
+            dot: row.PaletteKey.palette.teal
         }
         DualSparkline {
             implicitWidth: 96
@@ -107,19 +108,19 @@ PlainButton {
             label: qsTr("Delete %1").arg(row.facts.title)
             hint: qsTr("Delete this run")
             corner: 4
-            enabled: row.live
+            Accessible.ignored: !row.live
             onClicked: row.remove()
 
             contentItem: Symbol {
                 name: "trash"
                 size: 11
-                color: PaletteKey.palette.text3
+                color: row.PaletteKey.palette.text3
             }
         }
         Symbol {
             name: "chevron.down"
             size: 11
-            color: PaletteKey.palette.text3
+            color: row.PaletteKey.palette.text3
         }
     }
 }

@@ -6,12 +6,14 @@ import TarnwickKit.views
 T.ToolTip {
     id: tip
 
-    property bool wanted: false
+    required property PlainButton button
 
-    visible: wanted
+    parent: button
+    text: button.hint
+    visible: true
     delay: 700
-    x: parent ? Math.round((parent.width - width) / 2) : 0
-    y: parent ? parent.height + 6 : 0
+    x: Math.round((button.width - width) / 2)
+    y: button.height + 6
     margins: 6
     implicitWidth: Math.min(contentItem.implicitWidth + leftPadding + rightPadding, 320)
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding

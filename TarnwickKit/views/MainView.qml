@@ -21,9 +21,13 @@ Rectangle {
         analyzer: main.analyzer
     }
     ScrollPane {
+        id: pane
+
         anchors.fill: parent
 
         Column {
+            id: column
+
             x: 20
             y: 20
             width: parent.width - 40
@@ -80,6 +84,7 @@ Rectangle {
             PreviousRunsSection {
                 width: parent.width
                 visible: runs.count > 0
+                reach: pane.contentY + pane.height - column.y - y
                 analyzer: main.analyzer
                 runs: runs
             }

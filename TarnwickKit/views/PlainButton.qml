@@ -38,13 +38,18 @@ T.AbstractButton {
         id: pointer
 
         cursorShape: Qt.PointingHandCursor
+        onHoveredChanged: tip.setSource(hovered && button.hint.length > 0 ? "HoverTip.qml" : "", {button: button})
     }
-    HoverTip {
-        text: button.hint
-        wanted: pointer.hovered && button.hint.length > 0
+    // A history has hundreds of buttons and one pointer, so that what follows it is made when it is there.
+    Loader {
+        id: tip
     }
-    FocusRing {
-        control: button
-        corner: button.corner
+    Loader {
+        id: ring
+
+        anchors.fill: parent
+        anchors.margins: -3
+        z: 10
     }
+    onVisualFocusChanged: ring.setSource(visualFocus ? "FocusRing.qml" : "", {corner: button.corner + 3})
 }

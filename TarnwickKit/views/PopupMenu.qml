@@ -11,8 +11,8 @@ T.Menu {
 
     property real leastWidth: 120
 
-    implicitWidth: Math.max(leastWidth, contentItem.implicitWidth + leftPadding + rightPadding)
-    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    implicitWidth: Math.max(leastWidth, implicitContentWidth + leftPadding + rightPadding)
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     margins: 8
     padding: 5
     overlap: 1

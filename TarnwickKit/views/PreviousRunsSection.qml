@@ -10,6 +10,15 @@ ColumnLayout {
 
     required property AnalyzerModel analyzer
     required property StoredRuns runs
+    /// How far the view goes down from the section's top; logical pixels.
+    required property real reach
+
+    readonly property int rowHeight: 65
+    readonly property int seen: Math.ceil(reach / (rowHeight + spacing))
+    readonly property int ahead: 12
+    property int made: 0
+
+    onSeenChanged: made = Math.max(made, seen)
 
     spacing: 10
 
@@ -58,24 +67,40 @@ ColumnLayout {
         Column {
             id: entry
 
+            required property int index
             required property runRecord run
             required property bool expanded
             required property bool picked
+            readonly property bool isMade: index < section.made
+            readonly property bool isOpen: expanded && !section.analyzer.compareMode
 
             Layout.fillWidth: true
+            Layout.minimumHeight: isMade ? 0 : section.rowHeight
 
             Repeater {
-                model: section.analyzer.compareMode ? 1 : 0
+                model: entry.isMade && !entry.isOpen ? 1 : 0
 
                 CompareRow {
                     width: entry.width
-                    run: entry.run
+                    label: row.label
+                    detail: row.detail
+                    picking: section.analyzer.compareMode
                     chosen: entry.picked
-                    onWanted: section.analyzer.toggleCompareSelection(facts.id)
+                    onWanted: section.analyzer.toggleCompareSelection(row.facts.id)
+
+                    HistoryRow {
+                        id: row
+
+                        width: parent.width
+                        run: entry.run
+                        live: !section.analyzer.compareMode
+                        onClicked: section.analyzer.setRunExpanded(facts.id, true)
+                        onRemove: section.analyzer.deleteRun(facts.id)
+                    }
                 }
             }
             Repeater {
-                model: !section.analyzer.compareMode && entry.expanded ? 1 : 0
+                model: entry.isMade && entry.isOpen ? 1 : 0
 
                 ExpandedRunPane {
                     width: entry.width
@@ -85,19 +110,18 @@ ColumnLayout {
                     onRemove: section.analyzer.deleteRun(facts.id)
                 }
             }
-            Repeater {
-                model: !section.analyzer.compareMode && !entry.expanded ? 1 : 0
-
-                HistoryRow {
-                    width: entry.width
-                    run: entry.run
-                    onClicked: section.analyzer.setRunExpanded(facts.id, true)
-                    onRemove: section.analyzer.deleteRun(facts.id)
-                }
-            }
         }
     }
 
+    // Rows in sight are made at once, those that come next between frames.
+    Connections {
+        target: section.made < Math.min(section.runs.count, Assistance.active ? Infinity : section.seen + section.ahead)
+                ? section.Window.window : null
+
+        function onFrameSwapped(): void {
+            section.made += 4;
+        }
+    }
     Alert {
         id: confirmClear
 

@@ -27,7 +27,7 @@ Column {
         Text {
             text: stat.label
             font: Typeface.text(11)
-            color: PaletteKey.palette.text2
+            color: stat.PaletteKey.palette.text2
             Accessible.ignored: true
         }
     }
@@ -39,14 +39,14 @@ Column {
 
             text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)
             font: Typeface.figures(18)
-            color: PaletteKey.palette.text
+            color: stat.PaletteKey.palette.text
             Accessible.ignored: true
         }
         Text {
             anchors.baseline: figure.baseline
             text: "MB/s"
             font: Typeface.text(11)
-            color: PaletteKey.palette.text3
+            color: stat.PaletteKey.palette.text3
             Accessible.ignored: true
         }
     }

@@ -68,10 +68,13 @@ RowLayout {
 
             x: button.width - width
             y: button.height + 4
-            onAboutToShow: currentIndex = setting.current
+            onAboutToShow: {
+                choices.model = Qt.binding(() => setting.options); // not made before somebody looks
+                currentIndex = setting.current;
+            }
 
             Repeater {
-                model: setting.options
+                id: choices
 
                 PopupMenuItem {
                     required property int index

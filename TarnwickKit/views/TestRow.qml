@@ -27,7 +27,7 @@ PlainButton {
 
     background: Card {
         radius: 9
-        color: row.chosen ? PaletteKey.palette.sel : "transparent"
+        color: row.chosen ? row.PaletteKey.palette.sel : "transparent"
     }
     contentItem: RowLayout {
         spacing: 11
@@ -36,8 +36,8 @@ PlainButton {
             implicitWidth: 18
             implicitHeight: 18
             radius: 6
-            color: row.chosen ? PaletteKey.palette.accent : PaletteKey.palette.panel
-            outline: row.chosen ? "transparent" : PaletteKey.palette.border
+            color: row.chosen ? row.PaletteKey.palette.accent : row.PaletteKey.palette.panel
+            outline: row.chosen ? "transparent" : row.PaletteKey.palette.border
             outlineWidth: 1.5
 
             Symbol {
@@ -45,14 +45,14 @@ PlainButton {
                 visible: row.chosen
                 name: "checkmark"
                 size: 9
-                color: PaletteKey.palette.onAccent
+                color: row.PaletteKey.palette.onAccent
             }
         }
         Text {
             Layout.fillWidth: true
             text: row.title
             font: Typeface.text(13.5, Font.Medium)
-            color: PaletteKey.palette.text
+            color: row.PaletteKey.palette.text
             elide: Text.ElideRight
             Accessible.ignored: true
         }
@@ -60,7 +60,7 @@ PlainButton {
             Layout.leftMargin: 4 - parent.spacing // the least gap, so that long titles stay whole
             text: row.figure
             font: Typeface.mono(11)
-            color: PaletteKey.palette.text3
+            color: row.PaletteKey.palette.text3
             Accessible.ignored: true
         }
     }

@@ -52,6 +52,18 @@ def fast_folder(prefix="ondel test "):
     return tempfile.TemporaryDirectory(prefix=prefix, dir=memory if enough else None)
 
 
+def windows(title):
+    """The shown windows of that title, by their numbers."""
+    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title], capture_output=True, text=True).stdout.split()
+
+
+def focus(title):
+    """Gives the keyboard to a window as soon as it stands."""
+    while not windows(title):
+        time.sleep(0.02)
+    subprocess.run(["xdotool", "windowfocus", "--sync", windows(title)[0]], check=True)
+
+
 class Failure(Exception):
     pass
 
@@ -148,10 +160,7 @@ class Window:
         return None
 
     def id(self, title="Ondel Tarnwick"):
-        def search():
-            out = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title], capture_output=True, text=True)
-            return out.stdout.split()
-        return self.until(f"the window {title!r}", search)[0]
+        return self.until(f"the window {title!r}", lambda: windows(title))[0]
 
     def keys(self, *keys):
         subprocess.run(["xdotool", "windowfocus", "--sync", self.id()], check=True)
