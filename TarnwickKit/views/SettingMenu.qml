@@ -39,8 +39,14 @@ RowLayout {
         topPadding: 5
         bottomPadding: 5
         detail: setting.value
-        onClicked: menu.open()
-        Keys.onDownPressed: menu.open()
+        onClicked: show()
+        Keys.onDownPressed: show()
+
+        function show(): void {
+            choices.model = Qt.binding(() => setting.options); // not made before somebody looks
+            (menu.contentItem as ListView).forceLayout();
+            menu.open();
+        }
 
         background: Card {
             radius: 7
@@ -68,10 +74,7 @@ RowLayout {
 
             x: button.width - width
             y: button.height + 4
-            onAboutToShow: {
-                choices.model = Qt.binding(() => setting.options); // not made before somebody looks
-                currentIndex = setting.current;
-            }
+            onOpened: currentIndex = setting.current
 
             Repeater {
                 id: choices

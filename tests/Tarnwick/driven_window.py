@@ -60,7 +60,8 @@ def runs_to_the_end(program, folder):
         window.press("Stop")
         window.find("Ready", "status bar")
         nothing_left(folder)
-        check(window.terminate() == (0, ""), "an idle window does not end quietly")
+        ended = window.terminate()
+        check(ended == (0, ""), f"an idle window ends with {ended}")
 
 
 def ends_cleanly_in_a_run(program, folder):
