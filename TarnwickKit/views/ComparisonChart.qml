@@ -52,7 +52,6 @@ Column {
 
             metric: modelData
             trackWidth: chart.trackWidth
-            seriesColor: chart.seriesColor
         }
     }
     Rule {

@@ -11,8 +11,7 @@ RowLayout {
 
     required property comparedMetric metric
     required property real trackWidth
-    /// Takes a run's index.
-    required property var seriesColor
+    readonly property list<color> series: PaletteKey.palette.series
 
     spacing: 14
 
@@ -65,7 +64,7 @@ RowLayout {
                         width: line.modelData.length
                         height: parent.height
                         radius: 4
-                        color: group.seriesColor(line.index)
+                        color: group.series[line.index % group.series.length]
                     }
                 }
                 Text {
