@@ -74,7 +74,7 @@ void ReportForm::finish() {
     m_submitting = false;
     try {
         m_submission.waitForFinished(); // rethrows
-        m_sent = true;
+        m_sent = !m_submission.isCanceled();
     } catch (const ReportError& error) {
         m_error = error.localizedDescription();
     }

@@ -63,6 +63,8 @@ ReportSubmission::ReportSubmission(const QVariantMap& payload, const BugReporter
     m_promise.start();
     m_watcher.setFuture(m_promise.future());
     connect(&m_watcher, &QFutureWatcher<void>::canceled, this, [this] { end(); });
+    // The network library cannot be ended by the application's own end.
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { delete this; });
     if (service.endpoint.scheme() != QLatin1String("https")) {
         end(ReportError(ReportError::Network()));
         return;
@@ -78,12 +80,6 @@ ReportSubmission::ReportSubmission(const QVariantMap& payload, const BugReporter
     connect(m_reply, &QNetworkReply::readyRead, this, &ReportSubmission::readMore);
     connect(m_reply, &QNetworkReply::finished, this, &ReportSubmission::judge);
     QTimer::singleShot(service.limit, this, [this] { end(failure(ETIMEDOUT)); });
-}
-
-ReportSubmission::~ReportSubmission() {
-    m_reply = nullptr;
-    if (!m_ended)
-        m_promise.finish();
 }
 
 int ReportSubmission::status() const {

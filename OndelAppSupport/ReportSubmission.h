@@ -14,13 +14,12 @@
 
 namespace OndelAppSupport {
 
-/// One exchange with the report service. Owner: itself; it goes when the exchange is over, and with the
-/// application. Threads: main.
+/// One exchange with the report service. Owner: itself; it goes when the exchange is over, and, with its
+/// future cancelled, when the application quits. Threads: main.
 class ReportSubmission : public QObject {
     Q_OBJECT
 public:
     static QFuture<void> start(const QVariantMap& payload, const BugReporter::Service& service);
-    ~ReportSubmission() override;
 
 private:
     ReportSubmission(const QVariantMap& payload, const BugReporter::Service& service);
