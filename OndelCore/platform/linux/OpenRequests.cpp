@@ -1,0 +1,170 @@
+#include "OndelCore/platform/OpenRequests.h"
+
+#include "OndelCore/platform/linux/OpenRequestsDoor.h"
+
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+
+#include <utility>
+
+namespace OndelCore::platform {
+
+namespace {
+
+const QString interface = QStringLiteral("org.freedesktop.Application");
+
+const QString activationToken = QStringLiteral("activation-token");
+const QString startupId = QStringLiteral("desktop-startup-id");
+
+/// For the bus itself, which answers at once or never.
+constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
+
+QDBusPendingCall askBus(const QDBusConnection& bus, const QString& method, const QVariantList& arguments) {
+    const QString service = QStringLiteral("org.freedesktop.DBus");
+    auto message =
+        QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/DBus"), service, method);
+    message.setArguments(arguments);
+    return bus.asyncCall(message, static_cast<int>(busPatience.count()));
+}
+
+/// Waits without holding up what else the event loop has to do.
+QDBusMessage answerTo(const QDBusPendingCall& call) {
+    const QDBusPendingCallWatcher watcher(call);
+    if (!watcher.isFinished()) {
+        QEventLoop loop;
+        QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    return watcher.reply();
+}
+
+QVariantMap platformData(const OpenRequest& request) {
+    if (request.activationToken.empty())
+        return {};
+    const QString token = QString::fromStdString(request.activationToken);
+    return {{activationToken, token}, {startupId, token}};
+}
+
+} // namespace
+
+OpenRequestsDoor::OpenRequestsDoor(const QDBusConnection& bus, const QString& name)
+    : m_bus(bus)
+    , m_name(name)
+    , m_path(u'/' + QString(name).replace(u'.', u'/')) {
+    // Before the name: whoever finds the name finds the object.
+    m_bus.registerObject(m_path, this, QDBusConnection::ExportScriptableSlots);
+    askForName();
+}
+
+void OpenRequestsDoor::askForName() {
+    constexpr uint doNotQueue = 4;
+    m_nameAnswer = askBus(m_bus, QStringLiteral("RequestName"), {m_name, doNotQueue});
+}
+
+bool OpenRequestsDoor::ownsName() {
+    constexpr uint exists = 3;
+    const QDBusMessage answer = m_nameAnswer ? answerTo(*m_nameAnswer) : QDBusMessage();
+    return answer.type() != QDBusMessage::ReplyMessage || answer.arguments().value(0).toUInt() != exists;
+}
+
+QDBusMessage OpenRequestsDoor::messageFor(const OpenRequest& request) const {
+    const auto call = [this](const QString& method, const QVariantList& arguments) {
+        auto message = QDBusMessage::createMethodCall(m_name, m_path, interface, method);
+        message.setArguments(arguments);
+        message.setAutoStartService(false);
+        return message;
+    };
+    if (!request.action.empty())
+        return call(QStringLiteral("ActivateAction"),
+                    {QString::fromStdString(request.action), QVariantList(), platformData(request)});
+    if (request.urls.empty())
+        return call(QStringLiteral("Activate"), {platformData(request)});
+    QStringList urls;
+    for (const std::string& url : request.urls)
+        urls.append(QString::fromStdString(url));
+    return call(QStringLiteral("Open"), {urls, platformData(request)});
+}
+
+QDBusMessage OpenRequestsDoor::send(const OpenRequest& request, std::chrono::milliseconds patience) {
+    return answerTo(m_bus.asyncCall(messageFor(request), static_cast<int>(patience.count())));
+}
+
+void OpenRequestsDoor::deliverTo(OpenRequests::Take take) {
+    m_take = std::move(take);
+    for (const OpenRequest& request : std::exchange(m_early, {}))
+        m_take(request);
+}
+
+void OpenRequestsDoor::close() {
+    m_isClosed = true;
+    m_bus.unregisterObject(m_path);
+    askBus(m_bus, QStringLiteral("ReleaseName"), {m_name});
+}
+
+void OpenRequestsDoor::Activate(const QVariantMap& platformData) { accept({}, platformData); }
+
+void OpenRequestsDoor::Open(const QStringList& uris, const QVariantMap& platformData) {
+    OpenRequest request;
+    for (const QString& uri : uris)
+        request.urls.push_back(uri.toStdString());
+    accept(std::move(request), platformData);
+}
+
+void OpenRequestsDoor::ActivateAction(const QString& action, const QVariantList&,
+                                      const QVariantMap& platformData) {
+    accept({.urls = {}, .action = action.toStdString(), .activationToken = {}}, platformData);
+}
+
+void OpenRequestsDoor::accept(OpenRequest request, const QVariantMap& platformData) {
+    for (const QString& key : {activationToken, startupId})
+        if (request.activationToken.empty())
+            request.activationToken = platformData.value(key).toString().toStdString();
+    if (m_isClosed)
+        sendErrorReply(QDBusError::ServiceUnknown, QStringLiteral("The application is ending."));
+    else if (!m_take)
+        m_early.push_back(std::move(request));
+    else if (!m_take(request))
+        sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("There is no such action."));
+}
+
+OpenRequests::OpenRequests(const std::string& applicationId) {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (bus.isConnected())
+        m_door = std::make_unique<OpenRequestsDoor>(bus, QString::fromStdString(applicationId));
+}
+
+OpenRequests::~OpenRequests() = default;
+
+std::string OpenRequests::activationTokenOfStart() {
+    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    return (token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token).toStdString();
+}
+
+bool OpenRequests::handOver(const OpenRequest& request, std::chrono::milliseconds patience) {
+    if (!m_door)
+        return false;
+    const QDeadlineTimer end(patience);
+    // One that is just ending refuses; its name is then free for this process, unless a third one was faster.
+    for (int attempt = 0; attempt < 10 && !end.hasExpired() && !m_door->ownsName(); ++attempt) {
+        const QDBusError refusal(m_door->send(request, std::chrono::milliseconds(end.remainingTime())));
+        if (!refusal.isValid() || refusal.type() == QDBusError::InvalidArgs)
+            return true;
+        m_door->askForName();
+    }
+    return false;
+}
+
+void OpenRequests::deliverTo(Take take) {
+    if (m_door)
+        m_door->deliverTo(std::move(take));
+}
+
+void OpenRequests::close() {
+    if (m_door)
+        m_door->close();
+}
+
+} // namespace OndelCore::platform

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "OndelCore/platform/OpenRequests.h"
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusPendingCall>
+#include <QObject>
+#include <QVariantMap>
+
+#include <optional>
+#include <vector>
+
+namespace OndelCore::platform {
+
+/// The application on the session bus, as the Desktop Entry Specification describes it under "D-Bus
+/// Activation".
+class OpenRequestsDoor final : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    OpenRequestsDoor(const QDBusConnection& bus, const QString& name);
+
+    /// Whether the name is this process's. Fails: true when the bus does not answer.
+    bool ownsName();
+    /// Asks once more, after the owner has gone.
+    void askForName();
+    /// Fails: an error reply, also when nobody has the name.
+    QDBusMessage send(const OpenRequest& request, std::chrono::milliseconds patience);
+    void deliverTo(OpenRequests::Take take);
+    void close();
+
+    Q_SCRIPTABLE Q_SLOT void Activate(const QVariantMap& platformData);
+    Q_SCRIPTABLE Q_SLOT void Open(const QStringList& uris, const QVariantMap& platformData);
+    Q_SCRIPTABLE Q_SLOT void ActivateAction(const QString& name, const QVariantList& parameter,
+                                            const QVariantMap& platformData);
+
+private:
+    void accept(OpenRequest request, const QVariantMap& platformData);
+
+    QDBusMessage messageFor(const OpenRequest& request) const;
+
+    QDBusConnection m_bus;
+    QString m_name;
+    QString m_path;
+    bool m_isClosed = false;
+    std::optional<QDBusPendingCall> m_nameAnswer;
+    OpenRequests::Take m_take;
+    std::vector<OpenRequest> m_early;
+};
+
+} // namespace OndelCore::platform
