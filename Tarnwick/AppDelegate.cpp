@@ -1,15 +1,20 @@
 #include "Tarnwick/AppDelegate.h"
 
+#include "OndelAppSupport/LaunchLog.h"
 #include "OndelCore/platform/TerminationRequest.h"
+#include "Tarnwick/OpenUrls.h"
 
-#include <QCoreApplication>
+#include <QEventLoop>
+#include <QGuiApplication>
 #include <QSocketNotifier>
+
+#include <utility>
 
 namespace fs = std::filesystem;
 
-AppDelegate::AppDelegate() {
+AppDelegate::AppDelegate()
+    : m_attendant(m_model, [this](const std::string& token) { comeToFront(token); }) {
     m_model.setDialogs(&m_dialogs);
-    // The reply follows the wait whatever the run's outcome was.
     connect(&m_end, &QFutureWatcher<void>::finished, this, [] { QCoreApplication::exit(0); });
 
     auto* notifier =
@@ -18,22 +23,101 @@ AppDelegate::AppDelegate() {
         notifier->setEnabled(false);
         terminate();
     });
+    // Direct: the session goes on ending when the call returns. Saving the state is no request to end:
+    // session managers ask for it right after the start.
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &AppDelegate::endOfSession,
+            Qt::DirectConnection);
+}
+
+void AppDelegate::setShowReport(bool show) {
+    if (std::exchange(m_showReport, show) != show)
+        Q_EMIT showReportChanged();
+}
+
+void AppDelegate::setWindow(QWindow* window) {
+    m_window = window;
+    m_dialogs.setWindow(window);
+}
+
+void AppDelegate::applicationDidFinishLaunching() { OndelAppSupport::startLogging(); }
+
+AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() {
+    if (!m_model.isRunning())
+        return TerminateReply::Now;
+    m_end.setFuture(m_model.cancelAndWait());
+    return TerminateReply::Later;
 }
 
 void AppDelegate::terminate() {
     if (std::exchange(m_terminating, true))
         return;
-    if (m_model.isRunning())
-        m_end.setFuture(m_model.cancelAndWait());
-    else
+    Q_EMIT terminating();
+    if (applicationShouldTerminate() == TerminateReply::Now)
         QCoreApplication::exit(0);
 }
 
-bool AppDelegate::select(const fs::path& folder) {
-    std::error_code error;
-    const fs::path absolute = fs::canonical(folder, error);
-    if (error || !fs::is_directory(absolute, error))
+void AppDelegate::endOfSession() {
+    terminate();
+    if (!m_model.isRunning())
+        return;
+    QEventLoop loop;
+    connect(&m_end, &QFutureWatcher<void>::finished, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void AppDelegate::open(const std::vector<std::string>& urls, const std::string& activationToken) {
+    const OpenUrls sorted = OpenUrls::from(urls);
+    if (sorted.isEmpty())
+        return;
+    // The target must not change under a run.
+    if (sorted.folder && !m_model.isRunning()) {
+        std::error_code error;
+        const fs::path folder = fs::canonical(*sorted.folder, error);
+        m_model.select(error ? *sorted.folder : folder);
+    }
+    for (const fs::path& run : sorted.runs)
+        m_model.importRun(run);
+    comeToFront(activationToken);
+}
+
+void AppDelegate::drop(const QList<QUrl>& urls) {
+    std::vector<std::string> encoded;
+    encoded.reserve(static_cast<std::size_t>(urls.size()));
+    for (const QUrl& url : urls)
+        encoded.push_back(url.toEncoded().toStdString());
+    open(encoded);
+}
+
+void AppDelegate::openRunFile() {
+    m_dialogs.askForRunFiles([this](const std::vector<fs::path>& files) {
+        for (const fs::path& file : files)
+            m_model.importRun(file);
+    });
+}
+
+bool AppDelegate::take(const OndelCore::platform::OpenRequest& request) {
+    if (!request.action.empty() && request.action != "choose-folder" && request.action != "open-run-file")
         return false;
-    m_model.select(absolute);
+    if (!request.urls.empty()) {
+        open(request.urls, request.activationToken);
+        return true;
+    }
+    comeToFront(request.activationToken);
+    if (request.action == "choose-folder")
+        m_model.chooseFolder();
+    if (request.action == "open-run-file")
+        openRunFile();
     return true;
+}
+
+void AppDelegate::comeToFront(const std::string& activationToken) {
+    if (!m_window)
+        return;
+    if (!activationToken.empty())
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.c_str()); // where the toolkit looks for it
+    m_window->setWindowStates(m_window->windowStates() & ~Qt::WindowMinimized);
+    m_window->setVisible(true);
+    m_window->raise();
+    m_window->requestActivate();
+    qunsetenv("XDG_ACTIVATION_TOKEN"); // it is good for once
 }

@@ -1,20 +1,31 @@
 #include "TarnwickKit/views/Dialogs.h"
 
+#include "TarnwickKit/model/TarnwickFile.h"
+
 #include <QFile>
 #include <QMessageBox>
 #include <QWindow>
+
+#include <utility>
 
 namespace fs = std::filesystem;
 
 namespace TarnwickKit::views {
 
+using model::TarnwickFile;
+
+namespace {
+
+fs::path pathOf(const QString& file) { return QFile::encodeName(file).toStdString(); }
+
+} // namespace
+
 Dialogs::~Dialogs() { delete m_dialog; }
 
 QFileDialog* Dialogs::newFileDialog(const Chosen& chosen) {
     auto* dialog = new QFileDialog;
-    QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [chosen](const QString& file) {
-        chosen(fs::path(QFile::encodeName(file).toStdString()));
-    });
+    QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
+                     [chosen](const QString& file) { chosen(pathOf(file)); });
     return dialog;
 }
 
@@ -47,6 +58,22 @@ void Dialogs::askForTextFile(const QString& proposedName, Chosen chosen) {
     dialog->setMimeTypeFilters({QStringLiteral("text/plain")});
     dialog->setDefaultSuffix(QStringLiteral("txt"));
     dialog->selectFile(proposedName);
+    show(dialog);
+}
+
+void Dialogs::askForRunFiles(std::function<void(const std::vector<fs::path>&)> chosen) {
+    auto* dialog = new QFileDialog;
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    const auto extension =
+        QLatin1StringView(TarnwickFile::runExtension.data(), qsizetype{TarnwickFile::runExtension.size()});
+    dialog->setNameFilter(QFileDialog::tr("Tarnwick runs (*.%1)").arg(extension));
+    QObject::connect(dialog, &QFileDialog::filesSelected, dialog,
+                     [chosen = std::move(chosen)](const QStringList& names) {
+                         std::vector<fs::path> files;
+                         for (const QString& name : names)
+                             files.push_back(pathOf(name));
+                         chosen(files);
+                     });
     show(dialog);
 }
 

@@ -5,6 +5,10 @@
 #include <QFileDialog>
 #include <QPointer>
 
+#include <filesystem>
+#include <functional>
+#include <vector>
+
 class QWindow;
 
 namespace TarnwickKit::views {
@@ -22,6 +26,9 @@ public:
                       const std::optional<std::filesystem::path>& startingAt, Chosen chosen) override;
     void askForTextFile(const QString& proposedName, Chosen chosen) override;
     void showError(const QString& sentence) override;
+
+    /// Asks for existing run files, one or several.
+    void askForRunFiles(std::function<void(const std::vector<std::filesystem::path>&)> chosen);
 
 private:
     QFileDialog* newFileDialog(const Chosen& chosen);

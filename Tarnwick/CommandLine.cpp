@@ -1,0 +1,73 @@
+#include "Tarnwick/CommandLine.h"
+
+#include "Tarnwick/OpenUrls.h"
+
+#include <cctype>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <span>
+#include <string_view>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* usage =
+    "Usage: tarnwick [FOLDER | FILE | URL]...\n"
+    "Opens the disk speed and volume analyzer, with the first folder chosen and run files "
+    "(*.tarnwickrun) shown.\n";
+
+std::span<char*> wordsOf(int argc, char** argv) {
+    return std::span(argv, static_cast<std::size_t>(argc)).subspan(argc > 0 ? 1 : 0);
+}
+
+bool looksLikeUrl(std::string_view word) {
+    const std::size_t end = word.find("://");
+    return end != std::string_view::npos && end > 0 && word.find('/') > end;
+}
+
+std::string urlOf(const char* word) {
+    std::error_code error;
+    if (looksLikeUrl(word) && !fs::exists(word, error))
+        return word;
+    const fs::path path = fs::absolute(word, error);
+    return fileUrl(error ? fs::path(word) : path.lexically_normal());
+}
+
+} // namespace
+
+std::optional<int> CommandLine::answerWithoutWindow(int argc, char** argv) {
+    for (const std::string_view word : wordsOf(argc, argv)) {
+        if (word == "--")
+            break;
+        if (word == "--help" || word == "-h") {
+            std::fputs(usage, stdout);
+            return EXIT_SUCCESS;
+        }
+        if (word == "--version") {
+            std::printf("Ondel Tarnwick %s\n", ONDEL_VERSION);
+            return EXIT_SUCCESS;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
+    CommandLine line;
+    bool optionsHaveEnded = false;
+    for (const char* word : wordsOf(argc, argv)) {
+        if (!optionsHaveEnded && std::string_view(word) == "--") {
+            optionsHaveEnded = true;
+        } else if (!optionsHaveEnded && *word == '-') {
+            std::fputs(usage, stderr);
+            return std::nullopt;
+        } else {
+            line.urls.push_back(urlOf(word));
+            if (OpenUrls::from({line.urls.back()}).isEmpty())
+                std::fprintf(stderr, "tarnwick: %s is not a folder or a run file that can be opened.\n",
+                             word);
+        }
+    }
+    return line;
+}

@@ -1,0 +1,60 @@
+#include "Tarnwick/OpenUrls.h"
+
+#include "TarnwickKit/model/TarnwickFile.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QSysInfo>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view scheme = "file://";
+
+bool isThisHost(std::string_view host) {
+    return host.empty() || host == "localhost" || QSysInfo::machineHostName().toStdString() == host;
+}
+
+bool isRunFile(const fs::path& path) {
+    const std::string extension = (path.has_filename() ? path : path.parent_path()).extension();
+    return extension.size() > 1 && extension.substr(1) == TarnwickKit::model::TarnwickFile::runExtension;
+}
+
+} // namespace
+
+std::optional<fs::path> localPath(std::string_view url) {
+    if (!url.starts_with(scheme))
+        return std::nullopt;
+    url.remove_prefix(scheme.size());
+    const std::size_t root = url.find('/');
+    if (root == std::string_view::npos || !isThisHost(url.substr(0, root)))
+        return std::nullopt;
+    url = url.substr(root, url.find_first_of("?#") - root);
+    const std::string path =
+        QByteArray::fromPercentEncoding(QByteArray(url.data(), static_cast<qsizetype>(url.size())))
+            .toStdString();
+    if (path.find('\0') != std::string::npos)
+        return std::nullopt;
+    return fs::path(path);
+}
+
+std::string fileUrl(const fs::path& path) {
+    return std::string(scheme) +
+           QByteArray::fromStdString(path.native()).toPercentEncoding("/").toStdString();
+}
+
+OpenUrls OpenUrls::from(const std::vector<std::string>& urls) {
+    OpenUrls sorted;
+    for (const std::string& url : urls) {
+        const auto path = localPath(url);
+        if (!path)
+            continue;
+        std::error_code error;
+        if (!sorted.folder && fs::is_directory(*path, error))
+            sorted.folder = path;
+        if (isRunFile(*path))
+            sorted.runs.push_back(*path);
+    }
+    return sorted;
+}

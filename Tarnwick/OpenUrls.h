@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The file that a URL means on this machine, byte for byte, as file names need not be text. Fails: absent
+/// for any other URL, and for one that names another host.
+std::optional<std::filesystem::path> localPath(std::string_view url);
+
+/// The URL of an absolute path.
+std::string fileUrl(const std::filesystem::path& path);
+
+/// A list of URLs sorted by what they mean here. What is neither folder nor run file is left out.
+struct OpenUrls {
+    std::optional<std::filesystem::path> folder; ///< the first of the list
+    std::vector<std::filesystem::path> runs; ///< in the order of the list; what they hold is not looked at
+
+    /// Blocks on the file system.
+    static OpenUrls from(const std::vector<std::string>& urls);
+
+    bool isEmpty() const { return !folder && runs.empty(); }
+};

@@ -1,0 +1,70 @@
+#include "Tarnwick/TarnwickApp.h"
+
+#include "OndelAppSupport/AppIdentity.h"
+#include "Tarnwick/CommandLine.h"
+#include "Tarnwick/Product.h"
+#include "Tarnwick/Toolkit.h"
+#include "TarnwickKit/views/TarnwickFonts.h"
+
+#include <QTimer>
+
+#include <chrono>
+#include <cstdlib>
+
+using OndelCore::platform::OpenRequest;
+using OndelCore::platform::OpenRequests;
+
+namespace {
+
+/// Time for the process that was here first to come to its event loop, on a machine that is busy starting
+/// both.
+constexpr std::chrono::milliseconds handOverPatience = std::chrono::seconds(5);
+
+} // namespace
+
+int TarnwickApp::run(int argc, char** argv) {
+    if (const auto status = CommandLine::answerWithoutWindow(argc, argv))
+        return *status;
+    OpenRequest start{.urls = {}, .action = {}, .activationToken = OpenRequests::activationTokenOfStart()};
+
+    const auto application = startToolkit(argc, argv);
+    OpenRequests requests(product::id);
+    prepare();
+    const auto commandLine = CommandLine::parse(argc, argv);
+    if (!commandLine)
+        return 2;
+    start.urls = commandLine->urls;
+    if (requests.handOver(start, handOverPatience))
+        return EXIT_SUCCESS;
+
+    TarnwickApp app(requests);
+    if (!app.declareScenes())
+        return EXIT_FAILURE;
+    QTimer::singleShot(0, [&] { app.finishLaunching(start); });
+    return QApplication::exec();
+}
+
+void TarnwickApp::prepare() {
+    OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
+    TarnwickKit::views::TarnwickFonts::registerFrom();
+    QApplication::setFont(TarnwickKit::views::TarnwickFonts::applicationFont());
+    QApplication::setWindowIcon(applicationIcon());
+}
+
+TarnwickApp::TarnwickApp(OpenRequests& requests)
+    : m_requests(requests) {
+    QObject::connect(&m_delegate, &AppDelegate::terminating, &m_delegate, [this] { m_requests.close(); });
+}
+
+bool TarnwickApp::declareScenes() {
+    m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    m_engine.setInitialProperties({{QStringLiteral("delegate"), QVariant::fromValue(&m_delegate)}});
+    m_engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml")));
+    return !m_engine.rootObjects().isEmpty();
+}
+
+void TarnwickApp::finishLaunching(const OpenRequest& start) {
+    m_delegate.applicationDidFinishLaunching();
+    m_delegate.open(start.urls, start.activationToken);
+    m_requests.deliverTo([this](const OpenRequest& request) { return m_delegate.take(request); });
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "OndelCore/platform/OpenRequests.h"
+#include "Tarnwick/AppDelegate.h"
+
+#include <QQmlApplicationEngine>
+
+/// The application as it is started: the order of what it is made of. Threads: main.
+class TarnwickApp {
+public:
+    /// The whole life of the process. Returns its status.
+    static int run(int argc, char** argv);
+
+    /// Owner: `requests` outlives this.
+    explicit TarnwickApp(OndelCore::platform::OpenRequests& requests);
+
+    /// Loads the window. Fails: false, after the toolkit has said why.
+    bool declareScenes();
+
+    /// Launching has finished: from here on requests are taken, first that of this start.
+    void finishLaunching(const OndelCore::platform::OpenRequest& start);
+
+private:
+    /// Identity, fonts and icon, which the delegate and the views are made with.
+    static void prepare();
+
+    OndelCore::platform::OpenRequests& m_requests;
+    AppDelegate m_delegate;
+    QQmlApplicationEngine m_engine;
+};

@@ -1,0 +1,54 @@
+#include "Tarnwick/Toolkit.h"
+
+#include "OndelCore/platform/GraphicsDevice.h"
+#include "Tarnwick/Product.h"
+
+#include <QIcon>
+#include <QQuickWindow>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/// The toolkit aborts when there is no display. People get a sentence instead.
+void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type != QtFatalMsg)
+        return;
+    std::fprintf(stderr, "tarnwick: no display could be opened; in a terminal, tarnwick-host run FOLDER does "
+                         "the same work.\n");
+    if (qEnvironmentVariableIsSet("QT_DEBUG_PLUGINS"))
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// OpenGL drawn by the processor is slower and larger than the toolkit's own software renderer.
+void chooseRenderer() {
+    const bool chosenByUser =
+        qEnvironmentVariableIsSet("QT_QUICK_BACKEND") || qEnvironmentVariableIsSet("QSG_RHI_BACKEND");
+    if (!chosenByUser && !OndelCore::platform::hasGraphicsDevice())
+        QQuickWindow::setSceneGraphBackend(QStringLiteral("software"));
+    if (!qEnvironmentVariableIsSet("QSG_DISTANCEFIELD_ANTIALIASING"))
+        qputenv("QSG_DISTANCEFIELD_ANTIALIASING", "gray"); // else coloured fringes in images of text
+}
+
+} // namespace
+
+std::unique_ptr<QApplication> startToolkit(int& argc, char** argv) {
+    chooseRenderer();
+    const auto previous = qInstallMessageHandler(explainMissingDisplay);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(previous);
+    application->setApplicationName(QStringLiteral("Ondel Tarnwick"));
+    // Names the settings file together with the line above.
+    application->setOrganizationName(QStringLiteral("Ondel"));
+    application->setApplicationVersion(QStringLiteral(ONDEL_VERSION));
+    application->setDesktopFileName(QString::fromLatin1(product::id));
+    application->setQuitOnLastWindowClosed(false); // AppDelegate decides
+    return application;
+}
+
+QIcon applicationIcon() {
+    const QString name = QString::fromLatin1(product::id);
+    return QIcon::fromTheme(name, QIcon(QStringLiteral(":/tarnwick/%1.svg").arg(name)));
+}
