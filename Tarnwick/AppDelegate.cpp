@@ -1,9 +1,11 @@
 #include "Tarnwick/AppDelegate.h"
 
+#include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/LaunchLog.h"
 #include "OndelCore/platform/TerminationRequest.h"
 #include "Tarnwick/OpenUrls.h"
 
+#include <QDesktopServices>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QSocketNotifier>
@@ -13,7 +15,8 @@
 namespace fs = std::filesystem;
 
 AppDelegate::AppDelegate()
-    : m_attendant(m_model, [this](const std::string& token) { comeToFront(token); }) {
+    : m_updater(updaterEnvironment())
+    , m_attendant(m_model, [this](const std::string& token) { comeToFront(token); }) {
     m_model.setDialogs(&m_dialogs);
     connect(&m_end, &QFutureWatcher<void>::finished, this, [] { QCoreApplication::exit(0); });
 
@@ -28,6 +31,18 @@ AppDelegate::AppDelegate()
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &AppDelegate::endOfSession,
             Qt::DirectConnection);
 }
+
+/// A package goes to whatever installs packages on this desktop, and no check comes between a run and its
+/// disk.
+OndelAppSupport::UpdaterEnvironment AppDelegate::updaterEnvironment() {
+    OndelAppSupport::UpdaterEnvironment environment;
+    environment.settings = &m_defaults;
+    environment.openPackage = [](const QUrl& package) { return QDesktopServices::openUrl(package); };
+    environment.isBusy = [this] { return m_model.isRunning(); };
+    return environment;
+}
+
+QUrl AppDelegate::website() { return OndelAppSupport::AppIdentity::current().website; }
 
 void AppDelegate::setShowReport(bool show) {
     if (std::exchange(m_showReport, show) != show)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelAppSupport/UpdaterModel.h"
 #include "OndelCore/platform/OpenRequests.h"
 #include "Tarnwick/RunAttendant.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
@@ -9,6 +10,7 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QSettings>
 #include <QUrl>
 #include <QWindow>
 #include <QtQml/qqmlregistration.h>
@@ -23,6 +25,9 @@ class AppDelegate : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("There is one for the life of the process.")
     Q_PROPERTY(TarnwickKit::model::AnalyzerModel* model READ model CONSTANT)
+    Q_PROPERTY(OndelAppSupport::UpdaterModel* updater READ updater CONSTANT)
+    /// The product's page.
+    Q_PROPERTY(QUrl website READ website CONSTANT)
     /// The sheet for problem reports is on the screen.
     Q_PROPERTY(bool showReport READ showReport WRITE setShowReport NOTIFY showReportChanged)
 public:
@@ -31,6 +36,8 @@ public:
     AppDelegate();
 
     TarnwickKit::model::AnalyzerModel* model() { return &m_model; }
+    OndelAppSupport::UpdaterModel* updater() { return &m_updater; }
+    static QUrl website();
     bool showReport() const { return m_showReport; }
     void setShowReport(bool show);
     Q_SIGNAL void showReportChanged();
@@ -67,10 +74,13 @@ public:
     void comeToFront(const std::string& activationToken);
 
 private:
+    OndelAppSupport::UpdaterEnvironment updaterEnvironment();
     void endOfSession();
 
     TarnwickKit::views::Dialogs m_dialogs;
+    QSettings m_defaults;
     TarnwickKit::model::AnalyzerModel m_model;
+    OndelAppSupport::UpdaterModel m_updater;
     bool m_showReport = false;
     RunAttendant m_attendant;
     QFutureWatcher<void> m_end;

@@ -1,6 +1,9 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import Tarnwick
+import OndelAppSupport.views
 import TarnwickKit.views
+import Tarnwick
 
 /// The one main window.
 Window {
@@ -12,9 +15,11 @@ Window {
     width: 1180
     height: 780
     minimumWidth: view.leastWidth
-    minimumHeight: view.leastHeight
+    minimumHeight: commands.height + view.leastHeight
     visible: true
     color: view.color
+    palette: StandardPalettes.current
+    PaletteKey.palette: Appearance.palette
 
     Component.onCompleted: delegate.setWindow(window)
     onClosing: close => {
@@ -22,14 +27,43 @@ Window {
         delegate.terminate();
     }
 
+    TarnwickCommands {
+        id: commands
+
+        width: parent.width
+        app: window.delegate
+        updater: window.delegate.updater
+        onAboutWanted: others.showAbout()
+        onSettingsWanted: others.showSettings()
+        onRunWanted: view.run()
+    }
     TarnwickView {
         id: view
 
-        anchors.fill: parent
+        anchors.top: commands.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
         analyzer: window.delegate.model
+
+        sidebarFooter: Repeater {
+            model: AppSupport.nudges.showsNote ? 1 : 0
+
+            SupportBanner {
+                width: parent.width
+            }
+        }
     }
-    Shortcut {
-        sequences: ["Ctrl+Q"]
-        onActivated: window.delegate.terminate()
+    MenuKey {
+        window: window
+        onTapped: commands.openFirst()
+    }
+    DropPlace {
+        anchors.fill: parent
+        delegate: window.delegate
+    }
+    OtherWindows {
+        id: others
+
+        delegate: window.delegate
     }
 }

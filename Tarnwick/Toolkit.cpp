@@ -49,6 +49,6 @@ std::unique_ptr<QApplication> startToolkit(int& argc, char** argv) {
 }
 
 QIcon applicationIcon() {
-    const QString name = QString::fromLatin1(product::id);
-    return QIcon::fromTheme(name, QIcon(QStringLiteral(":/tarnwick/%1.svg").arg(name)));
+    return QIcon::fromTheme(QString::fromLatin1(product::id),
+                            QIcon(QStringLiteral(":/tarnwick/TarnwickIcon.svg")));
 }

@@ -277,6 +277,9 @@ public:
     /// The history's rows show selection marks instead of their normal actions.
     Q_PROPERTY(bool compareMode READ compareMode NOTIFY compareModeChanged)
     bool compareMode() const { return m_compareMode; }
+    /// There are two previous runs at least.
+    Q_PROPERTY(bool canCompare READ canCompare NOTIFY previousRunsChanged)
+    bool canCompare() const;
     Q_INVOKABLE void toggleCompareMode();
     Q_SIGNAL void compareModeChanged();
 

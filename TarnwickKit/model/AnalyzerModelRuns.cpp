@@ -41,6 +41,11 @@ std::vector<RunRecord> AnalyzerModel::previousRuns() const {
     return runs;
 }
 
+bool AnalyzerModel::canCompare() const {
+    const bool isStored = m_currentRun && std::ranges::any_of(m_history->runs(), hasId(m_currentRun->id));
+    return m_history->runs().size() >= (isStored ? 3U : 2U);
+}
+
 void AnalyzerModel::setRunExpanded(const QUuid& id, bool expanded) {
     const bool changed = expanded ? m_expandedRunIDs.insert(id).second : m_expandedRunIDs.erase(id) > 0;
     if (changed)

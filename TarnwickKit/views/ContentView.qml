@@ -9,6 +9,11 @@ Rectangle {
     required property AnalyzerModel analyzer
     property alias sidebarFooter: sidebar.footer
 
+    /// Starts a run as the toolbar's button does, with its question before the disk is filled.
+    function run(): void {
+        toolbar.run();
+    }
+
     PaletteKey.palette: Appearance.palette
     color: PaletteKey.palette.bg
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
@@ -24,6 +29,8 @@ Rectangle {
         spacing: 0
 
         ToolbarView {
+            id: toolbar
+
             Layout.fillWidth: true
             analyzer: content.analyzer
             target: target

@@ -12,6 +12,8 @@ T.MenuItem {
     property bool chosen: false
     property bool isHeading: false
     property bool destructive: false
+    /// The keys that do the same.
+    property string keys: ""
 
     implicitWidth: row.implicitWidth + leftPadding + rightPadding
     implicitHeight: Math.max(isHeading ? 24 : 28, row.implicitHeight + topPadding + bottomPadding)
@@ -19,9 +21,12 @@ T.MenuItem {
     verticalPadding: isHeading ? 3 : 5
     hoverEnabled: true
     enabled: !isHeading
+    opacity: enabled || isHeading ? 1 : 0.45
 
     Accessible.role: isHeading ? Accessible.Heading : Accessible.MenuItem
     Accessible.name: text
+    // The toolkit has no word for a disabled item on the accessibility tree.
+    Accessible.description: enabled || isHeading ? keys : qsTr("Not available now")
     Accessible.checked: chosen
     Accessible.onPressAction: if (item.enabled) item.clicked()
 
@@ -47,6 +52,14 @@ T.MenuItem {
                                   : item.destructive ? PaletteKey.palette.coralink : PaletteKey.palette.text
             elide: Text.ElideRight
             maximumLineCount: 1
+            Accessible.ignored: true
+        }
+        Text {
+            Layout.leftMargin: 20
+            visible: item.keys.length > 0
+            text: item.keys
+            font: Typeface.text(12)
+            color: PaletteKey.palette.text3
             Accessible.ignored: true
         }
     }

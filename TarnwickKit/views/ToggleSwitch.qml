@@ -28,27 +28,8 @@ PlainButton {
             elide: Text.ElideRight
             Accessible.ignored: true
         }
-        Rectangle {
-            implicitWidth: 34
-            implicitHeight: 20
-            radius: 10
-            color: control.on ? PaletteKey.palette.accent : PaletteKey.palette.track
-
-            Rectangle {
-                x: control.on ? parent.width - width - 2 : 2
-                anchors.verticalCenter: parent.verticalCenter
-                width: 16
-                height: 16
-                radius: 8
-                color: control.on ? PaletteKey.palette.onAccent : PaletteKey.palette.panel
-
-                Behavior on x {
-                    NumberAnimation {
-                        duration: 120
-                        easing.type: Easing.InOutQuad
-                    }
-                }
-            }
+        SwitchTrack {
+            on: control.on
         }
     }
 }

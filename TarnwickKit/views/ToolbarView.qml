@@ -8,6 +8,11 @@ Rectangle {
     required property AnalyzerModel analyzer
     required property TargetFacts target
 
+    /// Does what the run button does to start a run.
+    function run(): void {
+        runButton.run();
+    }
+
     implicitHeight: row.implicitHeight + 22
     color: PaletteKey.palette.panel2
 
@@ -20,7 +25,7 @@ Rectangle {
         spacing: 14
 
         VolumeDropdown {
-            Layout.maximumWidth: row.width - pill.implicitWidth - run.implicitWidth - 3 * row.spacing - 8
+            Layout.maximumWidth: row.width - pill.implicitWidth - runButton.implicitWidth - 3 * row.spacing - 8
             analyzer: toolbar.analyzer
             target: toolbar.target
         }
@@ -34,7 +39,7 @@ Rectangle {
             analyzer: toolbar.analyzer
         }
         RunButton {
-            id: run
+            id: runButton
 
             analyzer: toolbar.analyzer
         }

@@ -1,0 +1,27 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnwickKit.views
+
+/// A menu of the menu bar. Its items are made when it first opens.
+PopupMenu {
+    id: menu
+
+    required property list<Command> commands
+
+    leastWidth: 200
+    onAboutToShow: {
+        items.model = commands.length;
+        currentIndex = -1;
+    }
+
+    Repeater {
+        id: items
+
+        CommandItem {
+            required property int index
+
+            command: menu.commands[index]
+        }
+    }
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWindow>
+#include <QtQml/qqmlregistration.h>
+
+/// Tells when Alt was pressed and let go in a window with nothing in between, which asks for the menu bar.
+/// Threads: main.
+class MenuKey : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QWindow* window READ window WRITE setWindow NOTIFY windowChanged)
+public:
+    using QObject::QObject;
+
+    QWindow* window() const { return m_window; }
+    void setWindow(QWindow* window);
+    Q_SIGNAL void windowChanged();
+    Q_SIGNAL void tapped();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QPointer<QWindow> m_window;
+    bool m_isAlone = false;
+};

@@ -1,0 +1,66 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import TarnwickKit.views
+
+/// The menu bar. F10 opens its first menu, the arrow keys go on from there.
+T.MenuBar {
+    id: bar
+
+    function openFirst(): void {
+        (itemAt(0) as T.MenuBarItem).triggered();
+    }
+
+    implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    leftPadding: 10
+    rightPadding: 10
+    topPadding: 4
+    spacing: 2
+
+    Accessible.role: Accessible.MenuBar
+    Accessible.name: qsTr("Menu bar")
+
+    delegate: T.MenuBarItem {
+        id: title
+
+        implicitWidth: words.implicitWidth + leftPadding + rightPadding
+        implicitHeight: words.implicitHeight + topPadding + bottomPadding
+        horizontalPadding: 8
+        verticalPadding: 4
+
+        // The toolkit calls each title a menu bar of its own; its words say better what it is.
+        Accessible.ignored: true
+
+        contentItem: Text {
+            id: words
+
+            text: title.text
+            font: Typeface.text(13)
+            color: PaletteKey.palette.text2
+            Accessible.role: Accessible.MenuItem
+            Accessible.name: text
+            Accessible.onPressAction: title.triggered()
+        }
+        background: Rectangle {
+            radius: 6
+            color: title.highlighted ? PaletteKey.palette.tealSoft : "transparent"
+        }
+    }
+    contentItem: Row {
+        spacing: bar.spacing
+
+        Repeater {
+            model: bar.contentModel
+        }
+    }
+    background: Rectangle {
+        color: PaletteKey.palette.panel2
+    }
+
+    Shortcut {
+        sequences: ["F10"]
+        onActivated: bar.openFirst()
+    }
+}

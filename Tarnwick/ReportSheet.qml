@@ -1,0 +1,32 @@
+import QtQuick
+import QtQuick.Templates as T
+import OndelAppSupport.views
+import OndelDrawing
+import TarnwickKit.views
+
+/// The form for problem reports, over the whole window.
+T.Popup {
+    id: sheet
+
+    parent: T.Overlay.overlay
+    anchors.centerIn: parent
+    implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    visible: true
+    modal: true
+    focus: true
+    closePolicy: T.Popup.CloseOnEscape
+
+    T.Overlay.modal: Rectangle {
+        color: Qt.rgba(0, 0, 0, 0.32)
+    }
+    background: Card {
+        radius: 14
+        color: PaletteKey.palette.bg
+        outline: PaletteKey.palette.border
+    }
+    contentItem: ReportProblemView {
+        focus: true
+        onDismissed: sheet.close()
+    }
+}

@@ -1,0 +1,37 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelDrawing
+import TarnwickKit.views
+
+/// A group of the settings' form: its title, and its rows on a card.
+ColumnLayout {
+    id: section
+
+    required property string title
+    default property alias rows: column.data
+
+    spacing: 8
+
+    Words {
+        Layout.leftMargin: 4
+        text: section.title
+        font: Typeface.display(14)
+        color: PaletteKey.palette.heading
+        Accessible.role: Accessible.Heading
+    }
+    Card {
+        Layout.fillWidth: true
+        implicitHeight: column.implicitHeight + 28
+        radius: 12
+        color: PaletteKey.palette.panel
+        outline: PaletteKey.palette.border
+
+        ColumnLayout {
+            id: column
+
+            anchors.fill: parent
+            anchors.margins: 14
+            spacing: 12
+        }
+    }
+}

@@ -1,0 +1,50 @@
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// A switch with a line that says what it does.
+PlainButton {
+    id: control
+
+    required property bool on
+    required property string explanation
+
+    signal wanted(on: bool)
+
+    Layout.fillWidth: true
+    corner: 7
+    detail: explanation
+    opacity: enabled ? 1 : 0.5
+    checkable: true
+    checked: on
+    onCheckedChanged: if (checked !== on) wanted(checked)
+    onOnChanged: checked = on
+
+    contentItem: RowLayout {
+        spacing: 16
+
+        ColumnLayout {
+            spacing: 2
+
+            Text {
+                Layout.fillWidth: true
+                text: control.label
+                font: Typeface.text(13, Font.Medium)
+                color: PaletteKey.palette.text
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
+            Text {
+                Layout.fillWidth: true
+                text: control.explanation
+                font: Typeface.text(12)
+                color: PaletteKey.palette.text2
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
+        }
+        SwitchTrack {
+            on: control.on
+        }
+    }
+}

@@ -1,0 +1,23 @@
+import QtQuick
+import TarnwickKit.views
+
+/// The product's colours under the names by which standard controls ask for them.
+Palette {
+    required property ColorPalette colors
+
+    window: colors.bg
+    windowText: colors.text
+    base: colors.panel
+    alternateBase: colors.panel2
+    text: colors.text
+    button: colors.panel2
+    buttonText: colors.text
+    highlight: colors.accent
+    highlightedText: colors.onAccent
+    placeholderText: colors.text3
+    link: colors.teal
+    mid: colors.border
+    midlight: colors.borderSoft
+    toolTipBase: colors.panel
+    toolTipText: colors.text
+}

@@ -1,0 +1,117 @@
+import QtQuick
+import OndelAppSupport.views
+import TarnwickKit.views
+import Tarnwick
+
+/// What the menus offer.
+MenuStrip {
+    id: commands
+
+    required property AppDelegate app
+    required property UpdaterModel updater
+    readonly property AnalyzerModel analyzer: app.model
+
+    signal aboutWanted
+    signal settingsWanted
+    signal runWanted
+
+    /// First the runs are picked, then they are compared.
+    function compare(): void {
+        if (analyzer.compareMode)
+            analyzer.beginComparison();
+        else
+            analyzer.toggleCompareMode();
+    }
+
+    CommandMenu {
+        title: qsTr("Tarnwick")
+        commands: [
+            Command {
+                text: qsTr("About Ondel Tarnwick")
+                onTriggered: commands.aboutWanted()
+            },
+            Command {
+                text: qsTr("Check for Updates…")
+                enabled: commands.updater.canCheckForUpdates
+                onTriggered: commands.updater.checkForUpdates()
+            },
+            Command {
+                text: qsTr("Settings…")
+                shortcut: "Ctrl+,"
+                beginsGroup: true
+                onTriggered: commands.settingsWanted()
+            },
+            Command {
+                text: qsTr("Quit")
+                shortcut: "Ctrl+Q"
+                beginsGroup: true
+                onTriggered: commands.app.terminate()
+            }
+        ]
+    }
+    CommandMenu {
+        title: qsTr("File")
+        commands: [
+            Command {
+                text: qsTr("Choose Folder…")
+                shortcut: "Ctrl+O"
+                enabled: !commands.analyzer.isRunning
+                onTriggered: commands.analyzer.chooseFolder()
+            },
+            Command {
+                text: qsTr("Open Run File…")
+                shortcut: "Ctrl+Shift+O"
+                onTriggered: commands.app.openRunFile()
+            },
+            Command {
+                text: qsTr("Close")
+                shortcut: "Ctrl+W"
+                beginsGroup: true
+                enabled: !commands.app.showReport
+                onTriggered: commands.app.terminate()
+            }
+        ]
+    }
+    CommandMenu {
+        title: qsTr("Run")
+        commands: [
+            Command {
+                text: qsTr("Run Benchmark")
+                keys: "Ctrl+Return" // the run button's own
+                enabled: commands.analyzer.canRun
+                onTriggered: commands.runWanted()
+            },
+            Command {
+                text: qsTr("Stop")
+                enabled: commands.analyzer.isRunning
+                onTriggered: commands.analyzer.cancel()
+            },
+            Command {
+                text: qsTr("Compare")
+                beginsGroup: true
+                enabled: commands.analyzer.compareMode ? commands.analyzer.compareSelectionCount >= 2
+                                                       : commands.analyzer.canCompare
+                onTriggered: commands.compare()
+            }
+        ]
+    }
+    CommandMenu {
+        title: qsTr("Help")
+        commands: [
+            Command {
+                text: qsTr("Tarnwick Help")
+                shortcut: "F1"
+                onTriggered: AppSupport.openPage(commands.app.website)
+            },
+            Command {
+                text: qsTr("Report a Problem…")
+                beginsGroup: true
+                onTriggered: commands.app.showReport = true
+            },
+            Command {
+                text: qsTr("Support Tarnwick…")
+                onTriggered: AppSupport.nudges.openSupportPage(false)
+            }
+        ]
+    }
+}

@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import OndelAppSupport.views
+import TarnwickKit.views
+import Tarnwick
+
+/// The settings: a form in groups.
+Item {
+    id: view
+
+    required property UpdaterModel updater
+    required property SupportNudges support
+
+    implicitWidth: 440
+    implicitHeight: form.implicitHeight + 40
+
+    component Caption: Words {
+        Layout.fillWidth: true
+        font: Typeface.text(12)
+        color: PaletteKey.palette.text2
+        wrapMode: Text.Wrap
+    }
+
+    ColumnLayout {
+        id: form
+
+        anchors.fill: parent
+        anchors.margins: 20
+        spacing: 20
+
+        SettingsSection {
+            title: qsTr("Updates")
+
+            SettingsToggle {
+                label: qsTr("Check for updates automatically")
+                explanation: qsTr("Looks for a new version about once a day and asks before installing it. Off, Tarnwick only checks when you choose Check for Updates.")
+                enabled: view.updater.isConfigured
+                on: view.updater.automaticallyChecksForUpdates
+                onWanted: on => view.updater.automaticallyChecksForUpdates = on
+            }
+            AlertButton {
+                label: qsTr("Check Now")
+                enabled: view.updater.canCheckForUpdates
+                opacity: enabled ? 1 : 0.5
+                onClicked: view.updater.checkForUpdates()
+            }
+            Caption {
+                visible: !view.updater.isConfigured
+                text: qsTr("This build doesn’t update itself. Development builds are built without the update feed, so they can’t replace themselves with a release.")
+            }
+        }
+        SettingsSection {
+            title: qsTr("Support Tarnwick")
+
+            Caption {
+                text: qsTr("Tarnwick is free, and made by one developer. Support covers the Apple developer program, hosting, and the time it takes to keep it going.")
+            }
+            AlertButton {
+                label: qsTr("Support on Ko-fi…")
+                onClicked: view.support.openSupportPage(false)
+            }
+            SettingsToggle {
+                label: qsTr("I’ve already supported Tarnwick")
+                explanation: qsTr("Hides the support note at the foot of the sidebar.")
+                on: view.support.isSupporter
+                onWanted: on => view.support.isSupporter = on
+            }
+        }
+    }
+}
