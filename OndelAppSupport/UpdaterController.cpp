@@ -141,6 +141,7 @@ void UpdaterController::checkIfDue() {
 }
 
 void UpdaterController::check() {
+    m_offer.reset();
     updates::Search search{QUrl(valueOf(m_environment.build, "SUFeedURL"), QUrl::StrictMode),
                            valueOf(m_environment.build, "CFBundleVersion"), m_environment.platforms,
                            m_environment.systemVersion, connectionOf(m_environment)};

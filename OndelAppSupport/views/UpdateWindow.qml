@@ -1,14 +1,153 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import QtQuick.Layouts
+import QtQuick.Window
+import OndelDrawing
 import OndelAppSupport.views
 
-/// Everything that is said and asked about updates. It opens and closes by itself.
+/// Everything that is said and asked about updates. It opens and closes by itself, as the updater wants it.
 Window {
     id: window
 
     required property UpdaterController updater
+    property url icon: "qrc:/ondel/Icons/tools.ondel.tarnwick.svg"
+    readonly property int state: updater.state
 
     title: qsTr("Software Update")
     width: 480
-    height: 160
-    visible: updater.state !== UpdaterController.Idle
+    height: page.implicitHeight + 40
+    minimumWidth: width
+    maximumWidth: width
+    minimumHeight: height
+    maximumHeight: height
+    flags: Qt.Dialog | Qt.WindowTitleHint | Qt.WindowCloseButtonHint
+    color: palette.window
+    visible: state !== UpdaterController.Idle
+
+    onClosing: close => {
+        close.accepted = false; // the updater decides
+        updater.dismiss();
+    }
+    onStateChanged: if (visible) takeFocus()
+    Component.onCompleted: takeFocus()
+
+    function takeFocus(): void {
+        (primary.visible ? primary : secondary).forceActiveFocus();
+        // An automatic check does not take the keyboard from what the user is typing into.
+        if (updater.state !== UpdaterController.Available && updater.state !== UpdaterController.Asking)
+            comeForward();
+    }
+    function comeForward(): void {
+        raise();
+        requestActivate();
+    }
+
+    Connections {
+        target: window.updater
+
+        function onAttentionWanted(): void {
+            window.comeForward();
+        }
+    }
+    Shortcut {
+        sequences: ["Escape", "Ctrl+W"]
+        onActivated: window.updater.dismiss()
+    }
+    UpdateWords {
+        id: words
+
+        updater: window.updater
+    }
+    RowLayout {
+        id: page
+
+        x: 20
+        y: 20
+        width: parent.width - 40
+        spacing: 16
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+        LayoutMirroring.childrenInherit: true
+
+        Image {
+            Layout.alignment: Qt.AlignTop
+            source: window.icon
+            sourceSize.width: 56
+            sourceSize.height: 56
+            Accessible.ignored: true
+
+            Symbol {
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                visible: window.state === UpdaterController.Failed
+                name: "exclamationmark.triangle.fill"
+                size: 20
+                color: OndelBrand.coral
+            }
+        }
+        ColumnLayout {
+            spacing: 8
+
+            SheetText {
+                Layout.fillWidth: true
+                text: words.heading
+                font.pixelSize: 14
+                font.weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
+            }
+            SheetText {
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: words.detail
+                font.pixelSize: 12
+                Accessible.role: window.state === UpdaterController.Failed ? Accessible.AlertMessage : Accessible.StaticText
+            }
+            NotesPane {
+                Layout.fillWidth: true
+                Layout.topMargin: 4
+                visible: window.state === UpdaterController.Available && text !== ""
+                label: qsTr("Release notes")
+                text: window.updater.notes
+            }
+            UpdateProgress {
+                Layout.fillWidth: true
+                Layout.topMargin: 4
+                visible: window.state === UpdaterController.Loading
+                value: window.updater.length > 0 ? window.updater.loaded / window.updater.length : 0
+                label: words.heading
+            }
+            RowLayout {
+                Layout.topMargin: 8
+                spacing: 8
+
+                SheetButton {
+                    visible: window.state === UpdaterController.Available
+                    text: qsTr("Skip This Version")
+                    onClicked: window.updater.skipVersion()
+                }
+                Spinner {
+                    visible: window.state === UpdaterController.Checking || window.state === UpdaterController.Verifying
+                    color: window.palette.placeholderText
+                }
+                Item {
+                    Layout.fillWidth: true
+                }
+                SheetButton {
+                    id: secondary
+
+                    visible: text !== ""
+                    text: words.secondary
+                    onClicked: words.act(false)
+                }
+                SheetButton {
+                    id: primary
+
+                    visible: text !== ""
+                    prominent: true
+                    text: words.primary
+                    onClicked: words.act(true)
+                }
+            }
+        }
+    }
 }

@@ -1,0 +1,27 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// How much of a download has come.
+T.ProgressBar {
+    id: bar
+
+    required property string label
+
+    implicitHeight: 6
+    Accessible.role: Accessible.ProgressBar
+    // The toolkit tells assistive technology no value of a progress bar, so it is part of its name.
+    Accessible.name: qsTr("%1 %2 %").arg(label).arg(Math.floor(100 * position))
+
+    background: Rectangle {
+        radius: height / 2
+        color: bar.palette.mid
+    }
+    contentItem: Item {
+        Rectangle {
+            width: bar.visualPosition * parent.width
+            height: parent.height
+            radius: height / 2
+            color: bar.palette.highlight
+        }
+    }
+}
