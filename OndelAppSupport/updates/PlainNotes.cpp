@@ -14,8 +14,12 @@ constexpr qsizetype longestNotes = 20'000; // characters: some ten pages
 
 constexpr std::array unshown{u"script",   u"style", u"head",   u"title",
                              u"template", u"svg",   u"iframe", u"object"};
-constexpr std::array blocks{u"p",  u"div", u"ul", u"ol", u"h1", u"h2", u"h3",      u"h4",      u"h5",
-                            u"h6", u"pre", u"tr", u"dl", u"dt", u"dd", u"section", u"article", u"blockquote"};
+constexpr std::array paragraphs{u"p", u"h1", u"h2", u"h3", u"h4", u"h5", u"h6", u"pre", u"blockquote"};
+constexpr std::array blocks{u"div", u"ul", u"ol", u"tr", u"dl", u"dt", u"dd", u"section", u"article"};
+
+bool isOneOf(const auto& names, const QString& name) {
+    return std::ranges::find(names, QStringView(name)) != names.end();
+}
 
 struct NamedCharacter {
     QStringView name;
@@ -78,7 +82,8 @@ private:
         const auto end = std::ranges::find_if_not(m_rest, [](QChar c) { return c.isLetterOrNumber(); });
         const QString name = m_rest.left(end - m_rest.begin()).toString().toLower();
         skipPast(u">");
-        if (!closes && std::ranges::find(unshown, QStringView(name)) != unshown.end()) {
+        const bool isParagraph = isOneOf(paragraphs, name);
+        if (!closes && isOneOf(unshown, name)) {
             skipPast(QStringLiteral("</") + name);
             skipPast(u">");
         } else if (name == QLatin1String("br")) {
@@ -86,11 +91,10 @@ private:
         } else if (name == QLatin1String("li") && !closes) {
             breakLine();
             m_text += QStringLiteral("• ");
-        } else if (std::ranges::find(blocks, QStringView(name)) != blocks.end()) {
+        } else if (isParagraph || isOneOf(blocks, name)) {
             breakLine();
-            if (closes && name[0] != u'u' && name[0] != u'o' && !m_text.endsWith(QLatin1String("\n\n")) &&
-                !m_text.isEmpty())
-                m_text += u'\n'; // an empty line after a paragraph
+            if (isParagraph && !closes && !m_text.isEmpty() && !m_text.endsWith(QLatin1String("\n\n")))
+                m_text += u'\n';
         }
     }
 

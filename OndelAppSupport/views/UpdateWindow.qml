@@ -15,7 +15,7 @@ Window {
     readonly property int state: updater.state
 
     title: qsTr("Software Update")
-    width: 480
+    width: Math.max(520, buttons.implicitWidth + 112)
     height: page.implicitHeight + 40
     minimumWidth: width
     maximumWidth: width
@@ -117,6 +117,8 @@ Window {
                 label: words.heading
             }
             RowLayout {
+                id: buttons
+
                 Layout.topMargin: 8
                 spacing: 8
 
