@@ -8,6 +8,7 @@ Card {
     id: frame
 
     property alias header: head.data
+    property real headerPadding: 15
     default property alias content: column.data
 
     implicitHeight: column.implicitHeight
@@ -30,8 +31,8 @@ Card {
             Layout.fillWidth: true
             Layout.leftMargin: 18
             Layout.rightMargin: 18
-            Layout.topMargin: 15
-            Layout.bottomMargin: 15
+            Layout.topMargin: frame.headerPadding
+            Layout.bottomMargin: frame.headerPadding
             spacing: 12
         }
         Rule {

@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <QWindow>
 
 #include <utility>
@@ -51,12 +52,24 @@ void Dialogs::askForFolder(const QString& message, const QString& prompt,
     show(dialog);
 }
 
-void Dialogs::askForTextFile(const QString& proposedName, Chosen chosen) {
+QFileDialog* Dialogs::newSaveDialog(const QString& type, const QString& suffix, const Chosen& chosen) {
     QFileDialog* dialog = newFileDialog(chosen);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->setMimeTypeFilters({QStringLiteral("text/plain")});
-    dialog->setDefaultSuffix(QStringLiteral("txt"));
+    dialog->setMimeTypeFilters({type});
+    dialog->setDefaultSuffix(suffix);
+    return dialog;
+}
+
+void Dialogs::askForTextFile(const QString& proposedName, Chosen chosen) {
+    QFileDialog* dialog = newSaveDialog(QStringLiteral("text/plain"), QStringLiteral("txt"), chosen);
+    dialog->selectFile(proposedName);
+    show(dialog);
+}
+
+void Dialogs::askForImageFile(const QString& proposedName, const Chosen& chosen) {
+    QFileDialog* dialog = newSaveDialog(QStringLiteral("image/png"), QStringLiteral("png"), chosen);
+    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
     dialog->selectFile(proposedName);
     show(dialog);
 }

@@ -25,6 +25,8 @@ public:
     void askForFolder(const QString& message, const QString& prompt,
                       const std::optional<std::filesystem::path>& startingAt, Chosen chosen) override;
     void askForTextFile(const QString& proposedName, Chosen chosen) override;
+    /// Asks where to save a PNG image, beginning where the user keeps pictures.
+    void askForImageFile(const QString& proposedName, const Chosen& chosen);
     void showError(const QString& sentence) override;
 
     /// Asks for existing run files, one or several.
@@ -32,6 +34,7 @@ public:
 
 private:
     QFileDialog* newFileDialog(const Chosen& chosen);
+    QFileDialog* newSaveDialog(const QString& type, const QString& suffix, const Chosen& chosen);
     void show(QDialog* dialog);
 
     QPointer<QWindow> m_window;

@@ -34,6 +34,12 @@ CardFrame {
             font: Typeface.mono(11.5)
             color: PaletteKey.palette.text3
         },
+        ShareButton {
+            id: share
+
+            hint: qsTr("Share a report image")
+            onClicked: image.makeReport(pane.run, pane.PaletteKey.palette)
+        },
         IconButton {
             label: qsTr("Delete Run")
             symbol: "trash"
@@ -77,6 +83,10 @@ CardFrame {
         PopupMenuItem {
             text: qsTr("Rename Report…")
             onTriggered: title.edit()
+        }
+        PopupMenuItem {
+            text: qsTr("Share Report Image…")
+            onTriggered: share.clicked()
         }
         PopupMenuItem {
             text: qsTr("Delete Run")

@@ -7,6 +7,8 @@ T.ToolTip {
     id: tip
 
     required property PlainButton button
+    /// Assistive technology reads it too; a button's hint it knows already.
+    property bool spoken: false
 
     parent: button
     text: button.hint
@@ -26,7 +28,9 @@ T.ToolTip {
         font: Typeface.text(11.5)
         color: PaletteKey.palette.text
         wrapMode: Text.Wrap
-        Accessible.ignored: true
+        Accessible.ignored: !tip.spoken
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
     background: Rectangle {
         radius: 6

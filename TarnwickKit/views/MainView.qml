@@ -36,6 +36,15 @@ Rectangle {
 
             // Each pane is there only while its state holds; a repeater of one or none makes and unmakes it.
             Repeater {
+                model: main.analyzer.isComparing ? 1 : 0
+
+                ComparisonPane {
+                    width: parent.width
+                    runs: runs.comparison
+                    onClose: main.analyzer.endComparison()
+                }
+            }
+            Repeater {
                 model: main.showsIdle ? 1 : 0
 
                 IdleCard {

@@ -16,12 +16,14 @@ void StoredRuns::setAnalyzer(AnalyzerModel* analyzer) {
     if (m_analyzer) {
         connect(m_analyzer, &AnalyzerModel::previousRunsChanged, this, &StoredRuns::refresh);
         connect(m_analyzer, &AnalyzerModel::currentRunChanged, this, &StoredRuns::currentRunChanged);
+        connect(m_analyzer, &AnalyzerModel::comparisonChanged, this, &StoredRuns::comparisonChanged);
         connect(m_analyzer, &AnalyzerModel::expandedRunIDsChanged, this, [this] { announce(ExpandedRole); });
         connect(m_analyzer, &AnalyzerModel::compareSelectionChanged, this, [this] { announce(PickedRole); });
     }
     refresh();
     Q_EMIT analyzerChanged();
     Q_EMIT currentRunChanged();
+    Q_EMIT comparisonChanged();
 }
 
 QVariant StoredRuns::data(const QModelIndex& index, int role) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/views/ComparedRuns.h"
 #include "TarnwickKit/views/RunSeries.h"
 
 #include <QAbstractListModel>
@@ -24,6 +25,8 @@ class StoredRuns : public QAbstractListModel {
     /// The run that the main pane shows; empty without one.
     Q_PROPERTY(TarnwickKit::model::RunRecord currentRun READ currentRun NOTIFY currentRunChanged)
     Q_PROPERTY(bool hasCurrentRun READ hasCurrentRun NOTIFY currentRunChanged)
+    /// The runs that are compared; none without a comparison.
+    Q_PROPERTY(TarnwickKit::views::ComparedRuns comparison READ comparison NOTIFY comparisonChanged)
 public:
     enum Role { RunRole = Qt::UserRole, ExpandedRole, PickedRole };
 
@@ -40,6 +43,11 @@ public:
         return hasCurrentRun() ? *m_analyzer->currentRun() : model::RunRecord{};
     }
     Q_SIGNAL void currentRunChanged();
+    ComparedRuns comparison() const {
+        return m_analyzer && m_analyzer->comparison() ? ComparedRuns{*m_analyzer->comparison()}
+                                                      : ComparedRuns{};
+    }
+    Q_SIGNAL void comparisonChanged();
 
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : count(); }
     QVariant data(const QModelIndex& index, int role) const override;

@@ -7,6 +7,7 @@ Card {
 
     property alias symbol: glyph.name
     property alias symbolSize: glyph.size
+    property alias symbolWeight: glyph.weight
 
     implicitWidth: 30
     implicitHeight: 30

@@ -1,0 +1,31 @@
+import QtQuick
+import TarnwickKit.views
+
+/// What can be done with an image.
+PopupMenu {
+    id: picker
+
+    required property PlainButton button
+    required property SharedImage image
+
+    parent: button
+    x: button.width - width
+    y: button.height + 4
+
+    PopupMenuItem {
+        text: qsTr("Copy Image")
+        onTriggered: picker.image.copy()
+    }
+    PopupMenuItem {
+        text: qsTr("Save As…")
+        onTriggered: picker.image.saveAs(picker.button)
+    }
+    PopupMenuItem {
+        text: qsTr("Show in Folder")
+        onTriggered: picker.image.showInFolder()
+    }
+    PopupMenuItem {
+        text: qsTr("Send by Email…")
+        onTriggered: picker.image.sendByEmail()
+    }
+}

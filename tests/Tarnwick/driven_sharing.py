@@ -1,0 +1,113 @@
+#!/usr/bin/python3
+"""Comparing runs and sharing images in the real window, from outside. Usage: driven_sharing.py PROGRAM"""
+
+import os
+import pathlib
+import signal
+import subprocess
+import sys
+
+import driver
+import saved_runs
+
+TOOLS = ("xdg-open", "xdg-email")
+
+
+def check(holds, what):
+    if not holds:
+        raise driver.Failure(what)
+
+
+def share(window, choice):
+    window.press("Share")
+    window.press(choice, "menu item")
+
+
+def called(home, tool):
+    """What one of the desktop's tools was called with, once it was; then it is forgotten."""
+    record = home / tool
+    if not record.exists() or not record.read_text().endswith("\n"):
+        return None
+    words = record.read_text()
+    record.unlink()
+    return words.strip()
+
+
+def compares_and_shares(program, home, folder):
+    with driver.Window(program, folder, env={"PATH": f"{home / 'bin'}:{os.environ['PATH']}"}) as window:
+        window.find("Ready to benchmark")
+        window.press("Compare")
+        for name in ("Samsung SSD 990 PRO", "media"):
+            window.press(name, "check box")
+        window.press("Compare 2")
+        window.find("Comparing 2 runs")
+        window.find("Write, NVMe Server: 104 MB/s")
+
+        share(window, "Copy Image")
+        window.find("Image copied")
+        share(window, "Show in Folder")
+        where = pathlib.Path(window.until("the folder", lambda: called(home, "xdg-open")))
+        image = where / "Ondel Tarnwick — Comparison.png"
+        share(window, "Send by Email…")
+        words = window.until("the message", lambda: called(home, "xdg-email"))
+        check(words == f"--utf8 --subject {image.stem} --attach {image}", words)
+        check(where.stat().st_mode & 0o77 == 0 and [image] == list(where.iterdir()), f"{where} is open to others")
+
+        share(window, "Save As…")
+        driver.focus("Save As")
+        kept = home / "kept.png"
+        subprocess.run(["xdotool", "type", str(kept)], check=True)
+        subprocess.run(["xdotool", "key", "Return"], check=True)
+        window.find("Saved as “kept.png”")
+        check(kept.read_bytes() == image.read_bytes(), "the saved image is another one")
+
+        window.press("Run Benchmark")
+        window.find("Running…", "status bar")
+        window.find("Comparing 2 runs")
+        window.press("Stop")
+        window.find("Ready", "status bar")
+        window.press("Close")
+        window.gone("Comparing 2 runs")
+
+        window.press("SD card")
+        share(window, "Copy Image")
+        window.find("Image copied")
+        check((where / "Ondel Tarnwick — SD card.png").exists(), "no report image")
+        check(window.terminate() == (0, ""), "it does not end quietly")
+
+
+def says_what_cannot_be_done(program, home, _folder):
+    (home / "bin" / "xdg-open").write_text("#!/bin/sh\nexit 3\n")
+    (home / "bin" / "xdg-email").unlink()
+    with driver.Window(program, env={"PATH": str(home / "bin")}) as window:
+        window.press("SD card")
+        share(window, "Show in Folder")
+        window.find("The folder couldn't be opened.")
+        share(window, "Send by Email…")
+        window.find("No mail program could be opened.")
+        for image in pathlib.Path(os.environ["XDG_RUNTIME_DIR"], "tools.ondel.tarnwick").iterdir():
+            image.unlink()
+        window.press("Share")
+        window.find("Copy Image", "menu item")
+        os.chmod(os.environ["XDG_RUNTIME_DIR"] + "/tools.ondel.tarnwick", 0o755)  # no longer private: no image
+        window.keys("Escape")
+        window.gone("Copy Image", "menu item")
+        window.press("Share")
+        window.settled()
+        check(window.look("Copy Image", "menu item") is None, "a menu without an image")
+        check(window.end(signal.SIGTERM) == (0, ""), "it does not end quietly")
+
+
+if __name__ == "__main__":
+    driver.enter_display()
+    home = pathlib.Path(os.environ["HOME"])
+    (home / "bin").mkdir()
+    for tool in TOOLS:
+        script = home / "bin" / tool
+        script.write_text(f'#!/bin/sh\necho "$@" > "{home}/{tool}"\n')
+        script.chmod(0o755)
+    saved_runs.lay_down([saved_runs.run(i) for i in range(4)])
+    with driver.fast_folder() as name:
+        for case in (compares_and_shares, says_what_cannot_be_done):
+            print(case.__name__.replace("_", " "), flush=True)
+            case(sys.argv[1], home, pathlib.Path(name))
