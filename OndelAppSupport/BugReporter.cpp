@@ -5,6 +5,9 @@
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/ReportSubmission.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 namespace OndelAppSupport {
 
 BugReporter::Service BugReporter::Service::maker() {
@@ -27,7 +30,8 @@ QVariantMap BugReporter::payload(const Report& report) {
 }
 
 QFuture<void> BugReporter::submit(const Report& report, const Service& service) {
-    return ReportSubmission::start(payload(report), service);
+    const QJsonObject object = QJsonObject::fromVariantMap(payload(report));
+    return ReportSubmission::start(QJsonDocument(object).toJson(QJsonDocument::Compact), service);
 }
 
 } // namespace OndelAppSupport

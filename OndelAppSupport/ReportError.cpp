@@ -1,5 +1,7 @@
 #include "OndelAppSupport/ReportError.h"
 
+#include "OndelCore/platform/ErrorText.h"
+
 #include <QCoreApplication>
 
 #include <utility>
@@ -9,6 +11,10 @@ namespace OndelAppSupport {
 ReportError::ReportError(Cause cause)
     : m_cause(std::move(cause))
     , m_what(localizedDescription().toStdString()) {}
+
+ReportError ReportError::ofSystem(int error) {
+    return ReportError(Transport{QString::fromStdString(OndelCore::platform::errorText(error))});
+}
 
 QString ReportError::localizedDescription() const {
     if (const auto* refused = std::get_if<Server>(&m_cause))

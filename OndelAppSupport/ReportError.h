@@ -28,6 +28,8 @@ public:
     using Cause = std::variant<Server, Network, Transport>;
 
     explicit ReportError(Cause cause);
+    /// Transport, in the system's words for an errno value.
+    static ReportError ofSystem(int error);
 
     const Cause& cause() const { return m_cause; }
     /// One sentence for the user.

@@ -2,39 +2,36 @@
 
 #include "OndelAppSupport/BugReporter.h"
 
+#include <QByteArray>
 #include <QFuture>
 #include <QFutureWatcher>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QObject>
 #include <QPromise>
-#include <QVariantMap>
+#include <QThread>
 
 #include <optional>
 
 namespace OndelAppSupport {
 
-/// One exchange with the report service. Owner: itself; it goes when the exchange is over, and, with its
-/// future cancelled, when the application quits. Threads: main.
+/// An exchange with the report service as the user's thread sees it: nothing in it waits, and it is over in
+/// time even if the exchange's own thread is stuck. Owner: itself; it goes when that thread has ended, and,
+/// with its future cancelled, when the application quits. Threads: main.
 class ReportSubmission : public QObject {
     Q_OBJECT
 public:
-    static QFuture<void> start(const QVariantMap& payload, const BugReporter::Service& service);
+    static QFuture<void> start(const QByteArray& body, const BugReporter::Service& service);
 
 private:
-    ReportSubmission(const QVariantMap& payload, const BugReporter::Service& service);
+    ReportSubmission(const QByteArray& body, const BugReporter::Service& service);
+    ~ReportSubmission() override;
 
-    int status() const;
-    void readMore();
-    void judge();
-    void end(const std::optional<ReportError>& error = std::nullopt);
+    void settle(const std::optional<ReportError>& error = std::nullopt);
 
     QPromise<void> m_promise;
     QFutureWatcher<void> m_watcher;
-    QNetworkAccessManager m_network;
-    QNetworkReply* m_reply = nullptr; ///< owned by m_network
-    QByteArray m_answer;
-    bool m_ended = false;
+    QThread* m_thread; ///< owned, unless it cannot be ended
+    std::optional<ReportError> m_error;
+    bool m_settled = false;
 };
 
 } // namespace OndelAppSupport
