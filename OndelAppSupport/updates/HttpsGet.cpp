@@ -1,5 +1,7 @@
 #include "OndelAppSupport/updates/HttpsGet.h"
 
+#include "OndelCore/platform/NameLookup.h"
+
 #include <QEventLoop>
 #include <QMetaObject>
 #include <QNetworkAccessManager>
@@ -49,6 +51,8 @@ void httpsGet(const QUrl& url, const Connection& connection, UpdateError::Cause 
               const ReceiveBytes& receive, const std::stop_token& stop) {
     if (url.scheme() != QLatin1String("https"))
         throw UpdateError(failure);
+    if (!OndelCore::platform::awaitNameLookup(url.host(QUrl::FullyEncoded).toStdString(), stop))
+        throw Stopped();
     QNetworkAccessManager network;
     QEventLoop loop;
     const std::unique_ptr<QNetworkReply> reply(network.get(request(url, connection)));
