@@ -13,7 +13,7 @@
 
 namespace OndelCore::platform {
 
-/// The application on the session bus, as the Desktop Entry Specification describes it under "D-Bus
+/// The application on the session bus, as the Desktop Entry standard describes it under "D-Bus
 /// Activation".
 class OpenRequestsDoor final : public QObject, protected QDBusContext {
     Q_OBJECT
