@@ -40,6 +40,9 @@ ColumnLayout {
         }
     }
     Row {
+        id: line
+
+        Layout.fillWidth: true
         Layout.leftMargin: 20
         Layout.rightMargin: 20
         Layout.bottomMargin: extremes.visible ? 0 : 17
@@ -48,12 +51,17 @@ ColumnLayout {
         Text {
             id: figure
 
+            width: Math.min(implicitWidth, line.width - unit.width - line.spacing)
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 9
             text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)
             font: Typeface.display(38)
             color: PaletteKey.palette.text
             Accessible.ignored: true
         }
         Text {
+            id: unit
+
             anchors.baseline: figure.baseline
             text: "MB/s"
             font: Typeface.text(15, Font.Medium)
@@ -67,6 +75,8 @@ ColumnLayout {
         Layout.leftMargin: 20
         Layout.rightMargin: 20
         Layout.bottomMargin: 17
+        Layout.fillWidth: true
+        elide: Text.ElideRight
         visible: !isNaN(stat.peak) && !isNaN(stat.least)
         text: visible ? qsTr("peak %1 · min %2").arg(Format.mbValue(stat.peak)).arg(Format.mbValue(stat.least)) : ""
         font: Typeface.mono(11)

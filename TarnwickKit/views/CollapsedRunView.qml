@@ -42,9 +42,11 @@ PlainButton {
 
                 Text {
                     Layout.fillWidth: true
-                    Layout.maximumWidth: implicitWidth
+                    Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
+                    Layout.maximumWidth: Layout.preferredWidth
                     text: view.facts.title
                     textFormat: Text.PlainText
+                    horizontalAlignment: Text.AlignLeft
                     font: Typeface.display(15)
                     color: PaletteKey.palette.text
                     elide: Text.ElideRight

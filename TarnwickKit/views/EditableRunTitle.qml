@@ -47,9 +47,11 @@ Item {
 
             Text {
                 Layout.fillWidth: true
-                Layout.maximumWidth: implicitWidth
+                Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
+                Layout.maximumWidth: Layout.preferredWidth
                 text: title.facts.title
                 textFormat: Text.PlainText
+                horizontalAlignment: Text.AlignLeft
                 font: Typeface.display(16)
                 color: PaletteKey.palette.text
                 elide: Text.ElideRight

@@ -21,7 +21,8 @@ CardFrame {
             id: title
 
             Layout.fillWidth: true
-            Layout.maximumWidth: implicitWidth
+            Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
+            Layout.maximumWidth: Layout.preferredWidth
             facts: pane.facts
             onRenamed: text => pane.analyzer.renameRun(pane.facts.id, text)
         },

@@ -11,6 +11,9 @@ PlainButton {
     readonly property runFacts facts: Runs.facts(run)
     /// Without it the row is part of something else that is pressed as a whole.
     property bool live: true
+    /// What everything but the words leaves of the row. The words' own width would not do: they change their height
+    /// by it, which is too late once the row is laid out.
+    readonly property real room: availableWidth - 8 - 30 - 2 * 104 - 96 - remove.implicitWidth - fold.implicitWidth - 7 * 12
 
     signal remove
 
@@ -56,12 +59,14 @@ PlainButton {
         }
         ColumnLayout {
             Layout.fillWidth: true
+            Layout.minimumWidth: 0
             spacing: 2
 
             Text {
                 Layout.fillWidth: true
                 text: row.facts.title
                 textFormat: Text.PlainText
+                horizontalAlignment: Text.AlignLeft // also of a name that runs the other way
                 font: Typeface.display(14)
                 color: row.PaletteKey.palette.text
                 elide: Text.ElideRight
@@ -69,7 +74,7 @@ PlainButton {
                 Accessible.ignored: true
             }
             Text {
-                readonly property bool fits: whole.width <= width
+                readonly property bool fits: whole.width <= row.room
 
                 Layout.fillWidth: true
                 text: fits ? whole.text : row.facts.shortStamp + "\n" + row.facts.connection
@@ -105,6 +110,8 @@ PlainButton {
             run: row.run
         }
         PlainButton {
+            id: remove
+
             label: qsTr("Delete %1").arg(row.facts.title)
             hint: qsTr("Delete this run")
             corner: 4
@@ -118,6 +125,8 @@ PlainButton {
             }
         }
         Symbol {
+            id: fold
+
             name: "chevron.down"
             size: 11
             color: row.PaletteKey.palette.text3

@@ -16,8 +16,10 @@ CardFrame {
         },
         Words {
             Layout.fillWidth: true
-            Layout.maximumWidth: implicitWidth
+            Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
+            Layout.maximumWidth: Layout.preferredWidth
             text: pane.volumeName
+            horizontalAlignment: Text.AlignLeft
             font: Typeface.display(16)
             color: PaletteKey.palette.text
             elide: Text.ElideRight

@@ -37,12 +37,17 @@ Column {
         Text {
             id: figure
 
+            width: Math.min(implicitWidth, stat.width - unit.width - 3)
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 7
             text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)
             font: Typeface.figures(18)
             color: stat.PaletteKey.palette.text
             Accessible.ignored: true
         }
         Text {
+            id: unit
+
             anchors.baseline: figure.baseline
             text: "MB/s"
             font: Typeface.text(11)

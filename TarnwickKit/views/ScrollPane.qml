@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import TarnwickKit.views
 
-/// A vertical scroll area. What gets the keyboard's focus is brought into view.
+/// A vertical scroll area. What gets the keyboard's focus is brought into view, and the focus is kept in the content.
 Flickable {
     id: pane
 
@@ -16,14 +16,40 @@ Flickable {
     clip: true
     interactive: contentHeight > height
 
-    onFocusItemChanged: reveal()
+    /// Where the focus was in the content while it was there.
+    property real focusPlace: -1
 
-    function reveal(): void {
-        let ancestor = focusItem;
+    onFocusItemChanged: {
+        if (holds(focusItem)) {
+            focusPlace = focusItem.mapToItem(holder, 0, 0).y;
+            reveal();
+        } else if (focusPlace >= 0 && (!focusItem || !focusItem.parent)) {
+            Qt.callLater(catchFocus);
+        } else {
+            focusPlace = -1;
+        }
+    }
+
+    function holds(item: Item): bool {
+        let ancestor = item;
         while (ancestor && ancestor !== holder)
             ancestor = ancestor.parent;
-        if (!ancestor)
-            return;
+        return ancestor === holder;
+    }
+
+    /// What had the focus is gone, as a deleted row is. Who goes by keyboard goes on from what stands there now.
+    function catchFocus(): void {
+        let found = null;
+        for (let item = holder.nextItemInFocusChain(); holds(item); item = item.nextItemInFocusChain()) {
+            found = item;
+            if (item.mapToItem(holder, 0, 0).y >= focusPlace - 1)
+                break;
+        }
+        if (found)
+            found.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function reveal(): void {
         const top = focusItem.mapToItem(holder, 0, 0).y - 12;
         const bottom = top + focusItem.height + 24;
         if (top < contentY || focusItem.height > height)

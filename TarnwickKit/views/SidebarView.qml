@@ -53,7 +53,7 @@ Rectangle {
                 }
             }
             SidebarHeader {
-                topPadding: 14
+                topPadding: 6
                 text: qsTr("Settings")
             }
             SettingsBlock {

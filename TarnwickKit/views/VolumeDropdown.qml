@@ -52,6 +52,7 @@ PlainButton {
                 Layout.fillWidth: true
                 text: dropdown.target.volumeName || qsTr("Select a volume")
                 textFormat: Text.PlainText
+                horizontalAlignment: Text.AlignLeft
                 font: Typeface.display(14)
                 color: PaletteKey.palette.text
                 elide: Text.ElideRight

@@ -31,6 +31,8 @@ PopupMenu {
     }
     T.MenuSeparator {
         verticalPadding: 5
+        horizontalPadding: 10
+        implicitHeight: implicitContentHeight + topPadding + bottomPadding
         contentItem: Rule {
             color: PaletteKey.palette.borderSoft
         }

@@ -1,0 +1,104 @@
+/// The window on a machine that is made up, for its pictures and its speed: staged-window MACHINE
+///   drive    a drive with 25 figures of health, several of them a concern, on a volume with a long name
+///   failing  the same, given up by its own verdict
+///   blind    a target of whose volume nothing is known
+///   stream   a run that tells 50 jagged samples a second for a minute and does nothing else
+
+#include "OndelAppSupport/AppIdentity.h"
+#include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/views/TarnwickFonts.h"
+
+#include <QApplication>
+#include <QPromise>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+#include <chrono>
+#include <cmath>
+#include <string_view>
+#include <thread>
+
+using namespace OndelCore;
+using benchmark::BenchmarkTest;
+using health::DiskSMART;
+using TarnwickKit::model::AnalyzerServices;
+
+namespace {
+
+DiskSMART manyFigures(bool isFailing) {
+    DiskSMART smart{.status = isFailing ? DiskSMART::Status::failing : DiskSMART::Status::verified,
+                    .kind = "ATA",
+                    .attributes = {}};
+    for (int i = 0; i < 24; ++i)
+        smart.attributes.push_back(
+            {i == 5 ? "Reported uncorrectable errors and some more" : "Figure number " + std::to_string(i),
+             i == 6 ? "18,446,744,073,709,551,615 sectors" : std::to_string(i * i * 977), i % 5 == 1});
+    smart.attributes.push_back({"Temperature", "41 °C"});
+    return smart;
+}
+
+void stream(const benchmark::ProgressListener& tell, const std::stop_token& stop) {
+    constexpr int samples = 3000;
+    for (int i = 0; i < samples && !stop.stop_requested(); ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        const double rate = 2e9 * (1 + 0.4 * std::sin(i * 1.7) + 0.2 * std::sin(i * 0.031));
+        tell({BenchmarkTest::sequentialWrite, i * 10'000'000LL, samples * 10'000'000LL, rate, i * 0.02});
+    }
+}
+
+AnalyzerServices machine(std::string_view name) {
+    AnalyzerServices services = AnalyzerServices::real();
+    if (name == "drive" || name == "failing") {
+        const bool isFailing = name == "failing";
+        services.readHealth = [isFailing](const auto&) { return manyFigures(isFailing); };
+        services.loadVolume = [load = services.loadVolume](const volumes::Location& location) {
+            auto volume = load(location);
+            volume->name = QStringLiteral("The drive from the attic that makes that noise, third try ok");
+            return volume;
+        };
+    } else if (name == "blind") {
+        services.loadVolume = [](const auto&) { return std::nullopt; };
+        services.probeCapabilities = [](const auto&) { return std::nullopt; };
+    } else if (name == "stream") {
+        services.runBenchmark = [](auto&&, auto&&, const benchmark::ProgressListener& tell,
+                                   const std::stop_token& stop) {
+            QPromise<benchmark::BenchmarkResult> result;
+            auto future = result.future();
+            std::thread([tell, stop, result = std::move(result)]() mutable {
+                result.start();
+                stream(tell, stop);
+                result.addResult(benchmark::BenchmarkResult{});
+                result.finish();
+            }).detach();
+            return future;
+        };
+    }
+    return services;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
+    TarnwickKit::views::TarnwickFonts::registerFrom();
+    application.setFont(TarnwickKit::views::TarnwickFonts::applicationFont());
+
+    TarnwickKit::model::AnalyzerModel model(machine(argc > 1 ? argv[1] : ""));
+    model.select(std::filesystem::temp_directory_path());
+
+    QQmlApplicationEngine engine;
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.setInitialProperties({{QStringLiteral("analyzer"), QVariant::fromValue(&model)}});
+    engine.loadData(R"(
+        import QtQuick
+        import TarnwickKit.views
+        Window {
+            property alias analyzer: view.analyzer
+            title: "Ondel Tarnwick"
+            width: 1180; height: 780
+            visible: true
+            TarnwickView { id: view; anchors.fill: parent; analyzer: null }
+        })");
+    return engine.rootObjects().isEmpty() ? EXIT_FAILURE : QApplication::exec();
+}
