@@ -16,8 +16,7 @@ T.Popup {
 
     signal accepted
 
-    parent: T.Overlay.overlay
-    anchors.centerIn: parent
+    anchors.centerIn: T.Overlay.overlay
     width: 400
     modal: true
     focus: true

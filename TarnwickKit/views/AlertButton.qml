@@ -17,7 +17,7 @@ PlainButton {
         text: button.label
         font: Typeface.text(13, Font.DemiBold)
         color: button.prominent && !button.destructive ? PaletteKey.palette.onAccent
-                                                       : button.destructive ? "white" : PaletteKey.palette.text
+                                                       : button.destructive ? PaletteKey.palette.panel : PaletteKey.palette.text
         Accessible.ignored: true
     }
     background: Card {

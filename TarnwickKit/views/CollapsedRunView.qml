@@ -58,6 +58,7 @@ PlainButton {
             Text {
                 Layout.fillWidth: true
                 text: view.facts.stamp
+                horizontalAlignment: Text.AlignLeft
                 font: Typeface.mono(10.5)
                 color: PaletteKey.palette.text3
                 elide: Text.ElideRight
@@ -91,7 +92,7 @@ PlainButton {
         }
     }
 
-    Keys.onMenuPressed: menu.popup(18, view.height / 2)
+    Keys.onPressed: event => menu.openByKey(event)
 
     TapHandler {
         acceptedButtons: Qt.RightButton

@@ -74,6 +74,8 @@ CardFrame {
         facts: pane.facts
     }
 
+    Keys.onPressed: event => menu.openByKey(event)
+
     TapHandler {
         acceptedButtons: Qt.RightButton
         onTapped: point => menu.popup(point.position.x, point.position.y)

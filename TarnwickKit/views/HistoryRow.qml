@@ -78,6 +78,7 @@ PlainButton {
 
                 Layout.fillWidth: true
                 text: fits ? whole.text : row.facts.shortStamp + "\n" + row.facts.connection
+                horizontalAlignment: Text.AlignLeft
                 font: Typeface.mono(10.5)
                 color: row.PaletteKey.palette.text3
                 elide: Text.ElideRight

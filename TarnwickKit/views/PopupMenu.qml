@@ -20,6 +20,14 @@ T.Menu {
 
     delegate: PopupMenuItem {}
 
+    /// The keys that ask for a context menu open it at a row's or a pane's head.
+    function openByKey(event: KeyEvent): void {
+        if (event.key !== Qt.Key_Menu && !(event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier))
+            return;
+        popup(18, 30);
+        event.accepted = true;
+    }
+
     contentItem: ListView {
         implicitWidth: {
             let widest = 0;

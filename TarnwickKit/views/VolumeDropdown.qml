@@ -64,6 +64,7 @@ PlainButton {
                 Layout.fillWidth: true
                 text: dropdown.target.volumeLine || qsTr("No volume selected")
                 textFormat: Text.PlainText
+                horizontalAlignment: Text.AlignLeft
                 font: Typeface.mono(10.5)
                 color: PaletteKey.palette.text3
                 elide: Text.ElideRight

@@ -77,6 +77,7 @@ class Window:
         from gi.repository import Atspi, GLib
         self.atspi = Atspi
         self.gone_error = GLib.Error
+        self.events = GLib.MainContext.default()
         self.process = subprocess.Popen([program, *map(str, arguments)], stderr=subprocess.PIPE, text=True,
                                         env=os.environ | (env or {}))
         self.root = self.until("the window on the accessibility bus", self._application)
@@ -94,6 +95,8 @@ class Window:
         """Asks until the answer is true and returns it."""
         end = time.monotonic() + GUARD_SECONDS
         while time.monotonic() < end:
+            while self.events.pending():
+                self.events.iteration(False)
             try:
                 found = answer()
             except self.gone_error:  # nodes vanish while they are walked
@@ -150,6 +153,31 @@ class Window:
                 node.do_action(actions.index(wanted))
                 return
         raise Failure(f"{name!r} has no press action but {actions}")
+
+    def grab(self, name, role=None):
+        self.find(name, role).grab_focus()
+        self.until(f"the focus on {name!r}", lambda: self.focused() == name)
+
+    def context_menu(self, name):
+        """By its key, which is the only way without a pointer."""
+        self.grab(name)
+        self.keys("Menu")
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--delay", "20", text], check=True)
+
+    def listen(self):
+        """A list that is filled with the names that the window's nodes take on from now on."""
+        heard = []
+
+        def hear(event):
+            try:
+                heard.append(event.source.get_name())
+            except self.gone_error:
+                pass
+        self.listener = self.atspi.EventListener.new(hear)
+        self.listener.register("object:property-change:accessible-name")
+        return heard
 
     def progress(self, title):
         """The percentage that the progress bar of a test tells; None while there is no such bar."""

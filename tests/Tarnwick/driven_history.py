@@ -1,0 +1,99 @@
+#!/usr/bin/python3
+"""A person and the runs that are kept, from one start of the program to the next. Usage: driven_history.py PROGRAM"""
+
+import pathlib
+import sys
+
+import driver
+import saved_runs
+from driven_window import check, choose_small_size, nothing_left, start
+
+SAVED = ["Old drive", "Backup", "media"]
+
+
+def rows(window):
+    """Titles of the history's rows from top to bottom."""
+    return [node.get_name().removeprefix("Delete ") for node, _ in window.nodes()
+            if node.get_description() == "Delete this run" and window.shows(node, "SHOWING")]
+
+
+def quietly(window):
+    ended = window.terminate()
+    check(ended == (0, ""), f"ended with {ended}")
+
+
+def measures_and_names(program, folder):
+    with driver.Window(program, folder) as window:
+        window.until("the saved runs", lambda: rows(window) == SAVED)
+        heard = window.listen()
+        choose_small_size(window)
+        start(window, folder)
+        window.find("Complete", "status bar")
+        for what in ("Running…", "Complete"):
+            window.until(f"{what} told", lambda: what in heard)
+        check(any(" %" in words for words in heard), f"no progress told: {heard}")
+        volume = window.find("Volume").get_description().split(",")[0]
+        window.press(volume, "push button")
+        window.find("Report title", "text")
+        window.keys("ctrl+a")
+        window.type("  First run  \n")
+        window.press("Collapse")
+        window.find("First run", "push button")
+        window.context_menu("First run")
+        window.find("Delete Run", "menu item")
+        window.keys("Escape")
+        window.gone("Delete Run", "menu item")
+        quietly(window)
+
+
+def finds_opens_and_deletes(program):
+    with driver.Window(program) as window:
+        window.until("the run of before", lambda: rows(window) == ["First run", *SAVED])
+        window.grab("First run")
+        window.keys("Return")
+        window.find("Throughput over time", "chart")
+        check(window.until("the focus", window.focused) == "First run", "the focus left the run that was opened")
+        window.context_menu("First run")
+        window.press("Rename Report…")
+        window.find("Report title", "text")
+        window.type("lost")
+        window.keys("Escape")
+        window.gone("Report title", "text")
+        window.press("Collapse")
+        window.until("the row", lambda: rows(window) == ["First run", *SAVED])
+        window.press("Backup")
+        window.context_menu("Backup")
+        window.press("Delete Run", "menu item")
+        window.until("its end", lambda: rows(window) == ["First run", "Old drive", "media"])
+        quietly(window)
+
+
+def compares_and_clears(program):
+    with driver.Window(program) as window:
+        window.press("Compare")
+        window.find("Select runs to compare")
+        check(not window.enabled("Compare 0"), "nothing can be compared")
+        for name, count in (("media", 1), ("Old drive", 2), ("media", 1), ("First run", 2)):
+            window.press(name, "check box")
+            check(window.enabled(f"Compare {count}") == (count > 1), f"{count} picked")
+        check(rows(window) == [], "a run can be deleted while runs are picked")
+        window.press("Cancel")
+        window.press("Clear")
+        window.find("Delete all saved runs?")
+        window.keys("Escape")
+        window.gone("Delete all saved runs?")
+        check(len(rows(window)) == 3, "Escape deleted the runs")
+        window.press("Clear")
+        window.press("Delete All")
+        window.gone("Previous runs")
+        quietly(window)
+
+
+if __name__ == "__main__":
+    driver.enter_display()
+    saved_runs.lay_down([saved_runs.run(0, customTitle="Old drive"), saved_runs.run(1), saved_runs.run(2)])
+    with driver.fast_folder() as name:
+        measures_and_names(sys.argv[1], pathlib.Path(name))
+        nothing_left(pathlib.Path(name))
+        finds_opens_and_deletes(sys.argv[1])
+        compares_and_clears(sys.argv[1])
