@@ -7,6 +7,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QQuickWindow>
 
 namespace TarnwickKit::views {
 
@@ -28,12 +29,16 @@ std::unique_ptr<QQuickItem> newCard(const QString& name, const QVariantMap& prop
                                     const Palette& palette) {
     QQmlComponent component(&engine(),
                             QUrl(QStringLiteral("qrc:/qt/qml/TarnwickKit/views/%1.qml").arg(name)));
+    // Letters from distance fields differ between processes and may have coloured fringes; these do not.
+    const auto windowText = QQuickWindow::textRenderType();
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     std::unique_ptr<QObject> view(component.beginCreate(engine().rootContext()));
     if (view) {
         component.setInitialProperties(view.get(), properties);
         PaletteKey::install(view.get(), palette);
         component.completeCreate();
     }
+    QQuickWindow::setTextRenderType(windowText);
     if (component.isError()) {
         qCritical("%s", qPrintable(component.errorString()));
         return nullptr;

@@ -7,6 +7,9 @@
 
 #include <zlib.h>
 
+#include <algorithm>
+#include <array>
+
 namespace TarnwickKit::views {
 
 namespace {
@@ -36,27 +39,62 @@ QByteArray header(QSize size) {
     return content.append(3, '\0'); // deflate, the five standard filters, not interlaced
 }
 
-QByteArray lines(const QImage& rgba) {
-    constexpr char unfiltered = 0;
-    const qsizetype length = qsizetype{4} * rgba.width();
-    QByteArray raw;
-    raw.reserve((length + 1) * rgba.height());
-    for (int y = 0; y < rgba.height(); ++y)
-        raw.append(unfiltered).append(reinterpret_cast<const char*>(rgba.constScanLine(y)), length);
+/// A deflate stream that ends with the object.
+class Packing {
+public:
+    explicit Packing(qsizetype expectedBytes) {
+        m_isGood = deflateInit(&m_stream, level) == Z_OK;
+        m_packed.reserve(expectedBytes);
+    }
+    ~Packing() { deflateEnd(&m_stream); }
+    Packing(const Packing&) = delete;
+    Packing& operator=(const Packing&) = delete;
 
-    uLongf size = compressBound(static_cast<uLong>(raw.size()));
-    QByteArray packed(static_cast<qsizetype>(size), Qt::Uninitialized);
-    const int result =
-        compress2(reinterpret_cast<Bytef*>(packed.data()), &size,
-                  reinterpret_cast<const Bytef*>(raw.constData()), static_cast<uLong>(raw.size()), level);
-    return result == Z_OK ? packed.first(static_cast<qsizetype>(size)) : QByteArray();
+    void add(const QByteArray& bytes, int flush = Z_NO_FLUSH) {
+        m_stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data())); // it is only read
+        m_stream.avail_in = static_cast<uInt>(bytes.size());
+        do {
+            m_stream.next_out = m_buffer.data();
+            m_stream.avail_out = static_cast<uInt>(m_buffer.size());
+            m_isGood = m_isGood && deflate(&m_stream, flush) != Z_STREAM_ERROR;
+            m_packed.append(reinterpret_cast<const char*>(m_buffer.data()),
+                            static_cast<qsizetype>(m_buffer.size() - m_stream.avail_out));
+        } while (m_isGood && m_stream.avail_out == 0);
+    }
+    QByteArray end() {
+        add({}, Z_FINISH);
+        return m_isGood ? m_packed : QByteArray();
+    }
+
+private:
+    z_stream m_stream{};
+    std::array<Bytef, 65536> m_buffer{};
+    QByteArray m_packed;
+    bool m_isGood;
+};
+
+/// Some lines at a time, so that a picture takes no memory beside itself.
+QByteArray packedLines(const QImage& image) {
+    constexpr int linesAtATime = 32;
+    constexpr char unfiltered = 0;
+    const qsizetype length = qsizetype{4} * image.width();
+    Packing packing(image.sizeInBytes() / 16);
+    for (int top = 0; top < image.height(); top += linesAtATime) {
+        const QImage rgba = image.copy(0, top, image.width(), std::min(linesAtATime, image.height() - top))
+                                .convertToFormat(QImage::Format_RGBA8888);
+        QByteArray raw;
+        raw.reserve((length + 1) * rgba.height());
+        for (int y = 0; y < rgba.height(); ++y)
+            raw.append(unfiltered).append(reinterpret_cast<const char*>(rgba.constScanLine(y)), length);
+        packing.add(raw);
+    }
+    return packing.end();
 }
 
 } // namespace
 
 QByteArray encodedPng(const QImage& image) {
-    const QByteArray packed =
-        image.isNull() ? QByteArray() : lines(image.convertToFormat(QImage::Format_RGBA8888));
+    const QByteArray packed = image.isNull() ? QByteArray() : packedLines(image);
     if (packed.isEmpty())
         return {};
     QByteArray file("\x89PNG\r\n\x1a\n");

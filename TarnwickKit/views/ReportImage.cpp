@@ -1,5 +1,6 @@
 #include "TarnwickKit/views/ReportImage.h"
 
+#include "OndelCore/platform/FreedMemory.h"
 #include "OndelCore/platform/PrivateFolder.h"
 #include "OndelCore/platform/ReplaceFile.h"
 #include "TarnwickKit/views/CardView.h"
@@ -11,6 +12,8 @@
 #include <QQuickItem>
 #include <QTextBoundaryFinder>
 #include <QThreadPool>
+
+#include <utility>
 
 namespace TarnwickKit::views {
 
@@ -43,9 +46,10 @@ std::unique_ptr<QQuickItem> reportCard(const RunRecord& run, const Palette& pale
         palette);
 }
 
-ImageFile written(const QImage& image, const QString& baseName) {
+ImageFile written(QImage image, const QString& baseName) {
     const auto folder = OndelCore::platform::privateTemporaryFolder();
-    const QByteArray png = encodedPng(image);
+    const QByteArray png = encodedPng(std::exchange(image, QImage()));
+    OndelCore::platform::giveBackFreedMemory(); // a picture takes eight megabytes
     if (!folder || png.isEmpty())
         return std::nullopt;
     const fs::path path = *folder / ReportImage::fileName(baseName);
@@ -79,8 +83,8 @@ ImageFile ReportImage::png(QQuickItem& view, const QString& baseName) {
 QFuture<ImageFile> ReportImage::pngLater(QQuickItem& view, const QString& baseName) {
     const auto promise = std::make_shared<QPromise<ImageFile>>();
     promise->start();
-    QThreadPool::globalInstance()->start([image = viewPicture(view, scale), baseName, promise] {
-        promise->addResult(written(image, baseName));
+    QThreadPool::globalInstance()->start([image = viewPicture(view, scale), baseName, promise]() mutable {
+        promise->addResult(written(std::move(image), baseName));
         promise->finish();
     });
     return promise->future();

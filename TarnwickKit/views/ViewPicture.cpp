@@ -73,23 +73,19 @@ private:
     }
 
     QImage openGL() {
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        if (!context.create() || !context.makeCurrent(&surface))
+        m_surface.create();
+        if (!m_context.create() || !m_context.makeCurrent(&m_surface))
             return {};
-        m_window.setGraphicsDevice(QQuickGraphicsDevice::fromOpenGLContext(&context));
-        QImage image;
-        if (m_control.initialize()) {
-            image = renderedTexture(context);
-            m_view.setParentItem(nullptr); // its textures go while their context is current
-            m_control.invalidate();
-        }
-        context.doneCurrent();
+        m_window.setGraphicsDevice(QQuickGraphicsDevice::fromOpenGLContext(&m_context));
+        if (!m_control.initialize())
+            return {};
+        QImage image = renderedTexture();
+        m_view.setParentItem(nullptr); // its textures go while their context is current
+        m_control.invalidate();
         return image;
     }
 
-    QImage renderedTexture(QOpenGLContext& context) {
+    QImage renderedTexture() {
         const QSize pixels = layOut();
         if (pixels.isEmpty())
             return {};
@@ -99,12 +95,15 @@ private:
         m_control.sync();
         m_control.render();
         m_control.endFrame();
-        context.functions()->glFinish();
+        m_context.functions()->glFinish();
         return buffer.toImage();
     }
 
     QQuickItem& m_view;
     double m_scale;
+    // The control's device goes with the control, and needs its context until then.
+    QOffscreenSurface m_surface;
+    QOpenGLContext m_context;
     QQuickRenderControl m_control;
     QQuickWindow m_window{&m_control};
 };

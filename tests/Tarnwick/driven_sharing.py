@@ -76,6 +76,21 @@ def compares_and_shares(program, home, folder):
         check(window.terminate() == (0, ""), "it does not end quietly")
 
 
+def draws_alike_in_both_renderers(program, home, folder):
+    """A window that draws with OpenGL makes its images with it too, again and again, and they look the same."""
+    image = pathlib.Path(os.environ["XDG_RUNTIME_DIR"], "tools.ondel.tarnwick", "Ondel Tarnwick — SD card.png")
+    image.rename(home / "software.png")
+    with driver.Window(program, env={"QSG_RHI_BACKEND": "opengl", "LIBGL_ALWAYS_SOFTWARE": "1"}) as window:
+        window.press("SD card")
+        for _ in range(3):
+            share(window, "Copy Image")
+            window.find("Image copied")
+        compared = subprocess.run(["compare", "-metric", "RMSE", home / "software.png", image, "null:"], capture_output=True, text=True)
+        difference = float(compared.stderr.split("(")[1].rstrip(")"))
+        check(0 < difference < 0.02, f"they differ by {compared.stderr}")
+        check(window.terminate() == (0, ""), "it does not end quietly")
+
+
 def says_what_cannot_be_done(program, home, _folder):
     (home / "bin" / "xdg-open").write_text("#!/bin/sh\nexit 3\n")
     (home / "bin" / "xdg-email").unlink()
@@ -108,6 +123,6 @@ if __name__ == "__main__":
         script.chmod(0o755)
     saved_runs.lay_down([saved_runs.run(i) for i in range(4)])
     with driver.fast_folder() as name:
-        for case in (compares_and_shares, says_what_cannot_be_done):
+        for case in (compares_and_shares, draws_alike_in_both_renderers, says_what_cannot_be_done):
             print(case.__name__.replace("_", " "), flush=True)
             case(sys.argv[1], home, pathlib.Path(name))
