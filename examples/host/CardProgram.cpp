@@ -16,6 +16,7 @@
 #include <system_error>
 
 using OndelCore::platform::FileDescriptor;
+namespace fs = std::filesystem;
 
 namespace examples::host {
 
@@ -24,6 +25,14 @@ namespace {
 void check(int error) {
     if (error != 0)
         throw std::system_error(error, std::generic_category(), "tarnwick-host-card could not be started");
+}
+
+/// Beside this program where it was built, in a folder of its own where it was installed.
+fs::path cardProgram() {
+    std::error_code error;
+    const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
+    const fs::path built = folder / "tarnwick-host-card";
+    return fs::exists(built, error) ? built : folder.parent_path() / "libexec" / "tarnwick-host-card";
 }
 
 /// Signals as a fresh program expects them, standard output into `pipe`. Fails: throws std::system_error.
@@ -69,10 +78,7 @@ std::string readToEnd(const FileDescriptor& pipe) {
 
 /// Fails: throws std::system_error.
 CardAnswer answerTo(const std::vector<std::string>& arguments) {
-    std::error_code error;
-    const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
-    check(error.value());
-    std::vector<std::string> words{self.parent_path() / "tarnwick-host-card"};
+    std::vector<std::string> words{cardProgram()};
     words.insert(words.end(), arguments.begin(), arguments.end());
 
     std::array<int, 2> ends{};
