@@ -15,7 +15,7 @@ T.AbstractButton {
     opacity: pressed ? 0.75 : 1
     activeFocusOnTab: true
     focusPolicy: Qt.TabFocus
-    onClicked: menu.popup(button, 0, button.height + 4)
+    onClicked: menu.popup(button, 0, fitsBelow() ? height + 4 : -menu.implicitHeight - 4)
 
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: qsTr("More")
@@ -24,6 +24,10 @@ T.AbstractButton {
     Keys.onReturnPressed: button.clicked()
     Keys.onEnterPressed: button.clicked()
     Keys.onDownPressed: button.clicked()
+
+    function fitsBelow(): bool {
+        return mapToItem(null, 0, height + 4 + menu.implicitHeight).y + menu.margins <= Window.height;
+    }
 
     contentItem: Symbol {
         name: "ellipsis"
