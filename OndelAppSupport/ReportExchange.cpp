@@ -1,11 +1,12 @@
 #include "OndelAppSupport/ReportExchange.h"
 
+#include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/UnrepeatableBody.h"
+#include "OndelCore/platform/NameLookup.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QNetworkRequest>
 
 #include <cerrno>
 #include <utility>
@@ -22,13 +23,15 @@ QNetworkRequest request(const BugReporter::Service& service, qsizetype bodySize)
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false); // one request has nothing to gain
     request.setSslConfiguration(service.encryption);
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
     request.setHeader(QNetworkRequest::ContentLengthHeader, bodySize);
-    // What is not compressed cannot swell.
-    request.setRawHeader("Accept-Encoding", "identity");
+    request.setHeader(QNetworkRequest::UserAgentHeader, AppIdentity::current().name);
+    request.setRawHeader("Accept-Language", "*");        // the user's is in the diagnostics or nowhere
+    request.setRawHeader("Accept-Encoding", "identity"); // what is not compressed cannot swell
     // A null value would take the header away, an empty one is sent.
     request.setRawHeader("X-Ondel-App-Secret", service.secret.isEmpty() ? "" : service.secret.toUtf8());
     return request;
@@ -47,17 +50,21 @@ bool isTransportError(QNetworkReply::NetworkError error) {
 
 } // namespace
 
-ReportExchange::ReportExchange(QByteArray body, BugReporter::Service service)
+ReportExchange::ReportExchange(QByteArray body, const BugReporter::Service& service, std::stop_token stop)
     : m_body(std::move(body))
-    , m_service(std::move(service)) {}
+    , m_request(request(service, m_body.size()))
+    , m_stop(std::move(stop)) {}
 
 void ReportExchange::begin() {
-    if (m_service.endpoint.scheme() != QLatin1String("https")) {
+    if (m_request.url().scheme() != QLatin1String("https")) {
         end(ReportError(ReportError::Network()));
         return;
     }
+    const QString host = m_request.url().host(QUrl::FullyEncoded);
+    if (!OndelCore::platform::awaitNameLookup(host.toStdString(), m_stop))
+        return;
     auto* network = new QNetworkAccessManager(this);
-    m_reply = network->post(request(m_service, m_body.size()), new UnrepeatableBody(m_body, this));
+    m_reply = network->post(m_request, new UnrepeatableBody(m_body, this));
     m_reply->setReadBufferSize(longestAnswer);
     connect(m_reply, &QNetworkReply::metaDataChanged, this, [this] {
         if (status() == filed) // whatever else it has to say

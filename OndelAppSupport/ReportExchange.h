@@ -4,9 +4,11 @@
 
 #include <QByteArray>
 #include <QNetworkReply>
+#include <QNetworkRequest>
 #include <QObject>
 
 #include <optional>
+#include <stop_token>
 
 namespace OndelAppSupport {
 
@@ -16,7 +18,8 @@ namespace OndelAppSupport {
 class ReportExchange : public QObject {
     Q_OBJECT
 public:
-    ReportExchange(QByteArray body, BugReporter::Service service);
+    /// `stop`: breaks off the search for the service's address, which an event cannot.
+    ReportExchange(QByteArray body, const BugReporter::Service& service, std::stop_token stop);
 
     void begin();
     Q_SIGNAL void ended(const std::optional<OndelAppSupport::ReportError>& error);
@@ -28,7 +31,8 @@ private:
     void end(const std::optional<ReportError>& error = std::nullopt);
 
     const QByteArray m_body;
-    const BugReporter::Service m_service;
+    const QNetworkRequest m_request;
+    const std::stop_token m_stop;
     QNetworkReply* m_reply = nullptr; ///< goes with this object
     QByteArray m_answer;
     bool m_ended = false;

@@ -22,14 +22,14 @@ ReportSubmission::ReportSubmission(const QByteArray& body, const BugReporter::Se
     , m_thread(new QThread) {
     m_promise.start();
     m_watcher.setFuture(m_promise.future());
-    auto* exchange = new ReportExchange(body, service);
+    auto* exchange = new ReportExchange(body, service, m_stop.get_token());
     exchange->moveToThread(m_thread);
     connect(m_thread, &QThread::started, exchange, &ReportExchange::begin);
     connect(m_thread, &QThread::finished, exchange, &QObject::deleteLater);
 
     connect(exchange, &ReportExchange::ended, this, [this](const std::optional<ReportError>& error) {
         m_error = error;
-        m_thread->quit();
+        endThread();
     });
     connect(m_thread, &QThread::finished, this, [this] {
         settle(m_error);
@@ -42,9 +42,14 @@ ReportSubmission::ReportSubmission(const QByteArray& body, const BugReporter::Se
 }
 
 ReportSubmission::~ReportSubmission() {
-    m_thread->quit();
+    endThread();
     if (m_thread->wait(QDeadlineTimer(std::chrono::seconds(1))))
         delete m_thread;
+}
+
+void ReportSubmission::endThread() {
+    m_stop.request_stop();
+    m_thread->quit();
 }
 
 void ReportSubmission::settle(const std::optional<ReportError>& error) {
@@ -53,7 +58,7 @@ void ReportSubmission::settle(const std::optional<ReportError>& error) {
     if (error)
         m_promise.setException(std::make_exception_ptr(*error));
     m_promise.finish();
-    m_thread->quit();
+    endThread();
 }
 
 } // namespace OndelAppSupport
