@@ -37,7 +37,8 @@ struct UpdaterEnvironment {
     QStringList platforms;
     /// What a feed's least system version is compared with.
     QString systemVersion;
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    /// Absent: the system's, which is only read when it is needed and costs a start 9 ms.
+    std::optional<QSslConfiguration> tls;
     /// How long a server may say nothing.
     std::chrono::milliseconds patience = std::chrono::seconds(30);
 

@@ -22,7 +22,8 @@ constexpr int ok = 200;
 
 QNetworkRequest request(const QUrl& url, const Connection& connection) {
     QNetworkRequest request(url);
-    request.setSslConfiguration(connection.tls);
+    if (connection.tls)
+        request.setSslConfiguration(*connection.tls);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
     request.setMaximumRedirectsAllowed(mostRedirects);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);

@@ -8,13 +8,14 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 #include <stop_token>
 
 namespace OndelAppSupport::updates {
 
 /// How servers are spoken to.
 struct Connection {
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    std::optional<QSslConfiguration> tls;                          ///< absent: the system's
     std::chrono::milliseconds patience = std::chrono::seconds(30); ///< how long a server may say nothing
     QByteArray userAgent = "Ondel";
 };
