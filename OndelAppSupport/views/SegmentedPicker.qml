@@ -52,7 +52,7 @@ FocusScope {
                 focusPolicy: checked ? Qt.StrongFocus : Qt.NoFocus
                 Accessible.name: text
                 Accessible.onPressAction: picker.choose(index)
-                onClicked: picker.choose(index)
+                onCheckedChanged: if (checked) picker.choose(index)
 
                 contentItem: Text {
                     id: words
@@ -82,11 +82,10 @@ FocusScope {
 
     function step(by: int): void {
         choose(Math.max(0, Math.min(options.length - 1, current + by)));
+        segments.itemAt(current).forceActiveFocus(Qt.TabFocusReason);
     }
     function choose(index: int): void {
-        if (index === current)
-            return;
-        chosen(index);
-        segments.itemAt(index).forceActiveFocus(Qt.TabFocusReason);
+        if (index !== current)
+            chosen(index);
     }
 }
