@@ -2,6 +2,7 @@
 
 #include "TarnwickKit/model/Comparison.h"
 #include "TarnwickKit/model/Format.h"
+#include "TarnwickKit/views/RunFacts.h"
 
 namespace TarnwickKit::views {
 
@@ -10,9 +11,10 @@ namespace ComparisonChart = model::ComparisonChart;
 QVariantList ComparedRuns::entries() const {
     QVariantList all;
     for (const model::RunRecord& run : runs)
-        all << QVariant::fromValue(ComparedRun{.legend = run.screenshotTitle() + QStringLiteral(" · ") +
-                                                         model::Format::shortStamp(run.date),
-                                               .parameters = ComparisonChart::parameterSummary(run)});
+        all << QVariant::fromValue(
+            ComparedRun{.legend = legible(run.screenshotTitle()) + QStringLiteral(" · ") +
+                                  model::Format::shortStamp(run.date),
+                        .parameters = legible(ComparisonChart::parameterSummary(run))});
     return all;
 }
 
@@ -22,11 +24,12 @@ QVariantList ComparedRuns::metrics(double trackWidth) const {
         ComparedMetric group{.label = metric.label, .unit = metric.unit, .bars = {}};
         const auto bars = ComparisonChart::bars(metric, runs, trackWidth);
         for (std::size_t i = 0; i < bars.size(); ++i)
-            group.bars << QVariant::fromValue(ComparedBar{
-                .length = bars[i].length.value_or(0),
-                .text = bars[i].text,
-                .sentence = QStringLiteral("%1, %2: %3 %4")
-                                .arg(metric.label, runs[i].screenshotTitle(), bars[i].text, metric.unit)});
+            group.bars << QVariant::fromValue(
+                ComparedBar{.length = bars[i].length.value_or(0),
+                            .text = bars[i].text,
+                            .sentence = QStringLiteral("%1, %2: %3 %4")
+                                            .arg(metric.label, legible(runs[i].screenshotTitle()),
+                                                 bars[i].text, metric.unit)});
         all << QVariant::fromValue(group);
     }
     return all;

@@ -42,6 +42,7 @@ ImageCard {
                     wrapMode: Text.Wrap
                     maximumLineCount: 4
                     elide: Text.ElideRight
+                    horizontalAlignment: Text.AlignLeft // in every script
                     font: Typeface.display(16)
                     color: PaletteKey.palette.text
                 }

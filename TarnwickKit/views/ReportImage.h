@@ -35,8 +35,9 @@ QFuture<ImageFile> renderLater(const model::RunRecord& run, const Palette& palet
 ImageFile png(QQuickItem& view, const QString& baseName);
 QFuture<ImageFile> pngLater(QQuickItem& view, const QString& baseName);
 
-/// The file's name for a title: without what would lead to another folder, hide the file or break a line, and
-/// no longer than file systems take. It is cut between characters as people count them.
+/// The file's name for a title: without what would lead to another folder, hide the file, break a line or
+/// turn the direction, and no longer than file systems take. It is cut between characters as people count
+/// them.
 std::string fileName(const QString& baseName);
 
 } // namespace ReportImage

@@ -9,6 +9,11 @@ namespace TarnwickKit::views {
 using model::RunRecord;
 namespace Format = model::Format;
 
+QString legible(const QString& text) {
+    constexpr qsizetype most = 300;
+    return text.left(most);
+}
+
 namespace {
 
 constexpr std::int64_t usualRandomBlock = 4096;
@@ -60,10 +65,11 @@ void addBlocks(ItemList& items, const RunRecord& run) {
 
 QVariantList capturedFacts(const RunRecord& run) {
     ItemList items;
-    items.add(Runs::tr("File system"), words(run.fsType, [](const QString& type) { return type.toUpper(); }));
+    items.add(Runs::tr("File system"),
+              words(run.fsType, [](const QString& type) { return legible(type).toUpper(); }));
     items.add(Runs::tr("Capacity"), words(run.capacityBytes, Format::bytes));
     items.add(Runs::tr("Free"), words(run.freeBytes, Format::bytes));
-    items.add(Runs::tr("Size"), run.sizeLabel);
+    items.add(Runs::tr("Size"), words(run.sizeLabel, legible));
     addBlocks(items, run);
     items.add(Runs::tr("Cache"), words(run.bypassCache, [](bool bypassed) {
                   return bypassed ? Runs::tr("Bypassed") : Runs::tr("Cached");
@@ -91,14 +97,14 @@ RunFacts RunFacts::of(const RunRecord& run) {
     const auto kind = isNetwork ? RunRecord::Kind::network : run.kind;
     const auto orNone = [](const std::optional<double>& rate) { return rate.value_or(qQNaN()); };
     return RunFacts{.id = run.id,
-                    .title = run.customTitle.value_or(run.volumeName),
-                    .screenshotTitle = run.screenshotTitle(),
-                    .screenshotSubtitle = run.screenshotSubtitle(),
+                    .title = legible(run.customTitle.value_or(run.volumeName)),
+                    .screenshotTitle = legible(run.screenshotTitle()),
+                    .screenshotSubtitle = legible(run.screenshotSubtitle()),
                     .badgeSymbol = symbolOf(kind),
                     .customTitle = run.customTitle.value_or(QString()),
                     .stamp = Format::runStamp(run.date, run.duration),
                     .shortStamp = Format::shortStamp(run.date),
-                    .connection = isNetwork ? Runs::tr("Network") : run.connection,
+                    .connection = isNetwork ? Runs::tr("Network") : legible(run.connection),
                     .isNetwork = isNetwork,
                     .kind = static_cast<int>(kind),
                     .writeBps = orNone(run.writeBps),

@@ -88,7 +88,7 @@ TEST(ReportImage, FileNamesAreSafe) {
     const std::pair<QString, std::string> cases[] = {
         {QStringLiteral("a/b//c"), "a-b--c.png"},
         {QStringLiteral("../x"), "-.-x.png"},
-        {QStringLiteral("a\u0001\nb\u2028c\u0085") + QChar(0), "a--b-c--.png"},
+        {QStringLiteral("a\u0001\nb\u2028c\u0085\u202E\u2066") + QChar(0) + QChar(0xd), "a--b-c-----.png"},
         {QString(), "-.png"},
         {QString(300, u'x'), std::string(251, 'x') + ".png"},
         {QString(249, u'x') + QStringLiteral("é!"), std::string(249, 'x') + "é.png"},
