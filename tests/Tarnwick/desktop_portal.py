@@ -1,49 +1,94 @@
-"""A desktop's settings service with one setting: dark (1) or light (2). Lines on standard input change it.
-Usage: desktop_portal.py NUMBER"""
+"""What a desktop offers programs: its dark (1) or light (2) setting, keeping the machine awake, and notices.
+Usage: desktop_portal.py NUMBER. Lines on standard input: a number changes the setting, "press" presses the last notice.
+Lines on standard output: "ready", "awake FLAGS REASON", "asleep", "notice TITLE: TEXT", "withdrawn"."""
 
 import sys
 
-import gi
 from gi.repository import Gio, GLib
 
 NAMESPACE, KEY = "org.freedesktop.appearance", "color-scheme"
-INTERFACE = """<node><interface name="org.freedesktop.portal.Settings">
-  <method name="Read"><arg name="namespace" type="s" direction="in"/><arg name="key" type="s" direction="in"/>
-    <arg name="value" type="v" direction="out"/></method>
-  <signal name="SettingChanged"><arg name="namespace" type="s"/><arg name="key" type="s"/>
-    <arg name="value" type="v"/></signal>
-</interface></node>"""
 PATH = "/org/freedesktop/portal/desktop"
+NOTICES = "org.freedesktop.Notifications"
+INTERFACES = Gio.DBusNodeInfo.new_for_xml("""<node>
+<interface name="org.freedesktop.portal.Settings">
+  <method name="Read"><arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="v" direction="out"/></method>
+  <signal name="SettingChanged"><arg type="s"/><arg type="s"/><arg type="v"/></signal>
+</interface>
+<interface name="org.freedesktop.portal.Inhibit">
+  <method name="Inhibit"><arg type="s" direction="in"/><arg type="u" direction="in"/><arg type="a{sv}" direction="in"/>
+    <arg type="o" direction="out"/></method>
+</interface>
+<interface name="org.freedesktop.portal.Request"><method name="Close"/></interface>
+<interface name="org.freedesktop.Notifications">
+  <method name="Notify"><arg type="s" direction="in"/><arg type="u" direction="in"/><arg type="s" direction="in"/>
+    <arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="as" direction="in"/>
+    <arg type="a{sv}" direction="in"/><arg type="i" direction="in"/><arg type="u" direction="out"/></method>
+  <method name="CloseNotification"><arg type="u" direction="in"/></method>
+  <signal name="ActionInvoked"><arg type="u"/><arg type="s"/></signal>
+</interface></node>""")
 
 
-class Settings:
+def tell(*words):
+    print(*words, flush=True)
+
+
+class Desktop:
     def __init__(self, scheme):
         self.scheme = scheme
+        self.notices = 0
+        self.requests = {}
         self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
-        interface = Gio.DBusNodeInfo.new_for_xml(INTERFACE).interfaces[0]
-        self.bus.register_object(PATH, interface, self.read, None, None)
-        Gio.bus_own_name_on_connection(self.bus, "org.freedesktop.portal.Desktop", Gio.BusNameOwnerFlags.NONE,
-                                       lambda *_: print("ready", flush=True), None)
+        for name in ("Settings", "Inhibit"):
+            self.serve(PATH, f"org.freedesktop.portal.{name}")
+        self.serve("/org/freedesktop/Notifications", NOTICES)
+        own = Gio.bus_own_name_on_connection
+        own(self.bus, NOTICES, Gio.BusNameOwnerFlags.NONE, None, None)
+        own(self.bus, "org.freedesktop.portal.Desktop", Gio.BusNameOwnerFlags.NONE, lambda *_: tell("ready"), None)
 
-    def read(self, _bus, _sender, _path, _interface, _method, arguments, invocation):
-        if tuple(arguments) != (NAMESPACE, KEY):
-            invocation.return_dbus_error("org.freedesktop.portal.Error.NotFound", "no such setting")
-            return
-        answer = GLib.Variant("v", GLib.Variant("u", self.scheme))
-        invocation.return_value(GLib.Variant.new_tuple(GLib.Variant("v", answer)))
+    def serve(self, path, interface):
+        return self.bus.register_object(path, INTERFACES.lookup_interface(interface), self.called, None, None)
 
-    def change(self, source, _condition):
-        line = source.readline()
+    def called(self, _bus, sender, path, _interface, method, arguments, invocation):
+        answer = getattr(self, method)(sender, path, *arguments.unpack())
+        invocation.return_value(answer and GLib.Variant.new_tuple(answer))
+
+    def Read(self, _sender, _path, *what):
+        value = GLib.Variant("u", self.scheme if what == (NAMESPACE, KEY) else 0)
+        return GLib.Variant("v", GLib.Variant("v", value))
+
+    def Inhibit(self, sender, _path, _window, flags, options):
+        request = f"{PATH}/request/{sender[1:].replace('.', '_')}/{options['handle_token']}"
+        self.requests[request] = self.serve(request, "org.freedesktop.portal.Request")
+        tell("awake", flags, options["reason"])
+        return GLib.Variant("o", request)
+
+    def Close(self, _sender, path):
+        self.bus.unregister_object(self.requests.pop(path))
+        tell("asleep")
+
+    def Notify(self, _sender, _path, _name, _replaced, _icon, title, text, *_):
+        self.notices += 1
+        tell("notice", f"{title}: {text}")
+        return GLib.Variant("u", self.notices)
+
+    def CloseNotification(self, _sender, _path, _notice):
+        tell("withdrawn")
+
+    def command(self, source, _condition):
+        line = source.readline().strip()
         if not line:
             loop.quit()
-            return False
-        self.scheme = int(line)
-        self.bus.emit_signal(None, PATH, "org.freedesktop.portal.Settings", "SettingChanged",
-                             GLib.Variant("(ssv)", (NAMESPACE, KEY, GLib.Variant("u", self.scheme))))
-        return True
+        elif line == "press":
+            self.bus.emit_signal(None, "/org/freedesktop/Notifications", NOTICES, "ActionInvoked",
+                                 GLib.Variant("(us)", (self.notices, "default")))
+        else:
+            self.scheme = int(line)
+            self.bus.emit_signal(None, PATH, "org.freedesktop.portal.Settings", "SettingChanged",
+                                 GLib.Variant("(ssv)", (NAMESPACE, KEY, GLib.Variant("u", self.scheme))))
+        return bool(line)
 
 
 loop = GLib.MainLoop()
-settings = Settings(int(sys.argv[1]))
-GLib.io_add_watch(sys.stdin, GLib.IO_IN | GLib.IO_HUP, settings.change)
+desktop = Desktop(int(sys.argv[1]))
+GLib.io_add_watch(sys.stdin, GLib.IO_IN | GLib.IO_HUP, desktop.command)
 loop.run()

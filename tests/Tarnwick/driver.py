@@ -187,7 +187,7 @@ class Window:
                 return int(told.group(1)) if told else None
         return None
 
-    def id(self, title="Ondel Tarnwick"):
+    def id(self, title="^Ondel Tarnwick$"):
         return self.until(f"the window {title!r}", lambda: windows(title))[0]
 
     def keys(self, *keys):

@@ -1,0 +1,251 @@
+#!/usr/bin/python3
+"""What the desktop and people ask of the application, from outside. Usage: driven_requests.py PROGRAM DRAG-SOURCE [CASE]..."""
+
+import contextlib
+import json
+import os
+import pathlib
+import select
+import signal
+import subprocess
+import sys
+import time
+
+import driver
+import saved_runs
+from driven_window import check, choose_small_size, nothing_left, start, TESTS
+
+NAME, OBJECT = "tools.ondel.tarnwick", "/tools/ondel/tarnwick"
+TITLE = "^Ondel Tarnwick$"
+
+
+def run_file(folder, index, name=None):
+    path = folder / (name or f"{index}.tarnwickrun")
+    path.write_text(json.dumps(saved_runs.run(index, customTitle=f"Run {index}")))
+    return path
+
+
+def shows_run(window, index):
+    window.until(f"run {index}", lambda: any(f"Run {index}" in node.get_name() for node, _ in window.nodes()))
+
+
+@contextlib.contextmanager
+def child(*command, **pipes):
+    with subprocess.Popen([str(word) for word in command], bufsize=0, **pipes) as process:
+        try:
+            yield process
+        finally:
+            process.kill()
+
+
+def call(method, *arguments):
+    """Calls the application over the bus, as a desktop does."""
+    done = subprocess.run(["gdbus", "call", "--session", "--dest", NAME, "--object-path", OBJECT, "--timeout", "20", "--method",
+                           f"org.freedesktop.Application.{method}", *arguments, "{'activation-token': <'leave'>}"],
+                          capture_output=True, text=True)
+    return done.returncode == 0
+
+
+def opens(*urls):
+    return call("Open", json.dumps([str(url) for url in urls]))
+
+
+def two_starts_give_one_window(program, folder):
+    for _ in range(3):
+        both = [subprocess.Popen([program, folder]) for _ in range(2)]
+        while all(start.poll() is None for start in both) or not driver.windows(TITLE):
+            time.sleep(0.02)
+        ended, stays = sorted(both, key=lambda start: start.poll() is None)
+        check(ended.returncode == 0 and len(driver.windows(TITLE)) == 1, "two starts, and not one window")
+        check(subprocess.run([program]).returncode == 0 and call("Activate"), "a third start does not find the first")
+        stays.terminate()
+        check(stays.wait(driver.GUARD_SECONDS) == 0, "the one that stayed does not end quietly")
+
+
+def starts_beside_one_that_hangs(program, folder):
+    with driver.Window(program) as first:
+        first.process.send_signal(signal.SIGSTOP)
+        with driver.Window(program, folder) as second:
+            second.find("Ready to benchmark")
+            first.process.send_signal(signal.SIGCONT)
+            check(second.terminate() == (0, ""), "the second does not end quietly")
+        check(first.terminate() == (0, ""), "the first does not end quietly")
+    alone = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
+    done = subprocess.Popen([program, folder], env=os.environ | alone)
+    while not driver.windows(TITLE):
+        time.sleep(0.02)
+    done.terminate()
+    check(done.wait(driver.GUARD_SECONDS) == 0, "without a bus it does not end quietly")
+
+
+def opens_what_it_is_given(program, folder):
+    odd = folder / os.fsdecode("odd # 100% ü \udcff".encode("utf-8", "surrogateescape"))
+    odd.mkdir()
+    url = f"file://{os.fspath(folder)}".replace(" ", "%20")
+    for index in range(6):
+        run_file(folder, index)
+    run_file(folder, 7, "7.TARNWICKRUN")
+    (folder / "broken.tarnwickrun").write_text("{}")
+    with driver.Window(program, odd, folder / "0.tarnwickrun", folder) as window:
+        shows_run(window, 0)
+        check(window.enabled("Run Benchmark"), "the folder of the start is not the target")
+        check(subprocess.run([program, "1.tarnwickrun"], cwd=folder).returncode == 0, "a second start does not hand over")
+        shows_run(window, 1)
+
+        garbage = [url + "/7.TARNWICKRUN", url + "/missing/", "file://elsewhere/tmp", "http://x/y.tarnwickrun", "file://", "%", "",
+                   url + "/2.tarnwickrun%00", "x" * 100000, url + "/missing.tarnwickrun", url + "/broken.tarnwickrun"]
+        check(opens(*garbage), "garbage is not taken")
+        shows_run(window, 1)
+        check(opens(*garbage, f"file://localhost{folder}/2.tarnwickrun".replace(" ", "%20")), "a run among garbage is not taken")
+        shows_run(window, 2)
+        check(call("ActivateAction", "choose-folder", "[]") and not call("ActivateAction", "nonsense", "[]"), "actions")
+        driver.focus("Choose a folder")
+        subprocess.run(["xdotool", "key", "Escape"], check=True)
+
+        choose_small_size(window)
+        (work := folder / "work").mkdir()
+        check(opens(f"{url}/work"), "a folder is not taken")
+        start(window, work)
+        check(opens(f"{url}/", f"{url}/3.tarnwickrun"), "nothing is taken during a run")
+        window.press("Stop")
+        window.find("Ready", "status bar")
+        start(window, work)  # still the target
+        window.press("Stop")
+        window.find("Ready", "status bar")
+        shows_run(window, 3)
+        nothing_left(work)
+        check(window.terminate() == (0, ""), "it does not end quietly")
+
+
+def takes_what_is_dropped(program, folder, source):
+    def drop(after, *urls):
+        with child(source, *urls, stdout=subprocess.PIPE) as drag:
+            while drag.stdout.readline() != b"ready\n":
+                pass
+            subprocess.run(["xdotool", "mousemove", "1250", "50", "mousedown", "1", "mousemove", "1240", "60"], check=True)
+            x = 1200  # a drag begins with a movement, and its target is asked at each
+            while not select.select([drag.stdout], [], [], 0.05)[0] or drag.stdout.readline() != b"accepted\n":
+                x = x - 20 if x > 600 else 1200
+                subprocess.run(["xdotool", "mousemove", str(x), "400"], check=True)
+            subprocess.run(["xdotool", "mouseup", "1"], check=True)
+            while drag.stdout.readline() != b"taken\n":
+                pass
+            after()
+
+    with driver.Window(program) as window:
+        window.find("Choose a volume to begin")
+        drop(lambda: window.find("Choose a volume to begin"), "http://example.org/", "file:///etc/hostname", "file:///nowhere/", "mailto:x")
+        drop(lambda: shows_run(window, 4), folder.as_uri(), run_file(folder, 4).as_uri())
+        check(window.enabled("Run Benchmark"), "the dropped folder is not the target")
+
+
+def goes_by_menu(program, folder):
+    with driver.Window(program, folder) as window:
+        window.find("Ready to benchmark")
+        window.keys("F10", "Right", "Right", "Right", "Down", "Down", "Return")
+        window.find("Report a Problem", "heading")
+        window.keys("Escape")
+        window.gone("Report a Problem", "heading")
+
+        window.keys("alt")
+        window.find("About Ondel Tarnwick", "menu item")
+        check(not window.enabled("Check for Updates…", "menu item"), "updates in a build without a feed")
+        window.keys("Down", "Return")
+        driver.focus("About Ondel Tarnwick")
+        subprocess.run(["xdotool", "key", "Escape"], check=True)
+
+        window.keys("ctrl+comma")
+        driver.focus("Settings")
+        for name in ("Check for updates automatically", "Check Now"):
+            check(not window.enabled(name), f"{name} in a build without a feed")
+        window.find("Not Now")
+        window.press("I’ve already supported Tarnwick")
+        window.gone("Not Now")
+        subprocess.run(["xdotool", "key", "ctrl+w"], check=True)
+        window.until("the end of the settings", lambda: not driver.windows("^Settings$"))
+
+        window.keys("ctrl+shift+o")
+        driver.focus("Open")
+        subprocess.run(["xdotool", "type", f"{run_file(folder, 5)}"], check=True)
+        subprocess.run(["xdotool", "key", "Return"], check=True)
+        shows_run(window, 5)
+        window.press("Help", "menu item")
+        window.press("Report a Problem…", "menu item")
+        window.find("Report a Problem", "heading")
+        window.keys("ctrl+q")
+        check(window.end() == (0, ""), "it does not quit from a sheet")
+
+
+def tells_the_desktop_of_runs(program, folder, source):
+    with child("/usr/bin/python3", pathlib.Path(__file__).with_name("desktop_portal.py"), 2, stdin=subprocess.PIPE,
+               stdout=subprocess.PIPE) as desktop, child(source):
+        def told(*lines):
+            for line in lines:
+                heard = select.select([desktop.stdout], [], [], driver.GUARD_SECONDS)[0] and desktop.stdout.readline().decode().strip()
+                check(heard and heard.startswith(line), f"the desktop heard {heard!r}, not {line!r}")
+
+        told("ready")
+        with driver.Window(program, folder) as window:
+            driver.focus("Drag from here")
+            choose_small_size(window)
+            for test in TESTS[1:]:
+                window.press(test)
+            start(window, folder)
+            told("awake 12 A benchmark is running")
+            window.press("Stop")
+            told("asleep")
+            start(window, folder)
+            told("awake")
+            window.find("Complete", "status bar")
+            told("asleep", "notice Benchmark complete: ")
+            desktop.stdin.write(b"press\n")
+            driver.focus(TITLE)  # without a window manager the program may not take it
+            told("withdrawn")
+            start(window, folder)
+            told("awake")
+            check(window.terminate() == (0, ""), "it does not end quietly")
+            told("asleep")
+
+
+def ends_in_every_phase(program, folder):
+    def reached(window, phase):
+        data = [file.stat().st_size for file in folder.glob(".ondel-analyzer-*/data.bin")]
+        if phase.startswith("Random"):
+            return data == [2**30]
+        if phase == "File operations":
+            return any(folder.glob(".ondel-analyzer-*/*/*"))
+        return phase == "preparation" or window.progress(phase) is not None
+
+    def wait_for(window, phase):
+        """Without a pause, for some phases are short; one that is over before it is seen ends the waiting as well."""
+        window.until("the working folder", lambda: any(folder.glob(".ondel-analyzer-*")))
+        with contextlib.suppress(FileNotFoundError):
+            while any(folder.glob(".ondel-analyzer-*")) and not reached(window, phase):
+                pass
+
+    for phase in ("preparation", *TESTS, "clean-up"):
+        with driver.Window(program, folder) as window:
+            choose_small_size(window)
+            for test in TESTS:
+                if phase in TESTS and test != phase or phase == "preparation" and test != TESTS[1]:
+                    window.press(test)
+            window.press("Run Benchmark")
+            wait_for(window, TESTS[0] if phase == "clean-up" else phase)
+            if phase == "clean-up":
+                window.press("Stop")
+            began = time.monotonic()
+            check(window.terminate() == (0, ""), f"it does not end quietly in {phase}")
+            print(f"  {phase}: ended after {time.monotonic() - began:.3f} s", flush=True)
+        nothing_left(folder)
+
+
+if __name__ == "__main__":
+    driver.enter_display()
+    program, source, *only = sys.argv[1:]
+    for case in (two_starts_give_one_window, starts_beside_one_that_hangs, opens_what_it_is_given, goes_by_menu,
+                 tells_the_desktop_of_runs, ends_in_every_phase, takes_what_is_dropped):
+        if only and case.__name__ not in only:
+            continue
+        print(case.__name__.replace("_", " "), flush=True)
+        with driver.fast_folder() as name:
+            case(program, pathlib.Path(name), *([source] if "source" in case.__code__.co_varnames else []))
