@@ -20,6 +20,15 @@ Rectangle {
 
         analyzer: main.analyzer
     }
+    Connections {
+        target: main.analyzer
+
+        // What was just asked for far down in the history stands above it.
+        function onComparisonChanged(): void {
+            if (main.analyzer.isComparing && main.analyzer.compareMode)
+                pane.contentY = 0;
+        }
+    }
     ScrollPane {
         id: pane
 
