@@ -10,7 +10,7 @@
 
 namespace TarnwickKit::model {
 
-/// A finished run as a host application sees it. The image of a report is the views' part.
+/// A finished run as a host application sees it. Its image is the views' part: reportImage.
 /// Units: as RunRecord, but for the curves: x in seconds, y in megabytes per second, ready for a chart.
 /// Threads: any.
 struct TarnwickReport {
