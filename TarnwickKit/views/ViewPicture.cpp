@@ -11,11 +11,13 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 
-#include <memory>
+#include <algorithm>
 
 namespace TarnwickKit::views {
 
 namespace {
+
+constexpr int longestSide = 32767; // as far as the toolkit's painter counts
 
 /// A window that exists nowhere, around one view. The two ways of drawing it differ in when the renderer gets
 /// its device, so that a window is good for one picture.
@@ -44,13 +46,15 @@ public:
     }
 
 private:
-    /// Lets the view take its height and gives the window the same size. Answers that in device pixels.
+    /// Lets the view take its height and gives the window the same size. Answers that in device pixels; empty
+    /// for more than can be drawn.
     QSize layOut() {
         m_control.polishItems();
         const QSizeF size = m_view.size();
         m_window.setGeometry(QRect(QPoint(), size.toSize()));
         m_window.contentItem()->setSize(size);
-        return (size * m_scale).toSize();
+        const QSize pixels = (size * m_scale).toSize();
+        return std::max(pixels.width(), pixels.height()) <= longestSide ? pixels : QSize();
     }
 
     void drawOn(QQuickRenderTarget target) {

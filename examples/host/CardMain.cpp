@@ -40,7 +40,7 @@ int draw(const CommandLine& line) {
             ? views::reportImage({runs.front()}, isDark)
             : views::ComparisonImage::render(runs, isDark ? views::Palette::dark() : views::Palette::light());
     if (!file) {
-        complain("The picture could not be written to your temporary folder.");
+        complain("The picture could not be drawn, or not be written to your temporary folder.");
         return failed;
     }
     print(file->string() + '\n');

@@ -61,7 +61,8 @@ TEST(Card, IsDrawnAfterTheRunAndFromItsFile) {
     fs::create_directories(picture / "in the way");
     const auto refused = runHost({"card", file});
     EXPECT_EQ(std::tuple(refused.exitStatus, refused.output), std::tuple(1, ""));
-    EXPECT_EQ(refused.errors, "The picture could not be written to your temporary folder.\n");
+    EXPECT_EQ(refused.errors,
+              "The picture could not be drawn, or not be written to your temporary folder.\n");
     fs::remove_all(shared);
 }
 
