@@ -13,8 +13,18 @@
 
 using OndelCore::platform::OpenRequest;
 using OndelCore::platform::OpenRequests;
+using TarnwickKit::model::AnalyzerModel;
 
 namespace {
+
+/// The toolkit ends the process where it stands when the display goes away. Nothing is to be left on the disk
+/// then either.
+AnalyzerModel* modelAtExit = nullptr;
+
+void abandonRunAtExit() {
+    if (modelAtExit)
+        modelAtExit->abandonRun();
+}
 
 /// Time for the process that was here first to come to its event loop, on a machine that is busy starting
 /// both.
@@ -53,8 +63,12 @@ void TarnwickApp::prepare() {
 
 TarnwickApp::TarnwickApp(OpenRequests& requests)
     : m_requests(requests) {
+    modelAtExit = m_delegate.model();
+    std::atexit(abandonRunAtExit);
     QObject::connect(&m_delegate, &AppDelegate::terminating, &m_delegate, [this] { m_requests.close(); });
 }
+
+TarnwickApp::~TarnwickApp() { modelAtExit = nullptr; }
 
 bool TarnwickApp::declareScenes() {
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));

@@ -13,6 +13,9 @@ public:
 
     /// Owner: `requests` outlives this.
     explicit TarnwickApp(OndelCore::platform::OpenRequests& requests);
+    ~TarnwickApp();
+    TarnwickApp(const TarnwickApp&) = delete;
+    TarnwickApp& operator=(const TarnwickApp&) = delete;
 
     /// Loads the window. Fails: false, after the toolkit has said why.
     bool declareScenes();

@@ -230,6 +230,10 @@ public:
     /// Cancels; the future finishes on this thread once the run has ended, at once if none goes on.
     QFuture<void> cancelAndWait();
 
+    /// Cancels, and blocks until the engine has cleaned up: for a process that ends without its event loop.
+    /// Nobody is told of the run's end.
+    void abandonRun();
+
     /// Takes one progress event.
     void apply(const OndelCore::benchmark::BenchmarkProgress& progress);
 

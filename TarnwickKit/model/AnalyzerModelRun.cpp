@@ -44,9 +44,12 @@ AnalyzerModel::Run::Run(AnalyzerModel& model, BenchmarkPlan runPlan, std::filesy
     ended.start();
 }
 
-AnalyzerModel::~AnalyzerModel() {
+AnalyzerModel::~AnalyzerModel() { abandonRun(); }
+
+void AnalyzerModel::abandonRun() {
     if (!m_run || m_run->hasEnded)
         return;
+    m_run->hasEnded = true;
     m_run->stream.cancel();
     m_run->stop.request_stop();
     try {

@@ -93,14 +93,15 @@ std::pair<QColor, QColor> Palette::badgeColors(model::RunRecord::Kind kind) cons
     std::abort();
 }
 
+// Never destroyed: in a process that ends in the middle of things the views are still there.
 const Palette& Palette::light() {
-    static const Palette palette(Tone::Light);
-    return palette;
+    static const Palette* const palette = new Palette(Tone::Light);
+    return *palette;
 }
 
 const Palette& Palette::dark() {
-    static const Palette palette(Tone::Dark);
-    return palette;
+    static const Palette* const palette = new Palette(Tone::Dark);
+    return *palette;
 }
 
 } // namespace TarnwickKit::views

@@ -117,6 +117,18 @@ def opens_what_it_is_given(program, folder):
         check(window.terminate() == (0, ""), "it does not end quietly")
 
 
+def leaves_nothing_without_a_display(program, folder):
+    """A display that goes away takes the process with it, as at the end of a desktop's day."""
+    with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1400x1000x24", "-nolisten", "tcp"], stdout=subprocess.PIPE,
+                          stderr=subprocess.DEVNULL, text=True) as server:
+        env = {"DISPLAY": ":" + server.stdout.readline().strip()}
+        with driver.Window(program, folder, env=env) as window:
+            start(window, folder)
+            server.kill()
+            window.process.wait(driver.GUARD_SECONDS)
+    nothing_left(folder)
+
+
 def takes_what_is_dropped(program, folder, source):
     def drop(after, *urls):
         with child(source, *urls, stdout=subprocess.PIPE) as drag:
@@ -243,7 +255,7 @@ if __name__ == "__main__":
     driver.enter_display()
     program, source, *only = sys.argv[1:]
     for case in (two_starts_give_one_window, starts_beside_one_that_hangs, opens_what_it_is_given, goes_by_menu,
-                 tells_the_desktop_of_runs, ends_in_every_phase, takes_what_is_dropped):
+                 tells_the_desktop_of_runs, ends_in_every_phase, leaves_nothing_without_a_display, takes_what_is_dropped):
         if only and case.__name__ not in only:
             continue
         print(case.__name__.replace("_", " "), flush=True)
