@@ -17,7 +17,7 @@ PlainButton {
 
     signal remove
 
-    label: facts.title
+    label: facts.title || qsTr("Volume")
     detail: facts.shortStamp + " · " + facts.connection
     corner: 12
     leftPadding: 16

@@ -13,11 +13,8 @@ LiveSeries::~LiveSeries() = default;
 model::AnalyzerModel* LiveSeries::analyzer() const { return m_analyzer; }
 
 void LiveSeries::setAnalyzer(model::AnalyzerModel* analyzer) {
-    if (analyzer == m_analyzer)
+    if (!turnTo(m_analyzer, analyzer, this))
         return;
-    if (m_analyzer)
-        m_analyzer->disconnect(this);
-    m_analyzer = analyzer;
     if (analyzer) {
         const auto read = [this, analyzer] { setPoints(pointsOf(analyzer->liveSamples())); };
         connect(analyzer, &model::AnalyzerModel::liveSamplesChanged, this, read);

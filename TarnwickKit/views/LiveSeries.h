@@ -1,14 +1,7 @@
 #pragma once
 
 #include "TarnwickKit/views/ChartSeries.h"
-
-#include <QPointer>
-
-Q_MOC_INCLUDE("TarnwickKit/model/AnalyzerModel.h")
-
-namespace TarnwickKit::model {
-class AnalyzerModel;
-}
+#include "TarnwickKit/views/FollowedModel.h"
 
 namespace TarnwickKit::views {
 
@@ -29,7 +22,7 @@ public:
     Q_SIGNAL void analyzerChanged();
 
 private:
-    QPointer<model::AnalyzerModel> m_analyzer;
+    FollowedModel m_analyzer;
 };
 
 } // namespace TarnwickKit::views

@@ -14,7 +14,7 @@ ColumnLayout {
     required property real reach
 
     readonly property int rowHeight: 65
-    readonly property int seen: Math.ceil(reach / (rowHeight + spacing))
+    readonly property int seen: Math.ceil((reach - head.height) / (rowHeight + spacing))
     readonly property int ahead: 12
     property int made: 0
 
@@ -23,6 +23,8 @@ ColumnLayout {
     spacing: 10
 
     RowLayout {
+        id: head
+
         Layout.fillWidth: true
         spacing: 10
 

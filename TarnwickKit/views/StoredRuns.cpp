@@ -8,11 +8,8 @@ using model::AnalyzerModel;
 using model::RunRecord;
 
 void StoredRuns::setAnalyzer(AnalyzerModel* analyzer) {
-    if (analyzer == m_analyzer)
+    if (!turnTo(m_analyzer, analyzer, this))
         return;
-    if (m_analyzer)
-        disconnect(m_analyzer, nullptr, this, nullptr);
-    m_analyzer = analyzer;
     if (m_analyzer) {
         connect(m_analyzer, &AnalyzerModel::previousRunsChanged, this, &StoredRuns::refresh);
         connect(m_analyzer, &AnalyzerModel::currentRunChanged, this, &StoredRuns::currentRunChanged);

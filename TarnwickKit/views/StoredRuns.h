@@ -1,11 +1,10 @@
 #pragma once
 
-#include "TarnwickKit/model/AnalyzerModel.h"
 #include "TarnwickKit/views/ComparedRuns.h"
+#include "TarnwickKit/views/FollowedModel.h"
 #include "TarnwickKit/views/RunSeries.h"
 
 #include <QAbstractListModel>
-#include <QPointer>
 #include <QQmlEngine>
 
 #include <vector>
@@ -58,7 +57,7 @@ private:
     void removeAllBut(const std::vector<model::RunRecord>& runs);
     void announce(Role role);
 
-    QPointer<model::AnalyzerModel> m_analyzer;
+    FollowedModel m_analyzer;
     std::vector<model::RunRecord> m_runs;
 };
 

@@ -42,11 +42,8 @@ QString orMissing(const std::optional<std::int64_t>& number, const QString& word
 } // namespace
 
 void TargetFacts::setAnalyzer(AnalyzerModel* analyzer) {
-    if (analyzer == m_analyzer)
+    if (!turnTo(m_analyzer, analyzer, this))
         return;
-    if (m_analyzer)
-        disconnect(m_analyzer, nullptr, this, nullptr);
-    m_analyzer = analyzer;
     if (m_analyzer) {
         connect(m_analyzer, &AnalyzerModel::volumeChanged, this, &TargetFacts::volumeChanged);
         connect(m_analyzer, &AnalyzerModel::smartChanged, this, &TargetFacts::healthChanged);

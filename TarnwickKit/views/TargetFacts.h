@@ -1,9 +1,8 @@
 #pragma once
 
-#include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/views/FollowedModel.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QQmlEngine>
 #include <QStringList>
 #include <QVariantList>
@@ -71,7 +70,7 @@ public:
     Q_INVOKABLE static QVariantList mountedVolumes();
 
 private:
-    QPointer<model::AnalyzerModel> m_analyzer;
+    FollowedModel m_analyzer;
 };
 
 } // namespace TarnwickKit::views

@@ -78,6 +78,7 @@ class Window:
         self.atspi = Atspi
         self.gone_error = GLib.Error
         self.events = GLib.MainContext.default()
+        self.scale = (env or {}).get("QT_SCALE_FACTOR", "1")
         self.process = subprocess.Popen([program, *map(str, arguments)], stderr=subprocess.PIPE, text=True,
                                         env=os.environ | (env or {}))
         self.root = self.until("the window on the accessibility bus", self._application)
@@ -162,6 +163,18 @@ class Window:
         """By its key, which is the only way without a pointer."""
         self.grab(name)
         self.keys("Menu")
+
+    def hover(self, name, role=None):
+        """Puts the pointer there, a little inside its leading edge."""
+        place = self.find(name, role).get_extents(self.atspi.CoordType.SCREEN)
+        subprocess.run(["xdotool", "mousemove", str(place.x + 20), str(place.y + place.height // 2)], check=True)
+
+    def resize(self, width, height):
+        """Units: logical pixels, as far as the screen has them."""
+        scale = float(self.scale)
+        size = [str(round(side * scale)) for side in (width, height)]
+        subprocess.run(["xdotool", "windowsize", self.id(), *size], check=True)
+        self.settled()
 
     def type(self, text):
         subprocess.run(["xdotool", "type", "--delay", "20", text], check=True)
