@@ -1,5 +1,7 @@
 #include "OndelDrawing/Card.h"
 
+#include "OndelDrawing/SnappedNode.h"
+
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGTexture>
@@ -12,11 +14,12 @@ namespace OndelDrawing {
 
 namespace {
 
-/// A tile's picture, laid out as up to nine pieces. It is a transform, though of nothing, because the
-/// software renderer knows the place of pieces that come later only by a parent of that kind.
-class CardNode final : public QSGTransformNode {
+/// A tile's picture, laid out as up to nine pieces. The software renderer knows the place of pieces that come
+/// later only by a parent that is a transform.
+class CardNode final : public SnappedNode {
 public:
     void show(const CardTile& tile, QSize card, double scale, QQuickWindow& window) {
+        setPlace({}, scale);
         if (tile.image.cacheKey() != m_shown || !m_texture) {
             removePieces();
             m_texture.reset(window.createTextureFromImage(tile.image));

@@ -119,6 +119,12 @@ private:
     }
 };
 
+/// Sharp on the inside as well: at a scale between whole ones a line of whole pixels is drawn with such.
+double widthOfOutline(const CardLook& look, double scale) {
+    const double exact = look.outlineWidth * scale;
+    return scale == std::floor(scale) ? exact : std::max(1.0, std::round(exact));
+}
+
 QImage paintTile(const CardLook& look, const Plan& plan, double scale) {
     QImage image(plan.picture(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -132,7 +138,7 @@ QImage paintTile(const CardLook& look, const Plan& plan, double scale) {
                           shadowOf(shape.translated(0, plan.offset), image.size(), look.shadow, plan.sigma));
     painter.fillPath(shape, fillOf(look, card));
     if (look.outline.alpha() > 0 && look.outlineWidth > 0) {
-        const double width = look.outlineWidth * scale;
+        const double width = widthOfOutline(look, scale);
         const double inset = width / 2;
         painter.strokePath(continuousRectangle(card.adjusted(inset, inset, -inset, -inset),
                                                std::max(0.0, look.radius * scale - inset)),

@@ -1,5 +1,7 @@
 #include "OndelDrawing/ImageItem.h"
 
+#include "OndelDrawing/SnappedNode.h"
+
 #include <QQuickWindow>
 #include <QSGImageNode>
 
@@ -39,14 +41,19 @@ QSGNode* ImageItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
         delete node;
         return nullptr;
     }
-    auto* shown = static_cast<QSGImageNode*>(node);
+    auto* shown = static_cast<SnappedNode*>(node);
     if (!shown) {
-        shown = window()->createImageNode();
-        shown->setOwnsTexture(true);
-        shown->setFiltering(QSGTexture::Linear);
+        shown = new SnappedNode;
+        QSGImageNode* image = window()->createImageNode();
+        image->setOwnsTexture(true);
+        image->setFiltering(QSGTexture::Linear);
+        image->setFlag(QSGNode::OwnedByParent);
+        shown->appendChildNode(image);
     }
-    shown->setTexture(window()->createTextureFromImage(picture.image));
-    shown->setRect(QRectF(picture.place, QSizeF(picture.image.size()) / scale));
+    shown->setPlace(picture.place, scale);
+    auto* image = static_cast<QSGImageNode*>(shown->firstChild());
+    image->setTexture(window()->createTextureFromImage(picture.image));
+    image->setRect(QRectF(QPointF(), QSizeF(picture.image.size()) / scale));
     return shown;
 }
 

@@ -1,4 +1,5 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// A series' colour and what it stands for.
@@ -10,7 +11,7 @@ Row {
 
     spacing: 6
 
-    Rectangle {
+    Card {
         anchors.verticalCenter: parent.verticalCenter
         width: 11
         height: 3

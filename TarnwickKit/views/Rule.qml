@@ -1,7 +1,8 @@
-import QtQuick
+import OndelDrawing
 
-/// A hairline of one logical pixel.
-Rectangle {
+/// A hairline of one logical pixel, on whole device pixels.
+Card {
     implicitWidth: 1
     implicitHeight: 1
+    outlineWidth: 0
 }

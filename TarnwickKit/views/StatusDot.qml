@@ -1,4 +1,5 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// A dot with a soft halo.
@@ -8,19 +9,18 @@ Item {
     implicitWidth: 9
     implicitHeight: 9
 
-    Rectangle {
+    Card {
         anchors.centerIn: parent
         width: 13 * 1.6
         height: width
         radius: width / 2
-        color: "transparent"
-        border.width: 4 * 1.6
-        border.color: PaletteKey.palette.tealSoft
+        outline: PaletteKey.palette.tealSoft
+        outlineWidth: 4 * 1.6
     }
-    Rectangle {
+    Card {
         id: dot
 
         anchors.fill: parent
-        radius: 4.5
+        radius: width / 2
     }
 }

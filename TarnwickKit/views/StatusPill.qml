@@ -1,4 +1,5 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 Row {
@@ -18,7 +19,7 @@ Row {
     Accessible.role: Accessible.StatusBar
     Accessible.name: status
 
-    Rectangle {
+    Card {
         anchors.verticalCenter: parent.verticalCenter
         width: 7
         height: 7

@@ -1,6 +1,9 @@
 #include "OndelDrawing/CardTile.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
+#include <QBitmap>
+#include <QRegion>
+
 #include <gtest/gtest.h>
 
 using namespace OndelDrawing;
@@ -64,6 +67,26 @@ TEST(Card, FollowsItsSizeAndLook) {
     EXPECT_EQ(stage.picture().pixelColor(0, 0).alpha(), 0);
     stage.root().setWidth(300);
     EXPECT_EQ(stage.picture().pixelColor(290, 50), QColor(Qt::blue));
+}
+
+/// A card or a symbol is the same picture to the pixel wherever what holds it is moved to.
+TEST(Card, LiesOnWholePixels) {
+    for (const char* piece : {"Card { x: 10; y: 10; width: 20; height: 10; radius: 3; outline: \"red\" }",
+                              "Rule { x: 10; y: 10; width: 20; color: \"red\" }",
+                              "Symbol { x: 10; y: 10; width: 15; height: 15; name: \"stop.fill\" }"})
+        for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+            test::Stage stage("Item { width: 60; height: 60; Item { " + QByteArray(piece) + " } }");
+            const auto shown = [&](double at) {
+                stage.root().childItems().front()->setPosition({at, at});
+                const QImage image = stage.picture(scale);
+                const auto mask = QBitmap::fromImage(image.createAlphaMask());
+                return image.copy(QRegion(mask).boundingRect());
+            };
+            const QImage first = shown(0);
+            ASSERT_GT(first.width(), 10) << piece;
+            for (const double at : {0.2, 1.0 / 3, 0.5, 0.8, 1.0, 7.5})
+                EXPECT_EQ(shown(at), first) << piece << " at " << at << ", " << scale;
+        }
 }
 
 TEST(ContinuousRectangle, KeepsWithinItsFrame) {
