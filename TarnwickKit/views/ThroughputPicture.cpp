@@ -13,11 +13,21 @@ namespace TarnwickKit::views {
 
 namespace {
 
+constexpr double labelEnd = 36; ///< of the labels left of the plot; logical pixels
+
 /// Text held at its leading edge (0), its centre (0.5) or its trailing edge (1), and by its middle height.
 void drawLabel(QPainter& painter, const QString& text, QPointF place, double anchor) {
     const QFontMetricsF metrics(painter.font());
     const double left = place.x() - anchor * metrics.horizontalAdvance(text);
     painter.drawText(QPointF(left, place.y() + (metrics.ascent() - metrics.descent()) / 2), text);
+}
+
+/// The font of the axes, or a smaller one of its kind in which `text` is no wider than `room`.
+QFont fontFor(const QString& text, double room) {
+    QFont font = Typeface::mono(9);
+    while (font.pixelSize() > 1 && QFontMetricsF(font).horizontalAdvance(text) > room)
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
 }
 
 bool continues(const QList<QPointF>& longer, const QList<QPointF>& shorter) {
@@ -123,16 +133,18 @@ void ThroughputPicture::begin(const ThroughputContent& content, QSizeF size, dou
 
 void ThroughputPicture::paintGrid(const ThroughputPlot& plot) {
     QPainter painter(&m_grid);
-    painter.setFont(Typeface::mono(9));
     const auto labels = plot.scale.yLabels();
+    // A rate read from a file may be of any size; the largest label, the first, says what all are set in.
+    painter.setFont(fontFor(QString::number(labels.front()), labelEnd));
     for (int i = 0; i <= ThroughputScale::intervals; ++i) {
         const double y = plot.gridLine(i);
         // On whole pixels, else some lines would be sharp and others smeared over two rows.
         const double upper = std::round((y - 0.5) * m_scale) / m_scale;
         painter.fillRect(QRectF(ThroughputPlot::left, upper, plot.width(), 1), m_content.grid);
         painter.setPen(m_content.label);
-        drawLabel(painter, QString::number(labels[static_cast<std::size_t>(i)]), {36, y}, 1);
+        drawLabel(painter, QString::number(labels[static_cast<std::size_t>(i)]), {labelEnd, y}, 1);
     }
+    painter.setFont(Typeface::mono(9));
     const auto times = plot.scale.xLabels();
     for (std::size_t i = 0; i < times.size(); ++i)
         drawLabel(painter, seconds(times[i]), {plot.x(times[i]), plot.floor() + 12},

@@ -2,9 +2,11 @@
 #include "TarnwickKit/views/ThroughputPicture.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
+#include <QBitmap>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegion>
 
 #include <gtest/gtest.h>
 
@@ -111,6 +113,18 @@ TEST(ThroughputPicture, LinesLieAboveAllAreas) {
     EXPECT_EQ(at(3, 300), ink);
     EXPECT_EQ(at(1, 300), QColor(Qt::blue));
     EXPECT_GT(at(2, 500).blue(), 200); // the later above the earlier
+}
+
+TEST(ThroughputPicture, LabelsOfAnyLengthHaveRoom) {
+    for (const double peak : {950.0, 9e5, 3.2e6, 4.5e8, 7.7e12, 6e17}) {
+        ThroughputContent content = chart({{{0, peak}, {1, peak}}});
+        content.label = Qt::black;
+        const QImage labels = painted(content, 2).copy(0, 0, 72, 30); // the largest, at the top
+        const auto drawn = QBitmap::fromImage(labels.createAlphaMask());
+        const QRect taken = QRegion(drawn).boundingRect();
+        EXPECT_GT(taken.left(), 0) << peak;
+        EXPECT_NEAR(taken.right(), 71, 3) << peak;
+    }
 }
 
 TEST(ThroughputPicture, ASinglePointOnlyWidensTheAxes) {
