@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import OndelDrawing
 import TarnwickKit.views
 
 /// The menu bar. F10 opens its first menu, the arrow keys go on from there.
@@ -43,7 +44,7 @@ T.MenuBar {
             Accessible.name: text
             Accessible.onPressAction: title.triggered()
         }
-        background: Rectangle {
+        background: Card {
             radius: 6
             color: title.highlighted ? PaletteKey.palette.tealSoft : "transparent"
         }

@@ -46,6 +46,6 @@ T.AbstractButton {
     }
     FocusMark {
         control: button
-        border.color: "white"
+        outline: "white"
     }
 }

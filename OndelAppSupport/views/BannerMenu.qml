@@ -40,7 +40,7 @@ T.AbstractButton {
     }
     FocusMark {
         control: button
-        border.color: "white"
+        outline: "white"
     }
     T.Menu {
         id: menu

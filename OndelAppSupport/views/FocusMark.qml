@@ -1,8 +1,9 @@
 import QtQuick
 import QtQuick.Templates as T
+import OndelDrawing
 
 /// Marks the control that the keyboard would act on, just outside its edge.
-Rectangle {
+Card {
     required property T.Control control
 
     anchors.fill: control
@@ -10,7 +11,6 @@ Rectangle {
     z: 10
     visible: control.visualFocus
     radius: 9
-    color: "transparent"
-    border.width: 2
-    border.color: control.palette.highlight
+    outlineWidth: 2
+    outline: control.palette.highlight
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import OndelDrawing
 
 /// The words that appear under a control when the pointer rests on it.
 T.ToolTip {
@@ -22,9 +23,9 @@ T.ToolTip {
         color: tip.palette.windowText
         Accessible.ignored: true
     }
-    background: Rectangle {
+    background: Card {
         radius: 6
         color: tip.palette.window
-        border.color: tip.palette.mid
+        outline: tip.palette.mid
     }
 }

@@ -35,7 +35,7 @@ FocusScope {
             implicitWidth: 8
             padding: 2
             visible: size < 1
-            contentItem: Rectangle {
+            contentItem: Card {
                 radius: 2
                 color: pane.palette.placeholderText
                 opacity: bar.active ? 0.7 : 0.35

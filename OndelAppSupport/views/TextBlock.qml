@@ -36,7 +36,7 @@ FocusScope {
             implicitWidth: 8
             padding: 2
             visible: size < 1
-            contentItem: Rectangle {
+            contentItem: Card {
                 radius: 2
                 color: editor.palette.placeholderText
                 opacity: bar.active ? 0.7 : 0.35

@@ -1,7 +1,8 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
-Rectangle {
+Card {
     implicitWidth: words.implicitWidth + 18
     implicitHeight: words.implicitHeight + 6
     radius: height / 2

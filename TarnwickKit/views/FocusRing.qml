@@ -1,12 +1,12 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// Marks the control that the keyboard would act on.
-Rectangle {
+Card {
     required property real corner
 
     radius: corner
-    color: "transparent"
-    border.width: 2
-    border.color: PaletteKey.palette.teal
+    outlineWidth: 2
+    outline: PaletteKey.palette.teal
 }

@@ -35,7 +35,7 @@ PlainButton {
     contentItem: RowLayout {
         spacing: 12
 
-        Rectangle {
+        Card {
             implicitWidth: 8
             implicitHeight: 8
             radius: 4

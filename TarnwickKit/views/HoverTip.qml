@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import OndelDrawing
 import TarnwickKit.views
 
 /// The words that appear under a control when the pointer rests on it.
@@ -32,9 +33,9 @@ T.ToolTip {
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }
-    background: Rectangle {
+    background: Card {
         radius: 6
         color: PaletteKey.palette.panel
-        border.color: PaletteKey.palette.border
+        outline: PaletteKey.palette.border
     }
 }

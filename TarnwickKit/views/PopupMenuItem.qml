@@ -63,7 +63,7 @@ T.MenuItem {
             Accessible.ignored: true
         }
     }
-    background: Rectangle {
+    background: Card {
         radius: 6
         color: item.highlighted ? PaletteKey.palette.tealSoft : "transparent"
     }

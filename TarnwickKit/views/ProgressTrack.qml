@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import OndelDrawing
 import TarnwickKit.views
 
 /// A determinate progress bar.
@@ -13,12 +14,12 @@ T.ProgressBar {
     // The toolkit tells assistive technology no value of a progress bar, so it is part of its name.
     Accessible.name: qsTr("%1: %2 %").arg(label).arg(Math.floor(100 * position))
 
-    background: Rectangle {
+    background: Card {
         radius: height / 2
         color: PaletteKey.palette.track
     }
     contentItem: Item {
-        Rectangle {
+        Card {
             width: bar.visualPosition * parent.width
             height: parent.height
             radius: height / 2

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import OndelDrawing
 import TarnwickKit.views
 
 /// A vertical scroll area. What gets the keyboard's focus is brought into view, and the focus is kept in the content.
@@ -75,7 +76,7 @@ Flickable {
         visible: size < 1
         Accessible.ignored: true
 
-        contentItem: Rectangle {
+        contentItem: Card {
             radius: 3
             color: PaletteKey.palette.text3
             opacity: bar.pressed ? 0.8 : bar.active || bar.hovered ? 0.5 : 0.2

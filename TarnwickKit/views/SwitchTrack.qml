@@ -1,8 +1,9 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// The picture of a switch.
-Rectangle {
+Card {
     id: track
 
     required property bool on
@@ -12,7 +13,7 @@ Rectangle {
     radius: 10
     color: on ? PaletteKey.palette.accent : PaletteKey.palette.track
 
-    Rectangle {
+    Card {
         x: track.on ? track.width - width - 2 : 2
         anchors.verticalCenter: parent.verticalCenter
         width: 16
