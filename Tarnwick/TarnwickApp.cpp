@@ -6,6 +6,7 @@
 #include "Tarnwick/Toolkit.h"
 #include "TarnwickKit/views/TarnwickFonts.h"
 
+#include <QQuickWindow>
 #include <QTimer>
 
 #include <chrono>
@@ -58,7 +59,6 @@ void TarnwickApp::prepare() {
     OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
     TarnwickKit::views::TarnwickFonts::registerFrom();
     QApplication::setFont(TarnwickKit::views::TarnwickFonts::applicationFont());
-    QApplication::setWindowIcon(applicationIcon());
 }
 
 TarnwickApp::TarnwickApp(OpenRequests& requests)
@@ -74,7 +74,14 @@ bool TarnwickApp::declareScenes() {
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     m_engine.setInitialProperties({{QStringLiteral("delegate"), QVariant::fromValue(&m_delegate)}});
     m_engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml")));
-    return !m_engine.rootObjects().isEmpty();
+    if (m_engine.rootObjects().isEmpty())
+        return false;
+    // After the first frame: looking through the desktop's icon theme takes as long as drawing the window.
+    const auto flags = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
+    QObject::connect(
+        qobject_cast<QQuickWindow*>(m_engine.rootObjects().constFirst()), &QQuickWindow::frameSwapped, qApp,
+        [] { QApplication::setWindowIcon(applicationIcon()); }, flags);
+    return true;
 }
 
 void TarnwickApp::finishLaunching(const OpenRequest& start) {

@@ -24,7 +24,7 @@ public:
     void finishLaunching(const OndelCore::platform::OpenRequest& start);
 
 private:
-    /// Identity, fonts and icon, which the delegate and the views are made with.
+    /// Identity and fonts, which the delegate and the views are made with.
     static void prepare();
 
     OndelCore::platform::OpenRequests& m_requests;
