@@ -230,7 +230,8 @@ def ends_in_every_phase(program, folder):
 
     def wait_for(window, phase):
         """Without a pause, for some phases are short; one that is over before it is seen ends the waiting as well."""
-        window.until("the working folder", lambda: any(folder.glob(".ondel-analyzer-*")))
+        window.until("the working folder or its end",
+                     lambda: any(folder.glob(".ondel-analyzer-*")) or window.look("Complete", "status bar"))
         with contextlib.suppress(FileNotFoundError):
             while any(folder.glob(".ondel-analyzer-*")) and not reached(window, phase):
                 pass
