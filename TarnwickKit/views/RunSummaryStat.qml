@@ -38,7 +38,8 @@ Column {
             id: figure
 
             width: Math.min(implicitWidth, stat.width - unit.width - 3)
-            fontSizeMode: Text.HorizontalFit
+            // Nothing fits before the row is laid out, and each size that is tried costs a font.
+            fontSizeMode: stat.width > 0 ? Text.HorizontalFit : Text.FixedSize
             minimumPixelSize: 7
             text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)
             font: Typeface.figures(18)
