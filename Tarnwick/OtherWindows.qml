@@ -1,94 +1,56 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
-import OndelAppSupport.views
+import QtQuick.Templates as T
 import Tarnwick
 
-/// What shows beside or over the main window. Each is made when it is first wanted, in a repeater of one.
+/// What shows beside or over the main window. Each is loaded when it is first wanted, so that the window's start does
+/// not wait for any of it.
 Item {
     id: others
 
     required property AppDelegate delegate
-
-    signal aboutWanted
-    signal settingsWanted
+    readonly property bool wantsReport: delegate.showReport
 
     function showAbout(): void {
-        about.model = 1;
-        aboutWanted();
+        if (!about.item)
+            about.setSource("AboutWindow.qml", {transientParent: Window.window});
+        (about.item as AboutWindow).show();
     }
     function showSettings(): void {
-        settings.model = 1;
-        settingsWanted();
+        if (!settings.item)
+            settings.setSource("SettingsWindow.qml", {updater: delegate.updater, transientParent: Window.window});
+        (settings.item as SettingsWindow).show();
+    }
+    function showUpdates(): void {
+        if (!updates.item)
+            updates.setSource("UpdatesWindow.qml", {updater: delegate.updater.controller, transientParent: Window.window});
     }
 
-    Repeater {
+    onWantsReportChanged: report.setSource(wantsReport ? "ReportSheet.qml" : "", {parent: T.Overlay.overlay})
+
+    Loader {
         id: about
-
-        model: 0
-
-        Item {
-            AboutPanel {
-                id: panel
-
-                palette: StandardPalettes.current
-            }
-            Connections {
-                target: others
-
-                function onAboutWanted(): void {
-                    panel.show();
-                }
-            }
-        }
     }
-    Repeater {
+    Loader {
         id: settings
-
-        model: 0
-
-        Item {
-            SettingsWindow {
-                id: form
-
-                updater: others.delegate.updater
-                palette: StandardPalettes.current
-            }
-            Connections {
-                target: others
-
-                function onSettingsWanted(): void {
-                    form.show();
-                }
-            }
-        }
     }
-    Repeater {
+    Loader {
         id: updates
+    }
+    Loader {
+        id: report
+    }
+    Connections {
+        target: report.item
 
-        model: 0
-
-        Item {
-            UpdateWindow {
-                updater: others.delegate.updater.controller
-                palette: StandardPalettes.current
-            }
+        function onClosed(): void {
+            others.delegate.showReport = false;
         }
     }
     Connections {
         target: others.delegate.updater.controller
 
         function onStateChanged(): void {
-            updates.model = 1;
-        }
-    }
-    Repeater {
-        model: others.delegate.showReport ? 1 : 0
-
-        Item {
-            ReportSheet {
-                onClosed: others.delegate.showReport = false
-            }
+            others.showUpdates();
         }
     }
 }

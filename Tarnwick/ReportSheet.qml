@@ -8,7 +8,6 @@ import TarnwickKit.views
 T.Popup {
     id: sheet
 
-    parent: T.Overlay.overlay
     anchors.centerIn: parent
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding

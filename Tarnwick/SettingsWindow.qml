@@ -23,6 +23,7 @@ Window {
     maximumHeight: height
     flags: Qt.Dialog
     color: PaletteKey.palette.bg
+    palette: StandardPalettes.current
     PaletteKey.palette: Appearance.palette
 
     TarnwickSettingsView {

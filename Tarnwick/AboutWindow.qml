@@ -1,0 +1,7 @@
+import OndelAppSupport.views
+import Tarnwick
+
+/// Which program this is, in the main window's colors.
+AboutPanel {
+    palette: StandardPalettes.current
+}
