@@ -18,6 +18,17 @@ ColumnLayout {
     readonly property int ahead: 12
     property int made: 0
 
+    function confirmClear(): void {
+        question.setSource("Alert.qml", {
+            parent: section,
+            title: qsTr("Delete all saved runs?"),
+            cancelText: qsTr("Cancel"),
+            acceptText: qsTr("Delete All"),
+            destructive: true
+        });
+        (question.item as Alert).open();
+    }
+
     onSeenChanged: made = Math.max(made, seen)
 
     spacing: 10
@@ -46,7 +57,7 @@ ColumnLayout {
         TextButton {
             visible: !section.analyzer.compareMode
             label: qsTr("Clear")
-            onClicked: confirmClear.open()
+            onClicked: section.confirmClear()
         }
         TextButton {
             visible: section.analyzer.compareMode
@@ -124,13 +135,14 @@ ColumnLayout {
             section.made += 4;
         }
     }
-    Alert {
-        id: confirmClear
+    Loader {
+        id: question
+    }
+    Connections {
+        target: question.item
 
-        title: qsTr("Delete all saved runs?")
-        cancelText: qsTr("Cancel")
-        acceptText: qsTr("Delete All")
-        destructive: true
-        onAccepted: section.analyzer.clearHistory()
+        function onAccepted(): void {
+            section.analyzer.clearHistory();
+        }
     }
 }

@@ -20,9 +20,19 @@ PlainButton {
 
     function run(): void {
         if (analyzer.isFillDisk)
-            confirmFill.open();
+            confirmFill();
         else
             analyzer.start();
+    }
+    function confirmFill(): void {
+        question.setSource("Alert.qml", {
+            parent: button,
+            title: qsTr("Fill the disk?"),
+            message: qsTr("The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.").arg(Format.bytes(Format.defaultLeaveFree)),
+            cancelText: qsTr("Cancel"),
+            acceptText: qsTr("Fill Disk")
+        });
+        (question.item as Alert).open();
     }
 
     onClicked: stops ? analyzer.cancel() : run()
@@ -58,13 +68,14 @@ PlainButton {
         enabled: !button.stops && button.enabled
         onActivated: button.run()
     }
-    Alert {
-        id: confirmFill
+    Loader {
+        id: question
+    }
+    Connections {
+        target: question.item
 
-        title: qsTr("Fill the disk?")
-        message: qsTr("The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.").arg(Format.bytes(Format.defaultLeaveFree))
-        cancelText: qsTr("Cancel")
-        acceptText: qsTr("Fill Disk")
-        onAccepted: button.analyzer.start()
+        function onAccepted(): void {
+            button.analyzer.start();
+        }
     }
 }

@@ -43,9 +43,11 @@ RowLayout {
         Keys.onDownPressed: show()
 
         function show(): void {
-            choices.model = Qt.binding(() => setting.options); // not made before somebody looks
-            (menu.contentItem as ListView).forceLayout();
-            menu.open();
+            if (!menu.item) // not made before somebody looks
+                menu.setSource("SettingChoices.qml", {button: button, setting: setting});
+            const choices = menu.item as PopupMenu;
+            (choices.contentItem as ListView).forceLayout();
+            choices.open();
         }
 
         background: Card {
@@ -69,26 +71,8 @@ RowLayout {
                 color: PaletteKey.palette.text3
             }
         }
-        PopupMenu {
+        Loader {
             id: menu
-
-            x: button.width - width
-            y: button.height + 4
-            onOpened: currentIndex = setting.current
-
-            Repeater {
-                id: choices
-
-                PopupMenuItem {
-                    required property int index
-                    required property string modelData
-
-                    text: modelData
-                    checkable: true
-                    chosen: index === setting.current
-                    onTriggered: setting.chosen(index)
-                }
-            }
         }
     }
 }

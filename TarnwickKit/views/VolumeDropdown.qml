@@ -23,8 +23,14 @@ PlainButton {
     hoverEnabled: true
 
     detail: title.text + ", " + subtitle.text
-    onClicked: menu.open()
-    Keys.onDownPressed: menu.open()
+    onClicked: show()
+    Keys.onDownPressed: show()
+
+    function show(): void {
+        if (!menu.item)
+            menu.setSource("VolumeMenu.qml", {button: dropdown, analyzer: analyzer, target: target});
+        (menu.item as PopupMenu).open();
+    }
 
     background: Card {
         radius: 10
@@ -79,12 +85,7 @@ PlainButton {
         }
     }
 
-    VolumeMenu {
+    Loader {
         id: menu
-
-        analyzer: dropdown.analyzer
-        target: dropdown.target
-        y: dropdown.height + 4
-        leastWidth: dropdown.width
     }
 }

@@ -8,9 +8,13 @@ import TarnwickKit.views
 PopupMenu {
     id: menu
 
+    required property PlainButton button
     required property AnalyzerModel analyzer
     required property TargetFacts target
 
+    parent: button
+    y: button.height + 4
+    leastWidth: button.width
     // Asked anew each time, since volumes come and go.
     onAboutToShow: volumes.model = target.mountedVolumes()
 
