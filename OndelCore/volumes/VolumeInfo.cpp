@@ -9,7 +9,8 @@ namespace OndelCore::volumes {
 namespace {
 
 QString textOr(const std::optional<std::string>& text, const char* otherwise) {
-    return text ? QString::fromStdString(*text) : QString::fromUtf8(otherwise);
+    const QString given = QString::fromStdString(text.value_or(std::string()));
+    return given.trimmed().isEmpty() ? QString::fromUtf8(otherwise) : given; // a label may be mere blanks
 }
 
 /// a - b, at least 0, without overflow for any two numbers.

@@ -17,7 +17,7 @@ PlainButton {
 
     signal remove
 
-    label: facts.title || qsTr("Volume")
+    label: facts.title
     detail: facts.shortStamp + " · " + facts.connection
     corner: 12
     leftPadding: 16

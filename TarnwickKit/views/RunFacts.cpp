@@ -89,6 +89,12 @@ QString symbolOf(RunRecord::Kind kind) {
     Q_UNREACHABLE();
 }
 
+/// A record from elsewhere may lack even a name.
+QString titleOf(const RunRecord& run) {
+    const QString title = legible(run.customTitle.value_or(run.volumeName));
+    return title.trimmed().isEmpty() ? Runs::tr("Volume") : title;
+}
+
 } // namespace
 
 RunFacts RunFacts::of(const RunRecord& run) {
@@ -97,7 +103,7 @@ RunFacts RunFacts::of(const RunRecord& run) {
     const auto kind = isNetwork ? RunRecord::Kind::network : run.kind;
     const auto orNone = [](const std::optional<double>& rate) { return rate.value_or(qQNaN()); };
     return RunFacts{.id = run.id,
-                    .title = legible(run.customTitle.value_or(run.volumeName)),
+                    .title = titleOf(run),
                     .screenshotTitle = legible(run.screenshotTitle()),
                     .screenshotSubtitle = legible(run.screenshotSubtitle()),
                     .badgeSymbol = symbolOf(kind),

@@ -45,6 +45,10 @@ TEST(VolumeInfo, DefaultsEachMissingFactByItself) {
     expected.name = "Volume";
     expected.format = "--";
     EXPECT_EQ(empty, expected);
+    VolumeResources blank;
+    blank.name = " \t";
+    blank.format = "";
+    EXPECT_EQ(VolumeInfo::from(blank, std::nullopt), expected);
 
     const auto availableOf = [](std::optional<std::int64_t> raw, std::optional<std::int64_t> important) {
         VolumeResources resources;
