@@ -6,16 +6,13 @@
 #include "TarnwickKit/views/CardView.h"
 #include "TarnwickKit/views/ComparisonImage.h"
 #include "TarnwickKit/views/ReportImage.h"
-#include "TarnwickKit/views/TarnwickFonts.h"
 #include "TarnwickKit/views/ViewPicture.h"
 
-#include <QGuiApplication>
 #include <QQuickItem>
 
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <fstream>
 #include <random>
 
@@ -94,14 +91,3 @@ void memoryOfTen(benchmark::State& state) {
 BENCHMARK(memoryOfTen)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    QGuiApplication application(argc, argv);
-    TarnwickFonts::registerFrom();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

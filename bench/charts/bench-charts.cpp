@@ -2,10 +2,8 @@
 // point as a running test brings it fifty times a second, and stroked by QPainter for comparison. The
 // argument is the screen's scale in percent.
 
-#include "TarnwickKit/views/TarnwickFonts.h"
 #include "TarnwickKit/views/ThroughputPicture.h"
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
@@ -13,7 +11,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
 #include <random>
 
 using namespace TarnwickKit::views;
@@ -95,14 +92,3 @@ void strokedByPainter(benchmark::State& state) {
 BENCHMARK(strokedByPainter)->Arg(100)->Arg(200)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    QGuiApplication application(argc, argv);
-    TarnwickFonts::registerFrom();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
