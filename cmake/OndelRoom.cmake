@@ -39,9 +39,21 @@ function(ondel_bench name)
   target_link_libraries(${name} PRIVATE ondel_options ${BENCH_LINK} benchmark::benchmark)
 endfunction()
 
-# What Qt's generators write is not ours to keep free of warnings. Call it after qt_add_qml_module.
-function(ondel_quiet_generated target)
+# For a target with QML: call it after qt_add_qml_module. What Qt's generators write is not ours to keep free of warnings.
+# What they make of QML files is a hundred small ones, whose time goes into reading the same headers: those are compiled
+# a dozen at a time.
+function(ondel_generated_qml target)
   get_target_property(sources ${target} SOURCES)
+  set(cached ${sources})
+  list(FILTER cached INCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/.*_qml\\.cpp$")
+  list(REMOVE_ITEM sources ${cached})
+  set_source_files_properties(${cached} PROPERTIES SKIP_UNITY_BUILD_INCLUSION OFF)
+  set_source_files_properties(${sources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12
+    UNITY_BUILD_CODE_BEFORE_INCLUDE [[
+#pragma GCC diagnostic ignored "-Wconversion"
+#pragma GCC diagnostic ignored "-Wshadow"]])
+
   list(FILTER sources INCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/.*\\.cpp$")
   set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
 endfunction()
