@@ -1,170 +1,104 @@
-// How to test: the settings, which the views write directly, and the plan that they make.
+// How the model begins, and its words about a run: what goes on, why it failed, and the sidebar's figures.
 
 #include "TarnwickKit/model/AnalyzerModel.h"
 
+#include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickKit/model/AnalyzerRun.h"
 #include "TarnwickKit/model/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/Format.h"
+#include "TarnwickKit/model/PropertyChange.h"
 
+#include <cstdlib>
+#include <system_error>
 #include <utility>
 
 namespace TarnwickKit::model {
 
-using OndelCore::benchmark::allBenchmarkTests;
-using OndelCore::benchmark::BenchmarkPlan;
-using OndelCore::benchmark::BenchmarkSize;
+using namespace Qt::StringLiterals;
+using OndelCore::benchmark::BenchmarkError;
 using OndelCore::benchmark::BenchmarkTest;
 
 namespace {
 
-QString name(BenchmarkTest test) {
-    const std::string_view raw = OndelCore::benchmark::rawValue(test);
-    return QString::fromLatin1(raw.data(), static_cast<qsizetype>(raw.size()));
-}
-
-const BenchmarkSize::Preset& preset(int index) {
-    const auto& presets = BenchmarkSize::presets();
-    if (index < 0 || static_cast<std::size_t>(index) >= presets.size())
-        qFatal("sizeIndex %d is none of the %zu sizes", index, presets.size());
-    return presets[static_cast<std::size_t>(index)];
-}
-
-QStringList labels(const std::vector<AnalyzerModel::BlockOption>& options) {
-    QStringList list;
-    for (const auto& option : options)
-        list.append(option.label);
-    return list;
-}
-
-QList<double> values(const std::vector<AnalyzerModel::BlockOption>& options) {
-    QList<double> list;
-    for (const auto& option : options)
-        list.append(static_cast<double>(option.value));
-    return list;
-}
+struct CauseInWords {
+    QString operator()(const BenchmarkError::InsufficientSpace& cause) const {
+        return u"Not enough space: needs %1, only %2 free."_s.arg(Format::bytes(cause.needed),
+                                                                  Format::bytes(cause.available));
+    }
+    QString operator()(const BenchmarkError::Io& cause) const {
+        return u"I/O error: "_s + QString::fromStdString(cause.text);
+    }
+    QString operator()(const BenchmarkError::NotWritable&) const {
+        return u"Couldn’t write there. The volume may be read-only, or the folder may not allow it."_s;
+    }
+    QString operator()(const BenchmarkError::FileTooSmallForRandom&) const {
+        return u"The test file is too small for the random block size."_s;
+    }
+};
 
 } // namespace
 
 AnalyzerModel::AnalyzerModel(AnalyzerServices services, QObject* parent)
-    : QObject(parent)
+    : AnalyzerSettings(parent)
     , m_services(std::move(services))
-    , m_selectedTests(allBenchmarkTests.begin(), allBenchmarkTests.end())
     , m_runStart(m_services.now())
     , m_history(std::make_unique<HistoryStore>(m_services.historyFolder)) {
+    connect(this, &AnalyzerModel::selectedTestsChanged, this, &AnalyzerModel::announceCanRun);
+    connect(this, &AnalyzerModel::randomBlockChanged, this, &AnalyzerModel::liveTestTitleChanged);
+    connect(this, &AnalyzerModel::liveTestChanged, this, &AnalyzerModel::liveTestTitleChanged);
     connect(m_history.get(), &HistoryStore::runsChanged, this, &AnalyzerModel::previousRunsChanged);
     connect(this, &AnalyzerModel::currentRunChanged, this, &AnalyzerModel::previousRunsChanged);
 }
 
-void AnalyzerModel::setSizeIndex(int index) {
-    if (std::exchange(m_sizeIndex, index) != index)
-        Q_EMIT sizeIndexChanged();
-}
-
-QStringList AnalyzerModel::sizeLabels() {
-    QStringList labels;
-    for (const auto& [label, size] : BenchmarkSize::presets())
-        labels.append(QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())));
-    return labels;
-}
-
-bool AnalyzerModel::isFillDisk() const { return preset(m_sizeIndex).size.asFillDisk() != nullptr; }
-
-QStringList AnalyzerModel::selectedTestNames() const {
-    QStringList names;
-    for (const BenchmarkTest test : m_selectedTests)
-        names.append(name(test));
-    return names;
-}
-
-void AnalyzerModel::setSelectedTests(std::set<BenchmarkTest> tests) {
-    if (m_selectedTests == tests)
-        return;
-    m_selectedTests = std::move(tests);
-    Q_EMIT selectedTestsChanged();
-    announceCanRun();
-}
-
-void AnalyzerModel::setTestSelected(const QString& test, bool selected) {
-    const auto known = OndelCore::benchmark::benchmarkTest(test.toStdString());
-    if (!known)
-        qFatal("\"%s\" names no test", qUtf8Printable(test));
-    auto tests = m_selectedTests;
-    if (selected)
-        tests.insert(*known);
-    else
-        tests.erase(*known);
-    setSelectedTests(std::move(tests));
-}
-
-QStringList AnalyzerModel::testNames() {
-    QStringList names;
-    for (const BenchmarkTest test : allBenchmarkTests)
-        names.append(name(test));
-    return names;
-}
-
-QStringList AnalyzerModel::testTitles() const {
-    QStringList titles;
-    for (const BenchmarkTest test : allBenchmarkTests)
-        titles.append(title(test, m_randomBlock));
-    return titles;
-}
-
-void AnalyzerModel::setWriteBlock(std::int64_t bytes) {
-    if (std::exchange(m_writeBlock, bytes) != bytes)
-        Q_EMIT writeBlockChanged();
-}
-
-void AnalyzerModel::setReadBlock(std::int64_t bytes) {
-    if (std::exchange(m_readBlock, bytes) != bytes)
-        Q_EMIT readBlockChanged();
-}
-
-void AnalyzerModel::setRandomBlock(std::int64_t bytes) {
-    if (std::exchange(m_randomBlock, bytes) == bytes)
-        return;
-    Q_EMIT randomBlockChanged();
-    Q_EMIT liveTestTitleChanged();
-}
-
-QStringList AnalyzerModel::blockLabels() const { return labels(blockOptions()); }
-
-QList<double> AnalyzerModel::blockValues() const { return values(blockOptions()); }
-
-QStringList AnalyzerModel::randomBlockLabels() { return labels(randomBlockOptions()); }
-
-QList<double> AnalyzerModel::randomBlockSizes() { return values(randomBlockOptions()); }
-
-void AnalyzerModel::setBypassCache(bool bypass) {
-    if (std::exchange(m_bypassCache, bypass) != bypass)
-        Q_EMIT bypassCacheChanged();
-}
-
-bool AnalyzerModel::canRun() const { return m_targetFolder && !m_selectedTests.empty() && !isRunning(); }
+bool AnalyzerModel::canRun() const { return m_targetFolder && !selectedTests().empty() && !isRunning(); }
 
 void AnalyzerModel::announceCanRun() {
-    const bool can = canRun();
-    if (std::exchange(m_couldRun, can) != can)
-        Q_EMIT canRunChanged();
+    changeProperty(*this, m_couldRun, canRun(), &AnalyzerModel::canRunChanged);
 }
 
 QString AnalyzerModel::liveTestName() const { return m_liveTest ? name(*m_liveTest) : QString(); }
 
 QString AnalyzerModel::liveTestTitle() const {
-    return m_liveTest ? title(*m_liveTest, m_randomBlock) : QString();
+    return m_liveTest ? title(*m_liveTest, randomBlock()) : QString();
 }
 
-BenchmarkPlan AnalyzerModel::makePlan() const {
-    BenchmarkPlan plan;
-    plan.tests = m_selectedTests;
-    plan.size = preset(m_sizeIndex).size;
-    plan.writeBlockSize = m_writeBlock;
-    plan.readBlockSize = m_readBlock;
-    plan.randomBlockSize = m_randomBlock;
-    plan.randomOpCount = 10000;
-    plan.fileOpCount = 1000;
-    plan.bypassCache = m_bypassCache;
-    plan.sampleInterval = 0.02;
-    return plan;
+QString AnalyzerModel::describe(const std::exception& error) {
+    if (const auto* known = dynamic_cast<const BenchmarkError*>(&error))
+        return std::visit(CauseInWords(), known->cause());
+    if (const auto* system = dynamic_cast<const std::system_error*>(&error))
+        return QString::fromStdString(system->code().message());
+    return QString::fromUtf8(error.what());
+}
+
+std::optional<QString> AnalyzerModel::sidebarValue(BenchmarkTest test) const {
+    if (!m_result)
+        return std::nullopt;
+    const auto show = [](const auto& part, auto&& figure) {
+        return part ? std::optional<QString>(figure(*part)) : std::nullopt;
+    };
+    const auto sustained = [](const auto& part) { return Format::mbValue(part.sustainedBytesPerSecond()); };
+    const auto iops = [](const auto& part) { return Format::compact(part.iops()); };
+    switch (test) {
+    case BenchmarkTest::sequentialWrite:
+        return show(m_result->sequentialWrite, sustained);
+    case BenchmarkTest::sequentialRead:
+        return show(m_result->sequentialRead, sustained);
+    case BenchmarkTest::randomRead:
+        return show(m_result->randomRead, iops);
+    case BenchmarkTest::randomWrite:
+        return show(m_result->randomWrite, iops);
+    case BenchmarkTest::fileOps:
+        return show(m_result->fileOps,
+                    [](const auto& part) { return Format::compact(part.create.opsPerSecond()); });
+    }
+    std::abort();
+}
+
+QStringList AnalyzerModel::sidebarValues() const {
+    QStringList values;
+    for (const BenchmarkTest test : OndelCore::benchmark::allBenchmarkTests)
+        values.append(sidebarValue(test).value_or(QString()));
+    return values;
 }
 
 } // namespace TarnwickKit::model

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkProgress.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
 #include "OndelCore/health/DiskSMART.h"
@@ -8,6 +7,7 @@
 #include "OndelCore/volumes/VolumeInfo.h"
 #include "TarnwickKit/model/AnalyzerDialogs.h"
 #include "TarnwickKit/model/AnalyzerServices.h"
+#include "TarnwickKit/model/AnalyzerSettings.h"
 #include "TarnwickKit/model/HistoryStore.h"
 #include "TarnwickKit/model/ProgressStream.h"
 #include "TarnwickKit/model/RunRecord.h"
@@ -39,12 +39,11 @@ namespace TarnwickKit::model {
 /// The application's one central object: what is to be tested, the run that goes on, and what came out.
 ///
 /// Views read its properties and make one call per action of the user; every change is announced. Properties
-/// carry what a declarative view can bind to: a test is its raw value ("sequentialWrite"), an absent text or
-/// test is "", and bytes are doubles (exact to 2^53). The getters beside them carry the real types.
+/// carry what a declarative view can bind to, as those of AnalyzerSettings do; an absent text or test is "".
 ///
 /// Threads: the one that makes it, which must run an event loop.
 /// Owner: a run. The destructor ends a run that goes on and waits until the engine has cleaned up behind it.
-class AnalyzerModel : public QObject {
+class AnalyzerModel : public TarnwickKit::model::AnalyzerSettings { // moc takes the name as it stands
     Q_OBJECT
 
 public:
@@ -84,10 +83,8 @@ public:
         return m_capabilities;
     }
     Q_SIGNAL void volumeChanged();
-    Q_PROPERTY(bool isNetworkVolume READ isNetworkVolume NOTIFY volumeChanged)
     bool isNetworkVolume() const;
     /// "Network", "Removable", "Internal", "External"; "--" without facts of the volume.
-    Q_PROPERTY(QString connectionLabel READ connectionLabel NOTIFY volumeChanged)
     QString connectionLabel() const;
     Q_PROPERTY(QString selectedVolumeIcon READ selectedVolumeIcon NOTIFY volumeChanged)
     QString selectedVolumeIcon() const;
@@ -101,79 +98,6 @@ public:
 
     /// Who asks people the model's questions; while there is nobody, nothing is asked. Owner: the caller.
     void setDialogs(AnalyzerDialogs* dialogs) { m_dialogs = dialogs; }
-
-    // --- Settings: written directly by the views; no value is refused or changed
-    // -------------------------------
-
-    /// Index into BenchmarkSize::presets. One outside of it is a programming fault, found by makePlan.
-    Q_PROPERTY(int sizeIndex READ sizeIndex WRITE setSizeIndex NOTIFY sizeIndexChanged)
-    int sizeIndex() const { return m_sizeIndex; }
-    void setSizeIndex(int index);
-    Q_SIGNAL void sizeIndexChanged();
-
-    /// The labels of BenchmarkSize::presets.
-    Q_PROPERTY(QStringList sizeLabels READ sizeLabels CONSTANT)
-    static QStringList sizeLabels();
-
-    /// The chosen size fills the disk, which the views ask about before a run.
-    Q_PROPERTY(bool isFillDisk READ isFillDisk NOTIFY sizeIndexChanged)
-    bool isFillDisk() const;
-
-    /// Raw values of the tests to run, in the order of the tests.
-    Q_PROPERTY(QStringList selectedTests READ selectedTestNames NOTIFY selectedTestsChanged)
-    const std::set<OndelCore::benchmark::BenchmarkTest>& selectedTests() const { return m_selectedTests; }
-    QStringList selectedTestNames() const;
-    void setSelectedTests(std::set<OndelCore::benchmark::BenchmarkTest> tests);
-    /// Fails: a name that is no test's raw value is a programming fault and stops the process.
-    Q_INVOKABLE void setTestSelected(const QString& test, bool selected);
-    Q_SIGNAL void selectedTestsChanged();
-
-    /// Raw values of all tests, in their order. testTitles and sidebarValues go along with it.
-    Q_PROPERTY(QStringList tests READ testNames CONSTANT)
-    static QStringList testNames();
-    Q_PROPERTY(QStringList testTitles READ testTitles NOTIFY randomBlockChanged)
-    QStringList testTitles() const;
-
-    /// Block sizes. Units: bytes.
-    Q_PROPERTY(double writeBlock READ writeBlockNumber WRITE setWriteBlockNumber NOTIFY writeBlockChanged)
-    std::int64_t writeBlock() const { return m_writeBlock; }
-    void setWriteBlock(std::int64_t bytes);
-    Q_SIGNAL void writeBlockChanged();
-    Q_PROPERTY(double readBlock READ readBlockNumber WRITE setReadBlockNumber NOTIFY readBlockChanged)
-    std::int64_t readBlock() const { return m_readBlock; }
-    void setReadBlock(std::int64_t bytes);
-    Q_SIGNAL void readBlockChanged();
-    Q_PROPERTY(double randomBlock READ randomBlockNumber WRITE setRandomBlockNumber NOTIFY randomBlockChanged)
-    std::int64_t randomBlock() const { return m_randomBlock; }
-    void setRandomBlock(std::int64_t bytes);
-    Q_SIGNAL void randomBlockChanged();
-
-    static constexpr std::array<std::int64_t, 5> baseBlockValues{4096, 65536, 262144, 1048576, 4194304};
-    static constexpr std::array<std::int64_t, 4> randomBlockValues{4096, 8192, 16384, 65536};
-    struct BlockOption {
-        QString label;
-        std::int64_t value;
-        bool operator==(const BlockOption&) const = default;
-    };
-    /// The block size that suits the target's file system. Units: bytes.
-    std::optional<std::int64_t> optimalBlock() const;
-    /// What the menus of block sizes offer, ascending, the optimal one among them and marked.
-    std::vector<BlockOption> blockOptions() const;
-    static std::vector<BlockOption> randomBlockOptions();
-    Q_PROPERTY(QStringList blockLabels READ blockLabels NOTIFY volumeChanged)
-    QStringList blockLabels() const;
-    Q_PROPERTY(QList<double> blockValues READ blockValues NOTIFY volumeChanged)
-    QList<double> blockValues() const;
-    Q_PROPERTY(QStringList randomBlockLabels READ randomBlockLabels CONSTANT)
-    static QStringList randomBlockLabels();
-    Q_PROPERTY(QList<double> randomBlockSizes READ randomBlockSizes CONSTANT)
-    static QList<double> randomBlockSizes();
-
-    /// Ask the system to keep the data file out of its cache.
-    Q_PROPERTY(bool bypassCache READ bypassCache WRITE setBypassCache NOTIFY bypassCacheChanged)
-    bool bypassCache() const { return m_bypassCache; }
-    void setBypassCache(bool bypass);
-    Q_SIGNAL void bypassCacheChanged();
 
     // --- Run
 
@@ -201,9 +125,7 @@ public:
     Q_SIGNAL void liveTestTitleChanged();
 
     /// The samples of the current test, at most maxLiveSamples: halved in density when one more comes.
-    Q_PROPERTY(int liveSampleCount READ liveSampleCount NOTIFY liveSamplesChanged)
     const std::vector<OndelCore::benchmark::ThroughputSample>& liveSamples() const { return m_liveSamples; }
-    int liveSampleCount() const { return static_cast<int>(m_liveSamples.size()); }
     Q_SIGNAL void liveSamplesChanged();
     static constexpr std::size_t maxLiveSamples = 2000;
 
@@ -215,13 +137,8 @@ public:
     Q_SIGNAL void progressChanged();
 
     /// What the last finished run since launch brought.
-    Q_PROPERTY(bool hasResult READ hasResult NOTIFY resultChanged)
     const std::optional<OndelCore::benchmark::BenchmarkResult>& result() const { return m_result; }
-    bool hasResult() const { return m_result.has_value(); }
     Q_SIGNAL void resultChanged();
-
-    /// The plan for the present settings.
-    OndelCore::benchmark::BenchmarkPlan makePlan() const;
 
     /// Begins a run. Does nothing without a target, or while a run goes on; it does not look at canRun.
     Q_INVOKABLE void start();
@@ -309,14 +226,8 @@ private:
     struct Run;
 
     // The properties' views of the 64-bit numbers.
-    double writeBlockNumber() const { return static_cast<double>(m_writeBlock); }
-    double readBlockNumber() const { return static_cast<double>(m_readBlock); }
-    double randomBlockNumber() const { return static_cast<double>(m_randomBlock); }
     double completedBytesNumber() const { return static_cast<double>(m_completedBytes); }
     double totalBytesNumber() const { return static_cast<double>(m_totalBytes); }
-    void setWriteBlockNumber(double bytes) { setWriteBlock(static_cast<std::int64_t>(bytes)); }
-    void setReadBlockNumber(double bytes) { setReadBlock(static_cast<std::int64_t>(bytes)); }
-    void setRandomBlockNumber(double bytes) { setRandomBlock(static_cast<std::int64_t>(bytes)); }
 
     void sweepOrphans(const std::filesystem::path& folder);
     void refreshSMART();
@@ -344,12 +255,6 @@ private:
     AnalyzerServices m_services;
 
     std::optional<std::filesystem::path> m_targetFolder;
-    int m_sizeIndex = 1;
-    std::set<OndelCore::benchmark::BenchmarkTest> m_selectedTests;
-    std::int64_t m_writeBlock = 1048576;
-    std::int64_t m_readBlock = 1048576;
-    std::int64_t m_randomBlock = 4096;
-    bool m_bypassCache = true;
 
     Phase m_phase = Phase::Idle;
     QString m_failureMessage;

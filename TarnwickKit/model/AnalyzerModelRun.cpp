@@ -3,6 +3,7 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "OndelCore/logging/Log.h"
 #include "TarnwickKit/model/AnalyzerRun.h"
+#include "TarnwickKit/model/PropertyChange.h"
 #include "TarnwickKit/model/WholeNumber.h"
 
 #include <cmath>
@@ -210,10 +211,8 @@ AnalyzerModel::Changes AnalyzerModel::take(const BenchmarkProgress& progress) {
 }
 
 void AnalyzerModel::announce(const Changes& changes) {
-    if (changes.liveTest) {
+    if (changes.liveTest)
         Q_EMIT liveTestChanged();
-        Q_EMIT liveTestTitleChanged();
-    }
     if (changes.liveSamples)
         Q_EMIT liveSamplesChanged();
     if (changes.progress)
@@ -230,21 +229,15 @@ void AnalyzerModel::setPhase(Phase phase, const QString& failureMessage) {
 }
 
 void AnalyzerModel::setLiveTest(std::optional<BenchmarkTest> test) {
-    announce({.liveTest = std::exchange(m_liveTest, test) != test});
+    changeProperty(*this, m_liveTest, test, &AnalyzerModel::liveTestChanged);
 }
 
 void AnalyzerModel::setResult(std::optional<BenchmarkResult> result) {
-    if (m_result == result)
-        return;
-    m_result = std::move(result);
-    Q_EMIT resultChanged();
+    changeProperty(*this, m_result, std::move(result), &AnalyzerModel::resultChanged);
 }
 
 void AnalyzerModel::clearLiveSamples() {
-    if (m_liveSamples.empty())
-        return;
-    m_liveSamples.clear();
-    Q_EMIT liveSamplesChanged();
+    changeProperty(*this, m_liveSamples, {}, &AnalyzerModel::liveSamplesChanged);
 }
 
 void AnalyzerModel::setProgress(std::int64_t completed, std::int64_t total) {

@@ -2,6 +2,7 @@
 
 #include "OndelCore/logging/Log.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/model/PropertyChange.h"
 #include "TarnwickKit/model/RunFile.h"
 #include "TarnwickKit/model/RunRecordJson.h"
 
@@ -22,15 +23,11 @@ auto hasId(const QUuid& id) {
 } // namespace
 
 void AnalyzerModel::setCurrentRun(std::optional<RunRecord> run) {
-    if (m_currentRun == run)
-        return;
-    m_currentRun = std::move(run);
-    Q_EMIT currentRunChanged();
+    changeProperty(*this, m_currentRun, std::move(run), &AnalyzerModel::currentRunChanged);
 }
 
 void AnalyzerModel::setCurrentRunCollapsed(bool collapsed) {
-    if (std::exchange(m_currentRunCollapsed, collapsed) != collapsed)
-        Q_EMIT currentRunCollapsedChanged();
+    changeProperty(*this, m_currentRunCollapsed, collapsed, &AnalyzerModel::currentRunCollapsedChanged);
 }
 
 std::vector<RunRecord> AnalyzerModel::previousRuns() const {
@@ -84,8 +81,7 @@ void AnalyzerModel::renameRun(const QUuid& id, const QString& text) {
 
 void AnalyzerModel::clearHistory() {
     m_history->clear();
-    if (!std::exchange(m_expandedRunIDs, {}).empty())
-        Q_EMIT expandedRunIDsChanged();
+    changeProperty(*this, m_expandedRunIDs, {}, &AnalyzerModel::expandedRunIDsChanged);
     clearCompareSelection();
     setCompareMode(false);
     setComparison(std::nullopt);
@@ -115,20 +111,15 @@ bool AnalyzerModel::importRun(const std::filesystem::path& file) {
 }
 
 void AnalyzerModel::setCompareMode(bool mode) {
-    if (std::exchange(m_compareMode, mode) != mode)
-        Q_EMIT compareModeChanged();
+    changeProperty(*this, m_compareMode, mode, &AnalyzerModel::compareModeChanged);
 }
 
 void AnalyzerModel::clearCompareSelection() {
-    if (!std::exchange(m_compareSelection, {}).empty())
-        Q_EMIT compareSelectionChanged();
+    changeProperty(*this, m_compareSelection, {}, &AnalyzerModel::compareSelectionChanged);
 }
 
 void AnalyzerModel::setComparison(std::optional<std::vector<RunRecord>> runs) {
-    if (m_comparison == runs)
-        return;
-    m_comparison = std::move(runs);
-    Q_EMIT comparisonChanged();
+    changeProperty(*this, m_comparison, std::move(runs), &AnalyzerModel::comparisonChanged);
 }
 
 void AnalyzerModel::toggleCompareMode() {

@@ -1,5 +1,4 @@
-// What is to be tested: the target folder, what is known of its volume and drive, and the block sizes that
-// suit it.
+// What is to be tested: the target folder, and what is known of its volume and drive.
 
 #include "OndelCore/benchmark/BenchmarkTarget.h"
 #include "OndelCore/logging/Log.h"
@@ -8,7 +7,7 @@
 #include "OndelCore/platform/StandardFolders.h"
 #include "OndelCore/volumes/MountedVolumes.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
-#include "TarnwickKit/model/Format.h"
+#include "TarnwickKit/model/PropertyChange.h"
 #include "TarnwickKit/model/SMARTReport.h"
 
 #include <QFile>
@@ -29,6 +28,10 @@ namespace {
 
 std::filesystem::path localPath(const QUrl& url) {
     return QFile::encodeName(url.toLocalFile()).toStdString();
+}
+
+std::optional<std::int64_t> suitableBlock(std::int64_t optimalIOSize) {
+    return optimalIOSize > 0 ? std::optional(BenchmarkPlan::alignedBlock(optimalIOSize)) : std::nullopt;
 }
 
 /// What the process's mask leaves of these is what other files of this user have.
@@ -61,10 +64,7 @@ void AnalyzerModel::select(const std::filesystem::path& folder) {
     Q_EMIT volumeChanged();
     setSMART(std::nullopt);
     refreshSMART();
-    if (const auto optimal = optimalBlock()) {
-        setWriteBlock(*optimal);
-        setReadBlock(*optimal);
-    }
+    setOptimalBlock(m_capabilities ? suitableBlock(m_capabilities->optimalIOSize) : std::nullopt);
     setPhase(m_currentRun ? Phase::Done : Phase::Idle);
     clearLiveSamples();
 }
@@ -137,32 +137,6 @@ RunRecord::Kind AnalyzerModel::selectedVolumeKind() const {
     return isInternal ? RunRecord::Kind::internalDrive : RunRecord::Kind::external;
 }
 
-std::optional<std::int64_t> AnalyzerModel::optimalBlock() const {
-    if (!m_capabilities || m_capabilities->optimalIOSize <= 0)
-        return std::nullopt;
-    return BenchmarkPlan::alignedBlock(m_capabilities->optimalIOSize);
-}
-
-std::vector<AnalyzerModel::BlockOption> AnalyzerModel::blockOptions() const {
-    std::set<std::int64_t> values(baseBlockValues.begin(), baseBlockValues.end());
-    const auto optimal = optimalBlock();
-    if (optimal)
-        values.insert(*optimal);
-    std::vector<BlockOption> options;
-    options.reserve(values.size());
-    for (const std::int64_t value : values)
-        options.push_back({Format::block(value) + (value == optimal ? u"  ·  optimal"_s : QString()), value});
-    return options;
-}
-
-std::vector<AnalyzerModel::BlockOption> AnalyzerModel::randomBlockOptions() {
-    std::vector<BlockOption> options;
-    options.reserve(randomBlockValues.size());
-    for (const std::int64_t value : randomBlockValues)
-        options.push_back({Format::block(value), value});
-    return options;
-}
-
 /// The read blocks on the drive. Its thread outlives a model that goes meanwhile; nobody then takes the
 /// answer.
 void AnalyzerModel::refreshSMART() {
@@ -188,10 +162,7 @@ void AnalyzerModel::refreshSMART() {
 }
 
 void AnalyzerModel::setSMART(std::optional<DiskSMART> smart) {
-    if (m_smart == smart)
-        return;
-    m_smart = std::move(smart);
-    Q_EMIT smartChanged();
+    changeProperty(*this, m_smart, std::move(smart), &AnalyzerModel::smartChanged);
 }
 
 void AnalyzerModel::exportSMART() {

@@ -18,6 +18,12 @@ struct AnalyzerModelType {
     QML_UNCREATABLE("The application owns the one model and hands it to its views.")
 };
 
+struct AnalyzerSettingsType {
+    Q_GADGET
+    QML_FOREIGN(TarnwickKit::model::AnalyzerSettings)
+    QML_ANONYMOUS
+};
+
 // No module that these views import tells what a list's base classes are.
 struct AbstractItemModelType {
     Q_GADGET

@@ -77,13 +77,13 @@ TEST_F(AnalyzerModelRun, ShowsTheResult) {
     EXPECT_EQ(model.phase(), Phase::Done);
     EXPECT_EQ(model.result(), result);
     EXPECT_FALSE(model.liveTest());
-    EXPECT_EQ(model.liveSampleCount(), 1);
+    EXPECT_EQ(model.liveSamples().size(), 1u);
     EXPECT_EQ(model.totalBytes(), 20);
     EXPECT_EQ(model.sidebarValues(), QStringList({"1,234", "", "12.3k", "0", "950"}));
 
     model.start();
     EXPECT_FALSE(model.result());
-    EXPECT_EQ(model.liveSampleCount(), 0);
+    EXPECT_EQ(model.liveSamples().size(), 0u);
     EXPECT_EQ(model.totalBytes(), 0);
     engine.last().finish({});
     turnUntilEnded(model);
@@ -105,7 +105,7 @@ TEST_F(AnalyzerModelRun, AFailureKeepsWhatWasLiveAndStaysUntilTheNextSelection) 
     model.select(std::filesystem::path("/"));
     EXPECT_EQ(model.phase(), Phase::Idle);
     EXPECT_EQ(model.failureMessage(), "");
-    EXPECT_EQ(model.liveSampleCount(), 0);
+    EXPECT_EQ(model.liveSamples().size(), 0u);
     EXPECT_EQ(model.completedBytes(), 10);
     EXPECT_EQ(AnalyzerModel::describe(BenchmarkError(BenchmarkError::InsufficientSpace{5368709120, 1023})),
               "Not enough space: needs 5.0 GiB, only 1023 B free.");
@@ -163,13 +163,13 @@ TEST_F(AnalyzerModelRun, AViewMayStartTheNextRunFromTheEndOfOne) {
 TEST_F(AnalyzerModelRun, EventsFeedTheLiveDisplay) {
     for (int index = 0; index < 2000; ++index)
         model.apply(event(BenchmarkTest::sequentialWrite, index + 1, index));
-    EXPECT_EQ(model.liveSampleCount(), 2000);
+    EXPECT_EQ(model.liveSamples().size(), 2000u);
     model.apply(event(BenchmarkTest::sequentialWrite, 0, 2000, 8, 9));
-    EXPECT_EQ(model.liveSampleCount(), 2000);
+    EXPECT_EQ(model.liveSamples().size(), 2000u);
     EXPECT_EQ(model.completedBytes(), 8);
     EXPECT_EQ(model.totalBytes(), 9);
     model.apply(event(BenchmarkTest::sequentialWrite, 2001, 2000));
-    ASSERT_EQ(model.liveSampleCount(), 1001);
+    ASSERT_EQ(model.liveSamples().size(), 1001u);
     for (std::size_t index = 0; index < 1001; ++index)
         ASSERT_EQ(model.liveSamples()[index].elapsed, 2.0 * static_cast<double>(index));
 
@@ -188,7 +188,7 @@ TEST_F(AnalyzerModelRun, TakesEveryEventInOrderAndAnnouncesByTheBatch) {
     }).join();
     turnUntil([this] { return model.completedBytes() == 1500; });
     EXPECT_EQ(announcements, 1);
-    ASSERT_EQ(model.liveSampleCount(), 1500);
+    ASSERT_EQ(model.liveSamples().size(), 1500u);
     for (std::size_t index = 0; index < 1500; ++index)
         ASSERT_EQ(model.liveSamples()[index].bytesPerSecond, static_cast<double>(index + 1));
 
@@ -268,7 +268,7 @@ TEST_F(AnalyzerModelRun, EndsWithTheModel) {
         AnalyzerModel brief(services);
         brief.select(std::filesystem::path("/"));
         brief.start();
-        turnUntil([&] { return brief.liveSampleCount() > 0; });
+        turnUntil([&] { return !brief.liveSamples().empty(); });
     }
     EXPECT_TRUE(cleanedUp);
 }
