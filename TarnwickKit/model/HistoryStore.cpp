@@ -1,16 +1,20 @@
 #include "TarnwickKit/model/HistoryStore.h"
 
+#include "OndelCore/platform/PrivateFolder.h"
 #include "OndelCore/platform/ReplaceFile.h"
 #include "OndelCore/platform/StandardFolders.h"
 #include "TarnwickKit/model/JsonWriter.h"
 #include "TarnwickKit/model/RunFile.h"
+#include "TarnwickKit/model/RunRecordFields.h"
 #include "TarnwickKit/model/RunRecordJson.h"
 #include "TarnwickKit/model/ThinnedCurve.h"
 
 #include <QDateTime>
 
 #include <algorithm>
+#include <functional>
 #include <string>
+#include <string_view>
 
 namespace TarnwickKit::model {
 
@@ -25,36 +29,85 @@ constexpr std::size_t unreadableFilesKept = 3;
 /// What a run file names of a person's machine is nobody else's business.
 constexpr auto ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
 
-fs::path defaultFolder() {
+/// In the temporary folder that all users share, a name that one can guess may be somebody else's folder:
+/// setting its permissions fails then.
+fs::path folderWithoutHome() {
     std::error_code error;
+    fs::path folder = fs::temp_directory_path(error) / folderName;
+    if (!error)
+        fs::create_directories(folder, error);
+    if (!error)
+        fs::permissions(folder, fs::perms::owner_all, error);
+    return error ? OndelCore::platform::privateTemporaryFolder().value_or(folder) : folder;
+}
+
+fs::path defaultFolder() {
     if (const auto data = OndelCore::platform::dataHome()) {
         fs::path folder = *data / folderName;
+        std::error_code error;
         fs::create_directories(folder, error);
         if (!error)
             return folder;
     }
-    return fs::temp_directory_path(error) / folderName;
+    return folderWithoutHome();
 }
 
-/// The form with thinned curves, which a run that came from another program may need.
-std::optional<QByteArray> encodedSmall(const RunRecord& run) {
-    RunRecord small = run;
-    small.writeSamples = thinned(run.writeSamples);
-    small.readSamples = thinned(run.readSamples);
-    return encodeRun(small);
+/// What the JSON of a record's field takes at the least.
+std::size_t leastLength(const QString& text) { return static_cast<std::size_t>(text.size()); }
+std::size_t leastLength(const std::vector<RunSample>& samples) {
+    return samples.size() * std::string_view(R"({"t":0,"v":0})").size();
+}
+std::size_t leastLength(const std::optional<QString>& text) { return text ? leastLength(*text) : 0; }
+std::size_t leastLength(const auto&) { return 0; }
+
+std::size_t leastLength(const RunRecord& run) {
+    std::size_t sum = 0;
+    visitFields(run, [&](std::string_view, const auto& field) { sum += leastLength(field); });
+    return sum;
 }
 
-/// Of the files kept, the newest few stay; their names sort by time.
-void dropOldUnreadableFiles(const fs::path& folder) {
-    std::vector<fs::path> kept;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; entry != end; entry.increment(error)) {
-        if (entry->path().filename().native().starts_with(unreadablePrefix))
-            kept.push_back(entry->path());
+/// The JSON of a run if it has one of at most `most` bytes. One that is far larger costs nothing.
+std::optional<QByteArray> encodedWithin(std::size_t most, const RunRecord& run) {
+    if (leastLength(run) > most)
+        return std::nullopt;
+    auto json = encodeRun(run);
+    return json && static_cast<std::size_t>(json->size()) <= most ? json : std::nullopt;
+}
+
+RunRecord withThinnedCurves(RunRecord run) {
+    run.writeSamples = thinned(run.writeSamples);
+    run.readSamples = thinned(run.readSamples);
+    return run;
+}
+
+/// A JSON array of what `form` makes of each run. Fails: absent as soon as it is too long for the file.
+template <typename Form>
+std::optional<QByteArray> arrayOf(const std::vector<RunRecord>& runs, Form form) {
+    JsonWriter json;
+    json.beginArray();
+    for (const RunRecord& run : runs) {
+        if (const std::optional<QByteArray> text = form(run))
+            json.raw(*text);
+        if (static_cast<std::size_t>(json.json().size()) >= maxRunFileBytes)
+            return std::nullopt;
     }
-    std::ranges::sort(kept, std::greater());
-    for (std::size_t index = unreadableFilesKept; index < kept.size(); ++index)
-        fs::remove(kept[index], error);
+    json.endArray();
+    return json.json();
+}
+
+/// Of the files kept, the newest few stay. Their names sort by time; `newest` is the newest whatever the
+/// clock said when the others were named.
+void dropOldUnreadableFiles(const fs::path& newest) {
+    std::vector<fs::path> others;
+    std::error_code error;
+    for (fs::directory_iterator entry(newest.parent_path(), error), end; entry != end;
+         entry.increment(error)) {
+        if (entry->path().filename().native().starts_with(unreadablePrefix) && entry->path() != newest)
+            others.push_back(entry->path());
+    }
+    std::ranges::sort(others, std::greater());
+    for (std::size_t index = unreadableFilesKept - 1; index < others.size(); ++index)
+        fs::remove(others[index], error);
 }
 
 } // namespace
@@ -115,6 +168,8 @@ void HistoryStore::save() {
     if (m_fileIsUnreadable && !keepUnreadableFile())
         return;
     m_fileIsUnreadable = false;
+    std::error_code ignored;
+    fs::create_directories(m_url.parent_path(), ignored); // somebody may have tidied up meanwhile
     const QByteArray content = encoded();
     OndelCore::platform::replaceFile(m_url, {content.data(), static_cast<std::size_t>(content.size())},
                                      ownerOnly);
@@ -125,29 +180,15 @@ void HistoryStore::save() {
 /// the file, those above an even share of it go in with thinned curves; one whose texts alone exceed that is
 /// left out, too.
 QByteArray HistoryStore::encoded() const {
-    std::vector<std::optional<QByteArray>> runs;
-    std::size_t total = 2;
-    for (const RunRecord& run : m_runs) {
-        runs.push_back(encodeRun(run));
-        total += runs.back() ? static_cast<std::size_t>(runs.back()->size()) + 1 : 0;
-    }
-    if (total > maxRunFileBytes) {
-        const auto share = static_cast<qsizetype>((maxRunFileBytes - 2) / m_runs.size()) - 1;
-        for (std::size_t index = 0; index < runs.size(); ++index) {
-            if (runs[index] && runs[index]->size() > share)
-                runs[index] = encodedSmall(m_runs[index]);
-            if (runs[index] && runs[index]->size() > share)
-                runs[index].reset();
-        }
-    }
-    JsonWriter json;
-    json.beginArray();
-    for (const auto& run : runs) {
-        if (run)
-            json.raw(*run);
-    }
-    json.endArray();
-    return json.json();
+    if (auto all = arrayOf(m_runs, encodeRun))
+        return *all;
+    const std::size_t share = (maxRunFileBytes - 2) / m_runs.size() - 1; // without brackets and a comma
+    return arrayOf(m_runs,
+                   [share](const RunRecord& run) {
+                       auto full = encodedWithin(share, run);
+                       return full ? full : encodedWithin(share, withThinnedCurves(run));
+                   })
+        .value();
 }
 
 /// Keeps the file under another name, with a link where there are any, so that a process killed in between
@@ -167,7 +208,7 @@ bool HistoryStore::keepUnreadableFile() const {
         fs::rename(m_url, kept, error);
     if (error)
         return false;
-    dropOldUnreadableFiles(m_url.parent_path());
+    dropOldUnreadableFiles(kept);
     return true;
 }
 

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <QByteArray>
-
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace TarnwickKit::model {
 
-/// A regular file's whole content, for files that come from outside: absent above RunRecordJson's limit, and
-/// for pipes and devices, which might never end.
-/// Threads: any; blocks on the file system. Fails: absent.
-std::optional<QByteArray> readRunFile(const std::filesystem::path& path);
+/// The content of a file of runs: absent above RunRecordJson's limit. Otherwise as readRegularFile.
+std::optional<std::string> readRunFile(const std::filesystem::path& path);
 
 } // namespace TarnwickKit::model

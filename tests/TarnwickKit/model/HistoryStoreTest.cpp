@@ -23,8 +23,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void put(const fs::path& path, const QByteArray& content) {
-    std::ofstream(path, std::ios::binary).write(content.data(), content.size());
+void put(const fs::path& path, const std::string& content) {
+    std::ofstream(path, std::ios::binary) << content;
 }
 
 std::vector<fs::path> filesBeginningWith(const fs::path& folder, const char* prefix) {
@@ -70,9 +70,9 @@ TEST_F(History, KeepsTheNewestRunsAcrossRestarts) {
     EXPECT_EQ(fs::status(file).permissions() & fs::perms::others_all, fs::perms::none);
 
     // A file of more is taken as it is until the next run.
-    QByteArray sixty;
+    std::string sixty;
     for (int count = 0; count < 60; ++count)
-        sixty += (count ? "," : "[") + *encodeRun(fullRun(1));
+        sixty += (count ? "," : "[") + encodeRun(fullRun(1))->toStdString();
     put(file, sixty + "]");
     HistoryStore larger(folder.path());
     EXPECT_EQ(larger.runs().size(), 60u);
@@ -109,7 +109,7 @@ TEST_F(History, ChangesTheFileOnlyWhenToldTo) {
 }
 
 TEST_F(History, KeepsAFileThatItCannotRead) {
-    const QByteArray unreadable = "[" + *encodeRun(fullRun(2)) + ",{}]";
+    const std::string unreadable = "[" + encodeRun(fullRun(2))->toStdString() + ",{}]";
     put(file, unreadable);
     {
         HistoryStore store(folder.path());
@@ -124,7 +124,7 @@ TEST_F(History, KeepsAFileThatItCannotRead) {
     EXPECT_EQ(readRunFile(kept.front()), unreadable);
 
     for (int round = 0; round < 5; ++round) {
-        put(file, QByteArray("broken ") + QByteArray::number(round));
+        put(file, "broken " + std::to_string(round));
         HistoryStore(folder.path()).save();
     }
     kept = filesBeginningWith(folder.path(), "history.unreadable-");
@@ -132,6 +132,15 @@ TEST_F(History, KeepsAFileThatItCannotRead) {
     std::ranges::sort(kept);
     EXPECT_EQ(readRunFile(kept.front()), "broken 2");
     EXPECT_EQ(readRunFile(kept.back()), "broken 4");
+
+    // A clock that went back makes the newest file the oldest by its name; it is not the one to go.
+    for (const fs::path& path : kept)
+        fs::rename(path, folder.path() / ("history.unreadable-2999" + path.filename().string().substr(23)));
+    put(file, "broken 5");
+    HistoryStore(folder.path()).save();
+    kept = filesBeginningWith(folder.path(), "history.unreadable-");
+    ASSERT_EQ(kept.size(), 3u);
+    EXPECT_EQ(readRunFile(*std::ranges::min_element(kept)), "broken 5");
 
     // Neither a folder nor a pipe in the file's place is read or lost.
     fs::remove(file);
