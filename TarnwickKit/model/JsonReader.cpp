@@ -1,5 +1,7 @@
 #include "TarnwickKit/model/JsonReader.h"
 
+#include <QLatin1StringView>
+#include <QLocale>
 #include <QUtf8StringView>
 
 #include <charconv>
@@ -168,9 +170,8 @@ double JsonReader::number() {
     const char* end = token.data() + token.size();
     if (std::from_chars(token.data(), end, value).ec == std::errc())
         return value;
-    // Too large and too small for a double look the same; the wider type tells them apart.
-    long double wide = 0;
-    if (std::from_chars(token.data(), end, wide).ec != std::errc() || std::fabs(wide) > 1)
+    // The C++ library does not tell too large from too small; Qt answers an infinity or zero.
+    if (!std::isfinite(QLocale::c().toDouble(QLatin1StringView(token.data(), end))))
         throw JsonError("number out of range");
     return 0;
 }

@@ -57,7 +57,7 @@ void write(JsonWriter& json, const std::vector<RunSample>& samples) {
 // --- Reading
 
 void read(JsonReader& json, QString& value) { value = json.string(); }
-void read(JsonReader& json, double& value) { value = json.number(); }
+void read(JsonReader& json, double& value) { value = json.number() + 0.0; } // -0 would be shown as such
 void read(JsonReader& json, std::int64_t& value) { value = json.integer(); }
 void read(JsonReader& json, bool& value) { value = json.boolean(); }
 

@@ -107,7 +107,7 @@ RunFacts RunFacts::of(const RunRecord& run) {
                     .screenshotTitle = legible(run.screenshotTitle()),
                     .screenshotSubtitle = legible(run.screenshotSubtitle()),
                     .badgeSymbol = symbolOf(kind),
-                    .customTitle = run.customTitle.value_or(QString()),
+                    .customTitle = legible(run.customTitle.value_or(QString())),
                     .stamp = Format::runStamp(run.date, run.duration),
                     .shortStamp = Format::shortStamp(run.date),
                     .connection = isNetwork ? Runs::tr("Network") : legible(run.connection),
