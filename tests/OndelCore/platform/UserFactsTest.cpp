@@ -1,5 +1,6 @@
 #include "OndelCore/platform/UserFacts.h"
 
+#include "OndelCore/platform/PrivateFolder.h"
 #include "OndelCore/platform/StandardFolders.h"
 
 #include <gtest/gtest.h>
@@ -44,4 +45,19 @@ TEST(StandardFolders, FollowTheEnvironmentThenTheUserDatabase) {
         EXPECT_EQ(userFacts().homeFolder, user->pw_dir);
         EXPECT_EQ(userFacts().shortName, user->pw_name);
     }
+}
+
+TEST(PrivateTemporaryFolder, IsTheSessionsElseOneOfTheUsersOwnThatIsTakenAgain) {
+    namespace fs = std::filesystem;
+    const fs::path session = privateTemporaryFolder().value();
+    EXPECT_EQ(session.parent_path(), getenv("XDG_RUNTIME_DIR"));
+    const Variable none("XDG_RUNTIME_DIR", nullptr);
+    fs::remove(session);
+    const fs::path made = privateTemporaryFolder().value(),
+                   earlier = made.parent_path() / "tools.ondel.tarnwick-x";
+    EXPECT_EQ(made.parent_path(), getenv("TMPDIR"));
+    fs::rename(made, earlier);
+    EXPECT_EQ(privateTemporaryFolder(), earlier);
+    fs::permissions(earlier, fs::perms::group_read, fs::perm_options::add);
+    EXPECT_NE(privateTemporaryFolder().value(), earlier);
 }
