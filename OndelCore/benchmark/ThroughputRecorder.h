@@ -23,7 +23,7 @@ public:
     /// Call after each transfer. `moved`: bytes moved so far.
     void transferred(std::int64_t moved) {
         const double now = m_run.now();
-        if (!(now - m_lastTime < m_run.plan.sampleInterval))
+        if (!(now - m_lastTime < m_run.plan.sampleInterval) && now > m_lastTime) // no time, no rate
             takeSample(moved, now);
     }
 

@@ -64,6 +64,10 @@ TEST_F(Engine, TakesOneClosingSampleOfATestShorterThanTheInterval) {
     EXPECT_TRUE(empty.sequentialWrite->samples.empty());
     EXPECT_EQ(system.diary.back(), "clock");
     EXPECT_EQ(*(system.diary.end() - 2), "flush");
+
+    system.monotonicNanoseconds = [] { return 7; }; // too coarse to see a transfer: no rate can be told
+    const auto still = system.run(smallPlan({sequentialWrite}, BenchmarkSize::fixed(8192)), folder.path());
+    EXPECT_EQ(still.sequentialWrite, (ThroughputResult{8192, 0, 4096, {}}));
 }
 
 TEST_F(Engine, FillsTheDiskAskingForFreeSpaceAtEveryEighthWrite) {
