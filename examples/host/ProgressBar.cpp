@@ -7,6 +7,8 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <set>
+
 using namespace OndelCore::benchmark;
 
 namespace examples::host {
@@ -20,6 +22,12 @@ void replaceLine(const QString& line) {
     const QByteArray text = "\r" + line.toUtf8() + "\x1b[K";
     [[maybe_unused]] const ssize_t ignored =
         write(STDERR_FILENO, text.constData(), static_cast<std::size_t>(text.size()));
+}
+
+/// The engine is silent while it makes the file that a sequential write would have left to the other tests.
+bool preparesFile(const BenchmarkPlan& plan) {
+    return !plan.tests.contains(BenchmarkTest::sequentialWrite) &&
+           plan.tests != std::set{BenchmarkTest::fileOps} && !plan.tests.empty();
 }
 
 } // namespace
@@ -48,9 +56,8 @@ void ProgressBar::draw(bool stopping) {
     if (latest)
         return replaceLine(progressLine(*latest, m_plan, style));
     const auto waited = std::chrono::floor<std::chrono::seconds>(std::chrono::steady_clock::now() - m_start);
-    const bool writesFirst = m_plan.tests.contains(BenchmarkTest::sequentialWrite);
-    shown((writesFirst ? "Starting, " : "Preparing the test file, ") + QString::number(waited.count()) +
-          " s");
+    shown((preparesFile(m_plan) ? "Preparing the test file, " : "Starting, ") +
+          QString::number(waited.count()) + " s");
 }
 
 } // namespace examples::host

@@ -85,7 +85,6 @@ Files written(const RunOptions& options, const HandOff& handOff, const Benchmark
     if (!options.handOff) {
         std::error_code ignored;
         std::filesystem::remove(*files.run, ignored);
-        std::filesystem::remove(files.run->parent_path(), ignored); // if nothing else is in it
         files.run.reset();
     }
     return files;
@@ -143,7 +142,8 @@ const Command runCommand{.name = "run",
                          .options = runOptionTable(),
                          .notes = R"(
 BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
-whole pages of 4096. Every default is the one of the window, so that its figures and these can be compared.
+whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
+blocks of the sequential tests: the window takes the "Optimal transfer" that "facts" shows.
 
 Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start, unless another tarnwick-host measures there.
