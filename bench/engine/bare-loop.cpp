@@ -1,9 +1,10 @@
 // What the machine gives when nothing but system calls is done: the yardstick for the engine's loops.
 //
-//   bare-loop FOLDER SIZE BLOCK RANDOM_BLOCK RANDOM_OPS FILES DIRECT
+//   bare-loop GROUP FOLDER SIZE BLOCK RANDOM_BLOCK RANDOM_OPS FILES DIRECT
 //
-// Sizes in bytes, DIRECT 0 or 1. It makes a folder inside FOLDER, runs the same tests in the same order as
-// the engine, removes the folder and prints one JSON object of rates: bytes or operations per second. No
+// GROUP is sequential, random or files; sizes in bytes, DIRECT 0 or 1. It makes a folder inside FOLDER, runs
+// the group's tests as the engine does, removes the folder and prints one JSON object of rates: bytes or
+// operations per second. No
 // samples, no progress, no cancellation, offsets from a generator that costs next to nothing. The
 // loops run on a second thread, as in every program with an interface: Linux looks up descriptors more slowly
 // in a process of several threads. Any failing call ends it with status 1; SIZE must be a multiple of both
@@ -21,6 +22,7 @@
 #include <filesystem>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -44,6 +46,12 @@ double now() {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
+/// Prints the rate since `start` as the next pair of the JSON object.
+void tell(const char* name, double amount, double start) {
+    static const char* separator = "{";
+    std::printf("%s\"%s\": %.0f", std::exchange(separator, ", "), name, amount / (now() - start));
+}
+
 std::uint64_t nextRandom() {
     static std::uint64_t state = 0x853c49e6748fea9bU; // xorshift64: G. Marsaglia, "Xorshift RNGs", 2003
     state ^= state << 13;
@@ -64,43 +72,48 @@ struct Request {
     bool direct;
 };
 
-void sequential(const Request& ask, char* buffer) {
-    int file = openData(O_WRONLY | O_CREAT | O_TRUNC, ask.direct);
-    double start = now();
+void writeData(const Request& ask, char* buffer) {
+    const int file = openData(O_WRONLY | O_CREAT | O_TRUNC, ask.direct);
     for (std::uint64_t moved = 0; moved < ask.size;)
         moved += static_cast<std::uint64_t>(must(write(file, buffer, ask.block), "write"));
     fsync(file);
-    std::printf("{\"sequentialWrite\": %.0f", static_cast<double>(ask.size) / (now() - start));
     close(file);
+}
 
-    file = openData(O_RDONLY, ask.direct);
+void sequential(const Request& ask, char* buffer) {
+    const auto bytes = static_cast<double>(ask.size);
+    double start = now();
+    writeData(ask, buffer);
+    tell("sequentialWrite", bytes, start);
+
+    const int file = openData(O_RDONLY, ask.direct);
     start = now();
     while (must(read(file, buffer, ask.block), "read") > 0) {
     }
-    std::printf(", \"sequentialRead\": %.0f", static_cast<double>(ask.size) / (now() - start));
+    tell("sequentialRead", bytes, start);
+    close(file);
+}
+
+template <class Transfer>
+void random(const Request& ask, const char* name, int flags, Transfer transfer) {
+    const std::uint64_t blocks = ask.size / ask.randomBlock;
+    const auto operations = static_cast<double>(ask.randomOps);
+    const int file = openData(flags, ask.direct);
+    const double start = now();
+    for (std::uint64_t i = 0; i < ask.randomOps; ++i)
+        must(transfer(file, static_cast<off_t>(nextRandom() % blocks * ask.randomBlock)), name);
+    if (flags != O_RDONLY)
+        fsync(file);
+    tell(name, operations, start);
     close(file);
 }
 
 void random(const Request& ask, char* buffer) {
-    const std::uint64_t blocks = ask.size / ask.randomBlock;
-    int file = openData(O_RDONLY, ask.direct);
-    double start = now();
-    for (std::uint64_t i = 0; i < ask.randomOps; ++i)
-        must(
-            pread(file, buffer, ask.randomBlock, static_cast<off_t>(nextRandom() % blocks * ask.randomBlock)),
-            "pread");
-    std::printf(", \"randomRead\": %.0f", static_cast<double>(ask.randomOps) / (now() - start));
-    close(file);
-
-    file = openData(O_RDWR, ask.direct);
-    start = now();
-    for (std::uint64_t i = 0; i < ask.randomOps; ++i)
-        must(pwrite(file, buffer, ask.randomBlock,
-                    static_cast<off_t>(nextRandom() % blocks * ask.randomBlock)),
-             "pwrite");
-    fsync(file);
-    std::printf(", \"randomWrite\": %.0f", static_cast<double>(ask.randomOps) / (now() - start));
-    close(file);
+    writeData(ask, buffer);
+    random(ask, "randomRead", O_RDONLY,
+           [&](int file, off_t offset) { return pread(file, buffer, ask.randomBlock, offset); });
+    random(ask, "randomWrite", O_RDWR,
+           [&](int file, off_t offset) { return pwrite(file, buffer, ask.randomBlock, offset); });
 }
 
 template <class Operation>
@@ -108,7 +121,7 @@ void phase(const char* name, std::uint64_t files, Operation operation) {
     const double start = now();
     for (std::uint64_t i = 0; i < files; ++i)
         operation(i);
-    std::printf(", \"%s\": %.0f", name, static_cast<double>(files) / (now() - start));
+    tell(name, static_cast<double>(files), start);
 }
 
 void fileOps(const Request& ask) {
@@ -126,31 +139,37 @@ void fileOps(const Request& ask) {
     phase("rename", ask.files,
           [&](auto i) { must(std::rename(names[i].c_str(), newNames[i].c_str()), "rename"); });
     phase("delete", ask.files, [&](auto i) { must(unlink(newNames[i].c_str()), "unlink"); });
-    std::printf("}\n");
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 8) {
-        std::fputs("usage: bare-loop FOLDER SIZE BLOCK RANDOM_BLOCK RANDOM_OPS FILES DIRECT\n", stderr);
+    const std::string group = argc == 9 ? argv[1] : "";
+    if (group != "sequential" && group != "random" && group != "files") {
+        std::fputs("usage: bare-loop sequential|random|files FOLDER SIZE BLOCK RANDOM_BLOCK RANDOM_OPS FILES "
+                   "DIRECT\n",
+                   stderr);
         return 2;
     }
     const auto number = [&](int i) { return std::strtoull(argv[i], nullptr, 10); };
-    const Request ask{number(2), number(3), number(4), number(5), number(6), number(7) != 0};
+    const Request ask{number(3), number(4), number(5), number(6), number(7), number(8) != 0};
     const std::size_t largest = ask.block > ask.randomBlock ? ask.block : ask.randomBlock;
     auto* buffer = static_cast<char*>(std::aligned_alloc(4096, largest));
     for (std::size_t filled = 0; filled < largest;)
         filled +=
             static_cast<std::size_t>(must(getrandom(buffer + filled, largest - filled, 0), "getrandom"));
 
-    folder = std::string(argv[1]) + "/.bare-loop-XXXXXX";
+    folder = std::string(argv[2]) + "/.bare-loop-XXXXXX";
     if (!mkdtemp(folder.data()))
         return std::perror("mkdtemp"), 1;
     std::thread([&] {
-        sequential(ask, buffer);
-        random(ask, buffer);
-        fileOps(ask);
+        if (group == "sequential")
+            sequential(ask, buffer);
+        else if (group == "random")
+            random(ask, buffer);
+        else
+            fileOps(ask);
     }).join();
+    std::puts("}");
     removeAll();
 }
