@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <exception>
 #include <string>
+#include <string_view>
 #include <variant>
 
 namespace OndelCore::benchmark {
@@ -49,6 +50,9 @@ private:
     Cause m_cause;
     std::string m_what;
 };
+
+/// The error of a system call that has just failed: `prefix` names it, the system's wording follows.
+BenchmarkError ioError(std::string_view prefix, int error);
 
 /// The run was told to stop. Nothing of it is left and there is no partial result.
 class Cancelled : public std::exception, public NamedError {

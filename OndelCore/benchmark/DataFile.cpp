@@ -1,6 +1,5 @@
 #include "OndelCore/benchmark/DataFile.h"
 
-#include "OndelCore/platform/ErrorText.h"
 #include "OndelCore/platform/Random.h"
 
 #include <fcntl.h>
@@ -10,10 +9,6 @@
 #include <new>
 
 namespace OndelCore::benchmark {
-
-BenchmarkError ioError(std::string_view prefix, int error) {
-    return BenchmarkError(BenchmarkError::Io{std::string(prefix) + platform::errorText(error)});
-}
 
 BlockBuffer::BlockBuffer(std::int64_t blockSize) {
     const auto size = static_cast<std::size_t>(blockSize);

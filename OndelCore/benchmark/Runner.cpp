@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <new>
 #include <stdexcept>
 
@@ -39,10 +40,6 @@ std::int64_t checkedTarget(const BenchmarkSize& size, std::int64_t free) {
 
 } // namespace
 
-std::int64_t freeBytes(const EngineEnvironment& system, const std::filesystem::path& path) {
-    return system.freeBytes(path).value_or(0);
-}
-
 BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& plan, const RunPaths& paths,
                         const CancelFlag& flag, const ProgressListener& progress) {
     const TestRun run{system, plan, paths.dataFile, flag, progress};
@@ -50,9 +47,9 @@ BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& pl
     BenchmarkResult result;
 
     if (needsDataFile(plan.tests)) {
-        const std::int64_t target = checkedTarget(plan.size, freeBytes(system, paths.volume));
+        const std::int64_t target = checkedTarget(plan.size, run.freeBytes(paths.volumePath));
         if (asksFor(BenchmarkTest::sequentialWrite))
-            result.sequentialWrite = sequentialWrite(run, target, paths.volume);
+            result.sequentialWrite = sequentialWrite(run, target, paths.volumePath);
         else
             prepareDataFile(run, target);
     }

@@ -10,7 +10,6 @@
 #include <QFuture>
 #include <QPromise>
 
-#include <cstdint>
 #include <exception>
 #include <filesystem>
 #include <memory>
@@ -67,14 +66,11 @@ BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan
 struct RunPaths {
     std::filesystem::path dataFile;
     std::filesystem::path fopsDir;
-    std::filesystem::path volume;
+    std::filesystem::path volumePath;
 };
 
 /// Checks the free space and runs the plan's tests in their order. Blocks; fails as runInFolder does.
 BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& plan, const RunPaths& paths,
                         const CancelFlag& flag, const ProgressListener& progress);
-
-/// 0 when the system does not tell. Units: bytes.
-std::int64_t freeBytes(const EngineEnvironment& system, const std::filesystem::path& path);
 
 } // namespace OndelCore::benchmark

@@ -17,16 +17,15 @@ class ReserveWatch {
 public:
     /// `targetBytes`: what could be written when the run began. Btrfs counts new data as used only at its
     /// next commit, up to half a minute later; its live figure alone would let the reserve be written full.
-    ReserveWatch(const TestRun& run, const std::filesystem::path& volume, std::int64_t targetBytes)
+    ReserveWatch(const TestRun& run, const std::filesystem::path& volumePath, std::int64_t targetBytes)
         : m_run(run)
-        , m_volume(volume)
+        , m_volumePath(volumePath)
         , m_targetBytes(targetBytes)
         , m_leaveFree(run.plan.size.asFillDisk()->leaveFree) {}
 
     /// Call before each write. A volume that no longer tells its free space has none.
     bool isReached(std::int64_t moved) {
-        if (m_turn == 0 &&
-            (m_run.system.freeBytes(m_volume).value_or(0) <= m_leaveFree || moved >= m_targetBytes))
+        if (m_turn == 0 && (m_run.freeBytes(m_volumePath) <= m_leaveFree || moved >= m_targetBytes))
             return true;
         m_turn = (m_turn + 1) % 8;
         return false;
@@ -34,7 +33,7 @@ public:
 
 private:
     const TestRun& m_run;
-    const std::filesystem::path& m_volume;
+    const std::filesystem::path& m_volumePath;
     std::int64_t m_targetBytes;
     std::int64_t m_leaveFree;
     int m_turn = 0;
@@ -82,7 +81,7 @@ constexpr int createForWriting = O_WRONLY | O_CREAT | O_TRUNC;
 } // namespace
 
 ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes,
-                                 const std::filesystem::path& volume) {
+                                 const std::filesystem::path& volumePath) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.writeBlockSize);
     const bool fillDisk = run.plan.size.asFillDisk() != nullptr;
     const DataFile file(run, createForWriting, "open(write): ");
@@ -92,7 +91,7 @@ ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes,
     ThroughputRecorder recorder(run, BenchmarkTest::sequentialWrite, fillDisk ? 0 : targetBytes);
     const auto transferred = [&](std::int64_t moved) { recorder.transferred(moved); };
     const std::int64_t moved =
-        fillDisk ? writeUntilFull(run, file, buffer, block, {run, volume, targetBytes}, transferred)
+        fillDisk ? writeUntilFull(run, file, buffer, block, {run, volumePath, targetBytes}, transferred)
                  : writeToTarget(run, file, buffer, block, targetBytes, "write: ", transferred);
     recorder.loopEnded(moved);
     file.flush();

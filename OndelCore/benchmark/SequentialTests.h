@@ -15,9 +15,9 @@ namespace OndelCore::benchmark {
 // BenchmarkError::Io when a system call fails.
 
 /// Writes the data file and measures it; the closing flush counts. With a fixed size the file ends at exactly
-/// `targetBytes`. With fillDisk the live free space of `volume` decides, and a full disk is a normal end.
+/// `targetBytes`. With fillDisk the live free space of `volumePath` decides, and a full disk is a normal end.
 ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes,
-                                 const std::filesystem::path& volume);
+                                 const std::filesystem::path& volumePath);
 
 /// Writes the data file without measuring it: no sample and no progress call, however long it takes. A full
 /// disk is a failure in either mode.

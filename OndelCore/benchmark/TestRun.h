@@ -6,8 +6,8 @@
 #include "OndelCore/benchmark/CancelFlag.h"
 #include "OndelCore/benchmark/EngineEnvironment.h"
 
+#include <cstdint>
 #include <filesystem>
-#include <string_view>
 
 namespace OndelCore::benchmark {
 
@@ -25,11 +25,13 @@ struct TestRun {
             throw Cancelled();
     }
 
+    /// 0 when the system does not tell. Units: bytes.
+    std::int64_t freeBytes(const std::filesystem::path& path) const {
+        return system.freeBytes(path).value_or(0);
+    }
+
     /// Units: seconds on the uptime counter.
     double now() const { return static_cast<double>(system.monotonicNanoseconds()) / 1000000000.0; }
 };
-
-/// The error of a system call that has just failed: `prefix` names it, the system's wording follows.
-BenchmarkError ioError(std::string_view prefix, int error);
 
 } // namespace OndelCore::benchmark

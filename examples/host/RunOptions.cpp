@@ -4,8 +4,11 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <limits>
+#include <set>
 #include <string>
 #include <system_error>
 
