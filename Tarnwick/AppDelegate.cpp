@@ -85,11 +85,8 @@ void AppDelegate::open(const std::vector<std::string>& urls, const std::string& 
     if (sorted.isEmpty())
         return;
     // The target must not change under a run.
-    if (sorted.folder && !m_model.isRunning()) {
-        std::error_code error;
-        const fs::path folder = fs::canonical(*sorted.folder, error);
-        m_model.select(error ? *sorted.folder : folder);
-    }
+    if (sorted.folder && !m_model.isRunning())
+        m_model.select(*sorted.folder);
     for (const fs::path& run : sorted.runs)
         m_model.importRun(run);
     comeToFront(activationToken);

@@ -1,5 +1,6 @@
 #include "Tarnwick/OpenUrls.h"
 
+#include "OndelCore/platform/AnswerWithin.h"
 #include "TarnwickKit/model/TarnwickFile.h"
 
 #include <QByteArray>
@@ -19,6 +20,15 @@ bool isThisHost(std::string_view host) {
 bool isRunFile(const fs::path& path) {
     const std::string extension = (path.has_filename() ? path : path.parent_path()).extension();
     return extension.size() > 1 && extension.substr(1) == TarnwickKit::model::TarnwickFile::runExtension;
+}
+
+/// The folder at `path` without symbolic links; absent if there is none.
+std::optional<fs::path> folderAt(const fs::path& path) {
+    std::error_code error;
+    if (!fs::is_directory(path, error))
+        return std::nullopt;
+    const fs::path resolved = fs::canonical(path, error);
+    return error ? path : resolved;
 }
 
 } // namespace
@@ -45,14 +55,17 @@ std::string fileUrl(const fs::path& path) {
 }
 
 OpenUrls OpenUrls::from(const std::vector<std::string>& urls) {
+    using namespace OndelCore::platform;
     OpenUrls sorted;
     for (const std::string& url : urls) {
         const auto path = localPath(url);
         if (!path)
             continue;
-        std::error_code error;
-        if (!sorted.folder && fs::is_directory(*path, error))
-            sorted.folder = path;
+        const auto folder = answerWithin(volumePatience, [path] { return folderAt(*path); });
+        if (!folder && isRunFile(*path))
+            continue; // reading it would hang as well
+        if (!sorted.folder)
+            sorted.folder = folder.value_or(path);
         if (isRunFile(*path))
             sorted.runs.push_back(*path);
     }

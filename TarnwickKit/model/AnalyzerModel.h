@@ -9,6 +9,7 @@
 #include "TarnwickKit/model/AnalyzerServices.h"
 #include "TarnwickKit/model/AnalyzerSettings.h"
 #include "TarnwickKit/model/HistoryStore.h"
+#include "TarnwickKit/model/LatestAnswer.h"
 #include "TarnwickKit/model/ProgressStream.h"
 #include "TarnwickKit/model/RunRecord.h"
 #include "TarnwickKit/model/VolumeMenuItem.h"
@@ -64,7 +65,8 @@ public:
 
     /// Makes `folder` the target: takes a picture of its volume, sets the sequential block sizes to what
     /// suits the file system, and in the background sweeps up what killed runs left and reads the drive's
-    /// health. Does nothing during a run. Selecting the same folder again repeats all of it.
+    /// health. Does nothing during a run. Selecting the same folder again repeats all of it. Blocks while the
+    /// volume is asked, for half a second at most; what it tells later is taken when it comes.
     void select(const std::filesystem::path& folder);
     /// The same for a local file URL. Any other URL is ignored.
     Q_INVOKABLE void select(const QUrl& folder);
@@ -77,10 +79,11 @@ public:
     /// The mounted volumes, in the system's order. Blocks for half a second at most.
     static std::vector<VolumeMenuItem> mountedVolumeItems();
 
-    /// Facts of the target's volume, as they were when it was selected. Both change together.
-    const std::optional<OndelCore::volumes::VolumeInfo>& volumeInfo() const { return m_volumeInfo; }
+    /// Facts of the target's volume, as they were when it was selected; absent as long as it does not answer.
+    /// Both change together.
+    const std::optional<OndelCore::volumes::VolumeInfo>& volumeInfo() const { return m_volume.info; }
     const std::optional<OndelCore::volumes::VolumeCapabilities>& capabilities() const {
-        return m_capabilities;
+        return m_volume.capabilities;
     }
     Q_SIGNAL void volumeChanged();
     bool isNetworkVolume() const;
@@ -224,12 +227,18 @@ public:
 private:
     struct Changes;
     struct Run;
+    struct VolumeFacts {
+        std::optional<OndelCore::volumes::VolumeInfo> info;
+        std::optional<OndelCore::volumes::VolumeCapabilities> capabilities;
+    };
 
     // The properties' views of the 64-bit numbers.
     double completedBytesNumber() const { return static_cast<double>(m_completedBytes); }
     double totalBytesNumber() const { return static_cast<double>(m_totalBytes); }
 
     void sweepOrphans(const std::filesystem::path& folder);
+    void lookAtVolume(const std::filesystem::path& folder);
+    void setVolume(const VolumeFacts& facts);
     void refreshSMART();
     void setSMART(std::optional<OndelCore::health::DiskSMART> smart);
     void setCurrentRun(std::optional<RunRecord> run);
@@ -271,11 +280,10 @@ private:
     std::shared_ptr<Run> m_run;
 
     AnalyzerDialogs* m_dialogs = nullptr;
-    std::optional<OndelCore::volumes::VolumeInfo> m_volumeInfo;
-    std::optional<OndelCore::volumes::VolumeCapabilities> m_capabilities;
+    VolumeFacts m_volume;
+    LatestAnswer<VolumeFacts> m_volumeQuestion;
     std::optional<OndelCore::health::DiskSMART> m_smart;
-    /// The read under way: another one takes its place, and its answer is then dropped.
-    QFutureWatcher<std::optional<OndelCore::health::DiskSMART>>* m_smartTask = nullptr;
+    LatestAnswer<std::optional<OndelCore::health::DiskSMART>> m_healthQuestion;
 
     std::optional<RunRecord> m_currentRun;
     bool m_currentRunCollapsed = false;

@@ -34,8 +34,8 @@ BenchmarkResult answer(QFuture<BenchmarkResult> future) {
 AnalyzerModel::Run::Run(AnalyzerModel& model, BenchmarkPlan runPlan, std::filesystem::path runTarget)
     : plan(std::move(runPlan))
     , target(std::move(runTarget))
-    , volumeInfo(model.m_volumeInfo)
-    , capabilities(model.m_capabilities)
+    , volumeInfo(model.m_volume.info)
+    , capabilities(model.m_volume.capabilities)
     , stream([&model](const ProgressStream::Batch& batch) {
         Changes changes;
         for (const BenchmarkProgress& progress : batch)

@@ -2,6 +2,7 @@
 
 #include "OndelCore/benchmark/BenchmarkTarget.h"
 #include "OndelCore/logging/Log.h"
+#include "OndelCore/platform/AnswerWithin.h"
 #include "OndelCore/platform/BackgroundThread.h"
 #include "OndelCore/platform/ReplaceFile.h"
 #include "OndelCore/platform/StandardFolders.h"
@@ -58,22 +59,43 @@ void AnalyzerModel::select(const std::filesystem::path& folder) {
     Q_EMIT targetFolderChanged();
     announceCanRun();
     sweepOrphans(folder);
-    const Location location = Location::local(folder);
-    m_volumeInfo = m_services.loadVolume(location);
-    m_capabilities = m_services.probeCapabilities(location);
-    Q_EMIT volumeChanged();
+    lookAtVolume(folder);
     setSMART(std::nullopt);
     refreshSMART();
-    setOptimalBlock(m_capabilities ? suitableBlock(m_capabilities->optimalIOSize) : std::nullopt);
     setPhase(m_currentRun ? Phase::Done : Phase::Idle);
     clearLiveSamples();
+}
+
+/// A volume that hangs has no facts, and the window lives on. What it tells later is still taken, but not
+/// into a run that began without it.
+void AnalyzerModel::lookAtVolume(const std::filesystem::path& folder) {
+    const auto question = [load = m_services.loadVolume, probe = m_services.probeCapabilities,
+                           location = Location::local(folder)] {
+        return VolumeFacts{.info = load(location), .capabilities = probe(location)};
+    };
+    const auto take = [this](const VolumeFacts& facts) {
+        if (!isRunning())
+            setVolume(facts);
+    };
+    if (!m_volumeQuestion.ask(question, take, m_services.volumePatience))
+        setVolume({});
+}
+
+void AnalyzerModel::setVolume(const VolumeFacts& facts) {
+    m_volume = facts;
+    Q_EMIT volumeChanged();
+    setOptimalBlock(facts.capabilities ? suitableBlock(facts.capabilities->optimalIOSize) : std::nullopt);
 }
 
 void AnalyzerModel::selectVolume(const QUrl& mountPoint) {
     if (!mountPoint.isLocalFile())
         return;
     const auto home = OndelCore::platform::homeFolder().value_or("/");
-    select(OndelCore::benchmark::BenchmarkTarget::folder(localPath(mountPoint), home));
+    const auto volume = localPath(mountPoint);
+    const auto folder = OndelCore::platform::answerWithin(m_services.volumePatience, [volume, home] {
+        return OndelCore::benchmark::BenchmarkTarget::folder(volume, home);
+    });
+    select(folder.value_or(volume));
 }
 
 void AnalyzerModel::chooseFolder() { chooseFolder(m_targetFolder); }
@@ -113,52 +135,38 @@ std::vector<VolumeMenuItem> AnalyzerModel::mountedVolumeItems() {
 }
 
 bool AnalyzerModel::isNetworkVolume() const {
-    return m_capabilities && isNetworkFilesystem(m_capabilities->filesystemType);
+    return m_volume.capabilities && isNetworkFilesystem(m_volume.capabilities->filesystemType);
 }
 
 QString AnalyzerModel::connectionLabel() const {
     if (isNetworkVolume())
         return u"Network"_s;
-    return m_volumeInfo ? m_volumeInfo->connection() : u"--"_s;
+    return m_volume.info ? m_volume.info->connection() : u"--"_s;
 }
 
 QString AnalyzerModel::selectedVolumeIcon() const {
-    if (!m_volumeInfo)
+    if (!m_volume.info)
         return u"externaldrive"_s;
     if (isNetworkVolume())
         return u"externaldrive.connected.to.line.below"_s;
-    return m_volumeInfo->isRemovable || !m_volumeInfo->isInternal ? u"externaldrive"_s : u"internaldrive"_s;
+    return m_volume.info->isRemovable || !m_volume.info->isInternal ? u"externaldrive"_s : u"internaldrive"_s;
 }
 
 RunRecord::Kind AnalyzerModel::selectedVolumeKind() const {
     if (isNetworkVolume())
         return RunRecord::Kind::network;
-    const bool isInternal = m_volumeInfo && m_volumeInfo->isInternal && !m_volumeInfo->isRemovable;
+    const bool isInternal = m_volume.info && m_volume.info->isInternal && !m_volume.info->isRemovable;
     return isInternal ? RunRecord::Kind::internalDrive : RunRecord::Kind::external;
 }
 
-/// The read blocks on the drive. Its thread outlives a model that goes meanwhile; nobody then takes the
-/// answer.
 void AnalyzerModel::refreshSMART() {
     if (!m_targetFolder)
         return;
-    QPromise<std::optional<DiskSMART>> answer;
-    answer.start();
-    if (m_smartTask) {
-        m_smartTask->disconnect(this);
-        m_smartTask->deleteLater();
-    }
-    m_smartTask = new QFutureWatcher<std::optional<DiskSMART>>(this);
-    connect(m_smartTask, &QFutureWatcherBase::finished, this, [this, folder = *m_targetFolder] {
-        if (m_targetFolder == folder)
-            setSMART(m_smartTask->result());
-    });
-    m_smartTask->setFuture(answer.future());
-    std::thread([answer = std::move(answer), folder = *m_targetFolder,
-                 read = m_services.readHealth]() mutable {
-        answer.addResult(read(folder));
-        answer.finish();
-    }).detach();
+    m_healthQuestion.ask([folder = *m_targetFolder, read = m_services.readHealth] { return read(folder); },
+                         [this, folder = *m_targetFolder](const std::optional<DiskSMART>& smart) {
+                             if (m_targetFolder == folder)
+                                 setSMART(smart);
+                         });
 }
 
 void AnalyzerModel::setSMART(std::optional<DiskSMART> smart) {

@@ -24,7 +24,11 @@ AnalyzerServices AnalyzerServices::real() {
     services.readHealth = [](const std::filesystem::path& path) {
         return OndelCore::health::DiskHealth::read(path);
     };
-    services.driveIdentity = RunRecord::identityOf;
+    services.driveIdentity = [](const std::filesystem::path& volumeURL) {
+        const auto ask = [volumeURL] { return RunRecord::identityOf(volumeURL); };
+        return OndelCore::platform::answerWithin(OndelCore::platform::volumePatience, ask)
+            .value_or(DriveIdentity());
+    };
     services.now = [] { return QDateTime::currentDateTimeUtc(); };
     return services;
 }

@@ -2,6 +2,7 @@
 
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/health/DiskSMART.h"
+#include "OndelCore/platform/AnswerWithin.h"
 #include "OndelCore/volumes/Location.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
@@ -9,6 +10,7 @@
 
 #include <QDateTime>
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -25,12 +27,16 @@ struct AnalyzerServices {
         runBenchmark;
     /// See BenchmarkEngine::cleanupOrphans. Threads: called on a thread of its own.
     std::function<void(const std::filesystem::path& folder)> cleanupOrphans;
+    /// See VolumeInfo::load and VolumeCapabilities::probe. Threads: called on a thread of their own.
     std::function<std::optional<OndelCore::volumes::VolumeInfo>(const OndelCore::volumes::Location&)>
         loadVolume;
     std::function<std::optional<OndelCore::volumes::VolumeCapabilities>(const OndelCore::volumes::Location&)>
         probeCapabilities;
+    /// How long a selection waits for them.
+    std::chrono::milliseconds volumePatience = OndelCore::platform::volumePatience;
     /// See DiskHealth::read. Threads: called on a thread of its own.
     std::function<std::optional<OndelCore::health::DiskSMART>(const std::filesystem::path&)> readHealth;
+    /// See DriveInfo::identity.
     RunRecord::IdentityOf driveIdentity;
     /// See HistoryStore.
     std::optional<std::filesystem::path> historyFolder;

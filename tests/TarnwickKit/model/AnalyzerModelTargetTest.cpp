@@ -142,6 +142,34 @@ TEST_F(AnalyzerModelTarget, OnlyTheLatestHealthReadLands) {
     EXPECT_EQ(kinds, QStringList({"quick", "none", "next"}));
 }
 
+TEST_F(AnalyzerModelTarget, GoesOnWithoutAVolumeThatHangsAndTakesItsFactsWhenTheyCome) {
+    const auto gate = std::make_shared<std::latch>(1);
+    services.volumePatience = std::chrono::milliseconds(1);
+    services.loadVolume = [gate](const OndelCore::volumes::Location& place) {
+        gate->wait();
+        VolumeInfo info;
+        info.volumeURL = place.path;
+        return std::optional(info);
+    };
+    services.probeCapabilities = [](const auto&) {
+        VolumeCapabilities answer;
+        answer.optimalIOSize = 65536;
+        return std::optional(answer);
+    };
+    AnalyzerModel model(services);
+    int changes = 0;
+    QObject::connect(&model, &AnalyzerModel::volumeChanged, &model, [&] { ++changes; });
+    model.select(std::filesystem::path("/hangs"));
+    model.select(std::filesystem::path("/hangs too"));
+    EXPECT_FALSE(model.volumeInfo() || model.capabilities());
+    EXPECT_TRUE(model.canRun());
+    gate->count_down();
+    turnUntil([&] { return model.volumeInfo().has_value(); });
+    EXPECT_EQ(model.volumeInfo()->volumeURL, "/hangs too");
+    EXPECT_EQ(model.readBlock(), 65536);
+    EXPECT_EQ(changes, 3) << "what the first one told is dropped";
+}
+
 TEST_F(AnalyzerModelTarget, AReadMayOutliveTheModel) {
     const auto gate = std::make_shared<std::latch>(1);
     const auto ended = std::make_shared<std::latch>(1);

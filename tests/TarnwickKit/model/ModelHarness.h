@@ -57,6 +57,7 @@ struct Engine {
         services.cleanupOrphans = [](const std::filesystem::path&) {};
         services.loadVolume = [](const auto&) { return std::nullopt; };
         services.probeCapabilities = [](const auto&) { return std::nullopt; };
+        services.volumePatience = std::chrono::hours(1);
         services.readHealth = [](const auto&) { return std::nullopt; };
         services.driveIdentity = [](const auto&) { return DriveIdentity(); };
         services.historyFolder = history.path();

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <chrono>
+#include <future>
+#include <optional>
+#include <thread>
+#include <type_traits>
+#include <utility>
+
+namespace OndelCore::platform {
+
+/// How long people are made to wait for a volume that may never answer: the server is gone, the FUSE program
+/// hangs. Volumes that are well answer in a hundredth of it.
+constexpr std::chrono::milliseconds volumePatience{500};
+
+/// What `question` answers, put on a thread of its own and waited for no longer than `patience`.
+/// Threads: any. Owner: a question that hangs keeps its thread and what it captured; nothing waits for it,
+/// the end of the process included. Fails: absent when the time is up; throws what the question throws.
+template <typename Question>
+std::optional<std::invoke_result_t<Question>> answerWithin(std::chrono::milliseconds patience,
+                                                           Question question) {
+    std::packaged_task<std::invoke_result_t<Question>()> task(std::move(question));
+    auto answer = task.get_future();
+    std::thread(std::move(task)).detach();
+    if (answer.wait_for(patience) != std::future_status::ready)
+        return std::nullopt;
+    return answer.get();
+}
+
+} // namespace OndelCore::platform
