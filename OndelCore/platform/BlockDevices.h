@@ -34,6 +34,9 @@ struct BlockStack {
 /// Threads: any. Fails: absent if the device tree has no block device of this number.
 std::optional<BlockDevice> blockDevice(dev_t number, const std::filesystem::path& sysfs = "/sys");
 
+/// The same by its name below "/dev". Other names of its node, such as "mapper/vault", are not known here.
+std::optional<BlockDevice> blockDeviceNamed(std::string name, const std::filesystem::path& sysfs = "/sys");
+
 /// The disk that a partition lies on; any other device as it is.
 BlockDevice wholeDevice(const BlockDevice& device);
 

@@ -5,7 +5,9 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace OndelCore::platform {
 
@@ -14,11 +16,14 @@ namespace OndelCore::platform {
 using DeviceProperties = std::map<std::string, std::string, std::less<>>;
 using DevicePropertySource = std::function<DeviceProperties(dev_t)>;
 
+/// Fails: absent if there is no entry of this name.
+std::optional<std::string> propertyIn(const DeviceProperties& properties, std::string_view name);
+
 /// What the device database (udev) says of a block device. Threads: any. Fails: no entries.
 DeviceProperties databaseProperties(dev_t device);
 
-/// What the device's own first sectors say: ID_FS_LABEL, ID_FS_TYPE, ID_PART_ENTRY_NAME. Reads the device,
-/// hence only where this process may. Threads: any. Fails: no entries.
+/// What the device's own first sectors say: ID_FS_LABEL, ID_FS_TYPE. Reads the device, hence only where this
+/// process may. Threads: any. Fails: no entries.
 DeviceProperties superblockProperties(dev_t device);
 
 /// Where the answers about volumes and drives come from: the real system, unless a caller hands in something

@@ -1,4 +1,5 @@
 #include "OndelCore/platform/linux/AtaPassThrough.h"
+#include "OndelCore/platform/linux/DriveBus.h"
 #include "OndelCore/platform/linux/DriveReaders.h"
 
 #include <algorithm>
@@ -31,19 +32,16 @@ bool listsAtaInformation(DriveCalls& calls, const FileDescriptor& drive) {
     return std::find(pages.begin(), pages.end(), ataInformation) != pages.end();
 }
 
-/// Whether the system already knows that the disk takes ATA commands, told by the translator's vendor text
-/// (SAT-2, 8.1.3), by the page that the kernel keeps, or by the device database, which asked the disk
+/// Whether the system already knows that the disk takes ATA commands, told by the translator's vendor text,
+/// by the page that the kernel keeps, or by the device database, which asked the disk
 /// itself.
 bool isKnownAsAta(const BlockDevice& disk, const DevicePropertySource& database) {
-    const auto vendor = readAttribute(disk.folder / "device/vendor");
-    if (vendor && vendor->substr(0, vendor->find_last_not_of(' ') + 1) == "ATA")
+    if (hasAtaForVendor(disk))
         return true;
     std::error_code ignored;
     if (std::filesystem::exists(disk.folder / "device/vpd_pg89", ignored))
         return true;
-    const DeviceProperties properties = database(disk.number);
-    const auto known = properties.find("ID_ATA");
-    return known != properties.end() && known->second == "1";
+    return propertyIn(database(disk.number), "ID_ATA") == "1";
 }
 
 /// Sticks and card readers are not asked for pages that many of them stumble over.

@@ -30,9 +30,8 @@ std::optional<dev_t> numberIn(const fs::path& folder) {
 }
 
 /// The device tree writes '!' where the name below "/dev" has a '/'.
-std::string nameOf(const fs::path& folder) {
-    std::string name = folder.filename().string();
-    std::replace(name.begin(), name.end(), '!', '/');
+std::string exchanged(std::string name, char from, char to) {
+    std::replace(name.begin(), name.end(), from, to);
     return name;
 }
 
@@ -45,7 +44,7 @@ std::optional<BlockDevice> deviceAt(const fs::path& link) {
     if (!number)
         return std::nullopt;
     return BlockDevice{.number = *number,
-                       .name = nameOf(folder),
+                       .name = exchanged(folder.filename(), '!', '/'),
                        .folder = folder,
                        .isPartition = fs::exists(folder / "partition", failed)};
 }
@@ -113,10 +112,8 @@ std::vector<BlockDevice> devicesOfZfsPool(const std::string& pool, const SystemS
         if (!device)
             continue;
         const DeviceProperties properties = sources.database(device->number);
-        const auto type = properties.find("ID_FS_TYPE");
-        const auto label = properties.find("ID_FS_LABEL");
-        if (type != properties.end() && type->second == "zfs_member" && label != properties.end() &&
-            label->second == pool)
+        if (propertyIn(properties, "ID_FS_TYPE") == "zfs_member" &&
+            propertyIn(properties, "ID_FS_LABEL") == pool)
             devices.push_back(*device);
     }
     return devices;
@@ -164,6 +161,10 @@ std::optional<BlockDevice> blockDevice(dev_t number, const fs::path& sysfs) {
     std::error_code failed;
     // One system call for a number without a device, where resolving the path would take one per folder.
     return fs::is_symlink(link, failed) ? deviceAt(link) : std::nullopt;
+}
+
+std::optional<BlockDevice> blockDeviceNamed(std::string name, const fs::path& sysfs) {
+    return deviceAt(sysfs / "class" / "block" / exchanged(std::move(name), '/', '!'));
 }
 
 BlockDevice wholeDevice(const BlockDevice& device) {

@@ -48,6 +48,11 @@ void copyTag(blkid_probe probe, const char* tag, const char* name, DevicePropert
 
 } // namespace
 
+std::optional<std::string> propertyIn(const DeviceProperties& properties, std::string_view name) {
+    const auto found = properties.find(name);
+    return found == properties.end() ? std::nullopt : std::optional(found->second);
+}
+
 DeviceProperties databaseProperties(dev_t number) {
     DeviceProperties properties;
     const std::unique_ptr<udev, Unref> context(udev_new());
@@ -65,8 +70,8 @@ DeviceProperties databaseProperties(dev_t number) {
     }
     // The plain forms have lost characters; the encoded ones beside them have all.
     for (const char* name : {"ID_FS_LABEL", "ID_VENDOR", "ID_MODEL"})
-        if (const auto encoded = properties.find(std::string(name) + "_ENC"); encoded != properties.end())
-            properties[name] = decodeEscapes(encoded->second);
+        if (const auto encoded = propertyIn(properties, std::string(name) + "_ENC"))
+            properties[name] = decodeEscapes(*encoded);
     if (const auto partition = properties.find("ID_PART_ENTRY_NAME"); partition != properties.end())
         partition->second = decodeEscapes(partition->second);
     return properties;

@@ -32,12 +32,6 @@ bool isNumbered(std::string_view name, std::string_view prefix) {
            std::isdigit(static_cast<unsigned char>(name[prefix.size()]));
 }
 
-std::string trimmed(std::string text) {
-    text.erase(0, text.find_first_not_of(" \t\n"));
-    text.erase(text.find_last_not_of(" \t\n") + 1);
-    return text;
-}
-
 /// A port that leads out of the case (Thunderbolt, USB4) marks what is plugged into it as removable.
 bool isBehindExternalPort(fs::path folder) {
     for (; folder.has_relative_path(); folder = folder.parent_path())
@@ -82,6 +76,11 @@ DriveBus cardBus(const BlockDevice& disk) {
 
 } // namespace
 
+bool hasAtaForVendor(const BlockDevice& wholeDisk) {
+    const std::string vendor = readAttribute(wholeDisk.folder / "device/vendor").value_or("");
+    return std::string_view(vendor).substr(0, vendor.find_last_not_of(' ') + 1) == "ATA";
+}
+
 DriveBus busOfDisk(const BlockDevice& wholeDisk) {
     if (isNumbered(wholeDisk.name, "nvme"))
         return nvmeBus(wholeDisk);
@@ -97,9 +96,8 @@ DriveBus busOfDisk(const BlockDevice& wholeDisk) {
             continue;
         if (!rule.isExternal && isBehindExternalPort(wholeDisk.folder.parent_path()))
             return {"Thunderbolt", true};
-        // A SAS controller speaks SATA to a disk whose vendor reads so.
-        if (rule.bus == "SAS" &&
-            trimmed(readAttribute(wholeDisk.folder / "device/vendor").value_or("")) == "ATA")
+        // A SAS controller speaks SATA to such a disk.
+        if (rule.bus == "SAS" && hasAtaForVendor(wholeDisk))
             return {"SATA", false};
         return {std::string(rule.bus), rule.isExternal};
     }

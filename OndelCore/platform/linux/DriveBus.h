@@ -16,4 +16,8 @@ struct DriveBus {
 /// Threads: any. Fails: no name, not external.
 DriveBus busOfDisk(const BlockDevice& wholeDisk);
 
+/// Whether the SCSI layer puts the word for an ATA disk behind a translator where a vendor's name stands
+/// (SAT-2, 8.1.3). Threads: any. Fails: false.
+bool hasAtaForVendor(const BlockDevice& wholeDisk);
+
 } // namespace OndelCore::platform

@@ -20,20 +20,14 @@ constexpr std::array protocolNames = {
     ProtocolName{"cciss", "SCSI"},
 };
 
-std::optional<std::string> valueOf(const DeviceProperties& properties, std::string_view name) {
-    const auto found = properties.find(name);
-    return found == properties.end() ? std::nullopt : std::optional(found->second);
-}
-
 std::optional<std::string> firstOf(std::optional<std::string> first, std::optional<std::string> second) {
     return first ? std::move(first) : std::move(second);
 }
 
-/// The vendor's name as the disk itself gives it. A PCI or virtio number is none, nor is the word by which a
-/// SCSI layer says that the disk speaks ATA.
+/// The vendor's name as the disk itself gives it. A PCI or virtio number is none.
 std::optional<std::string> vendorAttribute(const BlockDevice& disk) {
     auto vendor = readAttribute(disk.folder / "device/vendor");
-    if (vendor && (vendor->starts_with("0x") || vendor->starts_with("ATA  ") || vendor == "ATA"))
+    if ((vendor && vendor->starts_with("0x")) || hasAtaForVendor(disk))
         return std::nullopt;
     return vendor;
 }
@@ -43,7 +37,7 @@ std::optional<std::string> modelAttribute(const BlockDevice& disk) {
 }
 
 std::optional<std::string> protocolIn(const DeviceProperties& properties) {
-    const auto bus = valueOf(properties, "ID_BUS");
+    const auto bus = propertyIn(properties, "ID_BUS");
     for (const ProtocolName& row : protocolNames)
         if (bus == row.inDatabase)
             return std::string(row.shown);
@@ -52,9 +46,9 @@ std::optional<std::string> protocolIn(const DeviceProperties& properties) {
 
 DriveDescription describe(const BlockDevice& disk, const SystemSources& sources) {
     const DeviceProperties properties = sources.database(disk.number);
-    return {.deviceVendor = firstOf(valueOf(properties, "ID_VENDOR"), vendorAttribute(disk)),
-            .deviceModel = firstOf(valueOf(properties, "ID_MODEL"),
-                                   firstOf(valueOf(properties, "ID_NAME"), modelAttribute(disk))),
+    return {.deviceVendor = firstOf(propertyIn(properties, "ID_VENDOR"), vendorAttribute(disk)),
+            .deviceModel = firstOf(propertyIn(properties, "ID_MODEL"),
+                                   firstOf(propertyIn(properties, "ID_NAME"), modelAttribute(disk))),
             .busName = busOfDisk(disk).name,
             .deviceProtocol = protocolIn(properties)};
 }

@@ -3,7 +3,6 @@
 #include "OndelCore/platform/linux/DriveReaders.h"
 
 #include <sys/stat.h>
-#include <sys/sysmacros.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -12,17 +11,15 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// The device's number by its node; where the process sees no nodes (a sandbox), by the device tree.
-std::optional<dev_t> deviceNumber(const std::string& name, const SmartSources& sources) {
+/// The device's number by its node; where the process sees no nodes (a sandbox), by the device tree. Of a file
+/// system's several devices, "sda1:/dev/sdb1", the first counts.
+std::optional<dev_t> deviceNumber(const std::string& names, const SmartSources& sources) {
+    const std::string name = names.substr(0, names.find(":/"));
     struct stat facts {};
     if (stat((sources.devices / name).c_str(), &facts) == 0)
         return S_ISBLK(facts.st_mode) ? std::optional(facts.st_rdev) : std::nullopt;
-    const auto text = readAttribute(sources.system.sysfs / "class/block" / name / "dev");
-    unsigned majorNumber = 0;
-    unsigned minorNumber = 0;
-    if (!text || std::sscanf(text->c_str(), "%u:%u", &majorNumber, &minorNumber) != 2)
-        return std::nullopt;
-    return makedev(majorNumber, minorNumber);
+    const auto device = blockDeviceNamed(name, sources.system.sysfs);
+    return device ? std::optional(device->number) : std::nullopt;
 }
 
 /// The name of the layer that drives the disk: "nvme", "scsi", "virtio", "mmc", …; empty: none.

@@ -20,11 +20,8 @@ namespace OndelCore::platform {
 
 namespace {
 
-std::optional<std::string> nonEmpty(const DeviceProperties& properties, std::string_view name) {
-    const auto found = properties.find(name);
-    if (found == properties.end() || found->second.empty())
-        return std::nullopt;
-    return found->second;
+std::optional<std::string> nonEmpty(std::optional<std::string> text) {
+    return text && text->empty() ? std::nullopt : std::move(text);
 }
 
 /// The label as the mounted file system itself has it, which needs no right to read the device.
@@ -47,14 +44,15 @@ std::optional<std::string> labelOfMounted(const Mount& mount) {
 std::optional<std::string> labelOnDevice(const Mount& mount, const BlockDevice& device,
                                          const SystemSources& sources) {
     DeviceProperties properties = sources.database(device.number);
+    // An entry for the type means that the first sectors have been looked at: no label is no label then.
     if (!properties.contains("ID_FS_TYPE")) {
         if (auto label = labelOfMounted(mount))
             return label;
         properties.merge(sources.superblock(device.number));
     }
-    if (auto label = nonEmpty(properties, "ID_FS_LABEL"))
+    if (auto label = nonEmpty(propertyIn(properties, "ID_FS_LABEL")))
         return label;
-    if (auto name = nonEmpty(properties, "ID_PART_ENTRY_NAME"))
+    if (auto name = nonEmpty(propertyIn(properties, "ID_PART_ENTRY_NAME")))
         return name;
     return readUeventValue(device.folder, "PARTNAME");
 }
