@@ -3,8 +3,11 @@
 #include "TarnwickKit/model/DriveInfo.h"
 #include "TarnwickKit/model/SMARTReport.h"
 #include "examples/host/Command.h"
+#include "examples/host/DisplayText.h"
 #include "examples/host/Folder.h"
 #include "examples/host/Output.h"
+
+#include <algorithm>
 
 using OndelCore::health::DiskHealth;
 using OndelCore::volumes::Location;
@@ -31,7 +34,9 @@ int execute(const CommandLine& line) {
         return failed;
     }
     const QString text = SMARTReport::text(*reading.smart, driveName(folder), QDateTime::currentDateTime());
-    print(text.toStdString());
+    QStringList lines = text.split('\n');
+    std::ranges::transform(lines, lines.begin(), harmless); // a drive's name may hold anything
+    print(lines.join('\n').toStdString());
     return done;
 }
 

@@ -7,17 +7,19 @@
 namespace examples::host {
 
 QString textColumns(const std::vector<TextRow>& rows) {
-    std::vector<qsizetype> widths;
+    std::vector<int> widths;
     for (const TextRow& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
         for (std::size_t column = 0; column < row.size(); ++column)
-            widths[column] = std::max(widths[column], row[column].size());
+            widths[column] = std::max(widths[column], columnsOf(harmless(row[column])));
     }
     QString text;
     for (const TextRow& row : rows) {
         QString line;
-        for (std::size_t column = 0; column < row.size(); ++column)
-            line += harmless(row[column]).leftJustified(widths[column] + 2);
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            const QString cell = harmless(row[column]);
+            line += cell + QString(widths[column] + 2 - columnsOf(cell), QLatin1Char(' '));
+        }
         while (line.endsWith(QLatin1Char(' ')))
             line.chop(1);
         text += line + QLatin1Char('\n');
