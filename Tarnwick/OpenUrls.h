@@ -18,8 +18,8 @@ struct OpenUrls {
     std::optional<std::filesystem::path> folder; ///< the first of the list, without symbolic links
     std::vector<std::filesystem::path> runs; ///< in the order of the list; what they hold is not looked at
 
-    /// Blocks on the file system, for half a second at most for each URL. On one that hangs a run file is left
-    /// out, and anything else counts as a folder.
+    /// Blocks on the file system, for half a second at most for each URL. On one that hangs a run file is
+    /// left out, and anything else counts as a folder.
     static OpenUrls from(const std::vector<std::string>& urls);
 
     bool isEmpty() const { return !folder && runs.empty(); }

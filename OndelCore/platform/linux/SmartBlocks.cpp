@@ -11,8 +11,8 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// The device's number by its node; where the process sees no nodes (a sandbox), by the device tree. Of a file
-/// system's several devices, "sda1:/dev/sdb1", the first counts.
+/// The device's number by its node; where the process sees no nodes (a sandbox), by the device tree. Of a
+/// file system's several devices, "sda1:/dev/sdb1", the first counts.
 std::optional<dev_t> deviceNumber(const std::string& names, const SmartSources& sources) {
     const std::string name = names.substr(0, names.find(":/"));
     struct stat facts {};

@@ -1,8 +1,11 @@
 #include "OndelCore/platform/TotalSizes.h"
 
-#include <gtest/gtest.h>
+#include "OndelCore/platform/FileDescriptor.h"
+#include "support/TemporaryFolder.h"
 
-#include <future>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace OndelCore::platform;
 using namespace std::chrono_literals;
@@ -10,28 +13,23 @@ using namespace std::chrono_literals;
 namespace {
 
 TEST(TotalSizes, DoNotWaitForAServerThatHangs) {
-    // A name of its own, since the thread of an earlier turn may still be about to end.
-    static int turn = 0;
-    const std::filesystem::path hanging = "/hangs" + std::to_string(++turn);
-    std::promise<void> release;
-    const std::shared_future<void> released = release.get_future().share();
-    std::promise<void> hangs; // set twice, it throws: a hanging question must not be put again
-    std::promise<void> finished;
+    const test::TemporaryFolder folder;
+    const std::filesystem::path hanging = folder.path() / "hangs";
+    ASSERT_EQ(mkfifo(hanging.c_str(), 0600), 0);
     const SizeAnswer answer = [&](const std::filesystem::path& path) -> std::optional<std::int64_t> {
-        if (path != hanging)
-            return path.native().size();
-        hangs.set_value();
-        released.wait();
-        finished.set_value();
-        return 99;
+        if (path == hanging)
+            const FileDescriptor reader(open(path.c_str(), O_RDONLY | O_CLOEXEC)); // until somebody writes
+        return path == "/gone" ? std::nullopt : std::optional<std::int64_t>(path.native().size());
     };
-    const std::vector<std::optional<std::int64_t>> onlyLocal{std::nullopt, 6};
-    EXPECT_EQ(totalSizes({{hanging, true}, {"/local", false}}, 1ms, answer), onlyLocal);
-    hangs.get_future().wait();
-    const std::vector<std::optional<std::int64_t>> allOthers{std::nullopt, 4};
-    EXPECT_EQ(totalSizes({{hanging, true}, {"/nfs", true}}, 1min, answer), allOthers);
-    release.set_value();
-    finished.get_future().wait();
+    using Sizes = std::vector<std::optional<std::int64_t>>;
+    EXPECT_EQ(totalSizes({{hanging, true}, {"/local", false}}, 1ms, answer), (Sizes{std::nullopt, 6}));
+    // Put again, the question would keep this waiting.
+    std::vector<SizeQuestion> questions(40, SizeQuestion{"/nfs", true});
+    questions.insert(questions.begin(), {{hanging, true}, {"/gone", true}});
+    Sizes expected(42, 4);
+    expected[0] = expected[1] = std::nullopt;
+    EXPECT_EQ(totalSizes(questions, 24h, answer), expected);
+    const FileDescriptor writer(open(hanging.c_str(), O_WRONLY | O_CLOEXEC));
 }
 
 } // namespace
