@@ -1,12 +1,14 @@
 #include "OndelDrawing/Card.h"
 
+#include "OndelDrawing/CardPieces.h"
 #include "OndelDrawing/SnappedNode.h"
 
 #include <QQuickWindow>
 #include <QSGImageNode>
+#include <QSGRectangleNode>
+#include <QSGRendererInterface>
 #include <QSGTexture>
 
-#include <array>
 #include <cmath>
 #include <memory>
 
@@ -14,67 +16,43 @@ namespace OndelDrawing {
 
 namespace {
 
-/// A tile's picture, laid out as up to nine pieces. The software renderer knows the place of pieces that come
-/// later only by a parent that is a transform.
+/// A card's pieces. The software renderer knows the place of pieces that come later only by a parent that is
+/// a transform.
 class CardNode final : public SnappedNode {
 public:
     void show(const CardTile& tile, QSize card, double scale, QQuickWindow& window) {
         setPlace({}, scale);
+        removePieces();
         if (tile.image.cacheKey() != m_shown || !m_texture) {
-            removePieces();
             m_texture.reset(window.createTextureFromImage(tile.image));
             m_shown = tile.image.cacheKey();
         }
-        const Edges across = edges(tile.image.width(), card.width(), tile.outside.left(),
-                                   tile.outside.right(), tile.fixed.left(), tile.fixed.right());
-        const Edges down = edges(tile.image.height(), card.height(), tile.outside.top(),
-                                 tile.outside.bottom(), tile.fixed.top(), tile.fixed.bottom());
-        QSGNode* piece = firstChild();
-        for (const Span& row : down)
-            for (const Span& column : across) {
-                if (row.length <= 0 || column.length <= 0)
-                    continue;
-                auto* image = static_cast<QSGImageNode*>(piece ? piece : addPiece(window));
-                image->setSourceRect(
-                    QRectF(column.source, row.source, column.sourceLength, row.sourceLength));
-                image->setRect(QRectF(column.start / scale, row.start / scale, column.length / scale,
-                                      row.length / scale));
-                piece = image->nextSibling();
-            }
-        while (piece) {
-            QSGNode* next = piece->nextSibling();
-            removeChildNode(piece);
-            delete piece;
-            piece = next;
-        }
+        for (const CardPiece& piece : cardPieces(tile, card))
+            add(piece, scale, window);
     }
 
 private:
-    struct Span {
-        double source, sourceLength, start, length;
-    };
-    using Edges = std::array<Span, 3>;
-
-    /// Where the three parts of one direction come from and go to.
-    static Edges edges(int tile, int card, int before, int after, int fixedBefore, int fixedAfter) {
-        const int total = card + before + after;
-        if (total <= tile)
-            return {Span{0, double(tile), double(-before), double(total)}, {}, {}};
-        // The middle of the three pixels that go on, so that no filter reaches what lies beside them.
-        const double stretched = fixedBefore + 1;
-        return {Span{0, double(fixedBefore), double(-before), double(fixedBefore)},
-                Span{stretched, 1, double(fixedBefore - before), double(total - fixedBefore - fixedAfter)},
-                Span{double(tile - fixedAfter), double(fixedAfter), double(card + after - fixedAfter),
-                     double(fixedAfter)}};
-    }
-
-    QSGImageNode* addPiece(QQuickWindow& window) {
-        QSGImageNode* image = window.createImageNode();
-        image->setTexture(m_texture.get());
-        image->setFiltering(QSGTexture::Linear);
-        image->setFlag(OwnedByParent);
-        appendChildNode(image);
-        return image;
+    void add(const CardPiece& piece, double scale, QQuickWindow& window) {
+        const QRectF place(QPointF(piece.place.topLeft()) / scale, QSizeF(piece.place.size()) / scale);
+        // The software renderer softens the edges of rectangles, which would show as seams, and fills with an
+        // image of one pixel as fast.
+        const bool isSoftware = window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
+        QSGNode* node = nullptr;
+        if (piece.filled.isValid() && !isSoftware) {
+            QSGRectangleNode* rectangle = window.createRectangleNode();
+            rectangle->setColor(piece.filled);
+            rectangle->setRect(place);
+            node = rectangle;
+        } else {
+            QSGImageNode* image = window.createImageNode();
+            image->setTexture(m_texture.get());
+            image->setFiltering(QSGTexture::Linear);
+            image->setSourceRect(piece.source);
+            image->setRect(place);
+            node = image;
+        }
+        node->setFlag(OwnedByParent);
+        appendChildNode(node);
     }
 
     void removePieces() {
