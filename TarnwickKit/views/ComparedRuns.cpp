@@ -2,7 +2,7 @@
 
 #include "TarnwickKit/model/Comparison.h"
 #include "TarnwickKit/model/Format.h"
-#include "TarnwickKit/views/RunFacts.h"
+#include "TarnwickKit/views/LegibleText.h"
 
 namespace TarnwickKit::views {
 
@@ -12,7 +12,7 @@ QVariantList ComparedRuns::entries() const {
     QVariantList all;
     for (const model::RunRecord& run : runs)
         all << QVariant::fromValue(
-            ComparedRun{.legend = legible(run.screenshotTitle()) + QStringLiteral(" · ") +
+            ComparedRun{.legend = keptApart(legible(run.screenshotTitle())) + QStringLiteral(" · ") +
                                   model::Format::shortStamp(run.date),
                         .parameters = legible(ComparisonChart::parameterSummary(run))});
     return all;

@@ -4,6 +4,7 @@
 #include "OndelCore/platform/PrivateFolder.h"
 #include "OndelCore/platform/ReplaceFile.h"
 #include "TarnwickKit/views/CardView.h"
+#include "TarnwickKit/views/LegibleText.h"
 #include "TarnwickKit/views/PngEncoding.h"
 #include "TarnwickKit/views/TarnwickFonts.h"
 #include "TarnwickKit/views/ViewPicture.h"
@@ -26,16 +27,6 @@ constexpr std::string_view extension = ".png";
 
 const auto titlePrefix = QStringLiteral("Ondel Tarnwick — ");
 constexpr qsizetype longestFileName = 255; // bytes; NAME_MAX of every file system in use
-
-/// What leads to another folder, breaks a line, or turns the reading direction, so that a name ends as
-/// another.
-bool isUnfit(QChar character) {
-    const char16_t code = character.unicode();
-    const bool turnsDirection = (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
-    const auto category = character.category();
-    return code == u'/' || turnsDirection || category == QChar::Other_Control ||
-           category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
-}
 
 /// The longest beginning of `text` that has at most `bytes` in UTF-8 and ends with a whole character.
 QString cut(const QString& text, qsizetype bytes) {
@@ -75,7 +66,7 @@ ImageFile written(QImage image, const QString& baseName) {
 std::string ReportImage::fileName(const QString& baseName) {
     QString name = baseName;
     for (QChar& character : name)
-        if (isUnfit(character))
+        if (character == u'/' || disturbsLine(character))
             character = u'-';
     if (name.startsWith(u'.'))
         name[0] = u'-';

@@ -1,6 +1,7 @@
 #include "TarnwickKit/views/RunFacts.h"
 
 #include "TarnwickKit/model/Format.h"
+#include "TarnwickKit/views/LegibleText.h"
 
 #include <QtNumeric>
 
@@ -8,11 +9,6 @@ namespace TarnwickKit::views {
 
 using model::RunRecord;
 namespace Format = model::Format;
-
-QString legible(const QString& text) {
-    constexpr qsizetype most = 300;
-    return text.left(most);
-}
 
 namespace {
 

@@ -10,10 +10,6 @@
 
 namespace TarnwickKit::views {
 
-/// The beginning of a text from outside: a run file can hold megabytes of a title, over which the toolkit
-/// would think for seconds.
-QString legible(const QString& text);
-
 /// A labelled figure as a list shows it.
 struct InfoItem {
     Q_GADGET

@@ -1,6 +1,7 @@
 #include "TarnwickKit/views/TargetFacts.h"
 
 #include "TarnwickKit/model/Format.h"
+#include "TarnwickKit/views/LegibleText.h"
 #include "TarnwickKit/views/RunFacts.h"
 
 #include <QFile>
@@ -54,7 +55,7 @@ void TargetFacts::setAnalyzer(AnalyzerModel* analyzer) {
 }
 
 QString TargetFacts::volumeName() const {
-    return m_analyzer && m_analyzer->volumeInfo() ? m_analyzer->volumeInfo()->name : QString();
+    return m_analyzer && m_analyzer->volumeInfo() ? legible(m_analyzer->volumeInfo()->name) : QString();
 }
 
 QString TargetFacts::volumeLine() const {
@@ -120,8 +121,9 @@ QVariantList TargetFacts::health() const {
 QVariantList TargetFacts::mountedVolumes() {
     QVariantList items;
     for (const model::VolumeMenuItem& volume : AnalyzerModel::mountedVolumeItems()) {
+        const QString name = legible(volume.name);
         const QString label =
-            volume.detail.isEmpty() ? volume.name : volume.name + QStringLiteral("  —  ") + volume.detail;
+            volume.detail.isEmpty() ? name : keptApart(name) + QStringLiteral("  —  ") + volume.detail;
         items.append(QVariant::fromValue(VolumeItem{
             QUrl::fromLocalFile(QFile::decodeName(volume.url.c_str())), label, volume.systemImage}));
     }
