@@ -9,6 +9,8 @@ Item {
 
     property color color: "gray"
     property int step: 0
+    /// Otherwise somebody else counts its steps.
+    property bool turnsItself: true
 
     implicitWidth: 16
     implicitHeight: 16
@@ -40,7 +42,7 @@ Item {
     Timer {
         interval: 83
         repeat: true
-        running: spinner.visible
+        running: spinner.visible && spinner.turnsItself
         onTriggered: spinner.step = (spinner.step + 1) % 8
     }
 }

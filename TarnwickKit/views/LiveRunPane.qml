@@ -13,6 +13,8 @@ CardFrame {
     header: [
         Spinner {
             color: PaletteKey.palette.text3
+            turnsItself: false
+            step: live.beat % 8
         },
         Words {
             Layout.fillWidth: true
@@ -33,6 +35,11 @@ CardFrame {
         }
     ]
 
+    LiveRun {
+        id: live
+
+        analyzer: pane.analyzer
+    }
     ColumnLayout {
         Layout.leftMargin: 18
         Layout.rightMargin: 18
@@ -43,11 +50,11 @@ CardFrame {
         ProgressTrack {
             Layout.fillWidth: true
             label: pane.analyzer.liveTestTitle
-            to: Math.max(1, pane.analyzer.totalBytes)
-            value: pane.analyzer.completedBytes
+            to: Math.max(1, live.totalBytes)
+            value: live.completedBytes
         }
         Words {
-            text: qsTr("%1 of %2").arg(Format.bytes(pane.analyzer.completedBytes)).arg(Format.bytes(pane.analyzer.totalBytes))
+            text: qsTr("%1 of %2").arg(Format.bytes(live.completedBytes)).arg(Format.bytes(live.totalBytes))
             font: Typeface.mono(11)
             color: PaletteKey.palette.text3
         }
@@ -61,7 +68,7 @@ CardFrame {
             live: true
 
             LiveSeries {
-                analyzer: pane.analyzer
+                run: live
                 name: pane.analyzer.liveTestTitle
                 color: chart.reads ? chart.PaletteKey.palette.teal : chart.PaletteKey.palette.coral
                 fill: chart.reads ? chart.PaletteKey.palette.readFill : chart.PaletteKey.palette.writeFill

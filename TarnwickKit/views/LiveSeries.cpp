@@ -1,26 +1,18 @@
 #include "TarnwickKit/views/LiveSeries.h"
 
-#include "TarnwickKit/model/AnalyzerModel.h"
-#include "TarnwickKit/views/CurvePoints.h"
-
 namespace TarnwickKit::views {
 
-LiveSeries::LiveSeries(QObject* parent)
-    : ChartSeries(parent) {}
-
-LiveSeries::~LiveSeries() = default;
-
-model::AnalyzerModel* LiveSeries::analyzer() const { return m_analyzer; }
-
-void LiveSeries::setAnalyzer(model::AnalyzerModel* analyzer) {
-    if (!turnTo(m_analyzer, analyzer, this))
+void LiveSeries::setRun(LiveRun* run) {
+    if (run == m_run)
         return;
-    if (analyzer) {
-        const auto read = [this, analyzer] { setPoints(pointsOf(analyzer->liveSamples())); };
-        connect(analyzer, &model::AnalyzerModel::liveSamplesChanged, this, read);
-        read();
+    if (m_run)
+        m_run->disconnect(this);
+    m_run = run;
+    if (run) {
+        connect(run, &LiveRun::moved, this, [this, run] { setPoints(run->points()); });
+        setPoints(run->points());
     }
-    Q_EMIT analyzerChanged();
+    Q_EMIT runChanged();
 }
 
 } // namespace TarnwickKit::views

@@ -1,28 +1,28 @@
 #pragma once
 
 #include "TarnwickKit/views/ChartSeries.h"
-#include "TarnwickKit/views/FollowedModel.h"
+#include "TarnwickKit/views/LiveRun.h"
+
+#include <QPointer>
 
 namespace TarnwickKit::views {
 
-/// The curve of the test that runs, as the model's samples come in.
+/// The curve of the test that runs.
 class LiveSeries : public TarnwickKit::views::ChartSeries {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(
-        TarnwickKit::model::AnalyzerModel* analyzer READ analyzer WRITE setAnalyzer NOTIFY analyzerChanged)
+    Q_PROPERTY(TarnwickKit::views::LiveRun* run READ run WRITE setRun NOTIFY runChanged)
 
 public:
-    explicit LiveSeries(QObject* parent = nullptr);
-    ~LiveSeries() override;
+    using ChartSeries::ChartSeries;
 
-    model::AnalyzerModel* analyzer() const;
-    void setAnalyzer(model::AnalyzerModel* analyzer);
-    Q_SIGNAL void analyzerChanged();
+    LiveRun* run() const { return m_run; }
+    void setRun(LiveRun* run);
+    Q_SIGNAL void runChanged();
 
 private:
-    FollowedModel m_analyzer;
+    QPointer<LiveRun> m_run;
 };
 
 } // namespace TarnwickKit::views
