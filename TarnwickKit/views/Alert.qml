@@ -23,6 +23,7 @@ T.Popup {
     padding: 22
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape
+    onOpened: cancel.forceActiveFocus(Qt.TabFocusReason)
 
     T.Overlay.modal: Rectangle {
         color: Qt.rgba(0, 0, 0, 0.32)
@@ -31,6 +32,9 @@ T.Popup {
         radius: 14
         color: PaletteKey.palette.panel
         outline: PaletteKey.palette.border
+        shadowColor: PaletteKey.palette.shadow
+        shadowRadius: 22
+        shadowOffset: 16
     }
     contentItem: ColumnLayout {
         spacing: 10

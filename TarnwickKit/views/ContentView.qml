@@ -19,6 +19,9 @@ Rectangle {
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
+    FocusKeeper {
+        id: keeper
+    }
     TargetFacts {
         id: target
 
@@ -49,6 +52,7 @@ Rectangle {
                 Layout.fillHeight: true
                 analyzer: content.analyzer
                 target: target
+                keeper: keeper
             }
             Rule {
                 Layout.fillHeight: true
@@ -59,6 +63,7 @@ Rectangle {
                 Layout.fillHeight: true
                 analyzer: content.analyzer
                 target: target
+                keeper: keeper
             }
         }
     }

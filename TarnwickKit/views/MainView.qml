@@ -9,6 +9,7 @@ Rectangle {
 
     required property AnalyzerModel analyzer
     required property TargetFacts target
+    required property FocusKeeper keeper
     readonly property bool showsRun: runs.hasCurrentRun
                                      && (analyzer.phase === AnalyzerModel.Idle || analyzer.phase === AnalyzerModel.Done)
     readonly property bool showsIdle: !runs.hasCurrentRun && analyzer.phase === AnalyzerModel.Idle
@@ -26,13 +27,14 @@ Rectangle {
         // What was just asked for far down in the history stands above it.
         function onComparisonChanged(): void {
             if (main.analyzer.isComparing && main.analyzer.compareMode)
-                pane.contentY = 0;
+                pane.goToTop();
         }
     }
     ScrollPane {
         id: pane
 
         anchors.fill: parent
+        keeper: main.keeper
 
         Column {
             id: column

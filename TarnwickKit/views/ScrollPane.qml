@@ -8,7 +8,8 @@ Flickable {
     id: pane
 
     default property alias content: holder.data
-    readonly property Item focusItem: Window.activeFocusItem
+    required property FocusKeeper keeper
+    readonly property Item focusItem: keeper.last
 
     contentWidth: width
     contentHeight: holder.childrenRect.height
@@ -17,17 +18,29 @@ Flickable {
     clip: true
     interactive: contentHeight > height
 
-    /// Where the focus was in the content while it was there.
+    /// Where the control with the keyboard's focus is in the content; -1 while it is elsewhere.
     property real focusPlace: -1
+
+    function goToTop(): void {
+        contentY = 0;
+        focusPlace = Math.min(focusPlace, 0);
+    }
 
     onFocusItemChanged: {
         if (holds(focusItem)) {
             focusPlace = focusItem.mapToItem(holder, 0, 0).y;
             reveal();
-        } else if (focusPlace >= 0 && (!focusItem || !focusItem.parent)) {
-            Qt.callLater(catchFocus);
-        } else {
+        } else if (focusItem) {
             focusPlace = -1;
+        }
+    }
+    Connections {
+        target: pane.keeper
+
+        // What had the focus is gone, as a deleted row is. Who goes by keyboard goes on from what stands there now.
+        function onLost(): void {
+            if (pane.focusPlace >= 0)
+                pane.catchFocus();
         }
     }
 
@@ -38,12 +51,11 @@ Flickable {
         return ancestor === holder;
     }
 
-    /// What had the focus is gone, as a deleted row is. Who goes by keyboard goes on from what stands there now.
     function catchFocus(): void {
         let found = null;
         for (let item = holder.nextItemInFocusChain(); holds(item); item = item.nextItemInFocusChain()) {
             found = item;
-            if (item.mapToItem(holder, 0, 0).y >= focusPlace - 1)
+            if (item.mapToItem(holder, 0, item.height).y > focusPlace + 1)
                 break;
         }
         if (found)

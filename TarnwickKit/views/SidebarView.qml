@@ -9,6 +9,7 @@ Rectangle {
 
     required property AnalyzerModel analyzer
     required property TargetFacts target
+    required property FocusKeeper keeper
     /// What always stands at the foot, if anything does.
     property alias footer: foot.data
 
@@ -19,6 +20,7 @@ Rectangle {
     }
 
     ScrollPane {
+        keeper: sidebar.keeper
         anchors.top: parent.top
         anchors.left: parent.left
         anchors.right: parent.right

@@ -95,6 +95,7 @@ def goes_by_keyboard(program, folder):
         window.until("the switch off", lambda: not window.shows(window.find("Bypass cache"), "CHECKED"))
         window.keys("shift+Tab", "shift+Tab", "shift+Tab", "shift+Tab", "Return", "Up", "Return")
         window.until("the smaller size", lambda: window.find("Size").get_description() == "1 GiB")
+        check(window.until("the focus back from the menu", window.focused) == "Size", "a menu keeps the focus")
         window.keys("ctrl+Return")
         window.find("Running…", "status bar")
         window.find("Complete", "status bar")

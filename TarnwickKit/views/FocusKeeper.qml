@@ -1,0 +1,45 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// Gives the keyboard back to the control that had it when a menu or a question closes: the toolkit leaves it with
+/// nothing. If that control is gone or good for nothing, the keyboard is `lost`.
+Item {
+    id: keeper
+
+    readonly property Item focusItem: Window.activeFocusItem
+    readonly property Item root: Window.contentItem
+    readonly property Item popups: T.Overlay.overlay
+    /// The control outside of all popups that has the keyboard or had it last.
+    property Item last: null
+
+    signal lost
+
+    function isWithin(item: Item, place: Item): bool {
+        let ancestor = item;
+        while (ancestor && ancestor !== place)
+            ancestor = ancestor.parent;
+        return ancestor !== null && ancestor === place;
+    }
+    function giveBack(): void {
+        if (focusItem && focusItem !== root)
+            return;
+        if (last && isWithin(last, root) && last.visible && last.enabled)
+            last.forceActiveFocus(Qt.TabFocusReason);
+        else
+            lost();
+    }
+
+    onFocusItemChanged: {
+        if (!focusItem || focusItem === root)
+            afterwards.restart();
+        else if (!isWithin(focusItem, popups))
+            last = focusItem;
+    }
+
+    Timer {
+        id: afterwards
+
+        interval: 0
+        onTriggered: keeper.giveBack()
+    }
+}
