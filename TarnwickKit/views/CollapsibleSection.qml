@@ -3,12 +3,13 @@ import QtQuick.Layouts
 import OndelDrawing
 import TarnwickKit.views
 
-/// A heading that shows and hides what belongs to it.
+/// A heading that shows and hides what belongs to it. That need not be there before `isShown`.
 Column {
     id: section
 
     required property string label
     property bool isExpanded: true
+    readonly property bool isShown: isExpanded || body.height > 0
     property string detail: ""
     property bool moves: false // not before somebody asked for it
     property alias header: head.data
@@ -58,9 +59,10 @@ Column {
         }
     }
     Item {
+        id: body
+
         width: parent.width
         height: section.isExpanded ? holder.height : 0
-        visible: height > 0
         clip: true
 
         Behavior on height {

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import OndelDrawing
 import TarnwickKit.views
 
 /// Runs side by side: bars per metric, one colour per run.

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
@@ -14,20 +16,17 @@ Item {
     signal renamed(text: string)
 
     implicitWidth: isEditing ? 320 : button.implicitWidth
-    implicitHeight: Math.max(button.implicitHeight, field.implicitHeight)
+    implicitHeight: button.implicitHeight
 
     function edit(): void {
-        field.text = facts.customTitle;
         isEditing = true;
-        field.forceActiveFocus();
     }
-    function commit(): void {
+    function commit(draft: string, backToTitle: bool): void {
         if (!isEditing)
             return;
-        const backToTitle = field.activeFocus;
         isEditing = false;
-        if (field.text !== facts.customTitle)
-            renamed(field.text);
+        if (draft !== facts.customTitle)
+            renamed(draft);
         if (backToTitle)
             button.forceActiveFocus(Qt.OtherFocusReason);
     }
@@ -66,33 +65,35 @@ Item {
             }
         }
     }
-    T.TextField {
-        id: field
+    Repeater {
+        model: title.isEditing ? 1 : 0
 
-        width: Math.min(320, title.width)
-        implicitHeight: contentHeight
-        visible: title.isEditing
-        font: Typeface.display(16)
-        color: PaletteKey.palette.text
-        selectionColor: PaletteKey.palette.tealSoft
-        selectedTextColor: PaletteKey.palette.text
-        placeholderText: qsTr("Report title")
-        placeholderTextColor: PaletteKey.palette.text3
-        selectByMouse: true
-        Accessible.name: placeholderText
-        onAccepted: title.commit()
-        onActiveFocusChanged: if (!activeFocus) title.commit()
-        Keys.onEscapePressed: {
-            text = title.facts.customTitle;
-            title.commit();
-        }
+        T.TextField {
+            id: field
 
-        Text {
-            visible: field.text.length === 0
-            text: field.placeholderText
-            font: field.font
-            color: field.placeholderTextColor
-            Accessible.ignored: true
+            width: Math.min(320, title.width)
+            height: title.height
+            text: title.facts.customTitle
+            font: Typeface.display(16)
+            color: PaletteKey.palette.text
+            selectionColor: PaletteKey.palette.tealSoft
+            selectedTextColor: PaletteKey.palette.text
+            placeholderText: qsTr("Report title")
+            placeholderTextColor: PaletteKey.palette.text3
+            selectByMouse: true
+            Accessible.name: placeholderText
+            Component.onCompleted: forceActiveFocus()
+            onAccepted: title.commit(text, true)
+            onActiveFocusChanged: if (!activeFocus) title.commit(text, false)
+            Keys.onEscapePressed: title.commit(title.facts.customTitle, true)
+
+            Text {
+                visible: field.text.length === 0
+                text: field.placeholderText
+                font: field.font
+                color: field.placeholderTextColor
+                Accessible.ignored: true
+            }
         }
     }
 }

@@ -49,28 +49,41 @@ ColumnLayout {
             Layout.fillWidth: true
             color: PaletteKey.palette.border
         }
-        TextButton {
-            visible: !section.analyzer.compareMode && section.runs.count >= 2
-            label: qsTr("Compare")
-            onClicked: section.analyzer.toggleCompareMode()
+        Repeater {
+            model: section.analyzer.compareMode ? 0 : 1
+
+            RowLayout {
+                spacing: head.spacing
+
+                TextButton {
+                    visible: section.runs.count >= 2
+                    label: qsTr("Compare")
+                    onClicked: section.analyzer.toggleCompareMode()
+                }
+                TextButton {
+                    label: qsTr("Clear")
+                    onClicked: section.confirmClear()
+                }
+            }
         }
-        TextButton {
-            visible: !section.analyzer.compareMode
-            label: qsTr("Clear")
-            onClicked: section.confirmClear()
-        }
-        TextButton {
-            visible: section.analyzer.compareMode
-            enabled: section.analyzer.compareSelectionCount >= 2
-            label: qsTr("Compare %1").arg(section.analyzer.compareSelectionCount)
-            textFont: Typeface.text(11, Font.DemiBold)
-            textColor: PaletteKey.palette.heading
-            onClicked: section.analyzer.beginComparison()
-        }
-        TextButton {
-            visible: section.analyzer.compareMode
-            label: qsTr("Cancel")
-            onClicked: section.analyzer.toggleCompareMode()
+        Repeater {
+            model: section.analyzer.compareMode ? 1 : 0
+
+            RowLayout {
+                spacing: head.spacing
+
+                TextButton {
+                    enabled: section.analyzer.compareSelectionCount >= 2
+                    label: qsTr("Compare %1").arg(section.analyzer.compareSelectionCount)
+                    textFont: Typeface.text(11, Font.DemiBold)
+                    textColor: PaletteKey.palette.heading
+                    onClicked: section.analyzer.beginComparison()
+                }
+                TextButton {
+                    label: qsTr("Cancel")
+                    onClicked: section.analyzer.toggleCompareMode()
+                }
+            }
         }
     }
 

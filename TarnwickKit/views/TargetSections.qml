@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import TarnwickKit.views
 
@@ -8,61 +10,86 @@ Column {
     required property AnalyzerModel analyzer
     required property TargetFacts target
 
-    SidebarDivider {
-        width: parent.width
-        visible: sections.target.hasCapabilities
+    // What there is nothing to tell of, or what is folded, is not there for assistive technology either.
+    Repeater {
+        model: sections.target.hasCapabilities ? 1 : 0
+
+        Column {
+            width: sections.width
+
+            SidebarDivider {
+                width: parent.width
+            }
+            CollapsibleSection {
+                id: capabilities
+
+                width: parent.width
+                label: qsTr("Volume Capabilities")
+                isExpanded: kept.capabilitiesExpanded
+                onToggled: expanded => kept.capabilitiesExpanded = expanded
+
+                header: Text {
+                    text: capabilities.label
+                    font: Typeface.display(14)
+                    color: PaletteKey.palette.heading
+                    Accessible.ignored: true
+                }
+
+                Repeater {
+                    model: capabilities.isShown ? 1 : 0
+
+                    Column {
+                        x: 4
+                        width: capabilities.width - 8
+                        spacing: 14
+
+                        CapabilitiesList {
+                            width: parent.width
+                            target: sections.target
+                        }
+                        FeatureChips {
+                            width: parent.width
+                            target: sections.target
+                        }
+                    }
+                }
+            }
+        }
     }
-    CollapsibleSection {
-        width: parent.width
-        visible: sections.target.hasCapabilities
-        label: qsTr("Volume Capabilities")
-        isExpanded: kept.capabilitiesExpanded
-        onToggled: expanded => kept.capabilitiesExpanded = expanded
+    Repeater {
+        model: sections.target.hasHealth ? 1 : 0
 
-        header: Text {
-            text: qsTr("Volume Capabilities")
-            font: Typeface.display(14)
-            color: PaletteKey.palette.heading
-            Accessible.ignored: true
-        }
+        Column {
+            width: sections.width
 
-        CapabilitiesList {
-            x: 4
-            width: parent.width - 8
-            target: sections.target
-        }
-        Item {
-            width: 1
-            height: 14
-        }
-        FeatureChips {
-            x: 4
-            width: parent.width - 8
-            target: sections.target
-        }
-    }
-    SidebarDivider {
-        width: parent.width
-        visible: sections.target.hasHealth
-    }
-    CollapsibleSection {
-        width: parent.width
-        visible: sections.target.hasHealth
-        label: qsTr("S.M.A.R.T.")
-        detail: sections.target.isFailing ? qsTr("Failing") : qsTr("Verified")
-        isExpanded: kept.healthExpanded
-        onToggled: expanded => kept.healthExpanded = expanded
+            SidebarDivider {
+                width: parent.width
+            }
+            CollapsibleSection {
+                id: health
 
-        header: SMARTHeader {
-            width: parent.width
-            target: sections.target
-        }
+                width: parent.width
+                label: qsTr("S.M.A.R.T.")
+                detail: sections.target.isFailing ? qsTr("Failing") : qsTr("Verified")
+                isExpanded: kept.healthExpanded
+                onToggled: expanded => kept.healthExpanded = expanded
 
-        SMARTList {
-            x: 4
-            width: parent.width - 8
-            analyzer: sections.analyzer
-            target: sections.target
+                header: SMARTHeader {
+                    width: parent.width
+                    target: sections.target
+                }
+
+                Repeater {
+                    model: health.isShown ? 1 : 0
+
+                    SMARTList {
+                        x: 4
+                        width: health.width - 8
+                        analyzer: sections.analyzer
+                        target: sections.target
+                    }
+                }
+            }
         }
     }
 
