@@ -13,6 +13,7 @@ import time
 
 SKIP = 77
 GUARD_SECONDS = 40  # no test of speed: what is not there by then does not come
+MAIN = "^Ondel Tarnwick$"  # the title of the main window
 
 
 def enter_display(width=1400, height=1000):
@@ -167,7 +168,9 @@ class Window:
     def hover(self, name, role=None):
         """Puts the pointer there, a little inside its leading edge."""
         place = self.find(name, role).get_extents(self.atspi.CoordType.SCREEN)
-        subprocess.run(["xdotool", "mousemove", str(place.x + 20), str(place.y + place.height // 2)], check=True)
+        # The toolkit tells the bus logical pixels.
+        pixels = [str(round(at * float(self.scale))) for at in (place.x + 20, place.y + place.height / 2)]
+        subprocess.run(["xdotool", "mousemove", *pixels], check=True)
 
     def resize(self, width, height):
         """Units: logical pixels, as far as the screen has them."""
@@ -200,7 +203,7 @@ class Window:
                 return int(told.group(1)) if told else None
         return None
 
-    def id(self, title="^Ondel Tarnwick$"):
+    def id(self, title=MAIN):
         return self.until(f"the window {title!r}", lambda: windows(title))[0]
 
     def keys(self, *keys):
@@ -213,16 +216,19 @@ class Window:
                 return node.get_name()
         return None
 
-    def settled(self):
+    def settled(self, title=MAIN):
         """Waits until two pictures of the window are alike: nothing moves any more."""
+        def shown():
+            return subprocess.run(["import", "-window", self.id(title), "rgb:-"], capture_output=True).stdout
+
         def still():
-            last = subprocess.run(["import", "-window", self.id(), "rgb:-"], capture_output=True).stdout
+            last = shown()
             time.sleep(0.2)
-            return last == subprocess.run(["import", "-window", self.id(), "rgb:-"], capture_output=True).stdout
+            return last == shown()
         self.until("a still picture", still)
 
-    def picture(self, path):
-        subprocess.run(["import", "-window", self.id(), str(path)], check=True)
+    def picture(self, path, title=MAIN):
+        subprocess.run(["import", "-window", self.id(title), str(path)], check=True)
 
     def end(self, *signals):
         for number in signals:
