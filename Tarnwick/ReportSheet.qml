@@ -23,6 +23,9 @@ T.Popup {
         radius: 14
         color: PaletteKey.palette.bg
         outline: PaletteKey.palette.border
+        shadowColor: PaletteKey.palette.shadow
+        shadowRadius: 22
+        shadowOffset: 16
     }
     contentItem: ReportProblemView {
         focus: true

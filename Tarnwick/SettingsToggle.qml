@@ -14,7 +14,6 @@ PlainButton {
     Layout.fillWidth: true
     corner: 7
     detail: explanation
-    opacity: enabled ? 1 : 0.5
     checkable: true
     checked: on
     onCheckedChanged: if (checked !== on) wanted(checked)

@@ -43,7 +43,6 @@ Item {
             AlertButton {
                 label: qsTr("Check Now")
                 enabled: view.updater.canCheckForUpdates
-                opacity: enabled ? 1 : 0.5
                 onClicked: view.updater.checkForUpdates()
             }
             Caption {

@@ -25,6 +25,7 @@ PlainButton {
     topPadding: 13
     bottomPadding: 13
     hoverEnabled: true
+    opacity: 1
     Accessible.ignored: !live
 
     background: Card {
@@ -82,6 +83,8 @@ PlainButton {
                 font: Typeface.mono(10.5)
                 color: row.PaletteKey.palette.text3
                 elide: Text.ElideRight
+                fontSizeMode: fits ? Text.FixedSize : Text.HorizontalFit
+                minimumPixelSize: 8
                 lineHeight: fits ? 1 : 1.07
                 Accessible.ignored: true
 
@@ -116,13 +119,14 @@ PlainButton {
             label: qsTr("Delete %1").arg(row.facts.title)
             hint: qsTr("Delete this run")
             corner: 4
+            opacity: 1
             Accessible.ignored: !row.live
             onClicked: row.remove()
 
             contentItem: Symbol {
                 name: "trash"
                 size: 11
-                color: row.PaletteKey.palette.text3
+                color: remove.hovered ? row.PaletteKey.palette.text : row.PaletteKey.palette.text3
             }
         }
         Symbol {

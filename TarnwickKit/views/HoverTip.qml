@@ -37,5 +37,8 @@ T.ToolTip {
         radius: 6
         color: PaletteKey.palette.panel
         outline: PaletteKey.palette.border
+        shadowColor: PaletteKey.palette.shadow
+        shadowRadius: 9
+        shadowOffset: 4
     }
 }

@@ -22,6 +22,6 @@ PlainButton {
         id: glyph
 
         size: 11
-        color: PaletteKey.palette.text2
+        color: button.hovered ? PaletteKey.palette.text : PaletteKey.palette.text2
     }
 }

@@ -15,6 +15,7 @@ T.AbstractButton {
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    opacity: !enabled ? 0.5 : pressed ? 0.75 : 1
     focusPolicy: Qt.TabFocus
     activeFocusOnTab: true
 

@@ -46,5 +46,8 @@ T.Menu {
         radius: 10
         color: PaletteKey.palette.panel
         outline: PaletteKey.palette.border
+        shadowColor: PaletteKey.palette.shadow
+        shadowRadius: 18
+        shadowOffset: 8
     }
 }

@@ -16,7 +16,6 @@ PlainButton {
     topPadding: 9
     bottomPadding: 9
     enabled: stops || analyzer.canRun
-    opacity: enabled ? 1 : 0.5
 
     function run(): void {
         if (analyzer.isFillDisk)

@@ -9,12 +9,11 @@ PlainButton {
     property color textColor: PaletteKey.palette.text3
 
     corner: 4
-    opacity: enabled ? 1 : 0.5
 
     contentItem: Text {
         text: button.label
         font: button.textFont
-        color: button.textColor
+        color: button.hovered ? PaletteKey.palette.text : button.textColor
         Accessible.ignored: true
     }
 }

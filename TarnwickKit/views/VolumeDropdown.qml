@@ -20,6 +20,7 @@ PlainButton {
     bottomPadding: 7
     implicitWidth: Math.max(244, implicitContentWidth + leftPadding + rightPadding)
     enabled: !analyzer.isRunning
+    opacity: pressed ? 0.75 : 1 // what is under test is read during a run
     hoverEnabled: true
 
     detail: title.text + ", " + subtitle.text
@@ -82,6 +83,7 @@ PlainButton {
             name: "chevron.up.chevron.down"
             size: 11
             color: PaletteKey.palette.text3
+            opacity: dropdown.enabled ? 1 : 0.4
         }
     }
 
