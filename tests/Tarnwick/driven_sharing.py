@@ -94,7 +94,7 @@ def draws_alike_in_both_renderers(program, home, folder):
 def says_what_cannot_be_done(program, home, _folder):
     (home / "bin" / "xdg-open").write_text("#!/bin/sh\nexit 3\n")
     (home / "bin" / "xdg-email").unlink()
-    with driver.Window(program, env={"PATH": str(home / "bin")}) as window:
+    with driver.Window(program, env={"PATH": str(home / "bin"), "TMPDIR": "/nowhere"}) as window:
         window.press("SD card")
         share(window, "Show in Folder")
         window.find("The folder couldn't be opened.")
@@ -104,7 +104,7 @@ def says_what_cannot_be_done(program, home, _folder):
             image.unlink()
         window.press("Share")
         window.find("Copy Image", "menu item")
-        os.chmod(os.environ["XDG_RUNTIME_DIR"] + "/tools.ondel.tarnwick", 0o755)  # no longer private: no image
+        os.chmod(os.environ["XDG_RUNTIME_DIR"] + "/tools.ondel.tarnwick", 0o755)  # no longer private, and there is no other
         window.keys("Escape")
         window.gone("Copy Image", "menu item")
         window.press("Share")
