@@ -36,15 +36,26 @@ std::optional<fs::path> sessionFolder() {
     return isOurs(folder) ? std::optional(folder) : std::nullopt;
 }
 
+/// Another user's FUSE can be mounted in a folder that all share and claim any owner.
+bool isMounted(const fs::path& folder, const fs::path& parent) {
+    struct stat here {};
+    struct stat above {};
+    return lstat(folder.c_str(), &here) != 0 || stat(parent.c_str(), &above) != 0 ||
+           here.st_dev != above.st_dev;
+}
+
 /// One that an earlier process of this user made, or they would pile up: the first by name, so that all
 /// processes agree. Nobody could guess the name before it was there, and nobody else can replace it now.
 std::optional<fs::path> earlierFolder(const fs::path& shared, const std::string& prefix) {
     std::optional<fs::path> first;
     std::error_code error;
-    for (fs::directory_iterator entry(shared, error), end; !error && entry != end; entry.increment(error))
-        if (entry->path().filename().native().starts_with(prefix) && isOurs(entry->path()) &&
-            (!first || entry->path() < *first))
-            first = entry->path();
+    for (fs::directory_iterator entry(shared, error), end; !error && entry != end; entry.increment(error)) {
+        const fs::path& path = entry->path();
+        const bool isEarlier =
+            path.filename().native().starts_with(prefix) && isOurs(path) && !isMounted(path, shared);
+        if (isEarlier && (!first || path < *first))
+            first = path;
+    }
     return first;
 }
 
