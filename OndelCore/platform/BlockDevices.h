@@ -40,6 +40,9 @@ std::optional<BlockDevice> blockDeviceNamed(std::string name, const std::filesys
 /// The disk that a partition lies on; any other device as it is.
 BlockDevice wholeDevice(const BlockDevice& device);
 
+/// Whether the kernel itself has put the disk to sleep, so that opening it would wake it. Threads: any.
+bool isSuspended(const BlockDevice& wholeDisk);
+
 /// Threads: any. Fails: an unknown number, or one that goes away meanwhile, has no whole disks.
 BlockStack blockStack(dev_t number, const std::filesystem::path& sysfs = "/sys");
 

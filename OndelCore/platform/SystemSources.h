@@ -23,7 +23,7 @@ std::optional<std::string> propertyIn(const DeviceProperties& properties, std::s
 DeviceProperties databaseProperties(dev_t device);
 
 /// What the device's own first sectors say: ID_FS_LABEL, ID_FS_TYPE. Reads the device, hence only where this
-/// process may. Threads: any. Fails: no entries.
+/// process may, and not from a disk that the kernel has put to sleep. Threads: any. Fails: no entries.
 DeviceProperties superblockProperties(dev_t device);
 
 /// Where the answers about volumes and drives come from: the real system, unless a caller hands in something

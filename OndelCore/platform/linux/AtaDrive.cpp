@@ -47,11 +47,6 @@ bool isKnownAsAta(const BlockDevice& disk, const DevicePropertySource& database)
 /// Sticks and card readers are not asked for pages that many of them stumble over.
 bool mayBeAsked(const BlockDevice& disk) { return readNumber(disk.folder / "removable").value_or(1) == 0; }
 
-/// The kernel itself put the disk to sleep: even opening it would wake it.
-bool isSuspended(const BlockDevice& disk) {
-    return readAttribute(disk.folder / "device/power/runtime_status") == "suspended";
-}
-
 /// Standby by the count that CHECK POWER MODE leaves (ACS-3, 7.3.2): spun down, on the way there, or spun
 /// down behind a non-volatile cache.
 bool isAsleep(const AtaRegisters& registers) {

@@ -173,6 +173,10 @@ BlockDevice wholeDevice(const BlockDevice& device) {
     return deviceAt(device.folder.parent_path()).value_or(device);
 }
 
+bool isSuspended(const BlockDevice& wholeDisk) {
+    return readAttribute(wholeDisk.folder / "device/power/runtime_status") == "suspended";
+}
+
 BlockStack blockStack(dev_t number, const fs::path& sysfs) {
     const auto device = blockDevice(number, sysfs);
     return device ? stackUnder({*device}) : BlockStack();

@@ -4,6 +4,7 @@
 #include <blkid/blkid.h>
 #include <libudev.h>
 
+#include <algorithm>
 #include <memory>
 #include <string_view>
 
@@ -80,7 +81,7 @@ DeviceProperties databaseProperties(dev_t number) {
 DeviceProperties superblockProperties(dev_t number) {
     DeviceProperties properties;
     const auto device = blockDevice(number);
-    if (!device)
+    if (!device || std::ranges::any_of(blockStack(number).wholeDisks, isSuspended))
         return properties;
     const std::unique_ptr<blkid_struct_probe, Unref> probe(
         blkid_new_probe_from_filename(device->node().c_str()));

@@ -24,7 +24,8 @@ std::optional<std::string> nonEmpty(std::optional<std::string> text) {
     return text && text->empty() ? std::nullopt : std::move(text);
 }
 
-/// The label as the mounted file system itself has it, which needs no right to read the device.
+/// The label as the mounted file system itself has it, which needs no right to read the device and wakes no
+/// disk. Empty: it has none. Fails: absent if it cannot be asked.
 std::optional<std::string> labelOfMounted(const Mount& mount) {
     if (mount.type.starts_with("fuse"))
         return std::nullopt;
@@ -35,7 +36,7 @@ std::optional<std::string> labelOfMounted(const Mount& mount) {
         facts.stx_mnt_id != mount.id)
         return std::nullopt; // another file system covers this one
     std::array<char, FSLABEL_MAX + 1> label{};
-    if (ioctl(folder.get(), FS_IOC_GETFSLABEL, label.data()) != 0 || label.front() == '\0')
+    if (ioctl(folder.get(), FS_IOC_GETFSLABEL, label.data()) != 0)
         return std::nullopt;
     return std::string(label.data());
 }
@@ -43,14 +44,15 @@ std::optional<std::string> labelOfMounted(const Mount& mount) {
 /// The label of the file system, else the name of the partition that it lies in.
 std::optional<std::string> labelOnDevice(const Mount& mount, const BlockDevice& device,
                                          const SystemSources& sources) {
-    DeviceProperties properties = sources.database(device.number);
-    // An entry for the type means that the first sectors have been looked at: no label is no label then.
-    if (!properties.contains("ID_FS_TYPE")) {
-        if (auto label = labelOfMounted(mount))
-            return label;
-        properties.merge(sources.superblock(device.number));
+    const DeviceProperties properties = sources.database(device.number);
+    auto label = propertyIn(properties, "ID_FS_LABEL");
+    // With an entry for the type the first sectors have been looked at: no label is no label then.
+    if (!label && !properties.contains("ID_FS_TYPE")) {
+        label = labelOfMounted(mount);
+        if (!label)
+            label = propertyIn(sources.superblock(device.number), "ID_FS_LABEL");
     }
-    if (auto label = nonEmpty(propertyIn(properties, "ID_FS_LABEL")))
+    if (nonEmpty(label))
         return label;
     if (auto name = nonEmpty(propertyIn(properties, "ID_PART_ENTRY_NAME")))
         return name;

@@ -81,6 +81,13 @@ TEST_P(RealVolume, IsToldAsItIs) {
     const Kind& kind = GetParam();
     const test::LoopMount disk(kind.type, kind.bytes * mebibyte);
     SKIP_WITHOUT(disk);
+    OndelCore::platform::SystemSources noDatabase;
+    noDatabase.database = [](dev_t) { return OndelCore::platform::DeviceProperties(); };
+    noDatabase.superblock = [](dev_t) {
+        ADD_FAILURE() << "a disk that may sleep was read for what its file system knows";
+        return OndelCore::platform::DeviceProperties();
+    };
+    EXPECT_EQ(VolumeInfo::load(Location::local(disk.path()), noDatabase)->name, "mount");
     const bool isLabelled = setLabel(disk.path(), "Lab disk 7");
     const fs::path below = disk.path() / "folder";
     fs::create_directory(below);
