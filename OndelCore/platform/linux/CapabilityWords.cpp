@@ -85,6 +85,11 @@ void readOptions(CapabilityWords& words, std::string_view type, const Mount& mou
         words.format.state(formatCaseSensitive, false);
     if (has("casesensitive"))
         words.format.state(formatCaseSensitive, true);
+    if (type == "iso9660") {
+        words.format.state(formatCaseSensitive, has("check=s"));
+        if (has("norock") && has("check=r")) // the names are Joliet's
+            words.format.state(formatCasePreserving, true);
+    }
     if (type == "cifs" && (has("mfsymlinks") || has("unix") || has("posix")))
         words.format.state(formatSymbolicLinks, true);
 }

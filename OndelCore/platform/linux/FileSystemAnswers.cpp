@@ -33,11 +33,16 @@ std::int64_t optimalSizeOfQueue(const std::filesystem::path& queue) {
     return std::clamp(power, smallestRequest, largestRequest);
 }
 
+/// A server's own word. A single page is what the kernel puts where there is none.
+std::int64_t optimalSizeOfServer(const std::filesystem::path& path) {
+    struct stat file {};
+    return stat(path.c_str(), &file) == 0 && file.st_blksize > pageSize ? file.st_blksize : 0;
+}
+
 std::int64_t optimalSize(const std::optional<Mount>& mount, const FileSystemFacts* facts,
                          const std::filesystem::path& path, const SystemSources& sources) {
-    struct stat file {};
     if (facts && facts->reach == FileSystemReach::network)
-        return stat(path.c_str(), &file) == 0 ? file.st_blksize : 0;
+        return optimalSizeOfServer(path);
     const auto number = mount ? deviceOfMount(*mount) : std::nullopt;
     const auto device = number ? blockDevice(*number, sources.sysfs) : std::nullopt;
     return device ? optimalSizeOfQueue(wholeDevice(*device).folder / "queue") : 0;

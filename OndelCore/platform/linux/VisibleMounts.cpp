@@ -147,7 +147,7 @@ bool isStorage(const Mount& mount, const std::string& type) {
         return false;
     if (const FileSystemFacts* const facts = fileSystemFacts(type))
         return facts->reach == FileSystemReach::device || facts->reach == FileSystemReach::network;
-    if (type.starts_with("fuse."))
+    if (type == "fuse" || type.starts_with("fuse."))
         return true;
     return mount.source != "/dev/fuse" && (mount.source.starts_with("/dev/") || major(mount.device) != 0);
 }

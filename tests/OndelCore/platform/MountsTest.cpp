@@ -31,7 +31,8 @@ TEST(VisibleMounts, AreThoseThatAPersonExpects) {
     };
     const std::vector<Case> cases{
         {"desktop-with-snaps",
-         {"/", "/home", "/media/ada/Backup disk", "/media/ada/CANON_DC", "/home/ada/server", "/mnt/nas"}},
+         {"/", "/home", "/media/ada/Backup disk", "/media/ada/CANON_DC", "/home/ada/server", "/mnt/nas",
+          "/mnt/image"}},
         {"container-host", {"/", "/boot", "/tank", "/mnt/a", "/mnt/b"}},
         {"inside-a-container", {"/", "/data-folder"}},
         {"btrfs-subvolumes", {"/", "/mnt/photos"}},
