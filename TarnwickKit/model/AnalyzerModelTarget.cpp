@@ -4,6 +4,7 @@
 #include "OndelCore/logging/Log.h"
 #include "OndelCore/platform/AnswerWithin.h"
 #include "OndelCore/platform/BackgroundThread.h"
+#include "OndelCore/platform/DetachedThread.h"
 #include "OndelCore/platform/ReplaceFile.h"
 #include "OndelCore/platform/StandardFolders.h"
 #include "OndelCore/volumes/MountedVolumes.h"
@@ -15,7 +16,6 @@
 #include <QPointer>
 
 #include <algorithm>
-#include <thread>
 #include <utility>
 
 namespace TarnwickKit::model {
@@ -112,19 +112,18 @@ void AnalyzerModel::chooseFolder(const std::optional<std::filesystem::path>& sta
         });
 }
 
-/// A thread of its own and not a pool's: on a mount that hangs it may never come back, and nothing, the end
-/// of the process included, is to wait for it.
 void AnalyzerModel::sweepOrphans(const std::filesystem::path& folder) {
     std::erase_if(m_sweeps, [](const auto& sweep) { return sweep.second.isFinished(); });
     QPromise<void> ended;
     ended.start();
     QFuture<void> previous = std::exchange(m_sweeps[folder], ended.future());
-    std::thread([folder, previous, ended = std::move(ended), sweep = m_services.cleanupOrphans]() mutable {
-        OndelCore::platform::enterBackground("ondel-sweep");
-        previous.waitForFinished();
-        sweep(folder);
-        ended.finish();
-    }).detach();
+    OndelCore::platform::runDetached(
+        [folder, previous, ended = std::move(ended), sweep = m_services.cleanupOrphans]() mutable {
+            OndelCore::platform::enterBackground("ondel-sweep");
+            previous.waitForFinished();
+            sweep(folder);
+            ended.finish();
+        });
 }
 
 std::vector<VolumeMenuItem> AnalyzerModel::mountedVolumeItems() {

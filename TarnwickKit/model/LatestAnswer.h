@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/platform/DetachedThread.h"
+
 #include <QFutureWatcher>
 #include <QPromise>
 
@@ -7,7 +9,6 @@
 #include <functional>
 #include <future>
 #include <memory>
-#include <thread>
 #include <utility>
 
 namespace TarnwickKit::model {
@@ -22,21 +23,25 @@ public:
     using Take = std::function<void(const Answer&)>;
 
     /// `take` gets what `question` answers: before this returns, if that comes within `patience`, and else
-    /// from the event loop. True: it has been taken. Fails: `question` must not throw.
+    /// from the event loop. True: it has been taken. Fails: nothing is taken where the machine has no thread
+    /// left. `question` must not throw.
     bool ask(std::function<Answer()> question, Take take, std::chrono::milliseconds patience = {}) {
         QPromise<Answer> promise;
         promise.start();
         const QFuture<Answer> answer = promise.future();
         std::promise<void> answered;
         const std::future<void> arrival = answered.get_future();
-        std::thread([question = std::move(question), promise = std::move(promise),
-                     answered = std::move(answered)]() mutable {
-            promise.addResult(question());
-            promise.finish();
-            answered.set_value();
-        }).detach();
+        const bool isAsked =
+            OndelCore::platform::runDetached([question = std::move(question), promise = std::move(promise),
+                                              answered = std::move(answered)]() mutable {
+                promise.addResult(question());
+                promise.finish();
+                answered.set_value();
+            });
 
         m_watcher.reset();
+        if (!isAsked)
+            return false;
         if (patience.count() > 0 && arrival.wait_for(patience) == std::future_status::ready) {
             take(answer.result());
             return true;
