@@ -29,27 +29,16 @@ constexpr std::size_t unreadableFilesKept = 3;
 /// What a run file names of a person's machine is nobody else's business.
 constexpr auto ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
 
-/// In the temporary folder that all users share, a name that one can guess may be somebody else's folder:
-/// setting its permissions fails then.
-fs::path folderWithoutHome() {
-    std::error_code error;
-    fs::path folder = fs::temp_directory_path(error) / folderName;
-    if (!error)
-        fs::create_directories(folder, error);
-    if (!error)
-        fs::permissions(folder, fs::perms::owner_all, error);
-    return error ? OndelCore::platform::privateTemporaryFolder().value_or(folder) : folder;
-}
-
 fs::path defaultFolder() {
+    std::error_code error;
     if (const auto data = OndelCore::platform::dataHome()) {
         fs::path folder = *data / folderName;
-        std::error_code error;
         fs::create_directories(folder, error);
         if (!error)
             return folder;
     }
-    return folderWithoutHome();
+    return OndelCore::platform::privateTemporaryFolder().value_or(fs::temp_directory_path(error) /
+                                                                  folderName);
 }
 
 /// What the JSON of a record's field takes at the least.
