@@ -28,6 +28,8 @@ struct ThroughputResult {
     double bytesPerSecond() const;
     /// The best sample; without samples the overall rate.
     double peakBytesPerSecond() const;
+    /// The slowest sample but for the first, in which caches and queues still fill; absent without another.
+    std::optional<double> lowestBytesPerSecond() const;
     /// The median rate of the samples in the last third of the time; without samples the overall rate.
     double sustainedBytesPerSecond() const;
     /// The sustained rate lies more than 20 percent below the peak: a cache gave out.

@@ -34,6 +34,13 @@ double ThroughputResult::peakBytesPerSecond() const {
     return std::ranges::max(samples, {}, &ThroughputSample::bytesPerSecond).bytesPerSecond;
 }
 
+std::optional<double> ThroughputResult::lowestBytesPerSecond() const {
+    if (samples.size() < 2)
+        return std::nullopt;
+    return std::ranges::min_element(samples.begin() + 1, samples.end(), {}, &ThroughputSample::bytesPerSecond)
+        ->bytesPerSecond;
+}
+
 double ThroughputResult::sustainedBytesPerSecond() const {
     if (samples.empty() || !(samples.back().elapsed > 0))
         return bytesPerSecond();

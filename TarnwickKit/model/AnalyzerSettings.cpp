@@ -65,7 +65,7 @@ void AnalyzerSettings::setSizeIndex(int index) {
 QStringList AnalyzerSettings::sizeLabels() {
     QStringList labels;
     for (const auto& [label, size] : BenchmarkSize::presets())
-        labels.append(QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())));
+        labels.append(QString::fromUtf8(label));
     return labels;
 }
 

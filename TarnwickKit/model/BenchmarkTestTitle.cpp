@@ -9,10 +9,7 @@ namespace TarnwickKit::model {
 using OndelCore::benchmark::BenchmarkTest;
 using namespace Qt::StringLiterals;
 
-QString name(BenchmarkTest test) {
-    const std::string_view raw = rawValue(test);
-    return QString::fromLatin1(raw.data(), static_cast<qsizetype>(raw.size()));
-}
+QString name(BenchmarkTest test) { return QString::fromLatin1(rawValue(test)); }
 
 QString title(BenchmarkTest test, std::int64_t randomBlock) {
     switch (test) {

@@ -53,7 +53,7 @@ std::optional<QString> DriveInfo::networkProtocol(const std::optional<QString>& 
     const std::string type = filesystemType->toLower().toStdString();
     for (const NetworkProtocol& row : networkProtocols)
         if (row.filesystemType == type)
-            return QString::fromUtf8(row.name.data(), static_cast<qsizetype>(row.name.size()));
+            return QString::fromUtf8(row.name);
     return std::nullopt;
 }
 

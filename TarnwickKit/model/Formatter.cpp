@@ -163,15 +163,14 @@ QString Formatter::decimals(double value, int digits) const {
             .ptr;
     const std::string_view spelled(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
     if (!std::isfinite(value))
-        return QString::fromLatin1(spelled.data(), static_cast<qsizetype>(spelled.size()));
+        return QString::fromLatin1(spelled);
 
     UErrorCode status = U_ZERO_ERROR;
     const icu::UnicodeString text =
         m_icu->plain.precision(icu::number::Precision::fixedFraction(digits))
             .formatDecimal({spelled.data(), static_cast<int32_t>(spelled.size())}, status)
             .toString(status);
-    return U_SUCCESS(status) ? toQString(text)
-                             : QString::fromLatin1(spelled.data(), static_cast<qsizetype>(spelled.size()));
+    return U_SUCCESS(status) ? toQString(text) : QString::fromLatin1(spelled);
 }
 
 QString Formatter::groupedInteger(std::int64_t value) const {

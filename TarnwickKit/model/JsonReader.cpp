@@ -161,7 +161,7 @@ std::string_view JsonReader::numberToken() {
 
 QString JsonReader::string() {
     const std::string_view raw = rawString();
-    return QString::fromUtf8(raw.data(), static_cast<qsizetype>(raw.size()));
+    return QString::fromUtf8(raw);
 }
 
 double JsonReader::number() {

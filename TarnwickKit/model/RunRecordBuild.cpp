@@ -35,16 +35,6 @@ double sumOfDurations(const BenchmarkResult& result) {
            duration(result.randomWrite);
 }
 
-/// The first sample, where caches and queues still fill, is no low point.
-std::optional<double> leastRate(const ThroughputResult& test) {
-    if (test.samples.size() < 2)
-        return std::nullopt;
-    const auto least =
-        std::min_element(test.samples.begin() + 1, test.samples.end(),
-                         [](const auto& a, const auto& b) { return a.bytesPerSecond < b.bytesPerSecond; });
-    return least->bytesPerSecond;
-}
-
 std::vector<RunSample> curve(const ThroughputResult& test) {
     std::vector<RunSample> points;
     points.reserve(test.samples.size());
@@ -57,13 +47,13 @@ void fillResult(RunRecord& run, const BenchmarkResult& result) {
     if (const auto& write = result.sequentialWrite) {
         run.writeBps = write->sustainedBytesPerSecond();
         run.writePeakBps = write->peakBytesPerSecond();
-        run.writeMinBps = leastRate(*write);
+        run.writeMinBps = write->lowestBytesPerSecond();
         run.writeSamples = curve(*write);
     }
     if (const auto& read = result.sequentialRead) {
         run.readBps = read->sustainedBytesPerSecond();
         run.readPeakBps = read->peakBytesPerSecond();
-        run.readMinBps = leastRate(*read);
+        run.readMinBps = read->lowestBytesPerSecond();
         run.readSamples = curve(*read);
     }
     if (const auto& random = result.randomRead) {

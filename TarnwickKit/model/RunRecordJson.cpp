@@ -38,8 +38,7 @@ void write(JsonWriter& json, const QUuid& value) {
 }
 void write(JsonWriter& json, const QDateTime& value) { json.string(value.toUTC().toString(dateForm)); }
 void write(JsonWriter& json, RunRecord::Kind value) {
-    const std::string_view raw = kinds.at(static_cast<std::size_t>(value)).second;
-    json.string(QString::fromLatin1(raw.data(), static_cast<qsizetype>(raw.size())));
+    json.string(QString::fromLatin1(kinds.at(static_cast<std::size_t>(value)).second));
 }
 void write(JsonWriter& json, const std::vector<RunSample>& samples) {
     json.beginArray();

@@ -59,7 +59,7 @@ std::optional<std::string_view> CommandLine::value(std::string_view option) cons
 
 std::string quoted(std::string_view typed) {
     constexpr qsizetype longest = 200;
-    QString text = QString::fromUtf8(typed.data(), static_cast<qsizetype>(typed.size()));
+    QString text = QString::fromUtf8(typed);
     for (QChar& character : text)
         if (!character.isPrint() && !character.isSurrogate())
             character = QChar::ReplacementCharacter;

@@ -26,9 +26,7 @@ QString statusName(DiskSMART::Status status) {
 
 QJsonValue json(std::int32_t value) { return value; }
 QJsonValue json(double value) { return value; }
-QJsonValue json(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+QJsonValue json(std::string_view text) { return QString::fromUtf8(text); }
 QJsonValue json(std::uint64_t value) {
     constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<qint64>::max());
     if (value <= largest)

@@ -1,18 +1,15 @@
 #include "examples/host/ResultJson.h"
 
+#include "TarnwickKit/model/BenchmarkTestTitle.h"
+
 #include <QJsonArray>
 
-#include <string_view>
-
 using namespace OndelCore::benchmark;
+using TarnwickKit::model::name;
 
 namespace examples::host {
 
 namespace {
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 QJsonObject sizeJson(const BenchmarkSize& size) {
     if (const auto* fixed = size.asFixed())
@@ -23,7 +20,7 @@ QJsonObject sizeJson(const BenchmarkSize& size) {
 QJsonObject planJson(const BenchmarkPlan& plan) {
     QJsonArray tests;
     for (const BenchmarkTest test : plan.tests)
-        tests.append(text(rawValue(test)));
+        tests.append(name(test));
     return {{"tests", tests},
             {"size", sizeJson(plan.size)},
             {"writeBlockSize", qint64{plan.writeBlockSize}},
@@ -76,7 +73,7 @@ QJsonObject resultJson(const BenchmarkPlan& plan, const BenchmarkResult& result)
     QJsonObject object{{"plan", planJson(plan)}};
     const auto add = [&object](BenchmarkTest test, const auto& part) {
         if (part)
-            object.insert(text(rawValue(test)), json(*part));
+            object.insert(name(test), json(*part));
     };
     add(BenchmarkTest::sequentialWrite, result.sequentialWrite);
     add(BenchmarkTest::sequentialRead, result.sequentialRead);

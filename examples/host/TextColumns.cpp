@@ -6,7 +6,7 @@
 
 namespace examples::host {
 
-QString textColumns(const std::vector<TextRow>& rows) {
+QString textColumns(const std::vector<TextRow>& rows, CellsStand stand) {
     std::vector<int> widths;
     for (const TextRow& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
@@ -18,7 +18,9 @@ QString textColumns(const std::vector<TextRow>& rows) {
         QString line;
         for (std::size_t column = 0; column < row.size(); ++column) {
             const QString cell = harmless(row[column]);
-            line += cell + QString(widths[column] + 2 - columnsOf(cell), QLatin1Char(' '));
+            const QString room(widths[column] - columnsOf(cell), QLatin1Char(' '));
+            line += column > 0 && stand == CellsStand::right ? room + cell : cell + room;
+            line += QLatin1StringView("  ");
         }
         while (line.endsWith(QLatin1Char(' ')))
             line.chop(1);

@@ -8,8 +8,11 @@ namespace examples::host {
 
 using TextRow = std::vector<QString>;
 
-/// Rows in columns that all begin at the same place, two blanks apart, each row on one line: control
-/// characters inside a cell become marks.
-QString textColumns(const std::vector<TextRow>& rows);
+/// Where the cells behind the first one stand in their columns: texts left, figures right.
+enum class CellsStand { left, right };
+
+/// Rows in columns shared by all of them, two blanks apart, each row on one line: control characters inside a
+/// cell become marks.
+QString textColumns(const std::vector<TextRow>& rows, CellsStand stand = CellsStand::left);
 
 } // namespace examples::host
