@@ -55,6 +55,7 @@ Rectangle {
                 keeper: keeper
             }
             Rule {
+                z: 1 // at a scale such as 1.5 the pane begins within its second pixel
                 Layout.fillHeight: true
                 color: PaletteKey.palette.border
             }

@@ -6,9 +6,13 @@ namespace TarnwickKit::views {
 
 namespace {
 
+/// Asked before the system's other fonts: some of those have a few emoji without colours, and a sequence such
+/// as a flag falls into its parts where two fonts share it.
+const auto emojiFamily = QStringLiteral("Noto Color Emoji");
+
 QFont font(const QStringList& families, double size, int weight) {
     QFont result;
-    result.setFamilies(families);
+    result.setFamilies(families + QStringList(emojiFamily));
     result.setWeight(static_cast<QFont::Weight>(weight));
     result.setHintingPreference(QFont::PreferNoHinting);
     result.setPixelSize(static_cast<int>(std::lround(size)));
