@@ -1,32 +1,18 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Window
 import OndelAppSupport.views
 
 /// Which program this is, and who made it of what.
-Window {
+PanelWindow {
     id: panel
 
     property appIdentity app: AppSupport.app
     property url icon: "qrc:/ondel/Icons/tools.ondel.tarnwick.svg"
 
-    /// Opens the panel, or brings the open one to the front.
-    function show(): void {
-        visible = true;
-        raise();
-        requestActivate();
-    }
-
     title: qsTr("About %1").arg(app.name)
     width: Math.max(300, column.implicitWidth + 48)
     height: column.implicitHeight + 48
-    minimumWidth: width
-    maximumWidth: width
-    minimumHeight: height
-    maximumHeight: height
-    flags: Qt.Dialog | Qt.WindowTitleHint | Qt.WindowCloseButtonHint
-    color: palette.window
 
     component Credit: Row {
         id: credit

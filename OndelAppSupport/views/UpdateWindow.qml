@@ -2,12 +2,11 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Window
 import OndelDrawing
 import OndelAppSupport.views
 
 /// Everything that is said and asked about updates. It opens and closes by itself, as the updater wants it.
-Window {
+PanelWindow {
     id: window
 
     required property UpdaterController updater
@@ -17,12 +16,6 @@ Window {
     title: qsTr("Software Update")
     width: Math.max(520, buttons.implicitWidth + 112)
     height: page.implicitHeight + 40
-    minimumWidth: width
-    maximumWidth: width
-    minimumHeight: height
-    maximumHeight: height
-    flags: Qt.Dialog | Qt.WindowTitleHint | Qt.WindowCloseButtonHint
-    color: palette.window
     visible: state !== UpdaterController.Idle
 
     onClosing: close => {

@@ -1,0 +1,19 @@
+import QtQuick
+import QtQuick.Window
+
+/// A window beside the main one, as large as what it holds.
+Window {
+    minimumWidth: width
+    maximumWidth: width
+    minimumHeight: height
+    maximumHeight: height
+    flags: Qt.Dialog | Qt.WindowTitleHint | Qt.WindowCloseButtonHint
+    color: palette.window
+
+    /// Opens the window, or brings the open one to the front.
+    function show(): void {
+        visible = true;
+        raise();
+        requestActivate();
+    }
+}
