@@ -21,7 +21,7 @@ class LogValue {
 public:
     // NOLINTBEGIN(google-explicit-constructor): every kind of text may stand for a value.
     LogValue(const char* text)
-        : m_text(text) {}
+        : m_text(text ? text : "") {}
     LogValue(std::string_view text)
         : m_text(text) {}
     LogValue(std::string text)

@@ -32,6 +32,7 @@ bool writeAll(int descriptor, std::string_view bytes) {
 
 /// Written beside and renamed, so that nobody ever sees half of it.
 void makeLogFile(const fs::path& file, std::string_view lines) {
+    makeLogFolder(file.parent_path());
     std::string beside = file.native() + ".XXXXXX";
     const FileDescriptor descriptor(mkostemp(beside.data(), O_CLOEXEC));
     if (!descriptor)
@@ -41,6 +42,14 @@ void makeLogFile(const fs::path& file, std::string_view lines) {
 }
 
 } // namespace
+
+void makeLogFolder(const fs::path& folder) {
+    constexpr mode_t ownerOnly = 0700;
+    if (mkdir(folder.c_str(), ownerOnly) == 0 || errno != ENOENT || !folder.has_relative_path())
+        return;
+    makeLogFolder(folder.parent_path());
+    mkdir(folder.c_str(), ownerOnly);
+}
 
 void rotateIfNeeded(const fs::path& file) {
     std::error_code failed;

@@ -2,6 +2,7 @@
 
 #include "OndelCore/logging/LogFile.h"
 #include "OndelCore/platform/BackgroundThread.h"
+#include "OndelCore/platform/Signals.h"
 #include "OndelCore/platform/StandardFolders.h"
 
 #include <algorithm>
@@ -41,6 +42,7 @@ LogStore::LogStore(std::size_t lines, LogEnvironment environment)
     , m_ring(lines) {
     if (lines == 0)
         std::abort(); // a ring without a slot
+    tzset();          // reads the time zone's file, which the first append would do under the lock
 }
 
 LogStore::~LogStore() = default;
@@ -130,8 +132,7 @@ void LogStore::startFileLogging(const std::optional<fs::path>& directory) {
     if (!directory && !state)
         return; // nowhere to write: the lines stay in memory
     const fs::path folder = directory ? *directory : *state / "Ondel";
-    std::error_code ignored;
-    fs::create_directories(folder, ignored);
+    makeLogFolder(folder);
     try {
         m_writer = std::jthread([this](const std::stop_token& stop) { runWriter(stop); });
     } catch (const std::system_error&) {
@@ -148,6 +149,7 @@ void LogStore::flush() {
 
 void LogStore::runWriter(const std::stop_token& stop) {
     platform::enterBackground("tools.ondel.log");
+    platform::keepSignalsOffThisThread(); // a log that outgrows the user's file-size limit ends nobody
     std::unique_lock files(m_fileLock);
     auto next = std::chrono::steady_clock::now();
     while (!stop.stop_requested()) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/mount.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <fstream>
@@ -63,6 +64,31 @@ TEST(LogFile, TheBackgroundWriterTicksInTheDefaultFolder) {
     }
 }
 
+TEST(LogFile, EndsNobodyAtTheUsersSizeLimit) {
+    const test::TemporaryFolder folder;
+    const fs::path file = folder.path() / "ondel.log";
+    const auto store = LogStore::makeForTesting(100, {.tick = std::chrono::milliseconds(1)});
+    store->startFileLogging(folder.path());
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit small{.rlim_cur = 1000, .rlim_max = before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    const auto awaitLine = [&](const std::string& body) {
+        store->append(LogLevel::notice, "app", body);
+        while (!test::contentOf(file).ends_with("  " + body + "\n"))
+            std::this_thread::yield();
+    };
+    awaitLine("fits");
+    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    fs::last_write_time(file, longAgo);
+    store->append(LogLevel::notice, "app", std::string(2000, 'x'));
+    while (fs::last_write_time(file) == longAgo)
+        std::this_thread::yield();
+    awaitLine("fits again");
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(test::contentOf(file).find('x'), std::string::npos);
+}
+
 TEST(LogFile, RotatesAboveItsLimit) {
     const test::TemporaryFolder folder;
     const fs::path file = folder.path() / "ondel.log", old = folder.path() / "ondel.1.log";
@@ -100,7 +126,7 @@ TEST(LogFile, BadFoldersHarmNobody) {
     fs::create_directories(folder.path() / "taken" / "ondel.log");
     fs::create_directory(folder.path() / "pipe");
     ASSERT_EQ(mkfifo((folder.path() / "pipe" / "ondel.log").c_str(), 0600), 0);
-    for (const char* name : {"file", "taken", "pipe", "gone", "/proc"}) {
+    for (const char* name : {"file", "taken", "pipe", "/proc", "gone"}) {
         const auto store = storeWritingTo(folder.path() / name);
         fs::remove_all(folder.path() / "gone");
         write(*store, name);
@@ -108,6 +134,8 @@ TEST(LogFile, BadFoldersHarmNobody) {
     }
     EXPECT_EQ(test::contentOf(folder.path() / "pipe" / "ondel.log").find("20"), 0u)
         << "a file took the pipe's place";
+    EXPECT_TRUE(test::contentOf(folder.path() / "gone" / "ondel.log").ends_with("  gone\n"));
+    EXPECT_EQ(fs::status(folder.path() / "gone").permissions(), fs::perms::owner_all);
     EXPECT_TRUE(fs::is_empty(folder.path() / "taken" / "ondel.log"));
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path() / "taken"), fs::directory_iterator()), 1);
 }
