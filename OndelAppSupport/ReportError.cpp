@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <array>
+#include <string_view>
 #include <utility>
 
 namespace OndelAppSupport {
@@ -23,6 +25,13 @@ QString ReportError::localizedDescription() const {
         return failed->text;
     return QCoreApplication::translate("BugReporter",
                                        "Couldn’t reach the server. Check your connection and try again.");
+}
+
+OndelCore::ErrorName ReportError::errorName() const noexcept {
+    constexpr std::array<std::string_view, std::variant_size_v<Cause>> caseNames{"server", "network",
+                                                                                 "transport"};
+    return {"ReportError", caseNames.at(m_cause.index()), "OndelAppSupport.ReportError",
+            static_cast<int>(m_cause.index())};
 }
 
 } // namespace OndelAppSupport

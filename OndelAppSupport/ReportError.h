@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/NamedError.h"
+
 #include <QString>
 
 #include <exception>
@@ -9,7 +11,7 @@
 namespace OndelAppSupport {
 
 /// Why a report did not arrive.
-class ReportError : public std::exception {
+class ReportError : public std::exception, public OndelCore::NamedError {
 public:
     /// The service answered and refused. `text`: its own reason, or a sentence that names the status.
     struct Server {
@@ -35,6 +37,7 @@ public:
     /// One sentence for the user.
     QString localizedDescription() const;
     const char* what() const noexcept override { return m_what.c_str(); }
+    OndelCore::ErrorName errorName() const noexcept override;
 
 private:
     Cause m_cause;

@@ -154,7 +154,7 @@ void UpdaterController::check() {
 void UpdaterController::checked(std::optional<Offer> offer) {
     const bool byHand = m_state == State::Checking;
     QSettings& settings = *m_environment.settings;
-    Log::net.notice("update check ended", LogField::bool_("newer", offer.has_value()),
+    Log::app.notice("update check ended", LogField::bool_("newer", offer.has_value()),
                     LogField::bool_("byHand", byHand));
     if (!byHand && offer && m_environment.isBusy()) { // it will be found again
         m_timer.start(busyPause);
@@ -195,7 +195,7 @@ void UpdaterController::load() {
 }
 
 void UpdaterController::open(const std::filesystem::path& package) {
-    Log::net.notice("update loaded", LogField::bytes("bytes", m_loaded));
+    Log::app.notice("update loaded", LogField::bytes("bytes", m_loaded));
     if (m_environment.openPackage(QUrl::fromLocalFile(QString::fromStdString(package.string()))))
         setState(State::Opened);
     else
@@ -203,7 +203,7 @@ void UpdaterController::open(const std::filesystem::path& package) {
 }
 
 void UpdaterController::fail(const UpdateError& error) {
-    Log::net.notice("no update", LogField::failure(error));
+    Log::app.notice("no update", LogField::failure(error));
     if (m_state == State::Idle) // nobody asked
         return;
     m_failure = error.description(product());

@@ -1,5 +1,6 @@
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/BugReporter.h"
+#include "OndelCore/logging/Redact.h"
 #include "support/HttpsServer.h"
 
 #include <QCoreApplication>
@@ -143,6 +144,8 @@ TEST(Submission, GivesItsSecretToNobodyElse) {
     EXPECT_EQ(outcome(BugReporter::submit({}, service(plain))), ReportError::Cause(ReportError::Network()));
     EXPECT_EQ(ReportError(ReportError::Network()).localizedDescription(),
               "Couldn’t reach the server. Check your connection and try again.");
+    EXPECT_EQ(OndelCore::logging::Redact::failure(ReportError(ReportError::Server{secret})),
+              "ReportError.server OndelAppSupport.ReportError/0");
     EXPECT_TRUE(unknown.requests().isEmpty());
     EXPECT_TRUE(another.requests().isEmpty());
 }
