@@ -1,6 +1,8 @@
 #include "Tarnwick/Toolkit.h"
 
+#include "OndelCore/logging/LogScrubber.h"
 #include "OndelCore/platform/GraphicsDevice.h"
+#include "OndelCore/platform/UnifiedLog.h"
 #include "Tarnwick/Product.h"
 
 #include <QIcon>
@@ -8,6 +10,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 namespace {
 
@@ -20,6 +23,15 @@ void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QStr
     if (qEnvironmentVariableIsSet("QT_DEBUG_PLUGINS"))
         std::fprintf(stderr, "%s\n", qPrintable(message));
     std::_Exit(EXIT_FAILURE);
+}
+
+QtMessageHandler toolkitsOwn = nullptr;
+
+/// The toolkit's warnings may name files.
+void warnWithoutNames(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    std::string text = message.toStdString();
+    OndelCore::logging::LogScrubber::shared().scrub(text);
+    toolkitsOwn(type, context, QString::fromStdString(text));
 }
 
 /// OpenGL drawn by the processor is slower and larger than the toolkit's own software renderer.
@@ -36,10 +48,10 @@ void chooseRenderer() {
 
 std::unique_ptr<QApplication> startToolkit(int& argc, char** argv) {
     chooseRenderer();
-    const auto previous = qInstallMessageHandler(explainMissingDisplay);
+    toolkitsOwn = qInstallMessageHandler(explainMissingDisplay);
     auto application = std::make_unique<QApplication>(argc, argv);
-    qInstallMessageHandler(previous);
-    application->setApplicationName(QStringLiteral("Ondel Tarnwick"));
+    qInstallMessageHandler(OndelCore::platform::isStandardErrorLogged() ? warnWithoutNames : toolkitsOwn);
+    application->setApplicationName(QString::fromLatin1(product::name));
     // Names the settings file together with the line above.
     application->setOrganizationName(QStringLiteral("Ondel"));
     application->setApplicationVersion(QStringLiteral(ONDEL_VERSION));

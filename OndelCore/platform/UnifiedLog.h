@@ -40,4 +40,8 @@ private:
     sockaddr_un m_address{};
 };
 
+/// Whether what this process writes to standard error ends in the system-wide log, as where a desktop has
+/// started it: nothing private belongs there. Threads: any.
+bool isStandardErrorLogged();
+
 } // namespace OndelCore::platform

@@ -5,6 +5,8 @@
 
 #include "OndelCore/platform/UnifiedLog.h"
 
+#include <QByteArray>
+
 #include <endian.h>
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -120,6 +122,15 @@ void UnifiedLog::sendAsFile(std::string_view payload) const {
     const int descriptor = file.get();
     std::memcpy(CMSG_DATA(rights), &descriptor, sizeof descriptor);
     send(header);
+}
+
+bool isStandardErrorLogged() {
+    struct stat facts {};
+    if (fstat(STDERR_FILENO, &facts) != 0)
+        return false;
+    // What systemd connects to the journal it names by device and inode (systemd.exec(5)).
+    return qgetenv("JOURNAL_STREAM") ==
+           QByteArray::number(facts.st_dev) + ':' + QByteArray::number(facts.st_ino);
 }
 
 } // namespace OndelCore::platform
