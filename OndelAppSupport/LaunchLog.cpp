@@ -10,9 +10,14 @@ using OndelCore::logging::Log;
 using OndelCore::logging::LogField;
 using OndelCore::logging::LogOutput;
 
+std::optional<std::filesystem::path> logFolder() {
+    const auto state = OndelCore::platform::stateHome();
+    return state ? std::optional(*state / "Ondel Tarnwick") : std::nullopt;
+}
+
 void startLogging(const LogOutput& output) {
-    if (const auto state = OndelCore::platform::stateHome())
-        output.store.startFileLogging(*state / "Ondel Tarnwick");
+    if (const auto folder = logFolder())
+        output.store.startFileLogging(folder);
     const Log app("app", &output);
     app.notice("launched", LogField::token("version", BugReporter::appVersion()),
                LogField::token("os", BugReporter::osVersion()),

@@ -1,5 +1,6 @@
 #include "OndelAppSupport/ReportForm.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTextBoundaryFinder>
 
@@ -35,8 +36,10 @@ bool hasCharacters(QStringView text, int least) {
 
 ReportForm::ReportForm(Surroundings surroundings, QObject* parent)
     : QObject(parent)
-    , m_surroundings(std::move(surroundings)) {
+    , m_surroundings(std::move(surroundings))
+    , m_report(m_surroundings.draft.take()) {
     connect(&m_submission, &QFutureWatcher<void>::finished, this, &ReportForm::finish);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &ReportForm::keepDraft);
 }
 
 ReportForm::~ReportForm() { m_submission.cancel(); }
@@ -68,6 +71,11 @@ void ReportForm::send() {
         report.diagnostics = diagnosticsText();
     Q_EMIT changed();
     m_submission.setFuture(m_surroundings.submit(report));
+}
+
+void ReportForm::keepDraft() const {
+    if (!m_sent)
+        m_surroundings.draft.keep(m_report);
 }
 
 void ReportForm::finish() {

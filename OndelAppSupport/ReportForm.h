@@ -2,6 +2,7 @@
 
 #include "OndelAppSupport/BugReporter.h"
 #include "OndelAppSupport/Diagnostics.h"
+#include "OndelAppSupport/ReportDraft.h"
 
 #include <QFutureWatcher>
 #include <QObject>
@@ -13,7 +14,8 @@
 namespace OndelAppSupport {
 
 /// A report while the user writes it, and its way to the service. It begins empty and ends `sent`; a failed
-/// send leaves everything as it was typed. Destroying it while it is submitting gives that up. Threads: main.
+/// send leaves everything as it was typed. Destroying it while it is submitting gives that up. When the
+/// application ends under it, its words are kept, and the next form begins with them. Threads: main.
 class ReportForm : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isFeature READ isFeature WRITE setFeature NOTIFY changed)
@@ -34,6 +36,7 @@ public:
             return BugReporter::submit(report);
         };
         std::function<QString()> snapshot = &Diagnostics::snapshot;
+        ReportDraft draft{};
     };
 
     explicit ReportForm(QObject* parent = nullptr)
@@ -68,6 +71,9 @@ public:
 
     /// Does nothing while canSend is false.
     Q_INVOKABLE void send();
+
+    /// Called when the application ends. A report that has been sent needs no keeping.
+    void keepDraft() const;
 
 private:
     template <typename Value>

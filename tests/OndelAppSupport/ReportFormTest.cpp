@@ -142,6 +142,40 @@ TEST(ReportForm, GivesUpWhatItSubmitsWhenItIsDismissed) {
     answer.finish();
 }
 
+TEST(ReportForm, BeginsWithWordsThatTheEndOfTheProgramLeft) {
+    namespace fs = std::filesystem;
+    const test::TemporaryFolder folder;
+    const auto words = [](const ReportForm& form) {
+        return form.summary() + "|" + form.details() + "|" + form.email() + (form.isFeature() ? "|wish" : "");
+    };
+    const ReportForm::Surroundings here{.submit = [](const auto&) { return QtFuture::makeReadyFuture(); },
+                                        .draft = ReportDraft(folder.path())};
+    ReportForm typed(here);
+    typed.keepDraft();
+    EXPECT_TRUE(fs::is_empty(folder.path())) << "a form without words was kept";
+    typed.setFeature(true);
+    typed.setDetails("Grüße\n2");
+    typed.setAttachDiagnostics(true);
+    typed.keepDraft();
+    const fs::path file = fs::directory_iterator(folder.path())->path();
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+
+    ReportForm next(here);
+    EXPECT_EQ(words(next), "|Grüße\n2||wish");
+    EXPECT_FALSE(next.attachDiagnostics());
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+    next.setSummary("sum");
+    next.send();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(next.isSent());
+    next.keepDraft();
+    EXPECT_TRUE(fs::is_empty(folder.path())) << "what was sent was kept";
+    for (const char* damage : {"", "[1]", "{\"details\": 5"}) {
+        std::ofstream(file) << damage;
+        EXPECT_EQ(words(ReportForm(here)), "||");
+    }
+}
+
 TEST(Diagnostics, TellTheMachineAndTheNewestLines) {
     LogStore::shared().clear();
     for (int i = 0; i < 2000; ++i)
