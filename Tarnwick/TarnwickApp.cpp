@@ -1,6 +1,7 @@
 #include "Tarnwick/TarnwickApp.h"
 
 #include "OndelAppSupport/AppIdentity.h"
+#include "OndelCore/platform/SessionBus.h"
 #include "Tarnwick/CommandLine.h"
 #include "Tarnwick/Product.h"
 #include "Tarnwick/Toolkit.h"
@@ -28,6 +29,8 @@ void abandonRunAtExit() {
         modelAtExit->abandonRun();
 }
 
+constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
+
 /// Time for the process that was here first to come to its event loop, on a machine that is busy starting
 /// both.
 constexpr std::chrono::milliseconds handOverPatience = std::chrono::seconds(5);
@@ -39,6 +42,8 @@ int TarnwickApp::run(int argc, char** argv) {
         return *status;
     OpenRequest start{.urls = {}, .action = {}, .activationToken = OpenRequests::activationTokenOfStart()};
 
+    if (!OndelCore::platform::sessionBusAnswers(busPatience))
+        OndelCore::platform::doWithoutSessionBus();
     const auto application = startToolkit(argc, argv);
     OpenRequests requests(product::id);
     prepare();

@@ -7,6 +7,7 @@ import os
 import pathlib
 import select
 import signal
+import socket
 import subprocess
 import sys
 import time
@@ -70,12 +71,16 @@ def starts_beside_one_that_hangs(program, folder):
             first.process.send_signal(signal.SIGCONT)
             check(second.terminate() == (0, ""), "the second does not end quietly")
         check(first.terminate() == (0, ""), "the first does not end quietly")
-    alone = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
-    done = subprocess.Popen([program, folder], env=os.environ | alone)
-    while not driver.windows(TITLE):
-        time.sleep(0.02)
-    done.terminate()
-    check(done.wait(driver.GUARD_SECONDS) == 0, "without a bus it does not end quietly")
+    with socket.socket(socket.AF_UNIX) as deaf:  # takes connections, as long as nobody looks, and never answers
+        deaf.bind(f"{folder}/bus")
+        deaf.listen()
+        for bus in ("/nonexistent", f"{folder}/bus".replace(" ", "%20")):
+            alone = subprocess.Popen([program, folder], env=os.environ | {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={bus}"})
+            while not driver.windows(TITLE):
+                check(alone.poll() is None, "it does not start without a bus")
+                time.sleep(0.02)
+            alone.terminate()
+            check(alone.wait(driver.GUARD_SECONDS) == 0, "without a bus it does not end quietly")
 
 
 def opens_what_it_is_given(program, folder):
@@ -184,8 +189,16 @@ def goes_by_menu(program, folder):
         window.press("Help", "menu item")
         window.press("Report a Problem…", "menu item")
         window.find("Report a Problem", "heading")
+        window.keys("k", "e", "p", "t")
         window.keys("ctrl+q")
         check(window.end() == (0, ""), "it does not quit from a sheet")
+    with driver.Window(program) as window:
+        window.press("Help", "menu item")
+        window.press("Report a Problem…", "menu item")
+        summary = window.find("Summary — a one-line description")
+        check(summary.get_text(0, -1) == "kept", "what was typed is lost")
+        window.keys("Escape")
+        check(window.terminate() == (0, ""), "it does not end quietly")
 
 
 def tells_the_desktop_of_runs(program, folder, source):
