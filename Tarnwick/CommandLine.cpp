@@ -1,8 +1,9 @@
 #include "Tarnwick/CommandLine.h"
 
+#include "OndelCore/platform/UnifiedLog.h"
 #include "Tarnwick/OpenUrls.h"
+#include "Tarnwick/Product.h"
 
-#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -46,7 +47,7 @@ std::optional<int> CommandLine::answerWithoutWindow(int argc, char** argv) {
             return EXIT_SUCCESS;
         }
         if (word == "--version") {
-            std::printf("Ondel Tarnwick %s\n", ONDEL_VERSION);
+            std::printf("%s %s\n", product::name, ONDEL_VERSION);
             return EXIT_SUCCESS;
         }
     }
@@ -56,6 +57,8 @@ std::optional<int> CommandLine::answerWithoutWindow(int argc, char** argv) {
 std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
     CommandLine line;
     bool optionsHaveEnded = false;
+    // A desktop that starts the program keeps what it says in the log, where no file's name belongs.
+    const bool isLogged = OndelCore::platform::isStandardErrorLogged();
     for (const char* word : wordsOf(argc, argv)) {
         if (!optionsHaveEnded && std::string_view(word) == "--") {
             optionsHaveEnded = true;
@@ -64,7 +67,7 @@ std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
             return std::nullopt;
         } else {
             line.urls.push_back(urlOf(word));
-            if (OpenUrls::from({line.urls.back()}).isEmpty())
+            if (!isLogged && OpenUrls::from({line.urls.back()}).isEmpty())
                 std::fprintf(stderr, "tarnwick: %s is not a folder or a run file that can be opened.\n",
                              word);
         }
