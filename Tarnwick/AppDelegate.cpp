@@ -2,6 +2,7 @@
 
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/LaunchLog.h"
+#include "OndelCore/platform/StartupNotice.h"
 #include "OndelCore/platform/TerminationRequest.h"
 #include "Tarnwick/OpenUrls.h"
 
@@ -13,6 +14,14 @@
 #include <utility>
 
 namespace fs = std::filesystem;
+namespace platform = OndelCore::platform;
+
+namespace {
+
+/// On X11 the desktop waits to be told that a start is over.
+bool startsAreMarked() { return QGuiApplication::platformName() == QLatin1String("xcb"); }
+
+} // namespace
 
 AppDelegate::AppDelegate()
     : m_updater(updaterEnvironment())
@@ -21,7 +30,7 @@ AppDelegate::AppDelegate()
     connect(&m_end, &QFutureWatcher<void>::finished, this, [] { QCoreApplication::exit(0); });
 
     auto* notifier =
-        new QSocketNotifier(OndelCore::platform::terminationRequestDescriptor(), QSocketNotifier::Read, this);
+        new QSocketNotifier(platform::terminationRequestDescriptor(), QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
         notifier->setEnabled(false);
         terminate();
@@ -107,7 +116,14 @@ void AppDelegate::openRunFile() {
     });
 }
 
-bool AppDelegate::take(const OndelCore::platform::OpenRequest& request) {
+bool AppDelegate::take(const platform::OpenRequest& request) {
+    const bool isTaken = answer(request);
+    if (startsAreMarked())
+        platform::completeStartup(request.activationToken); // also where nothing came to the front
+    return isTaken;
+}
+
+bool AppDelegate::answer(const platform::OpenRequest& request) {
     if (!request.action.empty() && request.action != "choose-folder" && request.action != "open-run-file")
         return false;
     if (!request.urls.empty()) {
@@ -129,6 +145,8 @@ void AppDelegate::comeToFront(const std::string& activationToken) {
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.c_str()); // where the toolkit looks for it
     m_window->setWindowStates(m_window->windowStates() & ~Qt::WindowMinimized);
     m_window->setVisible(true);
+    if (startsAreMarked())
+        platform::completeStartup(activationToken, static_cast<std::uint32_t>(m_window->winId()));
     m_window->raise();
     m_window->requestActivate();
     qunsetenv("XDG_ACTIVATION_TOKEN"); // it is good for once

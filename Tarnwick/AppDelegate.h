@@ -75,6 +75,7 @@ public:
 
 private:
     OndelAppSupport::UpdaterEnvironment updaterEnvironment();
+    bool answer(const OndelCore::platform::OpenRequest& request);
     void endOfSession();
 
     TarnwickKit::views::Dialogs m_dialogs;

@@ -1,14 +1,19 @@
 // A window to drag URLs from, once, until it is killed: drag-source URL...
 // It says "ready" when it can be seen, "accepted" when the pointer is over a window that would take them, and
-// "taken" when that has done so.
+// "taken" when that has done so. It also repeats what programs tell the desktop of their starts.
 
+#include <QAbstractNativeEventFilter>
 #include <QDrag>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QRasterWindow>
 #include <QUrl>
 
+#include <xcb/xcb.h>
+
 #include <cstdio>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -44,10 +49,29 @@ private:
     bool m_isDragging = false;
 };
 
+/// Such a message comes in pieces, the last one with a NUL in it.
+class Starts : public QAbstractNativeEventFilter {
+public:
+    bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {
+        const auto* event = static_cast<const xcb_client_message_event_t*>(message);
+        if ((event->response_type & 0x7f) != XCB_CLIENT_MESSAGE || event->format != 8)
+            return false;
+        m_told.append(std::begin(event->data.data8), std::end(event->data.data8));
+        if (m_told.find('\0') != std::string::npos)
+            say(std::exchange(m_told, {}).c_str());
+        return false;
+    }
+
+private:
+    std::string m_told;
+};
+
 } // namespace
 
 int main(int argc, char** argv) {
-    const QGuiApplication application(argc, argv);
+    QGuiApplication application(argc, argv);
+    Starts starts;
+    application.installNativeEventFilter(&starts);
     Source source;
     source.setTitle(QStringLiteral("Drag from here"));
     source.setGeometry(1200, 0, 100, 100);

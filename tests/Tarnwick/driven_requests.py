@@ -83,6 +83,17 @@ def starts_beside_one_that_hangs(program, folder):
             check(alone.wait(driver.GUARD_SECONDS) == 0, "without a bus it does not end quietly")
 
 
+def ends_the_desktops_waiting(program, folder, source):
+    with child(source, stdout=subprocess.PIPE) as desktop, driver.Window(program) as window:
+        mark = 'a desktop\'s "mark"_TIME7'
+        check(subprocess.run([program], env=os.environ | {"DESKTOP_STARTUP_ID": mark}).returncode == 0, "a second start does not hand over")
+        told = "ready"
+        while told == "ready":
+            told = select.select([desktop.stdout], [], [], driver.GUARD_SECONDS)[0] and desktop.stdout.readline().decode().strip()
+        check(told == 'remove: ID="a desktop\'s \\"mark\\"_TIME7"', f"the desktop heard {told}")
+        check(window.terminate() == (0, ""), "it does not end quietly")
+
+
 def opens_what_it_is_given(program, folder):
     odd = folder / os.fsdecode("odd # 100% ü \udcff".encode("utf-8", "surrogateescape"))
     odd.mkdir()
@@ -281,7 +292,8 @@ if __name__ == "__main__":
     driver.enter_display()
     program, source, *only = sys.argv[1:]
     for case in (two_starts_give_one_window, starts_beside_one_that_hangs, opens_what_it_is_given, goes_by_menu,
-                 tells_the_desktop_of_runs, ends_in_every_phase, leaves_nothing_without_a_display, takes_what_is_dropped):
+                 ends_the_desktops_waiting, tells_the_desktop_of_runs, ends_in_every_phase, leaves_nothing_without_a_display,
+                 takes_what_is_dropped):
         if only and case.__name__ not in only:
             continue
         print(case.__name__.replace("_", " "), flush=True)
