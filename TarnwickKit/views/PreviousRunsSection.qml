@@ -5,7 +5,8 @@ import QtQuick.Layouts
 import TarnwickKit.views
 
 /// The saved runs, to open, to delete, or to pick for a comparison.
-ColumnLayout {
+// A positioner: a layout goes on asking a row that has just been removed, and finds its memory freed (Qt 6.4).
+Column {
     id: section
 
     required property AnalyzerModel analyzer
@@ -36,7 +37,7 @@ ColumnLayout {
     RowLayout {
         id: head
 
-        Layout.fillWidth: true
+        width: section.width
         spacing: 10
 
         Words {
@@ -100,8 +101,8 @@ ColumnLayout {
             readonly property bool isMade: index < section.made
             readonly property bool isOpen: expanded && !section.analyzer.compareMode
 
-            Layout.fillWidth: true
-            Layout.minimumHeight: isMade ? 0 : section.rowHeight
+            width: section.width
+            height: isMade ? implicitHeight : section.rowHeight
 
             Repeater {
                 model: entry.isMade && !entry.isOpen ? 1 : 0

@@ -107,6 +107,8 @@ def opens_what_it_is_given(program, folder):
         check(window.enabled("Run Benchmark"), "the folder of the start is not the target")
         check(subprocess.run([program, "1.tarnwickrun"], cwd=folder).returncode == 0, "a second start does not hand over")
         shows_run(window, 1)
+        check(opens(f"{url}/0.tarnwickrun"), "a run that is stored already is not taken")
+        shows_run(window, 0)
 
         garbage = [url + "/7.TARNWICKRUN", url + "/missing/", "file://elsewhere/tmp", "http://x/y.tarnwickrun", "file://", "%", "",
                    url + "/2.tarnwickrun%00", "x" * 100000, url + "/missing.tarnwickrun", url + "/broken.tarnwickrun"]
