@@ -3,6 +3,9 @@
 #include "OndelCore/platform/Storage.h"
 #include "OndelCore/platform/Uuid.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+
 #include <system_error>
 #include <vector>
 
@@ -11,7 +14,9 @@ namespace fs = std::filesystem;
 namespace OndelCore::benchmark {
 
 WorkingFolder::WorkingFolder(const fs::path& parent)
-    : m_path(parent / (std::string(namePrefix) + platform::newUuid())) {
+    : m_lock(open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    , m_path(parent / (std::string(namePrefix) + platform::newUuid())) {
+    flock(m_lock.get(), LOCK_SH | LOCK_NB);
     fs::create_directories(m_path);
 }
 

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "OndelCore/platform/FileDescriptor.h"
+
 #include <filesystem>
 #include <string_view>
 
 namespace OndelCore::benchmark {
 
 /// The hidden folder that holds everything a run writes.
+///
+/// While it is there, a shared lock (flock) on its parent says so: who sweeps only where nothing goes on asks
+/// for an exclusive one. Where folders cannot be locked there is none.
 /// Owner: the object removes it with all that is in it, and never complains about that.
 class WorkingFolder {
 public:
@@ -24,6 +29,7 @@ public:
     static void removeAllIn(const std::filesystem::path& parent);
 
 private:
+    platform::FileDescriptor m_lock;
     std::filesystem::path m_path;
 };
 

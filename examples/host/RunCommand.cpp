@@ -146,7 +146,7 @@ whole pages of 4096. Defaults are those of the window, so that its figures and t
 blocks of the sequential tests: the window takes the "Optimal transfer" that "facts" shows.
 
 Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
-run left behind in FOLDER is removed before the start, unless another tarnwick-host measures there.
+run left behind in FOLDER is removed before the start, unless somebody measures there.
 
 A run file and a picture stay until your session ends, or until the system empties its temporary folder. When one
 cannot be written, the figures are printed all the same and the run counts as failed.

@@ -3,8 +3,11 @@
 #include "BentSystem.h"
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
+#include "OndelCore/platform/FileDescriptor.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 
@@ -205,6 +208,14 @@ TEST_F(Hardship, AKilledRunIsSweptAway) {
     EXPECT_EQ(test::entriesIn(folder.path()), 2U);
     EXPECT_TRUE(fs::remove(bystander) && fs::remove(target));
     BenchmarkEngine::cleanupOrphans(folder.path() / "missing");
+}
+
+TEST_F(Hardship, ARunTellsThoseWhoSweepThatItGoesOn) {
+    const OndelCore::platform::FileDescriptor other(open(folder.path().c_str(), O_RDONLY | O_DIRECTORY));
+    const auto mayBeSwept = [&] { return flock(other.get(), LOCK_EX | LOCK_NB) == 0; };
+    system.onProgress = [&](const auto&) { EXPECT_FALSE(mayBeSwept()); };
+    system.run(smallPlan({fileOps}, BenchmarkSize::fixed(0)), folder.path());
+    EXPECT_TRUE(mayBeSwept());
 }
 
 TEST_F(Hardship, NothingIsAllocatedWhileMeasuring) {
