@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/platform/Mounts.h"
+
 #include <sys/types.h>
 
 #include <filesystem>
@@ -29,7 +31,7 @@ DeviceProperties superblockProperties(dev_t device);
 /// Where the answers about volumes and drives come from: the real system, unless a caller hands in something
 /// else.
 struct SystemSources {
-    std::filesystem::path mountTable = "/proc/self/mountinfo";
+    std::filesystem::path mountTable = systemMountTable;
     std::filesystem::path sysfs = "/sys";
     DevicePropertySource database = databaseProperties;
     DevicePropertySource superblock = superblockProperties;

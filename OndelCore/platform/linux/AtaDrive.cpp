@@ -48,7 +48,8 @@ bool isKnownAsAta(const BlockDevice& disk, const DevicePropertySource& database)
 bool mayBeAsked(const BlockDevice& disk) { return readNumber(disk.folder / "removable").value_or(1) == 0; }
 
 /// Standby by the count that CHECK POWER MODE leaves (ACS-3, 7.3.2): spun down, on the way there, or spun
-/// down behind a non-volatile cache.
+/// down behind a non-volatile cache. A drive that somebody sent to the deeper SLEEP hears no command at all:
+/// the kernel resets its link before it passes this one on, which takes the drive to standby.
 bool isAsleep(const AtaRegisters& registers) {
     return !registers.isAborted() &&
            (registers.count == 0x00 || registers.count == 0x01 || registers.count == 0x40);

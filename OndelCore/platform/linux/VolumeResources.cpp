@@ -126,17 +126,10 @@ void addSizes(VolumeResources& resources, const std::filesystem::path& path) {
 
 std::optional<VolumeResources> volumeResources(const std::filesystem::path& path,
                                                const SystemSources& sources) {
-    VolumeResources resources;
+    const auto mount = mountOfPathIn(sources.mountTable, path);
+    VolumeResources resources = mount ? resourcesOfMount(*mount, sources) : VolumeResources();
     addSizes(resources, path);
-    if (!resources.total)
-        return std::nullopt;
-    if (const auto mount = mountOfPathIn(sources.mountTable, path)) {
-        VolumeResources found = resourcesOfMount(*mount, sources);
-        found.total = resources.total;
-        found.available = resources.available;
-        return found;
-    }
-    return resources;
+    return resources.total ? std::optional(std::move(resources)) : std::nullopt;
 }
 
 std::optional<std::string> mountedFrom(const std::filesystem::path& path, const SystemSources& sources) {

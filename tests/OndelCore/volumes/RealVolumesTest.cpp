@@ -13,7 +13,9 @@
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/mount.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <fstream>
 
 using namespace OndelCore::volumes;
@@ -168,6 +170,22 @@ TEST(RealVolumes, KeepTheBytesOfAnyName) {
         EXPECT_TRUE(VolumeCapabilities::probe(point));
         EXPECT_EQ(listedBelow(elsewhere.path()).size() + listedBelow(disk.path()).size(), 1U);
     }
+}
+
+TEST(RealVolumes, AreListedWithOneThatNeverAnswers) {
+    const FileDescriptor program(open("/dev/fuse", O_RDWR | O_CLOEXEC)); // closed, it ends what waits for it
+    if (!program || geteuid() != 0)
+        GTEST_SKIP() << "no right to FUSE";
+    const test::TemporaryFolder folder;
+    const std::string options =
+        "fd=" + std::to_string(program.get()) + ",rootmode=40000,user_id=0,group_id=0";
+    const Mounted dead("server:/", folder.path() / "dead", "fuse.sshfs", 0, options.c_str());
+    const auto volumes = mountedVolumes();
+    const auto found = std::ranges::find(volumes, folder.path() / "dead", &MountedVolume::url);
+    ASSERT_NE(found, volumes.end());
+    EXPECT_EQ(found->name, "dead");
+    EXPECT_EQ(found->format, "SSHFS");
+    EXPECT_FALSE(found->total);
 }
 
 /// File systems that the kernel or a FUSE program serves, whichever there is: the type is the device's.
