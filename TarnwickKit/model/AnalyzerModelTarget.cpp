@@ -40,6 +40,14 @@ constexpr auto anyone = std::filesystem::perms::owner_read | std::filesystem::pe
                         std::filesystem::perms::group_read | std::filesystem::perms::group_write |
                         std::filesystem::perms::others_read | std::filesystem::perms::others_write;
 
+bool answersInTime(const std::filesystem::path& folder, std::chrono::milliseconds patience) {
+    const auto look = [folder] {
+        std::error_code ignored;
+        return std::filesystem::exists(folder, ignored);
+    };
+    return OndelCore::platform::answerWithin(patience, look).has_value();
+}
+
 } // namespace
 
 QString AnalyzerModel::targetFolderText() const {
@@ -103,7 +111,9 @@ void AnalyzerModel::chooseFolder() { chooseFolder(m_targetFolder); }
 void AnalyzerModel::chooseFolder(const std::optional<std::filesystem::path>& startingAt) {
     if (!m_dialogs)
         return;
-    const auto start = startingAt == "/" ? OndelCore::platform::homeFolder() : startingAt;
+    auto start = startingAt == "/" ? OndelCore::platform::homeFolder() : startingAt;
+    if (start && !answersInTime(*start, m_services.volumePatience))
+        start.reset(); // the dialog would hang with it
     m_dialogs->askForFolder(
         u"Choose a folder on the volume to test (a temporary working folder is written there and removed)."_s,
         u"Select"_s, start, [model = QPointer(this)](const std::filesystem::path& folder) {
