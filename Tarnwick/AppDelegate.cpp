@@ -96,8 +96,7 @@ void AppDelegate::open(const std::vector<std::string>& urls, const std::string& 
     // The target must not change under a run.
     if (sorted.folder && !m_model.isRunning())
         m_model.select(*sorted.folder);
-    for (const fs::path& run : sorted.runs)
-        m_model.importRun(run);
+    m_model.importRuns(sorted.runs);
     comeToFront(activationToken);
 }
 
@@ -110,10 +109,7 @@ void AppDelegate::drop(const QList<QUrl>& urls) {
 }
 
 void AppDelegate::openRunFile() {
-    m_dialogs.askForRunFiles([this](const std::vector<fs::path>& files) {
-        for (const fs::path& file : files)
-            m_model.importRun(file);
-    });
+    m_dialogs.askForRunFiles([this](const std::vector<fs::path>& files) { m_model.importRuns(files); });
 }
 
 bool AppDelegate::take(const platform::OpenRequest& request) {

@@ -195,6 +195,8 @@ public:
     /// Reads a run file into the history and, unless a run goes on, shows it.
     /// Fails: false, with a line in the log and nothing changed.
     bool importRun(const std::filesystem::path& file);
+    /// The same for each, in their order. The last one that can be read stays on view.
+    void importRuns(const std::vector<std::filesystem::path>& files);
 
     // --- Comparison
 

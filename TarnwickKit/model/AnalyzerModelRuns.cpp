@@ -110,6 +110,12 @@ bool AnalyzerModel::importRun(const std::filesystem::path& file) {
     return true;
 }
 
+void AnalyzerModel::importRuns(const std::vector<std::filesystem::path>& files) {
+    const HistoryStore::OneSave oneSave(*m_history);
+    for (const std::filesystem::path& file : files)
+        importRun(file);
+}
+
 void AnalyzerModel::setCompareMode(bool mode) {
     changeProperty(*this, m_compareMode, mode, &AnalyzerModel::compareModeChanged);
 }

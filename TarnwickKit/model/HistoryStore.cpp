@@ -177,7 +177,16 @@ void HistoryStore::clear() {
     Q_EMIT runsChanged();
 }
 
+HistoryStore::OneSave::~OneSave() {
+    m_store.m_holdsSave = false;
+    if (m_store.m_owesSave)
+        m_store.save();
+}
+
 void HistoryStore::save() {
+    m_owesSave = m_holdsSave;
+    if (m_owesSave)
+        return;
     if (m_fileIsUnreadable && !keepUnreadableFile())
         return;
     m_fileIsUnreadable = false;

@@ -51,6 +51,21 @@ public:
     void clear();
     void save();
 
+    /// While it lives, saving waits for its end: many changes at once then cost one write.
+    class OneSave {
+    public:
+        explicit OneSave(HistoryStore& store)
+            : m_store(store) {
+            m_store.m_holdsSave = true;
+        }
+        ~OneSave();
+        OneSave(const OneSave&) = delete;
+        OneSave& operator=(const OneSave&) = delete;
+
+    private:
+        HistoryStore& m_store;
+    };
+
 private:
     QByteArray encoded() const;
     bool keepUnreadableFile() const;
@@ -58,6 +73,8 @@ private:
     std::filesystem::path m_url;
     std::vector<RunRecord> m_runs;
     bool m_fileIsUnreadable = false;
+    bool m_holdsSave = false;
+    bool m_owesSave = false;
 };
 
 } // namespace TarnwickKit::model

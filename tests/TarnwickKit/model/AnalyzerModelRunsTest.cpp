@@ -151,8 +151,11 @@ TEST_F(AnalyzerModelRuns, ImportsARunFile) {
 
 TEST_F(AnalyzerModelRuns, ComparesInTheOrderOnView) {
     const RunRecord runs[] = {fullRun(2), fullRun(2), fullRun(2)};
+    std::vector<std::filesystem::path> files;
     for (const RunRecord& run : runs)
-        importRun(run);
+        files.push_back(TarnwickReport{run}.handoffFile().value());
+    model.importRuns(files);
+    EXPECT_EQ(HistoryStore(engine.history.path()).runs(), model.history().runs());
     // A single run, even with one that nobody has, is no comparison.
     model.toggleCompareMode();
     for (const QUuid& id : {runs[0].id, QUuid::createUuid()}) {
