@@ -3,6 +3,7 @@
 #include "TarnwickKit/views/CardView.h"
 #include "TarnwickKit/views/ComparedRuns.h"
 #include "TarnwickKit/views/ComparisonImage.h"
+#include "TarnwickKit/views/LegibleText.h"
 #include "TarnwickKit/views/QRCode.h"
 #include "TarnwickKit/views/ReportImage.h"
 #include "TarnwickKit/views/ViewPicture.h"
@@ -81,6 +82,18 @@ TEST(ReportImage, IsACardWithACodeThatCamerasRead) {
             EXPECT_EQ(content(*file), bytes) << "the same run gives the same bytes";
         }
     EXPECT_EQ(link(), OndelAppSupport::AppIdentity::tarnwick().website.toString());
+}
+
+TEST(LegibleText, DisturbsNothingBesideIt) {
+    const std::pair<QString, QString> cases[] = {
+        {QStringLiteral("a\n\u0007b\u2028c\u202Ed\u2066"), QStringLiteral("a b cd")},
+        {QStringLiteral("🏳️‍🌈"), QStringLiteral("🏳‍🌈")},
+        {QString(400, u'x'), QString(300, u'x')},
+    };
+    for (const auto& [from, to] : cases)
+        EXPECT_EQ(legible(from), to);
+    EXPECT_EQ(keptApart(QStringLiteral("SSD 990")), QStringLiteral("SSD 990"));
+    EXPECT_EQ(keptApart(QStringLiteral("דיסק")), QStringLiteral("\u2068דיסק\u2069"));
 }
 
 TEST(ReportImage, FileNamesAreSafe) {
