@@ -3,7 +3,8 @@ import QtQuick.Templates as T
 import OndelDrawing
 import TarnwickKit.views
 
-/// A vertical scroll area. What gets the keyboard's focus is brought into view, and the focus is kept in the content.
+/// A vertical scroll area. What gets the keyboard's focus is brought into view, and the focus is kept in the content. The
+/// keys that move in a page scroll it from wherever the focus is in it.
 Flickable {
     id: pane
 
@@ -60,6 +61,24 @@ Flickable {
         }
         if (found)
             found.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function scrollBy(distance: real): void {
+        contentY = Math.max(0, Math.min(contentHeight - height, contentY + distance));
+    }
+
+    Keys.onUpPressed: scrollBy(-40)
+    Keys.onDownPressed: scrollBy(40)
+    Keys.onPressed: event => {
+        const distances = {
+            [Qt.Key_PageUp]: 40 - height,
+            [Qt.Key_PageDown]: height - 40,
+            [Qt.Key_Home]: -contentHeight,
+            [Qt.Key_End]: contentHeight
+        };
+        event.accepted = event.key in distances;
+        if (event.accepted)
+            scrollBy(distances[event.key]);
     }
 
     function reveal(): void {
