@@ -10,9 +10,11 @@ Rectangle {
     required property AnalyzerModel analyzer
     required property TargetFacts target
     required property FocusKeeper keeper
-    readonly property bool showsRun: runs.hasCurrentRun
+    /// A comparison takes the place of what the phase would show.
+    readonly property bool showsPhase: !analyzer.isComparing
+    readonly property bool showsRun: showsPhase && runs.hasCurrentRun
                                      && (analyzer.phase === AnalyzerModel.Idle || analyzer.phase === AnalyzerModel.Done)
-    readonly property bool showsIdle: !runs.hasCurrentRun && analyzer.phase === AnalyzerModel.Idle
+    readonly property bool showsIdle: showsPhase && !runs.hasCurrentRun && analyzer.phase === AnalyzerModel.Idle
 
     color: PaletteKey.palette.body
 
@@ -47,7 +49,7 @@ Rectangle {
 
             // Each pane is there only while its state holds; a repeater of one or none makes and unmakes it.
             Repeater {
-                model: main.analyzer.isComparing ? 1 : 0
+                model: main.showsPhase ? 0 : 1
 
                 ComparisonPane {
                     width: parent.width
@@ -64,7 +66,7 @@ Rectangle {
                 }
             }
             Repeater {
-                model: main.analyzer.isRunning ? 1 : 0
+                model: main.showsPhase && main.analyzer.isRunning ? 1 : 0
 
                 LiveRunPane {
                     width: parent.width
@@ -73,7 +75,7 @@ Rectangle {
                 }
             }
             Repeater {
-                model: main.analyzer.phase === AnalyzerModel.Failed ? 1 : 0
+                model: main.showsPhase && main.analyzer.phase === AnalyzerModel.Failed ? 1 : 0
 
                 FailureBanner {
                     width: parent.width

@@ -42,6 +42,7 @@ def compares_and_shares(program, home, folder):
         window.press("Compare 2")
         window.find("Comparing 2 runs")
         window.find("Write, NVMe Server: 104 MB/s")
+        check(window.look("Ready to benchmark") is None, "a comparison does not take the pane's place")
 
         share(window, "Copy Image")
         window.find("Image copied")
