@@ -73,7 +73,6 @@ Item {
 
             width: Math.min(320, title.width)
             height: title.height
-            text: title.facts.customTitle
             font: Typeface.display(16)
             color: PaletteKey.palette.text
             selectionColor: PaletteKey.palette.tealSoft
@@ -82,7 +81,10 @@ Item {
             placeholderTextColor: PaletteKey.palette.text3
             selectByMouse: true
             Accessible.name: placeholderText
-            Component.onCompleted: forceActiveFocus()
+            Component.onCompleted: {
+                text = title.facts.customTitle; // once: what is typed is not to be taken back
+                forceActiveFocus();
+            }
             onAccepted: title.commit(text, true)
             onActiveFocusChanged: if (!activeFocus) title.commit(text, false)
             Keys.onEscapePressed: title.commit(title.facts.customTitle, true)
