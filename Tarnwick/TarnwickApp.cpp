@@ -2,6 +2,7 @@
 
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelCore/platform/SessionBus.h"
+#include "OndelCore/platform/Signals.h"
 #include "Tarnwick/CommandLine.h"
 #include "Tarnwick/Product.h"
 #include "Tarnwick/Toolkit.h"
@@ -42,6 +43,7 @@ int TarnwickApp::run(int argc, char** argv) {
         return *status;
     OpenRequest start{.urls = {}, .action = {}, .activationToken = OpenRequests::activationTokenOfStart()};
 
+    OndelCore::platform::surviveFileSizeLimit();
     if (!OndelCore::platform::sessionBusAnswers(busPatience))
         OndelCore::platform::doWithoutSessionBus();
     const auto application = startToolkit(argc, argv);

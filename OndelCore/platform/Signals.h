@@ -7,4 +7,8 @@ namespace OndelCore::platform {
 /// still stop it.
 void keepSignalsOffThisThread();
 
+/// From now on writing beyond the user's file-size limit is an error (EFBIG) in every thread, and in what
+/// this process starts, and ends nobody. Threads: the main one, before others exist.
+void surviveFileSizeLimit();
+
 } // namespace OndelCore::platform

@@ -5,6 +5,7 @@ import contextlib
 import json
 import os
 import pathlib
+import resource
 import select
 import signal
 import socket
@@ -75,7 +76,8 @@ def starts_beside_one_that_hangs(program, folder):
         deaf.bind(f"{folder}/bus")
         deaf.listen()
         for bus in ("/nonexistent", f"{folder}/bus".replace(" ", "%20")):
-            alone = subprocess.Popen([program, folder], env=os.environ | {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={bus}"})
+            alone = subprocess.Popen([program, folder], env=os.environ | {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={bus}"},
+                                     preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (10000, 10000)))
             while not driver.windows(TITLE):
                 check(alone.poll() is None, "it does not start without a bus")
                 time.sleep(0.02)

@@ -15,4 +15,6 @@ void keepSignalsOffThisThread() {
     pthread_sigmask(SIG_BLOCK, &held, nullptr);
 }
 
+void surviveFileSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
+
 } // namespace OndelCore::platform
