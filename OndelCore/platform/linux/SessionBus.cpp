@@ -58,7 +58,11 @@ QByteArray greeting() {
 } // namespace
 
 bool sessionBusAnswers(std::chrono::milliseconds patience) {
-    const auto address = socketOf(qgetenv(addressVariable));
+    return busAnswers(qgetenv(addressVariable).toStdString(), patience);
+}
+
+bool busAnswers(const std::string& addresses, std::chrono::milliseconds patience) {
+    const auto address = socketOf(QByteArray::fromStdString(addresses));
     if (!address)
         return true;
     const FileDescriptor bus(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));

@@ -1,3 +1,4 @@
+#include "OndelCore/platform/SessionBus.h"
 #include "OndelCore/platform/linux/DriveReaders.h"
 #include "OndelCore/platform/linux/UDisksBus.h"
 #include "OndelCore/platform/linux/UDisksFigures.h"
@@ -10,6 +11,12 @@ namespace {
 
 const QString ataInterface = QStringLiteral("org.freedesktop.UDisks2.Drive.Ata");
 const QString nvmeInterface = QStringLiteral("org.freedesktop.UDisks2.NVMe.Controller");
+
+/// Where the system bus listens (D-Bus, "Well-known Message Bus Instances").
+std::string systemBusAddress() {
+    const QByteArray given = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    return given.isEmpty() ? "unix:path=/var/run/dbus/system_bus_socket" : given.toStdString();
+}
 
 /// The service's object for the drive that the disk belongs to.
 std::optional<QDBusObjectPath> driveOf(const BlockDevice& disk, const UDisksObjects& objects) {
@@ -60,6 +67,9 @@ SmartAnswer readInterface(const BlockDevice& disk, const UDisksBus& bus, const Q
 } // namespace
 
 SmartAnswer readFromUDisks(const BlockDevice& disk, const SmartSources& sources) {
+    if (!busAnswers(sources.serviceBus.empty() ? systemBusAddress() : sources.serviceBus,
+                    sources.serviceLimit))
+        return nothing("UDisks2 does not answer");
     const UDisksBus bus(sources.serviceBus, sources.serviceLimit);
     const std::optional<UDisksObjects> objects = bus.objects();
     if (!objects)

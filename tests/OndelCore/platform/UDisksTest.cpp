@@ -8,7 +8,9 @@
 #include <QFile>
 
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <sys/sysmacros.h>
+#include <sys/un.h>
 
 namespace OndelCore::platform {
 
@@ -158,6 +160,24 @@ TEST_F(UDisks, GivesNoVerdictThatNobodyGave) {
         EXPECT_TRUE(answer.isEmpty()) << what;
         EXPECT_NE(answer.source.find("UDisks2"), std::string::npos) << what << ": " << answer.source;
     }
+}
+
+TEST(UDisksBus, ThatTakesConnectionsAndSaysNothingIsLeftAlone) {
+    test::FakeMachine machine;
+    addDisk(machine, "sda", disk, "scsi", {{"device/vendor", "ATA"}});
+    test::FakeDrives drives;
+    drives.drives["sda"].openError = EACCES;
+    const std::string path = (machine.folder() / "bus").string();
+    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+    path.copy(std::begin(address.sun_path), sizeof address.sun_path - 1);
+    const FileDescriptor bus(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    ASSERT_EQ(bind(bus.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    ASSERT_EQ(listen(bus.get(), 1), 0);
+    SmartSources sources = sourcesOf(machine, drives);
+    sources.serviceBus = "unix:path=" + path;
+    sources.serviceLimit = std::chrono::milliseconds(10);
+    EXPECT_EQ(smartOfDevice("sda", sources).source,
+              "sda may only be asked by an administrator, and UDisks2 does not answer");
 }
 
 /// The real service, its state in memory file systems of its own, so that it leaves nothing behind.
