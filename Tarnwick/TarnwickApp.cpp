@@ -6,7 +6,6 @@
 #include "Tarnwick/CommandLine.h"
 #include "Tarnwick/Product.h"
 #include "Tarnwick/Toolkit.h"
-#include "TarnwickKit/model/HistoryStore.h"
 #include "TarnwickKit/views/TarnwickFonts.h"
 
 #include <QQuickWindow>
@@ -64,7 +63,6 @@ int TarnwickApp::run(int argc, char** argv) {
 }
 
 void TarnwickApp::prepare() {
-    TarnwickKit::model::HistoryStore::readAhead();
     OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
     TarnwickKit::views::TarnwickFonts::registerFrom();
     QApplication::setFont(TarnwickKit::views::TarnwickFonts::applicationFont());

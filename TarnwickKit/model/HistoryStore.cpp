@@ -13,10 +13,8 @@
 
 #include <algorithm>
 #include <functional>
-#include <future>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace TarnwickKit::model {
 
@@ -101,31 +99,6 @@ void dropOldUnreadableFiles(const fs::path& newest) {
         fs::remove(others[index], error);
 }
 
-/// What a history's file holds. No file, no runs; one that cannot be read is told from that.
-struct Found {
-    std::vector<RunRecord> runs;
-    bool isUnreadable = false;
-};
-
-Found readHistory(const fs::path& file) {
-    std::error_code error;
-    if (fs::status(file, error).type() == fs::file_type::not_found)
-        return {};
-    const auto content = readRunFile(file);
-    auto runs = content ? decodeRuns(*content) : std::nullopt;
-    return runs ? Found{std::move(*runs), false} : Found{{}, true};
-}
-
-struct ReadAhead {
-    fs::path file;
-    std::future<Found> found;
-};
-
-ReadAhead& readAheadOfStore() {
-    static ReadAhead ahead;
-    return ahead;
-}
-
 } // namespace
 
 HistoryStore::HistoryStore(std::optional<fs::path> directory, QObject* parent)
@@ -135,15 +108,18 @@ HistoryStore::HistoryStore(std::optional<fs::path> directory, QObject* parent)
     fs::create_directories(folder, ignored);
     m_url = folder / fileName;
     OndelCore::platform::removeReplacementLeftovers(folder);
-    ReadAhead& ahead = readAheadOfStore();
-    Found found = ahead.found.valid() && ahead.file == m_url ? ahead.found.get() : readHistory(m_url);
-    m_runs = std::move(found.runs);
-    m_fileIsUnreadable = found.isUnreadable;
+    load();
 }
 
-void HistoryStore::readAhead(const std::optional<fs::path>& directory) {
-    const fs::path file = (directory ? *directory : defaultFolder()) / fileName;
-    readAheadOfStore() = {file, std::async(std::launch::async, readHistory, file)};
+void HistoryStore::load() {
+    std::error_code error;
+    if (fs::status(m_url, error).type() == fs::file_type::not_found)
+        return;
+    const auto content = readRunFile(m_url);
+    auto runs = content ? decodeRuns(*content) : std::nullopt;
+    m_fileIsUnreadable = !runs;
+    if (runs)
+        m_runs = std::move(*runs);
 }
 
 void HistoryStore::add(const RunRecord& run) {

@@ -15,7 +15,7 @@
 namespace TarnwickKit::model {
 
 /// The list of past runs, mirrored to one file: a JSON array of runs, newest first. The file is read once,
-/// when the store is made or ahead of that; of several programs that write it the last one wins.
+/// when the store is made; of several programs that write it the last one wins.
 ///
 /// Threads: the one that makes it. Fails: silently. What cannot be written stays in memory, and the next save
 /// that succeeds carries everything.
@@ -29,10 +29,6 @@ public:
     /// that cannot be read gives an empty list, and is kept beside before the first save would overwrite it.
     explicit HistoryStore(std::optional<std::filesystem::path> directory = std::nullopt,
                           QObject* parent = nullptr);
-
-    /// Begins to read the file of `directory` on a thread, for a program that has other things to do before
-    /// it makes the store, which then takes what was found.
-    static void readAhead(const std::optional<std::filesystem::path>& directory = std::nullopt);
 
     /// More than `limit` only if the file held more.
     const std::vector<RunRecord>& runs() const { return m_runs; }
@@ -67,6 +63,7 @@ public:
     };
 
 private:
+    void load();
     QByteArray encoded() const;
     bool keepUnreadableFile() const;
 

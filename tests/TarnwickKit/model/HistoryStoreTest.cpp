@@ -62,7 +62,6 @@ TEST_F(History, KeepsTheNewestRunsAcrossRestarts) {
         }
     }
     ids.pop_back();
-    HistoryStore::readAhead(folder.path());
     const HistoryStore store(folder.path());
     ASSERT_EQ(store.runs().size(), 50u);
     for (std::size_t index = 0; index < ids.size(); ++index)
