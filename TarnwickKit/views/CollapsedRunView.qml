@@ -15,7 +15,7 @@ PlainButton {
     label: facts.title
     detail: facts.stamp
     corner: 14
-    opacity: 1
+    pales: false
     leftPadding: 18
     rightPadding: 18
     topPadding: 15

@@ -25,7 +25,7 @@ PlainButton {
     topPadding: 13
     bottomPadding: 13
     hoverEnabled: true
-    opacity: 1
+    pales: false
     Accessible.ignored: !live
 
     background: Card {
@@ -119,7 +119,7 @@ PlainButton {
             label: qsTr("Delete %1").arg(row.facts.title)
             hint: qsTr("Delete this run")
             corner: 4
-            opacity: 1
+            pales: false
             Accessible.ignored: !row.live
             onClicked: row.remove()
 

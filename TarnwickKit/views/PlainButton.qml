@@ -12,10 +12,12 @@ T.AbstractButton {
     /// What assistive technology reads after the label: a value, an explanation.
     property string detail: hint
     property real corner: 8
+    /// It gets paler while it is pressed or not available.
+    property bool pales: true
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    opacity: !enabled ? 0.5 : pressed ? 0.75 : 1
+    opacity: !pales ? 1 : !enabled ? 0.5 : pressed ? 0.75 : 1
     focusPolicy: Qt.TabFocus
     activeFocusOnTab: true
 
