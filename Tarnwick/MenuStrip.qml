@@ -34,14 +34,13 @@ T.MenuBar {
         // The toolkit calls each title a menu bar of its own; its words say better what it is.
         Accessible.ignored: true
 
-        contentItem: Text {
+        contentItem: PlainText {
             id: words
 
             text: title.text
             font: Typeface.text(13)
             color: PaletteKey.palette.text2
             Accessible.role: Accessible.MenuItem
-            Accessible.name: text
             Accessible.onPressAction: title.triggered()
         }
         background: Card {

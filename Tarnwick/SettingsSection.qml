@@ -12,7 +12,7 @@ ColumnLayout {
 
     spacing: 8
 
-    Words {
+    PlainText {
         Layout.leftMargin: 4
         text: section.title
         font: Typeface.display(14)

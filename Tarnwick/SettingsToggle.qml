@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// A switch with a line that says what it does.
@@ -25,7 +26,7 @@ PlainButton {
         ColumnLayout {
             spacing: 2
 
-            Text {
+            PlainText {
                 Layout.fillWidth: true
                 text: control.label
                 font: Typeface.text(13, Font.Medium)
@@ -33,7 +34,7 @@ PlainButton {
                 wrapMode: Text.Wrap
                 Accessible.ignored: true
             }
-            Text {
+            PlainText {
                 Layout.fillWidth: true
                 text: control.explanation
                 font: Typeface.text(12)

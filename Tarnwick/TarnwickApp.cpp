@@ -3,6 +3,7 @@
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelCore/platform/SessionBus.h"
 #include "OndelCore/platform/Signals.h"
+#include "OndelDrawing/ViewEngine.h"
 #include "Tarnwick/CommandLine.h"
 #include "Tarnwick/Product.h"
 #include "Tarnwick/Toolkit.h"
@@ -78,7 +79,7 @@ TarnwickApp::TarnwickApp(OpenRequests& requests)
 TarnwickApp::~TarnwickApp() { modelAtExit = nullptr; }
 
 bool TarnwickApp::declareScenes() {
-    m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    OndelDrawing::prepareEngine(m_engine);
     m_engine.setInitialProperties({{QStringLiteral("delegate"), QVariant::fromValue(&m_delegate)}});
     m_engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml")));
     if (m_engine.rootObjects().isEmpty())

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import OndelAppSupport.views
 import TarnwickKit.views
 import Tarnwick
@@ -16,7 +17,7 @@ Item {
     implicitWidth: 440
     implicitHeight: form.implicitHeight + 40
 
-    component Caption: Words {
+    component Caption: PlainText {
         Layout.fillWidth: true
         font: Typeface.text(12)
         color: PaletteKey.palette.text2

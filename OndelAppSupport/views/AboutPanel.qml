@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelDrawing
 import OndelAppSupport.views
 
 /// Which program this is, and who made it of what.
@@ -8,7 +9,6 @@ PanelWindow {
     id: panel
 
     property appIdentity app: AppSupport.app
-    property url icon: "qrc:/ondel/Icons/tools.ondel.tarnwick.svg"
 
     title: qsTr("About %1").arg(app.name)
     width: Math.max(300, column.implicitWidth + 48)
@@ -21,7 +21,7 @@ PanelWindow {
         required property url address
         property bool first: false
 
-        Text {
+        PlainText {
             visible: !credit.first
             text: " · "
             font.pixelSize: 11
@@ -47,7 +47,7 @@ PanelWindow {
 
         Image {
             anchors.horizontalCenter: parent.horizontalCenter
-            source: panel.icon
+            source: "qrc:/ondel/Icons/tools.ondel.tarnwick.svg"
             sourceSize.width: 96
             sourceSize.height: 96
             Accessible.ignored: true

@@ -26,11 +26,10 @@ T.AbstractButton {
     Keys.onReturnPressed: button.clicked()
     Keys.onEnterPressed: button.clicked()
 
-    contentItem: Text {
+    contentItem: PlainText {
         id: words
 
         text: button.text
-        textFormat: Text.PlainText
         font.pixelSize: 10
         font.weight: button.prominent ? Font.DemiBold : Font.Normal
         color: "white"

@@ -74,12 +74,11 @@ T.AbstractButton {
             Accessible.onPressAction: item.triggered()
             onTriggered: button.chosen()
 
-            contentItem: Text {
+            contentItem: PlainText {
                 id: words
 
                 leftPadding: 10
                 text: item.text
-                textFormat: Text.PlainText
                 font.pixelSize: 13
                 color: item.highlighted ? item.palette.highlightedText : item.palette.windowText
                 verticalAlignment: Text.AlignVCenter

@@ -28,11 +28,10 @@ T.CheckBox {
             color: box.palette.highlightedText
         }
     }
-    contentItem: Text {
+    contentItem: PlainText {
         id: words
 
         text: box.text
-        textFormat: Text.PlainText
         font.pixelSize: 13
         color: box.palette.windowText
         verticalAlignment: Text.AlignVCenter

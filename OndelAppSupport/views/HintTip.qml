@@ -16,9 +16,8 @@ T.ToolTip {
     verticalPadding: 5
     closePolicy: T.Popup.NoAutoClose
 
-    contentItem: Text {
+    contentItem: PlainText {
         text: tip.text
-        textFormat: Text.PlainText
         font.pixelSize: 12
         color: tip.palette.windowText
         Accessible.ignored: true

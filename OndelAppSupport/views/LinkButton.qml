@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import OndelDrawing
 
 /// Words that lead somewhere, in the colour of links.
 T.AbstractButton {
@@ -19,11 +20,10 @@ T.AbstractButton {
     Keys.onReturnPressed: link.clicked()
     Keys.onEnterPressed: link.clicked()
 
-    contentItem: Text {
+    contentItem: PlainText {
         id: words
 
         text: link.text
-        textFormat: Text.PlainText
         font.pixelSize: link.textSize
         font.underline: link.hovered || link.visualFocus
         color: link.palette.link

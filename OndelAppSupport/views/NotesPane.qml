@@ -41,7 +41,7 @@ FocusScope {
                 opacity: bar.active ? 0.7 : 0.35
             }
         }
-        TextEdit {
+        PlainTextArea {
             id: area
 
             width: page.width
@@ -52,13 +52,7 @@ FocusScope {
             focus: true
             activeFocusOnTab: true
             readOnly: true
-            selectByMouse: true
-            textFormat: TextEdit.PlainText
-            wrapMode: TextEdit.Wrap
             font.pixelSize: 12
-            color: pane.palette.text
-            selectionColor: pane.palette.highlight
-            selectedTextColor: pane.palette.highlightedText
             Accessible.role: Accessible.StaticText
             Accessible.name: text
             Accessible.description: pane.label

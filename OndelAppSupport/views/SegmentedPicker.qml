@@ -54,11 +54,10 @@ FocusScope {
                 Accessible.onPressAction: picker.choose(index)
                 onCheckedChanged: if (checked) picker.choose(index)
 
-                contentItem: Text {
+                contentItem: PlainText {
                     id: words
 
                     text: segment.text
-                    textFormat: Text.PlainText
                     font.pixelSize: 13
                     font.weight: segment.checked ? Font.Medium : Font.Normal
                     color: segment.palette.windowText

@@ -24,11 +24,10 @@ T.Button {
     Keys.onReturnPressed: button.clicked()
     Keys.onEnterPressed: button.clicked()
 
-    contentItem: Text {
+    contentItem: PlainText {
         id: words
 
         text: button.text
-        textFormat: Text.PlainText
         font.pixelSize: 13
         font.weight: button.prominent ? Font.DemiBold : Font.Medium
         color: button.prominent ? button.palette.highlightedText : button.palette.buttonText

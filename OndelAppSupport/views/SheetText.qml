@@ -1,13 +1,11 @@
 import QtQuick
+import OndelDrawing
 
-/// A text of a sheet or a panel, which assistive technology reads on its own.
-Text {
+/// A text of a sheet or a panel.
+PlainText {
     property bool secondary: false
 
-    textFormat: Text.PlainText
     font.pixelSize: 13
     color: secondary ? palette.placeholderText : palette.windowText
     wrapMode: Text.Wrap
-    Accessible.role: Accessible.StaticText
-    Accessible.name: text
 }

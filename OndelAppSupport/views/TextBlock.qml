@@ -42,7 +42,7 @@ FocusScope {
                 opacity: bar.active ? 0.7 : 0.35
             }
         }
-        T.TextArea.flickable: T.TextArea {
+        T.TextArea.flickable: PlainTextArea {
             id: area
 
             leftPadding: 6
@@ -50,14 +50,7 @@ FocusScope {
             topPadding: 5
             bottomPadding: 5
             focus: true
-            font.family: Application.font.family
             font.pixelSize: 13
-            color: palette.text
-            selectionColor: palette.highlight
-            selectedTextColor: palette.highlightedText
-            selectByMouse: true
-            textFormat: TextEdit.PlainText
-            wrapMode: TextEdit.Wrap
             Accessible.name: editor.label
             Accessible.description: editor.prompt
 
@@ -67,13 +60,12 @@ FocusScope {
             Keys.onEnterPressed: event => editor.enter(event)
         }
     }
-    Text {
+    PlainText {
         x: 8
         y: 8
         width: parent.width - 16
         visible: area.length + area.preeditText.length === 0
         text: editor.prompt
-        textFormat: Text.PlainText
         font.pixelSize: 10
         color: editor.palette.placeholderText
         wrapMode: Text.Wrap

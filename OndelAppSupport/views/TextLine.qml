@@ -28,13 +28,12 @@ T.TextField {
         outline: field.activeFocus ? field.palette.highlight : field.palette.mid
         outlineWidth: field.activeFocus ? 2 : 1
     }
-    Text {
+    PlainText {
         x: field.leftPadding
         y: field.topPadding
         width: field.width - field.leftPadding - field.rightPadding
         visible: field.length + field.preeditText.length === 0
         text: field.prompt
-        textFormat: Text.PlainText
         font.pixelSize: 13
         color: field.palette.placeholderText
         elide: Text.ElideRight

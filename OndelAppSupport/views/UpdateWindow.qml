@@ -10,7 +10,6 @@ PanelWindow {
     id: window
 
     required property UpdaterController updater
-    property url icon: "qrc:/ondel/Icons/tools.ondel.tarnwick.svg"
     readonly property int state: updater.state
 
     title: qsTr("Software Update")
@@ -64,7 +63,7 @@ PanelWindow {
 
         Image {
             Layout.alignment: Qt.AlignTop
-            source: window.icon
+            source: "qrc:/ondel/Icons/tools.ondel.tarnwick.svg"
             sourceSize.width: 56
             sourceSize.height: 56
             Accessible.ignored: true

@@ -42,20 +42,22 @@ T.Popup {
         Accessible.name: alert.title
         Accessible.description: alert.message
 
-        Text {
+        PlainText {
             Layout.fillWidth: true
             text: alert.title
             font: Typeface.display(16)
             color: PaletteKey.palette.text
             wrapMode: Text.Wrap
+            Accessible.ignored: true
         }
-        Text {
+        PlainText {
             Layout.fillWidth: true
             visible: alert.message.length > 0
             text: alert.message
             font: Typeface.text(13)
             color: PaletteKey.palette.text2
             wrapMode: Text.Wrap
+            Accessible.ignored: true
         }
         RowLayout {
             Layout.topMargin: 8

@@ -13,7 +13,7 @@ PlainButton {
     topPadding: 7
     bottomPadding: 7
 
-    contentItem: Text {
+    contentItem: PlainText {
         text: button.label
         font: Typeface.text(13, Font.DemiBold)
         color: button.prominent && !button.destructive ? PaletteKey.palette.onAccent

@@ -32,7 +32,7 @@ ColumnLayout {
             radius: 2
             color: stat.dot
         }
-        Text {
+        PlainText {
             text: stat.label
             font: Typeface.text(12)
             color: PaletteKey.palette.text2
@@ -48,7 +48,7 @@ ColumnLayout {
         Layout.bottomMargin: extremes.visible ? 0 : 17
         spacing: 6
 
-        Text {
+        PlainText {
             id: figure
 
             width: Math.min(implicitWidth, line.width - unit.width - line.spacing)
@@ -59,7 +59,7 @@ ColumnLayout {
             color: PaletteKey.palette.text
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             id: unit
 
             anchors.baseline: figure.baseline
@@ -69,7 +69,7 @@ ColumnLayout {
             Accessible.ignored: true
         }
     }
-    Text {
+    PlainText {
         id: extremes
 
         Layout.leftMargin: 20

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// Whose card it is: the product's icon, name and web address.
@@ -18,14 +19,13 @@ RowLayout {
     Column {
         spacing: 1
 
-        Text {
+        PlainText {
             text: "Ondel Tarnwick"
             font: Typeface.display(brand.nameSize)
             color: PaletteKey.palette.text
         }
-        Text {
+        PlainText {
             text: brand.link
-            textFormat: Text.PlainText
             font: Typeface.mono(11.5)
             color: PaletteKey.palette.teal
         }

@@ -1,5 +1,6 @@
 #include "TarnwickKit/views/CardView.h"
 
+#include "OndelDrawing/ViewEngine.h"
 #include "TarnwickKit/views/PaletteKey.h"
 
 #include <QCoreApplication>
@@ -18,7 +19,7 @@ QQmlEngine& engine() {
     static QPointer<QQmlEngine> shared;
     if (!shared) {
         shared = new QQmlEngine(QCoreApplication::instance());
-        shared->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        OndelDrawing::prepareEngine(*shared);
     }
     return *shared;
 }

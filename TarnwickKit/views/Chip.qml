@@ -12,7 +12,7 @@ Card {
     radius: height / 2
     color: PaletteKey.palette.chip
 
-    Words {
+    PlainText {
         id: words
 
         anchors.centerIn: parent

@@ -41,12 +41,11 @@ PlainButton {
             RowLayout {
                 spacing: 8
 
-                Text {
+                PlainText {
                     Layout.fillWidth: true
                     Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
                     Layout.maximumWidth: Layout.preferredWidth
                     text: view.facts.title
-                    textFormat: Text.PlainText
                     horizontalAlignment: Text.AlignLeft
                     font: Typeface.display(15)
                     color: PaletteKey.palette.text
@@ -56,7 +55,7 @@ PlainButton {
                 }
                 CompleteBadge {}
             }
-            Text {
+            PlainText {
                 Layout.fillWidth: true
                 text: view.facts.stamp
                 horizontalAlignment: Text.AlignLeft

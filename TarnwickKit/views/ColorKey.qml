@@ -1,6 +1,5 @@
 import QtQuick
 import OndelDrawing
-import TarnwickKit.views
 
 /// A run's colour and words about it.
 Item {
@@ -25,13 +24,12 @@ Item {
         radius: 3
         color: key.color
     }
-    Words {
+    PlainText {
         id: words
 
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.leftMargin: key.side + 7
-        textFormat: Text.PlainText
         color: key.textColor
     }
 }

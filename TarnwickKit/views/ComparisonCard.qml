@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// A comparison as a picture to share, with the chart that its pane in the window has.
@@ -52,12 +53,12 @@ ImageCard {
             Column {
                 spacing: 1
 
-                Text {
+                PlainText {
                     text: qsTr("Runs comparison")
                     font: Typeface.display(15)
                     color: PaletteKey.palette.text
                 }
-                Text {
+                PlainText {
                     text: qsTr("%1 benchmarks compared").arg(card.runs.count)
                     font: Typeface.mono(11)
                     color: PaletteKey.palette.text3
@@ -66,7 +67,7 @@ ImageCard {
             Item {
                 Layout.fillWidth: true
             }
-            Text {
+            PlainText {
                 text: qsTr("Scan to try it")
                 font: Typeface.mono(10.5)
                 color: PaletteKey.palette.text3

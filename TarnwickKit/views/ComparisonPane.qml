@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// Runs side by side in the window.
@@ -20,7 +21,7 @@ CardFrame {
             symbolSize: 13
             symbolWeight: Font.Normal
         },
-        Words {
+        PlainText {
             Layout.fillWidth: true
             text: qsTr("Comparing %1 runs").arg(pane.runs.count)
             font: Typeface.display(16)

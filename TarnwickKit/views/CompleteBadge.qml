@@ -8,7 +8,7 @@ Card {
     radius: height / 2
     color: Qt.alpha(PaletteKey.palette.good, 0.14)
 
-    Words {
+    PlainText {
         id: words
 
         anchors.centerIn: parent

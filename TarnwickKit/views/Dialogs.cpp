@@ -91,7 +91,10 @@ void Dialogs::askForRunFiles(std::function<void(const std::vector<fs::path>&)> c
 }
 
 void Dialogs::showError(const QString& sentence) {
-    show(new QMessageBox(QMessageBox::Warning, QStringLiteral("Ondel Tarnwick"), sentence, QMessageBox::Ok));
+    auto* box =
+        new QMessageBox(QMessageBox::Warning, QStringLiteral("Ondel Tarnwick"), sentence, QMessageBox::Ok);
+    box->setTextFormat(Qt::PlainText); // it names files
+    show(box);
 }
 
 } // namespace TarnwickKit::views

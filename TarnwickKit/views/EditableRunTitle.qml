@@ -44,12 +44,11 @@ Item {
         contentItem: RowLayout {
             spacing: 6
 
-            Text {
+            PlainText {
                 Layout.fillWidth: true
                 Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
                 Layout.maximumWidth: Layout.preferredWidth
                 text: title.facts.title
-                textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignLeft
                 font: Typeface.display(16)
                 color: PaletteKey.palette.text
@@ -89,7 +88,7 @@ Item {
             onActiveFocusChanged: if (!activeFocus) title.commit(text, false)
             Keys.onEscapePressed: title.commit(title.facts.customTitle, true)
 
-            Text {
+            PlainText {
                 visible: field.text.length === 0
                 text: field.placeholderText
                 font: field.font

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// A finished run at full size.
@@ -30,7 +31,7 @@ CardFrame {
         Item {
             Layout.fillWidth: true
         },
-        Words {
+        PlainText {
             text: pane.facts.stamp
             font: Typeface.mono(11.5)
             color: PaletteKey.palette.text3

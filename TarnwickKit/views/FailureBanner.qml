@@ -27,7 +27,7 @@ Card {
             size: 13
             color: PaletteKey.palette.amber
         }
-        Text {
+        PlainText {
             Layout.fillWidth: true
             text: banner.message
             font: Typeface.text(13)

@@ -38,7 +38,7 @@ FlowLayout {
                     size: 8
                     color: PaletteKey.palette.teal
                 }
-                Words {
+                PlainText {
                     text: chip.modelData
                     font: Typeface.text(11)
                     color: PaletteKey.palette.text2

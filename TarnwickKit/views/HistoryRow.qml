@@ -63,10 +63,9 @@ PlainButton {
             Layout.minimumWidth: 0
             spacing: 2
 
-            Text {
+            PlainText {
                 Layout.fillWidth: true
                 text: row.facts.title
-                textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignLeft // also of a name that runs the other way
                 font: Typeface.display(14)
                 color: row.PaletteKey.palette.text
@@ -74,7 +73,7 @@ PlainButton {
                 maximumLineCount: 1
                 Accessible.ignored: true
             }
-            Text {
+            PlainText {
                 readonly property bool fits: whole.width <= row.room
 
                 Layout.fillWidth: true

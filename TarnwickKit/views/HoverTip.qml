@@ -24,7 +24,7 @@ T.ToolTip {
     verticalPadding: 5
     closePolicy: T.Popup.NoAutoClose
 
-    contentItem: Text {
+    contentItem: PlainText {
         text: tip.text
         font: Typeface.text(11.5)
         color: PaletteKey.palette.text

@@ -27,7 +27,7 @@ Card {
             size: 30
             color: PaletteKey.palette.teal
         }
-        Words {
+        PlainText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             text: card.hasTarget ? qsTr("Ready to benchmark") : qsTr("Choose a volume to begin")
@@ -35,7 +35,7 @@ Card {
             color: PaletteKey.palette.text
             wrapMode: Text.Wrap
         }
-        Words {
+        PlainText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             text: card.hasTarget ? qsTr("Adjust tests and settings on the left, then press Run Benchmark.")

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// A labelled fact.
@@ -22,7 +23,7 @@ Item {
         width: parent.width
         spacing: 8
 
-        Text {
+        PlainText {
             Layout.fillWidth: true
             Layout.minimumWidth: 40
             Layout.alignment: Qt.AlignBaseline
@@ -32,11 +33,10 @@ Item {
             elide: Text.ElideRight
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             Layout.maximumWidth: row.width - 48
             Layout.alignment: Qt.AlignBaseline
             text: row.value
-            textFormat: Text.PlainText
             font: Typeface.mono(11.5)
             color: row.warning ? PaletteKey.palette.amber : PaletteKey.palette.text
             elide: Text.ElideRight

@@ -18,9 +18,10 @@ Row {
         radius: 1.5
         color: item.color
     }
-    Text {
+    PlainText {
         text: item.label
         font: Typeface.text(12)
         color: PaletteKey.palette.text2
+        Accessible.ignored: true
     }
 }

@@ -16,7 +16,7 @@ CardFrame {
             turnsItself: false
             step: live.beat % 8
         },
-        Words {
+        PlainText {
             Layout.fillWidth: true
             Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
             Layout.maximumWidth: Layout.preferredWidth
@@ -53,7 +53,7 @@ CardFrame {
             to: Math.max(1, live.totalBytes)
             value: live.completedBytes
         }
-        Words {
+        PlainText {
             text: qsTr("%1 of %2").arg(Format.bytes(live.completedBytes)).arg(Format.bytes(live.totalBytes))
             font: Typeface.mono(11)
             color: PaletteKey.palette.text3

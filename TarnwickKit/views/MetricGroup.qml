@@ -19,13 +19,13 @@ RowLayout {
         Layout.preferredWidth: 96
         spacing: 1
 
-        Text {
+        PlainText {
             text: group.metric.label
             font: Typeface.text(12, Font.Medium)
             color: PaletteKey.palette.text2
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             text: group.metric.unit
             font: Typeface.mono(9)
             color: PaletteKey.palette.text3
@@ -67,7 +67,7 @@ RowLayout {
                         color: group.series[line.index % group.series.length]
                     }
                 }
-                Text {
+                PlainText {
                     anchors.verticalCenter: parent.verticalCenter
                     width: 60
                     text: line.modelData.text

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 RowLayout {
@@ -12,7 +13,7 @@ RowLayout {
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + figure.text
 
-    Text {
+    PlainText {
         Layout.fillWidth: true
         Layout.alignment: Qt.AlignBaseline
         text: stat.label
@@ -21,7 +22,7 @@ RowLayout {
         elide: Text.ElideRight
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         id: figure
 
         Layout.alignment: Qt.AlignBaseline

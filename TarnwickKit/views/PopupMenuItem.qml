@@ -43,10 +43,9 @@ T.MenuItem {
             size: 11
             color: PaletteKey.palette.text2
         }
-        Text {
+        PlainText {
             Layout.fillWidth: true
             text: item.text
-            textFormat: Text.PlainText
             font: item.isHeading ? Typeface.text(11, Font.DemiBold) : Typeface.text(13)
             color: item.isHeading ? PaletteKey.palette.text3
                                   : item.destructive ? PaletteKey.palette.coralink : PaletteKey.palette.text
@@ -54,7 +53,7 @@ T.MenuItem {
             maximumLineCount: 1
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             Layout.leftMargin: 20
             visible: item.keys.length > 0
             text: item.keys

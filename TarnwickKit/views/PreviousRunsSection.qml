@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// The saved runs, to open, to delete, or to pick for a comparison.
@@ -40,7 +41,7 @@ Column {
         width: section.width
         spacing: 10
 
-        Words {
+        PlainText {
             text: section.analyzer.compareMode ? qsTr("Select runs to compare") : qsTr("Previous runs")
             font: Typeface.display(14)
             color: PaletteKey.palette.heading

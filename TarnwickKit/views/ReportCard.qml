@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// A finished run as a picture to share, of the same pieces as its pane in the window.
@@ -35,10 +36,9 @@ ImageCard {
             ColumnLayout {
                 spacing: 1
 
-                Text {
+                PlainText {
                     Layout.fillWidth: true
                     text: card.facts.screenshotTitle
-                    textFormat: Text.PlainText
                     wrapMode: Text.Wrap
                     maximumLineCount: 4
                     elide: Text.ElideRight
@@ -46,10 +46,9 @@ ImageCard {
                     font: Typeface.display(16)
                     color: PaletteKey.palette.text
                 }
-                Text {
+                PlainText {
                     Layout.fillWidth: true
                     text: card.facts.screenshotSubtitle
-                    textFormat: Text.PlainText
                     wrapMode: Text.Wrap
                     maximumLineCount: 4
                     elide: Text.ElideRight
@@ -57,7 +56,7 @@ ImageCard {
                     color: PaletteKey.palette.text3
                 }
             }
-            Text {
+            PlainText {
                 text: card.facts.stamp
                 font: Typeface.mono(11.5)
                 color: PaletteKey.palette.text3

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// Whose picture a report card is, and where to get one's own.
@@ -28,13 +29,13 @@ CardFoot {
         Column {
             spacing: 2
 
-            Text {
+            PlainText {
                 anchors.right: parent.right
                 text: qsTr("Disk speed & volume analyzer")
                 font: Typeface.text(11.5)
                 color: PaletteKey.palette.text2
             }
-            Text {
+            PlainText {
                 anchors.right: parent.right
                 text: qsTr("Scan to benchmark your own")
                 font: Typeface.mono(10.5)

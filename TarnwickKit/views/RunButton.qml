@@ -54,7 +54,7 @@ PlainButton {
             size: 10
             color: parent.ink
         }
-        Text {
+        PlainText {
             text: button.label
             font: Typeface.display(14)
             color: parent.ink

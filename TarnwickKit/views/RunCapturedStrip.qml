@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// The facts of the volume and the settings that were captured with a run, at the foot of its card.
@@ -41,7 +42,7 @@ CardFoot {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: modelData.label + " " + modelData.value
 
-                Text {
+                PlainText {
                     id: name
 
                     text: item.modelData.label + " "
@@ -49,7 +50,7 @@ CardFoot {
                     color: PaletteKey.palette.text2
                     Accessible.ignored: true
                 }
-                Text {
+                PlainText {
                     anchors.baseline: name.baseline
                     text: item.modelData.value
                     font: Typeface.mono(12)

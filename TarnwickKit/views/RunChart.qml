@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// A finished run's curves, with their legend.
@@ -17,7 +18,7 @@ ColumnLayout {
         Layout.bottomMargin: 10
         spacing: 14
 
-        Text {
+        PlainText {
             Layout.fillWidth: true
             text: qsTr("Throughput over time")
             font: Typeface.mono(10.5, 1.5)

@@ -24,7 +24,7 @@ Column {
             radius: 2
             color: stat.dot
         }
-        Text {
+        PlainText {
             text: stat.label
             font: Typeface.text(11)
             color: stat.PaletteKey.palette.text2
@@ -34,7 +34,7 @@ Column {
     Row {
         spacing: 3
 
-        Text {
+        PlainText {
             id: figure
 
             width: Math.min(implicitWidth, stat.width - unit.width - 3)
@@ -46,7 +46,7 @@ Column {
             color: stat.PaletteKey.palette.text
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             id: unit
 
             anchors.baseline: figure.baseline

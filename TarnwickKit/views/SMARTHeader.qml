@@ -16,14 +16,14 @@ RowLayout {
         size: 12
         color: header.target.isFailing ? "red" : PaletteKey.palette.good
     }
-    Text {
+    PlainText {
         Layout.fillWidth: true
         text: qsTr("S.M.A.R.T.")
         font: Typeface.display(14)
         color: PaletteKey.palette.heading
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         text: header.target.isFailing ? qsTr("Failing") : qsTr("Verified")
         font: Typeface.text(12)
         color: PaletteKey.palette.text3

@@ -39,7 +39,7 @@ Column {
                 size: 12
                 color: PaletteKey.palette.text2
             }
-            Text {
+            PlainText {
                 text: qsTr("Export…")
                 font: Typeface.text(12)
                 color: PaletteKey.palette.text2

@@ -19,7 +19,7 @@ RowLayout {
 
     spacing: 8
 
-    Text {
+    PlainText {
         Layout.fillWidth: true
         Layout.leftMargin: 4
         text: setting.label
@@ -58,7 +58,7 @@ RowLayout {
         contentItem: Row {
             spacing: 5
 
-            Text {
+            PlainText {
                 text: setting.value
                 font: Typeface.mono(11.5)
                 color: PaletteKey.palette.text

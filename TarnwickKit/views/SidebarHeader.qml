@@ -1,12 +1,12 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
-Text {
+PlainText {
     leftPadding: 4
     rightPadding: 4
     bottomPadding: 11
     font: Typeface.display(14)
     color: PaletteKey.palette.heading
     Accessible.role: Accessible.Heading
-    Accessible.name: text
 }

@@ -32,7 +32,7 @@ Row {
             }
         }
     }
-    Text {
+    PlainText {
         text: pill.status
         font: Typeface.mono(11.5)
         color: PaletteKey.palette.text3

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// What is known of the target: its file system and its drive. Which of the two is open is remembered.
@@ -28,7 +29,7 @@ Column {
                 isExpanded: kept.capabilitiesExpanded
                 onToggled: expanded => kept.capabilitiesExpanded = expanded
 
-                header: Text {
+                header: PlainText {
                     text: capabilities.label
                     font: Typeface.display(14)
                     color: PaletteKey.palette.heading

@@ -48,7 +48,7 @@ PlainButton {
                 color: row.PaletteKey.palette.onAccent
             }
         }
-        Text {
+        PlainText {
             Layout.fillWidth: true
             text: row.title
             font: Typeface.text(13.5, Font.Medium)
@@ -56,7 +56,7 @@ PlainButton {
             elide: Text.ElideRight
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             Layout.leftMargin: 4 - parent.spacing // the least gap, so that long titles stay whole
             text: row.figure
             font: Typeface.mono(11)

@@ -1,4 +1,5 @@
 import QtQuick
+import OndelDrawing
 import TarnwickKit.views
 
 /// A button that is nothing but its words.
@@ -10,7 +11,7 @@ PlainButton {
 
     corner: 4
 
-    contentItem: Text {
+    contentItem: PlainText {
         text: button.label
         font: button.textFont
         color: button.hovered ? PaletteKey.palette.text : button.textColor

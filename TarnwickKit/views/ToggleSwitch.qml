@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import OndelDrawing
 import TarnwickKit.views
 
 /// A labelled on/off switch.
@@ -20,7 +21,7 @@ PlainButton {
     contentItem: RowLayout {
         spacing: 8
 
-        Text {
+        PlainText {
             Layout.fillWidth: true
             text: control.label
             font: Typeface.text(13, Font.Medium)

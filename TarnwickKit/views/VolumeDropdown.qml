@@ -53,24 +53,22 @@ PlainButton {
         ColumnLayout {
             spacing: 1
 
-            Text {
+            PlainText {
                 id: title
 
                 Layout.fillWidth: true
                 text: dropdown.target.volumeName || qsTr("Select a volume")
-                textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignLeft
                 font: Typeface.display(14)
                 color: PaletteKey.palette.text
                 elide: Text.ElideRight
                 Accessible.ignored: true
             }
-            Text {
+            PlainText {
                 id: subtitle
 
                 Layout.fillWidth: true
                 text: dropdown.target.volumeLine || qsTr("No volume selected")
-                textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignLeft
                 font: Typeface.mono(10.5)
                 color: PaletteKey.palette.text3

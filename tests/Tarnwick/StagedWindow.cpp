@@ -1,10 +1,12 @@
-/// The window on a machine that is made up, for its pictures and its speed: staged-window MACHINE
+/// The window on a machine that is made up, for tests, pictures and speed: staged-window MACHINE [TEXT]
 ///   drive    a drive with 25 figures of health, several of them a concern, on a volume with a long name
 ///   failing  the same, given up by its own verdict
 ///   blind    a target of whose volume nothing is known
 ///   stream   a run that tells 50 jagged samples a second for a minute and does nothing else
+///   named    every text that a volume or a drive has of its own is TEXT; its run takes a second
 
 #include "OndelAppSupport/AppIdentity.h"
+#include "OndelDrawing/ViewEngine.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
 #include "TarnwickKit/views/TarnwickFonts.h"
 
@@ -37,8 +39,7 @@ DiskSMART manyFigures(bool isFailing) {
     return smart;
 }
 
-void stream(const benchmark::ProgressListener& tell, const std::stop_token& stop) {
-    constexpr int samples = 3000;
+void stream(int samples, const benchmark::ProgressListener& tell, const std::stop_token& stop) {
     for (int i = 0; i < samples && !stop.stop_requested(); ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
         const double rate = 2e9 * (1 + 0.4 * std::sin(i * 1.7) + 0.2 * std::sin(i * 0.031));
@@ -46,7 +47,43 @@ void stream(const benchmark::ProgressListener& tell, const std::stop_token& stop
     }
 }
 
-AnalyzerServices machine(std::string_view name) {
+/// A benchmark of that many samples which does nothing else.
+auto streamedRun(int samples) {
+    return [samples](auto&&, auto&&, const benchmark::ProgressListener& tell, const std::stop_token& stop) {
+        QPromise<benchmark::BenchmarkResult> result;
+        auto future = result.future();
+        std::thread([samples, tell, stop, result = std::move(result)]() mutable {
+            result.start();
+            stream(samples, tell, stop);
+            result.addResult(benchmark::BenchmarkResult{});
+            result.finish();
+        }).detach();
+        return future;
+    };
+}
+
+/// Labels and file systems call themselves what they like.
+void nameEverything(AnalyzerServices& services, const std::string& text) {
+    const QString name = QString::fromStdString(text);
+    services.loadVolume = [load = services.loadVolume, name](const volumes::Location& location) {
+        auto volume = load(location);
+        volume->name = volume->format = name;
+        return volume;
+    };
+    services.probeCapabilities = [probe = services.probeCapabilities, name](const auto& path) {
+        auto capabilities = probe(path);
+        capabilities->filesystemType = name;
+        return capabilities;
+    };
+    services.readHealth = [text](const auto&) {
+        return DiskSMART{
+            .status = DiskSMART::Status::verified, .kind = text, .attributes = {{text, text, true}}};
+    };
+    services.driveIdentity = [name](const auto&) { return TarnwickKit::model::DriveIdentity{name, name}; };
+    services.runBenchmark = streamedRun(50);
+}
+
+AnalyzerServices machine(std::string_view name, const std::string& text) {
     AnalyzerServices services = AnalyzerServices::real();
     if (name == "drive" || name == "failing") {
         const bool isFailing = name == "failing";
@@ -60,18 +97,9 @@ AnalyzerServices machine(std::string_view name) {
         services.loadVolume = [](const auto&) { return std::nullopt; };
         services.probeCapabilities = [](const auto&) { return std::nullopt; };
     } else if (name == "stream") {
-        services.runBenchmark = [](auto&&, auto&&, const benchmark::ProgressListener& tell,
-                                   const std::stop_token& stop) {
-            QPromise<benchmark::BenchmarkResult> result;
-            auto future = result.future();
-            std::thread([tell, stop, result = std::move(result)]() mutable {
-                result.start();
-                stream(tell, stop);
-                result.addResult(benchmark::BenchmarkResult{});
-                result.finish();
-            }).detach();
-            return future;
-        };
+        services.runBenchmark = streamedRun(3000);
+    } else if (name == "named") {
+        nameEverything(services, text);
     }
     return services;
 }
@@ -84,11 +112,11 @@ int main(int argc, char** argv) {
     TarnwickKit::views::TarnwickFonts::registerFrom();
     application.setFont(TarnwickKit::views::TarnwickFonts::applicationFont());
 
-    TarnwickKit::model::AnalyzerModel model(machine(argc > 1 ? argv[1] : ""));
+    TarnwickKit::model::AnalyzerModel model(machine(argc > 1 ? argv[1] : "", argc > 2 ? argv[2] : ""));
     model.select(std::filesystem::temp_directory_path());
 
     QQmlApplicationEngine engine;
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    OndelDrawing::prepareEngine(engine);
     engine.setInitialProperties({{QStringLiteral("analyzer"), QVariant::fromValue(&model)}});
     engine.loadData(R"(
         import QtQuick

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelDrawing/ViewEngine.h"
+
 #include <QImage>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -32,7 +34,7 @@ inline double distance(const QImage& a, const QImage& b) {
 class Stage {
 public:
     explicit Stage(const QByteArray& qml, const QVariantMap& properties = {}) {
-        m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+        OndelDrawing::prepareEngine(m_engine);
         QQmlComponent component(&m_engine);
         component.setData("import QtQuick\nimport OndelDrawing\nimport TarnwickKit.views\n" + qml, QUrl());
         m_root.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));

@@ -1,0 +1,6 @@
+import QtQuick
+
+/// The part of PlainText that sets what PlainText then hides. For PlainText alone.
+Text {
+    textFormat: Text.PlainText
+}

@@ -1,0 +1,172 @@
+#!/usr/bin/python3
+"""Markup in every text that comes from outside: it is shown as it is, nobody is called and no file is read.
+Usage: driven_markup.py PROGRAM"""
+
+import json
+import os
+import pathlib
+import socket
+import subprocess
+import sys
+import threading
+
+import driver
+import saved_runs
+from driven_window import check
+
+KINDS = [("internalDrive", "Internal", "ext4"), ("external", "External", "exfat"), ("network", "Network", "nfs")]
+TEXTS = ("volumeName", "connection", "fsType", "sizeLabel", "deviceModel", "deviceProtocol", "customTitle")
+
+
+class Lures:
+    """A server and a pipe that markup names. Both note who comes."""
+
+    def __init__(self, folder):
+        self.came = []
+        self.pipe = folder / "picture.png"
+        os.mkfifo(self.pipe)
+        self.listener = socket.create_server(("127.0.0.1", 0))
+        self.address = "http://127.0.0.1:%d/" % self.listener.getsockname()[1]
+        for watch in (self.serve, self.feed):
+            threading.Thread(target=watch, daemon=True).start()
+
+    def serve(self):
+        while True:
+            connection, _ = self.listener.accept()
+            request = connection.recv(1000).split(b"\r\n")[0].decode()
+            self.came.append(request)
+            connection.sendall(b"HTTP/1.0 404 None\r\n\r\n")
+            connection.close()
+
+    def feed(self):
+        with open(self.pipe, "wb"):  # waits for a reader
+            self.came.append("the file")
+
+    def markups(self, field):
+        """What a text can try. A text is shown in full up to 300 characters."""
+        picture = f"{self.address}{field}.png"
+        return [f'<img src="{picture}">',
+                f'<a href="{picture}">press</a><img width=9 src={picture}>',
+                f'<style>@import "{picture}";</style><p style="background-image:url({picture})">styled<img src="{picture}"/>',
+                f'&lt;<b>&#60;img</b> src="{picture}"><IMG SRC="{picture.replace("/", "&#47;")}">',
+                f'<table background="{picture}"><tr><td><img src="file://{self.pipe}"><img src="{self.pipe}">']
+
+
+def hostile_runs(lures):
+    """For every attachment of a volume and every markup a run that has it in all of its texts, but for a title of its own,
+    which would take the place of the others."""
+    variants = len(lures.markups(""))
+    runs = []
+    for kind, _, _ in KINDS:
+        for variant in range(variants):
+            texts = {field: lures.markups(f"{kind}-{field}")[variant] for field in TEXTS}
+            if len(runs) % 2:
+                texts["customTitle"] = None
+            runs.append(saved_runs.run(len(runs), kind=kind, **texts))
+    return runs
+
+
+def saved(runs, folder):
+    files = []
+    for number, record in enumerate(runs):
+        files.append(folder / f"{number}.tarnwickrun")
+        files[-1].write_text(json.dumps(record), encoding="utf-8")
+    return files
+
+
+def nobody_came(lures, where):
+    check(not lures.came, f"{where}: {len(lures.came)} came, first {lures.came[:3]}")
+
+
+def cards_are_drawn(host, files, lures):
+    for shown in [[file] for file in files] + [files]:
+        try:
+            drawn = subprocess.run([host, "card", *shown], capture_output=True, text=True, timeout=driver.GUARD_SECONDS)
+        except subprocess.TimeoutExpired as hung:
+            raise driver.Failure(f"no card after {hung.timeout} s, {len(lures.came)} came: {lures.came[:3]}") from None
+        check((drawn.returncode, drawn.stderr) == (0, ""), f"{shown}: {drawn.returncode} {drawn.stderr}")
+    nobody_came(lures, "cards")
+
+
+def rows(window):
+    """The history's rows in view, by what they say of the run below its title. From bottom to top: one that is opened
+    moves those below it out of view."""
+    return [node for node, _ in window.nodes()
+            if node.get_role_name() == "push button" and " · " in node.get_description() and window.shows(node, "SHOWING")][::-1]
+
+
+def charts(window):
+    return [node for node, _ in window.nodes() if node.get_role_name() == "chart"]
+
+
+def share(window):
+    """Has the first card on view drawn, which answers with the menu of what can be done with it."""
+    window.press("Share")
+    window.find("Save As…", "menu item")
+    window.keys("Escape")
+    window.gone("Save As…", "menu item")
+
+
+def history_is_shown(program, file, runs, lures):
+    """The history alone at the start, each of its runs opened, a comparison of all, and a run file over it."""
+    saved_runs.lay_down(runs)
+    with driver.Window(program) as window:
+        window.find("Previous runs")
+        window.resize(1180, 1400)
+        window.settled()
+        nobody_came(lures, "a start with the history")
+        closed = rows(window)
+        for row in closed:
+            row.do_action(0)
+        window.until("their panes", lambda: len(charts(window)) == len(closed))
+        share(window)
+        window.settled()
+        nobody_came(lures, "runs from the history, and the card of one")
+        window.press("Compare")
+        for node in [node for node, _ in window.nodes() if node.get_role_name() == "check box" and "://" in node.get_name()]:
+            node.do_action(0)
+        window.press(f"Compare {len(runs)}")
+        window.find(f"Comparing {len(runs)} runs")
+        share(window)
+        window.settled()
+        nobody_came(lures, "a comparison of all, and its card")
+        check(window.terminate() == (0, ""), "the window's end")
+    saved_runs.lay_down([])
+    with driver.Window(program, file) as window:
+        window.find("Collapse")
+        share(window)
+        window.settled()
+        nobody_came(lures, "a run file, and its card")
+        check(window.terminate() == (0, ""), "the window's end")
+
+
+def target_is_shown(staged, lures):
+    """A volume and a drive of such names: toolbar, sidebar, a run on it, and the run's record."""
+    saved_runs.lay_down([])
+    for number, text in enumerate(lures.markups("target")):
+        with driver.Window(staged, "named", text, env={"TMPDIR": os.environ["TMPDIR"]}) as window:
+            window.resize(1180, 1400)
+            if number == 0:  # it is remembered
+                window.press("S.M.A.R.T.", "push button")
+            window.find(f"{text}: {text}")
+            window.find(f"File system: {text.upper()}")
+            window.press("Run Benchmark")
+            window.find(text, "label")
+            window.find("Collapse")
+            share(window)
+            window.settled()
+            nobody_came(lures, text)
+
+
+if __name__ == "__main__":
+    driver.enter_display(1400, 1500)
+    with driver.fast_folder() as name:
+        lures = Lures(pathlib.Path(name))
+        runs = hostile_runs(lures)
+        files = saved(runs, pathlib.Path(name))
+        programs = pathlib.Path(sys.argv[1]).parent
+        parts = [lambda: cards_are_drawn(programs / "tarnwick-host", files, lures),
+                 lambda: history_is_shown(sys.argv[1], files[1], runs, lures),
+                 lambda: target_is_shown(programs / "staged-window", lures)]
+        for part in parts:
+            part()

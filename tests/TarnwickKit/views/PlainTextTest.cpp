@@ -1,0 +1,80 @@
+#include "tests/TarnwickKit/views/Pictures.h"
+
+#include <QCoreApplication>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The format that the toolkit's own class goes by, whatever hides it.
+int formatOf(const QObject& item, const char* className) {
+    const QMetaObject* type = item.metaObject();
+    while (qstrcmp(type->className(), className) != 0)
+        type = type->superClass();
+    return type->property(type->indexOfProperty("textFormat")).read(&item).toInt();
+}
+
+/// What the engine says against a piece of QML.
+QString refusal(const QByteArray& qml) {
+    QQmlEngine engine;
+    OndelDrawing::prepareEngine(engine);
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick\nimport OndelDrawing\n" + qml, QUrl());
+    return component.errorString();
+}
+
+TEST(PlainText, CannotBeMadeToReadMarkup) {
+    for (const auto& [item, className] :
+         {std::pair("PlainText", "QQuickText"), std::pair("PlainTextArea", "QQuickTextEdit")}) {
+        const QByteArray name = item;
+        for (const char* way : {" { textFormat: Text.RichText }", " { Binding on textFormat { value: 1 } }"})
+            EXPECT_TRUE(refusal(name + way).contains("read-only")) << refusal(name + way).toStdString();
+        test::Stage stage(name + " { text: '<b>bold</b>'; function read(): bool"
+                                 " { try { textFormat = Text.RichText; return false; }"
+                                 "   catch (error) { return true; } } }");
+        EXPECT_FALSE(stage.root().setProperty("textFormat", 1)) << item;
+        bool refused = false;
+        QMetaObject::invokeMethod(&stage.root(), "read", Q_RETURN_ARG(bool, refused));
+        EXPECT_TRUE(refused) << item;
+        EXPECT_EQ(formatOf(stage.root(), className), 0) << item;
+    }
+}
+
+/// Also what is not ours, and would load what a text names, is refused.
+TEST(ViewEngine, ReachesNoNetwork) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    int connections = 0;
+    QObject::connect(&server, &QTcpServer::newConnection, [&] {
+        ++connections;
+        server.nextPendingConnection()->abort();
+    });
+    const QByteArray address = "http://127.0.0.1:" + QByteArray::number(server.serverPort());
+    test::Stage stage("Item { id: all; width: 9; height: 9\n"
+                      "  property int answered: 0\n"
+                      "  function ask(): void { const request = new XMLHttpRequest();\n"
+                      "    request.onreadystatechange = () => {\n"
+                      "      if (request.readyState === XMLHttpRequest.DONE) ++all.answered; };\n"
+                      "    request.open('GET', '" +
+                      address +
+                      "/asked'); request.send(); }\n"
+                      "  Text { textFormat: Text.RichText; text: '<img src=\"" +
+                      address +
+                      "/rich.png\">' }\n"
+                      "  Text { text: '<img src=\"" +
+                      address +
+                      "/guessed.png\">' }\n"
+                      "  Repeater { model: ['" +
+                      address +
+                      "/a.png', 'data:image/png;base64,AAAA']\n"
+                      "    Image { required property string modelData; source: modelData\n"
+                      "      onStatusChanged: if (status === Image.Error) ++all.answered } }\n"
+                      "  Component.onCompleted: ask() }");
+    while (stage.root().property("answered").toInt() < 3)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_EQ(connections, 0);
+}
+
+} // namespace
