@@ -4,7 +4,6 @@
 #include "OndelAppSupport/ReportError.h"
 
 #include <QFuture>
-#include <QSslConfiguration>
 #include <QString>
 #include <QUrl>
 #include <QVariantMap>
@@ -39,7 +38,8 @@ public:
         QUrl endpoint;
         QString secret; ///< travels in one header of the request to `endpoint` and nowhere else
         std::chrono::milliseconds limit = std::chrono::seconds(60); ///< for the whole exchange
-        QSslConfiguration encryption = QSslConfiguration::defaultConfiguration();
+        /// Certificates of those who vouch for it, in PEM. Absent: the system's.
+        std::optional<QByteArray> authorities = std::nullopt;
 
         /// The maker's, with the secret of this build; a build without one sends it empty.
         static Service maker();

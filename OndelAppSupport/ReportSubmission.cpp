@@ -1,9 +1,9 @@
 #include "OndelAppSupport/ReportSubmission.h"
 
 #include "OndelAppSupport/ReportExchange.h"
+#include "OndelAppSupport/https/HttpsExchange.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QTimer>
 
 #include <cerrno>
@@ -19,37 +19,31 @@ QFuture<void> ReportSubmission::start(const QByteArray& body, const BugReporter:
 
 ReportSubmission::ReportSubmission(const QByteArray& body, const BugReporter::Service& service)
     : QObject(QCoreApplication::instance())
-    , m_thread(new QThread) {
+    , m_work(this) {
     m_promise.start();
     m_watcher.setFuture(m_promise.future());
-    auto* exchange = new ReportExchange(body, service, m_stop.get_token());
-    exchange->moveToThread(m_thread);
-    connect(m_thread, &QThread::started, exchange, &ReportExchange::begin);
-    connect(m_thread, &QThread::finished, exchange, &QObject::deleteLater);
-
-    connect(exchange, &ReportExchange::ended, this, [this](const std::optional<ReportError>& error) {
-        m_error = error;
-        endThread();
-    });
-    connect(m_thread, &QThread::finished, this, [this] {
-        settle(m_error);
-        deleteLater();
-    });
     connect(&m_watcher, &QFutureWatcher<void>::canceled, this, [this] { settle(); });
     QTimer::singleShot(service.limit, this, [this] { settle(ReportError::ofSystem(ETIMEDOUT)); });
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { delete this; });
-    m_thread->start();
+
+    m_work.begin([this, body, service](const auto& post, const std::stop_token& stop) {
+        std::optional<ReportError> error;
+        try {
+            sendReport(body, service, stop);
+        } catch (const ReportError& failure) {
+            error = failure;
+        } catch (const https::Stopped&) { // it is settled already
+        }
+        post([this, error] {
+            settle(error);
+            deleteLater();
+        });
+    });
 }
 
 ReportSubmission::~ReportSubmission() {
-    endThread();
-    if (m_thread->wait(QDeadlineTimer(std::chrono::seconds(1))))
-        delete m_thread;
-}
-
-void ReportSubmission::endThread() {
-    m_stop.request_stop();
-    m_thread->quit();
+    m_work.abandon();
+    m_work.awaitEnd(std::chrono::seconds(1));
 }
 
 void ReportSubmission::settle(const std::optional<ReportError>& error) {
@@ -58,7 +52,7 @@ void ReportSubmission::settle(const std::optional<ReportError>& error) {
     if (error)
         m_promise.setException(std::make_exception_ptr(*error));
     m_promise.finish();
-    endThread();
+    m_work.requestStop();
 }
 
 } // namespace OndelAppSupport

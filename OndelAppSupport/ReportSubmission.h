@@ -1,16 +1,15 @@
 #pragma once
 
 #include "OndelAppSupport/BugReporter.h"
+#include "OndelAppSupport/https/AbandonableWork.h"
 
 #include <QByteArray>
 #include <QFuture>
 #include <QFutureWatcher>
 #include <QObject>
 #include <QPromise>
-#include <QThread>
 
 #include <optional>
-#include <stop_token>
 
 namespace OndelAppSupport {
 
@@ -26,15 +25,12 @@ private:
     ReportSubmission(const QByteArray& body, const BugReporter::Service& service);
     ~ReportSubmission() override;
 
-    void endThread();
     void settle(const std::optional<ReportError>& error = std::nullopt);
 
     QPromise<void> m_promise;
     QFutureWatcher<void> m_watcher;
-    std::stop_source m_stop;
-    QThread* m_thread; ///< owned, unless it cannot be ended
-    std::optional<ReportError> m_error;
     bool m_settled = false;
+    https::AbandonableWork m_work;
 };
 
 } // namespace OndelAppSupport

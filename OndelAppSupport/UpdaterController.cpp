@@ -32,8 +32,15 @@ QString valueOf(const InformationDictionary& build, const char* key) {
     return build.string(QLatin1String(key)).value_or(QString());
 }
 
-updates::Connection connectionOf(const UpdaterEnvironment& environment) {
-    return {environment.tls, environment.patience, AppIdentity::current().shortName.toUtf8()};
+https::Connection connectionOf(const UpdaterEnvironment& environment) {
+    return {.userAgent = AppIdentity::current().shortName.toUtf8(),
+            .authorities = environment.authorities,
+            .patience = environment.patience};
+}
+
+/// Feed and notes may take twice the patience each, and the proxy's settings theirs.
+std::chrono::milliseconds longestSilence(const UpdaterEnvironment& environment) {
+    return 5 * environment.patience;
 }
 
 } // namespace
@@ -145,10 +152,11 @@ void UpdaterController::check() {
     updates::Search search{QUrl(valueOf(m_environment.build, "SUFeedURL"), QUrl::StrictMode),
                            valueOf(m_environment.build, "CFBundleVersion"), m_environment.platforms,
                            m_environment.systemVersion, connectionOf(m_environment)};
-    m_worker.begin([this, search = std::move(search)](const auto&, const std::stop_token& stop) -> Step {
+    const auto work = [this, search = std::move(search)](const auto&, const std::stop_token& stop) -> Step {
         auto offer = updates::findUpdate(search, stop);
         return [this, offer = std::move(offer)] { checked(offer); };
-    });
+    };
+    m_worker.begin(work, longestSilence(m_environment), UpdateError::Cause::feedUnreachable);
 }
 
 void UpdaterController::checked(std::optional<Offer> offer) {
@@ -180,8 +188,8 @@ void UpdaterController::load() {
     setState(State::Loading);
     const updates::Destination destination{
         *folder / "update", QByteArray::fromBase64(valueOf(m_environment.build, "SUPublicEDKey").toLatin1())};
-    m_worker.begin([this, offer = *m_offer, destination, connection = connectionOf(m_environment)](
-                       const updates::UpdateWorker::Post& post, const std::stop_token& stop) -> Step {
+    const auto work = [this, offer = *m_offer, destination, connection = connectionOf(m_environment)](
+                          const updates::UpdateWorker::Post& post, const std::stop_token& stop) -> Step {
         const auto loaded = [&](qint64 bytes) {
             post([this, bytes] {
                 m_loaded = bytes;
@@ -191,7 +199,8 @@ void UpdaterController::load() {
         const auto verifying = [&] { post([this] { setState(State::Verifying); }); };
         const auto package = updates::loadPackage(offer, destination, connection, {loaded, verifying}, stop);
         return [this, package] { open(package); };
-    });
+    };
+    m_worker.begin(work, longestSilence(m_environment), UpdateError::Cause::packageUnreachable);
 }
 
 void UpdaterController::open(const std::filesystem::path& package) {

@@ -15,7 +15,7 @@ namespace OndelAppSupport {
 /// One update at a time, from the look into the feed to the desktop's installer, and what its window shows.
 /// It never runs anything itself, and loads no package before the user said so. Threads: main, with an event
 /// loop; the network, the disk and the signature are left to a thread of its own. Owner: that thread. The
-/// destructor ends what goes on and waits for it; nothing half loaded stays.
+/// destructor ends what goes on; nothing half loaded stays, and nothing that hangs is waited for.
 class UpdaterController : public QObject {
     Q_OBJECT
 

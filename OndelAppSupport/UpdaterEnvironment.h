@@ -4,7 +4,6 @@
 
 #include <QDateTime>
 #include <QSettings>
-#include <QSslConfiguration>
 #include <QStringList>
 #include <QUrl>
 
@@ -37,8 +36,8 @@ struct UpdaterEnvironment {
     QStringList platforms;
     /// What a feed's least system version is compared with.
     QString systemVersion;
-    /// Absent: the system's, which is only read when it is needed and costs a start 9 ms.
-    std::optional<QSslConfiguration> tls;
+    /// Certificates of those who vouch for servers, in PEM. Absent: the system's.
+    std::optional<QByteArray> authorities;
     /// How long a server may say nothing.
     std::chrono::milliseconds patience = std::chrono::seconds(30);
 

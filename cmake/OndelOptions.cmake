@@ -17,6 +17,9 @@ if(CCACHE_PROGRAM)
       ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
 endif()
 
+# A program loads the libraries that it calls, and not all that some room of it could.
+add_link_options(LINKER:--as-needed)
+
 add_library(ondel_options INTERFACE)
 target_include_directories(ondel_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_definitions(ondel_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)

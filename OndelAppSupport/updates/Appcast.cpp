@@ -3,9 +3,12 @@
 #include "OndelAppSupport/updates/PlainNotes.h"
 #include "OndelAppSupport/updates/VersionOrder.h"
 
+#include <QRegularExpression>
+#include <QStringDecoder>
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <utility>
 
 namespace OndelAppSupport::updates {
 
@@ -19,15 +22,88 @@ constexpr qsizetype longestWord = 64;                // characters of a version
 /// A name as it may be shown: one line without signs that nobody sees.
 QString word(const QString& text) { return showableNotes(text.simplified()).left(longestWord); }
 
+/// By its byte order mark or first sign, else as its declaration says, else as UTF-8.
+QString decoded(const QByteArray& feed) {
+    constexpr qsizetype longestDeclaration = 200; // bytes
+    if (const auto encoding = QStringDecoder::encodingForData(feed, u'<'))
+        return QStringDecoder(*encoding).decode(feed);
+    static const QRegularExpression declaration(
+        QStringLiteral("^<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([A-Za-z0-9._-]{1,40})[\"']"));
+    const auto match = declaration.match(QString::fromLatin1(feed.left(longestDeclaration)));
+    QStringDecoder decoder(match.captured(1).toLatin1().constData());
+    return decoder.isValid() ? QString(decoder.decode(feed)) : QString::fromUtf8(feed);
+}
+
+/// Looks at the tags of a feed before the reader does, in one pass. That compares each attribute with each
+/// other of its element, and each name with the namespaces of all elements around it.
+class TagScan {
+public:
+    explicit TagScan(QStringView feed)
+        : m_rest(feed) {}
+
+    bool isOrdinary() {
+        constexpr int deepest = 64;
+        for (int depth = 0; depth <= deepest;) {
+            const auto tag = m_rest.indexOf(u'<');
+            if (tag < 0)
+                return true;
+            m_rest = m_rest.mid(tag);
+            if (m_rest.startsWith(u"<!--"))
+                skipPast(u"-->");
+            else if (m_rest.startsWith(u"<![CDATA["))
+                skipPast(u"]]>");
+            else if (m_rest.startsWith(u"<?"))
+                skipPast(u"?>");
+            else if (m_rest.startsWith(u"<!"))
+                return false; // a document type
+            else if (const auto change = scanTag())
+                depth += *change;
+            else
+                return false;
+        }
+        return false;
+    }
+
+private:
+    void skipPast(QStringView end) {
+        const auto found = m_rest.indexOf(end);
+        m_rest = found < 0 ? QStringView() : m_rest.mid(found + end.size());
+    }
+
+    /// By how much the tag changes the depth; absent when it has too many attributes.
+    std::optional<int> scanTag() {
+        constexpr int mostAttributes = 48;
+        const bool isEnd = m_rest.startsWith(u"</");
+        int attributes = 0;
+        QChar quote;
+        qsizetype at = 1;
+        for (; at < m_rest.size() && (!quote.isNull() || m_rest[at] != u'>'); ++at) {
+            const QChar c = m_rest[at];
+            if (!quote.isNull())
+                quote = c == quote ? QChar() : quote;
+            else if (c == u'"' || c == u'\'')
+                quote = c;
+            else if (c == u'=' && ++attributes > mostAttributes)
+                return std::nullopt;
+        }
+        const bool isEmpty = at > 1 && m_rest[at - 1] == u'/';
+        m_rest = m_rest.mid(at);
+        return isEnd ? -1 : isEmpty ? 0 : 1;
+    }
+
+    QStringView m_rest;
+};
+
 class Reader {
 public:
-    explicit Reader(const QByteArray& feed)
-        : m_xml(feed) {}
+    Reader(const QString& feed, std::stop_token stop)
+        : m_xml(feed)
+        , m_stop(std::move(stop)) {}
 
     std::optional<QList<Offer>> read() {
         bool isFeed = false;
         while (!m_xml.atEnd()) {
-            m_xml.readNext();
+            next();
             if (m_xml.isDTD())
                 m_xml.raiseError(QStringLiteral("a document type"));
             if (!m_xml.isStartElement())
@@ -42,18 +118,35 @@ public:
     }
 
 private:
+    void next() {
+        m_xml.readNext();
+        if (m_stop.stop_requested())
+            m_xml.raiseError(QStringLiteral("a stop"));
+    }
+
+    /// Whether another element begins before the current one ends.
+    bool nextElement() {
+        do
+            next();
+        while (!m_xml.atEnd() && !m_xml.isStartElement() && !m_xml.isEndElement());
+        return m_xml.isStartElement();
+    }
+
+    /// Passes what follows in the element over, and then its end.
+    void skipElement() { text(); }
+
     void readItem() {
         Offer item;
         QList<Offer> enclosures;
         bool isRelease = true;
-        while (m_xml.readNextStartElement()) {
+        while (nextElement()) {
             const QString name = m_xml.name().toString();
             const bool isOurs = m_xml.namespaceUri() == updateNamespace;
             if (name == QLatin1String("enclosure")) {
                 enclosures.append(readEnclosure());
             } else if (isOurs && name == QLatin1String("channel")) {
                 isRelease = false;
-                m_xml.skipCurrentElement();
+                skipElement();
             } else if (name == QLatin1String("description")) {
                 readNotes(item);
             } else if (QString* place = field(item, name, isOurs)) {
@@ -61,7 +154,7 @@ private:
             } else if (isOurs && name == QLatin1String("releaseNotesLink")) {
                 item.notesLink = QUrl(text().trimmed(), QUrl::StrictMode);
             } else {
-                m_xml.skipCurrentElement();
+                skipElement();
             }
         }
         if (isRelease)
@@ -84,7 +177,7 @@ private:
     QString text() {
         QString text;
         for (int depth = 1; depth > 0 && !m_xml.hasError();) {
-            m_xml.readNext();
+            next();
             if (m_xml.isCharacters())
                 text += m_xml.text();
             depth += m_xml.isStartElement() ? 1 : m_xml.isEndElement() ? -1 : 0;
@@ -114,7 +207,7 @@ private:
         const auto signature = QByteArray::fromBase64Encoding(ours(QStringLiteral("edSignature")).toLatin1(),
                                                               QByteArray::AbortOnBase64DecodingErrors);
         offer.signature = signature ? *signature : QByteArray();
-        m_xml.skipCurrentElement();
+        skipElement();
         return offer;
     }
 
@@ -133,6 +226,7 @@ private:
     }
 
     QXmlStreamReader m_xml;
+    std::stop_token m_stop;
     QList<Offer> m_offers;
 };
 
@@ -143,17 +237,26 @@ bool Offer::isComplete() const {
            length <= longestPackage && signature.size() == signatureSize;
 }
 
-std::optional<QList<Offer>> readAppcast(const QByteArray& feed) { return Reader(feed).read(); }
+std::optional<QList<Offer>> readAppcast(const QByteArray& feed, const std::stop_token& stop) {
+    const QString text = decoded(feed);
+    return TagScan(text).isOrdinary() ? Reader(text, stop).read() : std::nullopt;
+}
 
 std::optional<Offer> newestOffer(const QList<Offer>& offers, const QStringList& platforms,
-                                 const QString& systemVersion) {
+                                 const QString& systemVersion, const QString& currentVersion) {
+    const auto isBetter = [](const Offer& offer, const Offer& other) {
+        return offer.isComplete() != other.isComplete()
+                   ? offer.isComplete()
+                   : std::is_gt(compareVersions(offer.version, other.version));
+    };
     const Offer* newest = nullptr;
     for (const Offer& offer : offers) {
         const bool suits = !offer.version.isEmpty() &&
                            platforms.contains(offer.platform, Qt::CaseInsensitive) &&
                            (offer.minimumSystemVersion.isEmpty() ||
-                            std::is_lteq(compareVersions(offer.minimumSystemVersion, systemVersion)));
-        if (suits && (!newest || std::is_gt(compareVersions(offer.version, newest->version))))
+                            std::is_lteq(compareVersions(offer.minimumSystemVersion, systemVersion))) &&
+                           std::is_gt(compareVersions(offer.version, currentVersion));
+        if (suits && (!newest || isBetter(offer, *newest)))
             newest = &offer;
     }
     return newest ? std::optional(*newest) : std::nullopt;

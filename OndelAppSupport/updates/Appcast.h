@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include <optional>
+#include <stop_token>
 
 namespace OndelAppSupport::updates {
 
@@ -28,13 +29,15 @@ struct Offer {
 
 /// Reads an RSS feed of releases: per item version, shortVersionString, minimumSystemVersion, description
 /// or releaseNotesLink, and one offer for each enclosure (url, length, os, edSignature). Items of a channel
-/// beside the releases are left out. Fails: absent when it is no such feed, is cut short, or declares a
-/// document type: with none there are no entities that could grow.
-std::optional<QList<Offer>> readAppcast(const QByteArray& feed);
+/// beside the releases are left out. Fails: absent when it is no such feed, is cut short, declares a document
+/// type (with none there are no entities that could grow), has elements with more attributes or deeper in one
+/// another than a feed has (the reader's time grows with their squares), or when a stop is requested.
+std::optional<QList<Offer>> readAppcast(const QByteArray& feed, const std::stop_token& stop = {});
 
-/// The newest offer for a system: `platforms` are its names, `systemVersion` is what an offer's least version
-/// is compared with. An offer that names no platform is for none of ours.
+/// The newest complete offer for a system that is newer than `currentVersion`: `platforms` are the system's
+/// names, `systemVersion` is what an offer's least version is compared with. An offer that names no platform is
+/// for none of ours. Where all newer ones are incomplete, the newest of those.
 std::optional<Offer> newestOffer(const QList<Offer>& offers, const QStringList& platforms,
-                                 const QString& systemVersion);
+                                 const QString& systemVersion, const QString& currentVersion);
 
 } // namespace OndelAppSupport::updates

@@ -1,6 +1,7 @@
 #include "OndelAppSupport/updates/PackageLoad.h"
 
 #include "OndelAppSupport/updates/Ed25519.h"
+#include "OndelCore/platform/Uuid.h"
 
 #include <QFile>
 
@@ -40,12 +41,13 @@ void prepare(const fs::path& folder) {
         throw UpdateError(Cause::notWritable);
 }
 
-/// The package while nobody may trust it. Owner: the object; the file goes with it unless it got its name.
+/// The package while nobody may trust it. No other load has a file of its name, also not one that was left
+/// behind and ends now. Owner: the object; the file goes with it unless it got its name.
 class Part {
 public:
     Part(const fs::path& name, qint64 length)
         : m_name(name)
-        , m_file(fs::path(name) += ".part")
+        , m_file(fs::path(name) += "." + OndelCore::platform::newUuid() + ".part")
         , m_length(length) {
         if (!m_file.open(QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Unbuffered,
                          QFile::ReadOwner | QFile::WriteOwner))
@@ -58,11 +60,11 @@ public:
     Part(const Part&) = delete;
     Part& operator=(const Part&) = delete;
 
-    void append(const HttpsAnswer& answer, const QByteArray& bytes) {
-        if ((answer.length >= 0 && answer.length != m_length) || size() + bytes.size() > m_length)
+    void append(const https::Head& answer, QByteArrayView bytes) {
+        if (answer.length.value_or(m_length) != m_length || size() + bytes.size() > m_length)
             throw UpdateError(Cause::wrongLength);
         errno = 0;
-        if (m_file.write(bytes) != bytes.size())
+        if (m_file.write(bytes.data(), bytes.size()) != bytes.size())
             throw UpdateError(errno == ENOSPC || errno == EDQUOT ? Cause::noRoom : Cause::notWritable);
     }
 
@@ -95,14 +97,16 @@ private:
 
 } // namespace
 
-fs::path loadPackage(const Offer& offer, const Destination& destination, const Connection& connection,
+fs::path loadPackage(const Offer& offer, const Destination& destination, const https::Connection& connection,
                      const LoadProgress& progress, const std::stop_token& stop) {
+    if (stop.stop_requested())
+        throw https::Stopped();
     prepare(destination.folder);
     fs::path path = destination.folder / packageName(offer.url).toStdString();
     Part part(path, offer.length);
     httpsGet(
         offer.url, connection, Cause::packageUnreachable,
-        [&](const HttpsAnswer& answer, const QByteArray& bytes) {
+        [&](const https::Head& answer, QByteArrayView bytes) {
             part.append(answer, bytes);
             progress.loaded(part.size());
         },
@@ -110,7 +114,7 @@ fs::path loadPackage(const Offer& offer, const Destination& destination, const C
     progress.verifying();
     part.verify(offer.signature, destination.publicKey);
     if (stop.stop_requested())
-        throw Stopped();
+        throw https::Stopped();
     part.keep();
     return path;
 }

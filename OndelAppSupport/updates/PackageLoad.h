@@ -22,9 +22,9 @@ struct LoadProgress {
 
 /// Loads the package of a complete offer. The file gets its name, which is the last of the address, only when
 /// it is as long as the offer says and signed by the key; until then, and after any failure, there is none.
-/// Threads: blocks, not for the main thread. Fails: throws UpdateError, or Stopped.
+/// Threads: blocks, not for the main thread. Fails: throws UpdateError, or https::Stopped.
 std::filesystem::path loadPackage(const Offer& offer, const Destination& destination,
-                                  const Connection& connection, const LoadProgress& progress,
+                                  const https::Connection& connection, const LoadProgress& progress,
                                   const std::stop_token& stop);
 
 } // namespace OndelAppSupport::updates

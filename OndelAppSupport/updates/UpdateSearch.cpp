@@ -1,7 +1,6 @@
 #include "OndelAppSupport/updates/UpdateSearch.h"
 
 #include "OndelAppSupport/updates/PlainNotes.h"
-#include "OndelAppSupport/updates/VersionOrder.h"
 
 namespace OndelAppSupport::updates {
 
@@ -12,13 +11,13 @@ using Cause = UpdateError::Cause;
 constexpr qint64 longestFeed = 1 << 20;  // bytes
 constexpr qint64 longestNotes = 1 << 18; // bytes
 
-QString loadNotes(const QUrl& link, const Connection& connection, const std::stop_token& stop) {
+QString loadNotes(const QUrl& link, const https::Connection& connection, const std::stop_token& stop) {
     try {
-        const auto [answer, body] =
+        const auto [contentType, body] =
             httpsGetSmall(link, connection, Cause::feedUnreachable, longestNotes, stop);
         const QString text = QString::fromUtf8(body);
         const bool isPlain =
-            answer.contentType.startsWith("text/plain") || answer.contentType.startsWith("text/markdown");
+            contentType.startsWith("text/plain") || contentType.startsWith("text/markdown");
         return showableNotes(isPlain ? text : plainNotes(text));
     } catch (const UpdateError&) {
         return {};
@@ -32,11 +31,13 @@ std::optional<Offer> findUpdate(const Search& search, const std::stop_token& sto
         throw UpdateError(Cause::feedNotSecure);
     const auto feed =
         httpsGetSmall(search.feed, search.connection, Cause::feedUnreachable, longestFeed, stop);
-    const auto offers = readAppcast(feed.body);
+    const auto offers = readAppcast(feed.body, stop);
+    if (stop.stop_requested())
+        throw https::Stopped();
     if (!offers)
         throw UpdateError(Cause::feedUnreadable);
-    auto offer = newestOffer(*offers, search.platforms, search.systemVersion);
-    if (!offer || std::is_lteq(compareVersions(offer->version, search.currentVersion)))
+    auto offer = newestOffer(*offers, search.platforms, search.systemVersion, search.currentVersion);
+    if (!offer)
         return std::nullopt;
     if (!offer->isComplete())
         throw UpdateError(Cause::offerIncomplete);

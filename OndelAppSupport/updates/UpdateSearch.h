@@ -11,12 +11,12 @@ struct Search {
     QString currentVersion;
     QStringList platforms;
     QString systemVersion;
-    Connection connection;
+    https::Connection connection;
 };
 
 /// Asks the feed. Absent: nothing newer for this system. Notes that stand elsewhere are loaded too; where
 /// that fails the offer has none. Threads: blocks, not for the main thread. Fails: throws UpdateError, or
-/// Stopped.
+/// https::Stopped.
 std::optional<Offer> findUpdate(const Search& search, const std::stop_token& stop);
 
 } // namespace OndelAppSupport::updates

@@ -1,46 +1,59 @@
 #include "OndelAppSupport/updates/UpdateWorker.h"
 
-#include "OndelAppSupport/updates/HttpsGet.h"
-#include "OndelCore/platform/BackgroundThread.h"
+#include "OndelAppSupport/https/HttpsExchange.h"
 
-#include <QMetaObject>
+#include <utility>
 
 namespace OndelAppSupport::updates {
 
-void UpdateWorker::begin(Work work) {
-    const int round = ++m_round;
+UpdateWorker::UpdateWorker()
+    : m_work(this) {
+    m_silence.setSingleShot(true);
+    connect(&m_silence, &QTimer::timeout, this, [this] {
+        stop();
+        Q_EMIT failed(UpdateError(m_hangs));
+    });
+}
+
+UpdateWorker::~UpdateWorker() {
+    m_work.abandon();
+    m_work.awaitEnd(std::chrono::seconds(1)); // so that nothing half loaded stays
+}
+
+void UpdateWorker::begin(Work work, std::chrono::milliseconds patience, UpdateError::Cause hangs) {
     m_isWorking = true;
-    Post post = [this, round](Step step) {
-        const auto heard = [this, round, step = std::move(step)] {
-            if (round == m_round)
+    m_hangs = hangs;
+    m_silence.start(patience);
+    m_work.begin([this, work = std::move(work)](const https::AbandonableWork::Post& post,
+                                                const std::stop_token& stop) {
+        const Post postStep = [this, &post](Step step) {
+            post([this, step = std::move(step)] {
+                m_silence.start();
                 step();
+            });
         };
-        QMetaObject::invokeMethod(this, heard, Qt::QueuedConnection);
-    };
-    m_thread = std::jthread([this, work = std::move(work),
-                             post = std::move(post)](const std::stop_token& stop) { run(work, post, stop); });
+        Step last;
+        try {
+            last = work(postStep, stop);
+        } catch (const UpdateError& error) {
+            last = [this, error] { Q_EMIT failed(error); };
+        } catch (const https::Stopped&) {
+            return; // and nobody listens
+        }
+        post([this, last = std::move(last)] { end(last); });
+    });
 }
 
 void UpdateWorker::stop() {
-    m_thread.request_stop();
+    m_silence.stop();
+    m_work.abandon();
     m_isWorking = false;
-    ++m_round;
 }
 
-void UpdateWorker::run(const Work& work, const Post& post, const std::stop_token& stop) {
-    OndelCore::platform::enterBackground("ondel-updates");
-    try {
-        post([this, last = work(post, stop)] {
-            m_isWorking = false;
-            last();
-        });
-    } catch (const UpdateError& error) {
-        post([this, error] {
-            m_isWorking = false;
-            Q_EMIT failed(error);
-        });
-    } catch (const Stopped&) { // and nobody listens
-    }
+void UpdateWorker::end(const Step& last) {
+    m_silence.stop();
+    m_isWorking = false;
+    last();
 }
 
 } // namespace OndelAppSupport::updates

@@ -19,7 +19,7 @@ constexpr auto rejected = "The server rejected the report (%1).";
 const QString secret = "tell-nobody";
 
 BugReporter::Service service(const QUrl& endpoint) {
-    return {.endpoint = endpoint, .secret = secret, .encryption = HttpsServer::trustingConfiguration()};
+    return {.endpoint = endpoint, .secret = secret, .authorities = HttpsServer::authorities()};
 }
 
 std::optional<ReportError::Cause> outcome(QFuture<void> submission) {
@@ -133,7 +133,7 @@ TEST(Submission, TellsTheSystemsOwnWordsWhenNoAnswerCame) {
 TEST(Submission, GivesItsSecretToNobodyElse) {
     const HttpsServer unknown;
     auto careful = service(unknown.url());
-    careful.encryption = QSslConfiguration::defaultConfiguration();
+    careful.authorities.reset();
     EXPECT_TRUE(isTransportError(outcome(BugReporter::submit({}, careful))));
 
     const HttpsServer another(HttpsServer::Certificate::forAnotherHost);

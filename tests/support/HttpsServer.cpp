@@ -101,6 +101,8 @@ HttpsServer::HttpsServer(Certificate certificate) {
     QObject::connect(&m_server, &QTcpServer::pendingConnectionAvailable, &m_server, [this] {
         while (auto* socket = qobject_cast<QSslSocket*>(m_server.nextPendingConnection())) {
             ++m_connections;
+            QObject::connect(socket, &QSslSocket::encryptedBytesWritten, socket,
+                             [this](qint64 bytes) { m_sentBytes += bytes; });
             QObject::connect(socket, &QSslSocket::readyRead, socket, [this, socket] { read(socket); });
             QObject::connect(socket, &QSslSocket::disconnected, socket, &QObject::deleteLater);
         }
@@ -111,10 +113,8 @@ QUrl HttpsServer::url(const QString& path) const {
     return QUrl(QStringLiteral("https://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(path));
 }
 
-QSslConfiguration HttpsServer::trustingConfiguration() {
-    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-    configuration.addCaCertificate(Authority::shared().certificate(QStringLiteral("authority")));
-    return configuration;
+QByteArray HttpsServer::authorities() {
+    return Authority::shared().certificate(QStringLiteral("authority")).toPem();
 }
 
 void HttpsServer::read(QSslSocket* socket) {
@@ -128,21 +128,61 @@ void HttpsServer::read(QSslSocket* socket) {
     send(socket, scripted == m_script.end() ? Answer{404, {}, {}} : scripted->second);
 }
 
-void HttpsServer::send(QSslSocket* socket, const Answer& answer) {
-    const bool whole = answer.ending == Answer::Ending::whole;
-    if (answer.status != 0) {
-        QByteArray head =
-            "HTTP/1.1 " + QByteArray::number(answer.status) + " Scripted\r\nConnection: close\r\n";
-        for (const auto& [name, value] : answer.headers)
-            head += name + ": " + value + "\r\n";
-        if (answer.ending != Answer::Ending::endless)
-            head += "Content-Length: " + QByteArray::number(answer.body.size() + (whole ? 0 : 1)) + "\r\n";
-        socket->write(head + "\r\n" + answer.body);
+namespace {
+
+QByteArray headOf(const HttpsServer::Answer& answer) {
+    using enum HttpsServer::Answer::Ending;
+    if (answer.status == 0 || answer.ending == endlessInterim)
+        return {};
+    QByteArray head = "HTTP/1.1 " + QByteArray::number(answer.status) + " Scripted\r\nConnection: close\r\n";
+    for (const auto& [name, value] : answer.headers)
+        head += name + ": " + value + "\r\n";
+    switch (answer.ending) {
+    case endless:
+        return head + "\r\n" + answer.body;
+    case endlessHead:
+        return head;
+    case endlessLine:
+        return head + "X-Filler: ";
+    case endlessTrailers:
+        return head + "Transfer-Encoding: chunked\r\n\r\n" + QByteArray::number(answer.body.size(), 16) + "\r\n" +
+               answer.body + "\r\n0\r\n";
+    default:
+        const auto missing = answer.ending == whole ? 0 : 1;
+        return head + "Content-Length: " + QByteArray::number(answer.body.size() + missing) + "\r\n\r\n" +
+               answer.body;
     }
-    if (answer.ending == Answer::Ending::endless) {
-        const auto feed = [socket] {
-            if (socket->bytesToWrite() + socket->encryptedBytesToWrite() < (1 << 18))
-                socket->write(QByteArray(1 << 16, '\0'));
+}
+
+/// What follows again and again; nothing for an answer that ends.
+QByteArray repeatedIn(HttpsServer::Answer::Ending ending) {
+    using enum HttpsServer::Answer::Ending;
+    switch (ending) {
+    case endless:
+        return QByteArray(1 << 16, '\0');
+    case endlessHead:
+    case endlessTrailers:
+        return QByteArray("X-Filler: filler\r\n").repeated(1 << 12);
+    case endlessLine:
+        return QByteArray(1 << 16, 'x');
+    case endlessInterim:
+        return QByteArray("HTTP/1.1 103 Early Hints\r\nLink: x\r\n\r\n").repeated(1 << 11);
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+void HttpsServer::send(QSslSocket* socket, const Answer& answer) {
+    socket->write(headOf(answer));
+    const QByteArray repeated = repeatedIn(answer.ending);
+    if (!repeated.isEmpty()) {
+        const auto feed = [this, socket, repeated] {
+            if (m_sentBytes > Answer::muchBytes)
+                socket->disconnectFromHost();
+            else if (socket->bytesToWrite() + socket->encryptedBytesToWrite() < (1 << 18))
+                socket->write(repeated);
         };
         QObject::connect(socket, &QSslSocket::encryptedBytesWritten, socket, feed);
         feed();

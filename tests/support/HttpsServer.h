@@ -4,7 +4,6 @@
 #include <QList>
 #include <QMap>
 #include <QObject>
-#include <QSslConfiguration>
 #include <QSslServer>
 #include <QUrl>
 
@@ -13,7 +12,7 @@
 namespace test {
 
 /// Answers HTTPS on loopback as a test tells it to, with a certificate that this process made for itself and
-/// that nobody trusts but who takes `trustingConfiguration`. Each answer closes its connection.
+/// that nobody trusts but who takes `authorities`. Each answer closes its connection.
 /// Threads: the one that made it, whose event loop must turn.
 class HttpsServer {
 public:
@@ -29,8 +28,14 @@ public:
             whole,   ///< all is sent, with its length
             cut,     ///< one byte more is announced than comes before the connection is dropped
             silence, ///< the same, but the connection stays open
-            endless, ///< zeros without end follow, without a length
+            // Without end: until the client goes, or `muchBytes` were sent.
+            endless,         ///< zeros follow, without a length
+            endlessHead,     ///< headers
+            endlessLine,     ///< one header
+            endlessInterim,  ///< interim answers instead of this one
+            endlessTrailers, ///< trailers, after a chunked body
         };
+        static constexpr qint64 muchBytes = 64 << 20;
         int status = 200; ///< 0: not one byte is sent
         QByteArray body = {};
         QList<std::pair<QByteArray, QByteArray>> headers = {};
@@ -49,10 +54,11 @@ public:
 
     const QList<Request>& requests() const { return m_requests; }
     int connections() const { return m_connections; }
+    /// What clients' systems have taken off this one so far.
+    qint64 sentBytes() const { return m_sentBytes; }
 
-    /// Verifies as ever, but trusts the maker of these certificates too. A QNetworkAccessManager keeps for a
-    /// host what its first request to it trusted: one that shall not trust must be another.
-    static QSslConfiguration trustingConfiguration();
+    /// The certificate of those who vouch for these servers, in PEM.
+    static QByteArray authorities();
 
 private:
     void read(QSslSocket* socket);
@@ -62,6 +68,7 @@ private:
     std::map<QByteArray, Answer> m_script;
     QList<Request> m_requests;
     int m_connections = 0;
+    qint64 m_sentBytes = 0;
 };
 
 } // namespace test

@@ -36,7 +36,7 @@ protected:
             opened.append(url);
             return true;
         };
-        environment.tls = HttpsServer::trustingConfiguration();
+        environment.authorities = HttpsServer::authorities();
         environment.platforms = {u"linux"_s, u"linux-x86_64"_s};
         environment.systemVersion = u"6.1.0-38-amd64"_s;
         configure(server.url(u"/feed"_s), publicKey());

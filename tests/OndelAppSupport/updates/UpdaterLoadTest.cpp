@@ -91,14 +91,18 @@ TEST_F(UpdaterTest, WhatStandsInTheWayOfAPackageIsTold) {
 TEST_F(UpdaterTest, ALoadCanBeStoppedAndLeavesNothing) {
     server.script("/feed", {200, feed(enclosure(package.size() + 1, anySignature))});
     server.script("/files/tarnwick_1.1_amd64.deb", {200, package, {}, silence});
-    const auto part = folder.path() / "update" / "tarnwick_1.1_amd64.deb.part";
+    const auto isThere = [this] {
+        const fs::path place = folder.path() / "update";
+        return std::any_of(fs::directory_iterator(place), fs::directory_iterator(),
+                           [](const auto& entry) { return entry.path().extension() == ".part"; });
+    };
     for (const bool byQuitting : {false, true}) {
         std::optional<UpdaterModel> model(std::in_place, environment);
         UpdaterController& updater = *model->controller();
         checkByHand(*model);
         updater.install();
         waitUntil([&] { return updater.loaded() == static_cast<double>(package.size()); });
-        EXPECT_TRUE(fs::exists(part));
+        EXPECT_TRUE(isThere());
         int wanted = 0;
         QObject::connect(&updater, &UpdaterController::attentionWanted, [&] { ++wanted; });
         model->checkForUpdates();
@@ -108,6 +112,6 @@ TEST_F(UpdaterTest, ALoadCanBeStoppedAndLeavesNothing) {
             EXPECT_EQ(updater.state(), State::Idle);
         }
         model.reset();
-        EXPECT_FALSE(fs::exists(part));
+        EXPECT_FALSE(isThere());
     }
 }

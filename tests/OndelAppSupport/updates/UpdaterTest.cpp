@@ -90,7 +90,7 @@ TEST_F(UpdaterTest, AFeedIsReadOrRefused) {
     EXPECT_EQ(other.connections(), 1);
     EXPECT_TRUE(impostor.requests().empty());
 
-    environment.tls.reset(); // nobody vouches for the server
+    environment.authorities.reset(); // nobody vouches for the server
     UpdaterModel doubtful(environment);
     EXPECT_EQ(checkByHand(doubtful), State::Failed);
     configure(QUrl(u"http://127.0.0.1/feed"_s), publicKey());

@@ -1,0 +1,296 @@
+#include "OndelAppSupport/https/HttpsExchange.h"
+
+#include "OndelCore/platform/ErrorText.h"
+#include "OndelCore/platform/SystemProxies.h"
+
+#include <curl/curl.h>
+
+#include <algorithm>
+#include <array>
+#include <exception>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace OndelAppSupport::https {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Kind = TransportError::Kind;
+
+constexpr std::array redirectStatuses{301, 302, 303, 307, 308};
+
+template <auto Free>
+struct Freed {
+    void operator()(auto* object) const { Free(object); }
+};
+using Easy = std::unique_ptr<CURL, Freed<curl_easy_cleanup>>;
+using Multi = std::unique_ptr<CURLM, Freed<curl_multi_cleanup>>;
+using Lines = std::unique_ptr<curl_slist, Freed<curl_slist_free_all>>;
+
+/// Never undone: a thread that was left behind may still use the library when the process ends.
+void prepareLibrary() {
+    static const CURLcode prepared = curl_global_init(CURL_GLOBAL_DEFAULT);
+    if (prepared != CURLE_OK)
+        throw TransportError(Kind::failed, curl_easy_strerror(prepared));
+}
+
+/// Trimmed; absent when `line` is another header.
+std::optional<QByteArray> valueOf(const QByteArray& line, const QByteArray& lowerName) {
+    const bool isIt = line.size() > lowerName.size() && line[lowerName.size()] == ':' &&
+                      line.left(lowerName.size()).toLower() == lowerName;
+    return isIt ? std::optional(line.mid(lowerName.size() + 1).trimmed()) : std::nullopt;
+}
+
+/// One request and its answer through one proxy.
+class Transfer {
+public:
+    /// `headBytes`: what the whole exchange has heard around bodies so far.
+    Transfer(const Request& request, const Connection& connection, const Receiver& receiver,
+             const std::string& proxy, std::size_t& headBytes, Clock::time_point latest)
+        : m_request(request)
+        , m_connection(connection)
+        , m_receiver(receiver)
+        , m_headBytes(headBytes)
+        , m_latest(latest)
+        , m_easy(curl_easy_init())
+        , m_multi(curl_multi_init()) {
+        if (!m_easy || !m_multi)
+            throw std::bad_alloc();
+        setAddress(proxy);
+        setContent();
+        setCallbacks();
+    }
+
+    /// The head of the answer. Fails: throws.
+    const Head& run(const std::stop_token& stop) {
+        curl_multi_add_handle(m_multi.get(), m_easy.get());
+        const std::stop_callback wake(stop, [this] { curl_multi_wakeup(m_multi.get()); });
+        int running = 1;
+        while (running > 0 && !stop.stop_requested() && !isLate()) {
+            curl_multi_perform(m_multi.get(), &running);
+            if (running > 0)
+                curl_multi_poll(m_multi.get(), nullptr, 0, longestWait(), nullptr);
+        }
+        int left = 0;
+        const CURLMsg* end = curl_multi_info_read(m_multi.get(), &left);
+        const CURLcode code = end ? end->data.result : CURLE_OPERATION_TIMEDOUT;
+        curl_multi_remove_handle(m_multi.get(), m_easy.get());
+        if (stop.stop_requested())
+            throw Stopped();
+        if (m_thrown)
+            std::rethrow_exception(m_thrown);
+        if (code != CURLE_OK && !m_hasEnough)
+            throw failure(code);
+        return m_head;
+    }
+
+    bool hasAnswer() const { return m_hasFinalHead; }
+
+private:
+    template <typename Value>
+    void set(CURLoption option, Value value) {
+        if (const CURLcode code = curl_easy_setopt(m_easy.get(), option, value); code != CURLE_OK)
+            throw TransportError(Kind::failed, curl_easy_strerror(code));
+    }
+
+    void setAddress(const std::string& proxy) {
+        set(CURLOPT_URL, m_request.url.toEncoded(QUrl::RemoveFragment).constData());
+        set(CURLOPT_PROXY, proxy.c_str()); // an empty one keeps the library from looking for its own
+        set(CURLOPT_NOPROXY, "");
+        set(CURLOPT_PROTOCOLS_STR, "https");
+        set(CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});
+        set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1}); // one request has nothing to gain
+        set(CURLOPT_NOSIGNAL, 1L);
+        set(CURLOPT_QUICK_EXIT, 1L); // a look-up of a name is not waited for
+        set(CURLOPT_CONNECTTIMEOUT, 0L);
+        if (m_connection.authorities) {
+            curl_blob certificates{const_cast<char*>(m_connection.authorities->constData()),
+                                   static_cast<std::size_t>(m_connection.authorities->size()), CURL_BLOB_COPY};
+            set(CURLOPT_CAINFO_BLOB, &certificates);
+        }
+    }
+
+    void setContent() {
+        curl_slist* lines = nullptr;
+        const auto add = [&](const char* line) {
+            curl_slist* longer = curl_slist_append(lines, line);
+            if (!longer)
+                throw std::bad_alloc();
+            lines = longer;
+            static_cast<void>(m_lines.release());
+            m_lines.reset(lines);
+        };
+        for (const QByteArray& header : m_request.headers)
+            add(header.constData());
+        add("Expect:");                    // nobody is asked first whether a body may come
+        add("Accept-Encoding: identity");  // what is not compressed cannot swell
+        add("Accept-Language: *");         // the user's is nobody's business
+        set(CURLOPT_HTTPHEADER, m_lines.get());
+        set(CURLOPT_USERAGENT, m_connection.userAgent.constData());
+        if (m_request.body) {
+            set(CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t{m_request.body->size()});
+            set(CURLOPT_POSTFIELDS, m_request.body->constData());
+        }
+    }
+
+    void setCallbacks() {
+        set(CURLOPT_ERRORBUFFER, m_words.data());
+        const auto take = [](char* bytes, std::size_t size, std::size_t count, void* self) {
+            return static_cast<Transfer*>(self)->takeBody({bytes, static_cast<qsizetype>(size * count)});
+        };
+        const auto takeLine = [](char* bytes, std::size_t size, std::size_t count, void* self) {
+            return static_cast<Transfer*>(self)->takeHead({bytes, static_cast<qsizetype>(size * count)});
+        };
+        set(CURLOPT_WRITEFUNCTION, static_cast<curl_write_callback>(take));
+        set(CURLOPT_WRITEDATA, this);
+        set(CURLOPT_HEADERFUNCTION, static_cast<curl_write_callback>(takeLine));
+        set(CURLOPT_HEADERDATA, this);
+    }
+
+    bool isLate() const {
+        const auto now = Clock::now();
+        const bool hasWords = m_hasFinalHead && !m_connection.limit;
+        return now > m_lastNews + m_connection.patience || (!hasWords && now > m_latest);
+    }
+
+    /// Units: milliseconds.
+    int longestWait() const {
+        const auto end = std::min(m_latest, m_lastNews + m_connection.patience);
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
+        return static_cast<int>(std::clamp<std::chrono::milliseconds::rep>(left, 1, 1000));
+    }
+
+    /// Nothing may be thrown through the library. Any other count than all of the bytes ends the transfer.
+    std::size_t taken(QByteArrayView bytes, const auto& take) {
+        m_lastNews = Clock::now();
+        try {
+            if (take())
+                return static_cast<std::size_t>(bytes.size());
+            m_hasEnough = true;
+        } catch (...) {
+            m_thrown = std::current_exception();
+        }
+        return bytes.empty() ? 1 : 0;
+    }
+
+    std::size_t takeBody(QByteArrayView bytes) {
+        return taken(bytes, [&] { return m_receiver.body(bytes); });
+    }
+
+    std::size_t takeHead(QByteArrayView bytes) {
+        return taken(bytes, [&] {
+            m_headBytes += static_cast<std::size_t>(bytes.size());
+            if (m_headBytes > longestHead)
+                throw TransportError(Kind::tooLongHead, "The answer's head is too long");
+            if (m_hasFinalHead) // trailers
+                return true;
+            const QByteArray line = bytes.toByteArray();
+            if (line.startsWith("HTTP/"))
+                m_head = {};
+            else if (line.trimmed().isEmpty())
+                return endHead();
+            else
+                keep(line);
+            return true;
+        });
+    }
+
+    void keep(const QByteArray& line) {
+        if (const auto type = valueOf(line, "content-type"))
+            m_head.contentType = *type;
+        else if (const auto location = valueOf(line, "location"))
+            m_head.location = *location;
+        else if (const auto length = valueOf(line, "content-length")) {
+            bool isNumber = false;
+            const qint64 bytes = length->toLongLong(&isNumber);
+            m_head.length = isNumber ? std::optional(bytes) : std::nullopt;
+        }
+    }
+
+    /// Interim answers and a proxy's consent have a head as well. The library's status is the server's alone.
+    bool endHead() {
+        constexpr long firstFinalStatus = 200;
+        long status = 0;
+        curl_easy_getinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
+        if (status < firstFinalStatus)
+            return true;
+        m_hasFinalHead = true;
+        m_head.status = static_cast<int>(status);
+        const bool isFollowed = m_request.redirects > 0 && m_head.location &&
+                                std::ranges::find(redirectStatuses, m_head.status) != redirectStatuses.end();
+        return !isFollowed && m_receiver.head(m_head);
+    }
+
+    TransportError failure(CURLcode code) const {
+        const bool isHttp = code != CURLE_UNSUPPORTED_PROTOCOL && code != CURLE_WEIRD_SERVER_REPLY;
+        long error = 0;
+        curl_easy_getinfo(m_easy.get(), CURLINFO_OS_ERRNO, &error);
+        if (code == CURLE_COULDNT_CONNECT && error != 0)
+            return {Kind::failed, OndelCore::platform::errorText(static_cast<int>(error)).c_str()};
+        const char* words = m_words[0] != '\0' ? m_words.data() : curl_easy_strerror(code);
+        return {isHttp ? Kind::failed : Kind::notHttp, words};
+    }
+
+    const Request& m_request;
+    const Connection& m_connection;
+    const Receiver& m_receiver;
+    std::size_t& m_headBytes;
+    const Clock::time_point m_latest;
+    Clock::time_point m_lastNews = Clock::now();
+    Head m_head;
+    bool m_hasFinalHead = false;
+    bool m_hasEnough = false;
+    std::exception_ptr m_thrown;
+    std::array<char, CURL_ERROR_SIZE> m_words{};
+    Lines m_lines;
+    Easy m_easy;
+    Multi m_multi;
+};
+
+/// Through the first proxy that lets it through. One that hands on a word of the server is the last.
+Head transferThroughProxies(const Request& request, const Connection& connection, const Receiver& receiver,
+                            std::size_t& headBytes, Clock::time_point latest, const std::stop_token& stop) {
+    const auto proxies =
+        OndelCore::platform::systemProxies(request.url.toEncoded(QUrl::RemoveUserInfo).toStdString());
+    if (stop.stop_requested())
+        throw Stopped();
+    std::optional<TransportError> last;
+    for (const std::string& proxy : proxies) {
+        Transfer transfer(request, connection, receiver, proxy, headBytes, latest);
+        try {
+            return transfer.run(stop);
+        } catch (const TransportError& error) {
+            if (transfer.hasAnswer() || error.kind() != Kind::failed || request.body)
+                throw;
+            last = error;
+        }
+    }
+    throw last.value_or(TransportError(Kind::failed, "No proxy can be used"));
+}
+
+} // namespace
+
+void exchange(const Request& first, const Connection& connection, const Receiver& receiver,
+              const std::stop_token& stop) {
+    prepareLibrary();
+    Request request = first;
+    std::size_t headBytes = 0;
+    const auto latest = Clock::now() + connection.limit.value_or(2 * connection.patience);
+    for (;; --request.redirects) {
+        if (stop.stop_requested())
+            throw Stopped();
+        if (request.url.scheme() != QLatin1String("https") || request.url.host().isEmpty())
+            throw TransportError(Kind::notHttps, "The address is not secure");
+        const Head head = transferThroughProxies(request, connection, receiver, headBytes, latest, stop);
+        const bool isRedirect = head.location && std::ranges::find(redirectStatuses, head.status) !=
+                                                     redirectStatuses.end();
+        if (!isRedirect || request.redirects == 0)
+            return;
+        request.url = request.url.resolved(QUrl::fromEncoded(*head.location, QUrl::StrictMode));
+        request.url.setUserInfo({});
+    }
+}
+
+} // namespace OndelAppSupport::https
