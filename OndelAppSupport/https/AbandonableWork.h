@@ -13,8 +13,8 @@ namespace OndelAppSupport::https {
 /// Work on a thread of its own that may hang, for an object that lives on an event loop. A dead proxy or name
 /// server takes minutes, and nothing breaks off the wait for it.
 /// Threads: that of `owner`. Owner: `owner`, which outlives this. A thread that does not end when it is
-/// stopped is left behind with what its work captured. It reports to nobody, and nothing waits for it, the end
-/// of the process included: work must not refer to what may go before it.
+/// stopped is left behind with what its work captured. It reports to nobody, and nothing waits for it, the
+/// end of the process included: work must not refer to what may go before it.
 class AbandonableWork {
 public:
     using Step = std::function<void()>;
@@ -29,7 +29,8 @@ public:
     AbandonableWork(const AbandonableWork&) = delete;
     AbandonableWork& operator=(const AbandonableWork&) = delete;
 
-    /// Earlier work is abandoned. Fails: silently, where the machine has no thread left; no step is heard then.
+    /// Earlier work is abandoned. Fails: silently, where the machine has no thread left; no step is heard
+    /// then.
     void begin(Work work);
     /// Returns at once. The last steps of the work are still done.
     void requestStop();

@@ -107,7 +107,8 @@ private:
         set(CURLOPT_CONNECTTIMEOUT, 0L);
         if (m_connection.authorities) {
             curl_blob certificates{const_cast<char*>(m_connection.authorities->constData()),
-                                   static_cast<std::size_t>(m_connection.authorities->size()), CURL_BLOB_COPY};
+                                   static_cast<std::size_t>(m_connection.authorities->size()),
+                                   CURL_BLOB_COPY};
             set(CURLOPT_CAINFO_BLOB, &certificates);
         }
     }
@@ -124,9 +125,9 @@ private:
         };
         for (const QByteArray& header : m_request.headers)
             add(header.constData());
-        add("Expect:");                    // nobody is asked first whether a body may come
-        add("Accept-Encoding: identity");  // what is not compressed cannot swell
-        add("Accept-Language: *");         // the user's is nobody's business
+        add("Expect:");                   // nobody is asked first whether a body may come
+        add("Accept-Encoding: identity"); // what is not compressed cannot swell
+        add("Accept-Language: *");        // the user's is nobody's business
         set(CURLOPT_HTTPHEADER, m_lines.get());
         set(CURLOPT_USERAGENT, m_connection.userAgent.constData());
         if (m_request.body) {
@@ -284,8 +285,8 @@ void exchange(const Request& first, const Connection& connection, const Receiver
         if (request.url.scheme() != QLatin1String("https") || request.url.host().isEmpty())
             throw TransportError(Kind::notHttps, "The address is not secure");
         const Head head = transferThroughProxies(request, connection, receiver, headBytes, latest, stop);
-        const bool isRedirect = head.location && std::ranges::find(redirectStatuses, head.status) !=
-                                                     redirectStatuses.end();
+        const bool isRedirect =
+            head.location && std::ranges::find(redirectStatuses, head.status) != redirectStatuses.end();
         if (!isRedirect || request.redirects == 0)
             return;
         request.url = request.url.resolved(QUrl::fromEncoded(*head.location, QUrl::StrictMode));

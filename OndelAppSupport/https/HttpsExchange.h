@@ -16,9 +16,9 @@ namespace OndelAppSupport::https {
 /// What is asked of a server. Neither cookies nor an account go with it.
 struct Request {
     QUrl url;
-    QList<QByteArray> headers = {};               ///< "Name: value"; "Name;" sends an empty value
+    QList<QByteArray> headers = {};                ///< "Name: value"; "Name;" sends an empty value
     std::optional<QByteArray> body = std::nullopt; ///< makes it a POST
-    int redirects = 0;                            ///< how many are followed, to https:// only
+    int redirects = 0;                             ///< how many are followed, to https:// only
 };
 
 /// How servers are spoken to.
@@ -34,8 +34,8 @@ struct Connection {
 /// What stands before an answer's body.
 struct Head {
     int status = 0;
-    QByteArray contentType;           ///< as sent: "text/html; charset=utf-8"
-    std::optional<qint64> length;     ///< bytes of the body as announced
+    QByteArray contentType;             ///< as sent: "text/html; charset=utf-8"
+    std::optional<qint64> length;       ///< bytes of the body as announced
     std::optional<QByteArray> location; ///< of a redirect
 };
 

@@ -35,8 +35,8 @@ struct Offer {
 std::optional<QList<Offer>> readAppcast(const QByteArray& feed, const std::stop_token& stop = {});
 
 /// The newest complete offer for a system that is newer than `currentVersion`: `platforms` are the system's
-/// names, `systemVersion` is what an offer's least version is compared with. An offer that names no platform is
-/// for none of ours. Where all newer ones are incomplete, the newest of those.
+/// names, `systemVersion` is what an offer's least version is compared with. An offer that names no platform
+/// is for none of ours. Where all newer ones are incomplete, the newest of those.
 std::optional<Offer> newestOffer(const QList<Offer>& offers, const QStringList& platforms,
                                  const QString& systemVersion, const QString& currentVersion);
 

@@ -15,10 +15,10 @@ namespace OndelAppSupport::updates {
 using ReceiveBytes = std::function<void(const https::Head&, QByteArrayView bytes)>;
 
 /// Loads a resource as it is on the server. Redirects are followed, five at most: packages are commonly
-/// handed on to the servers of a content network, nothing secret is sent that could reach a stranger, and what
-/// comes is either read as a feed or proved by its signature.
-/// Threads: as https::exchange. Fails: throws UpdateError(`failure`) for whatever is no whole answer with
-/// status 200, https::Stopped when `stop` asks for it.
+/// handed on to the servers of a content network, nothing secret is sent that could reach a stranger, and
+/// what comes is either read as a feed or proved by its signature. Threads: as https::exchange. Fails: throws
+/// UpdateError(`failure`) for whatever is no whole answer with status 200, https::Stopped when `stop` asks
+/// for it.
 void httpsGet(const QUrl& url, const https::Connection& connection, UpdateError::Cause failure,
               const ReceiveBytes& receive, const std::stop_token& stop);
 

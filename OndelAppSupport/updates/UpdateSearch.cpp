@@ -16,8 +16,7 @@ QString loadNotes(const QUrl& link, const https::Connection& connection, const s
         const auto [contentType, body] =
             httpsGetSmall(link, connection, Cause::feedUnreachable, longestNotes, stop);
         const QString text = QString::fromUtf8(body);
-        const bool isPlain =
-            contentType.startsWith("text/plain") || contentType.startsWith("text/markdown");
+        const bool isPlain = contentType.startsWith("text/plain") || contentType.startsWith("text/markdown");
         return showableNotes(isPlain ? text : plainNotes(text));
     } catch (const UpdateError&) {
         return {};

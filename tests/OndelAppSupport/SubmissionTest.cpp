@@ -130,6 +130,21 @@ TEST(Submission, TellsTheSystemsOwnWordsWhenNoAnswerCame) {
     EXPECT_TRUE(isTransportError(outcome(BugReporter::submit({}, service(nobody)))));
 }
 
+TEST(Submission, TakesNoMoreThanItsShareOfAnAnswer) {
+    for (const auto& [status, ending] : {std::pair(200, Ending::endlessHead),
+                                         {500, Ending::endlessHead},
+                                         {500, Ending::endlessLine},
+                                         {500, Ending::endlessTrailers},
+                                         {100, Ending::endlessInterim},
+                                         {500, Ending::endless}}) {
+        HttpsServer server;
+        server.script("/", {status, "x", {}, ending});
+        const auto end = outcome(BugReporter::submit({}, service(server.url())));
+        EXPECT_EQ(isTransportError(end), ending != Ending::endless);
+        EXPECT_LT(server.sentBytes(), 16 << 20);
+    }
+}
+
 TEST(Submission, GivesItsSecretToNobodyElse) {
     const HttpsServer unknown;
     auto careful = service(unknown.url());

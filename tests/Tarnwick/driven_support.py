@@ -106,6 +106,24 @@ def tells_about(window, home):
     check(window.until("the notices", lambda: opened(home)).endswith("ThirdPartyNotices.txt"), "the notices")
 
 
+def ends_beside_dead_proxy_settings(program, home):
+    """Proxy settings may name a script on a server, and nothing breaks off the wait for one that does not answer."""
+    silent = socket.create_server(("127.0.0.1", 0))
+    env = {"https_proxy": f"pac+http://127.0.0.1:{silent.getsockname()[1]}/proxy.pac"}
+    with driver.Window(program, home, env=env) as window:
+        window.press("Help")
+        window.press("Report a Problem…")
+        window.find("Send", "push button")
+        window.keys("a", "b", "c", "Tab")
+        type_text("five five")
+        window.until("enough to send", lambda: window.enabled("Send"))
+        window.press("Send")
+        silent.settimeout(driver.GUARD_SECONDS)
+        connection, _ = silent.accept()
+        check(window.terminate() == (0, ""), "the end")
+        connection.close()
+
+
 def main():
     program = pathlib.Path(sys.argv[1])
     driver.enter_display()
@@ -127,6 +145,7 @@ def main():
         window.find("Ready to benchmark")
         check(window.look("Not Now") is None, "the note was put away for a week")
         check(window.terminate() == (0, ""), "the end")
+    ends_beside_dead_proxy_settings(program, home)
 
 
 if __name__ == "__main__":

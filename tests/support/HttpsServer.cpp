@@ -145,8 +145,8 @@ QByteArray headOf(const HttpsServer::Answer& answer) {
     case endlessLine:
         return head + "X-Filler: ";
     case endlessTrailers:
-        return head + "Transfer-Encoding: chunked\r\n\r\n" + QByteArray::number(answer.body.size(), 16) + "\r\n" +
-               answer.body + "\r\n0\r\n";
+        return head + "Transfer-Encoding: chunked\r\n\r\n" + QByteArray::number(answer.body.size(), 16) +
+               "\r\n" + answer.body + "\r\n0\r\n";
     default:
         const auto missing = answer.ending == whole ? 0 : 1;
         return head + "Content-Length: " + QByteArray::number(answer.body.size() + missing) + "\r\n\r\n" +

@@ -13,11 +13,11 @@ namespace {
 
 /// libproxy's schemes and those by which names are looked up at the proxy.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 6> schemes{{{"direct://", ""},
-                                                                               {"http://", "http://"},
-                                                                               {"https://", "https://"},
-                                                                               {"socks://", "socks5h://"},
-                                                                               {"socks5://", "socks5h://"},
-                                                                               {"socks4://", "socks4a://"}}};
+                                                                                {"http://", "http://"},
+                                                                                {"https://", "https://"},
+                                                                                {"socks://", "socks5h://"},
+                                                                                {"socks5://", "socks5h://"},
+                                                                                {"socks4://", "socks4a://"}}};
 
 } // namespace
 
@@ -27,8 +27,7 @@ std::vector<std::string> systemProxies(const std::string& url) {
     const std::unique_ptr<pxProxyFactory, void (*)(pxProxyFactory*)> settings(px_proxy_factory_new(),
                                                                               px_proxy_factory_free);
     const std::unique_ptr<char*, void (*)(char**)> found(
-        settings ? px_proxy_factory_get_proxies(settings.get(), url.c_str()) : nullptr,
-        [](char** list) {
+        settings ? px_proxy_factory_get_proxies(settings.get(), url.c_str()) : nullptr, [](char** list) {
             if (list)
                 px_proxy_factory_free_proxies(list);
         });

@@ -1,5 +1,9 @@
 #include "OndelAppSupport/updates/UpdaterHarness.h"
 
+#include <QStringEncoder>
+#include <QTcpServer>
+#include <QTcpSocket>
+
 #include <functional>
 
 using namespace test;
@@ -15,12 +19,27 @@ QByteArray entityBomb() {
     return bomb + "]><rss><channel><item><title>&l;</title></item></channel></rss>";
 }
 
+QByteArray utf16(const QByteArray& utf8) {
+    return QStringEncoder(QStringConverter::Utf16, QStringConverter::Flag::WriteBom)
+        .encode(QString::fromUtf8(utf8));
+}
+
 } // namespace
 
 TEST_F(UpdaterTest, AFeedIsReadOrRefused) {
     const QString good = enclosure(9, anySignature);
     const QByteArray valid = feed(good);
     const QByteArray nested = feed(good, u"11"_s, u"<description>"_s + u"<b>"_s.repeated(150'000));
+    QString attributes = good;
+    QString inner = u"<description>"_s;
+    for (int i = 0; i < 20'000; ++i) { // times that grow with the square: half a minute each
+        attributes += u" a%1='>'"_s.arg(i);
+        inner += u"<b xmlns:n%1='x'>"_s.arg(i);
+    }
+    inner += u"</b>"_s.repeated(20'000) + u"</description>"_s;
+    const QByteArray second = feed(enclosure(9, {}), u"12"_s);
+    const QByteArray below = QByteArray(valid).replace(
+        "<item>", second.mid(second.indexOf("<item>")).replace("</channel></rss>", "<item>"));
     const auto minimum = [&](const char* version) {
         return feed(good, u"11"_s,
                     u"<s:minimumSystemVersion>%1</s:minimumSystemVersion>"_s.arg(QLatin1String(version)));
@@ -44,6 +63,11 @@ TEST_F(UpdaterTest, AFeedIsReadOrRefused) {
          u"Available"_s},
         {"system is new enough", {200, minimum("6.1")}, u"Available"_s},
         {"moved to another host", redirect(other.url(u"/moved"_s).toString()), u"Available"_s},
+        {"the newest lacks its signature", {200, below}, u"Available"_s},
+        {"in UTF-16", {200, utf16(valid)}, u"Available"_s},
+        {"in Latin-1",
+         {200, QByteArray(valid).replace("utf-8", "iso-8859-1").replace("Better", "B\xe4tter")},
+         u"Available"_s},
         {"the same", {200, feed(good, u"10.0"_s)}, u"UpToDate"_s},
         {"older", {200, feed(good, u"9.9.9"_s)}, u"UpToDate"_s},
         {"before the release", {200, feed(good, u"10rc3"_s)}, u"UpToDate"_s},
@@ -63,6 +87,8 @@ TEST_F(UpdaterTest, AFeedIsReadOrRefused) {
         {"nothing", {200, ""}, u"read"_s},
         {"entity bomb", {200, entityBomb()}, u"read"_s},
         {"deeper than any stack", {200, nested}, u"read"_s},
+        {"attributes without end", {200, feed(attributes)}, u"read"_s},
+        {"namespaces without end", {200, feed(good, u"11"_s, inner)}, u"read"_s},
         {"cut connection", {200, valid, {}, cut}, u"reached"_s},
         {"cut before a word", {0, "", {}, cut}, u"reached"_s},
         {"without end", {200, valid, {}, endless}, u"reached"_s},
@@ -196,4 +222,80 @@ TEST_F(UpdaterTest, ACheckUnderWayBecomesTheUsersAndCanBeStopped) {
     server.script("/feed", {200, feed({}, u"9"_s)});
     EXPECT_EQ(checkByHand(model), State::UpToDate);
     EXPECT_EQ(server.requests().size(), 2);
+}
+
+TEST_F(UpdaterTest, AHeadWithoutEndIsNotTakenIn) {
+    constexpr qint64 buffered = 16 << 20; // bytes that the system's sockets may hold of what was sent
+    const QByteArray valid = feed(enclosure(9, anySignature));
+    for (const auto& [status, ending] : {std::pair(200, endlessHead),
+                                         {200, endlessLine},
+                                         {103, endlessInterim},
+                                         {200, endlessTrailers},
+                                         {302, endlessHead}}) {
+        SCOPED_TRACE(testing::Message() << status << ", ending " << static_cast<int>(ending));
+        HttpsServer feeder;
+        feeder.script("/feed", {status, valid, {{"Location", "/feed"}}, ending});
+        configure(feeder.url(u"/feed"_s), publicKey());
+        UpdaterModel model(environment);
+        EXPECT_EQ(checkByHand(model), State::Failed);
+        EXPECT_LT(feeder.sentBytes(), buffered);
+    }
+}
+
+TEST_F(UpdaterTest, AFeedIsReadNoFurtherWhenStopped) {
+    const QByteArray valid = feed(enclosure(9, anySignature));
+    std::stop_source stop;
+    EXPECT_TRUE(updates::readAppcast(valid, stop.get_token()));
+    stop.request_stop();
+    EXPECT_FALSE(updates::readAppcast(valid, stop.get_token()));
+}
+
+// Proxy settings may name a script on a server. Nothing breaks off the wait for one that does not answer.
+TEST_F(UpdaterTest, ProxySettingsThatHangAreLeftBehind) {
+    QTcpServer silent;
+    ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+    QList<QTcpSocket*> heard;
+    QObject::connect(&silent, &QTcpServer::newConnection,
+                     [&] { heard.append(silent.nextPendingConnection()); });
+    qputenv("https_proxy", "pac+http://127.0.0.1:" + QByteArray::number(silent.serverPort()) + "/x.pac");
+    {
+        UpdaterModel model(environment);
+        UpdaterController& updater = *model.controller();
+        for (const int checks : {1, 2}) {
+            model.checkForUpdates();
+            waitUntil([&] { return heard.size() == checks; });
+            updater.dismiss();
+            EXPECT_EQ(updater.state(), State::Idle);
+        }
+        environment.patience = std::chrono::milliseconds(40);
+        UpdaterModel impatient(environment);
+        EXPECT_EQ(checkByHand(impatient), State::Failed);
+        impatient.controller()->checkForUpdates();
+        EXPECT_EQ(impatient.controller()->state(), State::Checking);
+    }
+    qunsetenv("https_proxy");
+    EXPECT_EQ(server.connections(), 0);
+}
+
+TEST_F(UpdaterTest, AProxysOwnHeadEndsToo) {
+    QTcpServer proxy;
+    ASSERT_TRUE(proxy.listen(QHostAddress::LocalHost));
+    qint64 sent = 0;
+    QObject::connect(&proxy, &QTcpServer::newConnection, [&] {
+        QTcpSocket* socket = proxy.nextPendingConnection();
+        const auto feed = [socket] { socket->write(QByteArray("X-Filler: filler\r\n").repeated(1 << 12)); };
+        QObject::connect(socket, &QTcpSocket::bytesWritten, [&sent, socket, feed](qint64 bytes) {
+            if ((sent += bytes) < Answer::muchBytes)
+                feed();
+            else
+                socket->disconnectFromHost();
+        });
+        socket->write("HTTP/1.1 200 Connected\r\n");
+    });
+    qputenv("https_proxy", "http://127.0.0.1:" + QByteArray::number(proxy.serverPort()));
+    UpdaterModel model(environment);
+    EXPECT_EQ(checkByHand(model), State::Failed);
+    qunsetenv("https_proxy");
+    EXPECT_GT(sent, 0);
+    EXPECT_LT(sent, 16 << 20);
 }
