@@ -1,9 +1,12 @@
 """Drives the real window from outside, as a person with assistive technology would: by names and roles on the
 accessibility tree (AT-SPI), with the keyboard through xdotool."""
 
+import contextlib
+import io
 import os
 import pathlib
 import re
+import select
 import shutil
 import signal
 import subprocess
@@ -14,6 +17,28 @@ import time
 SKIP = 77
 GUARD_SECONDS = 40  # no test of speed: what is not there by then does not come
 MAIN = "^Ondel Tarnwick$"  # the title of the main window
+
+
+def bus_configuration(folder, services):
+    """Writes what a session bus of our own is told. It starts only what the folder of service files names."""
+    path = pathlib.Path(folder, "bus.conf")
+    path.write_text(f"""<busconfig><type>session</type><listen>unix:path={folder}/bus</listen><auth>EXTERNAL</auth>
+<servicedir>{services}</servicedir><policy context="default"><allow send_destination="*" eavesdrop="true"/>
+<allow eavesdrop="true"/><allow own="*"/></policy></busconfig>""")
+    return path
+
+
+@contextlib.contextmanager
+def accessibility(env):
+    """The accessibility bus beside the session bus of `env`. Gives its address."""
+    ask = ["gdbus", "call", "--session", "--dest", "org.a11y.Bus", "--object-path", "/org/a11y/bus", "--method",
+           "org.a11y.Bus.GetAddress"]
+    with subprocess.Popen(["/usr/libexec/at-spi-bus-launcher"], env=env) as launcher:
+        try:
+            subprocess.run(["gdbus", "wait", "--session", "org.a11y.Bus"], env=env, check=True)
+            yield subprocess.run(ask, env=env, check=True, capture_output=True, text=True).stdout.split("'")[1]
+        finally:
+            launcher.terminate()
 
 
 def enter_display(width=1400, height=1000):
@@ -69,8 +94,38 @@ class Failure(Exception):
     pass
 
 
+class Started:
+    """A program that somebody else started, with what is used here of subprocess.Popen. Its exit status cannot be known."""
+
+    def __init__(self):
+        """Waits for its main window."""
+        end = time.monotonic() + GUARD_SECONDS
+        while not windows(MAIN):
+            if time.monotonic() > end:
+                raise Failure("no window was opened")
+            time.sleep(0.02)
+        owner = subprocess.run(["xdotool", "getwindowpid", windows(MAIN)[0]], check=True, capture_output=True, text=True)
+        self.pid = int(owner.stdout)
+        self.descriptor = os.pidfd_open(self.pid)
+        self.stderr = io.StringIO()
+
+    def wait(self, seconds=None):
+        if not select.select([self.descriptor], [], [], seconds)[0]:
+            raise Failure("it does not end")
+        return 0
+
+    def poll(self):
+        return 0 if select.select([self.descriptor], [], [], 0)[0] else None
+
+    def send_signal(self, number):
+        signal.pidfd_send_signal(self.descriptor, number)
+
+    def kill(self):
+        self.send_signal(signal.SIGKILL)
+
+
 class Window:
-    """One started program and its accessibility tree."""
+    """One started program (its path, or a Started) and its accessibility tree."""
 
     def __init__(self, program, *arguments, env=None):
         import gi
@@ -80,8 +135,9 @@ class Window:
         self.gone_error = GLib.Error
         self.events = GLib.MainContext.default()
         self.scale = (env or {}).get("QT_SCALE_FACTOR", "1")
-        self.process = subprocess.Popen([program, *map(str, arguments)], stderr=subprocess.PIPE, text=True,
-                                        env=os.environ | (env or {}))
+        self.process = program if isinstance(program, Started) else subprocess.Popen(
+            [program, *map(str, arguments)], stderr=subprocess.PIPE, text=True, env=os.environ | (env or {}))
+        self.root = None
         self.root = self.until("the window on the accessibility bus", self._application)
 
     def __enter__(self):
@@ -121,6 +177,8 @@ class Window:
 
     def nodes(self, start=None, depth=0):
         node = start or self.root
+        if not node:
+            return
         yield node, depth
         for i in range(node.get_child_count()):
             child = node.get_child_at_index(i)
