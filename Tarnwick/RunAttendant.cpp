@@ -42,7 +42,7 @@ void RunAttendant::tellOfEnd() {
     if (m_model.phase() != AnalyzerModel::Phase::Done || !m_model.currentRun())
         return;
     const RunRecord& run = *m_model.currentRun();
-    QStringList facts{run.volumeName};
+    QStringList facts{run.title()};
     if (run.writeBps)
         facts.append(tr("write %1").arg(Format::rate(*run.writeBps)));
     if (run.readBps)

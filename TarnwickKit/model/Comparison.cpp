@@ -52,13 +52,13 @@ std::vector<Bar> bars(const CompareMetric& metric, const std::vector<RunRecord>&
 
 QString parameterSummary(const RunRecord& run) {
     QStringList parts;
-    if (run.fsType)
+    if (visibleText(run.fsType))
         parts << run.fsType->toUpper();
     if (run.capacityBytes)
         parts << Format::bytes(*run.capacityBytes);
     if (run.freeBytes)
         parts << Format::bytes(*run.freeBytes) + u" free"_s;
-    if (run.sizeLabel)
+    if (visibleText(run.sizeLabel))
         parts << *run.sizeLabel + u" test"_s;
     if (run.writeBlock && run.writeBlock == run.readBlock) {
         parts << u"R/W "_s + Format::block(*run.writeBlock);

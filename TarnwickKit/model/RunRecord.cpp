@@ -61,22 +61,37 @@ bool isNetworkFilesystem(const QString& filesystemType) {
            networkFilesystems.end();
 }
 
+std::optional<QString> visibleText(const std::optional<QString>& text) {
+    const auto isVisible = [](QChar character) {
+        return !character.isSpace() && !character.isMark() && character.category() != QChar::Other_Control &&
+               character.category() != QChar::Other_Format;
+    };
+    return text && std::ranges::any_of(*text, isVisible) ? text : std::nullopt;
+}
+
+QString RunRecord::title() const {
+    if (const auto own = visibleText(customTitle))
+        return *own;
+    return visibleText(volumeName).value_or(u"Volume"_s);
+}
+
 QString RunRecord::screenshotTitle() const {
-    if (customTitle)
-        return *customTitle;
+    if (const auto own = visibleText(customTitle))
+        return *own;
     if (isOnNetwork(*this)) {
-        const auto protocol = deviceProtocol ? deviceProtocol : DriveInfo::networkProtocol(fsType);
+        const auto told = visibleText(deviceProtocol);
+        const auto protocol = told ? told : DriveInfo::networkProtocol(fsType);
         return protocol.value_or(u"Network"_s) + u" Server"_s;
     }
-    return kind == Kind::internalDrive ? volumeName : deviceModel.value_or(u"External Drive"_s);
+    return kind == Kind::internalDrive ? title() : visibleText(deviceModel).value_or(u"External Drive"_s);
 }
 
 QString RunRecord::screenshotSubtitle() const {
     if (isOnNetwork(*this))
         return u"Network volume"_s;
     if (kind == Kind::internalDrive)
-        return u"Internal"_s + (fsType ? separator + fsType->toUpper() : QString());
-    return u"External"_s + (deviceProtocol ? separator + *deviceProtocol : QString());
+        return u"Internal"_s + (visibleText(fsType) ? separator + fsType->toUpper() : QString());
+    return u"External"_s + (visibleText(deviceProtocol) ? separator + *deviceProtocol : QString());
 }
 
 std::optional<QString> RunRecord::customTitleFrom(const QString& text) {

@@ -28,6 +28,10 @@ inline constexpr std::array<std::string_view, 6> networkFilesystems{"smbfs",  "n
 /// Whether a type, in any case, is among them.
 bool isNetworkFilesystem(const QString& filesystemType);
 
+/// A text of a record that shows something. A record from elsewhere may hold one of blanks and control
+/// characters, which counts as absent.
+std::optional<QString> visibleText(const std::optional<QString>& text);
+
 /// One saved point of a curve.
 struct RunSample {
     double t = 0; ///< seconds since the start of the test
@@ -90,7 +94,9 @@ struct RunRecord {
                           std::optional<double> duration = std::nullopt,
                           const IdentityOf& driveIdentity = identityOf);
 
-    /// The headline of report images, and what a run is called while it has no title of its own.
+    /// What lists call the run: the user's title, else the volume's name, else "Volume".
+    QString title() const;
+    /// The headline of report images. Never without a visible character, as `title`.
     QString screenshotTitle() const;
     /// The second line of report images.
     QString screenshotSubtitle() const;

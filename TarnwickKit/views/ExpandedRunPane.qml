@@ -68,9 +68,12 @@ CardFrame {
     }
     Rule {
         Layout.fillWidth: true
+        visible: strip.hasFacts
         color: PaletteKey.palette.borderSoft
     }
     RunCapturedStrip {
+        id: strip
+
         Layout.fillWidth: true
         facts: pane.facts
     }

@@ -80,10 +80,13 @@ ImageCard {
         run: card.run
     }
     Rule {
+        visible: strip.hasFacts
         width: parent.width
         color: PaletteKey.palette.borderSoft
     }
     RunCapturedStrip {
+        id: strip
+
         width: parent.width
         facts: card.facts
         corner: 0

@@ -9,7 +9,9 @@ CardFoot {
     id: strip
 
     required property runFacts facts
+    readonly property bool hasFacts: facts.captured.length > 0
 
+    visible: hasFacts
     implicitHeight: items.height + 26
     corner: 15
 

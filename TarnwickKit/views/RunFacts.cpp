@@ -61,11 +61,11 @@ void addBlocks(ItemList& items, const RunRecord& run) {
 
 QVariantList capturedFacts(const RunRecord& run) {
     ItemList items;
-    items.add(Runs::tr("File system"),
-              words(run.fsType, [](const QString& type) { return legible(type).toUpper(); }));
+    items.add(Runs::tr("File system"), words(model::visibleText(run.fsType),
+                                             [](const QString& type) { return legible(type).toUpper(); }));
     items.add(Runs::tr("Capacity"), words(run.capacityBytes, Format::bytes));
     items.add(Runs::tr("Free"), words(run.freeBytes, Format::bytes));
-    items.add(Runs::tr("Size"), words(run.sizeLabel, legible));
+    items.add(Runs::tr("Size"), words(model::visibleText(run.sizeLabel), legible));
     addBlocks(items, run);
     items.add(Runs::tr("Cache"), words(run.bypassCache, [](bool bypassed) {
                   return bypassed ? Runs::tr("Bypassed") : Runs::tr("Cached");
@@ -85,12 +85,6 @@ QString symbolOf(RunRecord::Kind kind) {
     Q_UNREACHABLE();
 }
 
-/// A record from elsewhere may lack even a name.
-QString titleOf(const RunRecord& run) {
-    const QString title = legible(run.customTitle.value_or(run.volumeName));
-    return title.trimmed().isEmpty() ? Runs::tr("Volume") : title;
-}
-
 } // namespace
 
 RunFacts RunFacts::of(const RunRecord& run) {
@@ -99,7 +93,7 @@ RunFacts RunFacts::of(const RunRecord& run) {
     const auto kind = isNetwork ? RunRecord::Kind::network : run.kind;
     const auto orNone = [](const std::optional<double>& rate) { return rate.value_or(qQNaN()); };
     return RunFacts{.id = run.id,
-                    .title = titleOf(run),
+                    .title = legible(run.title()),
                     .screenshotTitle = legible(run.screenshotTitle()),
                     .screenshotSubtitle = legible(run.screenshotSubtitle()),
                     .badgeSymbol = symbolOf(kind),

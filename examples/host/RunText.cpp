@@ -56,11 +56,6 @@ QStringList random(std::optional<double> iops, std::optional<double> bytesPerSec
     return {count(iops, "IOPS"), rate(bytesPerSecond)};
 }
 
-QString titleOf(const RunRecord& run) {
-    const QString title = run.screenshotTitle();
-    return title.trimmed().isEmpty() ? "--" : title;
-}
-
 QString runText(const RunRecord& run, const QString& number, int columns) {
     const auto row = [columns](const char* label, const QStringList& parts,
                                const QString& between = separator) {
@@ -74,7 +69,7 @@ QString runText(const RunRecord& run, const QString& number, int columns) {
     const QStringList stamp = Format::runStamp(run.date, run.duration).split(separator);
     const QStringList parameters =
         ComparisonChart::parameterSummary(run).split(parameterSeparator, Qt::SkipEmptyParts);
-    return number + fitted(titleOf(run), columns - static_cast<int>(number.size())) + '\n' +
+    return number + fitted(run.screenshotTitle(), columns - static_cast<int>(number.size())) + '\n' +
            wrapped({}, stamp, separator, columns) +
            row("Write", sequential(run.writeBps, run.writePeakBps, run.writeMinBps)) +
            row("Read", sequential(run.readBps, run.readPeakBps, run.readMinBps)) +
@@ -117,7 +112,7 @@ QString comparisonText(const CompareMetric& metric, const std::vector<RunRecord>
                              bar(length, cells, style.unicode) + ' ' +
                              lines[index].text.rightJustified(figureColumns) + "  ";
         const int room = std::max(1, style.columns - static_cast<int>(line.size()));
-        text += line + fitted(titleOf(runs[index]), room) + '\n';
+        text += line + fitted(runs[index].screenshotTitle(), room) + '\n';
     }
     return text;
 }

@@ -14,7 +14,7 @@ import driver
 import saved_runs
 from driven_window import check
 
-KINDS = [("internalDrive", "Internal", "ext4"), ("external", "External", "exfat"), ("network", "Network", "nfs")]
+KINDS = ("internalDrive", "external", "network")
 TEXTS = ("volumeName", "connection", "fsType", "sizeLabel", "deviceModel", "deviceProtocol", "customTitle")
 
 
@@ -46,23 +46,19 @@ class Lures:
         """What a text can try. A text is shown in full up to 300 characters."""
         picture = f"{self.address}{field}.png"
         return [f'<img src="{picture}">',
-                f'<a href="{picture}">press</a><img width=9 src={picture}>',
-                f'<style>@import "{picture}";</style><p style="background-image:url({picture})">styled<img src="{picture}"/>',
-                f'&lt;<b>&#60;img</b> src="{picture}"><IMG SRC="{picture.replace("/", "&#47;")}">',
-                f'<table background="{picture}"><tr><td><img src="file://{self.pipe}"><img src="{self.pipe}">']
+                f'<style>@import "{picture}";</style><p style="background:url({picture})"><a href="{picture}">a</a><img src={picture}>',
+                f'<b>&lt;</b><IMG SRC="{picture.replace("/", "&#47;")}"><img src="file://{self.pipe}"><img src="{self.pipe}">']
 
 
 def hostile_runs(lures):
-    """For every attachment of a volume and every markup a run that has it in all of its texts, but for a title of its own,
-    which would take the place of the others."""
-    variants = len(lures.markups(""))
+    """For every attachment of a volume and every markup a run that has it in all of its texts. A title of its own would take
+    the place of others, so that every second one has none."""
     runs = []
-    for kind, _, _ in KINDS:
-        for variant in range(variants):
-            texts = {field: lures.markups(f"{kind}-{field}")[variant] for field in TEXTS}
-            if len(runs) % 2:
-                texts["customTitle"] = None
-            runs.append(saved_runs.run(len(runs), kind=kind, **texts))
+    for number, (kind, variant) in enumerate((kind, variant) for kind in KINDS for variant in range(3)):
+        texts = {field: lures.markups(f"{kind}-{field}")[variant] for field in TEXTS}
+        if number % 2:
+            texts["customTitle"] = None
+        runs.append(saved_runs.run(number, kind=kind, **texts))
     return runs
 
 
@@ -79,7 +75,7 @@ def nobody_came(lures, where):
 
 
 def cards_are_drawn(host, files, lures):
-    for shown in [[file] for file in files] + [files]:
+    for shown in ([files[1]], [files[3]], [files[8]], files):
         try:
             drawn = subprocess.run([host, "card", *shown], capture_output=True, text=True, timeout=driver.GUARD_SECONDS)
         except subprocess.TimeoutExpired as hung:
@@ -143,7 +139,7 @@ def history_is_shown(program, file, runs, lures):
 def target_is_shown(staged, lures):
     """A volume and a drive of such names: toolbar, sidebar, a run on it, and the run's record."""
     saved_runs.lay_down([])
-    for number, text in enumerate(lures.markups("target")):
+    for number, text in enumerate(lures.markups("target")[1:]):
         with driver.Window(staged, "named", text, env={"TMPDIR": os.environ["TMPDIR"]}) as window:
             window.resize(1180, 1400)
             if number == 0:  # it is remembered
@@ -165,8 +161,7 @@ if __name__ == "__main__":
         runs = hostile_runs(lures)
         files = saved(runs, pathlib.Path(name))
         programs = pathlib.Path(sys.argv[1]).parent
-        parts = [lambda: cards_are_drawn(programs / "tarnwick-host", files, lures),
-                 lambda: history_is_shown(sys.argv[1], files[1], runs, lures),
-                 lambda: target_is_shown(programs / "staged-window", lures)]
-        for part in parts:
-            part()
+        cards_are_drawn(programs / "tarnwick-host", files, lures)
+        history_is_shown(sys.argv[1], files[1], runs, lures)
+        target_is_shown(programs / "staged-window", lures)
+        nobody_came(lures, "afterwards")

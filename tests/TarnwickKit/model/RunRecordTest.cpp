@@ -151,6 +151,25 @@ TEST(RunRecord, HasAHeadline) {
     EXPECT_EQ(titles(), "Mine | Network volume");
 }
 
+/// A record from elsewhere may have names that show nothing.
+TEST(RunRecord, IsNeverCalledNothing) {
+    for (const char* blank : {"", " \t\n", "\u200B\u202E", "\u0301\uFE0F"}) {
+        RunRecord run;
+        run.volumeName = blank;
+        run.customTitle = run.fsType = run.deviceModel = run.deviceProtocol = blank;
+        const auto titles = [&] {
+            return run.title() + " | " + run.screenshotTitle() + " | " + run.screenshotSubtitle();
+        };
+        EXPECT_EQ(titles(), "Volume | Volume | Internal");
+        run.kind = Kind::external;
+        EXPECT_EQ(titles(), "Volume | External Drive | External");
+        run.kind = Kind::network;
+        EXPECT_EQ(titles(), "Volume | Network Server | Network volume");
+        run.volumeName = "Data";
+        EXPECT_EQ(run.title(), "Data");
+    }
+}
+
 TEST(RunRecord, CutsTitlesBetweenCharacters) {
     const QString family = "👨‍👩‍👧‍👦";
     const QString accented = QString::fromUtf8("e\u0301");

@@ -67,6 +67,32 @@ void expectCard(const ImageFile& file, const Palette& palette) {
     }
 }
 
+/// All items of a card in the order in which it is read.
+QList<const QQuickItem*> itemsOf(const QQuickItem& item) {
+    QList<const QQuickItem*> all{&item};
+    const auto children = item.childItems();
+    for (const QQuickItem* child : children)
+        if (child->isVisible())
+            all << itemsOf(*child);
+    return all;
+}
+
+QStringList texts(const QQuickItem& card) {
+    QStringList all;
+    for (const QQuickItem* item : itemsOf(card))
+        if (item->inherits("QQuickText"))
+            all << item->property("text").toString();
+    return all;
+}
+
+QStringList cardTexts(const RunRecord& run) {
+    const auto card = newCard(QStringLiteral("ReportCard"),
+                              {{QStringLiteral("run"), QVariant::fromValue(run)},
+                               {QStringLiteral("link"), QStringLiteral("example.org")}},
+                              Palette::light());
+    return texts(*card);
+}
+
 TEST(ReportImage, IsACardWithACodeThatCamerasRead) {
     RunRecord network = fullRun();
     network.fsType = QStringLiteral("SMBFS");
@@ -82,6 +108,25 @@ TEST(ReportImage, IsACardWithACodeThatCamerasRead) {
             EXPECT_EQ(content(*file), bytes) << "the same run gives the same bytes";
         }
     EXPECT_EQ(link(), OndelAppSupport::AppIdentity::tarnwick().website.toString());
+}
+
+TEST(ReportImage, HasATitleAndNoEmptyBand) {
+    RunRecord run = bareRun();
+    run.volumeName.clear();
+    const ImageFile without = ReportImage::render(run, Palette::light());
+    ASSERT_TRUE(without);
+    EXPECT_EQ(without->filename(), "Ondel Tarnwick — Volume.png");
+    EXPECT_TRUE(cardTexts(run).first() == "Volume") << cardTexts(run).join(u'\n').toStdString();
+    EXPECT_EQ(ComparedRuns{{run}}.entries().at(0).value<ComparedRun>().legend, "Volume · May 1 · 12:34 PM");
+
+    const int height = QImage(QString::fromStdString(without->string())).height();
+    run.fsType = run.sizeLabel = QStringLiteral(" ");
+    EXPECT_EQ(QImage(QString::fromStdString(ReportImage::render(run, Palette::light())->string())).height(),
+              height);
+    run.sizeLabel = QStringLiteral("1.0 GiB");
+    EXPECT_GT(QImage(QString::fromStdString(ReportImage::render(run, Palette::light())->string())).height(),
+              height + 2 * 26)
+        << "the strip's padding at the images' scale";
 }
 
 TEST(LegibleText, DisturbsNothingBesideIt) {
@@ -132,32 +177,6 @@ TEST(QRCode, IsSharpAndHoldsWhatItCan) {
               (25 + 2 * QRCode::quietModules) * QRCode::pixelsPerModule); // 22 bytes: version 2
     EXPECT_TRUE(QRCode::image(QString(2331, u'x')));
     EXPECT_FALSE(QRCode::image(QString(2332, u'x')));
-}
-
-/// All items of a card in the order in which it is read.
-QList<const QQuickItem*> itemsOf(const QQuickItem& item) {
-    QList<const QQuickItem*> all{&item};
-    const auto children = item.childItems();
-    for (const QQuickItem* child : children)
-        if (child->isVisible())
-            all << itemsOf(*child);
-    return all;
-}
-
-QStringList texts(const QQuickItem& card) {
-    QStringList all;
-    for (const QQuickItem* item : itemsOf(card))
-        if (item->inherits("QQuickText"))
-            all << item->property("text").toString();
-    return all;
-}
-
-QStringList cardTexts(const RunRecord& run) {
-    const auto card = newCard(QStringLiteral("ReportCard"),
-                              {{QStringLiteral("run"), QVariant::fromValue(run)},
-                               {QStringLiteral("link"), QStringLiteral("example.org")}},
-                              Palette::light());
-    return texts(*card);
 }
 
 TEST(ReportCard, ShowsWhatTheRecordHas) {
