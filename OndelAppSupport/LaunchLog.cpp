@@ -2,7 +2,12 @@
 
 #include "OndelAppSupport/BugReporter.h"
 #include "OndelCore/logging/LogStore.h"
+#include "OndelCore/platform/DetachedThread.h"
 #include "OndelCore/platform/StandardFolders.h"
+
+#include <chrono>
+#include <future>
+#include <utility>
 
 namespace OndelAppSupport {
 
@@ -24,6 +29,13 @@ void startLogging(const LogOutput& output) {
                LogField::token("arch", BugReporter::architecture()),
                LogField::token("model", BugReporter::hardwareModel()),
                LogField::bool_("reportingConfigured", BugReporter::isConfigured()));
+}
+
+void endLogging() {
+    std::packaged_task<void()> flush([] { OndelCore::logging::LogStore::shared().flush(); });
+    const auto flushed = flush.get_future();
+    if (OndelCore::platform::runDetached(std::move(flush)))
+        flushed.wait_for(std::chrono::seconds(1));
 }
 
 } // namespace OndelAppSupport

@@ -16,4 +16,8 @@ std::optional<std::filesystem::path> logFolder();
 /// Threads: any. Fails: never; without a folder the log stays in memory.
 void startLogging(const OndelCore::logging::LogOutput& output = OndelCore::logging::LogOutput::shared());
 
+/// To be called once, before the process ends: the last lines also go to the file. Threads: main. Fails: a
+/// file whose disk hangs is waited for a second.
+void endLogging();
+
 } // namespace OndelAppSupport

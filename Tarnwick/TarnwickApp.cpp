@@ -1,6 +1,7 @@
 #include "Tarnwick/TarnwickApp.h"
 
 #include "OndelAppSupport/AppIdentity.h"
+#include "OndelAppSupport/LaunchLog.h"
 #include "OndelCore/platform/SessionBus.h"
 #include "OndelCore/platform/Signals.h"
 #include "OndelDrawing/ViewEngine.h"
@@ -25,9 +26,10 @@ namespace {
 /// then either.
 AnalyzerModel* modelAtExit = nullptr;
 
-void abandonRunAtExit() {
+void leaveAtExit() {
     if (modelAtExit)
         modelAtExit->abandonRun();
+    OndelAppSupport::endLogging();
 }
 
 constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
@@ -72,7 +74,7 @@ void TarnwickApp::prepare() {
 TarnwickApp::TarnwickApp(OpenRequests& requests)
     : m_requests(requests) {
     modelAtExit = m_delegate.model();
-    std::atexit(abandonRunAtExit);
+    std::atexit(leaveAtExit);
     QObject::connect(&m_delegate, &AppDelegate::terminating, &m_delegate, [this] { m_requests.close(); });
 }
 

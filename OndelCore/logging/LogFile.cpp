@@ -51,14 +51,17 @@ void makeLogFolder(const fs::path& folder) {
     mkdir(folder.c_str(), ownerOnly);
 }
 
-void rotateIfNeeded(const fs::path& file) {
+bool rotateIfNeeded(const fs::path& file) {
     std::error_code failed;
     const std::uintmax_t size = fs::file_size(file, failed);
     if (failed || size <= static_cast<std::uintmax_t>(rotationLimitBytes))
-        return;
+        return true;
     const fs::path old = file.parent_path() / "ondel.1.log";
     fs::remove(old, failed);
     fs::rename(file, old, failed);
+    if (failed)
+        fs::resize_file(file, 0, failed);
+    return !failed;
 }
 
 void appendToLogFile(const fs::path& file, std::string_view lines) {

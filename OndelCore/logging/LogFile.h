@@ -13,9 +13,10 @@ inline constexpr std::int64_t rotationLimitBytes = 1'000'000;
 /// Directory). Fails: silently.
 void makeLogFolder(const std::filesystem::path& folder);
 
-/// Renames "ondel.log" to "ondel.1.log" beside it once it is larger than the limit; an older one goes.
-/// Fails: silently.
-void rotateIfNeeded(const std::filesystem::path& file);
+/// Renames "ondel.log" to "ondel.1.log" beside it once it is larger than the limit; an older one goes. Where
+/// something stands in the way of that, the file is emptied. Fails: false when the file is too large and
+/// neither can be done: nothing more is to be appended.
+bool rotateIfNeeded(const std::filesystem::path& file);
 
 /// Appends whole lines, or makes the file with them, readable by its owner alone, and its folder if that has
 /// gone. A disk that fills up in the middle leaves none of the batch. Fails: silently.

@@ -93,7 +93,8 @@ void replaceAll(std::string& text, std::string_view piece, std::string_view repl
 
 } // namespace
 
-LogScrubber::LogScrubber(const platform::UserFacts& user) {
+LogScrubber::LogScrubber(const platform::UserFacts& user)
+    : m_net(user) {
     constexpr std::size_t tooShortToTell = 2; // "jo" stands in too many words
     for (const auto& fact : {user.shortName, user.fullName, user.hostName, user.homeFolder}) {
         std::string text = fact.value_or("");
@@ -108,7 +109,9 @@ const LogScrubber& LogScrubber::shared() {
     return scrubber;
 }
 
-int LogScrubber::scrub(std::string& line) const {
+int LogScrubber::scrub(std::string& line) const { return scrubByRules(line) + m_net.scrub(line); }
+
+int LogScrubber::scrubByRules(std::string& line) const {
     int count = 0;
     for (const std::string& literal : m_literals) {
         if (!contains(line, literal))

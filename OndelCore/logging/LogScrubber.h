@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/logging/PrivacyNet.h"
 #include "OndelCore/platform/UserFacts.h"
 
 #include <string>
@@ -17,12 +18,16 @@ public:
     /// For the user of this process, made on first use.
     static const LogScrubber& shared();
 
-    /// Scrubs the line in place. Result: the number of replacements (a literal counts once however often it
+    /// Scrubs the line in place, with the six rules that every system has and then with the net for this one.
+    /// Result: the number of replacements (a literal counts once however often it
     /// stood there). `line` must be UTF-8: bytes that are none hide what stands beside them.
     int scrub(std::string& line) const;
+    /// The user's names and the six rules alone.
+    int scrubByRules(std::string& line) const;
 
 private:
     std::vector<std::string> m_literals;
+    PrivacyNet m_net;
 };
 
 } // namespace OndelCore::logging

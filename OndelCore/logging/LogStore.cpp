@@ -171,8 +171,8 @@ void LogStore::writePending() {
     }
     if (!file || lines.empty())
         return;
-    rotateIfNeeded(*file);
-    appendToLogFile(*file, lines);
+    if (rotateIfNeeded(*file))
+        appendToLogFile(*file, lines);
 }
 
 } // namespace OndelCore::logging

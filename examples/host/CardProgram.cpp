@@ -27,12 +27,17 @@ void check(int error) {
         throw std::system_error(error, std::generic_category(), "tarnwick-host-card could not be started");
 }
 
-/// Beside this program where it was built, in a folder of its own where it was installed.
+/// Beside this program where it was built, in a folder of its own where it was installed. Fails: throws
+/// std::system_error where the system does not tell which program this is; any other place would be
+/// somebody else's.
 fs::path cardProgram() {
     std::error_code error;
-    const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
-    const fs::path built = folder / "tarnwick-host-card";
-    return fs::exists(built, error) ? built : folder.parent_path() / "libexec" / "tarnwick-host-card";
+    const fs::path own = fs::read_symlink("/proc/self/exe", error);
+    if (error || !own.is_absolute())
+        check(error ? error.value() : ENOENT);
+    const fs::path built = own.parent_path() / "tarnwick-host-card";
+    return fs::exists(built, error) ? built
+                                    : own.parent_path().parent_path() / "libexec" / "tarnwick-host-card";
 }
 
 /// Signals as a fresh program expects them, standard output into `pipe`. Fails: throws std::system_error.

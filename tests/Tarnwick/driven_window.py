@@ -10,6 +10,8 @@ import sys
 
 import driver
 
+LOG = pathlib.Path(os.environ.get("XDG_STATE_HOME", ""), "Ondel Tarnwick", "ondel.log")
+
 TESTS = ["Sequential write", "Sequential read", "Random read (4 KiB)", "Random write (4 KiB)", "File operations"]
 
 
@@ -79,6 +81,8 @@ def ends_cleanly_in_a_run(program, folder):
             status, words = way(window)
             check((status, words) == (0, ""), f"ended with {status}: {words}")
         nothing_left(folder)
+        last = LOG.read_text().splitlines()[-1]
+        check(last.endswith("  benchmark cancelled"), f"the log's last line: {last}")
 
 
 def goes_by_keyboard(program, folder):

@@ -4,6 +4,9 @@
 #include <QImage>
 
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -64,6 +67,28 @@ TEST(Card, IsDrawnAfterTheRunAndFromItsFile) {
     EXPECT_EQ(refused.errors,
               "The picture could not be drawn, or not be written to your temporary folder.\n");
     fs::remove_all(shared);
+}
+
+TEST(Card, IsDrawnByNoProgramOfTheCurrentFolder) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "hiding /proc needs root";
+    const test::TemporaryFolder folder;
+    const fs::path foreign = folder.path() / "tarnwick-host-card";
+    std::ofstream(foreign) << "#!/bin/sh\necho foreign\n";
+    fs::permissions(foreign, fs::perms::owner_all);
+    test::HostProcess process({.arguments = {"card", "some.tarnwickrun"}, .prepare = [&] {
+                                   const bool hidden =
+                                       unshare(CLONE_NEWNS) == 0 &&
+                                       mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                                       mount("none", "/proc", "tmpfs", 0, nullptr) == 0;
+                                   if (!hidden || chdir(folder.path().c_str()) != 0)
+                                       _exit(77);
+                               }});
+    const auto ended = process.wait();
+    if (ended.exitStatus == 77)
+        GTEST_SKIP() << "/proc cannot be hidden here";
+    EXPECT_EQ(std::tuple(ended.exitStatus, ended.output), std::tuple(1, ""));
+    EXPECT_EQ(ended.errors, "tarnwick-host-card could not be started: No such file or directory\n");
 }
 
 } // namespace

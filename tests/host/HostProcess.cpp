@@ -70,6 +70,8 @@ HostProcess::HostProcess(const HostSetup& setup) {
         if (!setup.terminalColumns)
             put(STDERR_FILENO, m_files.path() / "errors");
         arrange(setup.output, m_files.path() / "output");
+        if (setup.prepare)
+            setup.prepare();
         execv(TARNWICK_HOST, words.data());
         _exit(126);
     }

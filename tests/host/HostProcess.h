@@ -5,6 +5,7 @@
 #include <sys/types.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,9 @@ enum class Output { file, closed, fullDevice, brokenPipe };
 struct HostSetup {
     std::vector<std::string> arguments;
     Output output = Output::file;
-    bool ignoresInterrupt = false; ///< as a shell script starts its background jobs
-    int terminalColumns = 0;       ///< above 0: standard error is a terminal of that width
+    bool ignoresInterrupt = false;      ///< as a shell script starts its background jobs
+    std::function<void()> prepare = {}; ///< in the new process, before the program
+    int terminalColumns = 0;            ///< above 0: standard error is a terminal of that width
 };
 
 struct HostOutcome {

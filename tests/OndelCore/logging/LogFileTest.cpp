@@ -103,6 +103,20 @@ TEST(LogFile, RotatesAboveItsLimit) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 2);
 }
 
+TEST(LogFile, StaysSmallWhereItCannotRotate) {
+    const test::TemporaryFolder folder;
+    const fs::path file = folder.path() / "ondel.log", old = folder.path() / "ondel.1.log";
+    fs::create_directories(old / "somebody's");
+    const auto store = storeWritingTo(folder.path());
+    for (int i = 0; i < 3; ++i) {
+        makeFile(file, 1'000'001);
+        write(*store, "after");
+        EXPECT_LT(fs::file_size(file), 100U);
+        EXPECT_TRUE(test::contentOf(file).ends_with("  after\n"));
+    }
+    EXPECT_TRUE(fs::exists(old / "somebody's"));
+}
+
 TEST(LogFile, RotationDuringWritesLosesNothing) {
     const test::TemporaryFolder folder;
     const auto store = storeWritingTo(folder.path());

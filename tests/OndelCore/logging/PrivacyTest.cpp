@@ -1,14 +1,16 @@
 // 200 made-up lines through every kind of field that takes a text. In the corpus, ⟨…⟩ must never come out,
-// ⟦…⟧ comes out of the fields that show their text because no rule knows its shape, and ⟪…⟫ comes out of a
+// ⟦…⟧ comes out of a token because no rule knows its shape, and ⟪…⟫ comes out of a
 // name alone, as the extension. So the corpus is also the list of what the rules let through.
 
 #include "CapturedLog.h"
+#include "OndelCore/logging/LogScrubber.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <fstream>
 #include <map>
-#include <stdexcept>
+#include <tuple>
 #include <vector>
 
 using namespace OndelCore::logging;
@@ -49,25 +51,92 @@ void expectPieces(const std::string& body, const std::vector<std::string>& piece
         EXPECT_EQ(body.find(piece) != std::string::npos, present) << piece << "\n in " << body;
 }
 
-} // namespace
+struct Line {
+    std::string user;
+    std::string marked;
+};
 
-TEST(Privacy, NothingSurvivesButWhatNoRuleKnows) {
-    std::map<std::string, test::CapturedLog> logs;
-    logs.try_emplace("annika", OndelCore::platform::UserFacts{"annika", "Annika Öström", "kestrel-tower",
-                                                              "/srv/people/annika"});
-    logs.try_emplace("namesake",
-                     OndelCore::platform::UserFacts{"annika", "", "annika-thinkpad", "/home/annika"});
-    logs.try_emplace("root", OndelCore::platform::UserFacts{"root", "root", "vault-9", "/root"});
-
-    std::ifstream corpus(PRIVACY_CORPUS);
-    int count = 0;
-    for (std::string line; std::getline(corpus, line); ++count) {
+std::vector<Line> linesOf(const char* corpus) {
+    std::ifstream stream(std::string(CORPORA) + corpus);
+    std::vector<Line> lines;
+    for (std::string line; std::getline(stream, line);) {
         const auto tab = line.find('\t');
-        test::CapturedLog& captured = logs.at(line.substr(0, tab));
         std::string marked = line.substr(tab + 1);
         replaceAll(marked, "\\t", "\t");
         replaceAll(marked, "\\n", "\n");
         replaceAll(marked, "\\\\", "\\");
+        lines.push_back({line.substr(0, tab), marked});
+    }
+    return lines;
+}
+
+const std::map<std::string, OndelCore::platform::UserFacts> users{
+    {"annika", {"annika", "Annika Öström", "kestrel-tower", "/srv/people/annika"}},
+    {"namesake", {"annika", "", "annika-thinkpad", "/home/annika"}},
+    {"root", {"root", "root", "vault-9", "/root"}},
+    {"jo", {"jo", "Jo Li", "kite.corp.example", "/home/jo"}}};
+
+/// How many lines of a corpus keep something private, as a `token` or as `classified`. `told`: which.
+template <typename Scrub>
+int survivors(const char* corpus, const Scrub& scrub, bool told) {
+    int count = 0;
+    for (const auto& [user, marked] : linesOf(corpus)) {
+        bool survives = false;
+        const std::string text = unmarked(marked);
+        for (const std::string& shownAs : {"line value=" + text, "line value=\"" + text + "\""}) {
+            std::string body = shownAs;
+            scrub(users.at(user), body);
+            for (const std::string& piece : piecesBetween(marked, hidden))
+                if (body.find(piece) != std::string::npos) {
+                    survives = true;
+                    if (told)
+                        std::printf("survives: %s in %s\n", piece.c_str(), body.c_str());
+                }
+        }
+        count += survives ? 1 : 0;
+    }
+    return count;
+}
+
+} // namespace
+
+TEST(Privacy, TheNetForLinuxHoldsWhatTheRulesLetThrough) {
+    const auto byRules = [](const auto& user, std::string& line) { LogScrubber(user).scrubByRules(line); };
+    const auto byBoth = [](const auto& user, std::string& line) { LogScrubber(user).scrub(line); };
+    // The second list was written by its own, not for the net.
+    for (const auto& [corpus, least, letThrough] :
+         {std::tuple("private-linux-lines.tsv", 190U, 100), {"private-linux-lines-2.tsv", 60U, 30}}) {
+        EXPECT_GE(linesOf(corpus).size(), least);
+        EXPECT_GE(survivors(corpus, byRules, false), letThrough) << "the list proves nothing";
+        const int left = survivors(corpus, byBoth, true);
+        EXPECT_EQ(left, 0) << corpus;
+        std::printf("%s: %d of %zu lines kept something private, %d behind the net\n", corpus,
+                    survivors(corpus, byRules, false), linesOf(corpus).size(), left);
+    }
+}
+
+TEST(Privacy, HarmlessLinesStayAsTheyAre) {
+    std::ifstream corpus(std::string(CORPORA) + "harmless-lines.txt");
+    int count = 0;
+    for (std::string line; std::getline(corpus, line); ++count)
+        for (const auto& [name, user] : users) {
+            std::string byRules = line;
+            std::string byBoth = line;
+            const LogScrubber scrubber(user);
+            scrubber.scrubByRules(byRules);
+            scrubber.scrub(byBoth);
+            EXPECT_EQ(byBoth, byRules) << name;
+        }
+    EXPECT_GT(count, 100);
+}
+
+TEST(Privacy, NothingSurvivesButWhatNoRuleKnows) {
+    std::map<std::string, test::CapturedLog> logs;
+    for (const auto& [name, user] : users)
+        logs.try_emplace(name, user);
+    const auto lines = linesOf("privacy-corpus.tsv");
+    for (const auto& [user, marked] : lines) {
+        test::CapturedLog& captured = logs.at(user);
         const std::string text = unmarked(marked);
         const std::filesystem::filesystem_error thrown(text, text,
                                                        std::error_code(2, std::generic_category()));
@@ -80,9 +149,10 @@ TEST(Privacy, NothingSurvivesButWhatNoRuleKnows) {
             const std::string body = captured.takeBody();
             const bool showsText = kind < 2;
             expectPieces(body, piecesBetween(marked, hidden), false);
-            expectPieces(body, piecesBetween(marked, shown), showsText);
+            if (kind != 1) // quotes tell where a path with blanks ends
+                expectPieces(body, piecesBetween(marked, shown), showsText);
             expectPieces(body, piecesBetween(marked, extension), kind == 2);
         }
     }
-    EXPECT_EQ(count, 200);
+    EXPECT_EQ(lines.size(), 200U);
 }
