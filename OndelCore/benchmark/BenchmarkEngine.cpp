@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
 
 namespace OndelCore::benchmark {
 
@@ -37,7 +38,19 @@ QFuture<BenchmarkResult> BenchmarkEngine::run(BenchmarkPlan plan, std::filesyste
 }
 
 void BenchmarkEngine::cleanupOrphans(const std::filesystem::path& folder) {
-    WorkingFolder::removeAllIn(folder);
+    WorkingFolder::removeOrphansIn(folder);
+}
+
+std::size_t BenchmarkEngine::cleanupOrphans(const std::filesystem::path& folder,
+                                            std::chrono::milliseconds patience) {
+    constexpr std::chrono::milliseconds pause{50};
+    const auto end = std::chrono::steady_clock::now() + patience;
+    for (;;) {
+        const std::size_t inUse = WorkingFolder::removeOrphansIn(folder);
+        if (inUse == 0 || std::chrono::steady_clock::now() >= end)
+            return inUse;
+        std::this_thread::sleep_for(pause);
+    }
 }
 
 } // namespace OndelCore::benchmark

@@ -6,6 +6,8 @@
 
 #include <QFuture>
 
+#include <chrono>
+#include <cstddef>
 #include <filesystem>
 #include <stop_token>
 
@@ -23,9 +25,10 @@ public:
     /// Starts a run and returns at once.
     ///
     /// `progress` is called on the worker from inside the measured loops: its time counts against the rate,
-    /// so it must return quickly and never wait for the interface. `stop`: a request ends the run within one
-    /// system call, with `Cancelled`; a closing flush is waited for. This is the one way to end a run:
-    /// QFuture::cancel() merely drops the result of a run that goes on.
+    /// so it must return quickly and never wait for the interface. That thread may write nothing but the
+    /// run's own files, nor may threads that it starts; it ends with the run. `stop`: a request ends the run
+    /// within one system call, with `Cancelled`; a closing flush is waited for. This is the one way to end a
+    /// run: QFuture::cancel() merely drops the result of a run that goes on.
     ///
     /// Threads: any; needs no event loop. The future finishes on the worker, after the working folder is
     /// gone. Fails: the future throws BenchmarkError, Cancelled, or std::system_error when the working folder
@@ -33,9 +36,15 @@ public:
     QFuture<BenchmarkResult> run(BenchmarkPlan plan, std::filesystem::path folder, Progress progress,
                                  std::stop_token stop = {}) const;
 
-    /// Removes the working folders that killed runs left in `folder`, also that of a run going on there now.
+    /// Removes the working folders that killed runs left in `folder`. One that is in use, by a run or by
+    /// another sweep on this machine, is left alone, where the file system can lock folders.
     /// Threads: any; blocks on the file system. Fails: silently, name by name.
     static void cleanupOrphans(const std::filesystem::path& folder);
+
+    /// The same, trying again until nothing is in use there or `patience` is over. Answers how many working
+    /// folders are in use still.
+    static std::size_t cleanupOrphans(const std::filesystem::path& folder,
+                                      std::chrono::milliseconds patience);
 };
 
 } // namespace OndelCore::benchmark

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "OndelCore/benchmark/BenchmarkTest.h"
 #include "OndelCore/benchmark/Hashing.h"
 
 #include <cstdint>
 #include <optional>
+#include <system_error>
 #include <vector>
 
 namespace OndelCore::benchmark {
@@ -23,6 +25,9 @@ struct ThroughputResult {
     double duration = 0;        ///< seconds; for the write with its closing flush, which lies in no sample
     std::int64_t blockSize = 0; ///< bytes per call, as used
     std::vector<ThroughputSample> samples{}; ///< in time order
+    /// Why the closing flush of the write failed; absent when it did not. Not all that was written may be on
+    /// the medium then, and the rate is that of the system calls all the same.
+    std::optional<std::error_code> flushError{};
 
     /// Overall rate; 0 without a duration.
     double bytesPerSecond() const;
@@ -36,20 +41,21 @@ struct ThroughputResult {
     bool observedCacheCliff() const;
 
     bool operator==(const ThroughputResult&) const = default;
-    std::size_t hash() const { return hashFields(bytesProcessed, duration, blockSize, samples); }
+    std::size_t hash() const { return hashFields(bytesProcessed, duration, blockSize, samples, flushError); }
 };
 
 /// A random test as measured, one operation outstanding at a time.
 struct IOPSResult {
     std::int64_t operations = 0;
-    double duration = 0;        ///< seconds; for writes with the closing flush
-    std::int64_t blockSize = 0; ///< bytes per operation, as used
+    double duration = 0;                         ///< seconds; for writes with the closing flush
+    std::int64_t blockSize = 0;                  ///< bytes per operation, as used
+    std::optional<std::error_code> flushError{}; ///< of the closing flush of writes, as above
 
     double iops() const;           ///< operations per second; 0 without a duration
     double bytesPerSecond() const; ///< blockSize times iops
 
     bool operator==(const IOPSResult&) const = default;
-    std::size_t hash() const { return hashFields(operations, duration, blockSize); }
+    std::size_t hash() const { return hashFields(operations, duration, blockSize, flushError); }
 };
 
 /// One phase of the file-operations test.
@@ -73,6 +79,14 @@ struct FileOpsResult {
     std::size_t hash() const { return hashFields(create, stat, rename, remove); }
 };
 
+/// A flush to the medium that failed, after which the run went on.
+struct FlushFailure {
+    std::optional<BenchmarkTest> test; ///< absent: after the preparation of the data file
+    std::error_code error;
+
+    bool operator==(const FlushFailure&) const = default;
+};
+
 /// What a run brought; a test that was not asked for is absent.
 struct BenchmarkResult {
     std::optional<ThroughputResult> sequentialWrite{};
@@ -80,10 +94,16 @@ struct BenchmarkResult {
     std::optional<IOPSResult> randomRead{};
     std::optional<IOPSResult> randomWrite{};
     std::optional<FileOpsResult> fileOps{};
+    /// Why the flush after the preparation of the data file failed; absent when it did not.
+    std::optional<std::error_code> preparationFlushError{};
+
+    /// In the order of their time; mostly none.
+    std::vector<FlushFailure> flushFailures() const;
 
     bool operator==(const BenchmarkResult&) const = default;
     std::size_t hash() const {
-        return hashFields(sequentialWrite, sequentialRead, randomRead, randomWrite, fileOps);
+        return hashFields(sequentialWrite, sequentialRead, randomRead, randomWrite, fileOps,
+                          preparationFlushError);
     }
 };
 

@@ -24,7 +24,7 @@ void BlockBuffer::fillWithRandomBytes() { platform::fillRandom(m_bytes.data(), m
 
 DataFile::DataFile(const TestRun& run, int openFlags, std::string_view failurePrefix)
     : m_run(run)
-    , m_file(open(run.dataFile.c_str(), openFlags | O_CLOEXEC, S_IRUSR | S_IWUSR)) {
+    , m_file(run.dataFile.open(openFlags)) {
     if (!m_file)
         throw ioError(failurePrefix, errno);
     if (run.plan.bypassCache)

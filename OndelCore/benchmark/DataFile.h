@@ -7,8 +7,10 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
+#include <system_error>
 
 namespace OndelCore::benchmark {
 
@@ -40,7 +42,7 @@ private:
 /// that a signal broke off is made again, unless the run has been cancelled meanwhile.
 class DataFile {
 public:
-    /// `openFlags`: of open(2). Fails: throws BenchmarkError with `failurePrefix`.
+    /// `openFlags`: as DataFilePlace takes them. Fails: throws BenchmarkError with `failurePrefix`.
     DataFile(const TestRun& run, int openFlags, std::string_view failurePrefix);
 
     /// 0 when the system does not tell. Units: bytes.
@@ -60,8 +62,11 @@ public:
             [&] { return m_run.system.pwrite(m_file.get(), bytes.data(), bytes.size(), offset); });
     }
 
-    /// Returns when the medium holds the data. Fails: silently.
-    void flush() const { m_run.system.flushToMedium(m_file.get()); }
+    /// Returns when the medium holds the data, or with the reason why it may not.
+    std::optional<std::error_code> flush() const {
+        const std::error_code error = m_run.system.flushToMedium(m_file.get());
+        return error ? std::optional(error) : std::nullopt;
+    }
 
 private:
     template <class Call>

@@ -2,15 +2,16 @@
 
 #include "OndelCore/platform/Clock.h"
 #include "OndelCore/platform/Storage.h"
+#include "OndelCore/platform/WriteConfinement.h"
 
 #include <sys/types.h>
 #include <unistd.h>
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <functional>
 #include <optional>
+#include <system_error>
 
 namespace OndelCore::benchmark {
 
@@ -18,12 +19,14 @@ namespace OndelCore::benchmark {
 /// needs. The four transfers answer as the system calls of their names do.
 struct EngineEnvironment {
     std::function<std::int64_t()> monotonicNanoseconds = platform::monotonicNanoseconds;
-    std::function<std::optional<std::int64_t>(const std::filesystem::path&)> freeBytes = platform::freeBytes;
+    std::function<std::optional<std::int64_t>(int descriptor)> freeBytes = platform::freeBytes;
     std::function<ssize_t(int, void*, std::size_t)> read = ::read;
     std::function<ssize_t(int, const void*, std::size_t)> write = ::write;
     std::function<ssize_t(int, void*, std::size_t, off_t)> pread = ::pread;
     std::function<ssize_t(int, const void*, std::size_t, off_t)> pwrite = ::pwrite;
-    std::function<void(int)> flushToMedium = platform::flushToMedium;
+    std::function<std::error_code(int)> flushToMedium = platform::flushToMedium;
+    /// Called on the thread that measures, before it begins.
+    std::function<bool(int folder)> confineWrites = platform::confineWritesOfThisThread;
 };
 
 } // namespace OndelCore::benchmark

@@ -1,6 +1,7 @@
 #include "OndelCore/benchmark/FileOpsTest.h"
 
 #include "OndelCore/benchmark/SaturatingMath.h"
+#include "OndelCore/platform/OpenFolders.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -9,26 +10,37 @@
 #include <cerrno>
 #include <cstdio>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace OndelCore::benchmark {
 
 namespace {
 
-std::vector<std::string> pathsOf(const std::filesystem::path& dir, std::int64_t count) {
-    std::vector<std::string> paths;
-    paths.reserve(static_cast<std::size_t>(count));
-    for (std::int64_t i = 0; i < count; ++i)
-        paths.push_back(dir.native() + "/f" + std::to_string(i));
-    return paths;
+/// Fails: throws std::system_error.
+platform::FileDescriptor madeFolder(const FolderPlace& place) {
+    platform::FileDescriptor folder;
+    if (mkdirat(place.parent, place.name, S_IRWXU | S_IRWXG | S_IRWXO) == 0)
+        folder = platform::openInnerFolder(place.parent, place.name);
+    if (!folder)
+        throw std::system_error(errno, std::generic_category(), "mkdir");
+    return folder;
 }
 
-std::vector<std::string> renamed(const std::vector<std::string>& paths) {
-    std::vector<std::string> newPaths;
-    newPaths.reserve(paths.size());
-    for (const std::string& path : paths)
-        newPaths.push_back(path + ".r");
-    return newPaths;
+std::vector<std::string> namesOf(std::int64_t count) {
+    std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(count));
+    for (std::int64_t i = 0; i < count; ++i)
+        names.push_back("f" + std::to_string(i));
+    return names;
+}
+
+std::vector<std::string> renamed(const std::vector<std::string>& names) {
+    std::vector<std::string> newNames;
+    newNames.reserve(names.size());
+    for (const std::string& name : names)
+        newNames.push_back(name + ".r");
+    return newNames;
 }
 
 /// Counts the steps of the whole test and tells the listener of every 256th, across the phases.
@@ -66,29 +78,31 @@ private:
     double m_start;
 };
 
-void createFile(const std::string& path) {
-    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+void createFile(int folder, const std::string& name) {
+    const int file =
+        openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (file < 0)
         throw ioError("create: ", errno);
     close(file);
 }
 
-void renameFile(const std::string& from, const std::string& to) {
-    if (std::rename(from.c_str(), to.c_str()) != 0)
+void renameFile(int folder, const std::string& from, const std::string& to) {
+    if (renameat(folder, from.c_str(), folder, to.c_str()) != 0)
         throw ioError("rename: ", errno);
 }
 
-void deleteFile(const std::string& path) {
-    if (unlink(path.c_str()) != 0)
+void deleteFile(int folder, const std::string& name) {
+    if (unlinkat(folder, name.c_str(), 0) != 0)
         throw ioError("unlink: ", errno);
 }
 
 } // namespace
 
-FileOpsResult fileOps(const TestRun& run, const std::filesystem::path& dir, std::int64_t count) {
-    std::filesystem::create_directories(dir);
-    const std::vector<std::string> paths = pathsOf(dir, count);
-    std::vector<std::string> newPaths;
+FileOpsResult fileOps(const TestRun& run, const FolderPlace& dir, std::int64_t count) {
+    const platform::FileDescriptor made = madeFolder(dir);
+    const int folder = made.get();
+    const std::vector<std::string> names = namesOf(count);
+    std::vector<std::string> newNames;
     const auto timed = [&](auto phase) -> FileOpResult {
         const double start = run.now();
         phase();
@@ -98,17 +112,19 @@ FileOpsResult fileOps(const TestRun& run, const std::filesystem::path& dir, std:
     Steps steps(run, count);
     steps.report();
     FileOpsResult result;
-    result.create = timed([&] { steps.forEach(paths.size(), [&](std::size_t i) { createFile(paths[i]); }); });
+    result.create =
+        timed([&] { steps.forEach(names.size(), [&](std::size_t i) { createFile(folder, names[i]); }); });
     result.stat = timed([&] {
         struct stat facts {};
-        steps.forEach(paths.size(), [&](std::size_t i) { lstat(paths[i].c_str(), &facts); });
+        steps.forEach(names.size(),
+                      [&](std::size_t i) { fstatat(folder, names[i].c_str(), &facts, AT_SYMLINK_NOFOLLOW); });
     });
     result.rename = timed([&] {
-        newPaths = renamed(paths); // inside the phase: runs stay comparable with those of other platforms
-        steps.forEach(paths.size(), [&](std::size_t i) { renameFile(paths[i], newPaths[i]); });
+        newNames = renamed(names); // inside the phase: runs stay comparable with those of other platforms
+        steps.forEach(names.size(), [&](std::size_t i) { renameFile(folder, names[i], newNames[i]); });
     });
-    result.remove =
-        timed([&] { steps.forEach(newPaths.size(), [&](std::size_t i) { deleteFile(newPaths[i]); }); });
+    result.remove = timed(
+        [&] { steps.forEach(newNames.size(), [&](std::size_t i) { deleteFile(folder, newNames[i]); }); });
     steps.report();
     return result;
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/benchmark/RunPaths.h"
 #include "OndelCore/benchmark/TestRun.h"
 
 #include <cstdint>
-#include <filesystem>
 
 namespace OndelCore::benchmark {
 
@@ -13,8 +13,8 @@ namespace OndelCore::benchmark {
 /// metadata path as its cache shows it. `dir` stays, empty.
 ///
 /// Blocks; ends with Cancelled before the next operation once the run's flag is set. Fails: throws
-/// BenchmarkError::Io when making, renaming or deleting fails, std::filesystem::filesystem_error when `dir`
-/// cannot be made. What was made by then stays.
-FileOpsResult fileOps(const TestRun& run, const std::filesystem::path& dir, std::int64_t count);
+/// BenchmarkError::Io when making, renaming or deleting fails, std::system_error when `dir` cannot be made.
+/// What was made by then stays.
+FileOpsResult fileOps(const TestRun& run, const FolderPlace& dir, std::int64_t count);
 
 } // namespace OndelCore::benchmark

@@ -47,11 +47,10 @@ IOPSResult measure(const TestRun& run, const RandomTest& kind) {
         if (i % 512 == 0)
             report(i + 1, run.now() - start);
     }
-    if (kind.writes)
-        file.flush();
+    const auto flushError = kind.writes ? file.flush() : std::nullopt;
     const double duration = run.now() - start;
     report(count, duration);
-    return {count, duration, block};
+    return {count, duration, block, flushError};
 }
 
 } // namespace

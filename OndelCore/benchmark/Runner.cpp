@@ -11,8 +11,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <future>
 #include <new>
 #include <stdexcept>
+#include <system_error>
+#include <thread>
 
 namespace OndelCore::benchmark {
 
@@ -38,6 +41,23 @@ std::int64_t checkedTarget(const BenchmarkSize& size, std::int64_t free) {
     return target;
 }
 
+/// Runs `work` on a thread of its own, which can confine itself for good, and waits for it. `work` hears
+/// whether it got one: a machine without another thread measures all the same.
+template <class Work>
+BenchmarkResult onThreadOfItsOwn(const Work& work) {
+    std::packaged_task<BenchmarkResult(bool)> task(work);
+    auto result = task.get_future();
+    std::thread thread;
+    try {
+        thread = std::thread([&task] { task(true); });
+    } catch (const std::system_error&) {
+        task(false);
+    }
+    if (thread.joinable())
+        thread.join();
+    return result.get();
+}
+
 } // namespace
 
 BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& plan, const RunPaths& paths,
@@ -51,7 +71,7 @@ BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& pl
         if (asksFor(BenchmarkTest::sequentialWrite))
             result.sequentialWrite = sequentialWrite(run, target, paths.volumePath);
         else
-            prepareDataFile(run, target);
+            result.preparationFlushError = prepareDataFile(run, target);
     }
     if (asksFor(BenchmarkTest::sequentialRead)) {
         run.throwIfCancelled();
@@ -75,12 +95,19 @@ BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& pl
 BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan& plan,
                             const std::filesystem::path& folder, const CancelFlag& flag,
                             const ProgressListener& progress) {
-    if (!volumes::VolumeAccess::isWritable(folder))
+    const platform::FileDescriptor parent = platform::openFolder(folder);
+    const auto owner = parent ? volumes::VolumeAccess::ownerOfNewFiles(parent.get()) : std::nullopt;
+    if (!owner)
         throw BenchmarkError(BenchmarkError::NotWritable{});
-    const WorkingFolder working(folder);
-    const RunPaths paths{working.path() / "data.bin", working.path() / "fops", folder};
+    const WorkingFolder working(parent.get(), *owner);
     try {
-        return execute(system, plan, paths, flag, progress);
+        return onThreadOfItsOwn([&](bool isOwnThread) {
+            if (isOwnThread)
+                system.confineWrites(working.descriptor());
+            DataFilePlace dataFile(working.descriptor());
+            const RunPaths paths{dataFile, {working.descriptor(), "fops"}, parent.get()};
+            return execute(system, plan, paths, flag, progress);
+        });
     } catch (const std::bad_alloc&) { // a block, or a list of files, larger than the memory
         throw ioError("memory: ", ENOMEM);
     } catch (const std::length_error&) {

@@ -17,7 +17,7 @@ class ReserveWatch {
 public:
     /// `targetBytes`: what could be written when the run began. Btrfs counts new data as used only at its
     /// next commit, up to half a minute later; its live figure alone would let the reserve be written full.
-    ReserveWatch(const TestRun& run, const std::filesystem::path& volumePath, std::int64_t targetBytes)
+    ReserveWatch(const TestRun& run, int volumePath, std::int64_t targetBytes)
         : m_run(run)
         , m_volumePath(volumePath)
         , m_targetBytes(targetBytes)
@@ -33,7 +33,7 @@ public:
 
 private:
     const TestRun& m_run;
-    const std::filesystem::path& m_volumePath;
+    int m_volumePath;
     std::int64_t m_targetBytes;
     std::int64_t m_leaveFree;
     int m_turn = 0;
@@ -80,8 +80,7 @@ constexpr int createForWriting = O_WRONLY | O_CREAT | O_TRUNC;
 
 } // namespace
 
-ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes,
-                                 const std::filesystem::path& volumePath) {
+ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes, int volumePath) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.writeBlockSize);
     const bool fillDisk = run.plan.size.asFillDisk() != nullptr;
     const DataFile file(run, createForWriting, "open(write): ");
@@ -94,18 +93,20 @@ ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes,
         fillDisk ? writeUntilFull(run, file, buffer, block, {run, volumePath, targetBytes}, transferred)
                  : writeToTarget(run, file, buffer, block, targetBytes, "write: ", transferred);
     recorder.loopEnded(moved);
-    file.flush();
-    return recorder.result(moved, block);
+    const auto flushError = file.flush();
+    ThroughputResult result = recorder.result(moved, block);
+    result.flushError = flushError;
+    return result;
 }
 
-void prepareDataFile(const TestRun& run, std::int64_t targetBytes) {
+std::optional<std::error_code> prepareDataFile(const TestRun& run, std::int64_t targetBytes) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.writeBlockSize);
     const DataFile file(run, createForWriting, "open(prepare): ");
     BlockBuffer buffer(block);
     buffer.fillWithRandomBytes();
 
     writeToTarget(run, file, buffer, block, targetBytes, "write(prepare): ", [](std::int64_t) {});
-    file.flush();
+    return file.flush();
 }
 
 ThroughputResult sequentialRead(const TestRun& run) {

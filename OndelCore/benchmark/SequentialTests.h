@@ -4,7 +4,8 @@
 #include "OndelCore/benchmark/TestRun.h"
 
 #include <cstdint>
-#include <filesystem>
+#include <optional>
+#include <system_error>
 
 namespace OndelCore::benchmark {
 
@@ -15,13 +16,13 @@ namespace OndelCore::benchmark {
 // BenchmarkError::Io when a system call fails.
 
 /// Writes the data file and measures it; the closing flush counts. With a fixed size the file ends at exactly
-/// `targetBytes`. With fillDisk the live free space of `volumePath` decides, and a full disk is a normal end.
-ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes,
-                                 const std::filesystem::path& volumePath);
+/// `targetBytes`. With fillDisk the live free space decides, and a full disk is a normal end. `volumePath`:
+/// the target folder, open.
+ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes, int volumePath);
 
 /// Writes the data file without measuring it: no sample and no progress call, however long it takes. A full
-/// disk is a failure in either mode.
-void prepareDataFile(const TestRun& run, std::int64_t targetBytes);
+/// disk is a failure in either mode. Answers why the closing flush failed, if it did.
+std::optional<std::error_code> prepareDataFile(const TestRun& run, std::int64_t targetBytes);
 
 /// Reads the data file to its end and measures it.
 ThroughputResult sequentialRead(const TestRun& run);

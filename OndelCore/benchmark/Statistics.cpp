@@ -24,6 +24,20 @@ double median(std::vector<double> values, double ofNone) {
 
 } // namespace
 
+std::vector<FlushFailure> BenchmarkResult::flushFailures() const {
+    std::vector<FlushFailure> failures;
+    const auto add = [&](std::optional<BenchmarkTest> test, const std::optional<std::error_code>& error) {
+        if (error)
+            failures.push_back({test, *error});
+    };
+    add(std::nullopt, preparationFlushError);
+    if (sequentialWrite)
+        add(BenchmarkTest::sequentialWrite, sequentialWrite->flushError);
+    if (randomWrite)
+        add(BenchmarkTest::randomWrite, randomWrite->flushError);
+    return failures;
+}
+
 double ThroughputResult::bytesPerSecond() const {
     return perSecond(static_cast<double>(bytesProcessed), duration);
 }

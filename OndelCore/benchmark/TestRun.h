@@ -5,9 +5,9 @@
 #include "OndelCore/benchmark/BenchmarkProgress.h"
 #include "OndelCore/benchmark/CancelFlag.h"
 #include "OndelCore/benchmark/EngineEnvironment.h"
+#include "OndelCore/benchmark/RunPaths.h"
 
 #include <cstdint>
-#include <filesystem>
 
 namespace OndelCore::benchmark {
 
@@ -15,7 +15,7 @@ namespace OndelCore::benchmark {
 struct TestRun {
     const EngineEnvironment& system;
     const BenchmarkPlan& plan;
-    std::filesystem::path dataFile;
+    DataFilePlace& dataFile;
     const CancelFlag& flag;
     const ProgressListener& progress;
 
@@ -25,10 +25,8 @@ struct TestRun {
             throw Cancelled();
     }
 
-    /// 0 when the system does not tell. Units: bytes.
-    std::int64_t freeBytes(const std::filesystem::path& path) const {
-        return system.freeBytes(path).value_or(0);
-    }
+    /// On the file system of an open folder; 0 when the system does not tell. Units: bytes.
+    std::int64_t freeBytes(int folder) const { return system.freeBytes(folder).value_or(0); }
 
     /// Units: seconds on the uptime counter.
     double now() const { return static_cast<double>(system.monotonicNanoseconds()) / 1000000000.0; }

@@ -38,7 +38,7 @@ public:
     /// Ends the time. `blockSize`: as used.
     ThroughputResult result(std::int64_t moved, std::int64_t blockSize) {
         const double duration = m_run.now() - m_start;
-        return {moved, duration, blockSize, std::move(m_samples)};
+        return {moved, duration, blockSize, std::move(m_samples), std::nullopt};
     }
 
 private:

@@ -26,6 +26,8 @@ public:
 
     explicit operator bool() const { return m_descriptor >= 0; }
     int get() const { return m_descriptor; }
+    /// From now on somebody else closes it.
+    int release() { return std::exchange(m_descriptor, -1); }
 
 private:
     int m_descriptor = -1;

@@ -1,27 +1,37 @@
 #include "OndelCore/volumes/VolumeAccess.h"
 
 #include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/OpenFolders.h"
 #include "OndelCore/platform/Uuid.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include <string>
 
 namespace OndelCore::volumes {
 
 bool VolumeAccess::isWritable(const std::filesystem::path& folder) {
-    const auto probe = folder / (".ondel-writeprobe-" + platform::newUuid());
+    const platform::FileDescriptor opened = platform::openFolder(folder);
+    return opened && ownerOfNewFiles(opened.get());
+}
+
+std::optional<uid_t> VolumeAccess::ownerOfNewFiles(int folder) {
+    const std::string probe = ".ondel-writeprobe-" + platform::newUuid();
     constexpr char byte = 0x46;
-    ssize_t written = 0;
+    struct stat facts {};
+    bool isProved = false;
     {
         const platform::FileDescriptor file(
-            open(probe.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+            openat(folder, probe.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
         if (!file)
-            return false;
-        written = write(file.get(), &byte, 1);
+            return std::nullopt;
+        isProved = write(file.get(), &byte, 1) == 1 && fstat(file.get(), &facts) == 0;
         fsync(file.get());
     }
-    unlink(probe.c_str());
-    return written == 1;
+    unlinkat(folder, probe.c_str(), 0);
+    return isProved ? std::optional(facts.st_uid) : std::nullopt;
 }
 
 } // namespace OndelCore::volumes

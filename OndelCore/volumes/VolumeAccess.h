@@ -1,7 +1,10 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -39,6 +42,10 @@ public:
     /// and mount flags are not asked. The probe (".ondel-writeprobe-" and a UUID) is removed again. Fails:
     /// any failing step means "no".
     static bool isWritable(const std::filesystem::path& folder);
+
+    /// The same of an open folder. Answers who owns the probe, and so whatever this process makes there: on
+    /// file systems that keep no owners, or change them, not this user. Fails: absent means "no".
+    static std::optional<uid_t> ownerOfNewFiles(int folder);
 
     /// Fails: throws std::system_error if there is no such folder.
     static BookmarkData bookmark(const std::filesystem::path& folder,

@@ -7,6 +7,7 @@
 #include "TarnwickKit/model/WholeNumber.h"
 
 #include <cmath>
+#include <system_error>
 #include <utility>
 
 namespace TarnwickKit::model {
@@ -20,6 +21,14 @@ using OndelCore::logging::Log;
 using OndelCore::logging::LogField;
 
 namespace {
+
+/// The figures take a failed flush for one that was made; the log does not.
+void logFlushFailures(const BenchmarkResult& result) {
+    for (const auto& failure : result.flushFailures())
+        Log::app.error("benchmark flush failed",
+                       LogField::token("after", failure.test ? rawValue(*failure.test) : "preparation"),
+                       LogField::failure(std::system_error(failure.error)));
+}
 
 /// The engine's answer. Fails: throws what the engine threw, Cancelled if there is neither.
 BenchmarkResult answer(QFuture<BenchmarkResult> future) {
@@ -159,6 +168,7 @@ void AnalyzerModel::finish(BenchmarkResult result) {
     Log::app.notice("benchmark finished", LogField::ms("took", secondsSinceStart() * 1000),
                     LogField::int_("writeMBps", megabytes(result.sequentialWrite)),
                     LogField::int_("readMBps", megabytes(result.sequentialRead)));
+    logFlushFailures(result);
     setPhase(Phase::Done);
     setLiveTest(std::nullopt);
     refreshSMART();

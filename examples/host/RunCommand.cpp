@@ -1,6 +1,7 @@
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/model/BenchmarkTestTitle.h"
 #include "examples/host/CardProgram.h"
 #include "examples/host/Command.h"
 #include "examples/host/HandOff.h"
@@ -10,10 +11,10 @@
 #include "examples/host/ResultTable.h"
 #include "examples/host/RunOptions.h"
 #include "examples/host/RunWatch.h"
-#include "examples/host/SweptFolder.h"
 
 #include <QJsonDocument>
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <stop_token>
@@ -26,6 +27,25 @@ using TarnwickKit::model::AnalyzerModel;
 namespace examples::host {
 
 namespace {
+
+/// Removes what killed runs left in the folder. What is in use is waited for, but not long: a run that goes
+/// on there can take hours.
+void sweep(const std::filesystem::path& folder) {
+    constexpr std::chrono::seconds patience{1};
+    if (BenchmarkEngine::cleanupOrphans(folder, patience) > 0)
+        complain("Files of another run in this folder are in use and were not removed.");
+}
+
+/// One line for each flush to the medium that failed; the figures do not show it.
+void complainOfFlushes(const RunOptions& options, const BenchmarkResult& result) {
+    const std::int64_t block = BenchmarkPlan::alignedBlock(options.plan.randomBlockSize);
+    for (const FlushFailure& failure : result.flushFailures()) {
+        const QString after =
+            failure.test ? TarnwickKit::model::title(*failure.test, block) : QString("Preparation");
+        complain(after.toStdString() + ": the flush to the medium failed (" + failure.error.message() +
+                 "); not all that was written may be there.");
+    }
+}
 
 /// Runs to the end what `options` ask for. Fails: as BenchmarkEngine::run.
 BenchmarkResult measured(const RunOptions& options) {
@@ -117,7 +137,7 @@ int execute(const CommandLine& line) {
     BenchmarkResult result;
     std::optional<HandOff> handOff;
     try {
-        const SweptFolder swept(options.folder);
+        sweep(options.folder);
         if (options.handOff || options.card)
             handOff.emplace(options.folder);
         result = measured(options);
@@ -127,6 +147,7 @@ int execute(const CommandLine& line) {
         complain(AnalyzerModel::describe(error).toStdString());
         return failed;
     }
+    complainOfFlushes(options, result);
     const Files files = handOff ? written(options, *handOff, result) : Files();
     print(options.json ? json(options, result, files) : text(options, result, files));
     const bool isWhole =
@@ -146,7 +167,7 @@ whole pages of 4096. Defaults are those of the window, so that its figures and t
 blocks of the sequential tests: the window takes the "Optimal transfer" that "facts" shows.
 
 Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
-run left behind in FOLDER is removed before the start, unless somebody measures there.
+run left behind in FOLDER is removed before the start; files that are still in use stay, after a second's wait.
 
 A run file and a picture stay until your session ends, or until the system empties its temporary folder. When one
 cannot be written, the figures are printed all the same and the run counts as failed.

@@ -1,3 +1,4 @@
+#include "OndelCore/platform/OpenFolders.h"
 #include "host/HostProcess.h"
 
 #include <QJsonArray>
@@ -5,6 +6,7 @@
 #include <QJsonObject>
 
 #include <gtest/gtest.h>
+#include <sys/file.h>
 
 #include <algorithm>
 #include <csignal>
@@ -197,6 +199,23 @@ TEST_F(Run, ARunGoingOnInTheSameFolderIsLeftAlone) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1);
     first.signal(SIGTERM);
     EXPECT_EQ(first.wait().exitStatus, 130);
+    EXPECT_TRUE(folderIsEmpty());
+}
+
+TEST_F(Run, AForeignLockKeepsNobodyWaiting) {
+    const std::vector<std::string> shortRun{"run", "--tests", "fileOps", "--file-ops", "1", folder};
+    const fs::path left = folder / ".ondel-analyzer-OLD";
+    fs::create_directory(left);
+    for (const fs::path& locked : {left, folder}) {
+        const auto held = OndelCore::platform::openFolder(locked);
+        ASSERT_EQ(flock(held.get(), LOCK_EX), 0);
+        const auto outcome = runHost(shortRun);
+        EXPECT_EQ(outcome.exitStatus, 0);
+        EXPECT_EQ(outcome.errors,
+                  locked == left ? "Files of another run in this folder are in use and were not removed.\n"
+                                 : "");
+        EXPECT_EQ(fs::exists(left), locked == left);
+    }
     EXPECT_TRUE(folderIsEmpty());
 }
 

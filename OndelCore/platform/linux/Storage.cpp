@@ -3,13 +3,14 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <limits>
 
 namespace OndelCore::platform {
 
-std::optional<std::int64_t> freeBytes(const std::filesystem::path& path) {
+std::optional<std::int64_t> freeBytes(int descriptor) {
     struct statvfs facts {};
-    if (statvfs(path.c_str(), &facts) != 0)
+    if (fstatvfs(descriptor, &facts) != 0)
         return std::nullopt;
     // Linux counts in fragments; f_bsize is larger on some FUSE and network file systems.
     std::int64_t bytes = 0;
@@ -19,6 +20,11 @@ std::optional<std::int64_t> freeBytes(const std::filesystem::path& path) {
 }
 
 // fsync(2) on Linux sends the drive's cache flush after the data.
-void flushToMedium(int descriptor) { fsync(descriptor); }
+std::error_code flushToMedium(int descriptor) {
+    while (fsync(descriptor) != 0)
+        if (errno != EINTR)
+            return {errno, std::generic_category()};
+    return {};
+}
 
 } // namespace OndelCore::platform

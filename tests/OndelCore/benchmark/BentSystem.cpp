@@ -39,7 +39,11 @@ BentSystem::BentSystem() {
         note("pwrite ", std::to_string(size), " @ ", std::to_string(offset));
         return ::pwrite(file, bytes, size, offset);
     };
-    flushToMedium = [note](int) { note("flush"); };
+    flushToMedium = [note](int) {
+        note("flush");
+        return std::error_code();
+    };
+    confineWrites = [](int) { return false; }; // so that a test can do its worst from within the run
 }
 
 BenchmarkResult BentSystem::run(const BenchmarkPlan& plan, const std::filesystem::path& folder) {

@@ -37,6 +37,11 @@ inline std::size_t entriesIn(const std::filesystem::path& folder) {
 
 inline std::size_t openDescriptors() { return entriesIn("/proc/self/fd"); }
 
+/// Where many short runs cost little: each of them flushes a probe.
+inline std::filesystem::path inMemory() {
+    return std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : "";
+}
+
 /// A plan of small numbers: these tests alone, blocks of one page, no cache bypass, a sample per transfer.
 OndelCore::benchmark::BenchmarkPlan smallPlan(std::set<OndelCore::benchmark::BenchmarkTest> tests,
                                               OndelCore::benchmark::BenchmarkSize size);

@@ -3,18 +3,19 @@
 #include "BentSystem.h"
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/OpenFolders.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <new>
+#include <thread>
 
 using namespace OndelCore::benchmark;
 using test::BentSystem;
@@ -87,7 +88,9 @@ TEST_F(Hardship, AFolderThatVanishesIsNoticedAtTheNextName) {
     const auto beforeFirstOpen = [&](BentSystem& bent) {
         bent.freeBytes = [&](const auto&) { return vanish(), std::int64_t{1} << 40; };
     };
-    const auto afterTheFile = [&](BentSystem& bent) { bent.flushToMedium = [&](int) { vanish(); }; };
+    const auto afterTheFile = [&](BentSystem& bent) {
+        bent.flushToMedium = [&](int) { return vanish(), std::error_code(); };
+    };
     const auto atFileOp = [&](std::int64_t steps) {
         return [&, steps](BentSystem& bent) {
             bent.onProgress = [&, steps](const auto& now) {
@@ -210,12 +213,55 @@ TEST_F(Hardship, AKilledRunIsSweptAway) {
     BenchmarkEngine::cleanupOrphans(folder.path() / "missing");
 }
 
-TEST_F(Hardship, ARunTellsThoseWhoSweepThatItGoesOn) {
-    const OndelCore::platform::FileDescriptor other(open(folder.path().c_str(), O_RDONLY | O_DIRECTORY));
-    const auto mayBeSwept = [&] { return flock(other.get(), LOCK_EX | LOCK_NB) == 0; };
-    system.onProgress = [&](const auto&) { EXPECT_FALSE(mayBeSwept()); };
-    system.run(smallPlan({fileOps}, BenchmarkSize::fixed(0)), folder.path());
-    EXPECT_TRUE(mayBeSwept());
+TEST_F(Hardship, ASweepLeavesAFolderInUseAlone) {
+    std::size_t inUse = 0;
+    system.onProgress = [&](const auto&) {
+        BenchmarkEngine::cleanupOrphans(folder.path());
+        inUse = BenchmarkEngine::cleanupOrphans(folder.path(), std::chrono::milliseconds(0));
+    };
+    EXPECT_EQ(system.failureOf(smallPlan(everyTest, BenchmarkSize::fixed(65536)), folder.path()), "");
+    EXPECT_EQ(inUse, 1U);
+
+    const fs::path left = folder.path() / ".ondel-analyzer-OLD";
+    fs::create_directory(left);
+    {
+        const auto held = OndelCore::platform::openFolder(left);
+        ASSERT_EQ(flock(held.get(), LOCK_EX), 0);
+        BenchmarkEngine::cleanupOrphans(folder.path());
+        EXPECT_TRUE(fs::exists(left));
+    }
+    EXPECT_EQ(BenchmarkEngine::cleanupOrphans(folder.path(), std::chrono::milliseconds(0)), 0U);
+}
+
+TEST_F(Hardship, ASweepBesideTheStartOfARunDoesNoHarm) {
+    const test::TemporaryFolder busy(test::inMemory());
+    std::atomic<bool> isOver = false;
+    std::thread sweeper([&] {
+        while (!isOver)
+            BenchmarkEngine::cleanupOrphans(busy.path());
+    });
+    std::set<std::string> failures;
+    for (int run = 0; run < 100; ++run)
+        failures.insert(system.failureOf({.tests = {}}, busy.path()));
+    isOver = true;
+    sweeper.join();
+    EXPECT_EQ(failures, std::set<std::string>{""});
+}
+
+TEST_F(Hardship, AFailedFlushIsPartOfTheResult) {
+    const std::error_code lost(EIO, std::generic_category()), quota(EDQUOT, std::generic_category());
+    system.flushToMedium = [&, calls = 0](int) mutable { return calls++ == 0 ? quota : lost; };
+    const auto plan = smallPlan({sequentialWrite, randomWrite}, BenchmarkSize::fixed(8192));
+    const BenchmarkResult result = system.run(plan, folder.path());
+    EXPECT_EQ(result.sequentialWrite->bytesProcessed, 8192);
+    EXPECT_EQ(result.flushFailures(),
+              (std::vector<FlushFailure>{{sequentialWrite, quota}, {randomWrite, lost}}));
+    EXPECT_EQ(
+        system.run(smallPlan({sequentialRead}, BenchmarkSize::fixed(8192)), folder.path()).flushFailures(),
+        (std::vector<FlushFailure>{{std::nullopt, lost}}));
+    system.flushToMedium = OndelCore::platform::flushToMedium;
+    EXPECT_TRUE(system.run(plan, folder.path()).flushFailures().empty());
+    EXPECT_EQ(OndelCore::platform::flushToMedium(-1).value(), EBADF);
 }
 
 TEST_F(Hardship, NothingIsAllocatedWhileMeasuring) {

@@ -72,6 +72,7 @@ TEST_F(AnalyzerModelRuns, RecordsAFinishedRun) {
     volume.available = 1; // the record tells what was known when the run began
     BenchmarkResult result;
     result.sequentialWrite = ThroughputResult{1000, 1, 4096, {{1, 1234567890}}};
+    result.sequentialWrite->flushError = std::make_error_code(std::errc::io_error);
     engine.last().finish(result);
     turnUntilEnded(model);
 
@@ -88,7 +89,9 @@ TEST_F(AnalyzerModelRuns, RecordsAFinishedRun) {
     EXPECT_EQ(logged(),
               QStringList({"notice  app  benchmark started fs=ext4 connection=External tests=5 "
                            "fillDisk=false writeBlock=1048576 bypassCache=true",
-                           "notice  app  benchmark finished took=1000.0ms writeMBps=1234 readMBps=0"}));
+                           "notice  app  benchmark finished took=1000.0ms writeMBps=1234 readMBps=0",
+                           "error  app  benchmark flush failed after=sequentialWrite "
+                           "error=\"system_error posix=5 (Input/output error)\""}));
     complete();
     ASSERT_EQ(model.previousRuns().size(), 1u);
     EXPECT_EQ(model.previousRuns().front().freeBytes, 1000);
