@@ -121,20 +121,60 @@ void addErrors(const OndelSMART& record, Rows& rows) {
     rows.count(record.has_nvme_counters, "Error log entries", record.error_log_entries);
 }
 
+/// Adds one disk's verdict and rows to those of all.
+void addVerdict(DiskSMART one, const SmartReading& reading, bool isAlone, DiskSMART& all) {
+    const bool isFailing = one.status == DiskSMART::Status::failing;
+    if (isFailing || all.status == DiskSMART::Status::notSupported)
+        all.status = one.status;
+    if (all.kind.find(one.kind) == std::string::npos)
+        all.kind += (all.kind.empty() ? "" : ", ") + one.kind;
+    const std::string prefix = isAlone ? "" : reading.disk + " · ";
+    if (!isAlone)
+        all.attributes.push_back({prefix + "Status", isFailing ? "Failing" : "Verified", isFailing});
+    for (Attribute& row : one.attributes)
+        all.attributes.push_back({prefix + row.label, std::move(row.value), row.warning});
+}
+
+/// Puts the share of the disks that answered in front of all rows, and tells it in words.
+std::string addCount(std::size_t answered, std::size_t disks, DiskSMART& all) {
+    std::string count = std::to_string(answered) + " of " + std::to_string(disks) + " disks answered";
+    all.attributes.insert(all.attributes.begin(), {"Disks", count, false});
+    return count;
+}
+
 } // namespace
 
 DiskHealth::Reading DiskHealth::readInDetail(const std::filesystem::path& mountPath) {
     const std::optional<std::string> name = bsdName(mountPath);
     if (!name)
-        return {.smart = std::nullopt, .record = {}, .source = "no device is behind this path"};
-    SmartReading reading = readSmart(*name);
-    return {.smart = reading.record.available ? smart(reading.record) : DiskSMART{},
-            .record = reading.record,
-            .source = std::move(reading.source)};
+        return {.smart = std::nullopt, .disks = {}, .source = "no device is behind this path"};
+    SmartReadings readings = readSmart(*name);
+    DiskSMART health = smart(readings);
+    return {
+        .smart = std::move(health), .disks = std::move(readings.disks), .source = std::move(readings.source)};
 }
 
 std::optional<DiskSMART> DiskHealth::read(const std::filesystem::path& mountPath) {
     return readInDetail(mountPath).smart;
+}
+
+DiskSMART DiskHealth::smart(const SmartReadings& readings) {
+    DiskSMART all;
+    std::size_t answered = 0;
+    std::string silent;
+    for (const SmartReading& reading : readings.disks) {
+        if (reading.record.available) {
+            ++answered;
+            addVerdict(smart(reading.record), reading, readings.disks.size() == 1, all);
+        } else {
+            silent += (silent.empty() ? "" : "; ") + reading.source;
+        }
+    }
+    if (answered == 0)
+        all.note = readings.source;
+    else if (answered < readings.disks.size())
+        all.note = addCount(answered, readings.disks.size(), all) + ": " + silent;
+    return all;
 }
 
 DiskSMART DiskHealth::smart(const OndelSMART& record) {

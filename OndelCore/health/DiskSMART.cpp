@@ -23,5 +23,6 @@ std::size_t std::hash<DiskSMART>::operator()(const DiskSMART& smart) const noexc
     mix(seed, std::hash<std::string>{}(smart.kind));
     for (const DiskSMART::Attribute& attribute : smart.attributes)
         mix(seed, std::hash<DiskSMART::Attribute>{}(attribute));
+    mix(seed, std::hash<std::string>{}(smart.note));
     return seed;
 }

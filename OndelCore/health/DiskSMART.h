@@ -21,8 +21,11 @@ struct DiskSMART {
     };
 
     Status status = Status::notSupported;
-    std::string kind;                  ///< "NVMe" or "ATA"; empty when not supported
+    /// "NVMe" or "ATA", of several disks each once ("NVMe, ATA"); empty when not supported.
+    std::string kind;
     std::vector<Attribute> attributes; ///< in the order to show them
+    /// One line of plain text: why nothing, or not every disk, could be read. Empty: all is there.
+    std::string note{};
 
     bool isSupported() const { return status != Status::notSupported; }
 

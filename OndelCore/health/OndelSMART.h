@@ -74,15 +74,14 @@ struct OndelSMART {
 };
 static_assert(std::is_standard_layout_v<OndelSMART> && std::is_trivially_copyable_v<OndelSMART>);
 
-/// Asks the drive behind a block device for its health and fills `record`, whatever it held before.
+/// Asks the drives behind a block device for their health and fills `record`, whatever it held before.
 ///
 /// `deviceName`: the device without "/dev/", NUL-terminated ("nvme0n1p2", "mapper/vault"); its whole disks
-/// are found from there and the first that answers counts. `record` belongs to the caller. The result is 0 in
-/// every case: `available` tells.
+/// are found from there. Of several the first that reports a failing condition counts, else the first that
+/// answers. `record` belongs to the caller. The result is 0 in every case: `available` tells.
 ///
 /// Only looks: no question to the user, nothing switched on, no sleeping disk woken.
-/// Threads: any, several at once; blocks on the drive (each command at most 20 s, each call to a service 5
-/// s). Fails: `available` stays 0.
+/// Threads: any, several at once; blocks on the drives, for a minute at most. Fails: `available` stays 0.
 extern "C" std::int32_t ondel_read_smart(const char* deviceName, OndelSMART* record);
 
 } // namespace OndelCore::health

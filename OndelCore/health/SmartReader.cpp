@@ -82,14 +82,22 @@ OndelSMART recordOf(const platform::SmartAnswer& answer) {
     return record;
 }
 
-SmartReading readSmart(const std::string& deviceName, const platform::SmartSources& sources) {
-    const platform::SmartAnswer answer = platform::smartOfDevice(deviceName, sources);
-    return {recordOf(answer), answer.source};
+SmartReadings readSmart(const std::string& deviceName, const platform::SmartSources& sources) {
+    const platform::DiskAnswers answers = platform::smartOfDevice(deviceName, sources);
+    SmartReadings readings{.disks = {}, .source = answers.obstacle};
+    for (const auto& [disk, answer] : answers.disks) {
+        readings.disks.push_back({.disk = disk, .record = recordOf(answer), .source = answer.source});
+        readings.source += (readings.source.empty() ? "" : "; ") + answer.source;
+    }
+    return readings;
 }
 
 std::int32_t ondel_read_smart(const char* deviceName, OndelSMART* record) {
     assert(deviceName && record);
-    *record = readSmart(deviceName).record;
+    *record = {};
+    for (const SmartReading& reading : readSmart(deviceName).disks)
+        if (!record->available || (!record->failing && reading.record.failing))
+            *record = reading.record;
     return 0;
 }
 

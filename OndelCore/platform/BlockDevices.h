@@ -20,15 +20,20 @@ struct BlockDevice {
     std::string name;             ///< below "/dev": "sda1", "nvme0n1", "dm-0", "cciss/c0d0"
     std::filesystem::path folder; ///< its folder in the device tree, without symbolic links
     bool isPartition = false;
+    /// The dm-multipath layer that reaches one drive through this disk and others; 0: this is the only way.
+    dev_t pathOf = 0;
 
     std::filesystem::path node() const { return std::filesystem::path("/dev") / name; }
 };
 
-/// What lies under a block device: through partitions, device mapper (LUKS, LVM), MD and the like.
+/// What lies under a block device: through partitions, device mapper (LUKS, LVM), MD, bcache and the like,
+/// and through a loop device to what its file lies on.
 struct BlockStack {
-    std::vector<BlockDevice> wholeDisks; ///< each once, in the device tree's order of names
-    bool isEncrypted = false;            ///< a dm-crypt layer is among those in between
-    bool isSealed = false;               ///< a dm-verity layer is: every block is checked against a hash tree
+    /// Each once, in the device tree's order of names. A loop device whose file lies on no disk (a memory or
+    /// network file system) is one itself.
+    std::vector<BlockDevice> wholeDisks;
+    bool isEncrypted = false; ///< a dm-crypt layer is among those in between
+    bool isSealed = false;    ///< a dm-verity layer is: every block is checked against a hash tree
 };
 
 /// Threads: any. Fails: absent if the device tree has no block device of this number.
@@ -43,8 +48,15 @@ BlockDevice wholeDevice(const BlockDevice& device);
 /// Whether the kernel itself has put the disk to sleep, so that opening it would wake it. Threads: any.
 bool isSuspended(const BlockDevice& wholeDisk);
 
-/// Threads: any. Fails: an unknown number, or one that goes away meanwhile, has no whole disks.
-BlockStack blockStack(dev_t number, const std::filesystem::path& sysfs = "/sys");
+/// Threads: any; the file of a loop device is not touched. Fails: an unknown number, or one that goes away
+/// meanwhile, has no whole disks.
+BlockStack blockStack(dev_t number, const SystemSources& sources = {});
+
+/// The same for all devices of the file system that is mounted from `source`, a path below "/dev" or several
+/// joined by ':' ("/dev/sda1:/dev/sdb1"). `devices`: the folder that has the nodes. Fails: absent if `source`
+/// names no block device.
+std::optional<BlockStack> blockStack(std::string_view source, const std::filesystem::path& devices,
+                                     const SystemSources& sources);
 
 /// What lies under a mounted file system, under all the devices of one that has several (Btrfs, a ZFS pool).
 /// Threads: any. Fails: no whole disks for network and memory file systems.

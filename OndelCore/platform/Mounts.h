@@ -40,6 +40,10 @@ std::optional<Mount> mountOfPath(const std::filesystem::path& path);
 /// The same, looked up in another table.
 std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std::filesystem::path& path);
 
+/// The mount that holds the absolute path `resolved`, by the table's text alone: nothing on the path is
+/// touched, so that a dead server cannot hold up the answer. Fails: absent if no mount point is above it.
+std::optional<Mount> mountAbove(const std::filesystem::path& table, const std::filesystem::path& resolved);
+
 /// Whether `option` ("ro", "noload") is one of a comma-separated list.
 bool hasMountOption(std::string_view options, std::string_view option);
 

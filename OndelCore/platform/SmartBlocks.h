@@ -7,9 +7,11 @@
 #include <cstdint>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace OndelCore::platform {
 
@@ -46,8 +48,8 @@ struct NvmeSmartReport {
     std::optional<std::uint64_t> bytesRead;
 };
 
-/// A system service spoke for an ATA drive. The figures stand under their attribute numbers in the units of
-/// the drive's raw values: counts, hours (9), degrees Celsius (194).
+/// A system service spoke for an ATA drive. The figures stand under their attribute numbers as the drive's
+/// raw values do, makers' packing of other figures included.
 struct AtaSmartReport {
     bool thresholdExceeded = false;
     std::map<std::uint8_t, std::uint64_t> attributes;
@@ -62,24 +64,40 @@ struct SmartAnswer {
     bool isEmpty() const { return std::holds_alternative<std::monostate>(blocks); }
 };
 
+/// What one whole disk answered.
+struct DiskAnswer {
+    std::string disk; ///< its name below "/dev"
+    SmartAnswer answer;
+};
+
+struct DiskAnswers {
+    std::vector<DiskAnswer> disks; ///< in the device tree's order of names
+    std::string obstacle;          ///< without disks: why there are none, in one line
+};
+
 /// Where the answers come from: the real system, unless a caller hands in something else.
 struct SmartSources {
     SystemSources system;
     std::filesystem::path devices = "/dev";
-    /// Carries the commands to the drives; null: the kernel. Owner: the caller.
-    DriveCalls* calls = nullptr;
+    /// Carries the commands to the drives; null: the kernel. Threads: used by one thread for each disk.
+    std::shared_ptr<DriveCalls> calls;
     /// Address of the bus of the second reader; empty: the system bus.
     std::string serviceBus;
     std::chrono::milliseconds serviceLimit{5000}; ///< for each call to the second reader
+    /// For all disks together, which are asked at once. A drive that is busy with a bad sector needs many
+    /// seconds for each of its three commands.
+    std::chrono::milliseconds patience{60000};
 };
 
-/// What the drive behind a block device says of its health. Of several drives the first that answers counts.
+/// What the drives behind a block device say of their health: every whole disk under it is asked, under all
+/// devices of a Btrfs that it belongs to, and a drive that several paths lead to is asked by the first that
+/// works.
 ///
-/// `deviceName`: the device below "/dev" ("sda1", "mapper/vault"). The drive is asked itself where this
-/// process may; otherwise a system service that may is asked for what it knows. Nobody is prompted, nothing
-/// is switched on in the drive, and a drive that sleeps is left asleep.
-/// Threads: any; blocks. A command to a drive takes at most 20 s, a call to the service `serviceLimit`.
-/// Fails: an empty answer with the reason in `source`.
-SmartAnswer smartOfDevice(const std::string& deviceName, const SmartSources& sources = {});
+/// `deviceName`: the device below "/dev" ("sda1", "mapper/vault", "sda1:/dev/sdb1"). A drive is asked itself
+/// where this process may; otherwise a system service that may is asked for what it knows. Nobody is
+/// prompted, nothing is switched on in a drive, and a drive that sleeps is left asleep. Threads: any; blocks
+/// for at most `patience`. A drive that hangs keeps a thread of its own for as long as it does. Fails: an
+/// empty answer with the reason in `source`.
+DiskAnswers smartOfDevice(const std::string& deviceName, const SmartSources& sources = {});
 
 } // namespace OndelCore::platform

@@ -42,6 +42,15 @@ QJsonObject recordJson(const OndelSMART& record) {
     return object;
 }
 
+QJsonArray disksJson(const std::vector<SmartReading>& disks) {
+    QJsonArray array;
+    for (const SmartReading& disk : disks)
+        array.append(QJsonObject{{"disk", QString::fromStdString(disk.disk)},
+                                 {"source", QString::fromStdString(disk.source)},
+                                 {"record", recordJson(disk.record)}});
+    return array;
+}
+
 } // namespace
 
 QJsonObject healthJson(const DiskHealth::Reading& reading) {
@@ -56,7 +65,10 @@ QJsonObject healthJson(const DiskHealth::Reading& reading) {
     object.insert("status", statusName(reading.smart->status));
     object.insert("kind", QString::fromStdString(reading.smart->kind));
     object.insert("attributes", attributes);
-    object.insert("record", recordJson(reading.record));
+    if (reading.disks.size() == 1)
+        object.insert("record", recordJson(reading.disks.front().record));
+    else
+        object.insert("disks", disksJson(reading.disks));
     return object;
 }
 

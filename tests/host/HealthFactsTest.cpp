@@ -11,6 +11,7 @@
 
 using OndelCore::health::DiskHealth;
 using OndelCore::health::OndelSMART;
+using OndelCore::health::SmartReading;
 
 namespace {
 
@@ -22,8 +23,9 @@ TEST(HealthFacts, HoldEveryFieldOfTheRecord) {
     record.media_errors = std::numeric_limits<std::uint64_t>::max();
     record.unsafe_shutdowns = std::numeric_limits<std::int64_t>::max();
     record.data_read_tb = 0.5;
+    const SmartReading disk{.disk = "nvme0n1", .record = record, .source = "NVMe health log of nvme0n1"};
     const QJsonObject json = examples::host::healthJson(
-        {.smart = DiskHealth::smart(record), .record = record, .source = "NVMe health log of nvme0n1"});
+        {.smart = DiskHealth::smart(record), .disks = {disk}, .source = disk.source});
 
     EXPECT_EQ(json["status"], "failing");
     EXPECT_EQ(json["source"], "NVMe health log of nvme0n1");
@@ -35,6 +37,13 @@ TEST(HealthFacts, HoldEveryFieldOfTheRecord) {
     EXPECT_EQ(fields["data_read_tb"], 0.5);
     EXPECT_EQ(fields["unsafe_shutdowns"].toInteger(), std::numeric_limits<std::int64_t>::max());
     EXPECT_EQ(fields["media_errors"].toDouble(), 18446744073709551615.0);
+
+    const QJsonObject mirror =
+        examples::host::healthJson({.smart = DiskHealth::smart(record), .disks = {disk, disk}, .source = {}});
+    EXPECT_FALSE(mirror.contains("record"));
+    EXPECT_EQ(mirror["disks"][1]["disk"], "nvme0n1");
+    EXPECT_EQ(mirror["disks"][1]["source"], "NVMe health log of nvme0n1");
+    EXPECT_EQ(mirror["disks"][1]["record"], fields);
 }
 
 TEST(HealthFacts, SayInOneLineWhyThereAreNone) {

@@ -51,6 +51,13 @@ void FakeMachine::stack(const std::string& upper, const std::string& lower) {
     fs::create_symlink(devices / lower, slaves / fs::path(lower).filename());
 }
 
+void FakeMachine::joinBtrfs(const std::string& identifier, const std::vector<std::string>& devices) {
+    const fs::path links = m_folder.path() / "sys/fs/btrfs" / identifier / "devices";
+    fs::create_directories(links);
+    for (const std::string& place : devices)
+        fs::create_symlink(m_folder.path() / "sys/devices" / place, links / fs::path(place).filename());
+}
+
 void FakeMachine::setDatabase(dev_t number, OndelCore::platform::DeviceProperties properties) {
     m_database[number] = std::move(properties);
 }

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace test {
 
@@ -27,6 +28,8 @@ public:
     void setAttributes(const std::string& place, const Attributes& attributes);
     /// `upper` is made of `lower`, both as given to addBlockDevice.
     void stack(const std::string& upper, const std::string& lower);
+    /// A Btrfs in use on these devices, as given to addBlockDevice.
+    void joinBtrfs(const std::string& identifier, const std::vector<std::string>& devices);
     void setDatabase(dev_t number, OndelCore::platform::DeviceProperties properties);
 
     struct Row {

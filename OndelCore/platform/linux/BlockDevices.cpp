@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 #include <fstream>
+#include <iterator>
 #include <set>
 #include <system_error>
 
@@ -69,27 +70,6 @@ void noteLayer(const fs::path& folder, BlockStack& stack) {
         stack.isEncrypted = true;
 }
 
-void descend(const BlockDevice& device, BlockStack& stack, std::set<dev_t>& seen) {
-    const BlockDevice whole = wholeDevice(device);
-    if (!seen.insert(whole.number).second)
-        return;
-    noteLayer(whole.folder, stack);
-    const auto below = sortedEntries(whole.folder / "slaves");
-    if (below.empty())
-        stack.wholeDisks.push_back(whole);
-    for (const fs::path& link : below)
-        if (const auto next = deviceAt(link))
-            descend(*next, stack, seen);
-}
-
-BlockStack stackUnder(const std::vector<BlockDevice>& devices) {
-    BlockStack stack;
-    std::set<dev_t> seen;
-    for (const BlockDevice& device : devices)
-        descend(device, stack, seen);
-    return stack;
-}
-
 /// The kernel lists the devices of each Btrfs that is in use.
 std::vector<BlockDevice> devicesOfBtrfs(const BlockDevice& mounted, const fs::path& sysfs) {
     for (const fs::path& fileSystem : sortedEntries(sysfs / "fs" / "btrfs")) {
@@ -124,6 +104,95 @@ std::optional<dev_t> blockNumberOfNode(const fs::path& node) {
     if (stat(node.c_str(), &facts) != 0 || !S_ISBLK(facts.st_mode))
         return std::nullopt;
     return facts.st_rdev;
+}
+
+/// Device mapper's own names stand below "/dev/mapper", where a sandbox need not have them.
+std::optional<BlockDevice> mappingNamed(std::string_view name, const fs::path& sysfs) {
+    constexpr std::string_view mappings = "mapper/";
+    if (!name.starts_with(mappings))
+        return std::nullopt;
+    for (const fs::path& link : sortedEntries(sysfs / "class" / "block"))
+        if (readAttribute(link / "dm" / "name") == name.substr(mappings.size()))
+            return deviceAt(link);
+    return std::nullopt;
+}
+
+/// The device tree knows the kernel's names, the nodes below "/dev" all others.
+std::optional<BlockDevice> deviceBelow(const fs::path& devices, const std::string& name,
+                                       const fs::path& sysfs) {
+    if (auto device = blockDeviceNamed(name, sysfs))
+        return device;
+    if (const auto number = blockNumberOfNode(devices / name))
+        return blockDevice(*number, sysfs);
+    return mappingNamed(name, sysfs);
+}
+
+/// Several devices of one file system stand in the mount table as "/dev/sda1:/dev/sdb1".
+std::vector<BlockDevice> devicesNamed(std::string_view source, const fs::path& devices,
+                                      const fs::path& sysfs) {
+    constexpr std::string_view prefix = "/dev/";
+    std::vector<BlockDevice> found;
+    while (source.starts_with(prefix)) {
+        const auto end = std::min(source.find(":/dev/"), source.size());
+        const std::string name(source.substr(0, end).substr(prefix.size()));
+        if (auto device = deviceBelow(devices, name, sysfs))
+            found.push_back(std::move(*device));
+        source.remove_prefix(std::min(end + 1, source.size()));
+    }
+    return found;
+}
+
+std::vector<BlockDevice> devicesOfMount(const Mount& mount, const SystemSources& sources) {
+    if (mount.type == "zfs")
+        return devicesOfZfsPool(mount.source.substr(0, mount.source.find('/')), sources);
+    std::vector<BlockDevice> devices;
+    if (major(mount.device) == 0)
+        devices = devicesNamed(mount.source, "/dev", sources.sysfs);
+    else if (auto device = blockDevice(mount.device, sources.sysfs))
+        devices.push_back(std::move(*device));
+    if (mount.type == "btrfs" && !devices.empty())
+        return devicesOfBtrfs(devices.front(), sources.sysfs);
+    return devices;
+}
+
+/// What a device is made of; absent: of nothing else, it is a whole disk.
+std::optional<std::vector<BlockDevice>> layerBelow(const BlockDevice& whole, const SystemSources& sources) {
+    std::vector<BlockDevice> devices;
+    if (const auto file = readAttribute(whole.folder / "loop" / "backing_file")) {
+        if (const auto mount = mountAbove(sources.mountTable, *file))
+            devices = devicesOfMount(*mount, sources);
+        return devices.empty() ? std::nullopt : std::optional(devices);
+    }
+    const std::vector<fs::path> links = sortedEntries(whole.folder / "slaves");
+    if (links.empty())
+        return std::nullopt;
+    const bool isMultipath = readAttribute(whole.folder / "dm" / "uuid").value_or("").starts_with("mpath-");
+    for (const fs::path& link : links)
+        if (auto device = deviceAt(link)) {
+            device->pathOf = isMultipath ? whole.number : whole.pathOf;
+            devices.push_back(std::move(*device));
+        }
+    return devices;
+}
+
+/// Depth first, so that the disks come in the order in which the layers name them. Every device is looked at
+/// once, so that the walk ends in a tree with a cycle too.
+BlockStack stackUnder(std::vector<BlockDevice> waiting, const SystemSources& sources) {
+    BlockStack stack;
+    std::set<dev_t> seen;
+    std::ranges::reverse(waiting);
+    while (!waiting.empty()) {
+        BlockDevice whole = wholeDevice(waiting.back());
+        waiting.pop_back();
+        if (!seen.insert(whole.number).second)
+            continue;
+        noteLayer(whole.folder, stack);
+        if (auto below = layerBelow(whole, sources))
+            waiting.insert(waiting.end(), below->rbegin(), below->rend());
+        else
+            stack.wholeDisks.push_back(std::move(whole));
+    }
+    return stack;
 }
 
 } // namespace
@@ -170,26 +239,30 @@ std::optional<BlockDevice> blockDeviceNamed(std::string name, const fs::path& sy
 BlockDevice wholeDevice(const BlockDevice& device) {
     if (!device.isPartition)
         return device;
-    return deviceAt(device.folder.parent_path()).value_or(device);
+    BlockDevice whole = deviceAt(device.folder.parent_path()).value_or(device);
+    whole.pathOf = device.pathOf;
+    return whole;
 }
 
 bool isSuspended(const BlockDevice& wholeDisk) {
     return readAttribute(wholeDisk.folder / "device/power/runtime_status") == "suspended";
 }
 
-BlockStack blockStack(dev_t number, const fs::path& sysfs) {
-    const auto device = blockDevice(number, sysfs);
-    return device ? stackUnder({*device}) : BlockStack();
+BlockStack blockStack(dev_t number, const SystemSources& sources) {
+    const auto device = blockDevice(number, sources.sysfs);
+    return device ? stackUnder({*device}, sources) : BlockStack();
 }
 
 BlockStack blockStack(const Mount& mount, const SystemSources& sources) {
-    if (mount.type == "zfs")
-        return stackUnder(devicesOfZfsPool(mount.source.substr(0, mount.source.find('/')), sources));
-    const auto number = deviceOfMount(mount);
-    const auto device = number ? blockDevice(*number, sources.sysfs) : std::nullopt;
-    if (!device)
-        return {};
-    return stackUnder(mount.type == "btrfs" ? devicesOfBtrfs(*device, sources.sysfs) : std::vector{*device});
+    return stackUnder(devicesOfMount(mount, sources), sources);
+}
+
+std::optional<BlockStack> blockStack(std::string_view source, const fs::path& devices,
+                                     const SystemSources& sources) {
+    std::vector<BlockDevice> mounted;
+    for (const BlockDevice& device : devicesNamed(source, devices, sources.sysfs))
+        std::ranges::copy(devicesOfBtrfs(device, sources.sysfs), std::back_inserter(mounted));
+    return mounted.empty() ? std::nullopt : std::optional(stackUnder(std::move(mounted), sources));
 }
 
 std::optional<dev_t> deviceOfMount(const Mount& mount) {

@@ -4,6 +4,7 @@
 #include <libmount/libmount.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace OndelCore::platform {
@@ -75,6 +76,18 @@ std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std
         if (mount.id == facts.stx_mnt_id)
             return std::move(mount);
     return std::nullopt;
+}
+
+std::optional<Mount> mountAbove(const std::filesystem::path& table, const std::filesystem::path& resolved) {
+    std::optional<Mount> nearest;
+    for (Mount& mount : mounts(table)) {
+        const auto ends = std::ranges::mismatch(mount.mountPoint, resolved);
+        const bool isAbove = ends.in1 == mount.mountPoint.end() && mount.mountPoint.is_absolute();
+        const auto length = [](const Mount& one) { return one.mountPoint.native().size(); };
+        if (isAbove && (!nearest || length(mount) >= length(*nearest)))
+            nearest = std::move(mount);
+    }
+    return nearest;
 }
 
 bool hasMountOption(std::string_view options, std::string_view option) {

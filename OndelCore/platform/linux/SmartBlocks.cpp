@@ -1,26 +1,15 @@
 #include "OndelCore/platform/SmartBlocks.h"
 
+#include "OndelCore/platform/DetachedThread.h"
 #include "OndelCore/platform/linux/DriveReaders.h"
-
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <future>
 
 namespace OndelCore::platform {
 
 namespace {
-
-/// The device's number by its node; where the process sees no nodes (a sandbox), by the device tree. Of a
-/// file system's several devices, "sda1:/dev/sdb1", the first counts.
-std::optional<dev_t> deviceNumber(const std::string& names, const SmartSources& sources) {
-    const std::string name = names.substr(0, names.find(":/"));
-    struct stat facts {};
-    if (stat((sources.devices / name).c_str(), &facts) == 0)
-        return S_ISBLK(facts.st_mode) ? std::optional(facts.st_rdev) : std::nullopt;
-    const auto device = blockDeviceNamed(name, sources.system.sysfs);
-    return device ? std::optional(device->number) : std::nullopt;
-}
 
 /// The name of the layer that drives the disk: "nvme", "scsi", "virtio", "mmc", …; empty: none.
 std::string subsystemOf(const BlockDevice& disk) {
@@ -28,7 +17,7 @@ std::string subsystemOf(const BlockDevice& disk) {
     return std::filesystem::read_symlink(disk.folder / "device/subsystem", ignored).filename().string();
 }
 
-DriveReply askDrive(const BlockDevice& disk, DriveCalls& calls, const SmartSources& sources) {
+DriveReply askItself(const BlockDevice& disk, DriveCalls& calls, const SmartSources& sources) {
     const std::string subsystem = subsystemOf(disk);
     if (subsystem == "nvme" || subsystem == "nvme-subsystem")
         return readNvmeDrive(disk, calls);
@@ -38,7 +27,7 @@ DriveReply askDrive(const BlockDevice& disk, DriveCalls& calls, const SmartSourc
 }
 
 SmartAnswer askDisk(const BlockDevice& disk, DriveCalls& calls, const SmartSources& sources) {
-    DriveReply own = askDrive(disk, calls, sources);
+    DriveReply own = askItself(disk, calls, sources);
     if (!own.isRefused)
         return std::move(own.answer);
     SmartAnswer service = readFromUDisks(disk, sources);
@@ -52,6 +41,59 @@ std::string oneLine(std::string text) {
     std::replace_if(
         text.begin(), text.end(), [](unsigned char byte) { return byte < 0x20 || byte == 0x7f; }, '?');
     return text;
+}
+
+/// The disks through which one drive is reached.
+using Paths = std::vector<BlockDevice>;
+
+std::vector<Paths> drivesOf(const BlockStack& stack) {
+    std::vector<Paths> drives;
+    for (const BlockDevice& disk : stack.wholeDisks) {
+        const auto known = std::ranges::find_if(drives, [&](const Paths& paths) {
+            return disk.pathOf != 0 && paths.front().pathOf == disk.pathOf;
+        });
+        if (known == drives.end())
+            drives.push_back({disk});
+        else
+            known->push_back(disk);
+    }
+    return drives;
+}
+
+SmartAnswer askDrive(const Paths& paths, const SmartSources& sources) {
+    DriveCalls kernel;
+    DriveCalls& calls = sources.calls ? *sources.calls : kernel;
+    std::string reasons;
+    for (const BlockDevice& disk : paths) {
+        SmartAnswer answer = askDisk(disk, calls, sources);
+        answer.source = oneLine(answer.source);
+        if (!answer.isEmpty())
+            return answer;
+        reasons += (reasons.empty() ? "" : "; ") + answer.source;
+    }
+    return {.blocks = {}, .source = reasons};
+}
+
+/// Each drive on a thread of its own: a command to a drive that hangs cannot be taken back.
+std::vector<DiskAnswer> askAtOnce(const std::vector<Paths>& drives, const SmartSources& sources) {
+    const auto deadline = std::chrono::steady_clock::now() + sources.patience;
+    std::vector<std::future<SmartAnswer>> pending;
+    for (const Paths& paths : drives) {
+        std::packaged_task<SmartAnswer()> task([paths, sources] { return askDrive(paths, sources); });
+        std::future<SmartAnswer> answer = task.get_future();
+        pending.push_back(runDetached(std::move(task)) ? std::move(answer) : std::future<SmartAnswer>());
+    }
+    std::vector<DiskAnswer> answers;
+    for (std::size_t index = 0; index < drives.size(); ++index) {
+        const std::string name = oneLine(drives[index].front().name);
+        const bool isThere =
+            pending[index].valid() && pending[index].wait_until(deadline) == std::future_status::ready;
+        answers.push_back({.disk = name,
+                           .answer = isThere
+                                         ? pending[index].get()
+                                         : SmartAnswer{.blocks = {}, .source = name + " does not answer"}});
+    }
+    return answers;
 }
 
 } // namespace
@@ -70,20 +112,13 @@ DriveReply unreachable(const BlockDevice& disk, int error) {
     }
 }
 
-SmartAnswer smartOfDevice(const std::string& deviceName, const SmartSources& sources) {
-    const std::optional<dev_t> number = deviceNumber(deviceName, sources);
-    if (!number)
-        return {.blocks = {}, .source = oneLine(deviceName + " is no block device")};
-    DriveCalls kernel;
-    DriveCalls& calls = sources.calls ? *sources.calls : kernel;
-    std::string reasons;
-    for (const BlockDevice& disk : blockStack(*number, sources.system.sysfs).wholeDisks) {
-        SmartAnswer answer = askDisk(disk, calls, sources);
-        if (!answer.isEmpty())
-            return answer;
-        reasons += (reasons.empty() ? "" : "; ") + answer.source;
-    }
-    return {.blocks = {}, .source = oneLine(reasons.empty() ? "no disk is behind " + deviceName : reasons)};
+DiskAnswers smartOfDevice(const std::string& deviceName, const SmartSources& sources) {
+    const auto stack = blockStack("/dev/" + deviceName, sources.devices, sources.system);
+    if (!stack)
+        return {.disks = {}, .obstacle = oneLine(deviceName + " is no block device")};
+    if (stack->wholeDisks.empty())
+        return {.disks = {}, .obstacle = oneLine("no disk is behind " + deviceName)};
+    return {.disks = askAtOnce(drivesOf(*stack), sources), .obstacle = {}};
 }
 
 } // namespace OndelCore::platform

@@ -139,6 +139,50 @@ TEST(DiskHealth, JudgesEachFigureByItsOwnRule) {
     }
 }
 
+TEST(DiskHealth, TellsTheWorstOfSeveralDisksAndNamesEach) {
+    const auto disk = [](const char* name, const char* kind, bool isFailing) {
+        SmartReading reading{.disk = name, .record = {}, .source = std::string("asked ") + name};
+        if (!*kind) {
+            reading.source = std::string(name) + " is asleep";
+            return reading;
+        }
+        reading.record.available = reading.record.has_temperature = 1;
+        reading.record.failing = isFailing;
+        reading.record.temperature = 40;
+        std::strcpy(reading.record.kind, kind);
+        return reading;
+    };
+    const Rows sda{{"sda · Status", "Verified", false}, {"sda · Temperature", "40 °C", false}};
+    const Rows sdb{{"sdb · Status", "Failing", true}, {"sdb · Temperature", "40 °C", false}};
+    const Row twoOfThree{"Disks", "2 of 3 disks answered", false};
+    const auto joined = [](Rows first, const Rows& second) {
+        first.insert(first.end(), second.begin(), second.end());
+        return first;
+    };
+    const auto good = disk("sda", "NVMe", false);
+    const auto bad = disk("sdb", "ATA", true);
+    const auto silent = disk("sdc", "", false);
+    const std::string asleep = "2 of 3 disks answered: sdc is asleep";
+    using Status = DiskSMART::Status;
+    const std::pair<std::vector<SmartReading>, DiskSMART> cases[] = {
+        {{}, {Status::notSupported, "", {}, "why"}},
+        {{silent}, {Status::notSupported, "", {}, "why"}},
+        {{silent, silent}, {Status::notSupported, "", {}, "why"}},
+        {{good}, {Status::verified, "NVMe", {{"Temperature", "40 °C", false}}, ""}},
+        {{good, bad}, {Status::failing, "NVMe, ATA", joined(sda, sdb), ""}},
+        {{bad, good}, {Status::failing, "ATA, NVMe", joined(sdb, sda), ""}},
+        {{good, silent, good}, {Status::verified, "NVMe", joined({twoOfThree}, joined(sda, sda)), asleep}},
+        {{silent, bad, good}, {Status::failing, "ATA, NVMe", joined({twoOfThree}, joined(sdb, sda)), asleep}},
+    };
+    for (const auto& [disks, expected] : cases) {
+        const DiskSMART smart = DiskHealth::smart(SmartReadings{.disks = disks, .source = "why"});
+        EXPECT_EQ(smart.status, expected.status) << disks.size();
+        EXPECT_EQ(smart.kind, expected.kind);
+        EXPECT_EQ(smart.attributes, expected.attributes);
+        EXPECT_EQ(smart.note, expected.note);
+    }
+}
+
 TEST(DiskHealth, IsAbsentWhereNoDeviceIsBehindThePath) {
     for (const char* path : {"", "/proc", "/no/such/path", "/proc/self/mountinfo/below", "bytes \xff\n"})
         EXPECT_EQ(DiskHealth::read(path), std::nullopt) << path;

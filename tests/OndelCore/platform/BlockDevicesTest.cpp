@@ -6,7 +6,6 @@
 #include <sys/sysmacros.h>
 
 #include <fstream>
-#include <tuple>
 
 using namespace OndelCore::platform;
 
@@ -42,7 +41,7 @@ protected:
         return names;
     }
     std::string disksUnder(dev_t number) const { return namesOf(stackOf(number)); }
-    BlockStack stackOf(dev_t number) const { return blockStack(number, machine.sources().sysfs); }
+    BlockStack stackOf(dev_t number) const { return blockStack(number, machine.sources()); }
 
     test::FakeMachine machine;
 };
@@ -94,13 +93,8 @@ TEST_F(BlockStackTest, CountsEveryDeviceOfAFileSystemThatHasSeveral) {
     const auto disksOf = [&](const char* type, dev_t device, const char* source) {
         return namesOf(blockStack(mountOf(device, source, type), machine.sources()));
     };
-    const auto sysfs = machine.sources().sysfs;
-    for (const auto& [fileSystem, name, place] :
-         {std::tuple{"1-a", "sda1", ata1 + "/sda1"}, {"1-a", "sdb1", ata2 + "/sdb1"}, {"0-b", "sdb", ata2}}) {
-        std::filesystem::create_directories(sysfs / "fs/btrfs" / fileSystem / "devices");
-        std::filesystem::create_symlink(sysfs / "devices" / place,
-                                        sysfs / "fs/btrfs" / fileSystem / "devices" / name);
-    }
+    machine.joinBtrfs("1-a", {ata1 + "/sda1", ata2 + "/sdb1"});
+    machine.joinBtrfs("0-b", {ata2});
     EXPECT_EQ(disksOf("btrfs", makedev(8, 17), "/dev/sdb1"), "sda sdb ");
     EXPECT_EQ(disksOf("btrfs", makedev(8, 16), "/dev/sdb"), "sdb ");
     EXPECT_EQ(disksOf("btrfs", makedev(8, 0), "/dev/sda"), "sda ");
@@ -121,6 +115,9 @@ TEST_F(BlockStackTest, EndsOnADamagedTree) {
     addMapping(2, "LVM-c");
     machine.stack("virtual/block/dm-2", "virtual/block/gone");
     EXPECT_EQ(disksUnder(makedev(253, 2)), "");
+    machine.addBlockDevice("virtual/block/loop0", makedev(7, 0), {{"loop/backing_file", "/image"}});
+    machine.setMountTable("1 0 7:0 / / rw - ext4 /dev/loop0 rw\n");
+    EXPECT_EQ(disksUnder(makedev(7, 0)), "") << "a loop device whose file lies on itself";
     std::ofstream(machine.addBlockDevice("virtual/block/odd", makedev(7, 1)) / "dev") << "7;1\n";
     EXPECT_FALSE(blockDevice(makedev(7, 1), machine.sources().sysfs));
 }

@@ -5,6 +5,7 @@
 #include "support/FakeMachine.h"
 
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <linux/nvme_ioctl.h>
 #include <scsi/sg.h>
 #include <sys/ioctl.h>
@@ -12,6 +13,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <latch>
+#include <mutex>
 
 namespace test {
 
@@ -45,23 +48,32 @@ struct FakeDrive {
     SmartPage page{};
     Bytes supportedPages{}; ///< answer to the inquiry for product data pages
 
-    std::vector<Bytes> commands{}; ///< what it was sent
+    std::vector<Bytes> commands{};            ///< what it was sent
+    std::shared_ptr<std::latch> hangsUntil{}; ///< commands wait for it
 };
 
-/// Stands where the kernel would: answers the two kinds of commands for the drives it holds.
+/// Stands where the kernel would: answers the two kinds of commands for the drives it holds. Threads: one for
+/// each drive.
 class FakeDrives : public DriveCalls {
 public:
     std::map<std::string, FakeDrive> drives;
     std::vector<std::string> opened;
 
     FileDescriptor open(const BlockDevice& disk) override {
+        const std::scoped_lock lock(m_lock);
         opened.push_back(disk.name);
         const auto found = drives.find(disk.name);
         errno = found == drives.end() ? ENOENT : found->second.openError;
-        return errno ? FileDescriptor() : FileDescriptor(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+        if (errno)
+            return FileDescriptor();
+        FileDescriptor drive(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+        m_names[drive.get()] = disk.name;
+        return drive;
     }
-    int control(const FileDescriptor&, unsigned long request, void* argument) override {
-        FakeDrive& drive = drives.at(opened.back());
+    int control(const FileDescriptor& descriptor, unsigned long request, void* argument) override {
+        FakeDrive& drive = driveAt(descriptor);
+        if (drive.hangsUntil)
+            drive.hangsUntil->wait();
         if (drive.commandError && drive.commands.size() >= drive.commandsBeforeError)
             return -drive.commandError;
         if (request == NVME_IOCTL_ADMIN_CMD)
@@ -71,6 +83,11 @@ public:
     }
 
 private:
+    FakeDrive& driveAt(const FileDescriptor& descriptor) {
+        const std::scoped_lock lock(m_lock);
+        return drives.at(m_names.at(descriptor.get()));
+    }
+
     static int answerNvme(FakeDrive& drive, const nvme_passthru_cmd& command) {
         const auto* const bytes = reinterpret_cast<const std::uint8_t*>(&command);
         drive.commands.emplace_back(bytes, bytes + sizeof command);
@@ -102,6 +119,9 @@ private:
         io.host_status = static_cast<unsigned short>(drive.hostStatus);
         io.info = drive.hostStatus ? SG_INFO_CHECK : SG_INFO_OK;
     }
+
+    std::mutex m_lock;
+    std::map<int, std::string> m_names; ///< of the disks that are open, by descriptor
 };
 
 /// A disk of `machine` with the bus or class that its driver belongs to.
@@ -116,8 +136,16 @@ inline void addDisk(FakeMachine& machine, const std::string& name, dev_t number,
 inline SmartSources sourcesOf(const FakeMachine& machine, FakeDrives& drives) {
     return {.system = machine.sources(),
             .devices = machine.folder() / "no-nodes",
-            .calls = &drives,
+            .calls = {std::shared_ptr<void>(), &drives},
             .serviceBus = "unix:path=" + (machine.folder() / "no-bus").string()};
+}
+
+/// What the one disk under a device answers, or why there is none.
+inline SmartAnswer answerOf(const std::string& deviceName, const SmartSources& sources) {
+    DiskAnswers answers = smartOfDevice(deviceName, sources);
+    EXPECT_LE(answers.disks.size(), 1U);
+    return answers.disks.empty() ? SmartAnswer{.blocks = {}, .source = answers.obstacle}
+                                 : std::move(answers.disks.front().answer);
 }
 
 } // namespace test

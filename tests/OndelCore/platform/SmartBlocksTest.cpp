@@ -12,6 +12,7 @@ namespace OndelCore::platform {
 
 namespace {
 
+using test::answerOf;
 using test::descriptorSense;
 using test::FakeDrive;
 using test::FakeDrives;
@@ -32,7 +33,7 @@ TEST(SmartBlocks, AsksAnNvmeDriveForItsHealthLogAndNothingElse) {
     FakeDrives drives;
     drives.drives["nvme0n1"].page = filled(0xff);
 
-    const SmartAnswer answer = smartOfDevice("nvme0n1p2", sourcesOf(machine, drives));
+    const SmartAnswer answer = answerOf("nvme0n1p2", sourcesOf(machine, drives));
     ASSERT_TRUE(std::holds_alternative<NvmeSmart>(answer.blocks)) << answer.source;
     EXPECT_EQ(std::get<NvmeSmart>(answer.blocks).page, filled(0xff));
     EXPECT_EQ(answer.source, "NVMe health log of nvme0n1");
@@ -101,7 +102,7 @@ TEST(SmartBlocks, AsksAnAtaDriveForItsModeThenItsVerdictThenItsFigures) {
         FakeDrives drives;
         FakeDrive& drive = drives.drives["sda"] = each.drive;
         drive.page = filled(0x5a);
-        const SmartAnswer answer = smartOfDevice("sda", sourcesOf(machine, drives));
+        const SmartAnswer answer = answerOf("sda", sourcesOf(machine, drives));
         EXPECT_EQ(outcomeOf(answer, drive), each.outcome) << answer.source;
         EXPECT_NE(answer.source.find("sda"), std::string::npos) << answer.source;
         for (std::size_t index = 0; index < drive.commands.size(); ++index)
@@ -139,37 +140,90 @@ TEST(SmartBlocks, SendsNoAtaCommandToWhatDoesNotDeclareToTakeThem) {
         drives.drives["sdb"].supportedPages = each.supportedPages;
         if (each.files.contains("in-database"))
             machine.setDatabase(makedev(8, 16), {{"ID_ATA", "1"}});
-        EXPECT_EQ(smartOfDevice("sdb", sourcesOf(machine, drives)).isEmpty(), !each.answers);
+        EXPECT_EQ(answerOf("sdb", sourcesOf(machine, drives)).isEmpty(), !each.answers);
         EXPECT_EQ(drives.opened.size(), each.opened);
         for (const test::Bytes& command : drives.drives["sdb"].commands)
             EXPECT_TRUE(each.answers || command[0] == 0x12) << int{command[0]};
     }
 }
 
-TEST(SmartBlocks, FindsTheFirstDiskThatAnswersUnderAllLayers) {
+/// "sda: NVMe health log of sda | sdb: ..." for every disk under a device.
+std::string told(const DiskAnswers& answers) {
+    std::string text = answers.obstacle;
+    for (const auto& [disk, answer] : answers.disks)
+        text += (text.empty() ? "" : " | ") + disk + ": " + answer.source;
+    return text;
+}
+
+TEST(SmartBlocks, AsksEveryDiskUnderAllLayers) {
     FakeMachine machine;
-    addDisk(machine, "sda", makedev(8, 0), "scsi", {{"device/vendor", "ATA"}});
-    addDisk(machine, "sdb", makedev(8, 16), "scsi", {{"device/vendor", "ATA"}});
+    const FakeMachine::Attributes ata{{"device/vendor", "ATA"}};
+    addDisk(machine, "sda", makedev(8, 0), "scsi", ata);
+    addDisk(machine, "sdb", makedev(8, 16), "scsi", ata);
+    addDisk(machine, "sdc", makedev(8, 32), "scsi", ata);
+    addDisk(machine, "nvme0n1", makedev(259, 0), "nvme");
     addDisk(machine, "vda", makedev(254, 0), "virtio");
     machine.addBlockDevice("sda/sda1", makedev(8, 1), {{"partition", "1"}});
     machine.addBlockDevice("sdb/sdb1", makedev(8, 17), {{"partition", "1"}});
     unsigned layer = 0;
     for (const auto& [upper, lower] : {std::pair{"md0", "sda/sda1"}, {"dm-0", "md0"}, {"dm-1", "dm-0"}}) {
-        machine.addBlockDevice(upper, makedev(253, layer++));
+        machine.addBlockDevice(upper, makedev(253, layer++), {{"dm/name", std::string("name-of-") + upper}});
         machine.stack(upper, lower);
     }
     machine.stack("md0", "sdb/sdb1");
+    machine.addBlockDevice("dm-2", makedev(253, 10), {{"dm/uuid", "mpath-3600a"}});
+    machine.stack("dm-2", "sdb");
+    machine.stack("dm-2", "sdc");
+    machine.joinBtrfs("0-a", {"nvme0n1", "sda/sda1"});
+    machine.addBlockDevice("loop0", makedev(7, 0), {{"loop/backing_file", "/srv/data/image (deleted)"}});
+    machine.addBlockDevice("loop1", makedev(7, 1), {{"loop/backing_file", "/tmp/image"}});
+    machine.setMountTable("1 0 8:32 / / rw - ext4 /dev/sdc rw\n"
+                          "2 1 0:40 / /srv/data rw - btrfs /dev/nvme0n1 rw\n"
+                          "3 1 0:41 / /tmp rw - tmpfs none rw\n"
+                          "4 1 253:2 / /srv/dat rw - ext4 /dev/dm-1 rw\n");
     FakeDrives drives;
-    drives.drives["sda"].power = descriptorSense(0x50, 0x00);
-    drives.drives["sdb"];
+    for (const char* name : {"sda", "sdb", "sdc", "nvme0n1"})
+        drives.drives[name];
+    const auto all = [&](const char* name) { return told(smartOfDevice(name, sourcesOf(machine, drives))); };
 
-    EXPECT_EQ(smartOfDevice("dm-1", sourcesOf(machine, drives)).source, "ATA S.M.A.R.T. of sdb");
+    const std::string mirror = "sda: ATA S.M.A.R.T. of sda | sdb: ATA S.M.A.R.T. of sdb";
+    const std::string btrfs = "nvme0n1: NVMe health log of nvme0n1 | sda: ATA S.M.A.R.T. of sda";
+    const std::pair<const char*, std::string> cases[] = {
+        {"dm-1", mirror},
+        {"mapper/name-of-dm-1", mirror},
+        {"nvme0n1", btrfs},
+        {"sda1", btrfs},
+        {"loop0", btrfs},
+        {"loop1", "loop1: loop1 has no S.M.A.R.T. interface"},
+        {"vda:/dev/sdc", "vda: vda has no S.M.A.R.T. interface | sdc: ATA S.M.A.R.T. of sdc"},
+        {"dm-2", "sdb: ATA S.M.A.R.T. of sdb"},
+        {"new\nline", "new?line is no block device"},
+    };
+    for (const auto& [device, expected] : cases)
+        EXPECT_EQ(all(device), expected) << device;
+
+    drives.drives["sda"].power = descriptorSense(0x50, 0x00);
     drives.drives["sdb"].openError = EACCES;
-    EXPECT_EQ(smartOfDevice("dm-1", sourcesOf(machine, drives)).source,
-              "sda is asleep and was left alone; sdb may only be asked by an administrator, and UDisks2 does "
-              "not answer");
-    EXPECT_EQ(smartOfDevice("vda", sourcesOf(machine, drives)).source, "vda has no S.M.A.R.T. interface");
-    EXPECT_EQ(smartOfDevice("new\nline", sourcesOf(machine, drives)).source, "new?line is no block device");
+    EXPECT_EQ(all("dm-1"), "sda: sda is asleep and was left alone | sdb: sdb may only be asked by an "
+                           "administrator, and UDisks2 does not answer");
+    EXPECT_EQ(all("dm-2"), "sdb: ATA S.M.A.R.T. of sdc") << "the other path to the drive works";
+}
+
+TEST(SmartBlocks, WaitsForADiskThatHangsNoLongerThanItsPatience) {
+    FakeMachine machine;
+    addDisk(machine, "nvme0n1", makedev(259, 0), "nvme");
+    addDisk(machine, "nvme1n1", makedev(259, 1), "nvme");
+    machine.joinBtrfs("0-a", {"nvme0n1", "nvme1n1"});
+    const auto gate = std::make_shared<std::latch>(1);
+    const auto drives = std::make_shared<FakeDrives>();
+    drives->drives["nvme0n1"].hangsUntil = gate;
+    drives->drives["nvme1n1"];
+    SmartSources sources = sourcesOf(machine, *drives);
+    sources.calls = drives; // shared with the thread that hangs
+    sources.patience = std::chrono::seconds(1);
+    const std::string answers = told(smartOfDevice("nvme0n1", sources));
+    gate->count_down();
+    EXPECT_EQ(answers, "nvme0n1: nvme0n1 does not answer | nvme1n1: NVMe health log of nvme1n1");
 }
 
 /// Damaged sense data of every length, in a buffer of exactly that length so that the sanitizers see a byte
@@ -193,7 +247,7 @@ TEST(SmartBlocks, ReadsSenseDataOfAnyBytes) {
 
 TEST(SmartBlocks, StandsTheRealMachine) {
     for (const char* name : {"", "null", "no-such-device", "../etc/passwd", "loop0"})
-        EXPECT_TRUE(smartOfDevice(name).isEmpty()) << name;
+        EXPECT_TRUE(answerOf(name, {}).isEmpty()) << name;
 }
 
 } // namespace

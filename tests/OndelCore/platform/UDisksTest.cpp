@@ -17,6 +17,7 @@ namespace OndelCore::platform {
 namespace {
 
 using namespace Qt::StringLiterals;
+using test::answerOf;
 using test::FakeUDisks;
 using test::UDisksScript;
 
@@ -52,7 +53,7 @@ protected:
         sources.serviceBus = m_bus.address();
         sources.serviceLimit = std::chrono::milliseconds(script.isMute ? 50 : 5000);
         const FakeUDisks service(m_bus.address(), std::move(script));
-        SmartAnswer answer = smartOfDevice("sda", sources);
+        SmartAnswer answer = answerOf("sda", sources);
         EXPECT_EQ(service.carelessCalls(), 0);
         return answer;
     }
@@ -176,7 +177,7 @@ TEST(UDisksBus, ThatTakesConnectionsAndSaysNothingIsLeftAlone) {
     SmartSources sources = sourcesOf(machine, drives);
     sources.serviceBus = "unix:path=" + path;
     sources.serviceLimit = std::chrono::milliseconds(10);
-    EXPECT_EQ(smartOfDevice("sda", sources).source,
+    EXPECT_EQ(answerOf("sda", sources).source,
               "sda may only be asked by an administrator, and UDisks2 does not answer");
 }
 
@@ -213,7 +214,7 @@ TEST(RealUDisks, AnswersAsItsStandInDoes) {
     test::FakeDrives drives;
     SmartSources sources = sourcesOf(machine, drives);
     sources.serviceBus = bus.address();
-    EXPECT_EQ(smartOfDevice("sda", sources).source,
+    EXPECT_EQ(answerOf("sda", sources).source,
               "sda is out of this process's reach, and UDisks2 knows no drive behind sda");
     QDBusConnection::disconnectFromBus("watch");
     service.terminate();
