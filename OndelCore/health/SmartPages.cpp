@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <optional>
 
 namespace OndelCore::health {
 
@@ -62,26 +63,51 @@ double terabytes(const WideCounter& dataUnits) {
     return static_cast<double>(dataUnits.low.value()) * bytesPerDataUnit / bytesPerTerabyte;
 }
 
-/// Where an attribute goes and how many of its 48 raw bits count: makers put other figures into the upper
-/// bits of the attributes that are cut.
+/// Where an attribute goes and how its 48 raw bits are read. Makers put other figures into the upper bytes:
+/// `usualBits` are taken while their value is one that a drive can have, then the low 32, then `leastBits`.
 struct Destination {
     std::uint8_t number;
     std::int32_t OndelSMART::*has;
     std::uint64_t OndelSMART::*field;
-    unsigned rawBits;
+    unsigned usualBits;
+    unsigned leastBits; ///< 24 for hours and 16 for sectors is what smartmontools shows by default
+    std::uint64_t greatest;
 };
 
+/// A hundred years, of 8760 hours: drives have told their age for less than forty.
+constexpr std::uint64_t mostHours = 100 * 8760;
+/// Drives keep a few thousand sectors in reserve and fail their own threshold when these run out.
+constexpr std::uint64_t mostBadSectors = 1000000;
+/// One every hour for as long as `mostHours`.
+constexpr std::uint64_t mostCycles = mostHours;
+/// Heads that park every 8 seconds reach this in 25 years.
+constexpr std::uint64_t mostHeadLoads = 100000000;
+/// A bad cable repeats transfers all day, yet no link lives through this many.
+constexpr std::uint64_t mostLinkErrors = 100000000;
+
 constexpr std::array destinations{
-    Destination{5, &OndelSMART::has_reallocated, &OndelSMART::reallocated, 48},
-    Destination{9, &OndelSMART::has_power_on_hours, &OndelSMART::power_on_hours, 48},
-    Destination{10, &OndelSMART::has_spin_retries, &OndelSMART::spin_retries, 32},
-    Destination{12, &OndelSMART::has_power_cycles, &OndelSMART::power_cycles, 48},
-    Destination{187, &OndelSMART::has_reported_uncorrectable, &OndelSMART::reported_uncorrectable, 32},
-    Destination{193, &OndelSMART::has_load_cycles, &OndelSMART::load_cycles, 32},
-    Destination{197, &OndelSMART::has_pending, &OndelSMART::pending, 32},
-    Destination{198, &OndelSMART::has_uncorrectable, &OndelSMART::uncorrectable, 32},
-    Destination{199, &OndelSMART::has_crc_errors, &OndelSMART::crc_errors, 32},
+    Destination{5, &OndelSMART::has_reallocated, &OndelSMART::reallocated, 48, 16, mostBadSectors},
+    Destination{9, &OndelSMART::has_power_on_hours, &OndelSMART::power_on_hours, 48, 24, mostHours},
+    Destination{10, &OndelSMART::has_spin_retries, &OndelSMART::spin_retries, 32, 16, mostCycles},
+    Destination{12, &OndelSMART::has_power_cycles, &OndelSMART::power_cycles, 48, 16, mostCycles},
+    Destination{187, &OndelSMART::has_reported_uncorrectable, &OndelSMART::reported_uncorrectable, 32, 16,
+                mostBadSectors},
+    Destination{193, &OndelSMART::has_load_cycles, &OndelSMART::load_cycles, 32, 24, mostHeadLoads},
+    Destination{197, &OndelSMART::has_pending, &OndelSMART::pending, 32, 16, mostBadSectors},
+    Destination{198, &OndelSMART::has_uncorrectable, &OndelSMART::uncorrectable, 32, 16, mostBadSectors},
+    Destination{199, &OndelSMART::has_crc_errors, &OndelSMART::crc_errors, 32, 24, mostLinkErrors},
 };
+
+/// Fails: absent if no reading is possible. Bits that are all set are a filling, not a figure.
+std::optional<std::uint64_t> possibleValue(std::uint64_t raw, const Destination& destination) {
+    for (const unsigned bits : {destination.usualBits, 32U, destination.leastBits}) {
+        const std::uint64_t mask = (std::uint64_t{1} << bits) - 1;
+        const std::uint64_t value = raw & mask;
+        if (value <= destination.greatest && value != mask)
+            return value;
+    }
+    return std::nullopt;
+}
 
 /// Attribute 194: degrees Celsius in the lowest byte, the record of extremes above it.
 void keepAtaTemperature(std::uint64_t raw, OndelSMART& record) {
@@ -135,8 +161,11 @@ void keepAtaAttribute(std::uint8_t number, std::uint64_t raw, OndelSMART& record
                                     [=](const Destination& known) { return known.number == number; });
     if (found == destinations.end())
         return;
+    const std::optional<std::uint64_t> value = possibleValue(raw, *found);
+    if (!value)
+        return;
     record.*found->has = 1;
-    record.*found->field = raw & ((std::uint64_t{1} << found->rawBits) - 1);
+    record.*found->field = *value;
 }
 
 void decodeAtaAttributes(const SmartPage& page, OndelSMART& record) {

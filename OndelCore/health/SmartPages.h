@@ -18,7 +18,8 @@ void decodeNvmeHealth(const SmartPage& page, OndelSMART& record);
 /// here are passed over; of two with the same number the later one counts. Threads: any.
 void decodeAtaAttributes(const SmartPage& page, OndelSMART& record);
 
-/// Fills the field of one ATA attribute, as its 48-bit raw value says. Unknown numbers change nothing.
+/// Fills the field of one ATA attribute from its 48-bit raw value. A value that no drive can have is read in
+/// fewer bits. Unknown numbers change nothing, nor do values that are impossible in any width.
 void keepAtaAttribute(std::uint8_t number, std::uint64_t raw, OndelSMART& record);
 
 } // namespace OndelCore::health

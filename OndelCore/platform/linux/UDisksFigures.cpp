@@ -2,6 +2,7 @@
 
 #include <QDBusArgument>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string_view>
@@ -30,6 +31,13 @@ std::optional<std::int32_t> percentOf(const QVariantMap& map, const char* name) 
     if (!value || *value > 255) // one byte in the health log
         return std::nullopt;
     return static_cast<std::int32_t>(*value);
+}
+
+/// The service leaves a total out of its figures while it is 0.
+std::optional<std::uint64_t> totalOf(const QVariantMap& figures, const char* name) {
+    if (!figures.isEmpty() && !figures.contains(QString::fromLatin1(name)))
+        return 0;
+    return numberOf(figures, name);
 }
 
 /// The health log's first byte out of the service's words. A word that is not known yet sets the one bit
@@ -68,26 +76,61 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, AtaRow& row) {
     return argument;
 }
 
-/// The figure of a row in the unit of the drive's raw value. Absent: the service does not know its meaning.
-std::optional<std::uint64_t> figureOf(const AtaRow& row) {
+/// How the service makes a row's figure out of the drive's raw value.
+struct Scale {
+    qlonglong unit; ///< of the figure, for each 1 of the raw value
+    qlonglong zero = 0;
+};
+
+constexpr Scale hours{3600000};        // in milliseconds
+constexpr Scale celsius{1000, 273150}; // in thousandths of a kelvin
+constexpr Scale asIs{1};
+
+/// By the row's name where the figure is not in its attribute's usual unit (libatasmart, "make_pretty").
+struct NamedScale {
+    QLatin1StringView name;
+    Scale scale;
+};
+constexpr std::array namedScales{
+    NamedScale{QLatin1StringView("power-on-hours"), hours},
+    NamedScale{QLatin1StringView("power-on-minutes"), {60000}},
+    NamedScale{QLatin1StringView("power-on-half-minutes"), {30000}},
+    NamedScale{QLatin1StringView("power-on-seconds"), {1000}},
+    NamedScale{QLatin1StringView("power-on-seconds-2"), {1000}},
+    NamedScale{QLatin1StringView("temperature-celsius"), celsius},
+    NamedScale{QLatin1StringView("temperature-celsius-2"), celsius},
+    NamedScale{QLatin1StringView("temperature-centi-celsius"), {100, 273150}},
+};
+
+/// Absent: the service does not know what the row means. A known row that it holds for implausible keeps its
+/// name and figure and loses its unit.
+std::optional<Scale> scaleOf(const AtaRow& row) {
     enum Unit { unknown, none, milliseconds, sectors, milliKelvin };
-    constexpr qlonglong millisecondsPerHour = 3600000;
-    constexpr qlonglong zeroCelsiusInMilliKelvin = 273150;
-    if (row.pretty < 0)
-        return std::nullopt;
+    const auto named =
+        std::ranges::find_if(namedScales, [&](const NamedScale& each) { return row.name == each.name; });
+    if (named != namedScales.end())
+        return named->scale;
     switch (row.unit) {
     case none:
     case sectors:
-        return static_cast<std::uint64_t>(row.pretty);
+        return asIs;
     case milliseconds:
-        return static_cast<std::uint64_t>(row.pretty / millisecondsPerHour);
+        return hours;
     case milliKelvin:
-        if (row.pretty < zeroCelsiusInMilliKelvin || row.pretty > zeroCelsiusInMilliKelvin + 255000)
-            return std::nullopt;
-        return static_cast<std::uint64_t>((row.pretty - zeroCelsiusInMilliKelvin + 500) / 1000);
+        return celsius;
     default:
         return std::nullopt;
     }
+}
+
+/// The drive's raw value, so that it is judged as if the drive itself had been asked. Of hours, reallocated
+/// and pending sectors the service passes on the low 32 bits.
+std::optional<std::uint64_t> rawValueOf(const AtaRow& row) {
+    const auto scale = scaleOf(row);
+    if (!scale || row.pretty < scale->zero)
+        return std::nullopt;
+    const qlonglong half = scale->zero == 0 ? 0 : scale->unit / 2; // a temperature may come rounded
+    return static_cast<std::uint64_t>((row.pretty - scale->zero + half) / scale->unit);
 }
 
 } // namespace
@@ -130,8 +173,8 @@ std::optional<NvmeSmartReport> nvmeReport(const QVariantMap& properties, const Q
     report.mediaErrors = numberOf(figures, "media_errors");
     report.errorLogEntries = numberOf(figures, "num_err_log_entries");
     report.busyMinutes = numberOf(figures, "ctrl_busy_time");
-    report.bytesWritten = numberOf(figures, "total_data_written");
-    report.bytesRead = numberOf(figures, "total_data_read");
+    report.bytesWritten = totalOf(figures, "total_data_written");
+    report.bytesRead = totalOf(figures, "total_data_read");
     return report;
 }
 
@@ -143,17 +186,18 @@ std::optional<AtaSmartReport> ataReport(const QVariantMap& properties, const QVa
     AtaSmartReport report;
     report.thresholdExceeded = *failing;
 
-    // What the service states beside the table; the table below has the last word.
+    if (attributes.isValid()) {
+        for (const AtaRow& row : qdbus_cast<QList<AtaRow>>(attributes))
+            if (const auto raw = rawValueOf(row))
+                report.attributes[row.number] = *raw;
+        return report;
+    }
     const auto seconds = numberOf(properties, "SmartPowerOnSeconds");
     if (seconds && *seconds > 0)
         report.attributes[powerOnAttribute] = *seconds / 3600;
     const auto kelvin = valueOf<double>(properties, "SmartTemperature");
     if (kelvin && *kelvin > 273.15 && *kelvin < 273.15 + 255)
         report.attributes[temperatureAttribute] = static_cast<std::uint64_t>(std::lround(*kelvin - 273.15));
-
-    for (const AtaRow& row : qdbus_cast<QList<AtaRow>>(attributes))
-        if (const auto figure = figureOf(row))
-            report.attributes[row.number] = *figure;
     return report;
 }
 

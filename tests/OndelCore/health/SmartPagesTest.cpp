@@ -87,29 +87,65 @@ TEST(SmartPages, TakeEveryFieldOfAnNvmeHealthLogFromItsPlace) {
     EXPECT_DOUBLE_EQ(ones.data_read_tb, 18446744073709551615.0 * 512000.0 / 1e12);
 }
 
-TEST(SmartPages, TakeTheKnownAtaAttributesInTheirWidths) {
-    constexpr std::uint64_t raw = 0xa1b2c3d4e5f6;
+TEST(SmartPages, TakeTheKnownAtaAttributes) {
+    constexpr std::uint64_t raw = 0x0c0ffe;
     PageBuilder data;
     std::size_t row = 0;
     for (const int number : {1, 5, 9, 10, 12, 187, 190, 193, 197, 198, 199})
         data.attribute(row++, static_cast<std::uint8_t>(number), raw);
     data.attribute(29, 194, 0x002600110026); // the last row counts; extremes stand above the temperature
     EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, data)),
-              "has_temperature temperature=38 has_power_on_hours power_on_hours=177789161760246 "
-              "has_power_cycles power_cycles=177789161760246 has_reallocated reallocated=177789161760246 "
-              "has_pending pending=3285509622 has_uncorrectable uncorrectable=3285509622 "
-              "has_reported_uncorrectable reported_uncorrectable=3285509622 has_crc_errors "
-              "crc_errors=3285509622 has_spin_retries spin_retries=3285509622 has_load_cycles "
-              "load_cycles=3285509622 ");
+              "has_temperature temperature=38 has_power_on_hours power_on_hours=790526 has_power_cycles "
+              "power_cycles=790526 has_reallocated reallocated=790526 has_pending pending=790526 "
+              "has_uncorrectable uncorrectable=790526 has_reported_uncorrectable "
+              "reported_uncorrectable=790526 has_crc_errors crc_errors=790526 has_spin_retries "
+              "spin_retries=790526 has_load_cycles load_cycles=790526 ");
+}
+
+TEST(SmartPages, ReadValuesThatNoDriveCanHaveInFewerBits) {
+    struct Case {
+        std::uint8_t number;
+        std::uint64_t raw;
+        const char* fields;
+    };
+    const Case cases[] = {
+        {5, 1000000, "has_reallocated reallocated=1000000 "},
+        {5, 0x00000000fff8, "has_reallocated reallocated=65528 "},
+        {5, 8589934592000, "has_reallocated "}, // 7D0h in the upper words
+        {5, 0x000100020003, "has_reallocated reallocated=131075 "},
+        {5, 0x000101020003, "has_reallocated reallocated=3 "},
+        {5, 0xffffffffffff, ""},
+        {9, 876000, "has_power_on_hours power_on_hours=876000 "},
+        {9, 876001, ""},
+        {9, 0xd69600000218, "has_power_on_hours power_on_hours=536 "},   // 26933759525 years in 48 bits
+        {9, 0x01a2b300a1b2, "has_power_on_hours power_on_hours=41394 "}, // milliseconds above 24 bits
+        {9, 5256000, ""},                                                // ten years in minutes
+        {9, 0x00010000ffffff, ""},
+        {10, 0x000300000003, "has_spin_retries spin_retries=3 "},
+        {10, 0x0000ffff0000, "has_spin_retries "},
+        {12, 0x0001000004d2, "has_power_cycles power_cycles=1234 "},
+        {12, 0x0000abcd04d2, "has_power_cycles power_cycles=1234 "},
+        {187, 0x0000ffffffff, ""},
+        {193, 0x00000035a4e9, "has_load_cycles load_cycles=3515625 "},
+        {193, 0x0000ff00a4e9, "has_load_cycles load_cycles=42217 "},
+        {197, 4246863874, "has_pending pending=2 "},
+        {198, 0x0000fd220000, "has_uncorrectable "},
+        {199, 0x00000001e240, "has_crc_errors crc_errors=123456 "},
+        {199, 0xffff0001e240, "has_crc_errors crc_errors=123456 "},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, PageBuilder().attribute(0, each.number, each.raw))),
+                  each.fields)
+            << int{each.number} << ": " << each.raw;
 }
 
 TEST(SmartPages, LetTheLaterOfTwoAtaAttributesCount) {
     PageBuilder data;
     data.attribute(0, 9, 100).attribute(3, 9, 7).attribute(4, 0, 5);
-    data.attribute(5, 194, 40).attribute(6, 194, 120);
+    data.attribute(5, 194, 40).attribute(6, 194, 120).attribute(7, 9, 876001);
     const OndelSMART record = decoded(decodeAtaAttributes, data);
     EXPECT_EQ(record.power_on_hours, 7U);
-    EXPECT_EQ(record.temperature, 40) << "a reading out of range leaves the earlier one";
+    EXPECT_EQ(record.temperature, 40) << "a reading that cannot be leaves the earlier one";
     EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, PageBuilder(0xff))), "");
     for (const std::uint64_t outside : {0U, 120U, 255U, 0x2600U})
         EXPECT_EQ(decoded(decodeAtaAttributes, PageBuilder().attribute(0, 194, outside)).has_temperature, 0);

@@ -55,12 +55,13 @@ struct UDisksAtaRow {
     uchar number = 0;
     int unit = 0;
     qlonglong pretty = 0;
+    QString name = QStringLiteral("attribute");
 };
 
 inline QDBusArgument& operator<<(QDBusArgument& argument, const UDisksAtaRow& row) {
     argument.beginStructure();
-    argument << row.number << QStringLiteral("attribute") << ushort{50} << 100 << 100 << 0 << row.pretty
-             << row.unit << QVariantMap();
+    argument << row.number << row.name << ushort{50} << 100 << 100 << 0 << row.pretty << row.unit
+             << QVariantMap();
     argument.endStructure();
     return argument;
 }
