@@ -75,7 +75,7 @@ struct Destination {
 };
 
 /// A hundred years, of 8760 hours: drives have told their age for less than forty.
-constexpr std::uint64_t mostHours = 100 * 8760;
+constexpr std::uint64_t mostHours = std::uint64_t{100} * 8760;
 /// Drives keep a few thousand sectors in reserve and fail their own threshold when these run out.
 constexpr std::uint64_t mostBadSectors = 1000000;
 /// One every hour for as long as `mostHours`.

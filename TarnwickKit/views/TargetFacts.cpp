@@ -118,6 +118,13 @@ QVariantList TargetFacts::health() const {
     return items;
 }
 
+QString TargetFacts::healthNote() const {
+    if (!m_analyzer || !m_analyzer->smart())
+        return {};
+    const QString note = legible(QString::fromStdString(m_analyzer->smart()->note));
+    return hasHealth() || note.isEmpty() ? note : tr("No S.M.A.R.T. figures: %1").arg(note);
+}
+
 QVariantList TargetFacts::mountedVolumes() {
     QVariantList items;
     for (const model::VolumeMenuItem& volume : AnalyzerModel::mountedVolumeItems()) {

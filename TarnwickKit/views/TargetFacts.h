@@ -46,6 +46,8 @@ class TargetFacts : public QObject {
     Q_PROPERTY(bool hasHealth READ hasHealth NOTIFY healthChanged)
     Q_PROPERTY(bool isFailing READ isFailing NOTIFY healthChanged)
     Q_PROPERTY(QVariantList health READ health NOTIFY healthChanged)
+    /// Why nothing, or not all, is known of the drive's health; "" where all is, or there is no drive.
+    Q_PROPERTY(QString healthNote READ healthNote NOTIFY healthChanged)
 public:
     using QObject::QObject;
 
@@ -64,6 +66,7 @@ public:
     bool hasHealth() const;
     bool isFailing() const;
     QVariantList health() const;
+    QString healthNote() const;
     Q_SIGNAL void healthChanged();
 
     /// The mounted volumes as they are now, of type VolumeItem. It may take half a second.

@@ -93,6 +93,27 @@ Column {
             }
         }
     }
+    Repeater {
+        model: sections.target.healthNote === "" ? 0 : 1
+
+        Column {
+            width: sections.width
+
+            SidebarDivider {
+                width: parent.width
+                visible: !sections.target.hasHealth
+            }
+            PlainText {
+                x: 4
+                width: parent.width - 8
+                topPadding: 6
+                text: sections.target.healthNote
+                wrapMode: Text.Wrap
+                font: Typeface.text(12)
+                color: PaletteKey.palette.text3
+            }
+        }
+    }
 
     SidebarState {
         id: kept

@@ -1,6 +1,8 @@
 /// The window on a machine that is made up, for tests, pictures and speed: staged-window MACHINE [TEXT]
 ///   drive    a drive with 25 figures of health, several of them a concern, on a volume with a long name
 ///   failing  the same, given up by its own verdict
+///   silent   a drive that gives no figures
+///   partial  two of three disks gave theirs
 ///   blind    a target of whose volume nothing is known
 ///   stream   a run that tells 50 jagged samples a second for a minute and does nothing else
 ///   named    every text that a volume or a drive has of its own is TEXT; its run takes a second
@@ -36,6 +38,15 @@ DiskSMART manyFigures(bool isFailing) {
             {i == 5 ? "Reported uncorrectable errors and some more" : "Figure number " + std::to_string(i),
              i == 6 ? "18,446,744,073,709,551,615 sectors" : std::to_string(i * i * 977), i % 5 == 1});
     smart.attributes.push_back({"Temperature", "41 °C"});
+    return smart;
+}
+
+DiskSMART twoOfThree() {
+    DiskSMART smart{.status = DiskSMART::Status::verified, .kind = "NVMe, ATA", .attributes = {}};
+    smart.note = "2 of 3 disks answered: sdb is asleep and was left alone";
+    smart.attributes = {{"Disks", "2 of 3 disks answered"}, {"nvme0n1 · Status", "Verified"},
+                        {"nvme0n1 · Temperature", "41 °C"}, {"nvme0n1 · Host write commands", "1,234,567"},
+                        {"sda · Status", "Verified"},       {"sda · Reported uncorrectable", "3", true}};
     return smart;
 }
 
@@ -76,8 +87,10 @@ void nameEverything(AnalyzerServices& services, const std::string& text) {
         return capabilities;
     };
     services.readHealth = [text](const auto&) {
-        return DiskSMART{
-            .status = DiskSMART::Status::verified, .kind = text, .attributes = {{text, text, true}}};
+        return DiskSMART{.status = DiskSMART::Status::verified,
+                         .kind = text,
+                         .attributes = {{text, text, true}},
+                         .note = text};
     };
     services.driveIdentity = [name](const auto&) { return TarnwickKit::model::DriveIdentity{name, name}; };
     services.runBenchmark = streamedRun(50);
@@ -93,6 +106,14 @@ AnalyzerServices machine(std::string_view name, const std::string& text) {
             volume->name = QStringLiteral("The drive from the attic that makes that noise, third try ok");
             return volume;
         };
+    } else if (name == "silent") {
+        services.readHealth = [](const auto&) {
+            DiskSMART smart;
+            smart.note = "nvme0n1 may only be asked by an administrator, and <b>UDisks2</b> does not answer";
+            return std::optional(smart);
+        };
+    } else if (name == "partial") {
+        services.readHealth = [](const auto&) { return std::optional(twoOfThree()); };
     } else if (name == "blind") {
         services.loadVolume = [](const auto&) { return std::nullopt; };
         services.probeCapabilities = [](const auto&) { return std::nullopt; };

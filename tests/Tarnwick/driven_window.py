@@ -119,10 +119,22 @@ def refuses_what_it_cannot_use(program, folder):
         check(done.returncode == status and 0 < words.count("\n") < 3, f"{arguments}: {done.returncode} {words}")
 
 
+def tells_why_health_is_missing(program, _folder):
+    staged = pathlib.Path(program).parent / "staged-window"
+    reason = "nvme0n1 may only be asked by an administrator, and <b>UDisks2</b> does not answer"
+    count = "2 of 3 disks answered: sdb is asleep and was left alone"
+    for machine, note, section in (("silent", f"No S.M.A.R.T. figures: {reason}", None), ("partial", count, "S.M.A.R.T.")):
+        with driver.Window(staged, machine) as window:
+            window.find(note)
+            found = window.look("S.M.A.R.T.")
+            check((found and found.get_name()) == section, f"{machine}: the section {found}")
+
+
 if __name__ == "__main__":
     driver.enter_display()
     with driver.fast_folder() as name:
-        for case in (runs_to_the_end, ends_cleanly_in_a_run, goes_by_keyboard, refuses_what_it_cannot_use):
+        for case in (runs_to_the_end, ends_cleanly_in_a_run, goes_by_keyboard, refuses_what_it_cannot_use,
+                     tells_why_health_is_missing):
             print(case.__name__.replace("_", " "), flush=True)
             case(sys.argv[1], pathlib.Path(name))
             nothing_left(pathlib.Path(name))
