@@ -5,6 +5,7 @@
 #include "OndelCore/platform/StartupNotice.h"
 #include "OndelCore/platform/TerminationRequest.h"
 #include "Tarnwick/OpenUrls.h"
+#include "TarnwickKit/model/AnswerLater.h"
 
 #include <QDesktopServices>
 #include <QEventLoop>
@@ -34,6 +35,11 @@ AppDelegate::AppDelegate()
     connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
         notifier->setEnabled(false);
         terminate();
+    });
+    // What other windows of this user have saved meanwhile.
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
+        if (window)
+            m_model.history().refresh();
     });
     // Direct: the session goes on ending when the call returns. Saving the state is no request to end:
     // session managers ask for it right after the start.
@@ -90,9 +96,25 @@ void AppDelegate::endOfSession() {
 }
 
 void AppDelegate::open(const std::vector<std::string>& urls, const std::string& activationToken) {
-    const OpenUrls sorted = OpenUrls::from(urls);
-    if (sorted.isEmpty())
-        return;
+    m_toOpen.push_back({.urls = urls, .action = {}, .activationToken = activationToken});
+    if (m_toOpen.size() == 1)
+        openNext();
+}
+
+/// One request after the other, as they came. Their file systems are asked on another thread.
+void AppDelegate::openNext() {
+    TarnwickKit::model::answerLater(
+        this, [urls = m_toOpen.front().urls] { return OpenUrls::from(urls); },
+        [this](const OpenUrls& sorted) {
+            if (!sorted.isEmpty())
+                open(sorted, m_toOpen.front().activationToken);
+            m_toOpen.pop_front();
+            if (!m_toOpen.empty())
+                openNext();
+        });
+}
+
+void AppDelegate::open(const OpenUrls& sorted, const std::string& activationToken) {
     // The target must not change under a run.
     if (sorted.folder && !m_model.isRunning())
         m_model.select(*sorted.folder);

@@ -15,8 +15,11 @@
 #include <QWindow>
 #include <QtQml/qqmlregistration.h>
 
+#include <deque>
 #include <string>
 #include <vector>
+
+struct OpenUrls;
 
 /// The application's life: owns the one model, takes what the desktop asks for, and holds the process back
 /// from ending while a benchmark still has files on somebody's disk. Threads: main.
@@ -60,7 +63,7 @@ public:
 
     /// Opens what a list of URLs holds: the first folder becomes the target unless a run goes on, each run
     /// file is added to the history, anything else is ignored. The application comes to the front if there
-    /// was any of the two.
+    /// was any of the two. All of it follows later, from the event loop: file systems may take their time.
     void open(const std::vector<std::string>& urls, const std::string& activationToken = {});
     /// The same for what was dropped on the window.
     Q_INVOKABLE void drop(const QList<QUrl>& urls);
@@ -76,6 +79,8 @@ public:
 private:
     OndelAppSupport::UpdaterEnvironment updaterEnvironment();
     bool answer(const OndelCore::platform::OpenRequest& request);
+    void open(const OpenUrls& sorted, const std::string& activationToken);
+    void openNext();
     void endOfSession();
 
     TarnwickKit::views::Dialogs m_dialogs;
@@ -87,4 +92,5 @@ private:
     QFutureWatcher<void> m_end;
     bool m_terminating = false;
     QPointer<QWindow> m_window;
+    std::deque<OndelCore::platform::OpenRequest> m_toOpen;
 };

@@ -3,6 +3,7 @@
 #include "OndelCore/platform/UnifiedLog.h"
 #include "Tarnwick/OpenUrls.h"
 #include "Tarnwick/Product.h"
+#include "TarnwickKit/model/DisplayText.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -56,9 +57,8 @@ std::optional<int> CommandLine::answerWithoutWindow(int argc, char** argv) {
 
 std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
     CommandLine line;
+    std::vector<const char*> words;
     bool optionsHaveEnded = false;
-    // A desktop that starts the program keeps what it says in the log, where no file's name belongs.
-    const bool isLogged = OndelCore::platform::isStandardErrorLogged();
     for (const char* word : wordsOf(argc, argv)) {
         if (!optionsHaveEnded && std::string_view(word) == "--") {
             optionsHaveEnded = true;
@@ -66,11 +66,15 @@ std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
             std::fputs(usage, stderr);
             return std::nullopt;
         } else {
+            words.push_back(word);
             line.urls.push_back(urlOf(word));
-            if (!isLogged && OpenUrls::from({line.urls.back()}).isEmpty())
-                std::fprintf(stderr, "tarnwick: %s is not a folder or a run file that can be opened.\n",
-                             word);
         }
     }
+    // A desktop that starts the program keeps what it says in the log, where no file's name belongs.
+    if (OndelCore::platform::isStandardErrorLogged())
+        return line;
+    for (const std::size_t place : OpenUrls::from(line.urls).ignored)
+        std::fprintf(stderr, "tarnwick: %s is not a folder or a run file that can be opened.\n",
+                     TarnwickKit::model::quoted(words[place]).c_str());
     return line;
 }

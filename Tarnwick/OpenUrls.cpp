@@ -7,6 +7,8 @@
 #include <QString>
 #include <QSysInfo>
 
+#include <chrono>
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -56,18 +58,24 @@ std::string fileUrl(const fs::path& path) {
 
 OpenUrls OpenUrls::from(const std::vector<std::string>& urls) {
     using namespace OndelCore::platform;
+    using Clock = std::chrono::steady_clock;
+    constexpr std::chrono::seconds patienceWithAll(2);
+    const auto end = Clock::now() + patienceWithAll;
     OpenUrls sorted;
-    for (const std::string& url : urls) {
-        const auto path = localPath(url);
-        if (!path)
-            continue;
-        const auto folder = answerWithin(volumePatience, [path] { return folderAt(*path); });
-        if (!folder && isRunFile(*path))
-            continue; // reading it would hang as well
-        if (!sorted.folder)
-            sorted.folder = folder.value_or(path);
-        if (isRunFile(*path))
+    for (std::size_t place = 0; place < urls.size(); ++place) {
+        const auto path = localPath(urls[place]);
+        const bool isRun = path && isRunFile(*path);
+        if (isRun)
             sorted.runs.push_back(*path);
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
+        const auto answer =
+            path && left.count() > 0 ? answerWithin(left, [path] { return folderAt(*path); }) : std::nullopt;
+        const bool mayBeFolder = path && !isRun && !answer;
+        const auto folder = mayBeFolder ? path : answer.value_or(std::nullopt);
+        if (folder && !sorted.folder)
+            sorted.folder = folder;
+        if (!folder && !isRun)
+            sorted.ignored.insert(place);
     }
     return sorted;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,13 +15,14 @@ std::optional<std::filesystem::path> localPath(std::string_view url);
 /// The URL of an absolute path.
 std::string fileUrl(const std::filesystem::path& path);
 
-/// A list of URLs sorted by what they mean here. What is neither folder nor run file is left out.
+/// A list of URLs sorted by what they mean here.
 struct OpenUrls {
     std::optional<std::filesystem::path> folder; ///< the first of the list, without symbolic links
     std::vector<std::filesystem::path> runs; ///< in the order of the list; what they hold is not looked at
+    std::set<std::size_t> ignored;           ///< places in the list of what is neither of both
 
-    /// Blocks on the file system, for half a second at most for each URL. On one that hangs a run file is
-    /// left out, and anything else counts as a folder.
+    /// Threads: any; blocks on the file system, for two seconds at most. What has not been answered by then
+    /// is a run file if it is named like one; of the others the first counts as a folder.
     static OpenUrls from(const std::vector<std::string>& urls);
 
     bool isEmpty() const { return !folder && runs.empty(); }

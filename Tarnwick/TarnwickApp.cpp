@@ -14,8 +14,11 @@
 #include <QTimer>
 
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
+#include <string>
 
+using OndelCore::platform::HandOver;
 using OndelCore::platform::OpenRequest;
 using OndelCore::platform::OpenRequests;
 using TarnwickKit::model::AnalyzerModel;
@@ -55,14 +58,31 @@ int TarnwickApp::run(int argc, char** argv) {
     if (!commandLine)
         return 2;
     start.urls = commandLine->urls;
-    if (requests.handOver(start, handOverPatience))
-        return EXIT_SUCCESS;
+    if (const auto status = handOver(requests, start))
+        return *status;
 
     TarnwickApp app(requests);
     if (!app.declareScenes())
         return EXIT_FAILURE;
     QTimer::singleShot(0, [&] { app.finishLaunching(start); });
     return QApplication::exec();
+}
+
+/// The process's status, if there is another one to do what this start was asked for.
+std::optional<int> TarnwickApp::handOver(OpenRequests& requests, const OpenRequest& start) {
+    const auto [outcome, process] = requests.handOver(start, handOverPatience);
+    if (outcome == HandOver::Outcome::nobodyElse)
+        return std::nullopt;
+    if (outcome == HandOver::Outcome::taken)
+        return EXIT_SUCCESS;
+    // It keeps the name, and with it what it was sent, until it wakes or ends.
+    const std::string who = process ? " (process " + std::to_string(*process) + ")" : std::string();
+    std::fprintf(
+        stderr,
+        "tarnwick: the window that is already open%s does not answer; it will do what was asked as soon "
+        "as it can.\n",
+        who.c_str());
+    return EXIT_FAILURE;
 }
 
 void TarnwickApp::prepare() {

@@ -5,6 +5,8 @@
 
 #include <QQmlApplicationEngine>
 
+#include <optional>
+
 /// The application as it is started: the order of what it is made of. Threads: main.
 class TarnwickApp {
 public:
@@ -26,6 +28,8 @@ public:
 private:
     /// Identity and fonts, which the delegate and the views are made with.
     static void prepare();
+    static std::optional<int> handOver(OndelCore::platform::OpenRequests& requests,
+                                       const OndelCore::platform::OpenRequest& start);
 
     OndelCore::platform::OpenRequests& m_requests;
     AppDelegate m_delegate;

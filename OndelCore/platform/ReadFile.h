@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
 
 namespace OndelCore::platform {
 
@@ -12,5 +13,10 @@ namespace OndelCore::platform {
 /// Threads: any; blocks on the file system. Fails: absent, also for a file of more than `most` bytes and for
 /// one that changes its length meanwhile.
 std::optional<std::string> readRegularFile(const std::filesystem::path& path, std::size_t most);
+
+/// The same; `error` says why there is no content: std::errc::not_supported for what is no regular file,
+/// file_too_large, resource_unavailable_try_again for a length that changes, else the system's own.
+std::optional<std::string> readRegularFile(const std::filesystem::path& path, std::size_t most,
+                                           std::error_code& error);
 
 } // namespace OndelCore::platform

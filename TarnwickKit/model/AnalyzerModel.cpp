@@ -47,6 +47,8 @@ AnalyzerModel::AnalyzerModel(AnalyzerServices services, QObject* parent)
     connect(this, &AnalyzerModel::randomBlockChanged, this, &AnalyzerModel::liveTestTitleChanged);
     connect(this, &AnalyzerModel::liveTestChanged, this, &AnalyzerModel::liveTestTitleChanged);
     connect(m_history.get(), &HistoryStore::runsChanged, this, &AnalyzerModel::previousRunsChanged);
+    connect(m_history.get(), &HistoryStore::runsChanged, this, &AnalyzerModel::forgetMissingRuns);
+    connect(m_history.get(), &HistoryStore::renamedElsewhere, this, &AnalyzerModel::showTitle);
     connect(this, &AnalyzerModel::currentRunChanged, this, &AnalyzerModel::previousRunsChanged);
 }
 

@@ -11,6 +11,7 @@
 #include "TarnwickKit/model/HistoryStore.h"
 #include "TarnwickKit/model/LatestAnswer.h"
 #include "TarnwickKit/model/ProgressStream.h"
+#include "TarnwickKit/model/RunFile.h"
 #include "TarnwickKit/model/RunRecord.h"
 #include "TarnwickKit/model/VolumeMenuItem.h"
 
@@ -195,7 +196,8 @@ public:
     /// Reads a run file into the history and, unless a run goes on, shows it.
     /// Fails: false, with a line in the log and nothing changed.
     bool importRun(const std::filesystem::path& file);
-    /// The same for each, in their order. The last one that can be read stays on view.
+    /// The same for each, in their order, with one change of the history. The last one that can be read stays
+    /// on view. The files are read on another thread and taken in later, from the event loop.
     void importRuns(const std::vector<std::filesystem::path>& files);
 
     // --- Comparison
@@ -244,6 +246,10 @@ private:
     void refreshSMART();
     void setSMART(std::optional<OndelCore::health::DiskSMART> smart);
     void setCurrentRun(std::optional<RunRecord> run);
+    void importWaitingRuns();
+    void takeImported(const ImportedRuns& imported);
+    void forgetMissingRuns();
+    void showTitle(const QUuid& id, const std::optional<QString>& title);
     void setComparison(std::optional<std::vector<RunRecord>> runs);
     void setCompareMode(bool mode);
     void clearCompareSelection();
@@ -294,6 +300,9 @@ private:
     std::set<QUuid> m_compareSelection;
     std::optional<std::vector<RunRecord>> m_comparison;
     std::unique_ptr<HistoryStore> m_history;
+    std::vector<std::filesystem::path> m_filesToImport;
+    bool m_isImporting = false;
+    ImportedRuns m_imported; ///< read and not yet taken in
 };
 
 } // namespace TarnwickKit::model

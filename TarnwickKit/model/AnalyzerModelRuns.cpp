@@ -2,9 +2,9 @@
 
 #include "OndelCore/logging/Log.h"
 #include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/model/AnswerLater.h"
 #include "TarnwickKit/model/PropertyChange.h"
 #include "TarnwickKit/model/RunFile.h"
-#include "TarnwickKit/model/RunRecordJson.h"
 
 #include <algorithm>
 #include <utility>
@@ -66,6 +66,10 @@ void AnalyzerModel::deleteRun(const QUuid& id) {
 void AnalyzerModel::renameRun(const QUuid& id, const QString& text) {
     const std::optional<QString> title = RunRecord::customTitleFrom(text);
     m_history->setTitle(title, id);
+    showTitle(id, title);
+}
+
+void AnalyzerModel::showTitle(const QUuid& id, const std::optional<QString>& title) {
     if (m_currentRun && m_currentRun->id == id) {
         RunRecord renamed = *m_currentRun;
         renamed.customTitle = title;
@@ -91,29 +95,60 @@ void AnalyzerModel::clearHistory() {
 }
 
 bool AnalyzerModel::importRun(const std::filesystem::path& file) {
-    const auto content = readRunFile(file);
-    const auto run = content ? decodeRun(*content) : std::nullopt;
-    if (!run) {
-        Log::app.error("run from another app couldn't be read");
-        return false;
-    }
-    m_history->add(*run);
-    const bool isShown = !isRunning();
-    Log::app.notice("run imported", LogField::bool_("shown", isShown));
-    if (isShown) {
-        setCurrentRun(run);
-        setCurrentRunCollapsed(false);
-        setResult(std::nullopt);
-        setComparison(std::nullopt);
-        setPhase(Phase::Done);
-    }
-    return true;
+    const ImportedRuns imported = ImportedRuns::from({file});
+    takeImported(imported);
+    return imported.last.has_value();
 }
 
 void AnalyzerModel::importRuns(const std::vector<std::filesystem::path>& files) {
-    const HistoryStore::OneSave oneSave(*m_history);
-    for (const std::filesystem::path& file : files)
-        importRun(file);
+    if (files.empty())
+        return;
+    m_filesToImport.insert(m_filesToImport.end(), files.begin(), files.end());
+    if (!m_isImporting)
+        importWaitingRuns();
+}
+
+/// What comes while files are being read is read behind them, in the order of the requests, and all of it
+/// taken in together.
+void AnalyzerModel::importWaitingRuns() {
+    m_isImporting = true;
+    answerLater(
+        this, [files = std::exchange(m_filesToImport, {})] { return ImportedRuns::from(files); },
+        [this](const ImportedRuns& imported) {
+            m_imported.append(imported);
+            m_isImporting = !m_filesToImport.empty();
+            if (m_isImporting)
+                importWaitingRuns();
+            else
+                takeImported(std::exchange(m_imported, {}));
+        });
+}
+
+void AnalyzerModel::takeImported(const ImportedRuns& imported) {
+    m_history->add(imported.runs);
+    const bool isShown = !isRunning();
+    for (std::size_t run = 0; run < imported.readable; ++run)
+        Log::app.notice("run imported", LogField::bool_("shown", isShown));
+    for (std::size_t run = 0; run < imported.unreadable; ++run)
+        Log::app.error("run from another app couldn't be read");
+    if (!isShown || !imported.last)
+        return;
+    setCurrentRun(imported.last);
+    setCurrentRunCollapsed(false);
+    setResult(std::nullopt);
+    setComparison(std::nullopt);
+    setPhase(Phase::Done);
+}
+
+void AnalyzerModel::forgetMissingRuns() {
+    const auto isMissing = [this](const QUuid& id) {
+        return !(m_currentRun && m_currentRun->id == id) &&
+               std::ranges::none_of(m_history->runs(), hasId(id));
+    };
+    if (std::erase_if(m_expandedRunIDs, isMissing) > 0)
+        Q_EMIT expandedRunIDsChanged();
+    if (std::erase_if(m_compareSelection, isMissing) > 0)
+        Q_EMIT compareSelectionChanged();
 }
 
 void AnalyzerModel::setCompareMode(bool mode) {

@@ -59,6 +59,14 @@ public:
     /// Nothing but blanks may follow.
     void end();
 
+    /// Where the next value, or what follows the last one, begins in the text.
+    std::size_t position() const { return m_at; }
+    /// Reads on from there as if nothing had been read, also after a failure.
+    void goTo(std::size_t position) {
+        m_at = position;
+        m_depth = 0;
+    }
+
 private:
     class Nesting {
     public:

@@ -223,4 +223,24 @@ std::optional<std::vector<RunRecord>> decodeRuns(QByteArrayView text) {
     });
 }
 
+/// Wherever an object begins, a run may: damage can hide where the one before it ends. Objects nest 64 deep
+/// at most, so that no text is read more often than that.
+std::vector<RunRecord> recoverRuns(QByteArrayView text) {
+    std::vector<RunRecord> runs;
+    if (static_cast<std::size_t>(text.size()) > maxRunFileBytes)
+        return runs;
+    const std::string mended = QString::fromUtf8(text).toStdString();
+    JsonReader json(mended);
+    for (auto at = mended.find('{'); at != std::string::npos; at = mended.find('{', at)) {
+        json.goTo(at);
+        try {
+            runs.push_back(readRun(json));
+            at = json.position();
+        } catch (const JsonError&) {
+            ++at;
+        }
+    }
+    return runs;
+}
+
 } // namespace TarnwickKit::model

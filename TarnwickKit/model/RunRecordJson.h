@@ -26,5 +26,8 @@ std::optional<QByteArray> encodeRun(const RunRecord& run);
 std::optional<RunRecord> decodeRun(QByteArrayView json);
 /// An array of runs.
 std::optional<std::vector<RunRecord>> decodeRuns(QByteArrayView json);
+/// The runs that can still be read in a damaged array, in their order. Text that is no UTF-8 reads as
+/// replacement characters. Fails: empty.
+std::vector<RunRecord> recoverRuns(QByteArrayView json);
 
 } // namespace TarnwickKit::model

@@ -141,7 +141,14 @@ Column {
         }
     }
 
-    // Rows in sight are made at once, those that come next between frames.
+    // Rows in sight are made at once, those that come next between frames, as all are where many are exchanged.
+    Connections {
+        target: section.runs
+
+        function onModelAboutToBeReset(): void {
+            section.made = 0;
+        }
+    }
     Connections {
         target: section.made < Math.min(section.runs.count, Assistance.active ? Infinity : section.seen + section.ahead)
                 ? section.Window.window : null

@@ -1,6 +1,8 @@
 #include "TarnwickKit/views/StoredRuns.h"
 
 #include <algorithm>
+#include <iterator>
+#include <ranges>
 
 namespace TarnwickKit::views {
 
@@ -55,27 +57,46 @@ void StoredRuns::removeAllBut(const std::vector<RunRecord>& runs) {
 void StoredRuns::refresh() {
     std::vector<RunRecord> now = m_analyzer ? m_analyzer->previousRuns() : std::vector<RunRecord>{};
     const int before = count();
-    removeAllBut(now);
-    for (std::size_t row = 0; row < now.size(); ++row) {
-        const int at = static_cast<int>(row);
-        if (row < m_runs.size() && m_runs[row].id == now[row].id) {
-            if (m_runs[row] == now[row])
-                continue;
-            m_runs[row] = now[row];
-            Q_EMIT dataChanged(index(at), index(at), {RunRole});
-        } else if (std::ranges::find(m_runs, now[row].id, &RunRecord::id) == m_runs.end()) {
-            beginInsertRows({}, at, at);
-            m_runs.insert(m_runs.begin() + at, now[row]);
-            endInsertRows();
-        } else { // in another order, which a history never takes by itself
-            beginResetModel();
-            m_runs = std::move(now);
-            endResetModel();
-            break;
-        }
+    if (isFarFrom(now)) {
+        beginResetModel();
+        m_runs = std::move(now);
+        endResetModel();
+    } else {
+        removeAllBut(now);
+        insertAndChange(now);
     }
     if (count() != before)
         Q_EMIT countChanged();
+}
+
+/// Whether views do better to begin anew: more has come than they make at once, or the order is another.
+bool StoredRuns::isFarFrom(const std::vector<RunRecord>& now) const {
+    constexpr std::ptrdiff_t few = 4;
+    const auto isIn = [](const std::vector<RunRecord>& runs) {
+        return [&runs](const RunRecord& run) {
+            return std::ranges::find(runs, run.id, &RunRecord::id) != runs.end();
+        };
+    };
+    std::vector<QUuid> kept, keptNow;
+    for (const RunRecord& run : m_runs | std::views::filter(isIn(now)))
+        kept.push_back(run.id);
+    for (const RunRecord& run : now | std::views::filter(isIn(m_runs)))
+        keptNow.push_back(run.id);
+    return std::ssize(now) - std::ssize(keptNow) > few || kept != keptNow;
+}
+
+void StoredRuns::insertAndChange(const std::vector<RunRecord>& now) {
+    for (std::size_t row = 0; row < now.size(); ++row) {
+        const int at = static_cast<int>(row);
+        if (row >= m_runs.size() || m_runs[row].id != now[row].id) {
+            beginInsertRows({}, at, at);
+            m_runs.insert(m_runs.begin() + at, now[row]);
+            endInsertRows();
+        } else if (m_runs[row] != now[row]) {
+            m_runs[row] = now[row];
+            Q_EMIT dataChanged(index(at), index(at), {RunRole});
+        }
+    }
 }
 
 void StoredRuns::announce(Role role) {

@@ -12,7 +12,7 @@
 namespace TarnwickKit::views {
 
 /// The model's previous runs as a list for views, newest first. Runs that come and go are told one by one, so
-/// that the rows of the others stay as they are.
+/// that the rows of the others stay as they are, and many that come at once as a new list.
 ///
 /// Roles: `run`, whether its row is `expanded`, whether it is `picked` for a comparison.
 class StoredRuns : public QAbstractListModel {
@@ -54,6 +54,8 @@ public:
 
 private:
     void refresh();
+    bool isFarFrom(const std::vector<model::RunRecord>& now) const;
+    void insertAndChange(const std::vector<model::RunRecord>& now);
     void removeAllBut(const std::vector<model::RunRecord>& runs);
     void announce(Role role);
 

@@ -1,7 +1,5 @@
 #include "examples/host/CommandLine.h"
 
-#include <QString>
-
 #include <algorithm>
 
 namespace examples::host {
@@ -55,17 +53,6 @@ void CommandLine::takeOption(std::span<const Option> options, std::span<const ch
 std::optional<std::string_view> CommandLine::value(std::string_view option) const {
     const auto found = m_values.find(option);
     return found == m_values.end() ? std::nullopt : std::optional(found->second);
-}
-
-std::string quoted(std::string_view typed) {
-    constexpr qsizetype longest = 200;
-    QString text = QString::fromUtf8(typed);
-    for (QChar& character : text)
-        if (!character.isPrint() && !character.isSurrogate())
-            character = QChar::ReplacementCharacter;
-    if (text.size() > longest)
-        text = text.first(longest) + QChar(0x2026);
-    return "'" + text.toStdString() + "'";
 }
 
 } // namespace examples::host

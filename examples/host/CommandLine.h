@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TarnwickKit/model/DisplayText.h"
+
 #include <map>
 #include <optional>
 #include <span>
@@ -9,6 +11,8 @@
 #include <vector>
 
 namespace examples::host {
+
+using TarnwickKit::model::quoted;
 
 /// The program was called wrongly. `what` is one line for people, without the program's name.
 class UsageError : public std::runtime_error {
@@ -47,9 +51,5 @@ private:
     std::vector<std::string_view> m_operands;
     bool m_wantsHelp = false;
 };
-
-/// What a person typed, in quotes and on one line: control characters and bytes that are no UTF-8 are
-/// replaced by marks.
-std::string quoted(std::string_view typed);
 
 } // namespace examples::host

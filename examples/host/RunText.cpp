@@ -1,8 +1,8 @@
 #include "examples/host/RunText.h"
 
 #include "TarnwickKit/model/Comparison.h"
+#include "TarnwickKit/model/DisplayText.h"
 #include "TarnwickKit/model/Format.h"
-#include "examples/host/DisplayText.h"
 
 #include <QStringList>
 

@@ -1,9 +1,9 @@
 #include "OndelCore/health/DiskHealth.h"
 #include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickKit/model/DisplayText.h"
 #include "TarnwickKit/model/DriveInfo.h"
 #include "TarnwickKit/model/SMARTReport.h"
 #include "examples/host/Command.h"
-#include "examples/host/DisplayText.h"
 #include "examples/host/Folder.h"
 #include "examples/host/Output.h"
 
@@ -13,6 +13,7 @@ using OndelCore::health::DiskHealth;
 using OndelCore::volumes::Location;
 using OndelCore::volumes::VolumeInfo;
 using TarnwickKit::model::DriveInfo;
+using TarnwickKit::model::harmless;
 using TarnwickKit::model::SMARTReport;
 
 namespace examples::host {

@@ -1,8 +1,11 @@
 #include "examples/host/TextColumns.h"
 
-#include "examples/host/DisplayText.h"
+#include "TarnwickKit/model/DisplayText.h"
 
 #include <algorithm>
+
+using TarnwickKit::model::columnsOf;
+using TarnwickKit::model::harmless;
 
 namespace examples::host {
 

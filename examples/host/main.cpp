@@ -1,7 +1,7 @@
 // tarnwick-host: a host application on the library's public surface, for terminals and scripts.
 
+#include "TarnwickKit/model/DisplayText.h"
 #include "examples/host/Command.h"
-#include "examples/host/DisplayText.h"
 #include "examples/host/Output.h"
 
 #include <algorithm>
@@ -11,6 +11,7 @@
 #include <string>
 
 using namespace examples::host;
+using TarnwickKit::model::columnsOf;
 
 namespace {
 

@@ -21,9 +21,9 @@ NAME, OBJECT = "tools.ondel.tarnwick", "/tools/ondel/tarnwick"
 TITLE = "^Ondel Tarnwick$"
 
 
-def run_file(folder, index, name=None):
+def run_file(folder, index, name=None, **fields):
     path = folder / (name or f"{index}.tarnwickrun")
-    path.write_text(json.dumps(saved_runs.run(index, customTitle=f"Run {index}")))
+    path.write_text(json.dumps(saved_runs.run(index, customTitle=f"Run {index}", **fields)))
     return path
 
 
@@ -64,14 +64,49 @@ def two_starts_give_one_window(program, folder):
         check(stays.wait(driver.GUARD_SECONDS) == 0, "the one that stayed does not end quietly")
 
 
-def starts_beside_one_that_hangs(program, folder):
+def ended(program, *arguments):
+    """Status and words of a start that is to end by itself."""
+    with child(program, *arguments, stderr=subprocess.PIPE) as start:
+        words = start.communicate(timeout=driver.GUARD_SECONDS)[1].decode()
+        return start.returncode, words
+
+
+def stored():
+    """Titles of the history's runs, newest first."""
+    return [run["customTitle"] for run in saved_runs.stored()]
+
+
+def many_runs_come_in_one_go(program, folder):
+    """More files than the history keeps, and another start right behind them."""
+    files = [run_file(folder, index, date="2026-01-01T00:00:00Z") for index in range(400)]
+    with driver.Window(program) as window:
+        window.find("Choose a volume to begin")
+        for given in files, [run_file(folder, 400, "last.tarnwickrun", date="2026-01-01T00:00:00Z")]:
+            told = ended(program, *given)
+            check(told == (0, ""), f"a second start ended with {told}")
+        shows_run(window, 400)
+        check(len(driver.windows(TITLE)) == 1, "a second window")
+        check(stored() == [f"Run {index}" for index in range(400, 350, -1)], f"stored: {stored()}")
+        check(window.terminate() == (0, ""), "it does not end quietly")
+    with driver.Window(program, *files[:120]) as window:
+        shows_run(window, 119)
+        check(stored()[0] == "Run 119" and len(stored()) == 50, f"stored from the start: {stored()}")
+        check(window.terminate() == (0, ""), "it does not end quietly")
+
+
+def waits_for_one_that_stands_still(program, folder):
+    """Its window may be out of sight, but it is the one that everybody asks."""
     with driver.Window(program) as first:
         first.process.send_signal(signal.SIGSTOP)
-        with driver.Window(program, folder) as second:
-            second.find("Ready to benchmark")
-            first.process.send_signal(signal.SIGCONT)
-            check(second.terminate() == (0, ""), "the second does not end quietly")
+        status, words = ended(program, folder)
+        check(status == 1 and words.count("\n") == 1 and f"process {first.process.pid}" in words, f"it ended with {status}: {words}")
+        check(len(driver.windows(TITLE)) == 1, "a second window")
+        first.process.send_signal(signal.SIGCONT)
+        first.find("Ready to benchmark")
         check(first.terminate() == (0, ""), "the first does not end quietly")
+
+
+def starts_without_a_bus(program, folder):
     with socket.socket(socket.AF_UNIX) as deaf:  # takes connections, as long as nobody looks, and never answers
         deaf.bind(f"{folder}/bus")
         deaf.listen()
@@ -295,7 +330,8 @@ def ends_in_every_phase(program, folder):
 if __name__ == "__main__":
     driver.enter_display()
     program, source, *only = sys.argv[1:]
-    for case in (two_starts_give_one_window, starts_beside_one_that_hangs, opens_what_it_is_given, goes_by_menu,
+    for case in (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_one_that_stands_still,
+                 starts_without_a_bus, opens_what_it_is_given, goes_by_menu,
                  ends_the_desktops_waiting, tells_the_desktop_of_runs, ends_in_every_phase, leaves_nothing_without_a_display,
                  takes_what_is_dropped):
         if only and case.__name__ not in only:

@@ -67,8 +67,16 @@ def odd_runs():
             run(13, volumeName="V" * 255, sizeLabel="Fill disk", fsType="fuse.something-rather-long")]
 
 
+def history(data_home=None):
+    return pathlib.Path(data_home or os.environ["XDG_DATA_HOME"], "tools.ondel.tarnwick", "history.json")
+
+
 def lay_down(runs, data_home=None):
     """Writes them as the history of the programs that start from now on."""
-    folder = pathlib.Path(data_home or os.environ["XDG_DATA_HOME"], "tools.ondel.tarnwick")
-    folder.mkdir(parents=True, exist_ok=True)
-    pathlib.Path(folder, "history.json").write_text(json.dumps(runs, ensure_ascii=False), encoding="utf-8")
+    file = history(data_home)
+    file.parent.mkdir(parents=True, exist_ok=True)
+    file.write_text(json.dumps(runs, ensure_ascii=False), encoding="utf-8")
+
+
+def stored():
+    return json.loads(history().read_text(encoding="utf-8"))

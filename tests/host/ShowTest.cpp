@@ -1,5 +1,5 @@
+#include "TarnwickKit/model/DisplayText.h"
 #include "TarnwickKit/model/Format.h"
-#include "examples/host/DisplayText.h"
 #include "examples/host/RunText.h"
 #include "host/HostProcess.h"
 

@@ -7,6 +7,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QTimer>
 
 #include <utility>
 
@@ -41,11 +42,22 @@ QDBusMessage answerTo(const QDBusPendingCall& call) {
     return watcher.reply();
 }
 
+/// Before a question is put again that has just been refused.
+void pause() {
+    QEventLoop loop;
+    QTimer::singleShot(std::chrono::milliseconds(20), &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 QVariantMap platformData(const OpenRequest& request) {
     if (request.activationToken.empty())
         return {};
     const QString token = QString::fromStdString(request.activationToken);
     return {{activationToken, token}, {startupId, token}};
+}
+
+std::string usable(std::string token) {
+    return token.size() <= OpenRequests::longestToken ? std::move(token) : std::string();
 }
 
 } // namespace
@@ -70,7 +82,9 @@ bool OpenRequestsDoor::ownsName() {
     return answer.type() != QDBusMessage::ReplyMessage || answer.arguments().value(0).toUInt() != exists;
 }
 
-QDBusMessage OpenRequestsDoor::messageFor(const OpenRequest& request) const {
+/// A list of more URLs than one message may have goes in several; the first has the token, which is good for
+/// once.
+std::vector<QDBusMessage> OpenRequestsDoor::messagesFor(const OpenRequest& request) const {
     const auto call = [this](const QString& method, const QVariantList& arguments) {
         auto message = QDBusMessage::createMethodCall(m_name, m_path, interface, method);
         message.setArguments(arguments);
@@ -78,18 +92,41 @@ QDBusMessage OpenRequestsDoor::messageFor(const OpenRequest& request) const {
         return message;
     };
     if (!request.action.empty())
-        return call(QStringLiteral("ActivateAction"),
-                    {QString::fromStdString(request.action), QVariantList(), platformData(request)});
+        return {call(QStringLiteral("ActivateAction"),
+                     {QString::fromStdString(request.action), QVariantList(), platformData(request)})};
     if (request.urls.empty())
-        return call(QStringLiteral("Activate"), {platformData(request)});
+        return {call(QStringLiteral("Activate"), {platformData(request)})};
+    std::vector<QDBusMessage> messages;
     QStringList urls;
-    for (const std::string& url : request.urls)
+    for (const std::string& url : request.urls) {
         urls.append(QString::fromStdString(url));
-    return call(QStringLiteral("Open"), {urls, platformData(request)});
+        const bool isLast = &url == &request.urls.back();
+        if (!isLast && static_cast<std::size_t>(urls.size()) < OpenRequests::mostUrls)
+            continue;
+        messages.push_back(
+            call(QStringLiteral("Open"),
+                 {std::exchange(urls, {}), messages.empty() ? platformData(request) : QVariantMap()}));
+    }
+    return messages;
 }
 
-QDBusMessage OpenRequestsDoor::send(const OpenRequest& request, std::chrono::milliseconds patience) {
-    return answerTo(m_bus.asyncCall(messageFor(request), static_cast<int>(patience.count())));
+/// All are sent before the first is answered: whoever stands still has all of them when it wakes.
+QDBusError OpenRequestsDoor::send(const OpenRequest& request, std::chrono::milliseconds patience) {
+    std::vector<QDBusPendingCall> calls;
+    for (const QDBusMessage& message : messagesFor(request))
+        calls.push_back(m_bus.asyncCall(message, static_cast<int>(patience.count())));
+    QDBusError error;
+    for (const QDBusPendingCall& call : calls)
+        if (const QDBusError refusal(answerTo(call)); refusal.isValid())
+            error = refusal;
+    return error;
+}
+
+std::optional<std::uint32_t> OpenRequestsDoor::owner() {
+    const QDBusMessage answer =
+        answerTo(askBus(m_bus, QStringLiteral("GetConnectionUnixProcessID"), {m_name}));
+    return answer.type() == QDBusMessage::ReplyMessage ? std::optional(answer.arguments().value(0).toUInt())
+                                                       : std::nullopt;
 }
 
 void OpenRequestsDoor::deliverTo(OpenRequests::Take take) {
@@ -107,8 +144,10 @@ void OpenRequestsDoor::close() {
 void OpenRequestsDoor::Activate(const QVariantMap& platformData) { accept({}, platformData); }
 
 void OpenRequestsDoor::Open(const QStringList& uris, const QVariantMap& platformData) {
+    constexpr qsizetype most = OpenRequests::mostUrls;
+    const QStringList taken = uris.size() > most ? uris.first(most / 2) + uris.last(most - most / 2) : uris;
     OpenRequest request;
-    for (const QString& uri : uris)
+    for (const QString& uri : taken)
         request.urls.push_back(uri.toStdString());
     accept(std::move(request), platformData);
 }
@@ -121,7 +160,7 @@ void OpenRequestsDoor::ActivateAction(const QString& action, const QVariantList&
 void OpenRequestsDoor::accept(OpenRequest request, const QVariantMap& platformData) {
     for (const QString& key : {activationToken, startupId})
         if (request.activationToken.empty())
-            request.activationToken = platformData.value(key).toString().toStdString();
+            request.activationToken = usable(platformData.value(key).toString().toStdString());
     if (m_isClosed)
         sendErrorReply(QDBusError::ServiceUnknown, QStringLiteral("The application is ending."));
     else if (!m_take)
@@ -140,21 +179,23 @@ OpenRequests::~OpenRequests() = default;
 
 std::string OpenRequests::activationTokenOfStart() {
     const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
-    return (token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token).toStdString();
+    return usable((token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token).toStdString());
 }
 
-bool OpenRequests::handOver(const OpenRequest& request, std::chrono::milliseconds patience) {
-    if (!m_door)
-        return false;
+HandOver OpenRequests::handOver(const OpenRequest& request, std::chrono::milliseconds patience) {
+    using Outcome = HandOver::Outcome;
     const QDeadlineTimer end(patience);
     // One that is just ending refuses; its name is then free for this process, unless a third one was faster.
-    for (int attempt = 0; attempt < 10 && !end.hasExpired() && !m_door->ownsName(); ++attempt) {
-        const QDBusError refusal(m_door->send(request, std::chrono::milliseconds(end.remainingTime())));
+    while (m_door && !m_door->ownsName()) {
+        if (end.hasExpired())
+            return {Outcome::noAnswer, m_door->owner()};
+        const QDBusError refusal = m_door->send(request, std::chrono::milliseconds(end.remainingTime()));
         if (!refusal.isValid() || refusal.type() == QDBusError::InvalidArgs)
-            return true;
+            return {Outcome::taken, {}};
+        pause();
         m_door->askForName();
     }
-    return false;
+    return {Outcome::nobodyElse, {}};
 }
 
 void OpenRequests::deliverTo(Take take) {

@@ -4,6 +4,7 @@
 
 #include <QDBusConnection>
 #include <QDBusContext>
+#include <QDBusError>
 #include <QDBusPendingCall>
 #include <QObject>
 #include <QVariantMap>
@@ -26,8 +27,10 @@ public:
     bool ownsName();
     /// Asks once more, after the owner has gone.
     void askForName();
-    /// Fails: an error reply, also when nobody has the name.
-    QDBusMessage send(const OpenRequest& request, std::chrono::milliseconds patience);
+    /// Fails: the error of the reply that came last, also when nobody has the name.
+    QDBusError send(const OpenRequest& request, std::chrono::milliseconds patience);
+    /// Fails: absent.
+    std::optional<std::uint32_t> owner();
     void deliverTo(OpenRequests::Take take);
     void close();
 
@@ -39,7 +42,7 @@ public:
 private:
     void accept(OpenRequest request, const QVariantMap& platformData);
 
-    QDBusMessage messageFor(const OpenRequest& request) const;
+    std::vector<QDBusMessage> messagesFor(const OpenRequest& request) const;
 
     QDBusConnection m_bus;
     QString m_name;

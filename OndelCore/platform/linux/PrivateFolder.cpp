@@ -62,7 +62,7 @@ std::optional<fs::path> earlierFolder(const fs::path& shared, const std::string&
 std::optional<fs::path> folderInSharedPlace() {
     std::error_code error;
     const fs::path shared = fs::temp_directory_path(error);
-    if (error)
+    if (error || !shared.is_absolute()) // a relative one would be wherever the process was started
         return std::nullopt;
     const std::string prefix = std::string(folderName) + "-";
     if (auto earlier = earlierFolder(shared, prefix))

@@ -65,7 +65,7 @@ std::error_code writeNamed(int folder, const std::string& name, std::string_view
 } // namespace
 
 std::error_code replaceFile(const fs::path& path, std::string_view content, fs::perms permissions,
-                            Lasting lasting) {
+                            Lasting lasting, const std::function<bool()>& isStillWanted) {
     const fs::path parent = path.has_parent_path() ? path.parent_path() : fs::path(".");
     const FileDescriptor folder(open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!folder)
@@ -76,6 +76,8 @@ std::error_code replaceFile(const fs::path& path, std::string_view content, fs::
     std::error_code error;
     if (writeNameless(folder.get(), temporary, content, manner))
         error = writeNamed(folder.get(), temporary, content, manner);
+    if (!error && isStillWanted && !isStillWanted())
+        error = std::make_error_code(std::errc::operation_canceled);
     if (!error && renameat(folder.get(), temporary.c_str(), folder.get(), name.c_str()) != 0)
         error = lastError();
     if (error) {

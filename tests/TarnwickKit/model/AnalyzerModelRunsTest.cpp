@@ -152,12 +152,65 @@ TEST_F(AnalyzerModelRuns, ImportsARunFile) {
     EXPECT_EQ(model.failureMessage(), "");
 }
 
+TEST_F(AnalyzerModelRuns, ImportsManyFilesInOneGo) {
+    std::vector<RunRecord> runs;
+    std::vector<std::filesystem::path> files;
+    for (int count = 0; count < 120; ++count) {
+        runs.push_back(fullRun(2));
+        files.push_back(TarnwickReport{runs.back()}.handoffFile().value());
+    }
+    files.insert(files.end() - 1, engine.history.path() / "missing");
+    int changes = 0, shown = 0;
+    QObject::connect(&model.history(), &HistoryStore::runsChanged, &model, [&] { ++changes; });
+    QObject::connect(&model, &AnalyzerModel::currentRunChanged, &model, [&] { ++shown; });
+    model.importRuns({});
+    model.importRuns({files.begin(), files.begin() + 60});
+    model.importRuns({files.begin() + 60, files.begin() + 90}); // while the first are being read
+    model.importRuns({files.begin() + 90, files.end()});
+    EXPECT_TRUE(model.history().runs().empty()) << "files are read on this thread";
+
+    turnUntil([&] { return model.currentRun() && model.currentRun()->id == runs.back().id; });
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(shown, 1);
+    ASSERT_EQ(model.history().runs().size(), 50u);
+    EXPECT_TRUE(std::equal(runs.rbegin(), runs.rbegin() + 50, model.history().runs().begin()));
+    EXPECT_EQ(HistoryStore(engine.history.path()).runs(), model.history().runs());
+    EXPECT_EQ(logged().count("notice  app  run imported shown=true"), 120);
+    EXPECT_EQ(logged().count("error  app  run from another app couldn't be read"), 1);
+}
+
+TEST_F(AnalyzerModelRuns, LetsGoOfRunsThatAnotherWindowDeletes) {
+    const QUuid ids[] = {complete(), complete(), complete()};
+    model.setRunExpanded(ids[0], true);
+    model.toggleCompareMode();
+    for (const QUuid& id : ids)
+        model.toggleCompareSelection(id);
+    HistoryStore other(engine.history.path());
+    other.deleteRun(ids[0]);
+    other.deleteRun(ids[2]);
+    other.setTitle("From elsewhere", ids[1]);
+    model.history().refresh();
+    EXPECT_TRUE(model.expandedRunIDs().empty());
+    EXPECT_EQ(model.compareSelection(), (std::set<QUuid>{ids[1], ids[2]})) << "the last is still on view";
+    EXPECT_EQ(model.previousRuns().front().customTitle, "From elsewhere");
+    other.setTitle("On view", ids[1]);
+    other.add(*model.currentRun());
+    other.setTitle("Renamed on view", ids[2]);
+    model.history().refresh();
+    EXPECT_EQ(model.currentRun()->customTitle, std::nullopt)
+        << "what was not in the list has no title to follow";
+    other.setTitle("And again", ids[2]);
+    model.history().refresh();
+    EXPECT_EQ(model.currentRun()->customTitle, "And again");
+}
+
 TEST_F(AnalyzerModelRuns, ComparesInTheOrderOnView) {
     const RunRecord runs[] = {fullRun(2), fullRun(2), fullRun(2)};
     std::vector<std::filesystem::path> files;
     for (const RunRecord& run : runs)
         files.push_back(TarnwickReport{run}.handoffFile().value());
     model.importRuns(files);
+    turnUntil([&] { return model.currentRun().has_value(); });
     EXPECT_EQ(HistoryStore(engine.history.path()).runs(), model.history().runs());
     // A single run, even with one that nobody has, is no comparison.
     model.toggleCompareMode();
@@ -221,7 +274,7 @@ TEST_F(AnalyzerModelRuns, ForgetsWhatIsDeleted) {
     EXPECT_FALSE(model.currentRun());
     EXPECT_FALSE(model.compareMode());
     EXPECT_TRUE(model.compareSelection().empty());
-    EXPECT_EQ(readRunFile(model.history().url()), "[]");
+    EXPECT_EQ(readRunFile(model.history().url().value()), "[]");
 }
 
 } // namespace

@@ -1,11 +1,11 @@
-#include "examples/host/DisplayText.h"
+#include "TarnwickKit/model/DisplayText.h"
 
 #include <QList>
 #include <QTextBoundaryFinder>
 
 #include <unicode/uchar.h>
 
-namespace examples::host {
+namespace TarnwickKit::model {
 
 namespace {
 
@@ -84,4 +84,12 @@ QString fitted(const QString& text, int columns) {
     return isCut ? line.left(endBeforeMark) + QChar(0x2026) : line;
 }
 
-} // namespace examples::host
+std::string quoted(std::string_view typed) {
+    constexpr qsizetype longest = 200;
+    QString text = QString::fromUtf8(typed);
+    if (text.size() > longest)
+        text = text.first(longest) + QChar(0x2026);
+    return "'" + harmless(text).toStdString() + "'";
+}
+
+} // namespace TarnwickKit::model

@@ -2,7 +2,10 @@
 
 #include <QString>
 
-namespace examples::host {
+#include <string>
+#include <string_view>
+
+namespace TarnwickKit::model {
 
 /// `text` without anything that a terminal would obey instead of showing: control characters and escapes,
 /// line breaks, invisible ones that turn the direction of writing, and halves of characters become marks.
@@ -16,4 +19,8 @@ int columnsOf(const QString& text);
 /// take at most `columns`, which is 1 or more. A heap of accents on one letter becomes one mark.
 QString fitted(const QString& text, int columns);
 
-} // namespace examples::host
+/// What a person typed, in quotes and on one line: its harmless form, bytes that are no UTF-8 as marks, and
+/// cut where it is very long.
+std::string quoted(std::string_view typed);
+
+} // namespace TarnwickKit::model
