@@ -1,0 +1,16 @@
+#include "TarnwickKit/model/RunRecordJson.h"
+#include "fuzz/Fuzz.h"
+
+using namespace TarnwickKit::model;
+
+/// What was read can be written, and reads as the same again.
+void fuzz::read(Bytes bytes) {
+    decodeRuns(viewOf(bytes));
+    const auto run = decodeRun(viewOf(bytes));
+    if (!run)
+        return;
+    const auto written = encodeRun(*run);
+    require(written.has_value());
+    const auto again = decodeRun(*written);
+    require(again.has_value() && encodeRun(*again) == written);
+}
