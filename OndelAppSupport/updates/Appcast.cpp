@@ -54,8 +54,6 @@ public:
                 skipPast(u"]]>");
             else if (m_rest.startsWith(u"<?"))
                 skipPast(u"?>");
-            else if (m_rest.startsWith(u"<!"))
-                return false; // a document type
             else if (const auto change = scanTag())
                 depth += *change;
             else
@@ -70,8 +68,10 @@ private:
         m_rest = found < 0 ? QStringView() : m_rest.mid(found + end.size());
     }
 
-    /// By how much the tag changes the depth; absent when it has too many attributes.
+    /// By how much the tag changes the depth; absent for a document type and for too many attributes.
     std::optional<int> scanTag() {
+        if (m_rest.startsWith(u"<!"))
+            return std::nullopt;
         constexpr int mostAttributes = 48;
         const bool isEnd = m_rest.startsWith(u"</");
         int attributes = 0;
