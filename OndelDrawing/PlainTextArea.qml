@@ -6,6 +6,7 @@ T.TextArea {
     /// Hides the format of TextEdit, which is this by default, so that setting another one is an error.
     readonly property int textFormat: TextEdit.PlainText
 
+    implicitHeight: contentHeight + topPadding + bottomPadding
     font.family: Application.font.family
     color: palette.text
     selectionColor: palette.highlight

@@ -53,6 +53,7 @@ FocusScope {
             activeFocusOnTab: true
             readOnly: true
             font.pixelSize: 12
+            font.hintingPreference: Font.PreferNoHinting
             Accessible.role: Accessible.StaticText
             Accessible.name: text
             Accessible.description: pane.label
