@@ -54,6 +54,7 @@ void Dialogs::askForFolder(const QString& message, const QString& prompt,
 
 QFileDialog* Dialogs::newSaveDialog(const QString& type, const QString& suffix, const Chosen& chosen) {
     QFileDialog* dialog = newFileDialog(chosen);
+    dialog->setWindowTitle(QFileDialog::tr("Save As")); // a desktop's own dialog has no title but this
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setMimeTypeFilters({type});
@@ -76,6 +77,7 @@ void Dialogs::askForImageFile(const QString& proposedName, const Chosen& chosen)
 
 void Dialogs::askForRunFiles(std::function<void(const std::vector<fs::path>&)> chosen) {
     auto* dialog = new QFileDialog;
+    dialog->setWindowTitle(QFileDialog::tr("Open"));
     dialog->setFileMode(QFileDialog::ExistingFiles);
     const auto extension =
         QLatin1StringView(TarnwickFile::runExtension.data(), qsizetype{TarnwickFile::runExtension.size()});

@@ -1,5 +1,6 @@
 """What a desktop offers programs: its dark (1) or light (2) setting, keeping the machine awake, and notices.
-Usage: desktop_portal.py NUMBER. Lines on standard input: a number changes the setting, "press" presses the last notice.
+Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal has behind it, a session manager, and
+notices from nobody but the portal. Lines on standard input: a number changes the setting, "press" presses the last notice.
 Lines on standard output: "ready", "awake FLAGS REASON", "asleep", "notice TITLE: TEXT", "withdrawn"."""
 
 import sys
@@ -9,6 +10,7 @@ from gi.repository import Gio, GLib
 NAMESPACE, KEY = "org.freedesktop.appearance", "color-scheme"
 PATH = "/org/freedesktop/portal/desktop"
 NOTICES = "org.freedesktop.Notifications"
+SESSION = "org.gnome.SessionManager"
 INTERFACES = Gio.DBusNodeInfo.new_for_xml("""<node>
 <interface name="org.freedesktop.portal.Settings">
   <method name="Read"><arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="v" direction="out"/></method>
@@ -24,7 +26,14 @@ INTERFACES = Gio.DBusNodeInfo.new_for_xml("""<node>
     <arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="as" direction="in"/>
     <arg type="a{sv}" direction="in"/><arg type="i" direction="in"/><arg type="u" direction="out"/></method>
   <method name="CloseNotification"><arg type="u" direction="in"/></method>
+  <method name="GetCapabilities"><arg type="as" direction="out"/></method>
   <signal name="ActionInvoked"><arg type="u"/><arg type="s"/></signal>
+</interface>
+<interface name="org.gnome.SessionManager">
+  <method name="Inhibit"><arg type="s" direction="in"/><arg type="u" direction="in"/><arg type="s" direction="in"/>
+    <arg type="u" direction="in"/><arg type="u" direction="out"/></method>
+  <method name="RegisterClient"><arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="o" direction="out"/></method>
+  <method name="Uninhibit"><arg type="u" direction="in"/></method>
 </interface></node>""")
 
 
@@ -34,22 +43,35 @@ def tell(*words):
 
 class Desktop:
     def __init__(self, scheme):
+        """Without a scheme it stands behind a portal."""
         self.scheme = scheme
         self.notices = 0
         self.requests = {}
         self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
-        for name in ("Settings", "Inhibit"):
-            self.serve(PATH, f"org.freedesktop.portal.{name}")
+        if scheme is None:
+            self.serve("/org/gnome/SessionManager", SESSION)
+        else:
+            for name in ("Settings", "Inhibit"):
+                self.serve(PATH, f"org.freedesktop.portal.{name}")
         self.serve("/org/freedesktop/Notifications", NOTICES)
         own = Gio.bus_own_name_on_connection
         own(self.bus, NOTICES, Gio.BusNameOwnerFlags.NONE, None, None)
-        own(self.bus, "org.freedesktop.portal.Desktop", Gio.BusNameOwnerFlags.NONE, lambda *_: tell("ready"), None)
+        if scheme is None:  # the back end takes both for a desktop, or neither
+            own(self.bus, "org.gnome.ScreenSaver", Gio.BusNameOwnerFlags.NONE, None, None)
+        last = SESSION if scheme is None else "org.freedesktop.portal.Desktop"
+        own(self.bus, last, Gio.BusNameOwnerFlags.NONE, lambda *_: tell("ready"), None)
 
     def serve(self, path, interface):
         return self.bus.register_object(path, INTERFACES.lookup_interface(interface), self.called, None, None)
 
-    def called(self, _bus, sender, path, _interface, method, arguments, invocation):
-        answer = getattr(self, method)(sender, path, *arguments.unpack())
+    def called(self, _bus, sender, path, interface, method, arguments, invocation):
+        if interface == SESSION:
+            answer = self.session(method, *arguments.unpack())
+        elif self.scheme is None and method == "Notify" and arguments.unpack()[0]:
+            invocation.return_dbus_error("org.freedesktop.DBus.Error.AccessDenied", "The portal gives no name, programs do.")
+            return
+        else:
+            answer = getattr(self, method)(sender, path, *arguments.unpack())
         invocation.return_value(answer and GLib.Variant.new_tuple(answer))
 
     def Read(self, _sender, _path, *what):
@@ -65,6 +87,17 @@ class Desktop:
     def Close(self, _sender, path):
         self.bus.unregister_object(self.requests.pop(path))
         tell("asleep")
+
+    def session(self, method, *what):
+        if method == "Uninhibit":
+            return tell("asleep")
+        if method == "RegisterClient":
+            return GLib.Variant("o", "/org/gnome/SessionManager/Client1")
+        tell("awake", what[3], what[2])
+        return GLib.Variant("u", 1)
+
+    def GetCapabilities(self, *_):
+        return GLib.Variant("as", ["actions", "body"])
 
     def Notify(self, _sender, _path, _name, _replaced, _icon, title, text, *_):
         self.notices += 1
@@ -89,6 +122,6 @@ class Desktop:
 
 
 loop = GLib.MainLoop()
-desktop = Desktop(int(sys.argv[1]))
+desktop = Desktop(None if sys.argv[1] == "behind" else int(sys.argv[1]))
 GLib.io_add_watch(sys.stdin, GLib.IO_IN | GLib.IO_HUP, desktop.command)
 loop.run()

@@ -16,6 +16,7 @@ import time
 
 SKIP = 77
 GUARD_SECONDS = 40  # no test of speed: what is not there by then does not come
+ACCESSIBILITY = {"org.a11y.Bus": "/usr/libexec/at-spi-bus-launcher"}
 MAIN = "^Ondel Tarnwick$"  # the title of the main window
 
 
@@ -33,7 +34,7 @@ def accessibility(env):
     """The accessibility bus beside the session bus of `env`. Gives its address."""
     ask = ["gdbus", "call", "--session", "--dest", "org.a11y.Bus", "--object-path", "/org/a11y/bus", "--method",
            "org.a11y.Bus.GetAddress"]
-    with subprocess.Popen(["/usr/libexec/at-spi-bus-launcher"], env=env) as launcher:
+    with subprocess.Popen(list(ACCESSIBILITY.values()), env=env) as launcher:
         try:
             subprocess.run(["gdbus", "wait", "--session", "org.a11y.Bus"], env=env, check=True)
             yield subprocess.run(ask, env=env, check=True, capture_output=True, text=True).stdout.split("'")[1]
@@ -41,8 +42,27 @@ def accessibility(env):
             launcher.terminate()
 
 
-def enter_display(width=1400, height=1000):
-    """Runs this script again inside a display and a session bus of its own, with its own home. Skips without the tools."""
+def environment(home, services, variables):
+    """What every program of a test gets, and nothing else of the session that started the test: folders in `home`, no other
+    bus, no desktop. The bus of dbus-run-session starts what `services` names, besides the accessibility bus."""
+    folder = pathlib.Path(home, "services")
+    folder.mkdir()
+    for name, program in (ACCESSIBILITY | services).items():
+        pathlib.Path(folder, f"{name}.service").write_text(f"[D-BUS Service]\nName={name}\nExec={program}\n")
+    bus_configuration(home, folder)
+    runtime = pathlib.Path(home, "run")
+    runtime.mkdir(mode=0o700)
+    kept = {name: value for name, value in os.environ.items() if name in ("PATH", "LD_LIBRARY_PATH", "TZ", "USER", "LOGNAME")}
+    return kept | {
+        "ONDEL_DRIVEN": "1", "HOME": home, "XDG_RUNTIME_DIR": str(runtime), "TMPDIR": home, "LC_ALL": "C.UTF-8",
+        "XDG_CONFIG_HOME": f"{home}/config", "XDG_DATA_HOME": f"{home}/data", "XDG_STATE_HOME": f"{home}/state",
+        "XDG_CACHE_HOME": f"{home}/cache", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb",
+        "GSETTINGS_BACKEND": "memory", "DBUS_SYSTEM_BUS_ADDRESS": "disabled:"} | variables
+
+
+def enter_display(width=1400, height=1000, services={}, variables={}):
+    """Runs this script again inside a display and a session bus of its own, with its own home. Skips without the tools.
+    The bus starts nothing but `services`: programs by their bus names. Every program gets the `variables`."""
     if os.environ.get("ONDEL_DRIVEN"):
         return
     missing = [tool for tool in ("Xvfb", "dbus-run-session", "xdotool", "import") if not shutil.which(tool)]
@@ -54,19 +74,11 @@ def enter_display(width=1400, height=1000):
         print("skipped, not installed:", ", ".join(missing))
         sys.exit(SKIP)
     with tempfile.TemporaryDirectory(prefix="ondel-test-") as home:
-        runtime = pathlib.Path(home, "run")
-        runtime.mkdir(mode=0o700)
-        env = os.environ | {
-            "ONDEL_DRIVEN": "1", "HOME": home, "XDG_RUNTIME_DIR": str(runtime), "TMPDIR": home, "LC_ALL": "C.UTF-8",
-            "XDG_CONFIG_HOME": f"{home}/config", "XDG_DATA_HOME": f"{home}/data", "XDG_STATE_HOME": f"{home}/state",
-            "XDG_CACHE_HOME": f"{home}/cache", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb",
-            "GSETTINGS_BACKEND": "memory"}
-        for name in ("NO_AT_BRIDGE", "WAYLAND_DISPLAY", "AT_SPI_BUS_ADDRESS"):
-            env.pop(name, None)
+        env = environment(home, services, variables)
         with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24", "-dpi", "96", "-noreset",
                                "-nolisten", "tcp"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as server:
             env["DISPLAY"] = ":" + server.stdout.readline().strip()
-            done = subprocess.run(["dbus-run-session", "--", "/usr/bin/python3", *sys.argv], env=env)
+            done = subprocess.run(["dbus-run-session", f"--config-file={home}/bus.conf", "--", "/usr/bin/python3", *sys.argv], env=env)
             server.terminate()
     sys.exit(done.returncode)
 
@@ -83,15 +95,29 @@ def windows(title):
     return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title], capture_output=True, text=True).stdout.split()
 
 
-def focus(title):
-    """Gives the keyboard to a window as soon as it stands."""
-    while not windows(title):
-        time.sleep(0.02)
-    subprocess.run(["xdotool", "windowfocus", "--sync", windows(title)[0]], check=True)
-
-
 class Failure(Exception):
     pass
+
+
+def titles():
+    """Of all shown windows."""
+    return [subprocess.run(["xdotool", "getwindowname", number], capture_output=True, text=True).stdout.strip()
+            for number in windows(".")]
+
+
+def appearing(title):
+    """The first shown window of that title, as soon as there is one."""
+    end = time.monotonic() + GUARD_SECONDS
+    while not (found := windows(title)):
+        if time.monotonic() > end:
+            raise Failure(f"no window {title!r} was opened; there are {titles()}")
+        time.sleep(0.02)
+    return found[0]
+
+
+def focus(title):
+    """Gives the keyboard to a window as soon as it stands."""
+    subprocess.run(["xdotool", "windowfocus", "--sync", appearing(title)], check=True)
 
 
 class Started:
@@ -99,12 +125,7 @@ class Started:
 
     def __init__(self):
         """Waits for its main window."""
-        end = time.monotonic() + GUARD_SECONDS
-        while not windows(MAIN):
-            if time.monotonic() > end:
-                raise Failure("no window was opened")
-            time.sleep(0.02)
-        owner = subprocess.run(["xdotool", "getwindowpid", windows(MAIN)[0]], check=True, capture_output=True, text=True)
+        owner = subprocess.run(["xdotool", "getwindowpid", appearing(MAIN)], check=True, capture_output=True, text=True)
         self.pid = int(owner.stdout)
         self.descriptor = os.pidfd_open(self.pid)
         self.stderr = io.StringIO()

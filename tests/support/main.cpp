@@ -1,6 +1,6 @@
 // The main function of every GoogleTest program: a home, XDG folders and a temporary folder that belong to
-// this process alone, no display, English texts. Whatever a test writes by mistake lands in there and is
-// removed.
+// this process alone, no display, no bus, English texts. Whatever a test writes by mistake lands in there and
+// is removed.
 
 #include "support/Application.h"
 #include "support/TemporaryFolder.h"
@@ -34,6 +34,11 @@ int main(int argc, char** argv) {
     redirect("XDG_CACHE_HOME", "home/.cache", 0700);
     redirect("XDG_RUNTIME_DIR", "run", 0700);
     redirect("TMPDIR", "tmp", 0700);
+    for (const char* bus : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
+        setenv(bus, "disabled:", 1);
+    for (const char* desktop : {"QT_QPA_PLATFORMTHEME", "XDG_CURRENT_DESKTOP", "XDG_DATA_DIRS",
+                                "XDG_CONFIG_DIRS", "DISPLAY", "WAYLAND_DISPLAY", "SESSION_MANAGER"})
+        unsetenv(desktop);
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     setenv("QT_QUICK_BACKEND", "software", 1);
     setenv("LC_ALL", "C.UTF-8", 1);

@@ -1,0 +1,116 @@
+#!/usr/bin/python3
+"""The window on a desktop with a real portal and its GTK back end. Usage: driven_portal.py PROGRAM DRAG-SOURCE [CASE]..."""
+
+import os
+import pathlib
+import select
+import subprocess
+import sys
+
+import driver
+import saved_runs
+from driven_requests import child, run_file, shows_run
+from driven_window import check, choose_small_size, start, TESTS
+
+PROGRAMS = {"org.freedesktop.portal.Desktop": "/usr/libexec/xdg-desktop-portal",
+            "org.freedesktop.impl.portal.desktop.gtk": "/usr/libexec/xdg-desktop-portal-gtk",
+            "org.freedesktop.impl.portal.PermissionStore": "/usr/libexec/xdg-permission-store"}
+PORTAL = {"QT_QPA_PLATFORMTHEME": "xdgdesktopportal"}
+MAIL = """[Desktop Entry]
+Type=Application
+Name=Mail
+Exec={program} %u
+MimeType=x-scheme-handler/mailto;
+"""
+
+
+def brightness(window):
+    """From 0 to 1, of the window's mean."""
+    words = subprocess.run(["import", "-window", window.id(), "-colorspace", "gray", "-format", "%[fx:mean]", "info:"],
+                           capture_output=True, text=True, check=True)
+    return float(words.stdout)
+
+
+def scheme(name):
+    subprocess.run(["gsettings", "set", "org.gnome.desktop.interface", "color-scheme", name], check=True)
+
+
+def follows_the_colour_scheme(program, _folder, _desktop):
+    scheme("prefer-dark")
+    with driver.Window(program, env=PORTAL) as window:
+        window.until("the dark window", lambda: brightness(window) < 0.4)
+        scheme("prefer-light")
+        window.until("the light window", lambda: brightness(window) > 0.6)
+        window.terminate()
+
+
+def keeps_the_machine_awake_and_gives_notice(program, folder, desktop):
+    def told(line):
+        heard = select.select([desktop.stdout], [], [], driver.GUARD_SECONDS)[0] and desktop.stdout.readline().decode().strip()
+        check(heard and heard.startswith(line), f"the desktop heard {heard!r}, not {line!r}")
+
+    with child(source, stdout=subprocess.DEVNULL), driver.Window(program, folder, env=PORTAL) as window:
+        driver.focus("Drag from here")  # a window that has the keyboard does not tell its end
+        choose_small_size(window)
+        for test in TESTS[1:]:
+            window.press(test)
+        start(window, folder)
+        told("awake 12 A benchmark is running")
+        window.find("Complete", "status bar")
+        told("asleep")
+        told("notice Benchmark complete: ")
+        window.terminate()
+
+
+def opens_through_the_file_dialog(program, folder, _desktop):
+    with driver.Window(program, env=PORTAL) as window:
+        window.find("Choose a volume to begin")
+        window.keys("ctrl+shift+o")
+        dialog = "^Open$"
+        driver.focus(dialog)
+        window.settled(dialog)
+        subprocess.run(["xdotool", "key", "ctrl+l"], check=True)
+        window.settled(dialog)  # a key is lost while the line for the path is made
+        subprocess.run(["xdotool", "key", "ctrl+a"], check=True)
+        window.type(f"{run_file(folder, 5)}")
+        window.settled(dialog)
+        subprocess.run(["xdotool", "key", "Return"], check=True)
+        shows_run(window, 5)
+        window.terminate()
+
+
+def sends_by_email(program, _folder, _desktop):
+    home = pathlib.Path(os.environ["HOME"])
+    mail, record = home / "mail", home / "message"
+    mail.write_text(f'#!/bin/sh\necho "$@" >{record}\n')
+    mail.chmod(0o755)
+    entries = pathlib.Path(os.environ["XDG_DATA_HOME"], "applications")
+    entries.mkdir(parents=True)
+    (entries / "mail.desktop").write_text(MAIL.format(program=mail))
+    subprocess.run(["update-desktop-database", entries], check=True)
+    saved_runs.lay_down([saved_runs.run(3)])
+    with driver.Window(program, env=PORTAL) as window:
+        window.press("SD card")
+        window.press("Share")
+        window.press("Send by Email…", "menu item")
+        words = window.until("the message", lambda: record.exists() and record.read_text().endswith("\n") and record.read_text())
+        check("subject=Ondel%20Tarnwick%20%E2%80%94%20SD%20card" in words and words.endswith("/Ondel Tarnwick — SD card.png\n"), words)
+        window.terminate()
+
+
+if __name__ == "__main__":
+    if missing := [program for program in PROGRAMS.values() if not os.path.exists(program)]:
+        print("skipped, not installed:", ", ".join(missing))
+        sys.exit(driver.SKIP)
+    # The back end reads its settings from a file, for "gsettings" to change them.
+    driver.enter_display(services=PROGRAMS, variables={"GSETTINGS_BACKEND": "keyfile", "XDG_CURRENT_DESKTOP": "GNOME"})
+    program, source, *only = sys.argv[1:]
+    behind = pathlib.Path(__file__).with_name("desktop_portal.py")
+    with driver.fast_folder() as name, child("/usr/bin/python3", behind, "behind", stdin=subprocess.PIPE,
+                                             stdout=subprocess.PIPE) as desktop:
+        check(desktop.stdout.readline() == b"ready\n", "there is no session behind the portal")
+        for case in (follows_the_colour_scheme, keeps_the_machine_awake_and_gives_notice, opens_through_the_file_dialog, sends_by_email):
+            if only and case.__name__ not in only:
+                continue
+            print(case.__name__.replace("_", " "), flush=True)
+            case(program, pathlib.Path(name), desktop)
