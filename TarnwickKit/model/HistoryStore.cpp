@@ -32,7 +32,8 @@ std::optional<fs::path> defaultFolder() {
 
 } // namespace
 
-HistoryStore::HistoryStore(std::optional<fs::path> directory, QObject* parent, HistoryFile::Access access)
+HistoryStore::HistoryStore(const std::optional<fs::path>& directory, QObject* parent,
+                           HistoryFile::Access access)
     : QObject(parent) {
     const auto folder = directory ? directory : defaultFolder();
     if (!folder) {

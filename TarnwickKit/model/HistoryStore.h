@@ -29,7 +29,7 @@ public:
     /// `directory`: where the file is; absent is the user's data folder. It is made if it is missing. Of a
     /// file that is damaged the runs that can be read are there. Fails: for a user without a folder of their
     /// own the list is kept in memory alone, with a line in the log.
-    explicit HistoryStore(std::optional<std::filesystem::path> directory = std::nullopt,
+    explicit HistoryStore(const std::optional<std::filesystem::path>& directory = std::nullopt,
                           QObject* parent = nullptr, HistoryFile::Access access = {});
 
     /// More than `limit` only if the file held more.

@@ -19,6 +19,7 @@ Column {
     readonly property int seen: Math.ceil((reach - head.height) / (rowHeight + spacing))
     readonly property int ahead: 12
     property int made: 0
+    property int seenBefore: 0
 
     function confirmClear(): void {
         question.setSource("Alert.qml", {
@@ -31,7 +32,12 @@ Column {
         (question.item as Alert).open();
     }
 
-    onSeenChanged: made = Math.max(made, seen)
+    // A pane that opens above hides rows, which are no hurry then.
+    onSeenChanged: {
+        if (seen > seenBefore)
+            made = Math.max(made, seen);
+        seenBefore = seen;
+    }
 
     spacing: 10
 

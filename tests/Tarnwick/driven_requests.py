@@ -48,6 +48,13 @@ def call(method, *arguments):
     return done.returncode == 0
 
 
+def opens_over_bus(urls, token):
+    """For what a command line has no room for."""
+    from gi.repository import Gio, GLib
+    given = GLib.Variant("(asa{sv})", (urls, {"activation-token": GLib.Variant("s", token)}))
+    Gio.bus_get_sync(Gio.BusType.SESSION).call_sync(NAME, OBJECT, "org.freedesktop.Application", "Open", given, None, 0, 20000, None)
+
+
 def opens(*urls):
     return call("Open", json.dumps([str(url) for url in urls]))
 
@@ -87,10 +94,18 @@ def many_runs_come_in_one_go(program, folder):
         shows_run(window, 400)
         check(len(driver.windows(TITLE)) == 1, "a second window")
         check(stored() == [f"Run {index}" for index in range(400, 350, -1)], f"stored: {stored()}")
+        first, middle, last = [run_file(folder, index, date="2026-01-01T00:00:00Z").as_uri() for index in (500, 501, 502)]
+        opens_over_bus([first] * 50 + [middle] * 50 + [last] * 50, token="x" * 2**20)
+        shows_run(window, 502)
+        check(stored()[:3] == ["Run 502", "Run 500", "Run 400"], f"of a long list: {stored()[:3]}")
+        status, words = ended(program, "no \x1b[31m folder")
+        check(status == 0 and "'no \N{REPLACEMENT CHARACTER}[31m folder'" in words, f"it says {words!r}")
+        window.settled()  # the toolkit complains of an end in the middle of a movement
         check(window.terminate() == (0, ""), "it does not end quietly")
     with driver.Window(program, *files[:120]) as window:
         shows_run(window, 119)
         check(stored()[0] == "Run 119" and len(stored()) == 50, f"stored from the start: {stored()}")
+        window.settled()  # the toolkit complains of an end in the middle of a movement
         check(window.terminate() == (0, ""), "it does not end quietly")
 
 
