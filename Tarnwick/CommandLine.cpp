@@ -1,5 +1,6 @@
 #include "Tarnwick/CommandLine.h"
 
+#include "OndelCore/platform/PathFacts.h"
 #include "OndelCore/platform/UnifiedLog.h"
 #include "Tarnwick/OpenUrls.h"
 #include "Tarnwick/Product.h"
@@ -30,9 +31,13 @@ bool looksLikeUrl(std::string_view word) {
 }
 
 std::string urlOf(const char* word) {
+    using namespace OndelCore::platform;
+    if (looksLikeUrl(word)) {
+        const auto file = pathFacts(word, PathQuestion::place, {.patience = volumePatience});
+        if (file && file->error != 0)
+            return word;
+    }
     std::error_code error;
-    if (looksLikeUrl(word) && !fs::exists(word, error))
-        return word;
     const fs::path path = fs::absolute(word, error);
     return fileUrl(error ? fs::path(word) : path.lexically_normal());
 }

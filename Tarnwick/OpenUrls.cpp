@@ -1,6 +1,6 @@
 #include "Tarnwick/OpenUrls.h"
 
-#include "OndelCore/platform/AnswerWithin.h"
+#include "OndelCore/platform/PathFacts.h"
 #include "TarnwickKit/model/TarnwickFile.h"
 
 #include <QByteArray>
@@ -22,15 +22,6 @@ bool isThisHost(std::string_view host) {
 bool isRunFile(const fs::path& path) {
     const std::string extension = (path.has_filename() ? path : path.parent_path()).extension();
     return extension.size() > 1 && extension.substr(1) == TarnwickKit::model::TarnwickFile::runExtension;
-}
-
-/// The folder at `path` without symbolic links; absent if there is none.
-std::optional<fs::path> folderAt(const fs::path& path) {
-    std::error_code error;
-    if (!fs::is_directory(path, error))
-        return std::nullopt;
-    const fs::path resolved = fs::canonical(path, error);
-    return error ? path : resolved;
 }
 
 } // namespace
@@ -68,10 +59,14 @@ OpenUrls OpenUrls::from(const std::vector<std::string>& urls) {
         if (isRun)
             sorted.runs.push_back(*path);
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
-        const auto answer =
-            path && left.count() > 0 ? answerWithin(left, [path] { return folderAt(*path); }) : std::nullopt;
-        const bool mayBeFolder = path && !isRun && !answer;
-        const auto folder = mayBeFolder ? path : answer.value_or(std::nullopt);
+        const auto facts = path && left.count() > 0
+                               ? pathFacts(*path, PathQuestion::place, {.patience = left})
+                               : std::nullopt;
+        std::optional<fs::path> folder;
+        if (facts && facts->isFolder)
+            folder = facts->resolved;
+        else if (path && !isRun && !facts)
+            folder = path; // it may be one
         if (folder && !sorted.folder)
             sorted.folder = folder;
         if (!folder && !isRun)

@@ -2,6 +2,7 @@
 
 #include "OndelCore/benchmark/BenchmarkTest.h"
 #include "OndelCore/benchmark/Hashing.h"
+#include "OndelCore/platform/FileTrials.h"
 
 #include <cstdint>
 #include <optional>
@@ -96,6 +97,8 @@ struct BenchmarkResult {
     std::optional<FileOpsResult> fileOps{};
     /// Why the flush after the preparation of the data file failed; absent when it did not.
     std::optional<std::error_code> preparationFlushError{};
+    /// What the file system did when it was tried after the tests.
+    platform::TriedAbilities tried{};
 
     /// In the order of their time; mostly none.
     std::vector<FlushFailure> flushFailures() const;
@@ -103,7 +106,7 @@ struct BenchmarkResult {
     bool operator==(const BenchmarkResult&) const = default;
     std::size_t hash() const {
         return hashFields(sequentialWrite, sequentialRead, randomRead, randomWrite, fileOps,
-                          preparationFlushError);
+                          preparationFlushError, tried);
     }
 };
 

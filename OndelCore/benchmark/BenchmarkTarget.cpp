@@ -1,14 +1,15 @@
 #include "OndelCore/benchmark/BenchmarkTarget.h"
 
-#include <unistd.h>
-
-#include <system_error>
+#include "OndelCore/platform/PathFacts.h"
 
 namespace fs = std::filesystem;
 
 namespace OndelCore::benchmark {
 
-bool BenchmarkTarget::mayWrite(const fs::path& path) { return access(path.c_str(), W_OK) == 0; }
+bool BenchmarkTarget::mayWrite(const fs::path& path) {
+    const auto facts = platform::pathFacts(path);
+    return facts && facts->mayWrite;
+}
 
 fs::path BenchmarkTarget::folder(const fs::path& path, const fs::path& home) {
     return folder(path, home, Lookup{});
@@ -18,9 +19,7 @@ fs::path BenchmarkTarget::folder(const fs::path& path, const fs::path& home, con
     if (path != "/" && system.isWritable(path))
         return path;
 
-    std::error_code failure;
-    const fs::path resolved = fs::canonical(path, failure);
-    const auto volume = system.mountOfPath(failure ? path : resolved);
+    const auto volume = system.mountOfPath(path);
     if (volume && volume->mountPoint != "/" && system.isWritable(volume->mountPoint))
         return volume->mountPoint;
 

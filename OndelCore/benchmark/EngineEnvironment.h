@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/platform/Clock.h"
+#include "OndelCore/platform/FileTrials.h"
 #include "OndelCore/platform/Storage.h"
 #include "OndelCore/platform/WriteConfinement.h"
 
@@ -27,6 +28,8 @@ struct EngineEnvironment {
     std::function<std::error_code(int)> flushToMedium = platform::flushToMedium;
     /// Called on the thread that measures, before it begins.
     std::function<bool(int folder)> confineWrites = platform::confineWritesOfThisThread;
+    /// Asked after the tests, of the folder that holds their files.
+    std::function<platform::TriedAbilities(int folder)> tryAbilities = platform::tryAbilities;
 };
 
 } // namespace OndelCore::benchmark

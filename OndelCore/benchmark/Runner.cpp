@@ -6,10 +6,13 @@
 #include "OndelCore/benchmark/SequentialTests.h"
 #include "OndelCore/benchmark/TestRun.h"
 #include "OndelCore/benchmark/WorkingFolder.h"
+#include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/PathFacts.h"
 #include "OndelCore/volumes/VolumeAccess.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdint>
 #include <future>
 #include <new>
@@ -58,6 +61,16 @@ BenchmarkResult onThreadOfItsOwn(const Work& work) {
     return result.get();
 }
 
+/// Returns as soon as the volume of `folder` answers: this thread could not be ended inside of a request that
+/// nobody answers. Fails: throws Cancelled.
+void awaitAnswer(const std::filesystem::path& folder, const CancelFlag& flag) {
+    constexpr std::chrono::hours untilCancelled(24);
+    const platform::Waiting waiting{.patience = untilCancelled,
+                                    .isCancelled = [&flag] { return flag.isCancelled(); }};
+    if (!platform::pathFacts(folder, platform::PathQuestion::place, waiting))
+        throw Cancelled();
+}
+
 } // namespace
 
 BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& plan, const RunPaths& paths,
@@ -95,6 +108,7 @@ BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& pl
 BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan& plan,
                             const std::filesystem::path& folder, const CancelFlag& flag,
                             const ProgressListener& progress) {
+    awaitAnswer(folder, flag);
     const platform::FileDescriptor parent = platform::openFolder(folder);
     const auto owner = parent ? volumes::VolumeAccess::ownerOfNewFiles(parent.get()) : std::nullopt;
     if (!owner)
@@ -106,7 +120,10 @@ BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan
                 system.confineWrites(working.descriptor());
             DataFilePlace dataFile(working.descriptor());
             const RunPaths paths{dataFile, {working.descriptor(), "fops"}, parent.get()};
-            return execute(system, plan, paths, flag, progress);
+            BenchmarkResult result = execute(system, plan, paths, flag, progress);
+            if (!plan.tests.empty()) // one without any makes no files
+                result.tried = system.tryAbilities(working.descriptor());
+            return result;
         });
     } catch (const std::bad_alloc&) { // a block, or a list of files, larger than the memory
         throw ioError("memory: ", ENOMEM);

@@ -6,8 +6,9 @@
 
 namespace OndelCore::platform {
 
-/// Runs `work` on a thread of its own and not a pool's, for what may hang: on a dead mount or drive it may
-/// never come back, and nothing, the end of the process included, waits for it.
+/// Runs `work` on a thread of its own and not a pool's, for what may take long. The end of the process does
+/// not wait for it, as long as the thread can be killed where it stands: it may wait for a child process, a
+/// server or a lock, but must not enter a file system that may hang (see mayHang and askChildren).
 /// Fails: false where the machine has no thread left; `work` is then gone, with the promises that it held.
 template <typename Work>
 bool runDetached(Work work) {

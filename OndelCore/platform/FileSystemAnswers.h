@@ -1,6 +1,8 @@
 #pragma once
 
 #include "OndelCore/platform/FileSystemFacts.h"
+#include "OndelCore/platform/Mounts.h"
+#include "OndelCore/platform/PathFacts.h"
 #include "OndelCore/platform/SystemSources.h"
 
 #include <cstdint>
@@ -18,13 +20,18 @@ struct FileSystemAnswers {
     std::optional<std::int64_t> maxNameLength;
     std::optional<std::int64_t> maxPathLength;
     std::optional<std::int64_t> maxLinkCount;
-    std::optional<CapabilityWords> capabilities; ///< absent: the type is unknown
+    std::optional<CapabilityWords> capabilities; ///< absent: the mount is unknown
 
     bool operator==(const FileSystemAnswers&) const = default;
 };
 
-/// Threads: any; blocks as long as the file system does. Fails: absent if the path cannot be asked at all.
+/// Threads: any; blocks until the file system answers, for `sources.patience` at most. Fails: absent if the
+/// path cannot be asked at all.
 std::optional<FileSystemAnswers> askFileSystem(const std::filesystem::path& path,
                                                const SystemSources& sources = {});
+
+/// The same out of what a path's system calls answered and the mount that holds it. Threads: any.
+FileSystemAnswers fileSystemAnswers(const PathFacts& told, const std::optional<Mount>& mount,
+                                    const SystemSources& sources = {});
 
 } // namespace OndelCore::platform

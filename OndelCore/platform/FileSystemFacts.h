@@ -35,6 +35,7 @@ struct CapabilityWord {
     std::uint32_t valid = 0;
 
     bool has(std::uint32_t bit) const { return (claimed & valid & bit) != 0; }
+    bool knows(std::uint32_t bit) const { return (valid & bit) != 0; }
     /// Makes what is known of `bit` certain.
     void state(std::uint32_t bit, bool present) {
         valid |= bit;
@@ -63,11 +64,16 @@ struct FileSystemFacts {
     std::string_view displayName;
     FileSystemReach reach = FileSystemReach::device;
     CapabilityWords capabilities;
-    std::int64_t maxLinkCount = 0; ///< names of one file; 0: not known from the type alone
+    std::int64_t maxLinkCount = 0;  ///< names of one file; 0: not known from the type alone
+    std::int64_t maxNameLength = 0; ///< characters; 0: what the system answers holds
 };
 
+/// Who reads and writes the file system.
+enum class FileSystemDriver { kernel, program };
+
 /// The facts of a type as normalized by `fileSystemTypeName`. Fails: null for a type without a row.
-const FileSystemFacts* fileSystemFacts(std::string_view type);
+const FileSystemFacts* fileSystemFacts(std::string_view type,
+                                       FileSystemDriver driver = FileSystemDriver::kernel);
 
 /// All rows.
 std::span<const FileSystemFacts> allFileSystemFacts();

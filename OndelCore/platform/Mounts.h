@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -33,12 +34,17 @@ struct Mount {
 /// Threads: any. Fails: an unreadable table is an empty list; a malformed line is left out.
 std::vector<Mount> mounts(const std::filesystem::path& table = systemMountTable);
 
+/// How long the questions of this library wait for a volume unless a caller says otherwise: longer than a
+/// sleeping disk or server takes.
+constexpr std::chrono::milliseconds defaultPatience = std::chrono::seconds(30);
+
 /// The mount that holds `path`. Threads: any. Fails: absent if the path does not resolve to a mount of this
-/// view.
+/// view, or does not answer in time (see defaultPatience).
 std::optional<Mount> mountOfPath(const std::filesystem::path& path);
 
 /// The same, looked up in another table.
-std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std::filesystem::path& path);
+std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std::filesystem::path& path,
+                                   std::chrono::milliseconds patience = defaultPatience);
 
 /// The mount that holds the absolute path `resolved`, by the table's text alone: nothing on the path is
 /// touched, so that a dead server cannot hold up the answer. Fails: absent if no mount point is above it.

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "OndelCore/platform/Mounts.h"
+#include "OndelCore/platform/PathFacts.h"
 
 #include <sys/types.h>
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -28,6 +30,10 @@ DeviceProperties databaseProperties(dev_t device);
 /// process may, and not from a disk that the kernel has put to sleep. Threads: any. Fails: no entries.
 DeviceProperties superblockProperties(dev_t device);
 
+/// The same of a file that holds a file system. Threads: any. Fails: no entries, for anything but a regular
+/// file too.
+DeviceProperties imageProperties(const std::filesystem::path& image);
+
 /// Where the answers about volumes and drives come from: the real system, unless a caller hands in something
 /// else.
 struct SystemSources {
@@ -35,6 +41,9 @@ struct SystemSources {
     std::filesystem::path sysfs = "/sys";
     DevicePropertySource database = databaseProperties;
     DevicePropertySource superblock = superblockProperties;
+    std::function<DeviceProperties(const std::filesystem::path&)> image = imageProperties;
+    /// How long a volume that may never answer is waited for.
+    std::chrono::milliseconds patience = defaultPatience;
 };
 
 } // namespace OndelCore::platform

@@ -24,21 +24,18 @@ struct VolumeResources {
     std::optional<bool> isReadOnly;
     std::optional<bool> isEncrypted;
     std::optional<std::filesystem::path> volumeRoot; ///< the mount point
-    bool mayBlock = false; ///< a server or another program answers for the volume, or does not
+    std::optional<std::string> mountedFrom;          ///< the device's path, or what stands in its place
 
     bool operator==(const VolumeResources&) const = default;
 };
 
-/// The facts of the volume that holds `path`. Threads: any; blocks as long as the file system does.
-/// Fails: absent if the path cannot be asked at all.
+/// The facts of the volume that holds `path`. Threads: any; blocks until the file system answers, for
+/// `sources.patience` at most. Fails: absent if the path cannot be asked at all.
 std::optional<VolumeResources> volumeResources(const std::filesystem::path& path,
                                                const SystemSources& sources = {});
 
 /// The same from the mount alone, without touching the volume: sizes stay absent.
 VolumeResources resourcesOfMount(const Mount& mount, const SystemSources& sources = {});
-
-/// Adds `total` and `available`. Fails: leaves both absent.
-void addSizes(VolumeResources& resources, const std::filesystem::path& path);
 
 /// The path of the device that the path's file system is mounted from, or whatever stands in its place for a
 /// network or virtual one. Threads: any. Fails: absent.

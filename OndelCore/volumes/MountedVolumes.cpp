@@ -1,7 +1,7 @@
 #include "OndelCore/volumes/MountedVolumes.h"
 
 #include "OndelCore/platform/Mounts.h"
-#include "OndelCore/platform/TotalSizes.h"
+#include "OndelCore/platform/PathFacts.h"
 #include "OndelCore/platform/VisibleMounts.h"
 #include "OndelCore/platform/VolumeResources.h"
 
@@ -24,14 +24,11 @@ MountedVolume describe(const platform::Mount& mount, const platform::VolumeResou
 
 std::vector<MountedVolume> mountedVolumes(const platform::SystemSources& sources,
                                           std::chrono::milliseconds patience) {
+    const auto mounts = platform::visibleMounts(platform::mounts(sources.mountTable));
     std::vector<MountedVolume> volumes;
-    std::vector<platform::SizeQuestion> questions;
-    for (const platform::Mount& mount : platform::visibleMounts(platform::mounts(sources.mountTable))) {
-        const platform::VolumeResources resources = platform::resourcesOfMount(mount, sources);
-        volumes.push_back(describe(mount, resources));
-        questions.push_back({mount.mountPoint, resources.mayBlock});
-    }
-    const auto sizes = platform::totalSizes(questions, patience);
+    for (const platform::Mount& mount : mounts)
+        volumes.push_back(describe(mount, platform::resourcesOfMount(mount, sources)));
+    const auto sizes = platform::totalSizes(mounts, {.patience = patience});
     for (std::size_t index = 0; index < volumes.size(); ++index)
         volumes[index].total = sizes[index];
     return volumes;

@@ -2,6 +2,7 @@
 
 #include "OndelCore/platform/FileDescriptor.h"
 #include "OndelCore/platform/OpenFolders.h"
+#include "OndelCore/platform/PathFacts.h"
 #include "OndelCore/platform/Uuid.h"
 
 #include <fcntl.h>
@@ -13,6 +14,8 @@
 namespace OndelCore::volumes {
 
 bool VolumeAccess::isWritable(const std::filesystem::path& folder) {
+    if (!platform::pathFacts(folder)) // a thread that asks one that hangs could not be ended
+        return false;
     const platform::FileDescriptor opened = platform::openFolder(folder);
     return opened && ownerOfNewFiles(opened.get());
 }

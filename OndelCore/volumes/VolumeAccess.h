@@ -39,8 +39,8 @@ public:
     VolumeAccess() = delete;
 
     /// Whether a file can really be made, written and flushed in `folder`, proved by doing so: permissions
-    /// and mount flags are not asked. The probe (".ondel-writeprobe-" and a UUID) is removed again. Fails:
-    /// any failing step means "no".
+    /// and mount flags are not asked, only whether the volume answers at all. The probe (".ondel-writeprobe-"
+    /// and a UUID) is removed again. Fails: any failing step means "no".
     static bool isWritable(const std::filesystem::path& folder);
 
     /// The same of an open folder. Answers who owns the probe, and so whatever this process makes there: on

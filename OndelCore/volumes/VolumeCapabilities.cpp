@@ -11,7 +11,7 @@ namespace {
 using namespace platform;
 
 struct Feature {
-    bool VolumeCapabilities::*field;
+    Capability VolumeCapabilities::*field;
     CapabilityWord CapabilityWords::*word;
     std::uint32_t bit;
 };
@@ -55,9 +55,19 @@ VolumeCapabilities VolumeCapabilities::from(const FileSystemAnswers& answers) {
     capabilities.blockSize = answers.blockSizeBytes;
     capabilities.optimalIOSize = answers.optimalIOSizeBytes;
     if (answers.capabilities)
-        for (const Feature& feature : features)
-            capabilities.*feature.field = ((*answers.capabilities).*feature.word).has(feature.bit);
+        for (const Feature& feature : features) {
+            const CapabilityWord& word = (*answers.capabilities).*feature.word;
+            capabilities.*feature.field =
+                word.knows(feature.bit) ? Capability(word.has(feature.bit)) : Capability();
+        }
     return capabilities;
+}
+
+void VolumeCapabilities::learn(const TriedAbilities& tried) {
+    if (tried.sparseFiles)
+        supportsSparseFiles = *tried.sparseFiles;
+    if (tried.cloning)
+        supportsCloning = *tried.cloning;
 }
 
 } // namespace OndelCore::volumes
@@ -69,6 +79,6 @@ std::size_t std::hash<OndelCore::volumes::VolumeCapabilities>::operator()(
                    capabilities.maxPathLength.value_or(-1), capabilities.maxLinkCount.value_or(-1),
                    capabilities.blockSize, capabilities.optimalIOSize);
     for (const auto& feature : OndelCore::volumes::features)
-        seed = qHash(capabilities.*feature.field, seed);
+        seed = qHashMulti(seed, bool{capabilities.*feature.field}, (capabilities.*feature.field).isKnown());
     return seed;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/platform/FileSystemAnswers.h"
+#include "OndelCore/platform/FileTrials.h"
 #include "OndelCore/platform/SystemSources.h"
 #include "OndelCore/volumes/Location.h"
 
@@ -14,26 +15,51 @@
 
 namespace OndelCore::volumes {
 
+/// Whether a file system has a feature: yes, no, or not known. Where only one of two is asked for, it reads
+/// as what is assumed of an unknown one.
+class Capability {
+public:
+    /// Not known.
+    constexpr Capability() = default;
+    constexpr Capability(bool isThere) // NOLINT(google-explicit-constructor): set as a flag is
+        : m_isThere(isThere)
+        , m_isKnown(true) {}
+    static constexpr Capability assumed(bool isThere) {
+        Capability capability(isThere);
+        capability.m_isKnown = false;
+        return capability;
+    }
+
+    explicit constexpr operator bool() const { return m_isThere; }
+    constexpr bool isKnown() const { return m_isKnown; }
+
+    bool operator==(const Capability&) const = default;
+
+private:
+    bool m_isThere = false;
+    bool m_isKnown = false;
+};
+
 /// What the file system of a path can do. A feature counts as present only when the file system both claims
-/// it and says that the claim is valid. Threads: any.
+/// it and says that the claim is valid; where nothing is valid it is not known. Threads: any.
 struct VolumeCapabilities {
     QString filesystemType; ///< "ext4", "nfs", "cifs"
     std::optional<std::int64_t> maxNameLength;
     std::optional<std::int64_t> maxPathLength;
     std::optional<std::int64_t> maxLinkCount;
-    bool isCaseSensitive = false;
-    bool isCasePreserving = true; ///< the one feature that is assumed of an unknown file system
-    bool supportsSparseFiles = false;
-    bool supportsHardLinks = false;
-    bool supportsSymbolicLinks = false;
-    bool supportsExtendedAttributes = false;
-    bool supportsNamedStreams = false;
-    bool supportsExtendedSecurity = false;
-    bool supportsCloning = false;
-    bool supportsSnapshots = false;
-    bool supportsJournal = false;
-    bool isJournalActive = false;
-    bool isSealed = false;
+    Capability isCaseSensitive;
+    Capability isCasePreserving = Capability::assumed(true); ///< the one that is assumed of an unknown one
+    Capability supportsSparseFiles;
+    Capability supportsHardLinks;
+    Capability supportsSymbolicLinks;
+    Capability supportsExtendedAttributes;
+    Capability supportsNamedStreams;
+    Capability supportsExtendedSecurity;
+    Capability supportsCloning;
+    Capability supportsSnapshots;
+    Capability supportsJournal;
+    Capability isJournalActive;
+    Capability isSealed;
     std::int64_t blockSize = 0;     ///< bytes
     std::int64_t optimalIOSize = 0; ///< bytes; 0 where nothing can be told
 
@@ -44,6 +70,8 @@ struct VolumeCapabilities {
                                                    const platform::SystemSources& sources = {});
     /// The record out of the file system's answers.
     static VolumeCapabilities from(const platform::FileSystemAnswers& answers);
+    /// Takes what was seen to happen for what was claimed.
+    void learn(const platform::TriedAbilities& tried);
 
     bool operator==(const VolumeCapabilities&) const = default;
 };

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <system_error>
 
 namespace OndelCore::volumes {
 
@@ -42,12 +41,8 @@ QString VolumeInfo::connection() const {
 std::optional<VolumeInfo> VolumeInfo::load(const Location& location, const platform::SystemSources& sources) {
     if (!location.isLocal())
         return std::nullopt;
-    std::error_code failed;
-    const auto resolved = std::filesystem::canonical(location.path, failed);
-    const auto resources = platform::volumeResources(failed ? location.path : resolved, sources);
-    if (!resources)
-        return std::nullopt;
-    return from(*resources, platform::mountedFrom(location.path, sources));
+    const auto resources = platform::volumeResources(location.path, sources);
+    return resources ? std::optional(from(*resources, resources->mountedFrom)) : std::nullopt;
 }
 
 VolumeInfo VolumeInfo::from(const platform::VolumeResources& resources, std::optional<std::string> device) {

@@ -80,8 +80,8 @@ public:
     /// The mounted volumes, in the system's order. Blocks for half a second at most.
     static std::vector<VolumeMenuItem> mountedVolumeItems();
 
-    /// Facts of the target's volume, as they were when it was selected; absent as long as it does not answer.
-    /// Both change together.
+    /// Facts of the target's volume, as they were when it was selected; absent as long as it does not answer,
+    /// and then those of its first answer, also during a run. Both change together.
     const std::optional<OndelCore::volumes::VolumeInfo>& volumeInfo() const { return m_volume.info; }
     const std::optional<OndelCore::volumes::VolumeCapabilities>& capabilities() const {
         return m_volume.capabilities;
@@ -243,6 +243,7 @@ private:
     void sweepOrphans(const std::filesystem::path& folder);
     void lookAtVolume(const std::filesystem::path& folder);
     void setVolume(const VolumeFacts& facts);
+    void learnAbilities(const OndelCore::platform::TriedAbilities& tried);
     void refreshSMART();
     void setSMART(std::optional<OndelCore::health::DiskSMART> smart);
     void setCurrentRun(std::optional<RunRecord> run);

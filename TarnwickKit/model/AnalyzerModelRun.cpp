@@ -43,8 +43,7 @@ BenchmarkResult answer(QFuture<BenchmarkResult> future) {
 AnalyzerModel::Run::Run(AnalyzerModel& model, BenchmarkPlan runPlan, std::filesystem::path runTarget)
     : plan(std::move(runPlan))
     , target(std::move(runTarget))
-    , volumeInfo(model.m_volume.info)
-    , capabilities(model.m_volume.capabilities)
+    , volume(model.m_volume)
     , stream([&model](const ProgressStream::Batch& batch) {
         Changes changes;
         for (const BenchmarkProgress& progress : batch)
@@ -157,8 +156,12 @@ void AnalyzerModel::finish(BenchmarkResult result) {
         return static_cast<double>(m_runStart.msecsTo(m_services.now())) / 1000;
     };
     setResult(result);
-    const RunRecord record = RunRecord::from(result, m_run->volumeInfo, m_run->capabilities, m_runStart,
-                                             m_run->plan, secondsSinceStart(), m_services.driveIdentity);
+    const double duration = secondsSinceStart();
+    learnAbilities(result.tried);
+    if (!m_run->volume.info) // a volume that has just been measured answers, if it was asked at all
+        m_volumeQuestion.awaitAnswer(m_services.volumePatience);
+    const RunRecord record = RunRecord::from(result, m_run->volume.info, m_run->volume.capabilities,
+                                             m_runStart, m_run->plan, duration, m_services.driveIdentity);
     setCurrentRun(record);
     setCurrentRunCollapsed(false);
     m_history->add(record);
@@ -188,7 +191,8 @@ void AnalyzerModel::logStart() const {
     const BenchmarkPlan& plan = m_run->plan;
     Log::app.notice(
         "benchmark started",
-        LogField::token("fs", m_run->capabilities ? m_run->capabilities->filesystemType : "unknown"),
+        LogField::token("fs",
+                        m_run->volume.capabilities ? m_run->volume.capabilities->filesystemType : "unknown"),
         LogField::token("connection", connectionLabel()),
         LogField::int_("tests", static_cast<std::int64_t>(plan.tests.size())),
         LogField::bool_("fillDisk", plan.size.asFillDisk() != nullptr),

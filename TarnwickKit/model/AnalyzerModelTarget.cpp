@@ -2,13 +2,13 @@
 
 #include "OndelCore/benchmark/BenchmarkTarget.h"
 #include "OndelCore/logging/Log.h"
-#include "OndelCore/platform/AnswerWithin.h"
 #include "OndelCore/platform/BackgroundThread.h"
 #include "OndelCore/platform/DetachedThread.h"
+#include "OndelCore/platform/PathFacts.h"
 #include "OndelCore/platform/ReplaceFile.h"
 #include "OndelCore/platform/StandardFolders.h"
 #include "OndelCore/volumes/MountedVolumes.h"
-#include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/model/AnalyzerRun.h"
 #include "TarnwickKit/model/PropertyChange.h"
 #include "TarnwickKit/model/SMARTReport.h"
 
@@ -41,11 +41,8 @@ constexpr auto anyone = std::filesystem::perms::owner_read | std::filesystem::pe
                         std::filesystem::perms::others_read | std::filesystem::perms::others_write;
 
 bool answersInTime(const std::filesystem::path& folder, std::chrono::milliseconds patience) {
-    const auto look = [folder] {
-        std::error_code ignored;
-        return std::filesystem::exists(folder, ignored);
-    };
-    return OndelCore::platform::answerWithin(patience, look).has_value();
+    using namespace OndelCore::platform;
+    return pathFacts(folder, PathQuestion::place, {.patience = patience}).has_value();
 }
 
 } // namespace
@@ -74,16 +71,17 @@ void AnalyzerModel::select(const std::filesystem::path& folder) {
     clearLiveSamples();
 }
 
-/// A volume that hangs has no facts, and the window lives on. What it tells later is still taken, but not
-/// into a run that began without it.
+/// A volume that hangs has no facts, and the window lives on. What it tells later is still taken, also into a
+/// run that began without it: the target cannot have changed since.
 void AnalyzerModel::lookAtVolume(const std::filesystem::path& folder) {
     const auto question = [load = m_services.loadVolume, probe = m_services.probeCapabilities,
                            location = Location::local(folder)] {
         return VolumeFacts{.info = load(location), .capabilities = probe(location)};
     };
     const auto take = [this](const VolumeFacts& facts) {
-        if (!isRunning())
-            setVolume(facts);
+        setVolume(facts);
+        if (isRunning())
+            m_run->learn(facts);
     };
     if (!m_volumeQuestion.ask(question, take, m_services.volumePatience))
         setVolume({});
@@ -95,15 +93,22 @@ void AnalyzerModel::setVolume(const VolumeFacts& facts) {
     setOptimalBlock(facts.capabilities ? suitableBlock(facts.capabilities->optimalIOSize) : std::nullopt);
 }
 
+void AnalyzerModel::learnAbilities(const OndelCore::platform::TriedAbilities& tried) {
+    if (!m_volume.capabilities)
+        return;
+    auto known = m_volume.capabilities;
+    known->learn(tried);
+    if (std::exchange(m_volume.capabilities, known) != known)
+        Q_EMIT volumeChanged();
+}
+
 void AnalyzerModel::selectVolume(const QUrl& mountPoint) {
     if (!mountPoint.isLocalFile())
         return;
     const auto home = OndelCore::platform::homeFolder().value_or("/");
     const auto volume = localPath(mountPoint);
-    const auto folder = OndelCore::platform::answerWithin(m_services.volumePatience, [volume, home] {
-        return OndelCore::benchmark::BenchmarkTarget::folder(volume, home);
-    });
-    select(folder.value_or(volume));
+    const bool answers = answersInTime(volume, m_services.volumePatience);
+    select(answers ? OndelCore::benchmark::BenchmarkTarget::folder(volume, home) : volume);
 }
 
 void AnalyzerModel::chooseFolder() { chooseFolder(m_targetFolder); }

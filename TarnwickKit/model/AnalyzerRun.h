@@ -11,9 +11,15 @@ struct AnalyzerModel::Run {
 
     const OndelCore::benchmark::BenchmarkPlan plan;
     const std::filesystem::path target;
-    /// As they were when the run began; the record is made of them.
-    const std::optional<OndelCore::volumes::VolumeInfo> volumeInfo;
-    const std::optional<OndelCore::volumes::VolumeCapabilities> capabilities;
+    /// The target's as they were when the run began, or as they came first after that. The record is made of
+    /// them.
+    VolumeFacts volume;
+    void learn(const VolumeFacts& facts) {
+        if (!volume.info)
+            volume.info = facts.info;
+        if (!volume.capabilities)
+            volume.capabilities = facts.capabilities;
+    }
     std::stop_source stop;
     bool launched = false; ///< the engine has been called
     bool hasEnded = false;

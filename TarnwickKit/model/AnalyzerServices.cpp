@@ -1,6 +1,7 @@
 #include "TarnwickKit/model/AnalyzerServices.h"
 
 #include "OndelCore/health/DiskHealth.h"
+#include "OndelCore/platform/PathFacts.h"
 
 namespace TarnwickKit::model {
 
@@ -9,7 +10,21 @@ using OndelCore::volumes::Location;
 using OndelCore::volumes::VolumeCapabilities;
 using OndelCore::volumes::VolumeInfo;
 
+namespace {
+
+/// A volume that answers after a minute is still taken; the thread that waits for one that never does ends.
+constexpr std::chrono::minutes latePatience(10);
+
+OndelCore::platform::SystemSources waitingFor(std::chrono::milliseconds patience) {
+    OndelCore::platform::SystemSources sources;
+    sources.patience = patience;
+    return sources;
+}
+
+} // namespace
+
 AnalyzerServices AnalyzerServices::real() {
+    using namespace OndelCore::platform;
     AnalyzerServices services;
     services.runBenchmark = [](OndelCore::benchmark::BenchmarkPlan plan, std::filesystem::path folder,
                                BenchmarkEngine::Progress progress, std::stop_token stop) {
@@ -17,17 +32,20 @@ AnalyzerServices AnalyzerServices::real() {
                                      std::move(stop));
     };
     services.cleanupOrphans = [](const std::filesystem::path& folder) {
-        BenchmarkEngine::cleanupOrphans(folder);
+        if (pathFacts(folder, PathQuestion::place, {.patience = latePatience}))
+            BenchmarkEngine::cleanupOrphans(folder);
     };
-    services.loadVolume = [](const Location& location) { return VolumeInfo::load(location); };
-    services.probeCapabilities = [](const Location& location) { return VolumeCapabilities::probe(location); };
+    services.loadVolume = [](const Location& location) {
+        return VolumeInfo::load(location, waitingFor(latePatience));
+    };
+    services.probeCapabilities = [](const Location& location) {
+        return VolumeCapabilities::probe(location, waitingFor(latePatience));
+    };
     services.readHealth = [](const std::filesystem::path& path) {
         return OndelCore::health::DiskHealth::read(path);
     };
     services.driveIdentity = [](const std::filesystem::path& volumeURL) {
-        const auto ask = [volumeURL] { return RunRecord::identityOf(volumeURL); };
-        return OndelCore::platform::answerWithin(OndelCore::platform::volumePatience, ask)
-            .value_or(DriveIdentity());
+        return DriveInfo::identity(volumeURL, waitingFor(OndelCore::platform::volumePatience));
     };
     services.now = [] { return QDateTime::currentDateTimeUtc(); };
     return services;

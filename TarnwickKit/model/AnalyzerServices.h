@@ -2,7 +2,7 @@
 
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/health/DiskSMART.h"
-#include "OndelCore/platform/AnswerWithin.h"
+#include "OndelCore/platform/ChildQuestion.h"
 #include "OndelCore/volumes/Location.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"

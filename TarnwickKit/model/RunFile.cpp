@@ -1,6 +1,6 @@
 #include "TarnwickKit/model/RunFile.h"
 
-#include "OndelCore/platform/AnswerWithin.h"
+#include "OndelCore/platform/PathFacts.h"
 #include "OndelCore/platform/ReadFile.h"
 #include "TarnwickKit/model/HistoryStore.h"
 #include "TarnwickKit/model/RunRecordJson.h"
@@ -41,15 +41,17 @@ ImportedRuns ImportedRuns::from(const std::vector<std::filesystem::path>& files)
     Milliseconds patience = patienceWithAll;
     for (const std::filesystem::path& file : files) {
         const auto begin = Clock::now();
-        const auto answer =
-            platform::answerWithin(std::max(patience, leastPatience), [file] { return decodedFile(file); });
-        if (!answer)
+        const bool answers = platform::pathFacts(file, platform::PathQuestion::place,
+                                                 {.patience = std::max(patience, leastPatience)})
+                                 .has_value();
+        if (!answers)
             patience -= std::chrono::duration_cast<Milliseconds>(Clock::now() - begin);
-        if (!answer || !*answer) {
+        const auto run = answers ? decodedFile(file) : std::nullopt;
+        if (!run) {
             ++imported.unreadable;
             continue;
         }
-        imported.append({.runs = {**answer}, .last = *answer, .readable = 1});
+        imported.append({.runs = {*run}, .last = run, .readable = 1});
     }
     return imported;
 }

@@ -13,6 +13,7 @@ namespace TarnwickKit::views {
 
 using model::AnalyzerModel;
 using OndelCore::health::DiskSMART;
+using OndelCore::volumes::Capability;
 using OndelCore::volumes::VolumeCapabilities;
 namespace Format = model::Format;
 
@@ -20,7 +21,7 @@ namespace {
 
 struct Feature {
     const char* name;
-    bool VolumeCapabilities::*flag;
+    Capability VolumeCapabilities::*flag;
 };
 constexpr std::array featureTable{
     Feature{QT_TRANSLATE_NOOP("TarnwickKit::views::TargetFacts", "Sparse files"),
@@ -35,6 +36,12 @@ constexpr std::array featureTable{
             &VolumeCapabilities::supportsSymbolicLinks},
     Feature{QT_TRANSLATE_NOOP("TarnwickKit::views::TargetFacts", "Xattr"),
             &VolumeCapabilities::supportsExtendedAttributes}};
+
+QString letterCase(Capability isCaseSensitive) {
+    if (!isCaseSensitive.isKnown())
+        return TargetFacts::tr("Case not known");
+    return isCaseSensitive ? TargetFacts::tr("Case-sensitive") : TargetFacts::tr("Case-insensitive");
+}
 
 QString orMissing(const std::optional<std::int64_t>& number, const QString& words) {
     return number ? words.arg(*number) : QStringLiteral("--");
@@ -79,8 +86,9 @@ QVariantList TargetFacts::capabilities() const {
         items.append(QVariant::fromValue(InfoItem{label, value}));
     };
     add(tr("File system"), can.filesystemType.toUpper());
-    add(tr("Format"), can.isCaseSensitive ? tr("Case-sensitive") : tr("Case-insensitive"));
-    add(tr("Optimal I/O size"), Format::block(can.optimalIOSize));
+    add(tr("Format"), letterCase(can.isCaseSensitive));
+    add(tr("Optimal I/O size"),
+        can.optimalIOSize > 0 ? Format::block(can.optimalIOSize) : QStringLiteral("--"));
     add(tr("Block size"), Format::block(can.blockSize));
     add(tr("Max filename"), orMissing(can.maxNameLength, tr("%1 chars")));
     add(tr("Max path"), orMissing(can.maxPathLength, QStringLiteral("%1")));
@@ -96,6 +104,15 @@ QStringList TargetFacts::features() const {
     if (hasCapabilities())
         for (const Feature& feature : featureTable)
             if ((*m_analyzer->capabilities()).*feature.flag)
+                names.append(tr(feature.name));
+    return names;
+}
+
+QStringList TargetFacts::unknownFeatures() const {
+    QStringList names;
+    if (hasCapabilities())
+        for (const Feature& feature : featureTable)
+            if (!((*m_analyzer->capabilities()).*feature.flag).isKnown())
                 names.append(tr(feature.name));
     return names;
 }

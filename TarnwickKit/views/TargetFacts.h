@@ -42,6 +42,8 @@ class TargetFacts : public QObject {
     Q_PROPERTY(QVariantList capabilities READ capabilities NOTIFY volumeChanged)
     /// The names of what the file system can do.
     Q_PROPERTY(QStringList features READ features NOTIFY volumeChanged)
+    /// The names of what it may be able to do: nothing and nobody has told yet.
+    Q_PROPERTY(QStringList unknownFeatures READ unknownFeatures NOTIFY volumeChanged)
 
     Q_PROPERTY(bool hasHealth READ hasHealth NOTIFY healthChanged)
     Q_PROPERTY(bool isFailing READ isFailing NOTIFY healthChanged)
@@ -61,6 +63,7 @@ public:
     bool hasCapabilities() const { return m_analyzer && m_analyzer->capabilities(); }
     QVariantList capabilities() const;
     QStringList features() const;
+    QStringList unknownFeatures() const;
     Q_SIGNAL void volumeChanged();
 
     bool hasHealth() const;

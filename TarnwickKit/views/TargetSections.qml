@@ -52,6 +52,14 @@ Column {
                             width: parent.width
                             target: sections.target
                         }
+                        PlainText {
+                            width: parent.width
+                            visible: sections.target.unknownFeatures.length > 0
+                            text: qsTr("Not known: %1").arg(sections.target.unknownFeatures.join(qsTr(", ")))
+                            font: Typeface.text(11)
+                            color: PaletteKey.palette.text3
+                            wrapMode: Text.Wrap
+                        }
                     }
                 }
             }

@@ -78,7 +78,8 @@ const Command factsCommand{.name = "facts",
                            .summary = "Show what holds FOLDER: volume, file system, drive and its health",
                            .options = options,
                            .notes = R"(
-Nothing is written anywhere. What the system does not tell reads "--", and is left out of the JSON object.
+Nothing is written anywhere. What the system does not tell reads "--" or "not known", and is left out of the JSON
+object.
 )",
                            .execute = &execute};
 

@@ -1,21 +1,28 @@
 #include "examples/host/Folder.h"
 
-#include <sys/stat.h>
+#include "OndelCore/platform/PathFacts.h"
 
-#include <cerrno>
+#include <stdexcept>
+#include <string>
 #include <system_error>
 
 namespace examples::host {
+
+FolderLook look(std::string_view folder) {
+    const auto facts = OndelCore::platform::pathFacts(folder);
+    if (!facts)
+        throw std::runtime_error(quoted(folder) + " does not answer");
+    return {.error = facts->error, .isFolder = facts->isFolder};
+}
 
 std::filesystem::path folderIn(const CommandLine& line) {
     if (line.operands().empty())
         throw UsageError("a FOLDER is missing");
     if (line.operands().size() > 1)
         throw UsageError("one FOLDER at a time");
-    std::filesystem::path folder = line.operands().front();
-    struct stat facts {};
-    if (stat(folder.c_str(), &facts) != 0)
-        throw UsageError(quoted(line.operands().front()) + ": " + std::generic_category().message(errno));
+    const std::string_view folder = line.operands().front();
+    if (const int error = look(folder).error; error != 0)
+        throw UsageError(quoted(folder) + ": " + std::generic_category().message(error));
     return folder;
 }
 

@@ -1,8 +1,7 @@
 #include "examples/host/RunOptions.h"
 
+#include "examples/host/Folder.h"
 #include "examples/host/Numbers.h"
-
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <array>
@@ -124,13 +123,11 @@ std::filesystem::path parsedFolder(const CommandLine& line) {
     if (folder.empty())
         throw UsageError("the FOLDER's name is empty");
 
-    struct stat facts {};
-    if (stat(std::string(folder).c_str(), &facts) == 0) {
-        if (!S_ISDIR(facts.st_mode))
-            throw UsageError(quoted(folder) + " is not a folder");
-    } else if (errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG || errno == ELOOP) {
-        throw UsageError(quoted(folder) + ": " + std::generic_category().message(errno));
-    }
+    const auto [error, isFolder] = look(folder);
+    if (error == 0 && !isFolder)
+        throw UsageError(quoted(folder) + " is not a folder");
+    if (error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP)
+        throw UsageError(quoted(folder) + ": " + std::generic_category().message(error));
     return folder;
 }
 

@@ -15,7 +15,7 @@ namespace {
 struct Feature {
     const char* name;
     const char* label;
-    bool VolumeCapabilities::*field;
+    Capability VolumeCapabilities::*field;
 };
 constexpr std::array features = {
     Feature{"isCaseSensitive", "Case-sensitive", &VolumeCapabilities::isCaseSensitive},
@@ -37,6 +37,14 @@ constexpr std::array features = {
 
 QString pathText(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
 QString yesOrNo(bool value) { return value ? "yes" : "no"; }
+QString answerText(Capability capability) {
+    return capability.isKnown() ? yesOrNo(bool{capability}) : QString("not known");
+}
+
+/// Every byte of a name comes back out of it, be it text or not.
+QString urlText(const std::filesystem::path& path) {
+    return "file://" + QString::fromLatin1(QByteArray::fromStdString(path.native()).toPercentEncoding("/"));
+}
 
 void add(QJsonObject& object, const char* name, const std::optional<QString>& text) {
     if (text)
@@ -69,7 +77,7 @@ QJsonObject volumeJson(const VolumeInfo& volume) {
                        {"usedFraction", volume.usedFraction()},
                        {"connection", volume.connection()}};
     if (volume.volumeURL)
-        object.insert("volumeURL", pathText(*volume.volumeURL));
+        object.insert("volumeURL", urlText(*volume.volumeURL));
     if (volume.device)
         object.insert("device", QString::fromStdString(*volume.device));
     return object;
@@ -77,13 +85,15 @@ QJsonObject volumeJson(const VolumeInfo& volume) {
 
 QJsonObject capabilitiesJson(const VolumeCapabilities& capabilities) {
     QJsonObject object{{"filesystemType", capabilities.filesystemType},
-                       {"blockSize", qint64{capabilities.blockSize}},
-                       {"optimalIOSize", qint64{capabilities.optimalIOSize}}};
+                       {"blockSize", qint64{capabilities.blockSize}}};
+    if (capabilities.optimalIOSize > 0)
+        object.insert("optimalIOSize", qint64{capabilities.optimalIOSize});
     add(object, "maxNameLength", capabilities.maxNameLength);
     add(object, "maxPathLength", capabilities.maxPathLength);
     add(object, "maxLinkCount", capabilities.maxLinkCount);
     for (const Feature& feature : features)
-        object.insert(QLatin1String(feature.name), capabilities.*feature.field);
+        if (const Capability capability = capabilities.*feature.field; capability.isKnown())
+            object.insert(QLatin1String(feature.name), bool{capability});
     return object;
 }
 
@@ -95,7 +105,7 @@ QJsonObject driveJson(const DriveIdentity& drive) {
 }
 
 QJsonObject mountedVolumeJson(const MountedVolume& volume) {
-    QJsonObject object{{"url", pathText(volume.url)},     {"name", volume.name},
+    QJsonObject object{{"url", urlText(volume.url)},      {"name", volume.name},
                        {"format", volume.format},         {"filesystemType", volume.filesystemType},
                        {"isInternal", volume.isInternal}, {"isRemovable", volume.isRemovable}};
     add(object, "total", volume.total);
@@ -126,7 +136,7 @@ std::vector<TextRow> capabilityRows(const VolumeCapabilities& capabilities) {
                               {"Longest path", numberText(capabilities.maxPathLength)},
                               {"Most links", numberText(capabilities.maxLinkCount)}};
     for (const Feature& feature : features)
-        rows.push_back({feature.label, yesOrNo(capabilities.*feature.field)});
+        rows.push_back({feature.label, answerText(capabilities.*feature.field)});
     return rows;
 }
 

@@ -5,6 +5,7 @@
 #include <QJsonObject>
 
 #include <gtest/gtest.h>
+#include <sys/mount.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -31,7 +32,7 @@ TEST(Facts, HoldEveryFieldByItsName) {
               (QStringList{"available", "connection", "device", "format", "isEncrypted", "isInternal",
                            "isReadOnly", "isRemovable", "name", "purgeable", "rawAvailable", "total", "used",
                            "usedFraction", "volumeURL"}));
-    EXPECT_EQ(facts["volume"]["volumeURL"], "/");
+    EXPECT_EQ(facts["volume"]["volumeURL"], "file:///");
     QStringList capabilities = keysOf(facts["capabilities"]);
     capabilities.removeOne("maxLinkCount"); // not every file system has one
     EXPECT_EQ(capabilities,
@@ -41,6 +42,22 @@ TEST(Facts, HoldEveryFieldByItsName) {
                            "supportsHardLinks", "supportsJournal", "supportsNamedStreams",
                            "supportsSnapshots", "supportsSparseFiles", "supportsSymbolicLinks"}));
     EXPECT_TRUE(facts["drive"].isObject());
+}
+
+TEST(Facts, KeepTheBytesOfAMountPointAndLeaveOutWhatIsNotKnown) {
+    const test::TemporaryFolder parent;
+    const auto point = parent.path() / "50% caf\xe9";
+    std::filesystem::create_directory(point);
+    if (mount("tmpfs", point.c_str(), "tmpfs", 0, "size=1m") != 0)
+        GTEST_SKIP() << "no right to mount";
+    const QJsonObject facts = json({"facts", "--json", point.string()}).object();
+    const auto text = runHost({"facts", point.string()}).output;
+    umount2(point.c_str(), MNT_DETACH);
+    const QByteArray url = facts["volume"]["volumeURL"].toString().toUtf8();
+    EXPECT_TRUE(url.endsWith("/50%25%20caf%E9")) << url.toStdString();
+    EXPECT_EQ(QByteArray::fromPercentEncoding(url).toStdString(), "file://" + point.string());
+    EXPECT_FALSE(facts["capabilities"].toObject().contains("optimalIOSize"));
+    EXPECT_NE(text.find("Optimal transfer         --"), std::string::npos) << text;
 }
 
 TEST(Facts, StayOnOneLineEachWhateverTheFolderIsCalled) {
@@ -72,7 +89,7 @@ TEST(Volumes, ListTheRootOnceInBothForms) {
     ASSERT_TRUE(list.isArray());
     int roots = 0;
     for (const QJsonValue& volume : list.array())
-        if (volume["url"] == "/") {
+        if (volume["url"] == "file:///") {
             ++roots;
             EXPECT_GT(volume["total"].toInteger(), 0);
             EXPECT_FALSE(volume["name"].toString().isEmpty());

@@ -35,10 +35,9 @@ LoopMount::LoopMount(const std::string& type, std::int64_t bytes, const std::str
     if (type == "tmpfs") {
         options << "size=" + QString::number(bytes);
     } else {
-        const auto image = m_folder.path() / "image";
-        std::ofstream(image).close();
-        std::filesystem::resize_file(image, static_cast<std::uintmax_t>(bytes));
-        source = QString::fromStdString(image.string());
+        std::ofstream(image()).close();
+        std::filesystem::resize_file(image(), static_cast<std::uintmax_t>(bytes));
+        source = QString::fromStdString(image().string());
         options << "loop";
         m_problem = complaintOf("mkfs." + fileSystem, formatOptions + QStringList{source});
     }

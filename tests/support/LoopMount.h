@@ -23,6 +23,9 @@ public:
 
     const std::filesystem::path& path() const { return m_mountPoint; }
 
+    /// The file that holds it; none for "tmpfs".
+    std::filesystem::path image() const { return m_folder.path() / "image"; }
+
     /// Why there is no file system; empty when there is one.
     const std::string& problem() const { return m_problem; }
 

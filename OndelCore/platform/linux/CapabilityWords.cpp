@@ -1,68 +1,44 @@
 #include "OndelCore/platform/linux/CapabilityWords.h"
 
 #include "OndelCore/platform/BlockDevices.h"
-#include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/linux/XfsGeometry.h"
 
-#include <fcntl.h>
-#include <linux/fs.h>
-#include <sys/ioctl.h>
-#include <sys/xattr.h>
-
-#include <array>
-#include <cerrno>
-#include <cstddef>
 #include <cstdint>
 
 namespace OndelCore::platform {
 
 namespace {
 
-/// The answer of XFS to "what is your geometry", first version (xfs_fs.h); all in the machine's byte order.
-struct XfsGeometry {
-    std::array<std::uint32_t, 4> blockAndGroupSizes;
-    std::array<std::uint32_t, 4> sectorAndInodeSizes;
-    std::array<std::uint64_t, 4> blockCounts;
-    std::array<std::uint8_t, 16> uuid;
-    std::uint32_t stripeUnit;
-    std::uint32_t stripeWidth;
-    std::int32_t version;
-    std::uint32_t flags;
-    std::array<std::uint32_t, 4> logSectorAndRealtimeSizes;
-};
-static_assert(sizeof(XfsGeometry) == 112);
-static_assert(offsetof(XfsGeometry, flags) == 92);
-constexpr unsigned long xfsGetGeometry = _IOR('X', 100, XfsGeometry);
-constexpr std::uint32_t xfsIgnoresCase = 1U << 13;
-constexpr std::uint32_t xfsSharesBlocks = 1U << 20;
+constexpr std::int64_t folderIgnoresCase = 0x40000000; // FS_CASEFOLD_FL of linux/fs.h
 
-constexpr long folderIgnoresCase = 0x40000000; // FS_CASEFOLD_FL of linux/fs.h
-
-/// Whether the file system keeps an attribute of this name; absent if it does not say.
-std::optional<bool> keepsAttribute(const std::filesystem::path& path, const char* name) {
-    if (getxattr(path.c_str(), name, nullptr, 0) >= 0 || errno == ENODATA)
-        return true;
-    return errno == EOPNOTSUPP ? std::optional(false) : std::nullopt;
-}
-
-void askAttributes(CapabilityWords& words, const std::filesystem::path& path) {
-    if (const auto keeps = keepsAttribute(path, "user.ondel"))
+void readAttributes(CapabilityWords& words, const Mount& mount, const PathFacts& answers) {
+    if (const auto keeps = answers.keepsUserAttributes)
         words.interfaces.state(interfaceExtendedAttributes, *keeps);
-    if (const auto keeps = keepsAttribute(path, "system.posix_acl_access"))
+    // A FUSE program may take an access list, answer as if it had none, and store nothing.
+    const auto keeps = answers.keepsAccessLists;
+    if (keeps && !(mount.type.starts_with("fuse") && *keeps))
         words.interfaces.state(interfaceExtendedSecurity, *keeps);
 }
 
-void askFolder(CapabilityWords& words, std::string_view type, const std::filesystem::path& path) {
-    const FileDescriptor folder(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (!folder)
-        return;
-    long flags = 0;
-    if (ioctl(folder.get(), FS_IOC_GETFLAGS, &flags) == 0 && (flags & folderIgnoresCase))
+void readFolder(CapabilityWords& words, const PathFacts& answers) {
+    if (answers.folderFlags.value_or(0) & folderIgnoresCase)
         words.format.state(formatCaseSensitive, false);
-    XfsGeometry geometry{};
-    if (type == "xfs" && ioctl(folder.get(), xfsGetGeometry, &geometry) == 0) {
-        words.interfaces.state(interfaceClone, (geometry.flags & xfsSharesBlocks) != 0);
-        words.format.state(formatCaseSensitive, (geometry.flags & xfsIgnoresCase) == 0);
+    if (const auto geometry = answers.xfsGeometryFlags) {
+        words.interfaces.state(interfaceClone, (*geometry & xfsSharesBlocks) != 0);
+        words.format.state(formatCaseSensitive, (*geometry & xfsIgnoresCase) == 0);
     }
+}
+
+/// What the look-up of a name found, where the type leaves it open.
+void readLetterCase(CapabilityWord& format, std::string_view type, LetterCase found) {
+    if (found == LetterCase::unknown)
+        return;
+    const bool isSensitive = found == LetterCase::sensitive;
+    if (!format.knows(formatCaseSensitive))
+        format.state(formatCaseSensitive, isSensitive);
+    const bool isDisc = type == "iso9660"; // plain names are told apart and not kept
+    if (!format.knows(formatCasePreserving) && found != LetterCase::ignored && !isDisc)
+        format.state(formatCasePreserving, true);
 }
 
 /// Ext3 and Ext4 can be made without a journal, and mounted without using it.
@@ -79,33 +55,49 @@ void askJournal(CapabilityWords& words, const Mount& mount, const SystemSources&
         words.format.state(formatJournalActive, *task != "<none>");
 }
 
+/// The mount table says "norock" where Joliet's names are in use, or Rock Ridge's are not wanted. Without
+/// that word the names are either Rock Ridge's or plain ones, and plain ones are shown in lower case.
+void readDisc(CapabilityWord& format, const Mount& mount, const PathFacts& answers) {
+    const auto has = [&](std::string_view option) { return hasMountOption(mount.superOptions, option); };
+    format.state(formatCaseSensitive, has("check=s"));
+    if (has("norock")) {
+        format.state(formatCasePreserving, has("check=r"));
+        format.state(formatSymbolicLinks, false);
+        format.state(formatHardLinks, false);
+    } else if (answers.hasCapitals && has("map=n")) {
+        format.state(formatCasePreserving, true);
+        format.state(formatSymbolicLinks, true);
+    }
+}
+
 void readOptions(CapabilityWords& words, std::string_view type, const Mount& mount) {
     const auto has = [&](std::string_view option) { return hasMountOption(mount.superOptions, option); };
     if (has("nocase") || has("caseinsensitive"))
         words.format.state(formatCaseSensitive, false);
     if (has("casesensitive"))
         words.format.state(formatCaseSensitive, true);
-    if (type == "iso9660") {
-        words.format.state(formatCaseSensitive, has("check=s"));
-        if (has("norock") && has("check=r")) // the names are Joliet's
-            words.format.state(formatCasePreserving, true);
-    }
     if (type == "cifs" && (has("mfsymlinks") || has("unix") || has("posix")))
         words.format.state(formatSymbolicLinks, true);
 }
 
 } // namespace
 
-CapabilityWords capabilityWords(const FileSystemFacts& facts, const Mount& mount,
-                                const std::filesystem::path& path, const SystemSources& sources) {
-    CapabilityWords words = facts.capabilities;
-    readOptions(words, facts.type, mount);
-    askAttributes(words, path);
-    askFolder(words, facts.type, path);
-    if (facts.type == "ext3" || facts.type == "ext4")
+CapabilityWords capabilityWords(const FileSystemFacts* facts, const Mount& mount, const PathFacts& answers,
+                                const SystemSources& sources) {
+    CapabilityWords words = facts ? facts->capabilities : CapabilityWords();
+    const std::string_view type = facts ? facts->type : std::string_view();
+    readOptions(words, type, mount);
+    if (type == "iso9660")
+        readDisc(words.format, mount, answers);
+    readAttributes(words, mount, answers);
+    readFolder(words, answers);
+    readLetterCase(words.format, type, answers.letterCase);
+    if (type == "ext3" || type == "ext4")
         askJournal(words, mount, sources);
-    if (facts.reach == FileSystemReach::device)
+    if (facts && facts->reach == FileSystemReach::device)
         words.format.state(formatSealed, blockStack(mount, sources).isSealed);
+    if (facts && facts->reach == FileSystemReach::memory)
+        words.format.state(formatSealed, false);
     return words;
 }
 

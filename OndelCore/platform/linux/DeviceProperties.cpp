@@ -1,8 +1,11 @@
 #include "OndelCore/platform/BlockDevices.h"
+#include "OndelCore/platform/FileDescriptor.h"
 #include "OndelCore/platform/SystemSources.h"
 
 #include <blkid/blkid.h>
+#include <fcntl.h>
 #include <libudev.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <memory>
@@ -47,6 +50,17 @@ void copyTag(blkid_probe probe, const char* tag, const char* name, DevicePropert
         properties[name] = std::string(value, length - 1);
 }
 
+DeviceProperties probed(blkid_struct_probe& probe) {
+    DeviceProperties properties;
+    blkid_probe_enable_superblocks(&probe, 1);
+    blkid_probe_set_superblocks_flags(&probe, BLKID_SUBLKS_LABEL | BLKID_SUBLKS_TYPE);
+    if (blkid_do_safeprobe(&probe) != 0)
+        return properties;
+    copyTag(&probe, "LABEL", "ID_FS_LABEL", properties);
+    copyTag(&probe, "TYPE", "ID_FS_TYPE", properties);
+    return properties;
+}
+
 } // namespace
 
 std::optional<std::string> propertyIn(const DeviceProperties& properties, std::string_view name) {
@@ -79,21 +93,24 @@ DeviceProperties databaseProperties(dev_t number) {
 }
 
 DeviceProperties superblockProperties(dev_t number) {
-    DeviceProperties properties;
     const auto device = blockDevice(number);
     if (!device || std::ranges::any_of(blockStack(number).wholeDisks, isSuspended))
-        return properties;
+        return {};
     const std::unique_ptr<blkid_struct_probe, Unref> probe(
         blkid_new_probe_from_filename(device->node().c_str()));
     if (!probe)
-        return properties;
-    blkid_probe_enable_superblocks(probe.get(), 1);
-    blkid_probe_set_superblocks_flags(probe.get(), BLKID_SUBLKS_LABEL | BLKID_SUBLKS_TYPE);
-    if (blkid_do_safeprobe(probe.get()) != 0)
-        return properties;
-    copyTag(probe.get(), "LABEL", "ID_FS_LABEL", properties);
-    copyTag(probe.get(), "TYPE", "ID_FS_TYPE", properties);
-    return properties;
+        return {};
+    return probed(*probe);
+}
+
+DeviceProperties imageProperties(const std::filesystem::path& image) {
+    const FileDescriptor file(open(image.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat facts {};
+    const std::unique_ptr<blkid_struct_probe, Unref> probe(blkid_new_probe());
+    if (!file || fstat(file.get(), &facts) != 0 || !S_ISREG(facts.st_mode) || !probe ||
+        blkid_probe_set_device(probe.get(), file.get(), 0, 0) != 0)
+        return {};
+    return probed(*probe);
 }
 
 } // namespace OndelCore::platform

@@ -1,12 +1,9 @@
 #include "OndelCore/platform/FileSystemAnswers.h"
 
 #include "OndelCore/platform/BlockDevices.h"
+#include "OndelCore/platform/PathFacts.h"
 #include "OndelCore/platform/linux/CapabilityWords.h"
 #include "OndelCore/platform/linux/MountedType.h"
-
-#include <sys/stat.h>
-#include <sys/statvfs.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <bit>
@@ -33,31 +30,21 @@ std::int64_t optimalSizeOfQueue(const std::filesystem::path& queue) {
     return std::clamp(power, smallestRequest, largestRequest);
 }
 
-/// A server's own word. A single page is what the kernel puts where there is none.
-std::int64_t optimalSizeOfServer(const std::filesystem::path& path) {
-    struct stat file {};
-    return stat(path.c_str(), &file) == 0 && file.st_blksize > pageSize ? file.st_blksize : 0;
-}
-
 std::int64_t optimalSize(const std::optional<Mount>& mount, const FileSystemFacts* facts,
-                         const std::filesystem::path& path, const SystemSources& sources) {
+                         const PathFacts& answers, const SystemSources& sources) {
+    // A server's own word. A single page is what the kernel puts where there is none.
     if (facts && facts->reach == FileSystemReach::network)
-        return optimalSizeOfServer(path);
+        return answers.preferredTransfer > pageSize ? answers.preferredTransfer : 0;
     const auto number = mount ? deviceOfMount(*mount) : std::nullopt;
     const auto device = number ? blockDevice(*number, sources.sysfs) : std::nullopt;
     return device ? optimalSizeOfQueue(wholeDevice(*device).folder / "queue") : 0;
 }
 
-std::optional<std::int64_t> limit(const std::filesystem::path& path, int name) {
-    const long value = pathconf(path.c_str(), name);
-    return value > 0 ? std::optional<std::int64_t>(value) : std::nullopt;
-}
-
 /// The C library answers 127 for each file system that it does not know.
-std::optional<std::int64_t> linkLimit(const std::filesystem::path& path, const FileSystemFacts* facts) {
+std::optional<std::int64_t> linkLimit(const PathFacts& answers, const FileSystemFacts* facts) {
     constexpr std::int64_t madeUp = 127;
-    if (const auto asked = limit(path, _PC_LINK_MAX); asked != madeUp)
-        return asked;
+    if (answers.maxLinkCount != madeUp)
+        return answers.maxLinkCount;
     return facts && facts->maxLinkCount > 0 ? std::optional(facts->maxLinkCount) : std::nullopt;
 }
 
@@ -65,20 +52,27 @@ std::optional<std::int64_t> linkLimit(const std::filesystem::path& path, const F
 
 std::optional<FileSystemAnswers> askFileSystem(const std::filesystem::path& path,
                                                const SystemSources& sources) {
-    struct statvfs sizes {};
-    if (statvfs(path.c_str(), &sizes) != 0)
+    const auto table = mounts(sources.mountTable);
+    const auto told = pathFacts(path, PathQuestion::abilities, table, {.patience = sources.patience});
+    if (!told || !told->hasSizes)
         return std::nullopt;
-    const auto mount = mountOfPathIn(sources.mountTable, path);
+    return fileSystemAnswers(*told, mountOf(*told, table), sources);
+}
+
+FileSystemAnswers fileSystemAnswers(const PathFacts& told, const std::optional<Mount>& mount,
+                                    const SystemSources& sources) {
     FileSystemAnswers answers;
     answers.type = mount ? mountedType(*mount, sources) : std::string();
-    const FileSystemFacts* const facts = fileSystemFacts(answers.type);
-    answers.blockSizeBytes = static_cast<std::int64_t>(sizes.f_frsize ? sizes.f_frsize : sizes.f_bsize);
-    answers.optimalIOSizeBytes = optimalSize(mount, facts, path, sources);
-    answers.maxNameLength = limit(path, _PC_NAME_MAX);
-    answers.maxPathLength = limit(path, _PC_PATH_MAX);
-    answers.maxLinkCount = linkLimit(path, facts);
-    if (mount && facts)
-        answers.capabilities = capabilityWords(*facts, *mount, path, sources);
+    const FileSystemFacts* const facts = mount ? factsOfMounted(*mount, answers.type) : nullptr;
+    answers.blockSizeBytes = told.blockSize;
+    answers.optimalIOSizeBytes = optimalSize(mount, facts, told, sources);
+    answers.maxNameLength = told.maxNameLength;
+    if (facts && facts->maxNameLength > 0)
+        answers.maxNameLength = facts->maxNameLength;
+    answers.maxPathLength = told.maxPathLength;
+    answers.maxLinkCount = linkLimit(told, facts);
+    if (mount)
+        answers.capabilities = capabilityWords(facts, *mount, told, sources);
     return answers;
 }
 

@@ -25,17 +25,21 @@ constexpr CapabilityWord interfaces(std::uint32_t claimed, std::uint32_t open = 
 }
 
 constexpr FileSystemFacts row(std::string_view type, std::string_view displayName, FileSystemReach reach,
-                              CapabilityWord format, CapabilityWord interfaces, std::int64_t maxLinks = 0) {
-    return {type, displayName, reach, {format, interfaces}, maxLinks};
+                              CapabilityWord format, CapabilityWord interfaces, std::int64_t maxLinks = 0,
+                              std::int64_t maxName = 0) {
+    return {type, displayName, reach, {format, interfaces}, maxLinks, maxName};
 }
 
 using enum FileSystemReach;
+
+constexpr std::int64_t utf16Name = 255;
 
 // What a server decides, or a mount option, or a choice made at formatting, is open here: asking the mounted
 // file system may settle it (CapabilityWords.cpp). Sources: the kernel's Documentation/filesystems and each
 // tool's manual. Links: ext2 EXT2_LINK_MAX, ext3 and ext4 EXT4_LINK_MAX, xfs XFS_MAXLINK, btrfs
 // BTRFS_LINK_MAX, f2fs F2FS_LINK_MAX, jfs JFS_LINK_MAX, nilfs2 NILFS_LINK_MAX, udf UDF_MAX_LINKS, ntfs
-// NTFS_LINK_MAX.
+// NTFS_LINK_MAX. Names: where the kernel answers the bytes that the longest name may take in the widest
+// encoding (1530), the characters stand here. How a server treats letter case is the server's affair.
 constexpr std::array rows = {
     row("ext2", "Ext2", device, format(posix), interfaces(attributes), 32000),
     row("ext3", "Ext3", device, format(posix | journal), interfaces(attributes), 65000),
@@ -50,59 +54,57 @@ constexpr std::array rows = {
     row("jfs", "JFS", device, format(posix | journal), interfaces(attributes), 65535),
     row("nilfs2", "NILFS2", device, format(posix), interfaces(interfaceSnapshot), 32000),
     row("reiserfs", "ReiserFS", device, format(posix | journal), interfaces(attributes), 64535),
-    row("vfat", "FAT", device, format(formatCasePreserving), interfaces(0), 1),
+    row("vfat", "FAT", device, format(formatCasePreserving), interfaces(0), 1, utf16Name),
     row("msdos", "FAT", device, format(0), interfaces(0), 1),
-    row("exfat", "exFAT", device, format(formatCasePreserving), interfaces(0), 1),
+    row("exfat", "exFAT", device, format(formatCasePreserving), interfaces(0), 1, utf16Name),
     row("ntfs", "NTFS", device, format(posix | formatJournal, formatCaseSensitive),
         interfaces(interfaceExtendedAttributes | interfaceNamedStreams, interfaceExtendedSecurity), 1024),
     row("ntfs3", "NTFS", device, format(posix | formatJournal, formatCaseSensitive),
         interfaces(interfaceExtendedAttributes | interfaceNamedStreams, interfaceExtendedSecurity), 1024),
     row("hfsplus", "HFS+", device, format(formatCasePreserving | links | formatJournal, formatCaseSensitive),
-        interfaces(interfaceExtendedAttributes)),
+        interfaces(interfaceExtendedAttributes), 0, utf16Name),
     row("hfs", "HFS", device, format(formatCasePreserving), interfaces(0), 1),
     row("apfs", "APFS", device, format(posix, formatCaseSensitive),
         interfaces(interfaceExtendedAttributes | copies)),
     row("iso9660", "ISO 9660", device, format(0, names | links), interfaces(0)),
-    row("udf", "UDF", device, format(names | links, formatSparseFiles), interfaces(0), 65535),
+    row("udf", "UDF", device, format(posix), interfaces(0), 65535),
     row("squashfs", "SquashFS", device, format(posix), interfaces(interfaceExtendedAttributes)),
     row("erofs", "EROFS", device, format(posix), interfaces(attributes)),
-    row("fuseblk", "FUSE", device, format(formatCasePreserving, (posix & ~formatCasePreserving) | journal),
+    row("fuseblk", "FUSE", device, format(0, posix | journal),
         interfaces(0, attributes | interfaceNamedStreams)),
     row("tmpfs", "tmpfs", memory, format(posix), interfaces(attributes)),
     row("ramfs", "ramfs", memory, format(posix), interfaces(0)),
     row("overlay", "OverlayFS", layered, format(names | links, formatSparseFiles),
         interfaces(0, attributes | copies)),
-    row("nfs", "NFS", network, format(formatCasePreserving | links, formatCaseSensitive | formatSparseFiles),
+    row("nfs", "NFS", network, format(links, names | formatSparseFiles),
         interfaces(0, attributes | interfaceClone)),
-    row("cifs", "SMB", network, format(formatCasePreserving, links | formatCaseSensitive | formatSparseFiles),
+    row("cifs", "SMB", network, format(0, posix),
         interfaces(0, attributes | interfaceClone | interfaceNamedStreams)),
-    row("smbfs", "SMB", network,
-        format(formatCasePreserving, links | formatCaseSensitive | formatSparseFiles),
-        interfaces(0, attributes | interfaceNamedStreams)),
-    row("afpfs", "AFP", network,
-        format(formatCasePreserving, links | formatCaseSensitive | formatSparseFiles),
-        interfaces(0, attributes | interfaceNamedStreams)),
-    row("9p", "9P", network, format(formatCasePreserving | links, formatCaseSensitive | formatSparseFiles),
-        interfaces(0, attributes)),
-    row("virtiofs", "VirtioFS", network,
-        format(formatCasePreserving | links, formatCaseSensitive | formatSparseFiles),
+    row("smbfs", "SMB", network, format(0, posix), interfaces(0, attributes | interfaceNamedStreams)),
+    row("afpfs", "AFP", network, format(0, posix), interfaces(0, attributes | interfaceNamedStreams)),
+    row("9p", "9P", network, format(links, names | formatSparseFiles), interfaces(0, attributes)),
+    row("virtiofs", "VirtioFS", network, format(links, names | formatSparseFiles),
         interfaces(0, attributes | copies)),
-    row("vboxsf", "Shared Folder", network, format(formatCasePreserving, posix & ~formatCasePreserving),
-        interfaces(0, attributes)),
-    row("fuse.vmhgfs-fuse", "Shared Folder", network,
-        format(formatCasePreserving, posix & ~formatCasePreserving), interfaces(0, attributes)),
+    row("vboxsf", "Shared Folder", network, format(0, posix), interfaces(0, attributes)),
+    row("fuse.vmhgfs-fuse", "Shared Folder", network, format(0, posix), interfaces(0, attributes)),
     row("ceph", "CephFS", network, format(posix), interfaces(attributes | interfaceSnapshot)),
-    row("fuse.glusterfs", "GlusterFS", network, format(names | links, formatSparseFiles),
+    row("fuse.glusterfs", "GlusterFS", network, format(links, names | formatSparseFiles),
         interfaces(0, attributes | copies)),
     row("fuse.sshfs", "SSHFS", network,
-        format(formatCasePreserving | formatSymbolicLinks,
-               formatHardLinks | formatCaseSensitive | formatSparseFiles),
-        interfaces(0)),
+        format(formatSymbolicLinks, formatHardLinks | names | formatSparseFiles), interfaces(0)),
     row("fuse.rclone", "rclone", network, format(0, names | formatSymbolicLinks | formatSparseFiles),
         interfaces(0)),
-    row("webdav", "WebDAV", network, format(formatCasePreserving, formatCaseSensitive), interfaces(0)),
-    row("ftp", "FTP", network, format(formatCasePreserving, formatCaseSensitive | formatSymbolicLinks),
-        interfaces(0)),
+    row("webdav", "WebDAV", network, format(0, names), interfaces(0)),
+    row("ftp", "FTP", network, format(0, names | formatSymbolicLinks), interfaces(0)),
+};
+
+// Types whose FUSE program answers otherwise than the kernel's driver. ntfs-3g tells names apart by case and
+// lowntfs-3g may not; neither refuses a thousandth link.
+constexpr std::array programRows = {
+    row("ntfs", "NTFS", device, format(links | formatSparseFiles | formatJournal, names),
+        interfaces(interfaceExtendedAttributes | interfaceNamedStreams, interfaceExtendedSecurity)),
+    row("apfs", "APFS", device, format(links | formatSparseFiles, names),
+        interfaces(interfaceExtendedAttributes | copies)),
 };
 
 struct Alias {
@@ -127,10 +129,15 @@ std::string_view resolveAlias(std::string_view type) {
 
 std::span<const FileSystemFacts> allFileSystemFacts() { return rows; }
 
-const FileSystemFacts* fileSystemFacts(std::string_view type) {
-    const auto* const found = std::find_if(rows.begin(), rows.end(),
-                                           [&](const FileSystemFacts& facts) { return facts.type == type; });
-    return found == rows.end() ? nullptr : found;
+const FileSystemFacts* fileSystemFacts(std::string_view type, FileSystemDriver driver) {
+    const auto rowIn = [&](const auto& table) -> const FileSystemFacts* {
+        const auto found = std::ranges::find(table, type, &FileSystemFacts::type);
+        return found == table.end() ? nullptr : &*found;
+    };
+    if (driver == FileSystemDriver::program)
+        if (const FileSystemFacts* const facts = rowIn(programRows))
+            return facts;
+    return rowIn(rows);
 }
 
 std::string fileSystemTypeName(std::string_view kernelType, std::string_view source,

@@ -1,6 +1,7 @@
 #include "OndelCore/platform/linux/MountedType.h"
 
 #include "OndelCore/platform/BlockDevices.h"
+#include "OndelCore/platform/PathFacts.h"
 
 namespace OndelCore::platform {
 
@@ -14,12 +15,30 @@ std::optional<std::string> typeOnDevice(dev_t device, const SystemSources& sourc
 
 } // namespace
 
+std::optional<std::filesystem::path> imageOfMount(const Mount& mount, const SystemSources& sources) {
+    if (mount.type != "fuse" || !mount.source.starts_with('/') ||
+        mayHang(mount.source, mounts(sources.mountTable)))
+        return std::nullopt;
+    std::error_code failed;
+    return std::filesystem::is_regular_file(mount.source, failed)
+               ? std::optional<std::filesystem::path>(mount.source)
+               : std::nullopt;
+}
+
 std::string mountedType(const Mount& mount, const SystemSources& sources) {
+    if (const auto image = imageOfMount(mount, sources))
+        if (const auto type = propertyIn(sources.image(*image), "ID_FS_TYPE"))
+            return fileSystemTypeName("fuseblk", mount.source, type);
     if (!mount.type.starts_with("fuseblk"))
         return fileSystemTypeName(mount.type, mount.source);
     const auto device = deviceOfMount(mount);
     return fileSystemTypeName(mount.type, mount.source,
                               device ? typeOnDevice(*device, sources) : std::nullopt);
+}
+
+const FileSystemFacts* factsOfMounted(const Mount& mount, const std::string& type) {
+    return fileSystemFacts(type, mount.type.starts_with("fuse") ? FileSystemDriver::program
+                                                                : FileSystemDriver::kernel);
 }
 
 } // namespace OndelCore::platform

@@ -1,8 +1,8 @@
 #include "OndelCore/platform/Mounts.h"
 
-#include <fcntl.h>
+#include "OndelCore/platform/PathFacts.h"
+
 #include <libmount/libmount.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <memory>
@@ -68,14 +68,11 @@ std::optional<Mount> mountOfPath(const std::filesystem::path& path) {
     return mountOfPathIn(systemMountTable, path);
 }
 
-std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std::filesystem::path& path) {
-    struct statx facts {};
-    if (statx(AT_FDCWD, path.c_str(), 0, STATX_MNT_ID, &facts) != 0 || !(facts.stx_mask & STATX_MNT_ID))
-        return std::nullopt;
-    for (Mount& mount : mounts(table))
-        if (mount.id == facts.stx_mnt_id)
-            return std::move(mount);
-    return std::nullopt;
+std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std::filesystem::path& path,
+                                   std::chrono::milliseconds patience) {
+    const auto all = mounts(table);
+    const auto facts = pathFacts(path, PathQuestion::place, all, {.patience = patience});
+    return facts ? mountOf(*facts, all) : std::nullopt;
 }
 
 std::optional<Mount> mountAbove(const std::filesystem::path& table, const std::filesystem::path& resolved) {

@@ -3,6 +3,7 @@
 #include "OndelCore/platform/BlockDevices.h"
 #include "OndelCore/platform/FileDescriptor.h"
 #include "OndelCore/platform/FileSystemFacts.h"
+#include "OndelCore/platform/PathFacts.h"
 #include "OndelCore/platform/linux/DriveBus.h"
 #include "OndelCore/platform/linux/MountedType.h"
 
@@ -10,11 +11,9 @@
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
-#include <sys/statvfs.h>
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace OndelCore::platform {
 
@@ -64,6 +63,9 @@ std::string nameOfVolume(const Mount& mount, const std::optional<BlockDevice>& d
     if (device)
         if (auto label = labelOnDevice(mount, *device, sources))
             return *label;
+    if (const auto image = imageOfMount(mount, sources))
+        if (auto label = nonEmpty(propertyIn(sources.image(*image), "ID_FS_LABEL")))
+            return *label;
     const std::string last = mount.mountPoint.filename().string();
     return last.empty() ? "Root" : last;
 }
@@ -73,7 +75,9 @@ void addAttachment(VolumeResources& resources, const FileSystemFacts* facts, con
     const auto reach = facts ? facts->reach : FileSystemReach::device;
     if (reach == FileSystemReach::memory || reach == FileSystemReach::layered)
         resources.isInternal = true;
-    const BlockStack stack = blockStack(mount, sources);
+    const auto image = imageOfMount(mount, sources);
+    const auto below = image ? mountOfPathIn(sources.mountTable, *image) : std::nullopt;
+    const BlockStack stack = blockStack(below.value_or(mount), sources);
     if (stack.wholeDisks.empty())
         return;
     resources.isEncrypted = stack.isEncrypted;
@@ -84,23 +88,12 @@ void addAttachment(VolumeResources& resources, const FileSystemFacts* facts, con
                     [](const BlockDevice& disk) { return readNumber(disk.folder / "removable") == 1; });
 }
 
-bool mayBlock(const Mount& mount, const FileSystemFacts* facts) {
-    return !facts || facts->reach == FileSystemReach::network || mount.type.starts_with("fuse");
-}
-
-/// Blocks times their size, held at the greatest number there is.
-std::int64_t bytes(std::uint64_t blocks, std::uint64_t blockSize) {
-    std::int64_t product = 0;
-    return __builtin_mul_overflow(blocks, blockSize, &product) ? std::numeric_limits<std::int64_t>::max()
-                                                               : product;
-}
-
 } // namespace
 
 VolumeResources resourcesOfMount(const Mount& mount, const SystemSources& sources) {
     VolumeResources resources;
     const std::string type = mountedType(mount, sources);
-    const FileSystemFacts* const facts = fileSystemFacts(type);
+    const FileSystemFacts* const facts = factsOfMounted(mount, type);
     const auto number = deviceOfMount(mount);
     const auto device = number ? blockDevice(*number, sources.sysfs) : std::nullopt;
     resources.name = nameOfVolume(mount, device, sources);
@@ -108,35 +101,29 @@ VolumeResources resourcesOfMount(const Mount& mount, const SystemSources& source
         resources.format = facts ? std::string(facts->displayName) : type;
         resources.type = type;
     }
-    resources.mayBlock = mayBlock(mount, facts);
     resources.isReadOnly = hasMountOption(mount.options, "ro") || hasMountOption(mount.superOptions, "ro");
     resources.volumeRoot = mount.mountPoint;
+    resources.mountedFrom = nonEmpty(sourceOfMount(mount, sources.sysfs));
     addAttachment(resources, facts, mount, sources);
     return resources;
 }
 
-void addSizes(VolumeResources& resources, const std::filesystem::path& path) {
-    struct statvfs sizes {};
-    if (statvfs(path.c_str(), &sizes) != 0)
-        return;
-    const std::uint64_t unit = sizes.f_frsize ? sizes.f_frsize : sizes.f_bsize;
-    resources.total = bytes(sizes.f_blocks, unit);
-    resources.available = bytes(sizes.f_bavail, unit);
-}
-
 std::optional<VolumeResources> volumeResources(const std::filesystem::path& path,
                                                const SystemSources& sources) {
-    const auto mount = mountOfPathIn(sources.mountTable, path);
+    const auto table = mounts(sources.mountTable);
+    const auto facts = pathFacts(path, PathQuestion::sizes, table, {.patience = sources.patience});
+    if (!facts || !facts->hasSizes)
+        return std::nullopt;
+    const auto mount = mountOf(*facts, table);
     VolumeResources resources = mount ? resourcesOfMount(*mount, sources) : VolumeResources();
-    addSizes(resources, path);
-    return resources.total ? std::optional(std::move(resources)) : std::nullopt;
+    resources.total = facts->total;
+    resources.available = facts->available;
+    return resources;
 }
 
 std::optional<std::string> mountedFrom(const std::filesystem::path& path, const SystemSources& sources) {
-    const auto mount = mountOfPathIn(sources.mountTable, path);
-    if (!mount || mount->source.empty())
-        return std::nullopt;
-    return sourceOfMount(*mount, sources.sysfs);
+    const auto mount = mountOfPathIn(sources.mountTable, path, sources.patience);
+    return mount ? nonEmpty(sourceOfMount(*mount, sources.sysfs)) : std::nullopt;
 }
 
 } // namespace OndelCore::platform

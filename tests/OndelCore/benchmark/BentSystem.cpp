@@ -44,6 +44,7 @@ BentSystem::BentSystem() {
         return std::error_code();
     };
     confineWrites = [](int) { return false; }; // so that a test can do its worst from within the run
+    tryAbilities = [](int) { return OndelCore::platform::TriedAbilities(); };
 }
 
 BenchmarkResult BentSystem::run(const BenchmarkPlan& plan, const std::filesystem::path& folder) {

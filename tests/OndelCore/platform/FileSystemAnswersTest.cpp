@@ -92,13 +92,97 @@ TEST(FileSystemAnswers, FollowOptionsAndLayers) {
     EXPECT_TRUE(words({.type = "ext4", .device = dm}).format.has(formatJournalActive));
     EXPECT_FALSE(words({.type = "ext4", .device = dm, .superOptions = "ro,norecovery"})
                      .format.has(formatJournalActive));
-    EXPECT_FALSE(words({.type = "cifs", .device = 40}).format.has(formatCaseSensitive));
     EXPECT_FALSE(
         words({.type = "ntfs3", .device = dm, .superOptions = "rw,nocase"}).format.has(formatCaseSensitive));
-    const auto joliet = words({.type = "iso9660", .superOptions = "ro,norock,check=r,map=n"}).format;
-    EXPECT_TRUE(joliet.has(formatCasePreserving) && !joliet.has(formatCaseSensitive));
     EXPECT_TRUE(words({.type = "zfs", .device = 41, .superOptions = "rw,xattr,casesensitive"})
                     .format.has(formatCaseSensitive));
+}
+
+/// What real file systems answered, and what trying showed of them: names looked up in the other case, links
+/// and holes made, names of 255 and 256 characters, access lists set and read again.
+struct Tried {
+    const char* what;
+    const char *type, *source, *superOptions;
+    std::int64_t nameMax; ///< as pathconf(3) answers
+    std::optional<bool> userAttributes, accessLists;
+    LetterCase letterCase;
+    bool hasCapitals;
+    const char* abilities; ///< see `abilitiesOf`
+    std::int64_t longestName;
+    std::optional<std::int64_t> mostLinks;
+};
+
+/// Sensitive to case, Preserving it, sYmbolic and Hard links, Sparse files, access Lists, Clones: the letter
+/// where it is there, "-" where it is not, "." where that is not known.
+std::string abilitiesOf(const CapabilityWords& words) {
+    const auto answer = [](const CapabilityWord& word, std::uint32_t bit, char letter) {
+        return !word.knows(bit) ? '.' : word.has(bit) ? letter : '-';
+    };
+    return {answer(words.format, formatCaseSensitive, 'C'),
+            answer(words.format, formatCasePreserving, 'P'),
+            answer(words.format, formatSymbolicLinks, 'Y'),
+            answer(words.format, formatHardLinks, 'H'),
+            answer(words.format, formatSparseFiles, 'S'),
+            answer(words.interfaces, interfaceExtendedSecurity, 'L'),
+            answer(words.interfaces, interfaceClone, 'K')};
+}
+
+TEST(FileSystemAnswers, AreWhatTryingShows) {
+    using enum LetterCase;
+    const auto none = std::nullopt;
+    for (const Tried& tried : {
+             Tried{"FAT", "vfat", "/dev/loop0", "rw,shortname=mixed,utf8", 1530, false, false, preserving,
+                   true, "-P-----", 255, 1},
+             Tried{"exFAT", "exfat", "/dev/loop0", "rw,iocharset=utf8", 1530, false, false, preserving, true,
+                   "-P-----", 255, 1},
+             Tried{"ntfs-3g", "fuseblk.ntfs", "/dev/loop0", "rw,user_id=0", 255, true, true, sensitive, true,
+                   "CPYHS.-", 255, none},
+             Tried{"lowntfs-3g ignore_case", "fuseblk.ntfs", "/dev/loop0", "rw,user_id=0", 255, true, true,
+                   ignored, false, "-.YHS.-", 255, none},
+             Tried{"UDF", "udf", "/dev/loop0", "rw,iocharset=utf8", 254, false, false, sensitive, true,
+                   "CPYHS--", 254, 65535},
+             Tried{"ISO with Rock Ridge", "iso9660", "/dev/loop0", "ro,nojoliet,check=s,map=n", 255, false,
+                   false, sensitive, true, "CPY.---", 255, none},
+             Tried{"ISO with Joliet", "iso9660", "/dev/loop0", "ro,norock,check=r,map=n", 255, false, false,
+                   preserving, true, "-P-----", 255, none},
+             Tried{"ISO, plain", "iso9660", "/dev/loop0", "ro,nojoliet,check=s,map=n", 255, false, false,
+                   sensitive, false, "C...---", 255, none},
+             Tried{"overlay", "overlay", "overlay", "rw,lowerdir=/l,upperdir=/u", 255, false, true, sensitive,
+                   true, "CPYH.L.", 255, none},
+             Tried{"NFS of a Linux server", "nfs4", "filer:/x", "rw,vers=4.2", 255, true, false, sensitive,
+                   true, "CPYH.-.", 255, none},
+             Tried{"NFS, nothing there to look up", "nfs4", "filer:/x", "rw,vers=4.2", 255, true, false,
+                   unknown, false, "..YH.-.", 255, none},
+             Tried{"SSHFS", "fuse.sshfs", "me@host:", "rw", 255, false, false, sensitive, true, "CPY..--",
+                   255, none},
+             Tried{"SSHFS of a Mac", "fuse.sshfs", "me@host:", "rw", 255, false, false, preserving, true,
+                   "-PY..--", 255, none},
+             Tried{"9P", "9p", "share", "rw,trans=virtio", 255, none, none, sensitive, true, "CPYH..-", 255,
+                   none},
+             Tried{"SMB of Windows", "cifs", "//nas/x", "rw,vers=3.1.1", 255, true, none, preserving, true,
+                   "-P.....", 255, none},
+             Tried{"SMB, case told", "cifs", "//nas/x", "rw,nocase", 255, true, none, unknown, false,
+                   "-......", 255, none},
+             Tried{"a program of its own", "fuse.mergerfs", "pool", "rw", 255, true, true, sensitive, true,
+                   "CP.....", 255, none},
+         }) {
+        Mount mount;
+        mount.device = makedev(0, 99);
+        mount.type = tried.type;
+        mount.source = tried.source;
+        mount.superOptions = tried.superOptions;
+        PathFacts told;
+        told.maxNameLength = tried.nameMax;
+        told.maxLinkCount = 127; // as pathconf(3) answers where it does not know
+        told.keepsUserAttributes = tried.userAttributes;
+        told.keepsAccessLists = tried.accessLists;
+        told.letterCase = tried.letterCase;
+        told.hasCapitals = tried.hasCapitals;
+        const auto answers = fileSystemAnswers(told, mount);
+        EXPECT_EQ(abilitiesOf(*answers.capabilities), tried.abilities) << tried.what;
+        EXPECT_EQ(answers.maxNameLength, tried.longestName) << tried.what;
+        EXPECT_EQ(answers.maxLinkCount, tried.mostLinks) << tried.what;
+    }
 }
 
 TEST(FileSystemAnswers, ToUnknownTypesAndPaths) {
@@ -106,7 +190,8 @@ TEST(FileSystemAnswers, ToUnknownTypesAndPaths) {
     machine.pretendMounted(machine.folder(), {.type = "unheard-of", .device = makedev(8, 0)});
     const auto answers = askFileSystem(machine.folder(), machine.sources());
     EXPECT_EQ(answers->type, "unheard-of");
-    EXPECT_FALSE(answers->capabilities);
+    EXPECT_FALSE(answers->capabilities->format.knows(formatSparseFiles));
+    EXPECT_TRUE(answers->capabilities->format.has(formatCaseSensitive)) << "as was found out";
     EXPECT_GT(answers->blockSizeBytes, 0);
     machine.setMountTable("");
     EXPECT_EQ(askFileSystem(machine.folder(), machine.sources())->type, "");

@@ -1,9 +1,11 @@
 // Against file systems made for the purpose on loop devices: what the kernel and the tools really answer.
 
 #include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/FileTrials.h"
 #include "OndelCore/volumes/MountedVolumes.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
+#include "support/DeafFileSystem.h"
 #include "support/LoopMount.h"
 
 #include <QProcess>
@@ -20,6 +22,8 @@
 
 using namespace OndelCore::volumes;
 using OndelCore::platform::FileDescriptor;
+using OndelCore::platform::TriedAbilities;
+using OndelCore::platform::tryAbilities;
 namespace fs = std::filesystem;
 
 namespace {
@@ -111,10 +115,13 @@ TEST_P(RealVolume, IsToldAsItIs) {
     ASSERT_TRUE(capabilities);
     EXPECT_EQ(capabilities->filesystemType, kind.type);
     EXPECT_EQ(capabilities->maxNameLength, 255);
-    EXPECT_EQ(capabilities->supportsCloning, kind.clones);
+    EXPECT_EQ(capabilities->supportsCloning, Capability(kind.clones));
     EXPECT_EQ(canClone(below), kind.clones);
-    EXPECT_EQ(capabilities->supportsSnapshots, kind.snapshots);
-    EXPECT_EQ(capabilities->isJournalActive, kind.journals);
+    const FileDescriptor opened(open(below.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    EXPECT_EQ(tryAbilities(opened.get()), (TriedAbilities{.sparseFiles = true, .cloning = kind.clones}));
+    EXPECT_EQ(capabilities->supportsSparseFiles, Capability(true));
+    EXPECT_EQ(capabilities->supportsSnapshots, Capability(kind.snapshots));
+    EXPECT_EQ(capabilities->isJournalActive, Capability(kind.journals));
     EXPECT_TRUE(capabilities->isCaseSensitive && capabilities->supportsHardLinks);
     EXPECT_EQ(capabilities->optimalIOSize > 0, isOnDevice);
     EXPECT_EQ(listedBelow(disk.path()).size(), isOnDevice ? 1U : 0U);
@@ -173,17 +180,12 @@ TEST(RealVolumes, KeepTheBytesOfAnyName) {
 }
 
 TEST(RealVolumes, AreListedWithOneThatNeverAnswers) {
-    const FileDescriptor program(open("/dev/fuse", O_RDWR | O_CLOEXEC)); // closed, it ends what waits for it
-    if (!program || geteuid() != 0)
-        GTEST_SKIP() << "no right to FUSE";
-    const test::TemporaryFolder folder;
-    const std::string options =
-        "fd=" + std::to_string(program.get()) + ",rootmode=40000,user_id=0,group_id=0";
-    const Mounted dead("server:/", folder.path() / "dead", "fuse.sshfs", 0, options.c_str());
+    const test::DeafFileSystem deaf;
+    SKIP_WITHOUT(deaf);
     const auto volumes = mountedVolumes();
-    const auto found = std::ranges::find(volumes, folder.path() / "dead", &MountedVolume::url);
+    const auto found = std::ranges::find(volumes, deaf.path(), &MountedVolume::url);
     ASSERT_NE(found, volumes.end());
-    EXPECT_EQ(found->name, "dead");
+    EXPECT_EQ(found->name, "deaf");
     EXPECT_EQ(found->format, "SSHFS");
     EXPECT_FALSE(found->total);
 }
@@ -203,6 +205,34 @@ TEST_P(ForeignVolume, HasTheTypeOfItsDevice) {
     EXPECT_EQ(VolumeCapabilities::probe(disk.path())->filesystemType, GetParam().type);
     EXPECT_FALSE(VolumeCapabilities::probe(disk.path())->supportsCloning);
     EXPECT_EQ(listedBelow(disk.path()), std::vector<fs::path>{disk.path()});
+}
+
+/// Served by a FUSE program, on a loop device and from the image alone.
+TEST(RealVolumes, OfNTFSAreWhatTheirProgramMakesOfThem) {
+    test::LoopMount disk("ntfs", 64 * mebibyte, {}, {"-q", "-F", "-L", "STICK"});
+    SKIP_WITHOUT(disk);
+    std::ofstream(disk.path() / "Name").close();
+    const auto told = VolumeCapabilities::probe(disk.path());
+    EXPECT_EQ(told->isCaseSensitive, Capability(true));
+    EXPECT_EQ(told->supportsExtendedSecurity, Capability()) << "it takes access lists and keeps none";
+    EXPECT_FALSE(told->maxLinkCount);
+    ASSERT_TRUE(disk.unmount());
+
+    const test::TemporaryFolder elsewhere;
+    const QString image = QString::fromStdString(disk.image().string());
+    const QString point = QString::fromStdString(elsewhere.path().string());
+    if (QProcess::execute("lowntfs-3g", {"-o", "ignore_case", image, point}) != 0)
+        GTEST_SKIP() << "no lowntfs-3g";
+    std::ofstream(elsewhere.path() / "Other").close();
+    const auto info = VolumeInfo::load(Location::local(elsewhere.path()));
+    const auto lower = VolumeCapabilities::probe(elsewhere.path());
+    umount2(elsewhere.path().c_str(), MNT_DETACH);
+    EXPECT_EQ(info->format, "NTFS");
+    EXPECT_EQ(info->name, "STICK");
+    EXPECT_EQ(info->connection(), VolumeInfo::load(Location::local(disk.image()))->connection());
+    EXPECT_EQ(lower->filesystemType, "ntfs");
+    EXPECT_EQ(lower->isCaseSensitive, Capability(false));
+    EXPECT_EQ(lower->isCasePreserving, Capability()) << "names come back in lower case";
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, ForeignVolume,

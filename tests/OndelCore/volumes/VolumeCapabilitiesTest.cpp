@@ -8,7 +8,7 @@ using namespace OndelCore::platform;
 namespace {
 
 struct Feature {
-    bool VolumeCapabilities::*field;
+    Capability VolumeCapabilities::*field;
     CapabilityWord CapabilityWords::*word;
     std::uint32_t bit;
 };
@@ -36,26 +36,29 @@ VolumeCapabilities from(const std::optional<CapabilityWords>& words) {
     return VolumeCapabilities::from(answers);
 }
 
-TEST(VolumeCapabilities, AreThereOnlyWhenClaimedAndValid) {
+TEST(VolumeCapabilities, AreThereOnlyWhenClaimedAndValidAndKnownOnlyWhenValid) {
     for (const Feature& feature : features) {
         CapabilityWords words;
         (words.*feature.word).claimed = feature.bit;
-        EXPECT_FALSE(from(words).*feature.field);
+        EXPECT_EQ(from(words).*feature.field, Capability());
         (words.*feature.word).valid = ~feature.bit;
-        EXPECT_FALSE(from(words).*feature.field);
+        EXPECT_EQ(from(words).*feature.field, Capability());
         (words.*feature.word).valid = feature.bit;
         const VolumeCapabilities one = from(words);
         for (const Feature& other : features)
-            EXPECT_EQ(one.*other.field, other.field == feature.field) << feature.bit << ' ' << other.bit;
+            EXPECT_EQ(one.*other.field, other.field == feature.field ? Capability(true) : Capability())
+                << feature.bit << ' ' << other.bit;
         (words.*feature.word).claimed = 0;
-        EXPECT_FALSE(from(words).*feature.field);
+        EXPECT_EQ(from(words).*feature.field, Capability(false));
     }
 }
 
 TEST(VolumeCapabilities, WithoutAnAnswerAssumeCasePreservationOnly) {
     const VolumeCapabilities unknown = from(std::nullopt);
-    for (const Feature& feature : features)
-        EXPECT_EQ(unknown.*feature.field, feature.field == &VolumeCapabilities::isCasePreserving);
+    for (const Feature& feature : features) {
+        EXPECT_EQ(bool{unknown.*feature.field}, feature.field == &VolumeCapabilities::isCasePreserving);
+        EXPECT_FALSE((unknown.*feature.field).isKnown());
+    }
     EXPECT_FALSE(from(CapabilityWords()).isCasePreserving);
 }
 

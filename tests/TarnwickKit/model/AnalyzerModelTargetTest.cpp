@@ -170,6 +170,52 @@ TEST_F(AnalyzerModelTarget, GoesOnWithoutAVolumeThatHangsAndTakesItsFactsWhenThe
     EXPECT_EQ(changes, 3) << "what the first one told is dropped";
 }
 
+TEST_F(AnalyzerModelTarget, GivesARunTheFactsThatComeAfterItsStart) {
+    const auto named = [](const char* name) {
+        VolumeInfo info;
+        info.name = name;
+        info.total = 1000;
+        return std::optional(info);
+    };
+    struct Gates {
+        std::latch old{1}, wakes{1}, late{1};
+    };
+    const auto gates = std::make_shared<Gates>(); // a question may outlive the test
+    services.loadVolume = [gates, named](const OndelCore::volumes::Location& place) {
+        if (place.path == "/old")
+            gates->old.wait();
+        if (place.path == "/wakes")
+            gates->wakes.wait();
+        if (place.path == "/late")
+            gates->late.wait();
+        return named(place.path.filename().c_str());
+    };
+    services.volumePatience = std::chrono::milliseconds(1);
+    AnalyzerModel model(services);
+    const auto nameAfterRun = [&] {
+        engine.last().finish({});
+        turnUntilEnded(model);
+        return model.currentRun()->volumeName;
+    };
+    model.select(std::filesystem::path("/old"));
+    model.select(std::filesystem::path("/wakes"));
+    engine.begin(model);
+    gates->old.count_down();
+    gates->wakes.count_down();
+    turnUntil([&] { return model.volumeInfo().has_value(); });
+    EXPECT_TRUE(model.isRunning());
+    EXPECT_EQ(nameAfterRun(), "wakes");
+    EXPECT_EQ(model.history().runs().front().capacityBytes, 1000);
+
+    model.select(std::filesystem::path("/late"));
+    EXPECT_FALSE(model.volumeInfo());
+    engine.begin(model);
+    EXPECT_EQ(nameAfterRun(), "Volume");
+    gates->late.count_down();
+    turnUntil([&] { return model.volumeInfo().has_value(); });
+    EXPECT_EQ(model.currentRun()->volumeName, "Volume") << "a record that is made stays as it is";
+}
+
 TEST_F(AnalyzerModelTarget, AReadMayOutliveTheModel) {
     const auto gate = std::make_shared<std::latch>(1);
     const auto ended = std::make_shared<std::latch>(1);

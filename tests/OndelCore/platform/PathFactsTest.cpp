@@ -1,0 +1,131 @@
+#include "OndelCore/platform/PathFacts.h"
+
+#include "support/DeafFileSystem.h"
+
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+using namespace OndelCore::platform;
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The state letters of this process's children ("D" hangs, "Z" is a zombie).
+std::string childStates() {
+    std::string states;
+    for (const fs::directory_entry& entry : fs::directory_iterator("/proc")) {
+        std::stringstream text;
+        text << std::ifstream(entry.path() / "stat").rdbuf();
+        const std::string line = text.str();
+        const auto name = line.rfind(") "); // before it stands what the process calls itself
+        if (name == std::string::npos)
+            continue;
+        char state = 0;
+        pid_t parent = 0;
+        std::stringstream(line.substr(name + 2)) >> state >> parent;
+        if (parent == getpid())
+            states += state;
+    }
+    return states;
+}
+
+TEST(PathFacts, DoNotWaitForAFileSystemThatHangsAndLeaveNoProcess) {
+    test::DeafFileSystem deaf;
+    if (!deaf.problem().empty())
+        GTEST_SKIP() << deaf.problem();
+    const auto ask = [&](std::chrono::milliseconds patience) {
+        return pathFacts(deaf.path() / "x", PathQuestion::place, {.patience = patience});
+    };
+    for (int time = 0; time < 3; ++time) {
+        EXPECT_FALSE(ask(20ms));
+        deaf.awaitRequest();
+        EXPECT_EQ(childStates(), "D") << "one that hangs, for all questions";
+    }
+    int looks = 0;
+    const Waiting cancelled{.patience = 24h, .isCancelled = [&looks] { return ++looks > 2; }};
+    EXPECT_FALSE(pathFacts(deaf.path(), PathQuestion::place, cancelled));
+    deaf.end();
+    EXPECT_EQ(ask(24h)->error, ENOTCONN) << "asked anew as soon as the hanging one has ended";
+    while (!childStates().empty())
+        poll(nullptr, 0, 1);
+}
+
+TEST(PathFacts, OfAChildAreThoseOfThisProcess) {
+    const test::TemporaryFolder folder;
+    std::ofstream(folder.path() / "Name") << "x";
+    fs::create_symlink(folder.path(), folder.path() / "link");
+    Mount everything;
+    everything.mountPoint = "/";
+    everything.type = "fuse.sshfs";
+    const auto both = [&](const fs::path& path) {
+        const auto direct = pathFacts(path, PathQuestion::abilities, {}, {.patience = 24h});
+        const auto child = pathFacts(path, PathQuestion::abilities, {everything}, {.patience = 24h});
+        EXPECT_EQ(direct->error, child->error);
+        EXPECT_EQ(direct->mountId, child->mountId);
+        EXPECT_EQ(direct->resolved, child->resolved);
+        EXPECT_EQ(direct->total, child->total);
+        EXPECT_EQ(direct->maxNameLength, child->maxNameLength);
+        EXPECT_EQ(direct->keepsUserAttributes, child->keepsUserAttributes);
+        EXPECT_EQ(direct->letterCase, child->letterCase);
+        return *child;
+    };
+    EXPECT_EQ(both(folder.path() / "link").resolved, folder.path());
+    EXPECT_EQ(both(folder.path() / "none").error, ENOENT);
+    EXPECT_EQ(both("").error, ENOENT);
+    EXPECT_EQ(both(".").resolved, fs::current_path());
+    EXPECT_FALSE(both(folder.path() / "Name").isFolder);
+    EXPECT_GT(both(folder.path()).total, 0);
+    EXPECT_TRUE(both(folder.path()).isFolder);
+}
+
+TEST(PathFacts, KnowWhichPathsMayHang) {
+    const test::TemporaryFolder parent;
+    const fs::path folder = fs::canonical(parent.path());
+    fs::create_directories(folder / "local/below");
+    fs::create_directory(folder / "dead");
+    fs::create_directory_symlink(folder / "dead/x", folder / "to-dead");
+    fs::create_directory_symlink("../dead", folder / "local/up");
+    fs::create_directory_symlink("loop", folder / "loop");
+    fs::create_directory_symlink("local", folder / "to-local");
+    const auto mounted = [](const fs::path& point, const char* type) {
+        Mount mount;
+        mount.mountPoint = point;
+        mount.type = type;
+        return mount;
+    };
+    const std::vector<Mount> mounts{mounted("/", "ext4"), mounted(folder / "local", "xfs"),
+                                    mounted(folder / "dead", "nfs4")};
+    for (const char* hanging : {"dead", "dead/", "dead/x", "to-dead", "to-dead/y", "local/up", "local/up/z",
+                                "local/below/../../dead", "to-local/up"})
+        EXPECT_TRUE(mayHang(folder / hanging, mounts)) << hanging;
+    for (const char* local :
+         {"", "local", "local/below", "to-local/below", "loop/x", "none/x", "deader", "local/.."})
+        EXPECT_FALSE(mayHang(folder / local, mounts)) << local;
+    for (const char* type : {"fuseblk", "fuse.sshfs", "nfs", "cifs", "9p", "autofs", "proc", "unheard-of"})
+        EXPECT_TRUE(mayHang(mounted("/x", type))) << type;
+    for (const char* type : {"ext4", "vfat", "ntfs3", "tmpfs", "overlay", "devtmpfs"})
+        EXPECT_FALSE(mayHang(mounted("/x", type))) << type;
+}
+
+TEST(PathFacts, TellLetterCaseByNamesThatAreThere) {
+    const test::TemporaryFolder folder;
+    const auto letterCase = [](const fs::path& path) {
+        return pathFacts(path, PathQuestion::abilities)->letterCase;
+    };
+    const fs::path below = folder.path() / "12";
+    fs::create_directory(below);
+    std::ofstream(below / "34").close();
+    EXPECT_EQ(letterCase(below), LetterCase::sensitive) << "by a name of a folder above";
+    std::ofstream(below / "Name").close();
+    std::ofstream(below / "nAME").close();
+    EXPECT_EQ(letterCase(below), LetterCase::sensitive) << "by two that are one in the other case";
+}
+
+} // namespace
