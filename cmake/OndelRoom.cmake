@@ -39,10 +39,14 @@ function(ondel_bench name)
   target_link_libraries(${name} PRIVATE ondel_options ${BENCH_LINK} benchmark::benchmark)
 endfunction()
 
-# For a target with QML: call it after qt_add_qml_module. What Qt's generators write is not ours to keep free of warnings.
+# For a target with QML: call it after qt_add_qml_module. From Qt 6.5 on, C++ made of QML calls functions that each Qt update
+# may change, and would tie a package to one exact version of Qt: byte code does not. What Qt's generators write is not ours to keep free of warnings.
 # What they make of QML files is a hundred small ones, whose time goes into reading the same headers: those are compiled
 # a dozen at a time.
 function(ondel_generated_qml target)
+  if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
+    set_property(TARGET ${target} APPEND PROPERTY QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
+  endif()
   get_target_property(sources ${target} SOURCES)
   set(cached ${sources})
   list(FILTER cached INCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/.*_qml\\.cpp$")

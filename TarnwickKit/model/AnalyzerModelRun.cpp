@@ -122,8 +122,12 @@ void AnalyzerModel::cancel() {
 }
 
 QFuture<void> AnalyzerModel::cancelAndWait() {
-    if (!m_run)
-        return QtFuture::makeReadyFuture();
+    if (!m_run) {
+        QPromise<void> nothing;
+        nothing.start();
+        nothing.finish();
+        return nothing.future();
+    }
     cancel();
     return m_run->ended.future();
 }

@@ -132,7 +132,7 @@ Formatter::Icu::Icu(const UserLocale& locale)
 }
 
 QString Formatter::Icu::stamp(icu::SimpleDateFormat& format, const QDateTime& local) {
-    const QDateTime asUtc(local.date(), local.time(), Qt::UTC);
+    const QDateTime asUtc(local.date(), local.time(), QTimeZone::utc());
     icu::UnicodeString text;
     const std::lock_guard guard(lock);
     format.format(static_cast<UDate>(asUtc.toMSecsSinceEpoch()), text);

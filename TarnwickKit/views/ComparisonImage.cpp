@@ -29,7 +29,7 @@ ImageFile ComparisonImage::render(const Runs& runs, const Palette& palette) {
 
 QFuture<ImageFile> ComparisonImage::renderLater(const Runs& runs, const Palette& palette) {
     const auto card = comparisonCard(runs, palette);
-    return card ? ReportImage::pngLater(*card, baseName) : QtFuture::makeReadyFuture(ImageFile());
+    return ReportImage::pngLater(card.get(), baseName);
 }
 
 } // namespace TarnwickKit::views

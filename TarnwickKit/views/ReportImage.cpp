@@ -79,13 +79,14 @@ ImageFile ReportImage::png(QQuickItem& view, const QString& baseName) {
     return written(viewPicture(view, scale), baseName);
 }
 
-QFuture<ImageFile> ReportImage::pngLater(QQuickItem& view, const QString& baseName) {
+QFuture<ImageFile> ReportImage::pngLater(QQuickItem* view, const QString& baseName) {
     const auto promise = std::make_shared<QPromise<ImageFile>>();
     promise->start();
-    QThreadPool::globalInstance()->start([image = viewPicture(view, scale), baseName, promise]() mutable {
-        promise->addResult(written(std::move(image), baseName));
-        promise->finish();
-    });
+    QThreadPool::globalInstance()->start(
+        [image = view ? viewPicture(*view, scale) : QImage(), baseName, promise]() mutable {
+            promise->addResult(written(std::move(image), baseName));
+            promise->finish();
+        });
     return promise->future();
 }
 
@@ -96,8 +97,7 @@ ImageFile ReportImage::render(const RunRecord& run, const Palette& palette) {
 
 QFuture<ImageFile> ReportImage::renderLater(const RunRecord& run, const Palette& palette) {
     const auto card = reportCard(run, palette);
-    return card ? pngLater(*card, titlePrefix + run.screenshotTitle())
-                : QtFuture::makeReadyFuture(ImageFile());
+    return pngLater(card.get(), titlePrefix + run.screenshotTitle());
 }
 
 ImageFile reportImage(const model::TarnwickReport& report, bool dark) {

@@ -33,7 +33,8 @@ QFuture<ImageFile> renderLater(const model::RunRecord& run, const Palette& palet
 
 /// Any view that is in no window. `baseName`: see fileName.
 ImageFile png(QQuickItem& view, const QString& baseName);
-QFuture<ImageFile> pngLater(QQuickItem& view, const QString& baseName);
+/// The same, encoded and written on another thread. nullptr is a view that could not be made.
+QFuture<ImageFile> pngLater(QQuickItem* view, const QString& baseName);
 
 /// The file's name for a title: without what would lead to another folder, hide the file, break a line or
 /// turn the direction, and no longer than file systems take. It is cut between characters as people count

@@ -148,7 +148,10 @@ TEST(ReportForm, BeginsWithWordsThatTheEndOfTheProgramLeft) {
     const auto words = [](const ReportForm& form) {
         return form.summary() + "|" + form.details() + "|" + form.email() + (form.isFeature() ? "|wish" : "");
     };
-    const ReportForm::Surroundings here{.submit = [](const auto&) { return QtFuture::makeReadyFuture(); },
+    QPromise<void> sent;
+    sent.start();
+    sent.finish();
+    const ReportForm::Surroundings here{.submit = [&](const auto&) { return sent.future(); },
                                         .draft = ReportDraft(folder.path())};
     ReportForm typed(here);
     typed.keepDraft();

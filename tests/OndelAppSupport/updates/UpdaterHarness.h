@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
+#include <QTimeZone>
 
 #include <gtest/gtest.h>
 
@@ -110,7 +111,7 @@ protected:
     QSettings settings{QString::fromStdString((secrets.path() / "settings.ini").string()),
                        QSettings::IniFormat};
     HttpsServer server;
-    QDateTime now = QDateTime(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
+    QDateTime now = QDateTime(QDate(2026, 3, 1), QTime(12, 0), QTimeZone::utc());
     bool isBusy = false;
     QList<QUrl> opened;
     UpdaterEnvironment environment;

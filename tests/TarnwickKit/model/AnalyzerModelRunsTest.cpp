@@ -4,6 +4,8 @@
 #include "TarnwickKit/model/RunFile.h"
 #include "TarnwickKit/model/TarnwickReport.h"
 
+#include <QTimeZone>
+
 #include <fstream>
 
 namespace TarnwickKit::model {
@@ -42,7 +44,7 @@ struct AnalyzerModelRuns : testing::Test {
             known.filesystemType = "ext4";
             return std::optional(known);
         };
-        services.now = [this] { return QDateTime::fromMSecsSinceEpoch(clock += 500, Qt::UTC); };
+        services.now = [this] { return QDateTime::fromMSecsSinceEpoch(clock += 500, QTimeZone::utc()); };
         return services;
     }
     bool importRun(const RunRecord& run) {

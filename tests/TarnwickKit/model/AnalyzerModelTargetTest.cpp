@@ -1,6 +1,8 @@
 #include "ModelHarness.h"
 #include "TarnwickKit/model/VolumeMenuItem.h"
 
+#include <QTimeZone>
+
 #include <fstream>
 #include <latch>
 #include <sstream>
@@ -250,7 +252,7 @@ TEST_F(AnalyzerModelTarget, AsksForAFolder) {
 TEST_F(AnalyzerModelTarget, ExportsTheHealth) {
     services.readHealth = [](const auto&) { return std::optional(health("NVMe")); };
     services.driveIdentity = [](const auto&) { return DriveIdentity{"ACME", std::nullopt}; };
-    services.now = [] { return QDateTime(QDate(2026, 3, 14), QTime(9, 26), Qt::UTC); };
+    services.now = [] { return QDateTime(QDate(2026, 3, 14), QTime(9, 26), QTimeZone::utc()); };
     AnalyzerModel model(services);
     model.setDialogs(&dialogs);
     model.exportSMART();

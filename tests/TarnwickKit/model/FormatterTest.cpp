@@ -2,6 +2,8 @@
 
 #include "TarnwickKit/model/BenchmarkTestTitle.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -12,7 +14,7 @@ namespace TarnwickKit::model {
 namespace {
 
 const UserLocale english{"en_US", "en_US"};
-const QDateTime noon(QDate(2024, 5, 1), QTime(12, 34, 56), Qt::UTC);
+const QDateTime noon(QDate(2024, 5, 1), QTime(12, 34, 56), QTimeZone::utc());
 constexpr std::int64_t GiB = 1073741824;
 constexpr std::int64_t TiB = 1024 * GiB;
 constexpr double infinite = std::numeric_limits<double>::infinity();

@@ -7,6 +7,8 @@
 #include "TarnwickKit/model/TarnwickReport.h"
 #include "support/TemporaryFolder.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -565,7 +567,7 @@ TEST(TarnwickReport, HandsARunOver) {
     OndelCore::benchmark::BenchmarkResult result;
     result.sequentialRead = {1000000, 2.0, 4096, {{0.5, 3e6}, {1, 2e6}}};
     result.randomRead = {100, 0.5, 4096};
-    const QDateTime date(QDate(2024, 5, 1), QTime(12, 34, 56), Qt::UTC);
+    const QDateTime date(QDate(2024, 5, 1), QTime(12, 34, 56), QTimeZone::utc());
     const TarnwickReport report = TarnwickReport::from(result, std::nullopt, std::nullopt, date, {});
     EXPECT_EQ(report.run.duration, 2.5);
     EXPECT_TRUE(report.writeCurve().empty());

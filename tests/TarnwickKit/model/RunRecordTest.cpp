@@ -3,6 +3,8 @@
 #include "SampleRun.h"
 #include "TarnwickKit/model/RunRecordJson.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -17,7 +19,7 @@ using OndelCore::volumes::VolumeCapabilities;
 using OndelCore::volumes::VolumeInfo;
 using Kind = RunRecord::Kind;
 
-const QDateTime start(QDate(2024, 5, 1), QTime(12, 34, 56, 789), Qt::UTC);
+const QDateTime start(QDate(2024, 5, 1), QTime(12, 34, 56, 789), QTimeZone::utc());
 
 DriveIdentity drive(const std::filesystem::path&) { return {"ACME Disk", "NVMe"}; }
 DriveIdentity noDrive(const std::filesystem::path&) {

@@ -2,6 +2,8 @@
 
 #include "TarnwickKit/model/Formatter.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace TarnwickKit::model {
@@ -11,7 +13,7 @@ namespace {
 using OndelCore::health::DiskSMART;
 using Status = DiskSMART::Status;
 
-const QDateTime morning(QDate(2026, 3, 14), QTime(9, 26, 53), Qt::UTC);
+const QDateTime morning(QDate(2026, 3, 14), QTime(9, 26, 53), QTimeZone::utc());
 
 std::string report(const DiskSMART& smart, const std::optional<QString>& drive, const char* locale) {
     const Formatter formatter({locale, locale}, QTimeZone::utc());

@@ -3,6 +3,7 @@
 #include "TarnwickKit/model/RunRecord.h"
 
 #include <QByteArray>
+#include <QTimeZone>
 
 #include <random>
 
@@ -14,7 +15,7 @@ inline RunRecord fullRun(std::size_t points = 159) {
     run.id = QUuid::createUuid();
     run.volumeName = "Vlüme 💾";
     run.connection = "External";
-    run.date = QDateTime(QDate(2024, 5, 1), QTime(12, 34, 56), Qt::UTC);
+    run.date = QDateTime(QDate(2024, 5, 1), QTime(12, 34, 56), QTimeZone::utc());
     run.duration = 63.25;
     run.writeBps = 512345678.125;
     run.writePeakBps = 712345678.5;
