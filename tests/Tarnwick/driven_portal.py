@@ -69,12 +69,12 @@ def opens_through_the_file_dialog(program, folder, _desktop):
         dialog = "^Open$"
         driver.focus(dialog)
         window.settled(dialog)
-        subprocess.run(["xdotool", "key", "ctrl+l"], check=True)
+        driver.display.press("ctrl+l")
         window.settled(dialog)  # a key is lost while the line for the path is made
-        subprocess.run(["xdotool", "key", "ctrl+a"], check=True)
+        driver.display.press("ctrl+a")
         window.type(f"{run_file(folder, 5)}")
         window.settled(dialog)
-        subprocess.run(["xdotool", "key", "Return"], check=True)
+        driver.display.press("Return")
         shows_run(window, 5)
         window.terminate()
 

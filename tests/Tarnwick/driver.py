@@ -1,5 +1,5 @@
 """Drives the real window from outside, as a person with assistive technology would: by names and roles on the
-accessibility tree (AT-SPI), with the keyboard through xdotool."""
+accessibility tree (AT-SPI), and by the keyboard."""
 
 import contextlib
 import io
@@ -13,6 +13,8 @@ import subprocess
 import sys
 import tempfile
 import time
+
+from displays import X11, display  # noqa: F401
 
 SKIP = 77
 GUARD_SECONDS = 40  # no test of speed: what is not there by then does not come
@@ -52,11 +54,11 @@ def environment(home, services, variables):
     bus_configuration(home, folder)
     runtime = pathlib.Path(home, "run")
     runtime.mkdir(mode=0o700)
-    kept = {name: value for name, value in os.environ.items() if name in ("PATH", "LD_LIBRARY_PATH", "TZ", "USER", "LOGNAME")}
+    kept = {name: value for name, value in os.environ.items() if name in ("PATH", "LD_LIBRARY_PATH", "TZ", "USER", "LOGNAME", "ONDEL_DISPLAY")}
     return kept | {
         "ONDEL_DRIVEN": "1", "HOME": home, "XDG_RUNTIME_DIR": str(runtime), "TMPDIR": home, "LC_ALL": "C.UTF-8",
         "XDG_CONFIG_HOME": f"{home}/config", "XDG_DATA_HOME": f"{home}/data", "XDG_STATE_HOME": f"{home}/state",
-        "XDG_CACHE_HOME": f"{home}/cache", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb",
+        "XDG_CACHE_HOME": f"{home}/cache", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         "GSETTINGS_BACKEND": "memory", "DBUS_SYSTEM_BUS_ADDRESS": "disabled:"} | variables
 
 
@@ -65,7 +67,7 @@ def enter_display(width=1400, height=1000, services={}, variables={}):
     The bus starts nothing but `services`: programs by their bus names. Every program gets the `variables`."""
     if os.environ.get("ONDEL_DRIVEN"):
         return
-    missing = [tool for tool in ("Xvfb", "dbus-run-session", "xdotool", "import") if not shutil.which(tool)]
+    missing = [tool for tool in ("dbus-run-session", *display.TOOLS) if not shutil.which(tool)]
     check = subprocess.run(["/usr/bin/python3", "-c", "import gi; gi.require_version('Atspi', '2.0')"],
                            capture_output=True)
     if check.returncode != 0:
@@ -75,11 +77,9 @@ def enter_display(width=1400, height=1000, services={}, variables={}):
         sys.exit(SKIP)
     with tempfile.TemporaryDirectory(prefix="ondel-test-") as home:
         env = environment(home, services, variables)
-        with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24", "-dpi", "96", "-noreset",
-                               "-nolisten", "tcp"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as server:
-            env["DISPLAY"] = ":" + server.stdout.readline().strip()
-            done = subprocess.run(["dbus-run-session", f"--config-file={home}/bus.conf", "--", "/usr/bin/python3", *sys.argv], env=env)
-            server.terminate()
+        with display.served(width, height) as clients:
+            done = subprocess.run(["dbus-run-session", f"--config-file={home}/bus.conf", "--", "/usr/bin/python3", *sys.argv],
+                                  env=env | clients)
     sys.exit(done.returncode)
 
 
@@ -92,17 +92,11 @@ def fast_folder(prefix="ondel test "):
 
 def windows(title):
     """The shown windows of that title, by their numbers."""
-    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title], capture_output=True, text=True).stdout.split()
+    return display.windows(title)
 
 
 class Failure(Exception):
     pass
-
-
-def titles():
-    """Of all shown windows."""
-    return [subprocess.run(["xdotool", "getwindowname", number], capture_output=True, text=True).stdout.strip()
-            for number in windows(".")]
 
 
 def appearing(title):
@@ -110,14 +104,14 @@ def appearing(title):
     end = time.monotonic() + GUARD_SECONDS
     while not (found := windows(title)):
         if time.monotonic() > end:
-            raise Failure(f"no window {title!r} was opened; there are {titles()}")
+            raise Failure(f"no window {title!r} was opened; there are {[display.title(window) for window in windows('.')]}")
         time.sleep(0.02)
     return found[0]
 
 
 def focus(title):
     """Gives the keyboard to a window as soon as it stands."""
-    subprocess.run(["xdotool", "windowfocus", "--sync", appearing(title)], check=True)
+    display.focus(appearing(title))
 
 
 class Started:
@@ -125,8 +119,7 @@ class Started:
 
     def __init__(self):
         """Waits for its main window."""
-        owner = subprocess.run(["xdotool", "getwindowpid", appearing(MAIN)], check=True, capture_output=True, text=True)
-        self.pid = int(owner.stdout)
+        self.pid = display.process(appearing(MAIN))
         self.descriptor = os.pidfd_open(self.pid)
         self.stderr = io.StringIO()
 
@@ -248,18 +241,16 @@ class Window:
         """Puts the pointer there, a little inside its leading edge."""
         place = self.find(name, role).get_extents(self.atspi.CoordType.SCREEN)
         # The toolkit tells the bus logical pixels.
-        pixels = [str(round(at * float(self.scale))) for at in (place.x + 20, place.y + place.height / 2)]
-        subprocess.run(["xdotool", "mousemove", *pixels], check=True)
+        display.point(*(round(at * float(self.scale)) for at in (place.x + 20, place.y + place.height / 2)))
 
     def resize(self, width, height):
         """Units: logical pixels, as far as the screen has them."""
         scale = float(self.scale)
-        size = [str(round(side * scale)) for side in (width, height)]
-        subprocess.run(["xdotool", "windowsize", self.id(), *size], check=True)
+        display.resize(self.id(), round(width * scale), round(height * scale))
         self.settled()
 
     def type(self, text):
-        subprocess.run(["xdotool", "type", "--delay", "20", text], check=True)
+        display.type(text)
 
     def listen(self):
         """A list that is filled with the names that the window's nodes take on from now on."""
@@ -286,8 +277,8 @@ class Window:
         return self.until(f"the window {title!r}", lambda: windows(title))[0]
 
     def keys(self, *keys):
-        subprocess.run(["xdotool", "windowfocus", "--sync", self.id()], check=True)
-        subprocess.run(["xdotool", "key", "--delay", "30", *keys], check=True)
+        display.focus(self.id())
+        display.press(*keys)
 
     def focused(self):
         for node, _ in self.nodes():
@@ -298,7 +289,7 @@ class Window:
     def settled(self, title=MAIN):
         """Waits until two pictures of the window are alike: nothing moves any more."""
         def shown():
-            return subprocess.run(["import", "-window", self.id(title), "rgb:-"], capture_output=True).stdout
+            return display.pixels(self.id(title))
 
         def still():
             last = shown()
@@ -307,7 +298,7 @@ class Window:
         self.until("a still picture", still)
 
     def picture(self, path, title=MAIN):
-        subprocess.run(["import", "-window", self.id(title), str(path)], check=True)
+        display.picture(self.id(title), path)
 
     def end(self, *signals):
         for number in signals:
