@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ranges>
 
 namespace TarnwickKit::views {
 
@@ -72,16 +71,14 @@ void StoredRuns::refresh() {
 /// Whether views do better to begin anew: more has come than they make at once, or the order is another.
 bool StoredRuns::isFarFrom(const std::vector<RunRecord>& now) const {
     constexpr std::ptrdiff_t few = 4;
-    const auto isIn = [](const std::vector<RunRecord>& runs) {
-        return [&runs](const RunRecord& run) {
-            return std::ranges::find(runs, run.id, &RunRecord::id) != runs.end();
-        };
+    const auto idsIn = [](const std::vector<RunRecord>& runs, const std::vector<RunRecord>& others) {
+        std::vector<QUuid> ids;
+        for (const RunRecord& run : runs)
+            if (std::ranges::find(others, run.id, &RunRecord::id) != others.end())
+                ids.push_back(run.id);
+        return ids;
     };
-    std::vector<QUuid> kept, keptNow;
-    for (const RunRecord& run : m_runs | std::views::filter(isIn(now)))
-        kept.push_back(run.id);
-    for (const RunRecord& run : now | std::views::filter(isIn(m_runs)))
-        keptNow.push_back(run.id);
+    const auto kept = idsIn(m_runs, now), keptNow = idsIn(now, m_runs);
     return std::ssize(now) - std::ssize(keptNow) > few || kept != keptNow;
 }
 
