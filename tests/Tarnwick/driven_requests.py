@@ -342,8 +342,9 @@ def ends_in_every_phase(program, folder):
             print(f"  {phase} was over, once more", flush=True)
 
 
-# What they are about is X11's own, or what they drag from and point with knows nothing else.
-ONLY_ON_X11 = (goes_by_menu, starts_beside_one_that_hangs, ends_the_desktops_waiting, tells_the_desktop_of_runs, leaves_nothing_without_a_display, takes_what_is_dropped)
+# What they are about is X11's own, or the drag's source and the limits that they set do not fit another display.
+ONLY_ON_X11 = (starts_without_a_bus, goes_by_menu, ends_the_desktops_waiting, tells_the_desktop_of_runs,
+               leaves_nothing_without_a_display, takes_what_is_dropped)
 
 if __name__ == "__main__":
     driver.enter_display()

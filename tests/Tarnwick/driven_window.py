@@ -110,7 +110,7 @@ def refuses_what_it_cannot_use(program, folder):
         window.find("Choose a volume to begin")
         check(not window.enabled("Run Benchmark"), "a run without a target")
         status, words = window.terminate()
-        check(status == 0 and words.count("\n") == 1 and "missing is not a folder" in words, f"{status}: {words}")
+        check(status == 0 and words.count("\n") == 1 and "missing' is not a folder" in words, f"{status}: {words}")
 
     blind = {name: value for name, value in os.environ.items() if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
     for arguments, env, status in ((["--help"], blind, 0), ([folder], blind, 1), (["--nonsense"], os.environ, 2)):
