@@ -22,7 +22,9 @@ public:
     const std::filesystem::path& path() const { return m_mountPoint; }
     const std::string& problem() const { return m_problem; }
 
-    /// Waits until somebody has asked for something and hangs.
+    /// Whether somebody has asked for something and hangs.
+    bool isAsked() const { return m_taken > 0; }
+    /// Waits for that.
     void awaitRequest() const;
     /// From now on each request, those that hang included, fails.
     void end();
