@@ -21,7 +21,7 @@ T.AbstractButton {
     focusPolicy: Qt.TabFocus
     activeFocusOnTab: true
 
-    Accessible.role: Accessible.Button
+    Accessible.role: checkable ? Accessible.CheckBox : Accessible.Button
     Accessible.name: label
     // The toolkit has no word for a disabled item on the accessibility tree.
     Accessible.description: enabled ? detail : qsTr("Not available now")

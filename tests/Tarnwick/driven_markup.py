@@ -88,7 +88,7 @@ def rows(window):
     """The history's rows in view, by what they say of the run below its title. From bottom to top: one that is opened
     moves those below it out of view."""
     return [node for node, _ in window.nodes()
-            if node.get_role_name() == "push button" and " · " in node.get_description() and window.shows(node, "SHOWING")][::-1]
+            if driver.role_of(node) == "push button" and " · " in node.get_description() and window.shows(node, "SHOWING")][::-1]
 
 
 def charts(window):

@@ -138,6 +138,12 @@ class Started:
         self.send_signal(signal.SIGKILL)
 
 
+def role_of(node):
+    """By the names of before version 2.56 of the accessibility library."""
+    name = node.get_role_name()
+    return "push button" if name == "button" else name
+
+
 class Window:
     """One started program (its path, or a Started) and its accessibility tree."""
 
@@ -206,7 +212,7 @@ class Window:
     def look(self, name, role=None):
         """The node that is on the screen now, or None."""
         for node, _ in self.nodes():
-            if node.get_name() == name and (role is None or node.get_role_name() == role) and self.shows(node, "SHOWING"):
+            if node.get_name() == name and role in (None, role_of(node)) and self.shows(node, "SHOWING"):
                 return node
         return None
 
@@ -268,7 +274,7 @@ class Window:
     def progress(self, title):
         """The percentage that the progress bar of a test tells; None while there is no such bar."""
         for node, _ in self.nodes():
-            if node.get_role_name() == "progress bar" and self.shows(node, "SHOWING"):
+            if role_of(node) == "progress bar" and self.shows(node, "SHOWING"):
                 told = re.fullmatch(re.escape(title) + r": (\d+) %", node.get_name())
                 return int(told.group(1)) if told else None
         return None
