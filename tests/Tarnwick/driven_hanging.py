@@ -33,7 +33,10 @@ class DeafFileSystem:
 
     def _take(self):
         while True:
-            _, opcode, unique = struct.unpack_from("<IIQ", os.read(self.requests, 200000))
+            try:
+                _, opcode, unique = struct.unpack_from("<IIQ", os.read(self.requests, 200000))
+            except OSError:  # unmounted
+                return
             if opcode != INIT:
                 self.asked.set()
                 continue
@@ -91,10 +94,12 @@ def is_handed_it_and_asks_for_another(program, deaf):
 def ends_a_run_on_it(program, deaf):
     for way in (by_signal, by_keyboard):
         with driver.Window(program, deaf.point) as window:
+            window.find("Ready to benchmark")
             window.press("Run Benchmark")
             window.find("Running…", "status bar")
             ends(window, deaf, way)
     with driver.Window(program, deaf.point) as window:
+        window.find("Ready to benchmark")
         window.press("Run Benchmark")
         window.press("Stop")
         window.find("Ready", "status bar")
