@@ -26,6 +26,7 @@ std::vector<MountedVolume> mountedVolumes(const platform::SystemSources& sources
                                           std::chrono::milliseconds patience) {
     const auto mounts = platform::visibleMounts(platform::mounts(sources.mountTable));
     std::vector<MountedVolume> volumes;
+    volumes.reserve(mounts.size());
     for (const platform::Mount& mount : mounts)
         volumes.push_back(describe(mount, platform::resourcesOfMount(mount, sources)));
     const auto sizes = platform::totalSizes(mounts, {.patience = patience});

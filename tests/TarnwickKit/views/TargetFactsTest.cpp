@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 using namespace TarnwickKit::views;
-using OndelCore::volumes::Capability;
 using OndelCore::volumes::VolumeCapabilities;
 
 namespace {
