@@ -25,21 +25,20 @@ struct HistoryChanges {
 };
 
 /// The file of a history that several programs write, windows of several sessions among them: a JSON array of
-/// runs, newest first. Nobody's runs are lost to another writer:
+/// runs, newest first. No program's runs are lost to another one's save.
 ///
-/// - A change is a lock, a new look at the file, a merge by `id`, and an exchange of the whole file. The lock
-/// is
-///   waited for only so long; an exchange of the file that happens all the same is noticed, and the merge
-///   made again.
-/// - A run that is missing in the file and was not deleted stays: the file may be an older copy. Deletions
-/// stand
-///   in the lock's file, a line each, so that a program that still holds a deleted run does not bring it
-///   back; a run that is in the file, or added anew, is there whatever that list says.
-/// - Of a run that both have the file's form counts, but for titles that this program has changed since.
+/// Writing. A save takes a lock, reads the file again, merges by `id`, and replaces the whole file. It waits
+/// for the lock for a limited time and then goes on without it. If another program replaces the file between
+/// reading and writing, the save merges again.
 ///
-/// A file that is damaged is read run by run, and kept beside under another name before it is exchanged. One
-/// that cannot be read at the moment is neither moved nor written. A symbolic link stays one: the file that
-/// it names is written, and lock and leftovers lie beside that.
+/// Merging. A run that is missing in the file and was not deleted stays, because the file may be an older
+/// copy. The lock's file lists deletions, one per line, so that a program that still holds a deleted run does
+/// not bring it back. A run that is in the file, or was added again, is kept whatever that list says. For a
+/// run that both have, the file's form counts, except for titles that this program has changed since.
+///
+/// Damage. A damaged file is read run by run, and kept beside under another name before it is replaced. A
+/// file that cannot be read at the moment is neither moved nor written. A symbolic link stays one: the file
+/// that it names is written, and the lock and leftovers lie beside that file.
 ///
 /// Threads: any, one at a time.
 class HistoryFile {
