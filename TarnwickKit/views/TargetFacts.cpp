@@ -117,6 +117,11 @@ QStringList TargetFacts::unknownFeatures() const {
     return names;
 }
 
+QString TargetFacts::featuresNote() const {
+    const QStringList names = unknownFeatures();
+    return names.isEmpty() ? QString() : tr("Not known: %1").arg(names.join(tr(", ")));
+}
+
 bool TargetFacts::hasHealth() const {
     return m_analyzer && m_analyzer->smart() && m_analyzer->smart()->isSupported();
 }

@@ -42,8 +42,8 @@ class TargetFacts : public QObject {
     Q_PROPERTY(QVariantList capabilities READ capabilities NOTIFY volumeChanged)
     /// The names of what the file system can do.
     Q_PROPERTY(QStringList features READ features NOTIFY volumeChanged)
-    /// The names of what it may be able to do: nothing and nobody has told yet.
-    Q_PROPERTY(QStringList unknownFeatures READ unknownFeatures NOTIFY volumeChanged)
+    /// Names what the file system may be able to do, as long as that is not known; "" where all is known.
+    Q_PROPERTY(QString featuresNote READ featuresNote NOTIFY volumeChanged)
 
     Q_PROPERTY(bool hasHealth READ hasHealth NOTIFY healthChanged)
     Q_PROPERTY(bool isFailing READ isFailing NOTIFY healthChanged)
@@ -64,6 +64,7 @@ public:
     QVariantList capabilities() const;
     QStringList features() const;
     QStringList unknownFeatures() const;
+    QString featuresNote() const;
     Q_SIGNAL void volumeChanged();
 
     bool hasHealth() const;

@@ -54,8 +54,8 @@ Column {
                         }
                         PlainText {
                             width: parent.width
-                            visible: sections.target.unknownFeatures.length > 0
-                            text: qsTr("Not known: %1").arg(sections.target.unknownFeatures.join(qsTr(", ")))
+                            visible: text !== ""
+                            text: sections.target.featuresNote
                             font: Typeface.text(11)
                             color: PaletteKey.palette.text3
                             wrapMode: Text.Wrap
