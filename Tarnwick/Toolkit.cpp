@@ -7,6 +7,7 @@
 
 #include <QIcon>
 #include <QQuickWindow>
+#include <QThreadPool>
 
 #include <cstdio>
 #include <cstdlib>
@@ -46,10 +47,17 @@ void chooseRenderer() {
 
 } // namespace
 
-std::unique_ptr<QApplication> startToolkit(int& argc, char** argv) {
+void EndOfToolkit::operator()(QApplication* application) const {
+    if (QGuiApplication::platformName().startsWith(u"wayland"))
+        QThreadPool::globalInstance()->waitForDone(); // as the destructor does
+    else
+        delete application;
+}
+
+Toolkit startToolkit(int& argc, char** argv) {
     chooseRenderer();
     toolkitsOwn = qInstallMessageHandler(explainMissingDisplay);
-    auto application = std::make_unique<QApplication>(argc, argv);
+    Toolkit application(new QApplication(argc, argv));
     qInstallMessageHandler(OndelCore::platform::isStandardErrorLogged() ? warnWithoutNames : toolkitsOwn);
     application->setApplicationName(QString::fromLatin1(product::name));
     // Names the settings file together with the line above.
