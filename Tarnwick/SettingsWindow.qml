@@ -9,8 +9,8 @@ PanelWindow {
     required property UpdaterModel updater
 
     title: qsTr("Settings")
-    width: view.implicitWidth
-    height: view.implicitHeight
+    wantedWidth: view.implicitWidth
+    wantedHeight: view.implicitHeight
     color: PaletteKey.palette.bg
     palette: StandardPalettes.current
     PaletteKey.palette: Appearance.palette

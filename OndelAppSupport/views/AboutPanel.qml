@@ -11,8 +11,8 @@ PanelWindow {
     property appIdentity app: AppSupport.app
 
     title: qsTr("About %1").arg(app.name)
-    width: Math.max(300, column.implicitWidth + 48)
-    height: column.implicitHeight + 48
+    wantedWidth: Math.max(300, column.implicitWidth + 48)
+    wantedHeight: column.implicitHeight + 48
 
     component Credit: Row {
         id: credit

@@ -3,10 +3,15 @@ import QtQuick.Window
 
 /// A window beside the main one, as large as what it holds.
 Window {
-    minimumWidth: width
-    maximumWidth: width
-    minimumHeight: height
-    maximumHeight: height
+    required property real wantedWidth
+    required property real wantedHeight
+
+    width: wantedWidth
+    height: wantedHeight
+    minimumWidth: wantedWidth
+    maximumWidth: wantedWidth
+    minimumHeight: wantedHeight
+    maximumHeight: wantedHeight
     flags: Qt.Dialog | Qt.WindowTitleHint | Qt.WindowCloseButtonHint
     color: palette.window
 

@@ -13,8 +13,8 @@ PanelWindow {
     readonly property int state: updater.state
 
     title: qsTr("Software Update")
-    width: Math.max(520, buttons.implicitWidth + 112)
-    height: page.implicitHeight + 40
+    wantedWidth: Math.max(520, buttons.implicitWidth + 112)
+    wantedHeight: page.implicitHeight + 40
     visible: state !== UpdaterController.Idle
 
     onClosing: close => {

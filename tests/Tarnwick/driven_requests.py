@@ -346,7 +346,7 @@ def ends_in_every_phase(program, folder):
 
 
 # What they are about is X11's own, or the drag's source and the limits that they set do not fit another display.
-ONLY_ON_X11 = (starts_without_a_bus, goes_by_menu, ends_the_desktops_waiting, tells_the_desktop_of_runs,
+ONLY_ON_X11 = (starts_without_a_bus, ends_the_desktops_waiting, tells_the_desktop_of_runs,
                leaves_nothing_without_a_display, takes_what_is_dropped)
 
 if __name__ == "__main__":

@@ -120,7 +120,8 @@ def ends_beside_dead_proxy_settings(program, home):
         window.press("Send")
         silent.settimeout(driver.GUARD_SECONDS)
         connection, _ = silent.accept()
-        check(window.terminate() == (0, ""), "the end")
+        end = window.terminate()
+        check(end == (0, ""), f"ended with {end}")
         connection.close()
 
 
@@ -140,11 +141,13 @@ def main():
         window.press("Support on Ko-fi")
         check(window.until("the page", lambda: opened(home)).endswith("/support"), "the support page's address")
         window.gone("Not Now")
-        check(window.terminate() == (0, ""), "the end")
+        end = window.terminate()
+        check(end == (0, ""), f"ended with {end}")
     with driver.Window(program, home, env=env) as window:
         window.find("Ready to benchmark")
         check(window.look("Not Now") is None, "the note was put away for a week")
-        check(window.terminate() == (0, ""), "the end")
+        end = window.terminate()
+        check(end == (0, ""), f"ended with {end}")
     ends_beside_dead_proxy_settings(program, home)
 
 

@@ -59,7 +59,8 @@ def environment(home, services, variables):
         "ONDEL_DRIVEN": "1", "HOME": home, "XDG_RUNTIME_DIR": str(runtime), "TMPDIR": home, "LC_ALL": "C.UTF-8",
         "XDG_CONFIG_HOME": f"{home}/config", "XDG_DATA_HOME": f"{home}/data", "XDG_STATE_HOME": f"{home}/state",
         "XDG_CACHE_HOME": f"{home}/cache", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-        "GSETTINGS_BACKEND": "memory", "DBUS_SYSTEM_BUS_ADDRESS": "disabled:"} | variables
+        "GSETTINGS_BACKEND": "memory", "DBUS_SYSTEM_BUS_ADDRESS": "disabled:",
+        "QT_LOGGING_RULES": "qt.accessibility.atspi.warning=false;qt.qpa.wayland.warning=false"} | variables  # Qt 6.8 is chatty
 
 
 def enter_display(width=1400, height=1000, services={}, variables={}):
