@@ -42,7 +42,7 @@ endfunction()
 # For a target with QML: call it after qt_add_qml_module. From Qt 6.5 on, C++ made of QML calls functions that each Qt update
 # may change, and would tie a package to one exact version of Qt: byte code does not. What Qt's generators write is not ours to keep free of warnings.
 # What they make of QML files is a hundred small ones, whose time goes into reading the same headers: those are compiled
-# a dozen at a time.
+# a dozen at a time. GCC takes values for uninitialised there when the sanitizers are on.
 function(ondel_generated_qml target)
   if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
     set_property(TARGET ${target} APPEND PROPERTY QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
@@ -56,6 +56,7 @@ function(ondel_generated_qml target)
   set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12
     UNITY_BUILD_CODE_BEFORE_INCLUDE [[
 #pragma GCC diagnostic ignored "-Wconversion"
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #pragma GCC diagnostic ignored "-Wshadow"]])
 
   list(FILTER sources INCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/.*\\.cpp$")
