@@ -98,8 +98,9 @@ TEST(FileSystemAnswers, FollowOptionsAndLayers) {
                     .format.has(formatCaseSensitive));
 }
 
-/// What real file systems answered, and what trying showed of them: names looked up in the other case, links
-/// and holes made, names of 255 and 256 characters, access lists set and read again.
+/// What file systems answer, and what trying shows of them: names looked up in the other case, links and
+/// holes made, names of 255 and 256 characters, access lists set and read again. The rows of network file
+/// systems follow from what their drivers do; the others were recorded.
 struct Tried {
     const char* what;
     const char *type, *source, *superOptions;
