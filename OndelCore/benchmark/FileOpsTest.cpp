@@ -18,10 +18,11 @@ namespace OndelCore::benchmark {
 namespace {
 
 /// Fails: throws std::system_error.
-platform::FileDescriptor madeFolder(const FolderPlace& place) {
+platform::FileDescriptor madeFolder(int parent) {
+    constexpr const char* name = "fops";
     platform::FileDescriptor folder;
-    if (mkdirat(place.parent, place.name, S_IRWXU | S_IRWXG | S_IRWXO) == 0)
-        folder = platform::openInnerFolder(place.parent, place.name);
+    if (mkdirat(parent, name, S_IRWXU | S_IRWXG | S_IRWXO) == 0)
+        folder = platform::openInnerFolder(parent, name);
     if (!folder)
         throw std::system_error(errno, std::generic_category(), "mkdir");
     return folder;
@@ -98,8 +99,8 @@ void deleteFile(int folder, const std::string& name) {
 
 } // namespace
 
-FileOpsResult fileOps(const TestRun& run, const FolderPlace& dir, std::int64_t count) {
-    const platform::FileDescriptor made = madeFolder(dir);
+FileOpsResult fileOps(const TestRun& run, int parent, std::int64_t count) {
+    const platform::FileDescriptor made = madeFolder(parent);
     const int folder = made.get();
     const std::vector<std::string> names = namesOf(count);
     std::vector<std::string> newNames;

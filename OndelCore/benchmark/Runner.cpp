@@ -71,21 +71,15 @@ void awaitAnswer(const std::filesystem::path& folder, const CancelFlag& flag) {
         throw Cancelled();
 }
 
-} // namespace
-
-BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& plan, const RunPaths& paths,
-                        const CancelFlag& flag, const ProgressListener& progress) {
-    const TestRun run{system, plan, paths.dataFile, flag, progress};
-    const auto asksFor = [&plan](BenchmarkTest test) { return plan.tests.contains(test); };
+/// The tests of the plan that need the data file, in their order. `volume`: the target folder, open.
+BenchmarkResult transferTests(const TestRun& run, int volume) {
+    const auto asksFor = [&run](BenchmarkTest test) { return run.plan.tests.contains(test); };
     BenchmarkResult result;
-
-    if (needsDataFile(plan.tests)) {
-        const std::int64_t target = checkedTarget(plan.size, run.freeBytes(paths.volumePath));
-        if (asksFor(BenchmarkTest::sequentialWrite))
-            result.sequentialWrite = sequentialWrite(run, target, paths.volumePath);
-        else
-            result.preparationFlushError = prepareDataFile(run, target);
-    }
+    const std::int64_t target = checkedTarget(run.plan.size, run.freeBytes(volume));
+    if (asksFor(BenchmarkTest::sequentialWrite))
+        result.sequentialWrite = sequentialWrite(run, target, volume);
+    else
+        result.preparationFlushError = prepareDataFile(run, target);
     if (asksFor(BenchmarkTest::sequentialRead)) {
         run.throwIfCancelled();
         result.sequentialRead = sequentialRead(run);
@@ -98,12 +92,30 @@ BenchmarkResult execute(const EngineEnvironment& system, const BenchmarkPlan& pl
         run.throwIfCancelled();
         result.randomWrite = randomWrite(run);
     }
-    if (asksFor(BenchmarkTest::fileOps)) {
-        run.throwIfCancelled();
-        result.fileOps = fileOps(run, paths.fopsDir, plan.fileOpCount);
-    }
     return result;
 }
+
+/// Only the transfers are confined to the working folder: they open the data file again and again. Whatever
+/// the others create is new or refused, and the confinement would cost each of their files a tenth of its
+/// time.
+BenchmarkResult runInWorkingFolder(const TestRun& run, int working, int volume) {
+    BenchmarkResult result;
+    if (needsDataFile(run.plan.tests))
+        result = onThreadOfItsOwn([&](bool isOwnThread) {
+            if (isOwnThread)
+                run.system.confineWrites(working);
+            return transferTests(run, volume);
+        });
+    if (run.plan.tests.contains(BenchmarkTest::fileOps)) {
+        run.throwIfCancelled();
+        result.fileOps = fileOps(run, working, run.plan.fileOpCount);
+    }
+    if (!run.plan.tests.empty()) // a plan without any makes no files
+        result.tried = run.system.tryAbilities(working);
+    return result;
+}
+
+} // namespace
 
 BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan& plan,
                             const std::filesystem::path& folder, const CancelFlag& flag,
@@ -115,16 +127,9 @@ BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan
         throw BenchmarkError(BenchmarkError::NotWritable{});
     const WorkingFolder working(parent.get(), *owner);
     try {
-        return onThreadOfItsOwn([&](bool isOwnThread) {
-            if (isOwnThread)
-                system.confineWrites(working.descriptor());
-            DataFilePlace dataFile(working.descriptor());
-            const RunPaths paths{dataFile, {working.descriptor(), "fops"}, parent.get()};
-            BenchmarkResult result = execute(system, plan, paths, flag, progress);
-            if (!plan.tests.empty()) // one without any makes no files
-                result.tried = system.tryAbilities(working.descriptor());
-            return result;
-        });
+        DataFilePlace dataFile(working.descriptor());
+        const TestRun run{system, plan, dataFile, flag, progress};
+        return runInWorkingFolder(run, working.descriptor(), parent.get());
     } catch (const std::bad_alloc&) { // a block, or a list of files, larger than the memory
         throw ioError("memory: ", ENOMEM);
     } catch (const std::length_error&) {

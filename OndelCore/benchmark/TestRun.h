@@ -5,7 +5,7 @@
 #include "OndelCore/benchmark/BenchmarkProgress.h"
 #include "OndelCore/benchmark/CancelFlag.h"
 #include "OndelCore/benchmark/EngineEnvironment.h"
-#include "OndelCore/benchmark/RunPaths.h"
+#include "OndelCore/benchmark/DataFilePlace.h"
 
 #include <cstdint>
 

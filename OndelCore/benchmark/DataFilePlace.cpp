@@ -1,4 +1,4 @@
-#include "OndelCore/benchmark/RunPaths.h"
+#include "OndelCore/benchmark/DataFilePlace.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

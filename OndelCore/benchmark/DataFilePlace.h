@@ -25,17 +25,4 @@ private:
     platform::FileDescriptor m_held; ///< without it some file systems would number the file anew
 };
 
-/// A name in an open folder.
-struct FolderPlace {
-    int parent;
-    const char* name;
-};
-
-/// Where a run finds its things.
-struct RunPaths {
-    DataFilePlace& dataFile;
-    FolderPlace fopsDir;
-    int volumePath; ///< the target folder, open
-};
-
 } // namespace OndelCore::benchmark
