@@ -4,8 +4,8 @@
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkProgress.h"
 #include "OndelCore/benchmark/CancelFlag.h"
-#include "OndelCore/benchmark/EngineEnvironment.h"
 #include "OndelCore/benchmark/DataFilePlace.h"
+#include "OndelCore/benchmark/EngineEnvironment.h"
 
 #include <cstdint>
 
