@@ -1,9 +1,9 @@
 #include "OndelAppSupport/LaunchLog.h"
 
-#include "OndelAppSupport/BugReporter.h"
+#include "OndelAppSupport/report/BugReporter.h"
 #include "OndelCore/logging/LogStore.h"
-#include "OndelCore/platform/DetachedThread.h"
-#include "OndelCore/platform/StandardFolders.h"
+#include "OndelCore/platform/process/DetachedThread.h"
+#include "OndelCore/platform/process/StandardFolders.h"
 
 #include <chrono>
 #include <future>

@@ -1,6 +1,6 @@
 #include "OndelAppSupport/UpdaterEnvironment.h"
 
-#include "OndelCore/platform/PrivateFolder.h"
+#include "OndelCore/platform/storage/PrivateFolder.h"
 
 #include <QSysInfo>
 

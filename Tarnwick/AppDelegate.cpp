@@ -2,10 +2,10 @@
 
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/LaunchLog.h"
-#include "OndelCore/platform/StartupNotice.h"
-#include "OndelCore/platform/TerminationRequest.h"
+#include "OndelCore/platform/process/TerminationRequest.h"
+#include "OndelDesktop/StartupNotice.h"
 #include "Tarnwick/OpenUrls.h"
-#include "TarnwickKit/model/AnswerLater.h"
+#include "TarnwickKit/model/session/AnswerLater.h"
 
 #include <QDesktopServices>
 #include <QEventLoop>
@@ -134,14 +134,14 @@ void AppDelegate::openRunFile() {
     m_dialogs.askForRunFiles([this](const std::vector<fs::path>& files) { m_model.importRuns(files); });
 }
 
-bool AppDelegate::take(const platform::OpenRequest& request) {
+bool AppDelegate::take(const OndelDesktop::OpenRequest& request) {
     const bool isTaken = answer(request);
     if (startsAreMarked())
-        platform::completeStartup(request.activationToken); // also where nothing came to the front
+        OndelDesktop::completeStartup(request.activationToken); // also where nothing came to the front
     return isTaken;
 }
 
-bool AppDelegate::answer(const platform::OpenRequest& request) {
+bool AppDelegate::answer(const OndelDesktop::OpenRequest& request) {
     if (!request.action.empty() && request.action != "choose-folder" && request.action != "open-run-file")
         return false;
     if (!request.urls.empty()) {
@@ -164,7 +164,7 @@ void AppDelegate::comeToFront(const std::string& activationToken) {
     m_window->setWindowStates(m_window->windowStates() & ~Qt::WindowMinimized);
     m_window->setVisible(true);
     if (startsAreMarked())
-        platform::completeStartup(activationToken, static_cast<std::uint32_t>(m_window->winId()));
+        OndelDesktop::completeStartup(activationToken, static_cast<std::uint32_t>(m_window->winId()));
     m_window->raise();
     m_window->requestActivate();
     qunsetenv("XDG_ACTIVATION_TOKEN"); // it is good for once

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "OndelAppSupport/UpdaterModel.h"
-#include "OndelCore/platform/OpenRequests.h"
-#include "Tarnwick/RunAttendant.h"
-#include "TarnwickKit/model/AnalyzerModel.h"
-#include "TarnwickKit/views/Dialogs.h"
+#include "OndelDesktop/OpenRequests.h"
+#include "Tarnwick/RunNotifier.h"
+#include "TarnwickKit/model/session/AnalyzerModel.h"
+#include "TarnwickKit/views/window/Dialogs.h"
 
 #include <QFutureWatcher>
 #include <QList>
@@ -71,14 +71,14 @@ public:
     Q_INVOKABLE void openRunFile();
 
     /// Does what somebody outside asks for. Fails: false, when it is an action that does not exist.
-    bool take(const OndelCore::platform::OpenRequest& request);
+    bool take(const OndelDesktop::OpenRequest& request);
 
     /// Shows the window above others, where the desktop allows it.
     void comeToFront(const std::string& activationToken);
 
 private:
     OndelAppSupport::UpdaterEnvironment updaterEnvironment();
-    bool answer(const OndelCore::platform::OpenRequest& request);
+    bool answer(const OndelDesktop::OpenRequest& request);
     void open(const OpenUrls& sorted, const std::string& activationToken);
     void openNext();
     void endOfSession();
@@ -88,9 +88,9 @@ private:
     TarnwickKit::model::AnalyzerModel m_model;
     OndelAppSupport::UpdaterModel m_updater;
     bool m_showReport = false;
-    RunAttendant m_attendant;
+    RunNotifier m_attendant;
     QFutureWatcher<void> m_end;
     bool m_terminating = false;
     QPointer<QWindow> m_window;
-    std::deque<OndelCore::platform::OpenRequest> m_toOpen;
+    std::deque<OndelDesktop::OpenRequest> m_toOpen;
 };

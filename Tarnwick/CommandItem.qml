@@ -15,7 +15,7 @@ PopupMenuItem {
     topInset: command.beginsGroup ? 11 : 0
     topPadding: topInset + verticalPadding
 
-    Rule {
+    Separator {
         visible: item.command.beginsGroup
         y: 5
         width: item.width

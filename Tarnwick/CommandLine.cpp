@@ -1,10 +1,10 @@
 #include "Tarnwick/CommandLine.h"
 
-#include "OndelCore/platform/PathFacts.h"
-#include "OndelCore/platform/UnifiedLog.h"
+#include "OndelCore/platform/process/UnifiedLog.h"
+#include "OndelCore/platform/volumes/PathFacts.h"
 #include "Tarnwick/OpenUrls.h"
 #include "Tarnwick/Product.h"
-#include "TarnwickKit/model/DisplayText.h"
+#include "TarnwickKit/model/format/DisplayText.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 import TarnwickKit.views
 
 /// The menu bar. F10 opens its first menu, the arrow keys go on from there.

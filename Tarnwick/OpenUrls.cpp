@@ -1,7 +1,7 @@
 #include "Tarnwick/OpenUrls.h"
 
-#include "OndelCore/platform/PathFacts.h"
-#include "TarnwickKit/model/TarnwickFile.h"
+#include "OndelCore/platform/volumes/PathFacts.h"
+#include "TarnwickKit/model/runs/TarnwickFile.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import OndelAppSupport.views
-import OndelDrawing
+import OndelControls
 import TarnwickKit.views
 
 /// The form for problem reports, over the whole window.

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import OndelDrawing
+import OndelControls
 import TarnwickKit.views
 
 /// A group of the settings' form: its title, and its rows on a card.

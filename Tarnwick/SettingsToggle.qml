@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import OndelDrawing
+import OndelControls
 import TarnwickKit.views
 
 /// A switch with a line that says what it does.

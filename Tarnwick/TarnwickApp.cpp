@@ -2,13 +2,13 @@
 
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/LaunchLog.h"
-#include "OndelCore/platform/SessionBus.h"
-#include "OndelCore/platform/Signals.h"
-#include "OndelDrawing/ViewEngine.h"
+#include "OndelControls/ViewEngine.h"
+#include "OndelCore/platform/process/SessionBus.h"
+#include "OndelCore/platform/process/Signals.h"
 #include "Tarnwick/CommandLine.h"
 #include "Tarnwick/Product.h"
 #include "Tarnwick/Toolkit.h"
-#include "TarnwickKit/views/TarnwickFonts.h"
+#include "TarnwickKit/views/style/TarnwickFonts.h"
 
 #include <QQuickWindow>
 #include <QTimer>
@@ -18,9 +18,9 @@
 #include <cstdlib>
 #include <string>
 
-using OndelCore::platform::HandOver;
-using OndelCore::platform::OpenRequest;
-using OndelCore::platform::OpenRequests;
+using OndelDesktop::HandOver;
+using OndelDesktop::OpenRequest;
+using OndelDesktop::OpenRequests;
 using TarnwickKit::model::AnalyzerModel;
 
 namespace {
@@ -101,7 +101,7 @@ TarnwickApp::TarnwickApp(OpenRequests& requests)
 TarnwickApp::~TarnwickApp() { modelAtExit = nullptr; }
 
 bool TarnwickApp::declareScenes() {
-    OndelDrawing::prepareEngine(m_engine);
+    OndelControls::prepareEngine(m_engine);
     m_engine.setInitialProperties({{QStringLiteral("delegate"), QVariant::fromValue(&m_delegate)}});
     m_engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml")));
     if (m_engine.rootObjects().isEmpty())

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/platform/OpenRequests.h"
+#include "OndelDesktop/OpenRequests.h"
 #include "Tarnwick/AppDelegate.h"
 
 #include <QQmlApplicationEngine>
@@ -14,7 +14,7 @@ public:
     static int run(int argc, char** argv);
 
     /// Owner: `requests` outlives this.
-    explicit TarnwickApp(OndelCore::platform::OpenRequests& requests);
+    explicit TarnwickApp(OndelDesktop::OpenRequests& requests);
     ~TarnwickApp();
     TarnwickApp(const TarnwickApp&) = delete;
     TarnwickApp& operator=(const TarnwickApp&) = delete;
@@ -23,15 +23,15 @@ public:
     bool declareScenes();
 
     /// Launching has finished: from here on requests are taken, first that of this start.
-    void finishLaunching(const OndelCore::platform::OpenRequest& start);
+    void finishLaunching(const OndelDesktop::OpenRequest& start);
 
 private:
     /// Identity and fonts, which the delegate and the views are made with.
     static void prepare();
-    static std::optional<int> handOver(OndelCore::platform::OpenRequests& requests,
-                                       const OndelCore::platform::OpenRequest& start);
+    static std::optional<int> handOver(OndelDesktop::OpenRequests& requests,
+                                       const OndelDesktop::OpenRequest& start);
 
-    OndelCore::platform::OpenRequests& m_requests;
+    OndelDesktop::OpenRequests& m_requests;
     AppDelegate m_delegate;
     QQmlApplicationEngine m_engine;
 };

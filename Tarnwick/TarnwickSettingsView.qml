@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import OndelDrawing
+import OndelControls
 import OndelAppSupport.views
 import TarnwickKit.views
 import Tarnwick

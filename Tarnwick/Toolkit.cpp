@@ -1,8 +1,8 @@
 #include "Tarnwick/Toolkit.h"
 
 #include "OndelCore/logging/LogScrubber.h"
-#include "OndelCore/platform/GraphicsDevice.h"
-#include "OndelCore/platform/UnifiedLog.h"
+#include "OndelCore/platform/process/UnifiedLog.h"
+#include "OndelDesktop/GraphicsDevice.h"
 #include "Tarnwick/Product.h"
 
 #include <QIcon>
@@ -39,7 +39,7 @@ void warnWithoutNames(QtMsgType type, const QMessageLogContext& context, const Q
 void chooseRenderer() {
     const bool chosenByUser =
         qEnvironmentVariableIsSet("QT_QUICK_BACKEND") || qEnvironmentVariableIsSet("QSG_RHI_BACKEND");
-    if (!chosenByUser && !OndelCore::platform::hasGraphicsDevice())
+    if (!chosenByUser && !OndelDesktop::hasGraphicsDevice())
         QQuickWindow::setSceneGraphBackend(QStringLiteral("software"));
     if (!qEnvironmentVariableIsSet("QSG_DISTANCEFIELD_ANTIALIASING"))
         qputenv("QSG_DISTANCEFIELD_ANTIALIASING", "gray"); // else coloured fringes in images of text

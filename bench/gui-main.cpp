@@ -1,6 +1,6 @@
 // The main of every benchmark program that draws: off screen, in the product's own fonts.
 
-#include "TarnwickKit/views/TarnwickFonts.h"
+#include "TarnwickKit/views/style/TarnwickFonts.h"
 
 #include <QGuiApplication>
 

@@ -8,6 +8,7 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 
 set(ONDEL_SANITIZE "" CACHE STRING "Sanitizers to build with, as the compiler's -fsanitize= takes them")
+option(ONDEL_UNITY_BUILD "Compile a room's sources eight at a time, in a quarter of the processor time" ON)
 option(ONDEL_WARNINGS_ARE_ERRORS "Stop the build at a warning, as CI does" OFF)
 
 # The cache is shared by all checkouts on a machine: paths below this one count as relative.
@@ -24,8 +25,10 @@ add_library(ondel_options INTERFACE)
 target_include_directories(ondel_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_definitions(ondel_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)
 target_compile_options(ondel_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wnon-virtual-dtor
   -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough
+  # A name of one file may well be a local one of another that is compiled with it.
+  $<IF:$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${ONDEL_UNITY_BUILD}>>,-Wshadow=local,-Wshadow>
   $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>
   $<$<BOOL:${ONDEL_WARNINGS_ARE_ERRORS}>:-Werror>)
 

@@ -12,6 +12,7 @@ function(ondel_room name)
   endif()
   target_link_libraries(${target} PUBLIC ${ROOM_LINK} PRIVATE ondel_options ${ROOM_PRIVATE_LINK})
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${ONDEL_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 8)
 endfunction()
 
 # ondel_test(NAME [THREADS] SOURCES … LINK …): a GoogleTest program that CTest runs once, with its own home and without a
@@ -40,9 +41,8 @@ function(ondel_bench name)
 endfunction()
 
 # For a target with QML: call it after qt_add_qml_module. From Qt 6.5 on, C++ made of QML calls functions that each Qt update
-# may change, and would tie a package to one exact version of Qt: byte code does not. What Qt's generators write is not ours to keep free of warnings.
-# What they make of QML files is a hundred small ones, whose time goes into reading the same headers: those are compiled
-# a dozen at a time. GCC takes values for uninitialised there when the sanitizers are on.
+# may change, and would tie a package to one exact version of Qt: byte code does not. What Qt's generators write is not ours
+# to keep free of warnings; of files of our own that are compiled in one with others, clang-tidy sees each alone.
 function(ondel_generated_qml target)
   if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
     set_property(TARGET ${target} APPEND PROPERTY QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
@@ -50,15 +50,32 @@ function(ondel_generated_qml target)
   get_target_property(sources ${target} SOURCES)
   set(cached ${sources})
   list(FILTER cached INCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/.*_qml\\.cpp$")
-  list(REMOVE_ITEM sources ${cached})
-  set_source_files_properties(${cached} PROPERTIES SKIP_UNITY_BUILD_INCLUSION OFF)
-  set_source_files_properties(${sources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
-  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12
+  set(own ${sources})
+  list(FILTER own EXCLUDE REGEX "^${CMAKE_BINARY_DIR}/")
+  list(FILTER own INCLUDE REGEX "\\.cpp$")
+  list(REMOVE_ITEM sources ${cached} ${own})
+  ondel_unity_groups(qml 12 ${cached})
+  if(ONDEL_UNITY_BUILD)
+    ondel_unity_groups(own 8 ${own})
+  endif()
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP
     UNITY_BUILD_CODE_BEFORE_INCLUDE [[
 #pragma GCC diagnostic ignored "-Wconversion"
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
-#pragma GCC diagnostic ignored "-Wshadow"]])
+#pragma GCC diagnostic ignored "-Wshadow"
+#pragma GCC diagnostic ignored "-Wshadow=local"
+#pragma GCC diagnostic ignored "-Wshadow=compatible-local"]])
 
   list(FILTER sources INCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/.*\\.cpp$")
   set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+endfunction()
+
+# Has the files compiled `size` at a time.
+function(ondel_unity_groups name size)
+  set(count 0)
+  foreach(file IN LISTS ARGN)
+    math(EXPR group "${count} / ${size}")
+    math(EXPR count "${count} + 1")
+    set_source_files_properties(${file} PROPERTIES UNITY_GROUP ${name}${group} SKIP_UNITY_BUILD_INCLUSION OFF)
+  endforeach()
 endfunction()

@@ -1,7 +1,7 @@
 #include "OndelAppSupport/https/AbandonableWork.h"
 
-#include "OndelCore/platform/BackgroundThread.h"
-#include "OndelCore/platform/DetachedThread.h"
+#include "OndelCore/platform/process/DetachedThread.h"
+#include "OndelCore/platform/process/SystemCalls.h"
 
 #include <QMetaObject>
 

@@ -1,7 +1,7 @@
 #include "OndelAppSupport/https/HttpsExchange.h"
 
-#include "OndelCore/platform/ErrorText.h"
-#include "OndelCore/platform/SystemProxies.h"
+#include "OndelCore/platform/process/SystemCalls.h"
+#include "OndelCore/platform/process/SystemProxies.h"
 
 #include <curl/curl.h>
 

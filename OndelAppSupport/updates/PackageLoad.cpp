@@ -1,7 +1,7 @@
 #include "OndelAppSupport/updates/PackageLoad.h"
 
 #include "OndelAppSupport/updates/Ed25519.h"
-#include "OndelCore/platform/Uuid.h"
+#include "OndelCore/platform/process/SystemCalls.h"
 
 #include <QFile>
 

@@ -10,7 +10,7 @@ namespace OndelAppSupport::updates {
 
 namespace {
 
-constexpr qsizetype longestNotes = 20'000; // characters: some ten pages
+constexpr qsizetype longestText = 20'000; // characters: some ten pages
 
 constexpr std::array unshown{u"script",   u"style", u"head",   u"title",
                              u"template", u"svg",   u"iframe", u"object"};
@@ -48,9 +48,9 @@ QString referenced(QStringView name) {
 }
 
 /// Reads HTML from front to back once. It follows no rule of nesting: only the words count.
-class Reader {
+class NotesReader {
 public:
-    explicit Reader(QStringView html)
+    explicit NotesReader(QStringView html)
         : m_rest(html) {}
 
     QString read() {
@@ -127,10 +127,10 @@ private:
 
 } // namespace
 
-QString plainNotes(const QString& html) { return Reader(html).read(); }
+QString plainNotes(const QString& html) { return NotesReader(html).read(); }
 
 QString showableNotes(const QString& text) {
-    QString shown = text.left(longestNotes);
+    QString shown = text.left(longestText);
     if (shown.size() < text.size())
         shown += u'…';
     shown.removeIf([](QChar c) {

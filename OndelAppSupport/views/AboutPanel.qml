@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import OndelDrawing
+import OndelControls
 import OndelAppSupport.views
 
 /// Which program this is, and who made it of what.

@@ -1,8 +1,8 @@
 #include "OndelAppSupport/views/AppSupport.h"
 
-#include "OndelAppSupport/BugReporter.h"
 #include "OndelAppSupport/MakerSite.h"
 #include "OndelAppSupport/ThirdPartyNotices.h"
+#include "OndelAppSupport/report/BugReporter.h"
 
 #include <QDesktopServices>
 #include <QFile>

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 import OndelAppSupport.views
 
 /// A button on the maker's backdrop.

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// The banner's menu of one entry.
 T.AbstractButton {

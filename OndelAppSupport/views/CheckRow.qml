@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// A box to tick, with its words beside it.
 T.CheckBox {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// Marks the control that the keyboard would act on, just outside its edge.
 Card {

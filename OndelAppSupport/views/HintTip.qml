@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// The words that appear under a control when the pointer rests on it.
 T.ToolTip {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// Words that lead somewhere, in the colour of links.
 T.AbstractButton {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// A longer text to be read and copied, but not changed. The arrow keys scroll it.
 FocusScope {

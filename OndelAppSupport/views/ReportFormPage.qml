@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import OndelDrawing
+import OndelControls
 import OndelAppSupport.views
 
 /// What the user fills in.

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import OndelDrawing
+import OndelControls
 import OndelAppSupport.views
 
 /// The sheet in which the user writes a report. Whoever shows it closes it when it is `dismissed`, and makes a new one for

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// One choice of a few, side by side. The keyboard comes to the one that holds and moves it with the arrows.
 FocusScope {

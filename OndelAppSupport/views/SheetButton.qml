@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// A push button of a sheet or a panel. The prominent one is the one that Return presses.
 T.Button {

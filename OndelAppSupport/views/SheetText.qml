@@ -1,5 +1,5 @@
 import QtQuick
-import OndelDrawing
+import OndelControls
 
 /// A text of a sheet or a panel.
 PlainText {

@@ -1,5 +1,5 @@
 import QtQuick
-import OndelDrawing
+import OndelControls
 import OndelAppSupport.views
 
 /// The note that asks for support. Where there is no room for one row its buttons go below its words.

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "OndelAppSupport/AppIdentity.h"
-#include "OndelAppSupport/ReportForm.h"
 #include "OndelAppSupport/SupportNudges.h"
+#include "OndelAppSupport/report/ReportForm.h"
 
 #include <QObject>
 #include <QQmlEngine>

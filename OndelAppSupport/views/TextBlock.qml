@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// An editor for a text of several lines. Tab leaves it; Return begins a line, with Control it is `confirmed`.
 FocusScope {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import OndelDrawing
+import OndelControls
 
 /// A field for one line, which tells within itself what it is for while it is empty.
 T.TextField {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import OndelDrawing
+import OndelControls
 import OndelAppSupport.views
 
 /// Everything that is said and asked about updates. It opens and closes by itself, as the updater wants it.

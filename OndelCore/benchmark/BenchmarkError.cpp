@@ -1,6 +1,6 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 
-#include "OndelCore/platform/ErrorText.h"
+#include "OndelCore/platform/process/SystemCalls.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 
 #include "OndelCore/benchmark/BenchmarkTest.h"
 #include "OndelCore/benchmark/Hashing.h"
-#include "OndelCore/platform/FileTrials.h"
+#include "OndelCore/platform/storage/FileTrials.h"
 
 #include <cstdint>
 #include <optional>

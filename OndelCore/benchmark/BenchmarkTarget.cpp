@@ -1,6 +1,6 @@
 #include "OndelCore/benchmark/BenchmarkTarget.h"
 
-#include "OndelCore/platform/PathFacts.h"
+#include "OndelCore/platform/volumes/PathFacts.h"
 
 namespace fs = std::filesystem;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/platform/Mounts.h"
+#include "OndelCore/platform/volumes/Mounts.h"
 
 #include <filesystem>
 #include <functional>

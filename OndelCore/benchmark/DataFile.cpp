@@ -1,6 +1,6 @@
 #include "OndelCore/benchmark/DataFile.h"
 
-#include "OndelCore/platform/Random.h"
+#include "OndelCore/platform/process/SystemCalls.h"
 
 #include <fcntl.h>
 #include <sys/mman.h>

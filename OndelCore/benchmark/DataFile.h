@@ -1,8 +1,8 @@
 #pragma once
 
 #include "OndelCore/benchmark/TestRun.h"
-#include "OndelCore/platform/CacheBypass.h"
-#include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/storage/CacheBypass.h"
+#include "OndelCore/platform/storage/FileDescriptor.h"
 
 #include <cerrno>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "OndelCore/platform/FileDescriptor.h"
-#include "OndelCore/platform/OpenFolders.h"
+#include "OndelCore/platform/storage/FileDescriptor.h"
+#include "OndelCore/platform/storage/OpenFolders.h"
 
 #include <optional>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "OndelCore/platform/Clock.h"
-#include "OndelCore/platform/FileTrials.h"
-#include "OndelCore/platform/Storage.h"
-#include "OndelCore/platform/WriteConfinement.h"
+#include "OndelCore/platform/process/SystemCalls.h"
+#include "OndelCore/platform/storage/FileTrials.h"
+#include "OndelCore/platform/storage/Storage.h"
+#include "OndelCore/platform/storage/WriteConfinement.h"
 
 #include <sys/types.h>
 #include <unistd.h>

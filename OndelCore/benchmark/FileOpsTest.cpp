@@ -1,7 +1,7 @@
 #include "OndelCore/benchmark/FileOpsTest.h"
 
 #include "OndelCore/benchmark/SaturatingMath.h"
-#include "OndelCore/platform/OpenFolders.h"
+#include "OndelCore/platform/storage/OpenFolders.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,9 +1,9 @@
 #include "OndelCore/benchmark/RandomTests.h"
 
 #include "OndelCore/benchmark/DataFile.h"
-#include "OndelCore/benchmark/IndexDraw.h"
 #include "OndelCore/benchmark/SaturatingMath.h"
-#include "OndelCore/platform/Random.h"
+#include "OndelCore/benchmark/UniformIndexGenerator.h"
+#include "OndelCore/platform/process/SystemCalls.h"
 
 #include <fcntl.h>
 
@@ -30,7 +30,7 @@ IOPSResult measure(const TestRun& run, const RandomTest& kind) {
     if (kind.writes)
         buffer.fillWithRandomBytes();
     const auto bytes = buffer.first(block);
-    IndexDraw draw(platform::fillRandom);
+    UniformIndexGenerator draw(platform::fillRandom);
     const auto report = [&](std::int64_t operations, double elapsed) {
         run.progress(
             {kind.test, saturatingMultiply(operations, block), saturatingMultiply(count, block), 0, elapsed});

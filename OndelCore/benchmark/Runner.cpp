@@ -6,8 +6,8 @@
 #include "OndelCore/benchmark/SequentialTests.h"
 #include "OndelCore/benchmark/TestRun.h"
 #include "OndelCore/benchmark/WorkingFolder.h"
-#include "OndelCore/platform/FileDescriptor.h"
-#include "OndelCore/platform/PathFacts.h"
+#include "OndelCore/platform/storage/FileDescriptor.h"
+#include "OndelCore/platform/volumes/PathFacts.h"
 #include "OndelCore/volumes/VolumeAccess.h"
 
 #include <algorithm>

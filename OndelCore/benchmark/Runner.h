@@ -5,7 +5,7 @@
 #include "OndelCore/benchmark/BenchmarkResult.h"
 #include "OndelCore/benchmark/CancelFlag.h"
 #include "OndelCore/benchmark/EngineEnvironment.h"
-#include "OndelCore/platform/Signals.h"
+#include "OndelCore/platform/process/Signals.h"
 
 #include <QFuture>
 #include <QPromise>
@@ -56,8 +56,8 @@ auto runBlocking(Work work, std::stop_token stop)
 /// One whole run: proves that `folder` can be written, makes the working folder, executes the plan in it and
 /// removes it, whatever comes. `folder` is opened once; a path that leads elsewhere later changes nothing.
 ///
-/// Threads: the transfers run on one of its own, for which it waits. Fails: throws BenchmarkError, Cancelled, or
-/// std::system_error when the working folder cannot be made.
+/// Threads: the transfers run on one of its own, for which it waits. Fails: throws BenchmarkError, Cancelled,
+/// or std::system_error when the working folder cannot be made.
 BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan& plan,
                             const std::filesystem::path& folder, const CancelFlag& flag,
                             const ProgressListener& progress);

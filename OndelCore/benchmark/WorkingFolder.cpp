@@ -1,7 +1,7 @@
 #include "OndelCore/benchmark/WorkingFolder.h"
 
-#include "OndelCore/platform/OpenFolders.h"
-#include "OndelCore/platform/Uuid.h"
+#include "OndelCore/platform/process/SystemCalls.h"
+#include "OndelCore/platform/storage/OpenFolders.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

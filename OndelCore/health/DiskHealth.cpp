@@ -1,8 +1,8 @@
 #include "OndelCore/health/DiskHealth.h"
 
 #include "OndelCore/health/SmartReader.h"
-#include "OndelCore/platform/LocaleNumbers.h"
-#include "OndelCore/platform/VolumeResources.h"
+#include "OndelCore/platform/process/LocaleNumbers.h"
+#include "OndelCore/platform/volumes/VolumeResources.h"
 
 #include <string.h>
 

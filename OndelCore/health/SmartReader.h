@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OndelCore/health/OndelSMART.h"
-#include "OndelCore/platform/SmartBlocks.h"
+#include "OndelCore/platform/drives/SmartBlocks.h"
 
 #include <string>
 #include <vector>

@@ -4,7 +4,7 @@
 #include "OndelCore/logging/LogStore.h"
 #include "OndelCore/logging/Redact.h"
 #include "OndelCore/logging/Utf8.h"
-#include "OndelCore/platform/UnifiedLog.h"
+#include "OndelCore/platform/process/UnifiedLog.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "OndelCore/logging/LogFile.h"
 
-#include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/storage/FileDescriptor.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -17,8 +17,6 @@ bool contains(std::string_view text, std::string_view piece) {
     return text.find(piece) != std::string_view::npos;
 }
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
 bool hasDottedNumber(std::string_view text) {
     for (auto stop = text.find('.', 1); stop != std::string_view::npos; stop = text.find('.', stop + 1))
         if (isDigit(text[stop - 1]) && stop + 1 < text.size() && isDigit(text[stop + 1]))

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OndelCore/logging/PrivacyNet.h"
-#include "OndelCore/platform/UserFacts.h"
+#include "OndelCore/platform/process/UserFacts.h"
 
 #include <string>
 #include <vector>

@@ -1,9 +1,9 @@
 #include "OndelCore/logging/LogStore.h"
 
 #include "OndelCore/logging/LogFile.h"
-#include "OndelCore/platform/BackgroundThread.h"
-#include "OndelCore/platform/Signals.h"
-#include "OndelCore/platform/StandardFolders.h"
+#include "OndelCore/platform/process/Signals.h"
+#include "OndelCore/platform/process/StandardFolders.h"
+#include "OndelCore/platform/process/SystemCalls.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -72,7 +72,7 @@ std::uint32_t signsIn(std::string_view line) {
     return signs;
 }
 
-/// One pass of an automaton instead of one for each rule: the words behind which rules look, and the
+/// One pass of an automaton instead of one for each rule: the words behind which netRules look, and the
 /// addresses without a sign of their own.
 constexpr const char* wordPattern = "cookie|auth|bearer|pass|pwd|secret|token|api.?key|access.?key|private.?"
                                     "key|credential|session.?(?:id|key)|"
@@ -104,7 +104,7 @@ struct Match {
 };
 using Spares = bool (*)(const Match&);
 
-struct Rule {
+struct NetRule {
     std::uint32_t needs; ///< all of them
     std::unique_ptr<const RE2> regex;
     const char* rewrite;
@@ -112,7 +112,6 @@ struct Rule {
 };
 
 bool isWordByte(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || (c & 0x80) != 0; }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool hasDigit(std::string_view text) { return std::ranges::any_of(text, isDigit); }
 
 bool insidePath(const Match& match) {
@@ -346,12 +345,12 @@ std::string expanded(std::string pattern) {
     return pattern;
 }
 
-const std::vector<Rule>& rules() {
-    static const std::vector<Rule>& all = *[] {
+const std::vector<NetRule>& netRules() {
+    static const std::vector<NetRule>& all = *[] {
         RE2::Options options;
         options.set_case_sensitive(false);
         options.set_log_errors(false);
-        auto* made = new std::vector<Rule>;
+        auto* made = new std::vector<NetRule>;
         for (const Source& source : sources)
             if (auto regex = std::make_unique<const RE2>(expanded(source.pattern), options); regex->ok())
                 made->push_back({source.needs, std::move(regex), source.rewrite, source.spares});
@@ -473,7 +472,7 @@ int PrivacyNet::scrub(std::string& line) const {
         return mayHavePlace && hasPlace(text) ? signs | place : signs;
     };
     std::uint32_t signs = signsOf(line);
-    for (const Rule& rule : rules()) {
+    for (const NetRule& rule : netRules()) {
         if ((signs & rule.needs) != rule.needs)
             continue;
         if (const int replaced = replaceEach(line, *rule.regex, rule.rewrite, rule.spares); replaced > 0) {

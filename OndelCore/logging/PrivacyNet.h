@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/platform/UserFacts.h"
+#include "OndelCore/platform/process/UserFacts.h"
 
 #include <memory>
 #include <string>

@@ -2,8 +2,7 @@
 
 #include "OndelCore/NamedError.h"
 #include "OndelCore/logging/Utf8.h"
-#include "OndelCore/platform/ErrorText.h"
-#include "OndelCore/platform/Uuid.h"
+#include "OndelCore/platform/process/SystemCalls.h"
 
 #include <QByteArrayView>
 #include <QCryptographicHash>

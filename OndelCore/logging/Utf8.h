@@ -6,6 +6,9 @@
 
 namespace OndelCore::logging {
 
+/// Of ASCII, whatever the locale.
+constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
 /// Replaces what is no UTF-8 by U+FFFD; valid text stays as it is.
 void mendUtf8(std::string& text);
 

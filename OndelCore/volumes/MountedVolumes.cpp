@@ -1,9 +1,9 @@
 #include "OndelCore/volumes/MountedVolumes.h"
 
-#include "OndelCore/platform/Mounts.h"
-#include "OndelCore/platform/PathFacts.h"
-#include "OndelCore/platform/VisibleMounts.h"
-#include "OndelCore/platform/VolumeResources.h"
+#include "OndelCore/platform/volumes/Mounts.h"
+#include "OndelCore/platform/volumes/PathFacts.h"
+#include "OndelCore/platform/volumes/VisibleMounts.h"
+#include "OndelCore/platform/volumes/VolumeResources.h"
 
 namespace OndelCore::volumes {
 

@@ -1,9 +1,9 @@
 #include "OndelCore/volumes/VolumeAccess.h"
 
-#include "OndelCore/platform/FileDescriptor.h"
-#include "OndelCore/platform/OpenFolders.h"
-#include "OndelCore/platform/PathFacts.h"
-#include "OndelCore/platform/Uuid.h"
+#include "OndelCore/platform/process/SystemCalls.h"
+#include "OndelCore/platform/storage/FileDescriptor.h"
+#include "OndelCore/platform/storage/OpenFolders.h"
+#include "OndelCore/platform/volumes/PathFacts.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "OndelCore/platform/FileSystemAnswers.h"
-#include "OndelCore/platform/FileTrials.h"
-#include "OndelCore/platform/SystemSources.h"
+#include "OndelCore/platform/drives/SystemSources.h"
+#include "OndelCore/platform/storage/FileTrials.h"
+#include "OndelCore/platform/volumes/FileSystemAnswers.h"
 #include "OndelCore/volumes/Location.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "OndelCore/platform/SystemSources.h"
-#include "OndelCore/platform/VolumeResources.h"
+#include "OndelCore/platform/drives/SystemSources.h"
+#include "OndelCore/platform/volumes/VolumeResources.h"
 #include "OndelCore/volumes/Location.h"
 
 #include <QString>

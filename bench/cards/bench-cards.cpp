@@ -3,10 +3,10 @@
 // the whole, with the encoding and the file. Then what ten more leave behind in memory. bench/fresh-card
 // measures a process of its own. QT_QPA_PLATFORM=xcb and QSG_RHI_BACKEND=opengl choose the other renderer.
 
-#include "TarnwickKit/views/CardView.h"
-#include "TarnwickKit/views/ComparisonImage.h"
-#include "TarnwickKit/views/ReportImage.h"
-#include "TarnwickKit/views/ViewPicture.h"
+#include "TarnwickKit/views/sharing/CardView.h"
+#include "TarnwickKit/views/sharing/ComparisonImage.h"
+#include "TarnwickKit/views/sharing/ReportImage.h"
+#include "TarnwickKit/views/sharing/ViewPicture.h"
 
 #include <QQuickItem>
 

@@ -2,7 +2,7 @@
 // point as a running test brings it fifty times a second, and stroked by QPainter for comparison. The
 // argument is the screen's scale in percent.
 
-#include "TarnwickKit/views/ThroughputPicture.h"
+#include "TarnwickKit/views/charts/ThroughputPicture.h"
 
 #include <QImage>
 #include <QLinearGradient>

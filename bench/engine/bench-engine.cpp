@@ -2,9 +2,9 @@
 // folder), so that the system call is short and our share of each operation shows. For rates beside other
 // programs' see bench/side-by-side.
 
-#include "OndelCore/benchmark/IndexDraw.h"
 #include "OndelCore/benchmark/Runner.h"
-#include "OndelCore/platform/Random.h"
+#include "OndelCore/benchmark/UniformIndexGenerator.h"
+#include "OndelCore/platform/process/SystemCalls.h"
 
 #include <benchmark/benchmark.h>
 
@@ -73,7 +73,7 @@ void cancelPoll(benchmark::State& state) {
 }
 
 void indexDraw(benchmark::State& state) {
-    IndexDraw draw(OndelCore::platform::fillRandom);
+    UniformIndexGenerator draw(OndelCore::platform::fillRandom);
     for (auto _ : state)
         benchmark::DoNotOptimize(draw.below(262144));
 }

@@ -5,7 +5,7 @@
 #include "OndelCore/logging/LogScrubber.h"
 #include "OndelCore/logging/LogStore.h"
 #include "OndelCore/logging/Redact.h"
-#include "OndelCore/platform/UnifiedLog.h"
+#include "OndelCore/platform/process/UnifiedLog.h"
 
 #include <benchmark/benchmark.h>
 

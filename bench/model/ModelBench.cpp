@@ -1,11 +1,11 @@
 // What the model costs: the history's file, and the progress events that the interface's thread takes in a
 // run.
 
-#include "TarnwickKit/model/AnalyzerModel.h"
-#include "TarnwickKit/model/JsonWriter.h"
-#include "TarnwickKit/model/ProgressStream.h"
-#include "TarnwickKit/model/RunRecordJson.h"
 #include "TarnwickKit/model/SampleRun.h"
+#include "TarnwickKit/model/runs/JsonWriter.h"
+#include "TarnwickKit/model/runs/RunRecordJson.h"
+#include "TarnwickKit/model/session/AnalyzerModel.h"
+#include "TarnwickKit/model/session/ProgressStream.h"
 
 #include <QCoreApplication>
 

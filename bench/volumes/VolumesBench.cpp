@@ -1,10 +1,10 @@
 // How long the window waits when a folder is chosen and when the menu of volumes opens.
 
-#include "OndelCore/platform/Mounts.h"
+#include "OndelCore/platform/volumes/Mounts.h"
 #include "OndelCore/volumes/MountedVolumes.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
-#include "TarnwickKit/model/DriveInfo.h"
+#include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <benchmark/benchmark.h>
 #include <unistd.h>

@@ -1,9 +1,9 @@
 #include "OndelAppSupport/LaunchLog.h"
 
-#include "OndelAppSupport/BugReporter.h"
+#include "OndelAppSupport/report/BugReporter.h"
 #include "OndelCore/logging/LogScrubber.h"
 #include "OndelCore/logging/LogStore.h"
-#include "OndelCore/platform/UnifiedLog.h"
+#include "OndelCore/platform/process/UnifiedLog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "OndelAppSupport/ReportForm.h"
+#include "OndelAppSupport/report/ReportForm.h"
 
 #include "OndelAppSupport/AppIdentity.h"
-#include "OndelAppSupport/Diagnostics.h"
+#include "OndelAppSupport/report/Diagnostics.h"
 #include "OndelCore/logging/LogStore.h"
 #include "OndelCore/logging/Redact.h"
 #include "support/TemporaryFolder.h"

@@ -1,5 +1,5 @@
 #include "OndelAppSupport/AppIdentity.h"
-#include "OndelAppSupport/BugReporter.h"
+#include "OndelAppSupport/report/BugReporter.h"
 #include "OndelCore/logging/Redact.h"
 #include "support/HttpsServer.h"
 

@@ -1,4 +1,4 @@
-#include "OndelAppSupport/BugReporter.h"
+#include "OndelAppSupport/report/BugReporter.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

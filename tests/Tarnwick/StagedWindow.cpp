@@ -8,9 +8,9 @@
 ///   named    every text that a volume or a drive has of its own is TEXT; its run takes a second
 
 #include "OndelAppSupport/AppIdentity.h"
-#include "OndelDrawing/ViewEngine.h"
-#include "TarnwickKit/model/AnalyzerModel.h"
-#include "TarnwickKit/views/TarnwickFonts.h"
+#include "OndelControls/ViewEngine.h"
+#include "TarnwickKit/model/session/AnalyzerModel.h"
+#include "TarnwickKit/views/style/TarnwickFonts.h"
 
 #include <QApplication>
 #include <QPromise>
@@ -137,7 +137,7 @@ int main(int argc, char** argv) {
     model.select(std::filesystem::temp_directory_path());
 
     QQmlApplicationEngine engine;
-    OndelDrawing::prepareEngine(engine);
+    OndelControls::prepareEngine(engine);
     engine.setInitialProperties({{QStringLiteral("analyzer"), QVariant::fromValue(&model)}});
     engine.loadData(R"(
         import QtQuick

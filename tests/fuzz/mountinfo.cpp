@@ -1,5 +1,5 @@
-#include "OndelCore/platform/FileDescriptor.h"
-#include "OndelCore/platform/Mounts.h"
+#include "OndelCore/platform/storage/FileDescriptor.h"
+#include "OndelCore/platform/volumes/Mounts.h"
 #include "fuzz/Fuzz.h"
 
 #include <sys/mman.h>

@@ -1,8 +1,8 @@
-#include "examples/host/CommandLine.h"
-#include "examples/host/DisplayText.h"
+#include "TarnwickHost/CommandLine.h"
+#include "TarnwickHost/DisplayText.h"
 #include "fuzz/Fuzz.h"
 
-using namespace examples::host;
+using namespace TarnwickHost;
 
 /// Nothing that a terminal obeys comes out.
 void fuzz::read(Bytes bytes) {

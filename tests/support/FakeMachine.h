@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/platform/SystemSources.h"
+#include "OndelCore/platform/drives/SystemSources.h"
 #include "support/TemporaryFolder.h"
 
 #include <sys/types.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/platform/FileDescriptor.h"
+#include "OndelCore/platform/storage/FileDescriptor.h"
 #include "support/TemporaryFolder.h"
 
 #include <optional>

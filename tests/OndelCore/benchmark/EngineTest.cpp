@@ -3,7 +3,7 @@
 #include "BentSystem.h"
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "OndelCore/benchmark/IndexDraw.h"
+#include "OndelCore/benchmark/UniformIndexGenerator.h"
 
 #include <gtest/gtest.h>
 
@@ -124,10 +124,10 @@ TEST_F(Engine, ReadsAndWritesWholeBlocksAtRandom) {
                      "progress randomWrite 0/0 at 1 s"}));
 }
 
-TEST(IndexDraw, RejectsWhatWouldFavourSomeIndices) {
+TEST(UniformIndexGenerator, RejectsWhatWouldFavourSomeIndices) {
     // 2^64 modulo 3 is 1, so that the draw 0 is rejected, for 2^63 the product's high half is 1.
     std::size_t asked = 0;
-    IndexDraw draw([&](void* bytes, std::size_t size) {
+    UniformIndexGenerator draw([&](void* bytes, std::size_t size) {
         std::vector<std::uint64_t> bits(size / 8, std::uint64_t{1} << 63);
         bits[0] = 0;
         std::memcpy(bytes, bits.data(), size);

@@ -3,7 +3,7 @@
 #include "BentSystem.h"
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "OndelCore/platform/OpenFolders.h"
+#include "OndelCore/platform/storage/OpenFolders.h"
 
 #include <gtest/gtest.h>
 #include <sys/file.h>

@@ -2,7 +2,7 @@
 
 #include "BentSystem.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "OndelCore/platform/OpenFolders.h"
+#include "OndelCore/platform/storage/OpenFolders.h"
 #include "support/LoopMount.h"
 
 #include <fcntl.h>

@@ -3,7 +3,7 @@
 #include "OndelCore/logging/Log.h"
 #include "OndelCore/logging/LogScrubber.h"
 #include "OndelCore/logging/LogStore.h"
-#include "OndelCore/platform/UnifiedLog.h"
+#include "OndelCore/platform/process/UnifiedLog.h"
 #include "support/JournalSocket.h"
 #include "support/TemporaryFolder.h"
 

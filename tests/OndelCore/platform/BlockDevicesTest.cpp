@@ -1,4 +1,4 @@
-#include "OndelCore/platform/BlockDevices.h"
+#include "OndelCore/platform/drives/BlockDevices.h"
 
 #include "support/FakeMachine.h"
 

@@ -1,5 +1,5 @@
-#include "OndelCore/platform/BlockDevices.h"
-#include "OndelCore/platform/SystemSources.h"
+#include "OndelCore/platform/drives/BlockDevices.h"
+#include "OndelCore/platform/drives/SystemSources.h"
 
 #include <gtest/gtest.h>
 #include <sched.h>

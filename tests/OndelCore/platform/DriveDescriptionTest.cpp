@@ -1,4 +1,4 @@
-#include "OndelCore/platform/DriveDescription.h"
+#include "OndelCore/platform/drives/DriveDescription.h"
 
 #include "support/FakeMachine.h"
 

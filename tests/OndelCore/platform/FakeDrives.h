@@ -1,7 +1,7 @@
 #pragma once
 
-#include "OndelCore/platform/SmartBlocks.h"
-#include "OndelCore/platform/linux/DriveCalls.h"
+#include "OndelCore/platform/drives/SmartBlocks.h"
+#include "OndelCore/platform/drives/linux/DriveCalls.h"
 #include "support/FakeMachine.h"
 
 #include <fcntl.h>

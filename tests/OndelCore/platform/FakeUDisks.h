@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/platform/linux/UDisksBus.h"
+#include "OndelCore/platform/drives/linux/UDisksBus.h"
 #include "support/TemporaryFolder.h"
 
 #include <QDBusArgument>

@@ -1,4 +1,4 @@
-#include "OndelCore/platform/FileSystemAnswers.h"
+#include "OndelCore/platform/volumes/FileSystemAnswers.h"
 
 #include "support/FakeMachine.h"
 

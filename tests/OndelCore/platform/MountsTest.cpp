@@ -1,6 +1,6 @@
-#include "OndelCore/platform/Mounts.h"
+#include "OndelCore/platform/volumes/Mounts.h"
 
-#include "OndelCore/platform/VisibleMounts.h"
+#include "OndelCore/platform/volumes/VisibleMounts.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

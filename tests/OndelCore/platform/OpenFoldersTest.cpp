@@ -1,4 +1,4 @@
-#include "OndelCore/platform/OpenFolders.h"
+#include "OndelCore/platform/storage/OpenFolders.h"
 
 #include "support/TemporaryFolder.h"
 

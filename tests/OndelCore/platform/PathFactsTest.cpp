@@ -1,4 +1,4 @@
-#include "OndelCore/platform/PathFacts.h"
+#include "OndelCore/platform/volumes/PathFacts.h"
 
 #include "support/DeafFileSystem.h"
 

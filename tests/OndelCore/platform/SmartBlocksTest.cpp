@@ -1,7 +1,7 @@
-#include "OndelCore/platform/SmartBlocks.h"
+#include "OndelCore/platform/drives/SmartBlocks.h"
 
 #include "OndelCore/platform/FakeDrives.h"
-#include "OndelCore/platform/linux/AtaPassThrough.h"
+#include "OndelCore/platform/drives/linux/AtaPassThrough.h"
 
 #include <gtest/gtest.h>
 #include <sys/sysmacros.h>

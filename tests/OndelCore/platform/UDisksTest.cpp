@@ -1,6 +1,6 @@
 #include "OndelCore/platform/FakeDrives.h"
 #include "OndelCore/platform/FakeUDisks.h"
-#include "OndelCore/platform/SmartBlocks.h"
+#include "OndelCore/platform/drives/SmartBlocks.h"
 
 #include <QDBusServiceWatcher>
 #include <QDateTime>

@@ -1,4 +1,4 @@
-#include "OndelCore/platform/UnifiedLog.h"
+#include "OndelCore/platform/process/UnifiedLog.h"
 
 #include "support/JournalSocket.h"
 

@@ -1,7 +1,7 @@
-#include "OndelCore/platform/UserFacts.h"
+#include "OndelCore/platform/process/UserFacts.h"
 
-#include "OndelCore/platform/PrivateFolder.h"
-#include "OndelCore/platform/StandardFolders.h"
+#include "OndelCore/platform/process/StandardFolders.h"
+#include "OndelCore/platform/storage/PrivateFolder.h"
 
 #include <gtest/gtest.h>
 #include <pwd.h>

@@ -1,7 +1,7 @@
 // Against file systems made for the purpose on loop devices: what the kernel and the tools really answer.
 
-#include "OndelCore/platform/FileDescriptor.h"
-#include "OndelCore/platform/FileTrials.h"
+#include "OndelCore/platform/storage/FileDescriptor.h"
+#include "OndelCore/platform/storage/FileTrials.h"
 #include "OndelCore/volumes/MountedVolumes.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"

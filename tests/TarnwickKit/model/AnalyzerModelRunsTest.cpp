@@ -1,8 +1,8 @@
 #include "ModelHarness.h"
 #include "OndelCore/logging/LogStore.h"
 #include "SampleRun.h"
-#include "TarnwickKit/model/RunFile.h"
-#include "TarnwickKit/model/TarnwickReport.h"
+#include "TarnwickKit/model/runs/RunFile.h"
+#include "TarnwickKit/model/runs/TarnwickReport.h"
 
 #include <QTimeZone>
 

@@ -1,5 +1,5 @@
 #include "ModelHarness.h"
-#include "TarnwickKit/model/VolumeMenuItem.h"
+#include "TarnwickKit/model/session/VolumeMenuItem.h"
 
 #include <QTimeZone>
 

@@ -1,4 +1,4 @@
-#include "TarnwickKit/model/Comparison.h"
+#include "TarnwickKit/model/runs/Comparison.h"
 
 #include <gtest/gtest.h>
 

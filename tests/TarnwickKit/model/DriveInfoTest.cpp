@@ -1,4 +1,4 @@
-#include "TarnwickKit/model/DriveInfo.h"
+#include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
-#include "TarnwickKit/model/Formatter.h"
+#include "TarnwickKit/model/format/Formatter.h"
 
-#include "TarnwickKit/model/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/format/BenchmarkTestTitle.h"
 
 #include <QTimeZone>
 

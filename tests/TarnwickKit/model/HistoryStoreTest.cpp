@@ -1,10 +1,10 @@
-#include "TarnwickKit/model/HistoryStore.h"
+#include "TarnwickKit/model/runs/HistoryStore.h"
 
 #include "SampleRun.h"
-#include "TarnwickKit/model/RunFile.h"
-#include "TarnwickKit/model/RunRecordJson.h"
-#include "TarnwickKit/model/TarnwickFile.h"
-#include "TarnwickKit/model/TarnwickReport.h"
+#include "TarnwickKit/model/runs/RunFile.h"
+#include "TarnwickKit/model/runs/RunRecordJson.h"
+#include "TarnwickKit/model/runs/TarnwickFile.h"
+#include "TarnwickKit/model/runs/TarnwickReport.h"
 #include "support/TemporaryFolder.h"
 
 #include <QTimeZone>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "TarnwickKit/model/AnalyzerModel.h"
+#include "TarnwickKit/model/session/AnalyzerModel.h"
 #include "support/TemporaryFolder.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
-#include "TarnwickKit/model/RunRecord.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
 
 #include "SampleRun.h"
-#include "TarnwickKit/model/RunRecordJson.h"
+#include "TarnwickKit/model/runs/RunRecordJson.h"
 
 #include <QTimeZone>
 

@@ -1,6 +1,6 @@
-#include "TarnwickKit/model/SMARTReport.h"
+#include "TarnwickKit/model/session/SMARTReport.h"
 
-#include "TarnwickKit/model/Formatter.h"
+#include "TarnwickKit/model/format/Formatter.h"
 
 #include <QTimeZone>
 

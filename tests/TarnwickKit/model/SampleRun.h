@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TarnwickKit/model/RunRecord.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QByteArray>
 #include <QTimeZone>

@@ -1,4 +1,4 @@
-#include "OndelDrawing/CardTile.h"
+#include "OndelControls/CardTile.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
 #include <QBitmap>
@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace OndelDrawing;
+using namespace OndelControls;
 
 namespace {
 
@@ -72,7 +72,7 @@ TEST(Card, FollowsItsSizeAndLook) {
 /// A card or a symbol is the same picture to the pixel wherever what holds it is moved to.
 TEST(Card, LiesOnWholePixels) {
     for (const char* piece : {"Card { x: 10; y: 10; width: 20; height: 10; radius: 3; outline: \"red\" }",
-                              "Rule { x: 10; y: 10; width: 20; color: \"red\" }",
+                              "Separator { x: 10; y: 10; width: 20; color: \"red\" }",
                               "Symbol { x: 10; y: 10; width: 15; height: 15; name: \"stop.fill\" }"})
         for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
             test::Stage stage("Item { width: 60; height: 60; Item { " + QByteArray(piece) + " } }");

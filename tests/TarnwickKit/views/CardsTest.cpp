@@ -1,12 +1,12 @@
 #include "OndelAppSupport/AppIdentity.h"
-#include "OndelDrawing/Card.h"
-#include "TarnwickKit/views/CardView.h"
-#include "TarnwickKit/views/ComparedRuns.h"
-#include "TarnwickKit/views/ComparisonImage.h"
-#include "TarnwickKit/views/LegibleText.h"
-#include "TarnwickKit/views/QRCode.h"
-#include "TarnwickKit/views/ReportImage.h"
-#include "TarnwickKit/views/ViewPicture.h"
+#include "OndelControls/Card.h"
+#include "TarnwickKit/views/runs/ComparedRuns.h"
+#include "TarnwickKit/views/sharing/CardView.h"
+#include "TarnwickKit/views/sharing/ComparisonImage.h"
+#include "TarnwickKit/views/sharing/QRCode.h"
+#include "TarnwickKit/views/sharing/ReportImage.h"
+#include "TarnwickKit/views/sharing/ViewPicture.h"
+#include "TarnwickKit/views/style/LegibleText.h"
 #include "support/TemporaryFolder.h"
 #include "tests/TarnwickKit/views/Runs.h"
 
@@ -278,10 +278,10 @@ TEST(ComparisonChart, HasBarsInTheColorsOfTheRuns) {
 
     std::vector<std::pair<double, QColor>> bars; // of a height no other card has, one in each track
     for (const QQuickItem* item : itemsOf(*card))
-        if (const auto* track = qobject_cast<const OndelDrawing::Card*>(item);
+        if (const auto* track = qobject_cast<const OndelControls::Card*>(item);
             track && track->height() == 15 && track->color() == Palette::dark().track) {
             ASSERT_EQ(track->width(), 460);
-            const auto* bar = qobject_cast<OndelDrawing::Card*>(track->childItems().at(0));
+            const auto* bar = qobject_cast<OndelControls::Card*>(track->childItems().at(0));
             bars.emplace_back(bar->width(), bar->color());
         }
     ASSERT_EQ(bars.size(), 4U * 8U);

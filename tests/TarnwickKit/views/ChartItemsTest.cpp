@@ -1,6 +1,6 @@
-#include "TarnwickKit/model/RunRecord.h"
-#include "TarnwickKit/views/Palette.h"
-#include "TarnwickKit/views/ThroughputCanvas.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
+#include "TarnwickKit/views/charts/ThroughputCanvas.h"
+#include "TarnwickKit/views/style/Palette.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "TarnwickKit/views/SparklinePicture.h"
-#include "TarnwickKit/views/ThroughputPicture.h"
+#include "TarnwickKit/views/charts/SparklinePicture.h"
+#include "TarnwickKit/views/charts/ThroughputPicture.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
 #include <QBitmap>

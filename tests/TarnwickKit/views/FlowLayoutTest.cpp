@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/FlowLayout.h"
+#include "TarnwickKit/views/style/FlowLayout.h"
 
 #include "tests/TarnwickKit/views/Pictures.h"
 

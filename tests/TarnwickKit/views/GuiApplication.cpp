@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/TarnwickFonts.h"
+#include "TarnwickKit/views/style/TarnwickFonts.h"
 #include "support/Application.h"
 
 #include <QGuiApplication>

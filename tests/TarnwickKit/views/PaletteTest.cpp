@@ -1,7 +1,7 @@
-#include "TarnwickKit/views/Palette.h"
+#include "TarnwickKit/views/style/Palette.h"
 
-#include "TarnwickKit/views/ChartSeries.h"
-#include "TarnwickKit/views/PaletteKey.h"
+#include "TarnwickKit/views/charts/ChartSeries.h"
+#include "TarnwickKit/views/style/PaletteKey.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
 #include <QMetaProperty>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelDrawing/ViewEngine.h"
+#include "OndelControls/ViewEngine.h"
 
 #include <QImage>
 #include <QQmlComponent>
@@ -34,9 +34,9 @@ inline double distance(const QImage& a, const QImage& b) {
 class Stage {
 public:
     explicit Stage(const QByteArray& qml, const QVariantMap& properties = {}) {
-        OndelDrawing::prepareEngine(m_engine);
+        OndelControls::prepareEngine(m_engine);
         QQmlComponent component(&m_engine);
-        component.setData("import QtQuick\nimport OndelDrawing\nimport TarnwickKit.views\n" + qml, QUrl());
+        component.setData("import QtQuick\nimport OndelControls\nimport TarnwickKit.views\n" + qml, QUrl());
         m_root.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
         if (!m_root)
             throw std::runtime_error(component.errorString().toStdString());

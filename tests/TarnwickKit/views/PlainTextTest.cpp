@@ -19,9 +19,9 @@ int formatOf(const QObject& item, const char* className) {
 /// What the engine says against a piece of QML.
 QString refusal(const QByteArray& qml) {
     QQmlEngine engine;
-    OndelDrawing::prepareEngine(engine);
+    OndelControls::prepareEngine(engine);
     QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport OndelDrawing\n" + qml, QUrl());
+    component.setData("import QtQuick\nimport OndelControls\n" + qml, QUrl());
     return component.errorString();
 }
 

@@ -1,6 +1,6 @@
-#include "OndelDrawing/SymbolTable.h"
-#include "TarnwickKit/views/TarnwickFonts.h"
-#include "TarnwickKit/views/Typeface.h"
+#include "OndelControls/SymbolTable.h"
+#include "TarnwickKit/views/style/TarnwickFonts.h"
+#include "TarnwickKit/views/style/Typeface.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -10,7 +10,7 @@
 
 #include <set>
 
-using namespace OndelDrawing;
+using namespace OndelControls;
 using namespace TarnwickKit::views;
 
 namespace {

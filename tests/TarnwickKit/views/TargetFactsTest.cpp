@@ -1,6 +1,6 @@
-#include "TarnwickKit/views/TargetFacts.h"
+#include "TarnwickKit/views/sidebar/TargetFacts.h"
 
-#include "TarnwickKit/views/RunFacts.h"
+#include "TarnwickKit/views/runs/RunFacts.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/ThroughputScale.h"
+#include "TarnwickKit/views/charts/ThroughputScale.h"
 
 #include <gtest/gtest.h>
 

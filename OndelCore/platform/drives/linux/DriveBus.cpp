@@ -1,0 +1,107 @@
+#include "OndelCore/platform/drives/linux/DriveBus.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace OndelCore::platform {
+
+namespace {
+
+struct PathRule {
+    std::string_view prefix; ///< of a folder above the disk, followed by a digit
+    std::string_view bus;
+    bool isExternal;
+};
+
+// The first row that matches any folder above the disk holds: a SATA disk behind a USB bridge is a USB disk.
+constexpr std::array pathRules = {
+    PathRule{"usb", "USB", true},        PathRule{"fw", "FireWire", true},
+    PathRule{"session", "iSCSI", true},  PathRule{"rport-", "Fibre Channel", true},
+    PathRule{"ata", "SATA", false},      PathRule{"end_device-", "SAS", false},
+    PathRule{"virtio", "VirtIO", false}, PathRule{"vbd-", "Xen", false},
+};
+
+bool isNumbered(std::string_view name, std::string_view prefix) {
+    return name.size() > prefix.size() && name.starts_with(prefix) &&
+           std::isdigit(static_cast<unsigned char>(name[prefix.size()]));
+}
+
+/// A port that leads out of the case (Thunderbolt, USB4) marks what is plugged into it as removable.
+bool isBehindExternalPort(fs::path folder) {
+    for (; folder.has_relative_path(); folder = folder.parent_path())
+        if (readAttribute(folder / "removable") == "removable")
+            return true;
+    return false;
+}
+
+/// The controllers of an NVMe namespace: the folder above, or, where several may share the namespace, links
+/// in the folder of the subsystem above.
+std::vector<fs::path> nvmeControllers(const fs::path& disk) {
+    std::vector<fs::path> controllers;
+    std::error_code failed;
+    const fs::path above = disk.parent_path();
+    if (fs::exists(above / "transport", failed))
+        controllers.push_back(above);
+    for (fs::directory_iterator entry(above, failed), end; !failed && entry != end; entry.increment(failed)) {
+        std::error_code broken;
+        const fs::path controller = fs::canonical(entry->path(), broken);
+        if (!broken && entry->is_symlink(broken) && isNumbered(entry->path().filename().native(), "nvme"))
+            controllers.push_back(controller);
+    }
+    return controllers;
+}
+
+DriveBus nvmeBus(const BlockDevice& disk) {
+    for (const fs::path& controller : nvmeControllers(disk.folder)) {
+        const auto transport = readAttribute(controller / "transport");
+        if (transport && transport != "pcie")
+            return {"NVMe over Fabrics", true};
+        if (isBehindExternalPort(controller))
+            return {"Thunderbolt", true};
+    }
+    return {"NVMe", false};
+}
+
+DriveBus cardBus(const BlockDevice& disk) {
+    if (readAttribute(disk.folder / "device" / "type") == "MMC")
+        return {"eMMC", false};
+    return {"SD", true};
+}
+
+} // namespace
+
+bool hasAtaForVendor(const BlockDevice& wholeDisk) {
+    const std::string vendor = readAttribute(wholeDisk.folder / "device/vendor").value_or("");
+    return std::string_view(vendor).substr(0, vendor.find_last_not_of(' ') + 1) == "ATA";
+}
+
+DriveBus busOfDisk(const BlockDevice& wholeDisk) {
+    if (isNumbered(wholeDisk.name, "nvme"))
+        return nvmeBus(wholeDisk);
+    if (isNumbered(wholeDisk.name, "mmcblk"))
+        return cardBus(wholeDisk);
+    if (isNumbered(wholeDisk.name, "nbd") || isNumbered(wholeDisk.name, "rbd"))
+        return {std::nullopt, true};
+    for (const PathRule& rule : pathRules) {
+        const bool matches =
+            std::any_of(wholeDisk.folder.begin(), wholeDisk.folder.end(),
+                        [&](const fs::path& part) { return isNumbered(part.native(), rule.prefix); });
+        if (!matches)
+            continue;
+        if (!rule.isExternal && isBehindExternalPort(wholeDisk.folder.parent_path()))
+            return {"Thunderbolt", true};
+        // A SAS controller speaks SATA to such a disk.
+        if (rule.bus == "SAS" && hasAtaForVendor(wholeDisk))
+            return {"SATA", false};
+        return {std::string(rule.bus), rule.isExternal};
+    }
+    return {};
+}
+
+} // namespace OndelCore::platform

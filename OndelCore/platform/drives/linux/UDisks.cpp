@@ -1,0 +1,87 @@
+#include "OndelCore/platform/drives/linux/DriveReaders.h"
+#include "OndelCore/platform/drives/linux/UDisksBus.h"
+#include "OndelCore/platform/drives/linux/UDisksFigures.h"
+#include "OndelCore/platform/process/SessionBus.h"
+
+#include <QDateTime>
+
+namespace OndelCore::platform {
+
+namespace {
+
+const QString ataInterface = QStringLiteral("org.freedesktop.UDisks2.Drive.Ata");
+const QString nvmeInterface = QStringLiteral("org.freedesktop.UDisks2.NVMe.Controller");
+
+/// Where the system bus listens (D-Bus, "Well-known Message Bus Instances").
+std::string systemBusAddress() {
+    const QByteArray given = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    return given.isEmpty() ? "unix:path=/var/run/dbus/system_bus_socket" : given.toStdString();
+}
+
+/// The service's object for the drive that the disk belongs to.
+std::optional<QDBusObjectPath> driveOf(const BlockDevice& disk, const UDisksObjects& objects) {
+    for (const UDisksInterfaces& interfaces : objects) {
+        const QVariantMap block = interfaces.value(QStringLiteral("org.freedesktop.UDisks2.Block"));
+        if (wholeNumber(block.value(QStringLiteral("DeviceNumber"))) != disk.number)
+            continue;
+        const QVariant drive = block.value(QStringLiteral("Drive"));
+        if (drive.userType() == qMetaTypeId<QDBusObjectPath>())
+            return drive.value<QDBusObjectPath>();
+    }
+    return std::nullopt;
+}
+
+/// When the service read the drive, in words; what it read within the last minute counts as now.
+std::string ageOf(std::uint64_t readAtSeconds) {
+    const auto now = static_cast<std::uint64_t>(QDateTime::currentSecsSinceEpoch());
+    const std::uint64_t minutes = now > readAtSeconds ? (now - readAtSeconds) / 60 : 0;
+    return minutes == 0 ? "" : ", read " + std::to_string(minutes) + " min ago";
+}
+
+SmartAnswer nothing(std::string reason) { return {.blocks = {}, .source = std::move(reason)}; }
+
+SmartAnswer readInterface(const BlockDevice& disk, const UDisksBus& bus, const QDBusObjectPath& drive,
+                          const QString& interface) {
+    const bool isNvme = interface == nvmeInterface;
+    // A refusal (a sleeping drive, no permission) leaves the figures that the service read last.
+    bus.ask(drive, interface, QStringLiteral("SmartUpdate"), {});
+    const std::optional<QVariantMap> properties = bus.properties(drive, interface);
+    if (!properties)
+        return nothing("UDisks2 does not answer for " + disk.name);
+    const auto readAt = wholeNumber(properties->value(QStringLiteral("SmartUpdated")));
+    if (!readAt || *readAt == 0)
+        return nothing("UDisks2 has no health figures of " + disk.name);
+
+    const auto attributes = bus.ask(drive, interface, QStringLiteral("SmartGetAttributes"),
+                                    isNvme ? nvmeAttributesSignature : ataAttributesSignature);
+    const std::string source = "UDisks2 for " + disk.name + ageOf(*readAt);
+    if (isNvme) {
+        if (const auto report = nvmeReport(*properties, attributes.value_or(QVariant())))
+            return {.blocks = *report, .source = source};
+    } else if (const auto report = ataReport(*properties, attributes.value_or(QVariant()))) {
+        return {.blocks = *report, .source = source};
+    }
+    return nothing("UDisks2 has no health verdict on " + disk.name);
+}
+
+} // namespace
+
+SmartAnswer readFromUDisks(const BlockDevice& disk, const SmartSources& sources) {
+    if (!busAnswers(sources.serviceBus.empty() ? systemBusAddress() : sources.serviceBus,
+                    sources.serviceLimit))
+        return nothing("UDisks2 does not answer");
+    const UDisksBus bus(sources.serviceBus, sources.serviceLimit);
+    const std::optional<UDisksObjects> objects = bus.objects();
+    if (!objects)
+        return nothing("UDisks2 does not answer");
+    const std::optional<QDBusObjectPath> drive = driveOf(disk, *objects);
+    if (!drive || !objects->contains(*drive))
+        return nothing("UDisks2 knows no drive behind " + disk.name);
+    const UDisksInterfaces& interfaces = (*objects)[*drive];
+    for (const QString& interface : {nvmeInterface, ataInterface})
+        if (interfaces.contains(interface))
+            return readInterface(disk, bus, *drive, interface);
+    return nothing("UDisks2 has no health figures of " + disk.name);
+}
+
+} // namespace OndelCore::platform

@@ -1,0 +1,30 @@
+#include "OndelCore/platform/storage/Storage.h"
+
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <limits>
+
+namespace OndelCore::platform {
+
+std::optional<std::int64_t> freeBytes(int descriptor) {
+    struct statvfs facts {};
+    if (fstatvfs(descriptor, &facts) != 0)
+        return std::nullopt;
+    // Linux counts in fragments; f_bsize is larger on some FUSE and network file systems.
+    std::int64_t bytes = 0;
+    if (__builtin_mul_overflow(facts.f_bavail, facts.f_frsize, &bytes))
+        return std::numeric_limits<std::int64_t>::max();
+    return bytes;
+}
+
+// fsync(2) on Linux sends the drive's cache flush after the data.
+std::error_code flushToMedium(int descriptor) {
+    while (fsync(descriptor) != 0)
+        if (errno != EINTR)
+            return {errno, std::generic_category()};
+    return {};
+}
+
+} // namespace OndelCore::platform

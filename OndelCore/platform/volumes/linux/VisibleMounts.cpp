@@ -1,0 +1,210 @@
+#include "OndelCore/platform/volumes/VisibleMounts.h"
+
+#include "OndelCore/platform/volumes/FileSystemFacts.h"
+
+#include <sys/sysmacros.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace fs = std::filesystem;
+
+namespace OndelCore::platform {
+
+namespace {
+
+// Where the system, its packages and its containers mount things for themselves.
+constexpr std::array<std::string_view, 14> systemPlaces = {
+    "/proc",
+    "/sys",
+    "/dev",
+    "/run",
+    "/snap",
+    "/boot/efi",
+    "/efi",
+    "/var/snap",
+    "/var/lib/snapd",
+    "/var/lib/docker",
+    "/var/lib/containers",
+    "/var/lib/kubelet",
+    "/var/lib/flatpak",
+    "/var/lib/containerd",
+};
+constexpr std::array<std::string_view, 1> peoplesPlaces = {"/run/media"};
+
+// Where containers mount single files and folders of the host's file system for their own needs.
+constexpr std::array<std::string_view, 6> programPlaces = {"/etc", "/usr", "/bin", "/lib", "/lib64", "/sbin"};
+
+// FUSE programs of the desktop and the system that show no storage.
+constexpr std::array<std::string_view, 6> serviceTypes = {
+    "fuse.gvfsd-fuse", "fuse.portal", "fuse.lxcfs", "fuse.snapfuse", "fuse.veracrypt", "fuse.squashfuse"};
+
+// File systems that only ever hold a finished image.
+constexpr std::array<std::string_view, 4> imageTypes = {"squashfs", "erofs", "cramfs", "romfs"};
+
+template <typename Names>
+bool contains(const Names& names, std::string_view name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+bool isBelow(std::string_view path, std::string_view place) {
+    return path.starts_with(place) && (path.size() == place.size() || path[place.size()] == '/');
+}
+
+template <typename Places>
+bool isBelowAny(std::string_view path, const Places& places) {
+    return std::any_of(places.begin(), places.end(),
+                       [&](std::string_view place) { return isBelow(path, place); });
+}
+
+/// Which mounts can be reached by their mount points, and are not covered by others.
+class Reachability {
+public:
+    explicit Reachability(const std::vector<Mount>& mounts) {
+        std::unordered_set<std::uint64_t> covered;
+        for (const Mount& mount : mounts)
+            m_byId.emplace(mount.id, &mount);
+        for (const Mount& mount : mounts)
+            if (const Mount* const parent = parentOf(mount); parent && parent->mountPoint == mount.mountPoint)
+                covered.insert(parent->id);
+        for (const Mount& mount : mounts)
+            if (!covered.contains(mount.id))
+                m_top[mount.mountPoint.native()] = &mount;
+    }
+
+    bool isReachable(const Mount& mount) {
+        std::vector<const Mount*> chain;
+        bool result = true;
+        for (const Mount* next = &mount; next; next = mountBelow(*next)) {
+            if (const auto known = m_known.find(next); known != m_known.end()) {
+                result = known->second;
+                break;
+            }
+            chain.push_back(next);
+            m_known.emplace(next, false); // also ends a circle of damaged parent numbers
+            if (!isTop(*next) || !isOnTopOfBelow(*next)) {
+                result = false;
+                break;
+            }
+        }
+        for (const Mount* const one : chain)
+            m_known[one] = result;
+        return result;
+    }
+
+private:
+    /// Null for the topmost mount, which the kernel lists as its own parent or below one that is out of view.
+    const Mount* parentOf(const Mount& mount) const {
+        const auto found = m_byId.find(mount.parentId);
+        return found == m_byId.end() || mount.parentId == mount.id ? nullptr : found->second;
+    }
+    bool isTop(const Mount& mount) const {
+        const auto top = m_top.find(mount.mountPoint.native());
+        return top != m_top.end() && top->second == &mount;
+    }
+    /// The mount that a path lookup passes last before it comes to this mount point.
+    const Mount* mountBelow(const Mount& mount) const {
+        std::string_view path = mount.mountPoint.native();
+        while (path.size() > 1) {
+            path = path.substr(0, std::max<std::size_t>(path.find_last_of('/'), 1));
+            if (path.find_last_of('/') == std::string_view::npos)
+                return nullptr;
+            if (const auto top = m_top.find(std::string(path)); top != m_top.end())
+                return top->second;
+        }
+        return nullptr;
+    }
+    bool isOnTopOfBelow(const Mount& mount) const {
+        const Mount* const below = mountBelow(mount);
+        const Mount* parent = parentOf(mount);
+        for (std::size_t steps = 0; parent && parent->mountPoint == mount.mountPoint; ++steps) {
+            if (steps > m_byId.size())
+                return false;
+            parent = parentOf(*parent);
+        }
+        return !below || !parent || parent == below;
+    }
+
+    std::unordered_map<std::uint64_t, const Mount*> m_byId;
+    std::unordered_map<std::string, const Mount*> m_top;
+    std::unordered_map<const Mount*, bool> m_known;
+};
+
+bool isHiddenPlace(std::string_view mountPoint) {
+    if (isBelowAny(mountPoint, systemPlaces) && !isBelowAny(mountPoint, peoplesPlaces))
+        return true;
+    return mountPoint.find("/.") != std::string_view::npos;
+}
+
+bool isStorage(const Mount& mount, const std::string& type) {
+    if (contains(serviceTypes, mount.type) || mount.type.ends_with(".AppImage") || contains(imageTypes, type))
+        return false;
+    if (const FileSystemFacts* const facts = fileSystemFacts(type))
+        return facts->reach == FileSystemReach::device || facts->reach == FileSystemReach::network;
+    if (type == "fuse" || type.starts_with("fuse."))
+        return true;
+    return mount.source != "/dev/fuse" && (mount.source.starts_with("/dev/") || major(mount.device) != 0);
+}
+
+bool isVolume(const Mount& mount, const std::function<bool(const fs::path&)>& isFolder) {
+    const std::string& place = mount.mountPoint.native();
+    if (place == "/")
+        return true;
+    if (!place.starts_with('/'))
+        return false;
+    const std::string type = fileSystemTypeName(mount.type, mount.source);
+    if (!isStorage(mount, type) || isHiddenPlace(place) || (type == "vfat" && place == "/boot"))
+        return false;
+    const bool isForPrograms = isBelowAny(place, programPlaces);
+    if (isNetworkFileSystem(type))
+        return !isForPrograms;
+    return mount.root == "/" || (!isForPrograms && isFolder(mount.mountPoint));
+}
+
+/// What makes two mounts one volume: the same superblock, for ZFS the same pool. Two shares of a server may
+/// have one superblock and are two volumes all the same.
+std::string identity(const Mount& mount) {
+    if (mount.type == "zfs")
+        return "pool " + mount.source.substr(0, mount.source.find('/'));
+    const std::string number = std::to_string(mount.device);
+    return isNetworkFileSystem(fileSystemTypeName(mount.type, mount.source)) ? number + ' ' + mount.source
+                                                                             : number;
+}
+
+} // namespace
+
+std::vector<Mount> visibleMounts(std::vector<Mount> mounts,
+                                 const std::function<bool(const fs::path&)>& isFolder) {
+    Reachability reachability(mounts);
+    std::map<std::string, const Mount*> shortest;
+    for (const Mount& mount : mounts) {
+        if (!reachability.isReachable(mount) || !isVolume(mount, isFolder))
+            continue;
+        const Mount*& best = shortest[identity(mount)];
+        if (!best || mount.mountPoint.native().size() < best->mountPoint.native().size())
+            best = &mount;
+    }
+    std::unordered_set<const Mount*> chosen;
+    for (const auto& [volume, mount] : shortest)
+        chosen.insert(mount);
+    std::vector<Mount> visible;
+    for (Mount& mount : mounts)
+        if (chosen.contains(&mount))
+            visible.push_back(std::move(mount));
+    return visible;
+}
+
+std::vector<Mount> visibleMounts(std::vector<Mount> mounts) {
+    return visibleMounts(std::move(mounts), [](const fs::path& path) {
+        std::error_code failed;
+        return fs::is_directory(path, failed);
+    });
+}
+
+} // namespace OndelCore::platform

@@ -1,0 +1,211 @@
+#include "OndelDesktop/OpenRequests.h"
+
+#include "OndelDesktop/linux/ApplicationBusAdaptor.h"
+
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <utility>
+
+namespace OndelDesktop {
+
+namespace {
+
+const QString interface = QStringLiteral("org.freedesktop.Application");
+
+const QString activationToken = QStringLiteral("activation-token");
+const QString startupId = QStringLiteral("desktop-startup-id");
+
+/// For the bus itself, which answers at once or never.
+constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
+
+QDBusPendingCall askBus(const QDBusConnection& bus, const QString& method, const QVariantList& arguments) {
+    const QString service = QStringLiteral("org.freedesktop.DBus");
+    auto message =
+        QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/DBus"), service, method);
+    message.setArguments(arguments);
+    return bus.asyncCall(message, static_cast<int>(busPatience.count()));
+}
+
+/// Waits without holding up what else the event loop has to do.
+QDBusMessage answerTo(const QDBusPendingCall& call) {
+    const QDBusPendingCallWatcher watcher(call);
+    if (!watcher.isFinished()) {
+        QEventLoop loop;
+        QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    return watcher.reply();
+}
+
+/// Before a question is put again that has just been refused.
+void pause() {
+    QEventLoop loop;
+    QTimer::singleShot(std::chrono::milliseconds(20), &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+QVariantMap platformData(const OpenRequest& request) {
+    if (request.activationToken.empty())
+        return {};
+    const QString token = QString::fromStdString(request.activationToken);
+    return {{activationToken, token}, {startupId, token}};
+}
+
+std::string usable(std::string token) {
+    return token.size() <= OpenRequests::longestToken ? std::move(token) : std::string();
+}
+
+} // namespace
+
+ApplicationBusAdaptor::ApplicationBusAdaptor(const QDBusConnection& bus, const QString& name)
+    : m_bus(bus)
+    , m_name(name)
+    , m_path(u'/' + QString(name).replace(u'.', u'/')) {
+    // Before the name: whoever finds the name finds the object.
+    m_bus.registerObject(m_path, this, QDBusConnection::ExportScriptableSlots);
+    askForName();
+}
+
+void ApplicationBusAdaptor::askForName() {
+    constexpr uint doNotQueue = 4;
+    m_nameAnswer = askBus(m_bus, QStringLiteral("RequestName"), {m_name, doNotQueue});
+}
+
+bool ApplicationBusAdaptor::ownsName() {
+    constexpr uint exists = 3;
+    const QDBusMessage answer = m_nameAnswer ? answerTo(*m_nameAnswer) : QDBusMessage();
+    return answer.type() != QDBusMessage::ReplyMessage || answer.arguments().value(0).toUInt() != exists;
+}
+
+/// A list of more URLs than one message may have goes in several; the first has the token, which is good for
+/// once.
+std::vector<QDBusMessage> ApplicationBusAdaptor::messagesFor(const OpenRequest& request) const {
+    const auto call = [this](const QString& method, const QVariantList& arguments) {
+        auto message = QDBusMessage::createMethodCall(m_name, m_path, interface, method);
+        message.setArguments(arguments);
+        message.setAutoStartService(false);
+        return message;
+    };
+    if (!request.action.empty())
+        return {call(QStringLiteral("ActivateAction"),
+                     {QString::fromStdString(request.action), QVariantList(), platformData(request)})};
+    if (request.urls.empty())
+        return {call(QStringLiteral("Activate"), {platformData(request)})};
+    std::vector<QDBusMessage> messages;
+    QStringList urls;
+    for (const std::string& url : request.urls) {
+        urls.append(QString::fromStdString(url));
+        const bool isLast = &url == &request.urls.back();
+        if (!isLast && static_cast<std::size_t>(urls.size()) < OpenRequests::mostUrls)
+            continue;
+        messages.push_back(
+            call(QStringLiteral("Open"),
+                 {std::exchange(urls, {}), messages.empty() ? platformData(request) : QVariantMap()}));
+    }
+    return messages;
+}
+
+/// All are sent before the first is answered: whoever stands still has all of them when it wakes.
+QDBusError ApplicationBusAdaptor::send(const OpenRequest& request, std::chrono::milliseconds patience) {
+    std::vector<QDBusPendingCall> calls;
+    for (const QDBusMessage& message : messagesFor(request))
+        calls.push_back(m_bus.asyncCall(message, static_cast<int>(patience.count())));
+    QDBusError error;
+    for (const QDBusPendingCall& call : calls)
+        if (const QDBusError refusal(answerTo(call)); refusal.isValid())
+            error = refusal;
+    return error;
+}
+
+std::optional<std::uint32_t> ApplicationBusAdaptor::owner() {
+    const QDBusMessage answer =
+        answerTo(askBus(m_bus, QStringLiteral("GetConnectionUnixProcessID"), {m_name}));
+    return answer.type() == QDBusMessage::ReplyMessage ? std::optional(answer.arguments().value(0).toUInt())
+                                                       : std::nullopt;
+}
+
+void ApplicationBusAdaptor::deliverTo(OpenRequests::Take take) {
+    m_take = std::move(take);
+    for (const OpenRequest& request : std::exchange(m_early, {}))
+        m_take(request);
+}
+
+void ApplicationBusAdaptor::close() {
+    m_isClosed = true;
+    m_bus.unregisterObject(m_path);
+    askBus(m_bus, QStringLiteral("ReleaseName"), {m_name});
+}
+
+void ApplicationBusAdaptor::Activate(const QVariantMap& platformData) { accept({}, platformData); }
+
+void ApplicationBusAdaptor::Open(const QStringList& uris, const QVariantMap& platformData) {
+    constexpr qsizetype most = OpenRequests::mostUrls;
+    const QStringList taken = uris.size() > most ? uris.first(most / 2) + uris.last(most - most / 2) : uris;
+    OpenRequest request;
+    for (const QString& uri : taken)
+        request.urls.push_back(uri.toStdString());
+    accept(std::move(request), platformData);
+}
+
+void ApplicationBusAdaptor::ActivateAction(const QString& action, const QVariantList&,
+                                           const QVariantMap& platformData) {
+    accept({.urls = {}, .action = action.toStdString(), .activationToken = {}}, platformData);
+}
+
+void ApplicationBusAdaptor::accept(OpenRequest request, const QVariantMap& platformData) {
+    for (const QString& key : {activationToken, startupId})
+        if (request.activationToken.empty())
+            request.activationToken = usable(platformData.value(key).toString().toStdString());
+    if (m_isClosed)
+        sendErrorReply(QDBusError::ServiceUnknown, QStringLiteral("The application is ending."));
+    else if (!m_take)
+        m_early.push_back(std::move(request));
+    else if (!m_take(request))
+        sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("There is no such action."));
+}
+
+OpenRequests::OpenRequests(const std::string& applicationId) {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (bus.isConnected())
+        m_door = std::make_unique<ApplicationBusAdaptor>(bus, QString::fromStdString(applicationId));
+}
+
+OpenRequests::~OpenRequests() = default;
+
+std::string OpenRequests::activationTokenOfStart() {
+    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    return usable((token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token).toStdString());
+}
+
+HandOver OpenRequests::handOver(const OpenRequest& request, std::chrono::milliseconds patience) {
+    using Outcome = HandOver::Outcome;
+    const QDeadlineTimer end(patience);
+    // One that is just ending refuses; its name is then free for this process, unless a third one was faster.
+    while (m_door && !m_door->ownsName()) {
+        if (end.hasExpired())
+            return {Outcome::noAnswer, m_door->owner()};
+        const QDBusError refusal = m_door->send(request, std::chrono::milliseconds(end.remainingTime()));
+        if (!refusal.isValid() || refusal.type() == QDBusError::InvalidArgs)
+            return {Outcome::taken, {}};
+        pause();
+        m_door->askForName();
+    }
+    return {Outcome::nobodyElse, {}};
+}
+
+void OpenRequests::deliverTo(Take take) {
+    if (m_door)
+        m_door->deliverTo(std::move(take));
+}
+
+void OpenRequests::close() {
+    if (m_door)
+        m_door->close();
+}
+
+} // namespace OndelDesktop

@@ -1,0 +1,89 @@
+#include "OndelDesktop/StartupNotice.h"
+
+#include <xcb/xcb.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+
+namespace OndelDesktop {
+
+namespace {
+
+/// A connection of its own, since the toolkit's is not ours to write to.
+class XServer {
+public:
+    XServer()
+        : m_connection(xcb_connect(nullptr, nullptr), &xcb_disconnect) {
+        if (xcb_connection_has_error(get()) == 0)
+            m_root = xcb_setup_roots_iterator(xcb_get_setup(get())).data->root;
+    }
+
+    explicit operator bool() const { return m_root != XCB_WINDOW_NONE; }
+    xcb_connection_t* get() const { return m_connection.get(); }
+    xcb_window_t root() const { return m_root; }
+
+    xcb_atom_t atom(std::string_view name) const {
+        const auto asked = xcb_intern_atom(get(), 0, static_cast<std::uint16_t>(name.size()), name.data());
+        const std::unique_ptr<xcb_intern_atom_reply_t, void (*)(void*)> reply(
+            xcb_intern_atom_reply(get(), asked, nullptr), std::free);
+        return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    }
+
+    /// Returns when the server has done all that was asked of it.
+    void finish() const { std::free(xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr)); }
+
+private:
+    std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> m_connection;
+    xcb_window_t m_root = XCB_WINDOW_NONE;
+};
+
+/// A message to whoever shows starts: a text in pieces of 20 bytes with a NUL at its end, from a window that
+/// tells this message's pieces from another's.
+void broadcast(const XServer& server, const std::string& text) {
+    const xcb_window_t sender = xcb_generate_id(server.get());
+    xcb_create_window(server.get(), 0, sender, server.root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                      XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 8;
+    event.window = sender;
+    event.type = server.atom("_NET_STARTUP_INFO_BEGIN");
+    const xcb_atom_t next = server.atom("_NET_STARTUP_INFO");
+    for (std::size_t at = 0; at <= text.size(); at += sizeof event.data.data8) {
+        std::fill(std::begin(event.data.data8), std::end(event.data.data8), '\0');
+        text.copy(reinterpret_cast<char*>(event.data.data8), sizeof event.data.data8, at);
+        xcb_send_event(server.get(), 0, server.root(), XCB_EVENT_MASK_PROPERTY_CHANGE,
+                       reinterpret_cast<const char*>(&event));
+        event.type = next;
+    }
+    xcb_destroy_window(server.get(), sender);
+    server.finish();
+}
+
+std::string quoted(const std::string& value) {
+    std::string text = "\"";
+    for (const char c : value) {
+        if (c == '"' || c == '\\')
+            text += '\\';
+        text += c;
+    }
+    return text + '"';
+}
+
+} // namespace
+
+void completeStartup(const std::string& id, std::optional<std::uint32_t> window) {
+    if (id.empty())
+        return;
+    const XServer server;
+    if (!server)
+        return;
+    if (window)
+        xcb_change_property(server.get(), XCB_PROP_MODE_REPLACE, *window, server.atom("_NET_STARTUP_ID"),
+                            server.atom("UTF8_STRING"), 8, static_cast<std::uint32_t>(id.size()), id.data());
+    broadcast(server, "remove: ID=" + quoted(id));
+}
+
+} // namespace OndelDesktop

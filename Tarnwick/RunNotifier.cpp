@@ -1,0 +1,51 @@
+#include "Tarnwick/RunNotifier.h"
+
+#include "Tarnwick/Product.h"
+#include "TarnwickKit/model/format/Format.h"
+
+#include <QGuiApplication>
+#include <QStringList>
+#include <QWindow>
+
+#include <utility>
+
+using TarnwickKit::model::AnalyzerModel;
+using TarnwickKit::model::RunRecord;
+
+namespace Format = TarnwickKit::model::Format;
+
+RunNotifier::RunNotifier(AnalyzerModel& model, std::function<void(const std::string&)> comeToFront)
+    : m_model(model)
+    , m_notice(product::id, product::name, std::move(comeToFront)) {
+    connect(&model, &AnalyzerModel::phaseChanged, this, &RunNotifier::phaseChanged);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
+        if (window)
+            m_notice.withdraw();
+    });
+}
+
+void RunNotifier::phaseChanged() {
+    if (m_model.isRunning()) {
+        m_notice.withdraw();
+        m_awake.emplace(product::name, tr("A benchmark is running").toStdString());
+    } else if (m_awake) {
+        m_awake.reset();
+        if (!QGuiApplication::focusWindow())
+            tellOfEnd();
+    }
+}
+
+/// A run that was stopped needs no telling: somebody has just done it.
+void RunNotifier::tellOfEnd() {
+    if (m_model.phase() == AnalyzerModel::Phase::Failed)
+        m_notice.show(tr("Benchmark failed").toStdString(), m_model.failureMessage().toStdString());
+    if (m_model.phase() != AnalyzerModel::Phase::Done || !m_model.currentRun())
+        return;
+    const RunRecord& run = *m_model.currentRun();
+    QStringList facts{run.title()};
+    if (run.writeBps)
+        facts.append(tr("write %1").arg(Format::rate(*run.writeBps)));
+    if (run.readBps)
+        facts.append(tr("read %1").arg(Format::rate(*run.readBps)));
+    m_notice.show(tr("Benchmark complete").toStdString(), facts.join(QStringLiteral(" · ")).toStdString());
+}

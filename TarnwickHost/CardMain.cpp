@@ -1,0 +1,65 @@
+// tarnwick-host-card: draws the cards of tarnwick-host, which starts it. Usage: [--dark] RUNFILE…
+
+#include "TarnwickHost/Command.h"
+#include "TarnwickHost/Output.h"
+#include "TarnwickHost/RunFiles.h"
+#include "TarnwickKit/views/sharing/ComparisonImage.h"
+#include "TarnwickKit/views/sharing/ReportImage.h"
+#include "TarnwickKit/views/style/TarnwickFonts.h"
+
+#include <QGuiApplication>
+
+#include <array>
+#include <cstdlib>
+#include <exception>
+
+using namespace TarnwickHost;
+using namespace TarnwickKit;
+
+namespace {
+
+constexpr std::array options{Option{"--dark", "", ""}};
+
+/// The toolkit aborts when a part of it is not installed. People get its reason on one line instead.
+void explainFailure(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type != QtCriticalMsg && type != QtFatalMsg)
+        return;
+    complain("The picture could not be drawn: " + message.simplified().toStdString());
+    if (type == QtFatalMsg)
+        std::_Exit(failed);
+}
+
+int draw(const CommandLine& line) {
+    const auto runs = readRuns(line.operands());
+    if (runs.empty() || runs.size() != line.operands().size())
+        return failed;
+    const bool isDark = line.has("--dark");
+    views::TarnwickFonts::registerFrom();
+    const auto file =
+        runs.size() == 1
+            ? views::reportImage({runs.front()}, isDark)
+            : views::ComparisonImage::render(runs, isDark ? views::Palette::dark() : views::Palette::light());
+    if (!file) {
+        complain("The picture could not be drawn, or not be written to your temporary folder.");
+        return failed;
+    }
+    print(file->string() + '\n');
+    return done;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // No display is asked, also where there is one: it could not be reached, and would change nothing.
+    setenv("QT_QPA_PLATFORM", "offscreen", 0); // NOLINT(concurrency-mt-unsafe): no other thread runs yet
+    qInstallMessageHandler(explainFailure);
+    try {
+        const std::span<const char* const> words(argv, static_cast<std::size_t>(argc));
+        const CommandLine line(options, words.subspan(1));
+        const QGuiApplication application(argc, argv);
+        return draw(line);
+    } catch (const std::exception& error) {
+        complain(error.what());
+        return failed;
+    }
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "TarnwickHost/CommandLine.h"
+
+#include <span>
+#include <string_view>
+
+namespace TarnwickHost {
+
+enum ExitStatus : int { done = 0, failed = 1, wrongUsage = 2, interrupted = 130 };
+
+/// One thing that the program can do: "tarnwick-host NAME …". Each lives in a file of its own.
+struct Command {
+    std::string_view name;
+    std::string_view operands; ///< as the usage line shows them: "FOLDER"
+    std::string_view summary;  ///< for the list of commands, without a full stop
+    std::span<const Option> options;
+    std::string_view notes; ///< further lines for the command's --help; may be empty
+
+    /// Does it and answers the exit status.
+    /// Fails: a UsageError becomes one line and `wrongUsage`, any other exception its text and `failed`.
+    int (*execute)(const CommandLine& line);
+};
+
+extern const Command runCommand;
+extern const Command showCommand;
+extern const Command cardCommand;
+extern const Command factsCommand;
+extern const Command volumesCommand;
+extern const Command smartReportCommand;
+
+/// All commands, in the order in which --help lists them.
+std::span<const Command* const> commands();
+
+} // namespace TarnwickHost

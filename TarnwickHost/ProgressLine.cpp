@@ -1,0 +1,88 @@
+#include "TarnwickHost/ProgressLine.h"
+
+#include "TarnwickKit/model/format/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/format/Format.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace OndelCore::benchmark;
+using namespace TarnwickKit::model;
+
+namespace TarnwickHost {
+
+namespace {
+
+constexpr qsizetype titleColumns = 20;
+constexpr qsizetype leastBarColumns = 8;
+constexpr qsizetype mostBarColumns = 40;
+
+/// The right end of the line: how much is done, and how fast. Widths are kept so that nothing jumps about.
+struct Amount {
+    QString done;
+    QString rate;
+};
+
+Amount bytesAmount(const BenchmarkProgress& progress) {
+    QString done = Format::bytes(progress.completedBytes).rightJustified(10);
+    if (progress.totalBytes > 0)
+        done += " of " + Format::bytes(progress.totalBytes);
+    return {done, Format::rate(progress.instantBytesPerSecond).rightJustified(9)};
+}
+
+Amount operationsAmount(const BenchmarkProgress& progress, std::int64_t perOperation, const QString& unit) {
+    const std::int64_t completed = progress.completedBytes / perOperation;
+    const std::int64_t all = progress.totalBytes / perOperation;
+    const QString total = Format::grouped(static_cast<double>(all));
+    const double rate = progress.elapsed > 0 ? static_cast<double>(completed) / progress.elapsed : 0;
+    return {Format::grouped(static_cast<double>(completed)).rightJustified(total.size()) + " of " + total,
+            (Format::compact(rate) + ' ' + unit).rightJustified(12)};
+}
+
+Amount amountOf(const BenchmarkProgress& progress, const BenchmarkPlan& plan) {
+    switch (progress.test) {
+    case BenchmarkTest::randomRead:
+    case BenchmarkTest::randomWrite:
+        return operationsAmount(progress, BenchmarkPlan::alignedBlock(plan.randomBlockSize), "IOPS");
+    case BenchmarkTest::fileOps:
+        return operationsAmount(progress, 1, "ops/s");
+    case BenchmarkTest::sequentialWrite:
+    case BenchmarkTest::sequentialRead:
+        break;
+    }
+    return bytesAmount(progress);
+}
+
+QString bar(double fraction, qsizetype columns, bool unicode) {
+    const auto filled = static_cast<qsizetype>(fraction * static_cast<double>(columns));
+    const QChar full = unicode ? QChar(0x2501) : '#';
+    const QChar empty = unicode ? QChar(0x2500) : '.';
+    return QString(filled, full) + QString(columns - filled, empty);
+}
+
+} // namespace
+
+QString progressLine(const BenchmarkProgress& progress, const BenchmarkPlan& plan, LineStyle style) {
+    const qsizetype columns = std::max(style.columns, 0);
+    const Amount amount = amountOf(progress, plan);
+    QString line = title(progress.test, BenchmarkPlan::alignedBlock(plan.randomBlockSize));
+
+    if (progress.totalBytes > 0) {
+        const double fraction = std::clamp(static_cast<double>(progress.completedBytes) /
+                                               static_cast<double>(progress.totalBytes),
+                                           0.0, 1.0);
+        const QString percent = QString::number(static_cast<int>(fraction * 100)).rightJustified(3) + " %";
+        const qsizetype full =
+            titleColumns + 2 + percent.size() + 2 + amount.done.size() + 2 + amount.rate.size();
+        const qsizetype barColumns = std::min(columns - full - 2, mostBarColumns);
+        if (barColumns >= leastBarColumns)
+            line = line.leftJustified(titleColumns) + "  " + bar(fraction, barColumns, style.unicode);
+        line += "  " + percent;
+    }
+    for (const QString& piece : {amount.done, amount.rate})
+        if (line.size() + 2 + piece.size() <= columns)
+            line += "  " + piece;
+    return line.left(columns);
+}
+
+} // namespace TarnwickHost

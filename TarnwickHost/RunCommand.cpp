@@ -1,0 +1,179 @@
+#include "OndelCore/benchmark/BenchmarkEngine.h"
+#include "OndelCore/benchmark/BenchmarkError.h"
+#include "TarnwickHost/CardProgram.h"
+#include "TarnwickHost/Command.h"
+#include "TarnwickHost/HandOff.h"
+#include "TarnwickHost/Output.h"
+#include "TarnwickHost/ProgressBar.h"
+#include "TarnwickHost/ResultJson.h"
+#include "TarnwickHost/ResultTable.h"
+#include "TarnwickHost/RunEventLoop.h"
+#include "TarnwickHost/RunOptions.h"
+#include "TarnwickKit/model/format/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/session/AnalyzerModel.h"
+
+#include <QJsonDocument>
+
+#include <chrono>
+#include <filesystem>
+#include <optional>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+using namespace OndelCore::benchmark;
+using TarnwickKit::model::AnalyzerModel;
+
+namespace TarnwickHost {
+
+namespace {
+
+/// Removes what killed runs left in the folder. What is in use is waited for, but not long: a run that goes
+/// on there can take hours.
+void sweep(const std::filesystem::path& folder) {
+    constexpr std::chrono::seconds patience{1};
+    if (BenchmarkEngine::cleanupOrphans(folder, patience) > 0)
+        complain("Files of another run in this folder are in use and were not removed.");
+}
+
+/// One line for each flush to the medium that failed; the figures do not show it.
+void complainOfFlushes(const RunOptions& options, const BenchmarkResult& result) {
+    const std::int64_t block = BenchmarkPlan::alignedBlock(options.plan.randomBlockSize);
+    for (const FlushFailure& failure : result.flushFailures()) {
+        const QString after =
+            failure.test ? TarnwickKit::model::title(*failure.test, block) : QString("Preparation");
+        complain(after.toStdString() + ": the flush to the medium failed (" + failure.error.message() +
+                 "); not all that was written may be there.");
+    }
+}
+
+/// Runs to the end what `options` ask for. Fails: as BenchmarkEngine::run.
+BenchmarkResult measured(const RunOptions& options) {
+    RunEventLoop watch;
+    std::stop_source stop;
+    std::optional<ProgressBar> bar;
+    BenchmarkEngine::Progress progress;
+    if (ProgressBar::isPossible()) {
+        bar.emplace(options.plan);
+        progress = [&bar](const BenchmarkProgress& latest) { bar->note(latest); };
+    }
+
+    // Not takeResult: in Qt 6.4 it returns the shared state to "unfinished" while the promise still lives.
+    QFuture<BenchmarkResult> run =
+        BenchmarkEngine()
+            .run(options.plan, options.folder, progress, stop.get_token())
+            .then([mark = watch.takeEndMark()](const QFuture<BenchmarkResult>& finished) mutable {
+                mark.reset();
+                return finished.result();
+            });
+    constexpr int frameMilliseconds = 100;
+    for (;;) {
+        switch (watch.wait(bar ? frameMilliseconds : -1)) {
+        case RunEventLoop::Event::ended:
+            return run.result();
+        case RunEventLoop::Event::terminationRequested:
+            stop.request_stop();
+            [[fallthrough]];
+        case RunEventLoop::Event::frameDue:
+            if (bar)
+                bar->draw(stop.stop_requested());
+        }
+    }
+}
+
+/// Where a run's files lie.
+struct Files {
+    std::optional<std::filesystem::path> run;
+    std::optional<std::filesystem::path> card;
+};
+
+/// Writes what `options` ask for. A file that cannot be made gets a line on standard error and is absent.
+Files written(const RunOptions& options, const HandOff& handOff, const BenchmarkResult& result) {
+    Files files{.run = handOff.write(options.plan, result), .card = std::nullopt};
+    if (!files.run) {
+        complain("The run file could not be written to your temporary folder.");
+        return files;
+    }
+    if (options.card) {
+        std::vector<std::string> arguments{"--", *files.run};
+        if (options.card == CardColors::dark)
+            arguments.insert(arguments.begin(), "--dark");
+        const CardAnswer answer = drawCard(arguments);
+        if (answer.status == done)
+            files.card = answer.output.substr(0, answer.output.find('\n'));
+    }
+    if (!options.handOff) {
+        std::error_code ignored;
+        std::filesystem::remove(*files.run, ignored);
+        files.run.reset();
+    }
+    return files;
+}
+
+std::string json(const RunOptions& options, const BenchmarkResult& result, const Files& files) {
+    QJsonObject object = resultJson(options.plan, result);
+    const auto insert = [&](const char* key, const std::optional<std::filesystem::path>& file) {
+        if (file)
+            object.insert(QLatin1String(key), QString::fromStdString(file->string()));
+    };
+    insert("handoffFile", files.run);
+    insert("cardFile", files.card);
+    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + '\n';
+}
+
+std::string text(const RunOptions& options, const BenchmarkResult& result, const Files& files) {
+    std::string lines = resultTable(options.plan, result).toStdString();
+    if (files.run || files.card)
+        lines += '\n';
+    for (const auto& file : {files.run, files.card})
+        if (file)
+            lines += file->string() + '\n';
+    return lines;
+}
+
+int executeRun(const CommandLine& line) {
+    const RunOptions options = runOptions(line);
+    requireStandardOutput();
+    BenchmarkResult result;
+    std::optional<HandOff> handOff;
+    try {
+        sweep(options.folder);
+        if (options.handOff || options.card)
+            handOff.emplace(options.folder);
+        result = measured(options);
+    } catch (const Cancelled&) {
+        return interrupted;
+    } catch (const std::exception& error) {
+        complain(AnalyzerModel::describe(error).toStdString());
+        return failed;
+    }
+    complainOfFlushes(options, result);
+    const Files files = handOff ? written(options, *handOff, result) : Files();
+    print(options.json ? json(options, result, files) : text(options, result, files));
+    const bool isWhole =
+        options.handOff == files.run.has_value() && options.card.has_value() == files.card.has_value();
+    return isWhole ? done : failed;
+}
+
+} // namespace
+
+const Command runCommand{.name = "run",
+                         .operands = "FOLDER",
+                         .summary = "Measure the file system that holds FOLDER",
+                         .options = runOptionTable(),
+                         .notes = R"(
+BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
+whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
+blocks of the sequential tests: the window takes the "Optimal transfer" that "facts" shows.
+
+Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
+run left behind in FOLDER is removed before the start; files that are still in use stay, after a second's wait.
+
+A run file and a picture stay until your session ends, or until the system empties its temporary folder. When one
+cannot be written, the figures are printed all the same and the run counts as failed.
+
+Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.
+)",
+                         .execute = &executeRun};
+
+} // namespace TarnwickHost

@@ -1,0 +1,148 @@
+#include "TarnwickHost/RunOptions.h"
+
+#include "TarnwickHost/Folder.h"
+#include "TarnwickHost/Numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <limits>
+#include <set>
+#include <string>
+#include <system_error>
+
+using OndelCore::benchmark::allBenchmarkTests;
+using OndelCore::benchmark::BenchmarkPlan;
+using OndelCore::benchmark::BenchmarkSize;
+using OndelCore::benchmark::BenchmarkTest;
+
+namespace TarnwickHost {
+
+namespace {
+
+/// The window's own interval, so that peak and lowest rates of both can be compared.
+constexpr double defaultSampleIntervalSeconds = 0.02;
+
+// Beyond these a run could only end by exhausting the machine, and a killed run leaves its files behind.
+constexpr Range sizeRange{0, std::int64_t{1} << 60};
+constexpr Range blockRange{std::numeric_limits<std::int64_t>::min(), std::int64_t{1} << 30};
+constexpr Range randomOpRange{0, 1'000'000'000};
+constexpr Range fileOpRange{0, 1'000'000};
+
+constexpr std::array options{
+    Option{"--tests", "A,B",
+           "Tests to run, always in this order: sequentialWrite, sequentialRead,\n"
+           "randomRead, randomWrite, fileOps (default: all)"},
+    Option{"--size", "BYTES|fill", "Size of the data file, or fill the disk (default: 5GiB)"},
+    Option{"--leave-free", "BYTES", "What --size fill leaves free (default: 1GiB)"},
+    Option{"--write-block", "BYTES", "Bytes per call, sequential write (default: 1MiB)"},
+    Option{"--read-block", "BYTES", "Bytes per call, sequential read (default: 1MiB)"},
+    Option{"--random-block", "BYTES", "Bytes per random operation (default: 4KiB)"},
+    Option{"--random-ops", "N", "Operations in each random test (default: 10000)"},
+    Option{"--file-ops", "N", "Files in the file-operations test (default: 1000)"},
+    Option{"--cached", "", "Let the system cache the data file, as ordinary programs do"},
+    Option{"--sample-interval", "S", "Least seconds between two samples (default: 0.02)"},
+    Option{"--json", "", "Print one JSON object: the plan, every figure, every sample"},
+    Option{"--handoff", "",
+           "Write a run file for the window and for \"show\", and print its path\n"
+           "as the last line; with --json: as \"handoffFile\" in the object"},
+    Option{"--card", "light|dark",
+           "Draw a picture of the run to share, in light or dark colours, and\n"
+           "print its path as the last line; with --json: as \"cardFile\""},
+};
+
+std::set<BenchmarkTest> parsedTests(std::string_view list) {
+    std::set<BenchmarkTest> tests;
+    for (std::size_t start = 0; start <= list.size();) {
+        const std::size_t end = std::min(list.find(',', start), list.size());
+        const std::string_view name = list.substr(start, end - start);
+        const auto test = OndelCore::benchmark::benchmarkTest(name);
+        if (!test) {
+            std::string known;
+            for (const BenchmarkTest each : allBenchmarkTests)
+                known.append(known.empty() ? "" : ", ").append(rawValue(each));
+            throw UsageError("--tests: there is no test " + quoted(name) + ", only " + known);
+        }
+        tests.insert(*test);
+        start = end + 1;
+    }
+    return tests;
+}
+
+BenchmarkSize parsedSize(const CommandLine& line) {
+    const auto size = line.value("--size");
+    const auto leaveFree = line.value("--leave-free");
+    if (size == "fill")
+        return BenchmarkSize::fillDisk(leaveFree ? byteCount("--leave-free", *leaveFree, sizeRange)
+                                                 : BenchmarkSize::defaultLeaveFree);
+    if (leaveFree)
+        throw UsageError("--leave-free goes with --size fill only");
+    return size ? BenchmarkSize::fixed(byteCount("--size", *size, sizeRange)) : BenchmarkPlan().size;
+}
+
+BenchmarkPlan parsedPlan(const CommandLine& line) {
+    BenchmarkPlan plan;
+    const auto bytes = [&](std::string_view option, std::int64_t& block) {
+        if (const auto text = line.value(option))
+            block = byteCount(option, *text, blockRange);
+    };
+    const auto count = [&](std::string_view option, Range range, std::int64_t& number) {
+        if (const auto text = line.value(option))
+            number = wholeNumber(option, *text, range);
+    };
+    if (const auto tests = line.value("--tests"))
+        plan.tests = parsedTests(*tests);
+    plan.size = parsedSize(line);
+    bytes("--write-block", plan.writeBlockSize);
+    bytes("--read-block", plan.readBlockSize);
+    bytes("--random-block", plan.randomBlockSize);
+    count("--random-ops", randomOpRange, plan.randomOpCount);
+    count("--file-ops", fileOpRange, plan.fileOpCount);
+    plan.bypassCache = !line.has("--cached");
+    plan.sampleInterval = defaultSampleIntervalSeconds;
+    if (const auto interval = line.value("--sample-interval"))
+        plan.sampleInterval = seconds("--sample-interval", *interval);
+    return plan;
+}
+
+std::optional<CardColors> parsedCard(const CommandLine& line) {
+    const auto colors = line.value("--card");
+    if (!colors)
+        return std::nullopt;
+    if (colors != "light" && colors != "dark")
+        throw UsageError("--card is light or dark, not " + quoted(*colors));
+    return colors == "dark" ? CardColors::dark : CardColors::light;
+}
+
+std::filesystem::path parsedFolder(const CommandLine& line) {
+    if (line.operands().empty())
+        throw UsageError("a FOLDER to measure is missing");
+    if (line.operands().size() > 1)
+        throw UsageError("one FOLDER at a time, not also " + quoted(line.operands().at(1)));
+    const std::string_view folder = line.operands().front();
+    if (folder.empty())
+        throw UsageError("the FOLDER's name is empty");
+
+    const auto [error, isFolder] = look(folder);
+    if (error == 0 && !isFolder)
+        throw UsageError(quoted(folder) + " is not a folder");
+    if (error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP)
+        throw UsageError(quoted(folder) + ": " + std::generic_category().message(error));
+    return folder;
+}
+
+} // namespace
+
+std::span<const Option> runOptionTable() { return options; }
+
+RunOptions runOptions(const CommandLine& line) {
+    RunOptions run;
+    run.plan = parsedPlan(line);
+    run.folder = parsedFolder(line);
+    run.json = line.has("--json");
+    run.handOff = line.has("--handoff");
+    run.card = parsedCard(line);
+    return run;
+}
+
+} // namespace TarnwickHost

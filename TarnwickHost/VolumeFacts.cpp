@@ -1,0 +1,147 @@
+#include "TarnwickHost/VolumeFacts.h"
+
+#include "TarnwickKit/model/format/Format.h"
+
+#include <array>
+
+using namespace OndelCore::volumes;
+using TarnwickKit::model::DriveIdentity;
+namespace Format = TarnwickKit::model::Format;
+
+namespace TarnwickHost {
+
+namespace {
+
+struct Feature {
+    const char* name;
+    const char* label;
+    Capability VolumeCapabilities::*field;
+};
+constexpr std::array features = {
+    Feature{"isCaseSensitive", "Case-sensitive", &VolumeCapabilities::isCaseSensitive},
+    Feature{"isCasePreserving", "Case-preserving", &VolumeCapabilities::isCasePreserving},
+    Feature{"supportsSparseFiles", "Sparse files", &VolumeCapabilities::supportsSparseFiles},
+    Feature{"supportsHardLinks", "Hard links", &VolumeCapabilities::supportsHardLinks},
+    Feature{"supportsSymbolicLinks", "Symbolic links", &VolumeCapabilities::supportsSymbolicLinks},
+    Feature{"supportsExtendedAttributes", "Extended attributes",
+            &VolumeCapabilities::supportsExtendedAttributes},
+    Feature{"supportsNamedStreams", "Named streams", &VolumeCapabilities::supportsNamedStreams},
+    Feature{"supportsExtendedSecurity", "Access control lists",
+            &VolumeCapabilities::supportsExtendedSecurity},
+    Feature{"supportsCloning", "Cloning", &VolumeCapabilities::supportsCloning},
+    Feature{"supportsSnapshots", "Snapshots", &VolumeCapabilities::supportsSnapshots},
+    Feature{"supportsJournal", "Journal", &VolumeCapabilities::supportsJournal},
+    Feature{"isJournalActive", "Journal active", &VolumeCapabilities::isJournalActive},
+    Feature{"isSealed", "Sealed", &VolumeCapabilities::isSealed},
+};
+
+QString pathText(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
+QString yesOrNo(bool value) { return value ? "yes" : "no"; }
+QString answerText(Capability capability) {
+    return capability.isKnown() ? yesOrNo(bool{capability}) : QString("not known");
+}
+
+/// Every byte of a name comes back out of it, be it text or not.
+QString urlText(const std::filesystem::path& path) {
+    return "file://" + QString::fromLatin1(QByteArray::fromStdString(path.native()).toPercentEncoding("/"));
+}
+
+void add(QJsonObject& object, const char* name, const std::optional<QString>& text) {
+    if (text)
+        object.insert(QLatin1String(name), *text);
+}
+
+void add(QJsonObject& object, const char* name, const std::optional<std::int64_t>& number) {
+    if (number)
+        object.insert(QLatin1String(name), qint64{*number});
+}
+
+QString numberText(const std::optional<std::int64_t>& number) {
+    return number ? QString::number(*number) : QString("--");
+}
+
+} // namespace
+
+QJsonObject volumeJson(const VolumeInfo& volume) {
+    QJsonObject object{{"name", volume.name},
+                       {"format", volume.format},
+                       {"total", qint64{volume.total}},
+                       {"available", qint64{volume.available}},
+                       {"rawAvailable", qint64{volume.rawAvailable}},
+                       {"isInternal", volume.isInternal},
+                       {"isRemovable", volume.isRemovable},
+                       {"isReadOnly", volume.isReadOnly},
+                       {"isEncrypted", volume.isEncrypted},
+                       {"used", qint64{volume.used()}},
+                       {"purgeable", qint64{volume.purgeable()}},
+                       {"usedFraction", volume.usedFraction()},
+                       {"connection", volume.connection()}};
+    if (volume.volumeURL)
+        object.insert("volumeURL", urlText(*volume.volumeURL));
+    if (volume.device)
+        object.insert("device", QString::fromStdString(*volume.device));
+    return object;
+}
+
+QJsonObject capabilitiesJson(const VolumeCapabilities& capabilities) {
+    QJsonObject object{{"filesystemType", capabilities.filesystemType},
+                       {"blockSize", qint64{capabilities.blockSize}}};
+    if (capabilities.optimalIOSize > 0)
+        object.insert("optimalIOSize", qint64{capabilities.optimalIOSize});
+    add(object, "maxNameLength", capabilities.maxNameLength);
+    add(object, "maxPathLength", capabilities.maxPathLength);
+    add(object, "maxLinkCount", capabilities.maxLinkCount);
+    for (const Feature& feature : features)
+        if (const Capability capability = capabilities.*feature.field; capability.isKnown())
+            object.insert(QLatin1String(feature.name), bool{capability});
+    return object;
+}
+
+QJsonObject driveJson(const DriveIdentity& drive) {
+    QJsonObject object;
+    add(object, "model", drive.model);
+    add(object, "protocolName", drive.protocolName);
+    return object;
+}
+
+QJsonObject mountedVolumeJson(const MountedVolume& volume) {
+    QJsonObject object{{"url", urlText(volume.url)},      {"name", volume.name},
+                       {"format", volume.format},         {"filesystemType", volume.filesystemType},
+                       {"isInternal", volume.isInternal}, {"isRemovable", volume.isRemovable}};
+    add(object, "total", volume.total);
+    return object;
+}
+
+std::vector<TextRow> volumeRows(const VolumeInfo& volume) {
+    return {{"Name", volume.name},
+            {"Format", volume.format},
+            {"Capacity", Format::bytes(volume.total)},
+            {"Available", Format::bytes(volume.available)},
+            {"Used",
+             Format::bytes(volume.used()) + QString(" (%1 %)").arg(volume.usedFraction() * 100.0, 0, 'f', 0)},
+            {"Connection", volume.connection()},
+            {"Read-only", yesOrNo(volume.isReadOnly)},
+            {"Encrypted", yesOrNo(volume.isEncrypted)},
+            {"Mounted at", volume.volumeURL ? pathText(*volume.volumeURL) : QString("--")},
+            {"Device", volume.device ? QString::fromStdString(*volume.device) : QString("--")}};
+}
+
+std::vector<TextRow> capabilityRows(const VolumeCapabilities& capabilities) {
+    std::vector<TextRow> rows{{"Type", capabilities.filesystemType},
+                              {"Block size", Format::bytes(capabilities.blockSize)},
+                              {"Optimal transfer", capabilities.optimalIOSize > 0
+                                                       ? Format::bytes(capabilities.optimalIOSize)
+                                                       : QString("--")},
+                              {"Longest name", numberText(capabilities.maxNameLength)},
+                              {"Longest path", numberText(capabilities.maxPathLength)},
+                              {"Most links", numberText(capabilities.maxLinkCount)}};
+    for (const Feature& feature : features)
+        rows.push_back({feature.label, answerText(capabilities.*feature.field)});
+    return rows;
+}
+
+std::vector<TextRow> driveRows(const DriveIdentity& drive) {
+    return {{"Model", drive.model.value_or("--")}, {"Attached by", drive.protocolName.value_or("--")}};
+}
+
+} // namespace TarnwickHost

@@ -1,0 +1,95 @@
+#include "TarnwickKit/model/format/DisplayText.h"
+
+#include <QList>
+#include <QTextBoundaryFinder>
+
+#include <unicode/uchar.h>
+
+namespace TarnwickKit::model {
+
+namespace {
+
+constexpr char32_t mark = QChar::ReplacementCharacter;
+constexpr char32_t zeroWidthNonJoiner = 0x200C; // Persian and Indic scripts need it
+constexpr char32_t zeroWidthJoiner = 0x200D;    // as emoji do this one
+constexpr char32_t emojiSelector = 0xFE0F;
+constexpr qsizetype longestCharacter = 32; // UTF-16 units; the longest emoji has 15
+
+bool isHarmless(char32_t character) {
+    switch (QChar::category(character)) {
+    case QChar::Other_Format:
+        return character == zeroWidthNonJoiner || character == zeroWidthJoiner;
+    case QChar::Other_Control:
+    case QChar::Other_Surrogate:
+    case QChar::Other_NotAssigned:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return false;
+    default:
+        return true;
+    }
+}
+
+int columnsOf(char32_t character) {
+    const auto point = static_cast<UChar32>(character);
+    switch (u_charType(point)) {
+    case U_NON_SPACING_MARK:
+    case U_ENCLOSING_MARK:
+    case U_FORMAT_CHAR:
+        return character == emojiSelector ? 1 : 0; // it may widen the symbol before it
+    default:
+        break;
+    }
+    const int width = u_getIntPropertyValue(point, UCHAR_EAST_ASIAN_WIDTH);
+    return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
+}
+
+} // namespace
+
+QString harmless(const QString& text) {
+    QString shown;
+    for (const char32_t character : text.toUcs4())
+        shown += QChar::fromUcs4(isHarmless(character) ? character : mark);
+    return shown;
+}
+
+int columnsOf(const QString& text) {
+    int columns = 0;
+    for (const char32_t character : text.toUcs4())
+        columns += columnsOf(character);
+    return columns;
+}
+
+QString fitted(const QString& text, int columns) {
+    const qsizetype most = longestCharacter * (columns + 1);
+    const QString shown = harmless(text.left(most));
+    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, shown);
+    QString line;
+    qsizetype endBeforeMark = 0;
+    bool isCut = text.size() > most;
+    int used = 0;
+    for (qsizetype begin = 0, end = 0; (end = boundaries.toNextBoundary()) != -1; begin = end) {
+        const bool isHeap = end - begin > longestCharacter;
+        const QString character =
+            isHeap ? QString(QChar::ReplacementCharacter) : shown.mid(begin, end - begin);
+        used += columnsOf(character);
+        if (used > columns) {
+            isCut = true;
+            break;
+        }
+        line += character;
+        if (used < columns)
+            endBeforeMark = line.size();
+    }
+    return isCut ? line.left(endBeforeMark) + QChar(0x2026) : line;
+}
+
+std::string quoted(std::string_view typed) {
+    constexpr qsizetype longest = 200;
+    QString text = QString::fromUtf8(typed);
+    if (text.size() > longest)
+        text = text.first(longest) + QChar(0x2026);
+    return "'" + harmless(text).toStdString() + "'";
+}
+
+} // namespace TarnwickKit::model

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "TarnwickKit/model/runs/RunRecord.h"
+
+#include <QString>
+
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace TarnwickKit::model {
+
+/// One figure by which runs are compared.
+struct CompareMetric {
+    QString label;
+    QString unit;
+    std::optional<double> RunRecord::*magnitude; ///< in its raw unit
+    QString (*format)(double);
+
+    /// All of them, in the order to show them.
+    static const std::array<CompareMetric, 5>& all();
+};
+
+/// What the comparison of some runs shows, without its drawing.
+namespace ComparisonChart {
+
+/// The metrics for which at least one run has a figure.
+std::vector<CompareMetric> activeMetrics(const std::vector<RunRecord>& runs);
+
+/// One run's line in a metric's group.
+struct Bar {
+    std::optional<double> length; ///< points; absent is an empty track
+    QString text;                 ///< "--" where the run has no figure
+
+    bool operator==(const Bar&) const = default;
+};
+/// A metric's bars, one per run, on a scale of its own: the largest figure fills the track. A bar is never
+/// shorter than 3 points. Units: `trackWidth` in points.
+std::vector<Bar> bars(const CompareMetric& metric, const std::vector<RunRecord>& runs, double trackWidth);
+
+/// The run's volume and settings in one line; empty if it tells none of them.
+QString parameterSummary(const RunRecord& run);
+
+} // namespace ComparisonChart
+
+} // namespace TarnwickKit::model

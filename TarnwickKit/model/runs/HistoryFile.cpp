@@ -1,0 +1,347 @@
+#include "TarnwickKit/model/runs/HistoryFile.h"
+
+#include "OndelCore/logging/Log.h"
+#include "OndelCore/platform/storage/FileLock.h"
+#include "OndelCore/platform/storage/ReadFile.h"
+#include "OndelCore/platform/storage/ReplaceFile.h"
+#include "TarnwickKit/model/runs/JsonWriter.h"
+#include "TarnwickKit/model/runs/RunRecordFields.h"
+#include "TarnwickKit/model/runs/RunRecordJson.h"
+#include "TarnwickKit/model/runs/ThinnedCurve.h"
+
+#include <QByteArray>
+#include <QDateTime>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <string_view>
+#include <utility>
+
+namespace TarnwickKit::model {
+
+namespace fs = std::filesystem;
+
+using OndelCore::logging::Log;
+using OndelCore::logging::LogField;
+using OndelCore::platform::FileLock;
+using Runs = HistoryFile::Runs;
+
+namespace {
+
+constexpr const char* unreadablePrefix = "history.unreadable-";
+constexpr std::size_t unreadableFilesKept = 3;
+/// What a run file names of a person's machine is nobody else's business.
+constexpr auto ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
+
+/// Where a file that is written through symbolic links lies, or would lie.
+fs::path followed(fs::path path) {
+    constexpr int mostLinks = 40; // as the kernel's
+    for (int link = 0; link < mostLinks; ++link) {
+        std::error_code isNoLink;
+        const fs::path target = fs::read_symlink(path, isNoLink);
+        if (isNoLink)
+            break;
+        path = path.parent_path() / target;
+    }
+    return path;
+}
+
+fs::path lockOf(const fs::path& file) { return fs::path(file) += ".lock"; }
+
+// --- Reading
+
+/// Whether reading again would answer the same: what lies there is no history that this user can read.
+bool isFinal(const std::error_code& error) {
+    constexpr std::array finalErrors{std::errc::not_supported, std::errc::file_too_large,
+                                     std::errc::permission_denied, std::errc::operation_not_permitted,
+                                     std::errc::no_such_device_or_address};
+    return std::ranges::any_of(finalErrors, [&](std::errc each) { return error == each; });
+}
+
+// --- Deletions
+
+/// The ids that the lock's file names as deleted: the last line of an id counts, '-' for deleted and '+' for
+/// there again. A line that is cut off or garbled is passed over.
+class Deletions {
+public:
+    explicit Deletions(fs::path file)
+        : m_file(std::move(file)) {
+        const auto text = OndelCore::platform::readRegularFile(m_file, mostBytes);
+        m_exists = text.has_value();
+        m_size = text ? text->size() : 0;
+        for (std::string_view rest = text ? *text : std::string_view(); rest.size() >= lineLength;) {
+            const std::size_t end = rest.find('\n');
+            takeLine(rest.substr(0, end));
+            rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+        }
+    }
+
+    const std::set<QUuid>& ids() const { return m_ids; }
+
+    /// Fails: silently.
+    void note(const std::set<QUuid>& deleted, const Runs& present) {
+        std::string lines;
+        for (const QUuid& id : deleted)
+            if (std::ranges::find(present, id, &RunRecord::id) == present.end())
+                lines += line('-', id);
+        for (const RunRecord& run : present)
+            if (m_ids.contains(run.id))
+                lines += line('+', run.id);
+        if (lines.empty() || !m_exists)
+            return;
+        if (m_size < usualBytes)
+            std::ofstream(m_file, std::ios::app | std::ios::binary) << lines;
+        else
+            std::ofstream(m_file, std::ios::trunc | std::ios::binary) << newestLines() << lines;
+    }
+
+private:
+    static constexpr std::size_t lineLength = 38; // a sign, an id and the line's end
+    static constexpr std::size_t usualBytes = 1000 * lineLength;
+    static constexpr std::size_t mostBytes = 10 * usualBytes;
+
+    static std::string line(char sign, const QUuid& id) {
+        return sign + id.toString(QUuid::WithoutBraces).toStdString() + '\n';
+    }
+    void takeLine(std::string_view text) {
+        const QUuid id =
+            text.size() == lineLength - 1 ? QUuid::fromString(QString::fromLatin1(text.substr(1))) : QUuid();
+        if (id.isNull())
+            return;
+        if (text.front() == '-')
+            m_ids.insert(id);
+        else
+            m_ids.erase(id);
+    }
+    /// What is deleted longest is forgotten: who still holds it has not saved for hundreds of deletions.
+    std::string newestLines() const {
+        const std::string text = OndelCore::platform::readRegularFile(m_file, mostBytes).value_or("");
+        const std::size_t begin = text.find('\n', text.size() - std::min(text.size(), usualBytes / 2));
+        return begin == std::string::npos ? std::string() : text.substr(begin + 1);
+    }
+
+    fs::path m_file;
+    bool m_exists = false;
+    std::size_t m_size = 0;
+    std::set<QUuid> m_ids;
+};
+
+// --- Merging
+
+/// The list of the file is what counts; of `mine` comes in what it lacks, each run behind the one that it
+/// follows in `mine`.
+Runs merged(Runs runs, const Runs& mine, const HistoryChanges& changes,
+            const std::set<QUuid>& deletedElsewhere) {
+    std::erase_if(runs, [&](const RunRecord& run) { return changes.deleted.contains(run.id); });
+    std::size_t place = 0;
+    for (const RunRecord& run : mine) {
+        const auto found = std::ranges::find(runs, run.id, &RunRecord::id);
+        if (found != runs.end()) {
+            if (changes.renamed.contains(run.id))
+                found->customTitle = run.customTitle;
+            place = static_cast<std::size_t>(found - runs.begin()) + 1;
+        } else if (!deletedElsewhere.contains(run.id) || changes.added.contains(run.id)) {
+            runs.insert(runs.begin() + static_cast<std::ptrdiff_t>(place++), run);
+        }
+    }
+    return runs;
+}
+
+// --- Writing
+
+/// What the JSON of a record's field takes at the least.
+std::size_t leastLength(const QString& text) { return static_cast<std::size_t>(text.size()); }
+std::size_t leastLength(const std::vector<RunSample>& samples) {
+    return samples.size() * std::string_view(R"({"t":0,"v":0})").size();
+}
+std::size_t leastLength(const std::optional<QString>& text) { return text ? leastLength(*text) : 0; }
+std::size_t leastLength(const auto&) { return 0; }
+
+std::size_t leastLength(const RunRecord& run) {
+    std::size_t sum = 0;
+    visitFields(run, [&](std::string_view, const auto& field) { sum += leastLength(field); });
+    return sum;
+}
+
+/// The JSON of a run if it has one of at most `most` bytes. One that is far larger costs nothing.
+std::optional<QByteArray> encodedWithin(std::size_t most, const RunRecord& run) {
+    if (leastLength(run) > most)
+        return std::nullopt;
+    auto json = encodeRun(run);
+    return json && static_cast<std::size_t>(json->size()) <= most ? json : std::nullopt;
+}
+
+RunRecord withThinnedCurves(RunRecord run) {
+    run.writeSamples = thinned(run.writeSamples);
+    run.readSamples = thinned(run.readSamples);
+    return run;
+}
+
+/// A JSON array of what `form` makes of each run. Fails: absent as soon as it is too long for the file.
+template <typename Form>
+std::optional<QByteArray> arrayOf(const Runs& runs, Form form) {
+    JsonWriter json;
+    json.beginArray();
+    for (const RunRecord& run : runs) {
+        if (const std::optional<QByteArray> text = form(run))
+            json.raw(*text);
+        if (static_cast<std::size_t>(json.json().size()) >= maxRunFileBytes)
+            return std::nullopt;
+    }
+    json.endArray();
+    return json.json();
+}
+
+/// The file never grows beyond what can be read again. A run that has no JSON form is left out rather than
+/// cost the others their place. Imported runs can be large, and where all of them together are too large for
+/// the file, those above an even share of it go in with thinned curves; one whose texts alone exceed that is
+/// left out, too.
+std::string encoded(const Runs& runs) {
+    if (const auto all = arrayOf(runs, encodeRun))
+        return all->toStdString();
+    const std::size_t share = (maxRunFileBytes - 2) / runs.size() - 1; // without brackets and a comma
+    return arrayOf(runs,
+                   [share](const RunRecord& run) {
+                       auto full = encodedWithin(share, run);
+                       return full ? full : encodedWithin(share, withThinnedCurves(run));
+                   })
+        .value()
+        .toStdString();
+}
+
+/// Of the files kept, the newest few stay. Their names sort by time; `newest` is the newest whatever the
+/// clock said when the others were named.
+void dropOldUnreadableFiles(const fs::path& newest) {
+    std::vector<fs::path> others;
+    std::error_code error;
+    for (fs::directory_iterator entry(newest.parent_path(), error), end; entry != end;
+         entry.increment(error)) {
+        if (entry->path().filename().native().starts_with(unreadablePrefix) && entry->path() != newest)
+            others.push_back(entry->path());
+    }
+    std::ranges::sort(others, std::greater());
+    for (std::size_t index = unreadableFilesKept - 1; index < others.size(); ++index)
+        fs::remove(others[index], error);
+}
+
+/// Keeps the file under another name, with a link where there are any, so that a process killed in between
+/// leaves it in its place.
+bool keepBeside(const fs::path& file, std::size_t recoveredRuns) {
+    QDateTime time = QDateTime::currentDateTimeUtc();
+    std::error_code error;
+    fs::path kept;
+    do { // two files of one millisecond: the later one takes the next free name, in order
+        kept = file.parent_path() /
+               (unreadablePrefix + time.toString(QStringLiteral("yyyyMMddTHHmmss.zzzZ")).toStdString() +
+                ".json");
+        fs::create_hard_link(file, kept, error);
+        time = time.addMSecs(1);
+    } while (error == std::errc::file_exists);
+    if (error) // a folder, or a file system without links
+        fs::rename(file, kept, error);
+    if (error)
+        return false;
+    dropOldUnreadableFiles(kept);
+    Log::app.error("damaged history kept under another name",
+                   LogField::int_("recovered", static_cast<std::int64_t>(recoveredRuns)));
+    return true;
+}
+
+} // namespace
+
+/// What lies in the file's place.
+struct HistoryFile::Content {
+    Runs runs;
+    std::optional<Fingerprint> fingerprint; ///< absent: there is no file, or none that can be read
+    bool isDamaged = false;
+};
+
+HistoryFile::HistoryFile(fs::path path, Access access)
+    : m_path(std::move(path))
+    , m_access(std::move(access)) {}
+
+std::optional<HistoryFile::Fingerprint> HistoryFile::fingerprintOf(const std::optional<std::string>& text) {
+    return text ? std::optional(Fingerprint{text->size(), std::hash<std::string>()(*text)}) : std::nullopt;
+}
+
+std::optional<HistoryFile::Fingerprint> HistoryFile::fingerprint(const fs::path& file) const {
+    std::error_code ignored;
+    return fingerprintOf(m_access.read(file, ignored));
+}
+
+/// Fails: absent when the file cannot be read at the moment.
+std::optional<HistoryFile::Content> HistoryFile::content(const fs::path& file) const {
+    constexpr int attempts = 3;
+    std::error_code error;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        const auto text = m_access.read(file, error);
+        if (error == std::errc::no_such_file_or_directory)
+            return Content();
+        if (isFinal(error))
+            return Content{.runs = {}, .fingerprint = {}, .isDamaged = true};
+        if (!text)
+            continue;
+        if (fingerprintOf(text) == m_known)
+            return Content{.runs = {}, .fingerprint = m_known};
+        auto runs = decodeRuns(*text);
+        return Content{.runs = runs ? std::move(*runs) : recoverRuns(*text),
+                       .fingerprint = fingerprintOf(text),
+                       .isDamaged = !runs};
+    }
+    return std::nullopt;
+}
+
+void HistoryFile::removeLeftovers() const {
+    OndelCore::platform::removeReplacementLeftovers(followed(m_path).parent_path());
+}
+
+std::optional<Runs> HistoryFile::look(const Runs& mine, const HistoryChanges& changes, std::size_t most) {
+    const fs::path file = followed(m_path);
+    auto now = content(file);
+    if (!now || !now->fingerprint || now->fingerprint == m_known)
+        return std::nullopt;
+    most = changes.added.empty() ? std::max(most, now->runs.size()) : most;
+    m_known = now->isDamaged ? std::nullopt : now->fingerprint;
+    Runs runs = merged(std::move(now->runs), mine, changes, Deletions(lockOf(file)).ids());
+    runs.resize(std::min(runs.size(), most));
+    return runs;
+}
+
+std::optional<Runs> HistoryFile::update(const Runs& mine, const HistoryChanges& changes, std::size_t most) {
+    constexpr int attempts = 5; // each fails only if another program has just written without the lock
+    const fs::path file = followed(m_path);
+    std::error_code ignored;
+    fs::create_directories(file.parent_path(), ignored); // somebody may have tidied up meanwhile
+    const FileLock lock(lockOf(file), m_access.lockPatience);
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        auto now = content(file);
+        if (!now)
+            return std::nullopt;
+        Deletions deletions(lockOf(file));
+        const bool isKnown = now->fingerprint && now->fingerprint == m_known;
+        const std::size_t held = std::max(now->runs.size(), isKnown ? mine.size() : 0);
+        const std::size_t recovered = now->runs.size();
+        Runs runs = isKnown ? mine : merged(std::move(now->runs), mine, changes, deletions.ids());
+        runs.resize(std::min(runs.size(), changes.added.empty() ? std::max(most, held) : most));
+        const std::string json = encoded(runs);
+        const auto isStillWanted = [&] {
+            if (fingerprint(file) != now->fingerprint)
+                return false;
+            // First the deletions: a run deleted by half is still there, none is ever half there.
+            deletions.note(changes.deleted, runs);
+            return !now->isDamaged || keepBeside(file, recovered);
+        };
+        const std::error_code error = OndelCore::platform::replaceFile(
+            file, json, ownerOnly, OndelCore::platform::Lasting::onMedium, isStillWanted);
+        if (!error) {
+            m_known = fingerprintOf(json);
+            return runs;
+        }
+        if (error != std::errc::operation_canceled)
+            return std::nullopt;
+    }
+    return std::nullopt;
+}
+
+} // namespace TarnwickKit::model

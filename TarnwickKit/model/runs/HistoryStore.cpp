@@ -1,0 +1,138 @@
+#include "TarnwickKit/model/runs/HistoryStore.h"
+
+#include "OndelCore/logging/Log.h"
+#include "OndelCore/platform/process/StandardFolders.h"
+#include "OndelCore/platform/storage/PrivateFolder.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace TarnwickKit::model {
+
+namespace fs = std::filesystem;
+
+using OndelCore::logging::Log;
+
+namespace {
+
+constexpr const char* folderName = "tools.ondel.tarnwick";
+constexpr const char* fileName = "history.json";
+
+/// Absent rather than one that others can guess or write to.
+std::optional<fs::path> defaultFolder() {
+    if (const auto data = OndelCore::platform::dataHome()) {
+        std::error_code error;
+        fs::path folder = *data / folderName;
+        fs::create_directories(folder, error);
+        if (!error)
+            return folder;
+    }
+    return OndelCore::platform::privateTemporaryFolder();
+}
+
+} // namespace
+
+HistoryStore::HistoryStore(const std::optional<fs::path>& directory, QObject* parent,
+                           HistoryFile::Access access)
+    : QObject(parent) {
+    const auto folder = directory ? directory : defaultFolder();
+    if (!folder) {
+        Log::app.error("no folder for the history, runs are not kept");
+        return;
+    }
+    std::error_code ignored;
+    fs::create_directories(*folder, ignored);
+    m_file.emplace(*folder / fileName, std::move(access));
+    m_file->removeLeftovers();
+    if (auto runs = m_file->look({}, {}, limit))
+        m_runs = std::move(*runs);
+}
+
+void HistoryStore::add(const std::vector<RunRecord>& runs) {
+    bool hasNew = false;
+    for (const RunRecord& run : runs) {
+        if (std::ranges::find(m_runs, run.id, &RunRecord::id) != m_runs.end())
+            continue;
+        m_runs.insert(m_runs.begin(), run);
+        if (m_runs.size() > limit)
+            m_runs.resize(limit);
+        m_changes.added.insert(run.id);
+        m_changes.deleted.erase(run.id);
+        hasNew = true;
+    }
+    if (!hasNew)
+        return;
+    write();
+    announce();
+}
+
+void HistoryStore::forget(const QUuid& id) {
+    m_changes.deleted.insert(id);
+    m_changes.added.erase(id);
+    m_changes.renamed.erase(id);
+}
+
+void HistoryStore::deleteRun(const QUuid& id) {
+    std::erase_if(m_runs, [&](const RunRecord& run) { return run.id == id; });
+    forget(id);
+    write();
+    announce();
+}
+
+void HistoryStore::setTitle(const std::optional<QString>& title, const QUuid& id) {
+    const auto found = std::ranges::find(m_runs, id, &RunRecord::id);
+    if (found == m_runs.end())
+        return;
+    found->customTitle = title;
+    m_changes.renamed.insert(id);
+    write();
+    announce();
+}
+
+void HistoryStore::clear() {
+    for (const RunRecord& run : std::exchange(m_runs, {}))
+        forget(run.id);
+    write();
+    announce();
+}
+
+void HistoryStore::save() {
+    if (write())
+        announce();
+}
+
+void HistoryStore::refresh() {
+    auto runs = m_file ? m_file->look(m_runs, m_changes, limit) : std::nullopt;
+    if (runs && take(std::move(*runs)))
+        announce();
+}
+
+bool HistoryStore::write() {
+    auto runs = m_file ? m_file->update(m_runs, m_changes, limit) : std::nullopt;
+    if (!runs)
+        return false;
+    m_changes = {};
+    return take(std::move(*runs));
+}
+
+bool HistoryStore::take(std::vector<RunRecord> runs) {
+    if (runs == m_runs)
+        return false;
+    for (const RunRecord& before : std::exchange(m_runs, std::move(runs))) {
+        const auto now = std::ranges::find(m_runs, before.id, &RunRecord::id);
+        if (now != m_runs.end() && now->customTitle != before.customTitle)
+            m_renamedElsewhere.push_back(before.id);
+    }
+    return true;
+}
+
+void HistoryStore::announce() {
+    Q_EMIT runsChanged();
+    for (const QUuid& id : std::exchange(m_renamedElsewhere, {})) {
+        const auto run = std::ranges::find(m_runs, id, &RunRecord::id);
+        if (run != m_runs.end())
+            Q_EMIT renamedElsewhere(id, run->customTitle);
+    }
+}
+
+} // namespace TarnwickKit::model

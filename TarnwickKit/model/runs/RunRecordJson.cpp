@@ -1,0 +1,246 @@
+#include "TarnwickKit/model/runs/RunRecordJson.h"
+
+#include "TarnwickKit/model/runs/JsonReader.h"
+#include "TarnwickKit/model/runs/JsonWriter.h"
+#include "TarnwickKit/model/runs/RunRecordFields.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string_view>
+#include <type_traits>
+
+namespace TarnwickKit::model {
+
+namespace {
+
+constexpr std::array<std::pair<RunRecord::Kind, std::string_view>, 3> kinds{
+    {{RunRecord::Kind::internalDrive, "internalDrive"},
+     {RunRecord::Kind::external, "external"},
+     {RunRecord::Kind::network, "network"}}};
+const QString dateForm = QStringLiteral("yyyy-MM-ddTHH:mm:ssZ");
+constexpr qsizetype dateLength = 20;
+constexpr qsizetype uuidLength = 36;
+
+template <typename Field>
+inline constexpr bool isOptional = false;
+template <typename Value>
+inline constexpr bool isOptional<std::optional<Value>> = true;
+
+// --- Writing
+
+void write(JsonWriter& json, const QString& value) { json.string(value); }
+void write(JsonWriter& json, double value) { json.number(value); }
+void write(JsonWriter& json, std::int64_t value) { json.integer(value); }
+void write(JsonWriter& json, bool value) { json.boolean(value); }
+void write(JsonWriter& json, const QUuid& value) {
+    json.string(value.toString(QUuid::WithoutBraces).toUpper());
+}
+void write(JsonWriter& json, const QDateTime& value) { json.string(value.toUTC().toString(dateForm)); }
+void write(JsonWriter& json, RunRecord::Kind value) {
+    json.string(QString::fromLatin1(kinds.at(static_cast<std::size_t>(value)).second));
+}
+void write(JsonWriter& json, const std::vector<RunSample>& samples) {
+    json.beginArray();
+    for (const RunSample& sample : samples) {
+        json.beginObject();
+        json.key("t");
+        json.number(sample.t);
+        json.key("v");
+        json.number(sample.v);
+        json.endObject();
+    }
+    json.endArray();
+}
+
+// --- Reading
+
+void read(JsonReader& json, QString& value) { value = json.string(); }
+void read(JsonReader& json, double& value) { value = json.number() + 0.0; } // -0 would be shown as such
+void read(JsonReader& json, std::int64_t& value) { value = json.integer(); }
+void read(JsonReader& json, bool& value) { value = json.boolean(); }
+
+void read(JsonReader& json, QUuid& value) {
+    const QString text = json.string();
+    // QUuid would also take other forms, and answers all that it cannot read with the null UUID.
+    value = text.size() == uuidLength ? QUuid::fromString(text) : QUuid();
+    if (value.toString(QUuid::WithoutBraces).compare(text, Qt::CaseInsensitive) != 0)
+        throw JsonError("malformed UUID");
+}
+
+void read(JsonReader& json, QDateTime& value) {
+    const QString text = json.string();
+    value = QDateTime::fromString(text, Qt::ISODate);
+    if (text.size() != dateLength || !value.isValid() || value.toUTC().toString(dateForm) != text)
+        throw JsonError("date in another form");
+    value = value.toUTC();
+}
+
+void read(JsonReader& json, RunRecord::Kind& value) {
+    const std::string raw = json.string().toStdString();
+    const auto* found = std::ranges::find(kinds, raw, [](const auto& kind) { return kind.second; });
+    if (found == kinds.end())
+        throw JsonError("unknown kind");
+    value = found->first;
+}
+
+void read(JsonReader& json, std::vector<RunSample>& samples) {
+    samples.clear();
+    json.array([&] {
+        if (samples.size() == maxCurvePoints)
+            throw JsonError("curve too long");
+        std::optional<double> t;
+        std::optional<double> v;
+        json.object([&](std::string_view key) {
+            if (key == "t")
+                t = json.number();
+            else if (key == "v")
+                v = json.number();
+            else
+                json.skip();
+        });
+        if (!t || !v)
+            throw JsonError("point without t or v");
+        samples.push_back({*t, *v});
+    });
+}
+
+template <typename Value>
+void read(JsonReader& json, std::optional<Value>& value) {
+    value.reset();
+    if (!json.tryNull())
+        read(json, value.emplace());
+}
+
+// --- What can be shown
+
+bool isShowable(std::string_view key, double value) {
+    // Rates in bytes are shown in megabytes.
+    const double scale = key.ends_with("Bps") ? 1e6 : 1;
+    return value >= 0 && value <= largestShownFigure * scale;
+}
+bool isShowable(std::string_view, std::int64_t value) { return value >= 0; }
+bool isShowable(std::string_view, const QDateTime& value) {
+    return value.isValid() && value.toUTC().toString(dateForm).size() == dateLength;
+}
+bool isShowable(std::string_view, const std::vector<RunSample>& samples) {
+    return samples.size() <= maxCurvePoints && std::ranges::all_of(samples, [](const RunSample& sample) {
+               return isShowable("t", sample.t) && isShowable("vBps", sample.v);
+           });
+}
+template <typename Value>
+bool isShowable(std::string_view key, const std::optional<Value>& value) {
+    if constexpr (std::is_arithmetic_v<Value> && !std::is_same_v<Value, bool>)
+        return !value || isShowable(key, *value);
+    else
+        return true;
+}
+template <typename Value>
+bool isShowable(std::string_view, const Value&) {
+    return true;
+}
+
+bool isShowable(const RunRecord& run) {
+    bool all = true;
+    visitFields(run, [&](std::string_view key, const auto& field) { all = all && isShowable(key, field); });
+    return all;
+}
+
+RunRecord readRun(JsonReader& json) {
+    RunRecord run;
+    std::uint64_t seen = 0;
+    json.object([&](std::string_view key) {
+        bool known = false;
+        int index = 0;
+        visitFields(run, [&](std::string_view name, auto& field) {
+            // The key is gone as soon as a value has been read.
+            if (!known && name == key) {
+                known = true;
+                seen |= std::uint64_t{1} << index;
+                read(json, field);
+            }
+            ++index;
+        });
+        if (!known)
+            json.skip();
+    });
+    int index = 0;
+    visitFields(run, [&](std::string_view name, const auto& field) {
+        if (!isOptional<std::remove_cvref_t<decltype(field)>> && !(seen >> index & 1))
+            throw JsonError(std::string(name) + " is missing");
+        ++index;
+    });
+    if (!isShowable(run))
+        throw JsonError("a figure that cannot be shown");
+    return run;
+}
+
+template <typename Read>
+auto decode(QByteArrayView text, Read read) -> std::optional<decltype(read(std::declval<JsonReader&>()))> {
+    if (static_cast<std::size_t>(text.size()) > maxRunFileBytes)
+        return std::nullopt;
+    try {
+        JsonReader json({text.data(), static_cast<std::size_t>(text.size())});
+        auto value = read(json);
+        json.end();
+        return value;
+    } catch (const JsonError&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+std::optional<QByteArray> encodeRun(const RunRecord& run) {
+    if (!isShowable(run))
+        return std::nullopt;
+    JsonWriter json;
+    json.beginObject();
+    visitFields(run, [&](std::string_view key, const auto& field) {
+        if constexpr (isOptional<std::remove_cvref_t<decltype(field)>>) {
+            if (field) {
+                json.key(key);
+                write(json, *field);
+            }
+        } else {
+            json.key(key);
+            write(json, field);
+        }
+    });
+    json.endObject();
+    return json.json();
+}
+
+std::optional<RunRecord> decodeRun(QByteArrayView text) {
+    return decode(text, [](JsonReader& json) { return readRun(json); });
+}
+
+std::optional<std::vector<RunRecord>> decodeRuns(QByteArrayView text) {
+    return decode(text, [](JsonReader& json) {
+        std::vector<RunRecord> runs;
+        json.array([&] { runs.push_back(readRun(json)); });
+        return runs;
+    });
+}
+
+/// Wherever an object begins, a run may: damage can hide where the one before it ends. Objects nest 64 deep
+/// at most, so that no text is read more often than that.
+std::vector<RunRecord> recoverRuns(QByteArrayView text) {
+    std::vector<RunRecord> runs;
+    if (static_cast<std::size_t>(text.size()) > maxRunFileBytes)
+        return runs;
+    const std::string mended = QString::fromUtf8(text).toStdString();
+    JsonReader json(mended);
+    for (auto at = mended.find('{'); at != std::string::npos; at = mended.find('{', at)) {
+        json.goTo(at);
+        try {
+            runs.push_back(readRun(json));
+            at = json.position();
+        } catch (const JsonError&) {
+            ++at;
+        }
+    }
+    return runs;
+}
+
+} // namespace TarnwickKit::model

@@ -1,0 +1,50 @@
+#include "TarnwickKit/model/runs/TarnwickReport.h"
+
+#include "OndelCore/platform/storage/PrivateFolder.h"
+#include "OndelCore/platform/storage/ReplaceFile.h"
+#include "TarnwickKit/model/runs/RunRecordJson.h"
+#include "TarnwickKit/model/runs/TarnwickFile.h"
+
+#include <string>
+
+namespace TarnwickKit::model {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::vector<QPointF> curve(const std::vector<RunSample>& samples) {
+    std::vector<QPointF> points;
+    points.reserve(samples.size());
+    for (const RunSample& sample : samples)
+        points.emplace_back(sample.t, sample.v / 1e6);
+    return points;
+}
+
+} // namespace
+
+TarnwickReport TarnwickReport::from(const OndelCore::benchmark::BenchmarkResult& result,
+                                    const std::optional<OndelCore::volumes::VolumeInfo>& volume,
+                                    const std::optional<OndelCore::volumes::VolumeCapabilities>& capabilities,
+                                    const QDateTime& date, const OndelCore::benchmark::BenchmarkPlan& plan) {
+    return {RunRecord::from(result, volume, capabilities, date, plan)};
+}
+
+std::vector<QPointF> TarnwickReport::writeCurve() const { return curve(run.writeSamples); }
+
+std::vector<QPointF> TarnwickReport::readCurve() const { return curve(run.readSamples); }
+
+std::optional<fs::path> TarnwickReport::handoffFile() const {
+    const auto folder = OndelCore::platform::privateTemporaryFolder();
+    const auto json = encodeRun(run);
+    if (!folder || !json)
+        return std::nullopt;
+    const std::string id = run.id.toString(QUuid::WithoutBraces).toUpper().toStdString();
+    const fs::path path = *folder / (id + "." + std::string(TarnwickFile::runExtension));
+    if (OndelCore::platform::replaceFile(path, {json->data(), static_cast<std::size_t>(json->size())},
+                                         fs::perms::owner_read | fs::perms::owner_write))
+        return std::nullopt;
+    return path;
+}
+
+} // namespace TarnwickKit::model

@@ -1,0 +1,54 @@
+#include "TarnwickKit/model/session/AnalyzerServices.h"
+
+#include "OndelCore/health/DiskHealth.h"
+#include "OndelCore/platform/volumes/PathFacts.h"
+
+namespace TarnwickKit::model {
+
+using OndelCore::benchmark::BenchmarkEngine;
+using OndelCore::volumes::Location;
+using OndelCore::volumes::VolumeCapabilities;
+using OndelCore::volumes::VolumeInfo;
+
+namespace {
+
+/// A volume that answers after a minute is still taken; the thread that waits for one that never does ends.
+constexpr std::chrono::minutes latePatience(10);
+
+OndelCore::platform::SystemSources waitingFor(std::chrono::milliseconds patience) {
+    OndelCore::platform::SystemSources sources;
+    sources.patience = patience;
+    return sources;
+}
+
+} // namespace
+
+AnalyzerServices AnalyzerServices::real() {
+    using namespace OndelCore::platform;
+    AnalyzerServices services;
+    services.runBenchmark = [](OndelCore::benchmark::BenchmarkPlan plan, std::filesystem::path folder,
+                               BenchmarkEngine::Progress progress, std::stop_token stop) {
+        return BenchmarkEngine().run(std::move(plan), std::move(folder), std::move(progress),
+                                     std::move(stop));
+    };
+    services.cleanupOrphans = [](const std::filesystem::path& folder) {
+        if (pathFacts(folder, PathQuestion::place, {.patience = latePatience}))
+            BenchmarkEngine::cleanupOrphans(folder);
+    };
+    services.loadVolume = [](const Location& location) {
+        return VolumeInfo::load(location, waitingFor(latePatience));
+    };
+    services.probeCapabilities = [](const Location& location) {
+        return VolumeCapabilities::probe(location, waitingFor(latePatience));
+    };
+    services.readHealth = [](const std::filesystem::path& path) {
+        return OndelCore::health::DiskHealth::read(path);
+    };
+    services.driveIdentity = [](const std::filesystem::path& volumeURL) {
+        return DriveInfo::identity(volumeURL, waitingFor(OndelCore::platform::volumePatience));
+    };
+    services.now = [] { return QDateTime::currentDateTimeUtc(); };
+    return services;
+}
+
+} // namespace TarnwickKit::model

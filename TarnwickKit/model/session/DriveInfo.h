@@ -1,0 +1,37 @@
+#pragma once
+
+#include "OndelCore/platform/drives/DriveDescription.h"
+#include "OndelCore/platform/drives/SystemSources.h"
+
+#include <QString>
+
+#include <filesystem>
+#include <optional>
+
+namespace TarnwickKit::model {
+
+/// What a drive is called and how it is attached. Absent is what it does not tell.
+struct DriveIdentity {
+    std::optional<QString> model;
+    std::optional<QString> protocolName;
+
+    bool operator==(const DriveIdentity&) const = default;
+};
+
+/// Names for the hardware behind a volume. Threads: any; the functions keep no state.
+class DriveInfo {
+public:
+    DriveInfo() = delete;
+
+    /// The whole disk under the volume whose root is `volumeURL`. Fails: both texts absent.
+    static DriveIdentity identity(const std::filesystem::path& volumeURL,
+                                  const OndelCore::platform::SystemSources& sources = {});
+    /// The names out of what the drive says of itself.
+    static DriveIdentity identity(const OndelCore::platform::DriveDescription& description);
+
+    /// The protocol that a network volume is reached by ("SMB", "NFS", …), of a file-system type in any
+    /// case. Fails: absent for any other type.
+    static std::optional<QString> networkProtocol(const std::optional<QString>& filesystemType);
+};
+
+} // namespace TarnwickKit::model

@@ -1,0 +1,35 @@
+import QtQuick
+import OndelControls
+
+/// A run's colour and words about it.
+Item {
+    id: key
+
+    required property color color
+    required property color textColor
+    property real side: 10
+    property alias text: words.text
+    property alias font: words.font
+    property alias elide: words.elide
+    property alias wrapMode: words.wrapMode
+
+    implicitWidth: side + 7 + words.implicitWidth
+    implicitHeight: Math.max(side, words.height)
+
+    Card {
+        anchors.left: parent.left
+        y: Math.round((Math.min(key.height, 16) - height) / 2)
+        width: key.side
+        height: key.side
+        radius: 3
+        color: key.color
+    }
+    PlainText {
+        id: words
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: key.side + 7
+        color: key.textColor
+    }
+}

@@ -1,0 +1,80 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnwickKit.views
+
+/// Runs side by side: bars per metric, one colour per run.
+Column {
+    id: chart
+
+    required property comparedRuns runs
+    /// The width of a full bar.
+    required property real trackWidth
+    readonly property real room: width - leftPadding - rightPadding
+
+    spacing: 18
+    leftPadding: 20
+    rightPadding: 20
+    topPadding: 18
+    bottomPadding: 18
+
+    function seriesColor(index: int): color {
+        const series = PaletteKey.palette.series;
+        return series[index % series.length];
+    }
+
+    FlowLayout {
+        width: chart.room
+        spacing: 16
+
+        Repeater {
+            model: chart.runs.entries
+
+            ColorKey {
+                required property int index
+                required property comparedRun modelData
+
+                width: Math.min(implicitWidth, chart.room)
+                color: chart.seriesColor(index)
+                text: modelData.legend
+                font: Typeface.text(11.5)
+                textColor: PaletteKey.palette.text2
+                elide: Text.ElideMiddle
+            }
+        }
+    }
+    Repeater {
+        model: chart.runs.metrics(chart.trackWidth)
+
+        MetricGroup {
+            required property comparedMetric modelData
+
+            metric: modelData
+            trackWidth: chart.trackWidth
+        }
+    }
+    Separator {
+        width: chart.room
+        color: PaletteKey.palette.borderSoft
+    }
+    Column {
+        spacing: 5
+
+        Repeater {
+            model: chart.runs.entries
+
+            ColorKey {
+                required property int index
+                required property comparedRun modelData
+
+                width: chart.room
+                side: 9
+                color: chart.seriesColor(index)
+                text: modelData.parameters
+                font: Typeface.mono(10)
+                textColor: PaletteKey.palette.text3
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+}

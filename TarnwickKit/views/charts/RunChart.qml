@@ -1,0 +1,60 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// A finished run's curves, with their legend.
+ColumnLayout {
+    id: view
+
+    required property runRecord run
+
+    spacing: 0
+
+    RowLayout {
+        Layout.fillWidth: true
+        Layout.margins: 18
+        Layout.topMargin: 16
+        Layout.bottomMargin: 10
+        spacing: 14
+
+        PlainText {
+            Layout.fillWidth: true
+            text: qsTr("Throughput over time")
+            font: Typeface.mono(10.5, 1.5)
+            color: PaletteKey.palette.text3
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        LegendItem {
+            color: PaletteKey.palette.coral
+            label: qsTr("Write")
+        }
+        LegendItem {
+            color: PaletteKey.palette.teal
+            label: qsTr("Read")
+        }
+    }
+    ThroughputChart {
+        Layout.fillWidth: true
+        Layout.preferredHeight: 200
+        Layout.leftMargin: 18
+        Layout.rightMargin: 18
+        Layout.bottomMargin: 18
+
+        RunSeries {
+            name: qsTr("Read")
+            run: view.run
+            curve: RunSeries.Read
+            color: PaletteKey.palette.teal
+            fill: PaletteKey.palette.readFill
+        }
+        RunSeries {
+            name: qsTr("Write")
+            run: view.run
+            curve: RunSeries.Write
+            color: PaletteKey.palette.coral
+            fill: PaletteKey.palette.writeFill
+        }
+    }
+}

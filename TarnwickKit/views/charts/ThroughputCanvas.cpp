@@ -1,0 +1,92 @@
+#include "TarnwickKit/views/charts/ThroughputCanvas.h"
+
+#include "TarnwickKit/model/format/Format.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace TarnwickKit::views {
+
+QString throughputSummary(const QList<ChartSeries*>& series) {
+    const auto words = [](const char* text) { return QCoreApplication::translate("ThroughputChart", text); };
+    const auto rate = [](double megabytes) { return model::Format::mbValue(megabytes * 1'000'000); };
+    QStringList sentences;
+    for (const ChartSeries* one : series) {
+        const QList<QPointF>& points = one->points();
+        if (points.isEmpty())
+            continue;
+        const auto [lowest, highest] = std::ranges::minmax(points, {}, &QPointF::y);
+        sentences << words("%1: %2 to %3 MB/s over %4, last %5 MB/s.")
+                         .arg(one->name(), rate(lowest.y()), rate(highest.y()), seconds(points.last().x()),
+                              rate(points.last().y()));
+    }
+    return sentences.isEmpty() ? words("No measurements yet.") : sentences.join(QLatin1Char(' '));
+}
+
+ThroughputCanvas::ThroughputCanvas(QQuickItem* parent)
+    : ImageItem(parent) {
+    setFlag(ItemObservesViewport);
+}
+
+QQmlListProperty<ChartSeries> ThroughputCanvas::seriesList() {
+    using List = QQmlListProperty<ChartSeries>;
+    static constexpr auto of = [](List* list) { return static_cast<ThroughputCanvas*>(list->object); };
+    return {this,
+            nullptr,
+            [](List* list, ChartSeries* series) { of(list)->add(series); },
+            [](List* list) { return of(list)->m_series.size(); },
+            [](List* list, qsizetype index) { return of(list)->m_series.at(index); },
+            nullptr};
+}
+
+void ThroughputCanvas::add(ChartSeries* series) {
+    if (!series)
+        return;
+    m_series.append(series);
+    connect(series, &ChartSeries::changed, this, &ThroughputCanvas::seriesChanged);
+    connect(series, &QObject::destroyed, this, [this, series] {
+        m_series.removeOne(series);
+        seriesChanged();
+    });
+    seriesChanged();
+}
+
+void ThroughputCanvas::seriesChanged() {
+    redraw();
+    double latest = 0;
+    for (const ChartSeries* series : std::as_const(m_series))
+        if (!series->points().isEmpty())
+            latest = std::max(latest, std::floor(series->points().last().x()));
+    const bool isSameSecond = latest == std::exchange(m_summarySecond, latest);
+    if (!isLive() || !isSameSecond)
+        Q_EMIT summaryChanged();
+}
+
+void ThroughputCanvas::setLive(bool live) {
+    if (take(m_content.live, live))
+        Q_EMIT liveChanged();
+}
+
+void ThroughputCanvas::setGridColor(const QColor& color) {
+    if (take(m_content.grid, color))
+        Q_EMIT colorsChanged();
+}
+
+void ThroughputCanvas::setLabelColor(const QColor& color) {
+    if (take(m_content.label, color))
+        Q_EMIT colorsChanged();
+}
+
+/// The next sample is never far off, so that what comes into sight again is up to date at once.
+bool ThroughputCanvas::canWait() const { return isLive() && clipRect().isEmpty(); }
+
+OndelControls::ImageItem::Picture ThroughputCanvas::paint(double scale) {
+    m_content.curves.clear();
+    for (const ChartSeries* series : std::as_const(m_series))
+        m_content.curves.push_back(series->curve());
+    return {m_picture.paint(m_content, size(), scale), {}};
+}
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "OndelControls/ImageItem.h"
+#include "TarnwickKit/views/charts/ChartSeries.h"
+#include "TarnwickKit/views/charts/ThroughputPicture.h"
+
+#include <QQmlListProperty>
+
+namespace TarnwickKit::views {
+
+/// What a chart tells who cannot see it: of each curve its time, its range and its end.
+QString throughputSummary(const QList<ChartSeries*>& series);
+
+/// The curves and axes of a throughput chart. However often its series change it is painted once per frame,
+/// and a live one not at all while it is scrolled out of sight.
+class ThroughputCanvas : public OndelControls::ImageItem {
+    Q_OBJECT
+    QML_ELEMENT
+
+    /// In drawing order.
+    Q_PROPERTY(QQmlListProperty<TarnwickKit::views::ChartSeries> series READ seriesList CONSTANT)
+    Q_CLASSINFO("DefaultProperty", "series")
+    /// The time axis grows in steps of five seconds instead of ending with the last point.
+    Q_PROPERTY(bool live READ isLive WRITE setLive NOTIFY liveChanged)
+    Q_PROPERTY(QColor gridColor READ gridColor WRITE setGridColor NOTIFY colorsChanged)
+    Q_PROPERTY(QColor labelColor READ labelColor WRITE setLabelColor NOTIFY colorsChanged)
+    /// While live it changes once in a second at most.
+    Q_PROPERTY(QString summary READ summary NOTIFY summaryChanged)
+
+public:
+    explicit ThroughputCanvas(QQuickItem* parent = nullptr);
+
+    QQmlListProperty<ChartSeries> seriesList();
+    bool isLive() const { return m_content.live; }
+    void setLive(bool live);
+    Q_SIGNAL void liveChanged();
+    QColor gridColor() const { return m_content.grid; }
+    void setGridColor(const QColor& color);
+    QColor labelColor() const { return m_content.label; }
+    void setLabelColor(const QColor& color);
+    Q_SIGNAL void colorsChanged();
+    QString summary() const { return throughputSummary(m_series); }
+    Q_SIGNAL void summaryChanged();
+
+protected:
+    Picture paint(double scale) override;
+    bool canWait() const override;
+
+private:
+    void add(ChartSeries* series);
+    void seriesChanged();
+
+    QList<ChartSeries*> m_series;
+    ThroughputContent m_content;
+    ThroughputPicture m_picture;
+    double m_summarySecond = -1;
+};
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,27 @@
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+/// A small square button that is nothing but its symbol.
+PlainButton {
+    id: button
+
+    property alias symbol: glyph.name
+    property alias symbolSize: glyph.size
+
+    implicitWidth: 30
+    implicitHeight: 30
+    corner: 8
+
+    background: Card {
+        radius: 8
+        color: PaletteKey.palette.panel2
+        outline: PaletteKey.palette.border
+    }
+    contentItem: Symbol {
+        id: glyph
+
+        size: 11
+        color: button.hovered ? PaletteKey.palette.text : PaletteKey.palette.text2
+    }
+}

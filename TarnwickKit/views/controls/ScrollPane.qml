@@ -1,0 +1,116 @@
+import QtQuick
+import QtQuick.Templates as T
+import OndelControls
+import TarnwickKit.views
+
+/// A vertical scroll area. What gets the keyboard's focus is brought into view, and the focus is kept in the content. The
+/// keys that move in a page scroll it from wherever the focus is in it.
+Flickable {
+    id: pane
+
+    default property alias content: holder.data
+    required property FocusKeeper keeper
+    readonly property Item focusItem: keeper.last
+
+    contentWidth: width
+    contentHeight: holder.childrenRect.height
+    boundsBehavior: Flickable.StopAtBounds
+    flickableDirection: Flickable.VerticalFlick
+    clip: true
+    interactive: contentHeight > height
+
+    /// Where the control with the keyboard's focus is in the content; -1 while it is elsewhere.
+    property real focusPlace: -1
+
+    function goToTop(): void {
+        contentY = 0;
+        focusPlace = Math.min(focusPlace, 0);
+    }
+
+    onFocusItemChanged: {
+        if (holds(focusItem)) {
+            focusPlace = focusItem.mapToItem(holder, 0, 0).y;
+            reveal();
+        } else if (focusItem) {
+            focusPlace = -1;
+        }
+    }
+    Connections {
+        target: pane.keeper
+
+        // What had the focus is gone, as a deleted row is. Who goes by keyboard goes on from what stands there now.
+        function onLost(): void {
+            if (pane.focusPlace >= 0)
+                pane.catchFocus();
+        }
+    }
+
+    function holds(item: Item): bool {
+        let ancestor = item;
+        while (ancestor && ancestor !== holder)
+            ancestor = ancestor.parent;
+        return ancestor === holder;
+    }
+
+    function catchFocus(): void {
+        let found = null;
+        for (let item = holder.nextItemInFocusChain(); holds(item); item = item.nextItemInFocusChain()) {
+            found = item;
+            if (item.mapToItem(holder, 0, item.height).y > focusPlace + 1)
+                break;
+        }
+        if (found)
+            found.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function scrollBy(distance: real): void {
+        contentY = Math.max(0, Math.min(contentHeight - height, contentY + distance));
+    }
+
+    Keys.onUpPressed: scrollBy(-40)
+    Keys.onDownPressed: scrollBy(40)
+    Keys.onPressed: event => {
+        const distances = {
+            [Qt.Key_PageUp]: 40 - height,
+            [Qt.Key_PageDown]: height - 40,
+            [Qt.Key_Home]: -contentHeight,
+            [Qt.Key_End]: contentHeight
+        };
+        event.accepted = event.key in distances;
+        if (event.accepted)
+            scrollBy(distances[event.key]);
+    }
+
+    function reveal(): void {
+        const top = focusItem.mapToItem(holder, 0, 0).y - 12;
+        const bottom = top + focusItem.height + 24;
+        if (top < contentY || focusItem.height > height)
+            contentY = Math.max(0, Math.min(top, contentHeight - height));
+        else if (bottom > contentY + height)
+            contentY = Math.max(0, Math.min(bottom, contentHeight) - height);
+    }
+
+    Item {
+        id: holder
+
+        width: pane.width
+        height: childrenRect.height
+    }
+
+    T.ScrollBar.vertical: T.ScrollBar {
+        id: bar
+
+        implicitWidth: 10
+        padding: 2
+        policy: T.ScrollBar.AsNeeded
+        minimumSize: 0.08
+        visible: size < 1
+        Accessible.ignored: true
+
+        contentItem: Card {
+            radius: 3
+            color: PaletteKey.palette.text3
+            opacity: bar.pressed ? 0.8 : bar.active || bar.hovered ? 0.5 : 0.2
+        }
+    }
+}

@@ -1,0 +1,20 @@
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+/// A button that is nothing but its words.
+PlainButton {
+    id: button
+
+    property font textFont: Typeface.text(11, Font.Medium)
+    property color textColor: PaletteKey.palette.text3
+
+    corner: 4
+
+    contentItem: PlainText {
+        text: button.label
+        font: button.textFont
+        color: button.hovered ? PaletteKey.palette.text : button.textColor
+        Accessible.ignored: true
+    }
+}

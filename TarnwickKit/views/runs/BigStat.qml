@@ -1,0 +1,86 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// One headline rate with its best and least sample. Units: bytes per second; absent figures are not numbers.
+ColumnLayout {
+    id: stat
+
+    required property string label
+    required property color dot
+    required property real value
+    required property real peak
+    required property real least
+
+    spacing: 6
+    Layout.maximumWidth: Infinity // the figures in it would not let it grow
+    Layout.fillHeight: false // one without a third line is centred beside one with it
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: label + ": " + figure.text + " MB/s" + (extremes.visible ? ", " + extremes.text : "")
+
+    RowLayout {
+        Layout.leftMargin: 20
+        Layout.rightMargin: 20
+        Layout.topMargin: 17
+        spacing: 7
+
+        Card {
+            implicitWidth: 9
+            implicitHeight: 9
+            radius: 2
+            color: stat.dot
+        }
+        PlainText {
+            text: stat.label
+            font: Typeface.text(12)
+            color: PaletteKey.palette.text2
+            Accessible.ignored: true
+        }
+    }
+    Row {
+        id: line
+
+        Layout.fillWidth: true
+        Layout.leftMargin: 20
+        Layout.rightMargin: 20
+        Layout.bottomMargin: extremes.visible ? 0 : 17
+        spacing: 6
+
+        PlainText {
+            id: figure
+
+            width: Math.min(implicitWidth, line.width - unit.width - line.spacing)
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 9
+            text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)
+            font: Typeface.display(38)
+            color: PaletteKey.palette.text
+            Accessible.ignored: true
+        }
+        PlainText {
+            id: unit
+
+            anchors.baseline: figure.baseline
+            text: "MB/s"
+            font: Typeface.text(15, Font.Medium)
+            color: PaletteKey.palette.text3
+            Accessible.ignored: true
+        }
+    }
+    PlainText {
+        id: extremes
+
+        Layout.leftMargin: 20
+        Layout.rightMargin: 20
+        Layout.bottomMargin: 17
+        Layout.fillWidth: true
+        elide: Text.ElideRight
+        visible: !isNaN(stat.peak) && !isNaN(stat.least)
+        text: visible ? qsTr("peak %1 · min %2").arg(Format.mbValue(stat.peak)).arg(Format.mbValue(stat.least)) : ""
+        font: Typeface.mono(11)
+        color: PaletteKey.palette.text3
+        Accessible.ignored: true
+    }
+}

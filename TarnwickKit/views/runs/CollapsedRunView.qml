@@ -1,0 +1,110 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// The run on view, folded to one row.
+PlainButton {
+    id: view
+
+    required property runRecord run
+    readonly property runFacts facts: Runs.facts(run)
+
+    signal remove
+
+    label: facts.title
+    detail: facts.stamp
+    corner: 14
+    pales: false
+    leftPadding: 18
+    rightPadding: 18
+    topPadding: 15
+    bottomPadding: 15
+
+    background: Card {
+        radius: 14
+        color: PaletteKey.palette.panel
+        outline: Qt.alpha(PaletteKey.palette.accent, 0.35)
+        shadowColor: PaletteKey.palette.shadow
+        shadowRadius: 18
+        shadowOffset: 12
+    }
+    contentItem: RowLayout {
+        spacing: 16
+
+        StatusDot {
+            color: PaletteKey.palette.goodDot
+        }
+        ColumnLayout {
+            spacing: 2
+
+            RowLayout {
+                spacing: 8
+
+                PlainText {
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
+                    Layout.maximumWidth: Layout.preferredWidth
+                    text: view.facts.title
+                    horizontalAlignment: Text.AlignLeft
+                    font: Typeface.display(15)
+                    color: PaletteKey.palette.text
+                    elide: Text.ElideRight
+                    maximumLineCount: 1
+                    Accessible.ignored: true
+                }
+                CompleteBadge {}
+            }
+            PlainText {
+                Layout.fillWidth: true
+                text: view.facts.stamp
+                horizontalAlignment: Text.AlignLeft
+                font: Typeface.mono(10.5)
+                color: PaletteKey.palette.text3
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+        }
+        Item {
+            Layout.fillWidth: true
+        }
+        RunSummaryStat {
+            Layout.preferredWidth: 104
+            label: qsTr("Write")
+            value: view.facts.writeBps
+            dot: PaletteKey.palette.coral
+        }
+        RunSummaryStat {
+            Layout.preferredWidth: 104
+            label: qsTr("Read")
+            value: view.facts.readBps
+            dot: PaletteKey.palette.teal
+        }
+        DualSparkline {
+            implicitWidth: 130
+            implicitHeight: 40
+            run: view.run
+        }
+        Symbol {
+            name: "chevron.down"
+            size: 11
+            color: PaletteKey.palette.text3
+        }
+    }
+
+    Keys.onPressed: event => menu.openByKey(event)
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => menu.popup(point.position.x, point.position.y)
+    }
+    PopupMenu {
+        id: menu
+
+        PopupMenuItem {
+            text: qsTr("Delete Run")
+            destructive: true
+            onTriggered: view.remove()
+        }
+    }
+}

@@ -1,0 +1,53 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+/// A row that can be picked while runs are being compared. What it holds is then part of it and does nothing of its own;
+/// at other times it is nothing but what it holds.
+Item {
+    id: row
+
+    required property bool picking
+    required property bool chosen
+    required property string label
+    required property string detail
+    default property alias content: holder.data
+
+    signal wanted(chosen: bool)
+
+    implicitHeight: holder.implicitHeight
+
+    Item {
+        id: holder
+
+        anchors.right: parent.right
+        width: parent.width - (row.picking ? mark.width + 12 : 0)
+        implicitHeight: childrenRect.height
+        enabled: !row.picking
+    }
+    Symbol {
+        id: mark
+
+        anchors.verticalCenter: parent.verticalCenter
+        visible: row.picking
+        name: row.chosen ? "checkmark.circle.fill" : "circle"
+        size: 18
+        color: row.chosen ? row.PaletteKey.palette.accent : row.PaletteKey.palette.text3
+    }
+    Repeater {
+        model: row.picking ? 1 : 0
+
+        PlainButton {
+            width: row.width
+            height: row.height
+            label: row.label
+            detail: row.detail
+            corner: 12
+            checkable: true
+            checked: row.chosen
+            onCheckedChanged: if (checked !== row.chosen) row.wanted(checked)
+        }
+    }
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "TarnwickKit/model/runs/RunRecord.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+#include <QVariantList>
+
+#include <vector>
+
+namespace TarnwickKit::views {
+
+/// A run's line in the group of a metric.
+struct ComparedBar {
+    Q_GADGET
+    QML_VALUE_TYPE(comparedBar)
+    Q_PROPERTY(double length MEMBER length CONSTANT)
+    Q_PROPERTY(QString text MEMBER text CONSTANT)
+    Q_PROPERTY(QString sentence MEMBER sentence CONSTANT)
+
+public:
+    double length = 0; ///< logical pixels; 0 without a bar
+    QString text;
+    QString sentence; ///< the same for who cannot see the bar's place and colour
+
+    bool operator==(const ComparedBar&) const = default;
+};
+
+struct ComparedMetric {
+    Q_GADGET
+    QML_VALUE_TYPE(comparedMetric)
+    Q_PROPERTY(QString label MEMBER label CONSTANT)
+    Q_PROPERTY(QString unit MEMBER unit CONSTANT)
+    Q_PROPERTY(QVariantList bars MEMBER bars CONSTANT)
+
+public:
+    QString label;
+    QString unit;
+    QVariantList bars; ///< ComparedBar, one per run
+
+    bool operator==(const ComparedMetric&) const = default;
+};
+
+/// What the chart says of one run beside its bars.
+struct ComparedRun {
+    Q_GADGET
+    QML_VALUE_TYPE(comparedRun)
+    Q_PROPERTY(QString legend MEMBER legend CONSTANT)
+    Q_PROPERTY(QString parameters MEMBER parameters CONSTANT)
+
+public:
+    QString legend;
+    QString parameters;
+
+    bool operator==(const ComparedRun&) const = default;
+};
+
+/// Runs that are compared, as a value that QML hands on.
+struct ComparedRuns {
+    Q_GADGET
+    QML_VALUE_TYPE(comparedRuns)
+    Q_PROPERTY(int count READ count CONSTANT)
+    Q_PROPERTY(QVariantList entries READ entries CONSTANT)
+
+public:
+    std::vector<model::RunRecord> runs;
+
+    int count() const { return static_cast<int>(runs.size()); }
+    /// ComparedRun, one per run.
+    QVariantList entries() const;
+    /// ComparedMetric, those that any run has a figure for. Units: `trackWidth` in logical pixels.
+    Q_INVOKABLE QVariantList metrics(double trackWidth) const;
+
+    bool operator==(const ComparedRuns&) const = default;
+};
+
+} // namespace TarnwickKit::views

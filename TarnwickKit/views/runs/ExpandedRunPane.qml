@@ -1,0 +1,104 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// A finished run at full size.
+CardFrame {
+    id: pane
+
+    required property AnalyzerModel analyzer
+    required property runRecord run
+    readonly property runFacts facts: Runs.facts(run)
+
+    signal collapse
+    signal remove
+
+    header: [
+        StatusDot {
+            color: PaletteKey.palette.goodDot
+        },
+        EditableRunTitle {
+            id: title
+
+            Layout.fillWidth: true
+            Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
+            Layout.maximumWidth: Layout.preferredWidth
+            facts: pane.facts
+            onRenamed: text => pane.analyzer.renameRun(pane.facts.id, text)
+        },
+        CompleteBadge {},
+        Item {
+            Layout.fillWidth: true
+        },
+        PlainText {
+            text: pane.facts.stamp
+            font: Typeface.mono(11.5)
+            color: PaletteKey.palette.text3
+        },
+        ShareButton {
+            id: share
+
+            hint: qsTr("Share a report image")
+            onClicked: image.makeReport(pane.run, pane.PaletteKey.palette)
+        },
+        IconButton {
+            label: qsTr("Delete Run")
+            symbol: "trash"
+            onClicked: pane.remove()
+        },
+        IconButton {
+            label: qsTr("Collapse")
+            symbol: "chevron.up"
+            onClicked: pane.collapse()
+        }
+    ]
+
+    RunHeadline {
+        Layout.fillWidth: true
+        facts: pane.facts
+    }
+    Separator {
+        Layout.fillWidth: true
+        color: PaletteKey.palette.borderSoft
+    }
+    RunChart {
+        Layout.fillWidth: true
+        run: pane.run
+    }
+    Separator {
+        Layout.fillWidth: true
+        visible: strip.hasFacts
+        color: PaletteKey.palette.borderSoft
+    }
+    RunCapturedStrip {
+        id: strip
+
+        Layout.fillWidth: true
+        facts: pane.facts
+    }
+
+    Keys.onPressed: event => menu.openByKey(event)
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => menu.popup(point.position.x, point.position.y)
+    }
+    PopupMenu {
+        id: menu
+
+        PopupMenuItem {
+            text: qsTr("Rename Report…")
+            onTriggered: title.edit()
+        }
+        PopupMenuItem {
+            text: qsTr("Share Report Image…")
+            onTriggered: share.clicked()
+        }
+        PopupMenuItem {
+            text: qsTr("Delete Run")
+            destructive: true
+            onTriggered: pane.remove()
+        }
+    }
+}

@@ -1,0 +1,139 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// A saved run in the history.
+PlainButton {
+    id: row
+
+    required property runRecord run
+    readonly property runFacts facts: Runs.facts(run)
+    /// Without it the row is part of something else that is pressed as a whole.
+    property bool live: true
+    /// What everything but the words leaves of the row. The words' own width would not do: they change their height
+    /// by it, which is too late once the row is laid out.
+    readonly property real room: availableWidth - 8 - 30 - 2 * 104 - 96 - remove.implicitWidth - fold.implicitWidth - 7 * 12
+
+    signal remove
+
+    label: facts.title
+    detail: facts.shortStamp + " · " + facts.connection
+    corner: 12
+    leftPadding: 16
+    rightPadding: 16
+    topPadding: 13
+    bottomPadding: 13
+    hoverEnabled: true
+    pales: false
+    Accessible.ignored: !live
+
+    background: Card {
+        radius: 12
+        color: row.PaletteKey.palette.panel
+        outline: row.hovered ? Qt.alpha(row.PaletteKey.palette.teal, 0.6) : row.PaletteKey.palette.border
+    }
+    contentItem: RowLayout {
+        spacing: 12
+
+        Card {
+            implicitWidth: 8
+            implicitHeight: 8
+            radius: 4
+            color: row.facts.isNetwork ? row.PaletteKey.palette.amber : row.PaletteKey.palette.goodDot
+        }
+        Card {
+            implicitWidth: 30
+            implicitHeight: 30
+            radius: 8
+            color: row.PaletteKey.palette.badgeStart(row.facts.kind)
+            endColor: row.PaletteKey.palette.badgeEnd(row.facts.kind)
+            endPoint: Qt.point(0, 1)
+
+            Card {
+                anchors.centerIn: parent
+                width: 12
+                height: 12
+                radius: 3
+                color: Qt.rgba(1, 1, 1, 0.85)
+            }
+        }
+        ColumnLayout {
+            Layout.fillWidth: true
+            Layout.minimumWidth: 0
+            spacing: 2
+
+            PlainText {
+                Layout.fillWidth: true
+                text: row.facts.title
+                horizontalAlignment: Text.AlignLeft // also of a name that runs the other way
+                font: Typeface.display(14)
+                color: row.PaletteKey.palette.text
+                elide: Text.ElideRight
+                maximumLineCount: 1
+                Accessible.ignored: true
+            }
+            PlainText {
+                readonly property bool fits: whole.width <= row.room
+
+                Layout.fillWidth: true
+                text: fits ? whole.text : row.facts.shortStamp + "\n" + row.facts.connection
+                horizontalAlignment: Text.AlignLeft
+                font: Typeface.mono(10.5)
+                color: row.PaletteKey.palette.text3
+                elide: Text.ElideRight
+                fontSizeMode: fits ? Text.FixedSize : Text.HorizontalFit
+                minimumPixelSize: 8
+                lineHeight: fits ? 1 : 1.07
+                Accessible.ignored: true
+
+                TextMetrics {
+                    id: whole
+
+                    text: row.detail
+                    font: Typeface.mono(10.5)
+                }
+            }
+        }
+        RunSummaryStat {
+            Layout.preferredWidth: 104
+            label: qsTr("Write")
+            value: row.facts.writeBps
+            dot: row.PaletteKey.palette.coral
+        }
+        RunSummaryStat {
+            Layout.preferredWidth: 104
+            label: qsTr("Read")
+            value: row.facts.readBps
+            dot: row.PaletteKey.palette.teal
+        }
+        DualSparkline {
+            implicitWidth: 96
+            implicitHeight: 34
+            run: row.run
+        }
+        PlainButton {
+            id: remove
+
+            label: qsTr("Delete %1").arg(row.facts.title)
+            hint: qsTr("Delete this run")
+            corner: 4
+            pales: false
+            Accessible.ignored: !row.live
+            onClicked: row.remove()
+
+            contentItem: Symbol {
+                name: "trash"
+                size: 11
+                color: remove.hovered ? row.PaletteKey.palette.text : row.PaletteKey.palette.text3
+            }
+        }
+        Symbol {
+            id: fold
+
+            name: "chevron.down"
+            size: 11
+            color: row.PaletteKey.palette.text3
+        }
+    }
+}

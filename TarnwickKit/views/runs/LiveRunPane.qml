@@ -1,0 +1,78 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// A run while it goes.
+CardFrame {
+    id: pane
+
+    required property AnalyzerModel analyzer
+    required property string volumeName
+
+    header: [
+        Spinner {
+            color: PaletteKey.palette.text3
+            turnsItself: false
+            step: live.beat % 8
+        },
+        PlainText {
+            Layout.fillWidth: true
+            Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
+            Layout.maximumWidth: Layout.preferredWidth
+            text: pane.volumeName
+            horizontalAlignment: Text.AlignLeft
+            font: Typeface.display(16)
+            color: PaletteKey.palette.text
+            elide: Text.ElideRight
+        },
+        Chip {
+            visible: text.length > 0
+            text: pane.analyzer.liveTestTitle
+        },
+        Item {
+            Layout.fillWidth: true
+        }
+    ]
+
+    LiveRun {
+        id: live
+
+        analyzer: pane.analyzer
+    }
+    ColumnLayout {
+        Layout.leftMargin: 18
+        Layout.rightMargin: 18
+        Layout.topMargin: 16
+        Layout.bottomMargin: 18
+        spacing: 10
+
+        ProgressTrack {
+            Layout.fillWidth: true
+            label: pane.analyzer.liveTestTitle
+            to: Math.max(1, live.totalBytes)
+            value: live.completedBytes
+        }
+        PlainText {
+            text: qsTr("%1 of %2").arg(Format.bytes(live.completedBytes)).arg(Format.bytes(live.totalBytes))
+            font: Typeface.mono(11)
+            color: PaletteKey.palette.text3
+        }
+        ThroughputChart {
+            id: chart
+
+            readonly property bool reads: pane.analyzer.liveTest === "sequentialRead"
+
+            Layout.fillWidth: true
+            Layout.preferredHeight: 200
+            live: true
+
+            LiveSeries {
+                run: live
+                name: pane.analyzer.liveTestTitle
+                color: chart.reads ? chart.PaletteKey.palette.teal : chart.PaletteKey.palette.coral
+                fill: chart.reads ? chart.PaletteKey.palette.readFill : chart.PaletteKey.palette.writeFill
+            }
+        }
+    }
+}

@@ -1,0 +1,81 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// One metric of compared runs; their bars share a scale.
+RowLayout {
+    id: group
+
+    required property comparedMetric metric
+    required property real trackWidth
+    readonly property list<color> series: PaletteKey.palette.series
+
+    spacing: 14
+
+    Column {
+        Layout.preferredWidth: 96
+        spacing: 1
+
+        PlainText {
+            text: group.metric.label
+            font: Typeface.text(12, Font.Medium)
+            color: PaletteKey.palette.text2
+            Accessible.ignored: true
+        }
+        PlainText {
+            text: group.metric.unit
+            font: Typeface.mono(9)
+            color: PaletteKey.palette.text3
+            Accessible.ignored: true
+        }
+    }
+    Separator {
+        Layout.fillHeight: true
+        color: PaletteKey.palette.border
+    }
+    Column {
+        spacing: 5
+
+        Repeater {
+            model: group.metric.bars
+
+            Row {
+                id: line
+
+                required property int index
+                required property comparedBar modelData
+
+                spacing: 9
+                Accessible.role: Accessible.StaticText
+                Accessible.name: modelData.sentence
+
+                Card {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: group.trackWidth
+                    height: 15
+                    radius: 4
+                    color: PaletteKey.palette.track
+
+                    Card {
+                        anchors.left: parent.left
+                        width: line.modelData.length
+                        height: parent.height
+                        radius: 4
+                        color: group.series[line.index % group.series.length]
+                    }
+                }
+                PlainText {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: 60
+                    text: line.modelData.text
+                    font: Typeface.mono(11)
+                    color: PaletteKey.palette.text2
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+}

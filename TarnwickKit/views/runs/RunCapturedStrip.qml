@@ -1,0 +1,65 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+/// The facts of the volume and the settings that were captured with a run, at the foot of its card.
+CardFoot {
+    id: strip
+
+    required property runFacts facts
+    readonly property bool hasFacts: facts.captured.length > 0
+
+    visible: hasFacts
+    implicitHeight: items.height + 26
+    corner: 15
+
+    FlowLayout {
+        id: items
+
+        x: 20
+        y: 13
+        width: strip.width - 40
+        spacing: {
+            let taken = 0;
+            for (let i = 0; i < each.count; ++i)
+                taken += each.itemAt(i)?.width ?? 0;
+            const room = Math.floor((width - taken) / (each.count - 1));
+            return room < 12 ? 22 : Math.min(22, room);
+        }
+        lineSpacing: 8
+
+        // Closer together before they wrap: all that a run can tell is a little wider than an image.
+        Repeater {
+            id: each
+
+            model: strip.facts.captured
+
+            Row {
+                id: item
+
+                required property infoItem modelData
+
+                Accessible.role: Accessible.StaticText
+                Accessible.name: modelData.label + " " + modelData.value
+
+                PlainText {
+                    id: name
+
+                    text: item.modelData.label + " "
+                    font: Typeface.text(12)
+                    color: PaletteKey.palette.text2
+                    Accessible.ignored: true
+                }
+                PlainText {
+                    anchors.baseline: name.baseline
+                    text: item.modelData.value
+                    font: Typeface.mono(12)
+                    color: PaletteKey.palette.text
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+}

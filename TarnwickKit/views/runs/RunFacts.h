@@ -1,0 +1,91 @@
+#pragma once
+
+#include "TarnwickKit/views/charts/RunSeries.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+#include <QUuid>
+#include <QVariantList>
+
+namespace TarnwickKit::views {
+
+/// A labelled figure as a list shows it.
+struct InfoItem {
+    Q_GADGET
+    QML_VALUE_TYPE(infoItem)
+    Q_PROPERTY(QString label MEMBER label CONSTANT)
+    Q_PROPERTY(QString value MEMBER value CONSTANT)
+    Q_PROPERTY(bool warning MEMBER warning CONSTANT)
+
+public:
+    QString label;
+    QString value;
+    bool warning = false;
+
+    bool operator==(const InfoItem&) const = default;
+};
+
+/// What the views say of a saved run, in words and figures.
+/// Units: bytes per second, operations per second; not a number where there is none.
+struct RunFacts {
+    Q_GADGET
+    QML_VALUE_TYPE(runFacts)
+    Q_PROPERTY(QVariant id READ idValue CONSTANT)
+    Q_PROPERTY(QString title MEMBER title CONSTANT)
+    Q_PROPERTY(QString screenshotTitle MEMBER screenshotTitle CONSTANT)
+    Q_PROPERTY(QString screenshotSubtitle MEMBER screenshotSubtitle CONSTANT)
+    Q_PROPERTY(QString badgeSymbol MEMBER badgeSymbol CONSTANT)
+    Q_PROPERTY(QString customTitle MEMBER customTitle CONSTANT)
+    Q_PROPERTY(QString stamp MEMBER stamp CONSTANT)
+    Q_PROPERTY(QString shortStamp MEMBER shortStamp CONSTANT)
+    Q_PROPERTY(QString connection MEMBER connection CONSTANT)
+    Q_PROPERTY(bool isNetwork MEMBER isNetwork CONSTANT)
+    Q_PROPERTY(int kind MEMBER kind CONSTANT)
+    Q_PROPERTY(double writeBps MEMBER writeBps CONSTANT)
+    Q_PROPERTY(double writePeakBps MEMBER writePeakBps CONSTANT)
+    Q_PROPERTY(double writeMinBps MEMBER writeMinBps CONSTANT)
+    Q_PROPERTY(double readBps MEMBER readBps CONSTANT)
+    Q_PROPERTY(double readPeakBps MEMBER readPeakBps CONSTANT)
+    Q_PROPERTY(double readMinBps MEMBER readMinBps CONSTANT)
+    Q_PROPERTY(QVariantList minor MEMBER minor CONSTANT)
+    Q_PROPERTY(QVariantList captured MEMBER captured CONSTANT)
+
+public:
+    QVariant idValue() const { return id; }
+
+    QUuid id;
+    QString title;           ///< the user's, else the volume's name
+    QString screenshotTitle; ///< what the run is called on images
+    QString screenshotSubtitle;
+    QString badgeSymbol; ///< how the volume was attached, as `kind`
+    QString customTitle; ///< "" without one
+    QString stamp;       ///< date, time and length
+    QString shortStamp;
+    QString connection;
+    bool isNetwork = false;
+    int kind = 0; ///< RunRecord::Kind, a network volume by its file system too
+    double writeBps = 0;
+    double writePeakBps = 0;
+    double writeMinBps = 0;
+    double readBps = 0;
+    double readPeakBps = 0;
+    double readMinBps = 0;
+    QVariantList minor;    ///< InfoItem: random and file operations
+    QVariantList captured; ///< InfoItem: the volume and the settings at the time
+
+    static RunFacts of(const model::RunRecord& run);
+};
+
+/// Gives QML the facts of a run: `Runs.facts(run)`.
+class Runs : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+public:
+    Q_INVOKABLE static TarnwickKit::views::RunFacts facts(const TarnwickKit::model::RunRecord& run) {
+        return RunFacts::of(run);
+    }
+};
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,60 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import TarnwickKit.views
+
+/// The figures of a finished run.
+RowLayout {
+    id: headline
+
+    required property runFacts facts
+
+    spacing: 0
+
+    BigStat {
+        Layout.fillWidth: true
+        Layout.preferredWidth: 1
+        label: qsTr("Sequential Write")
+        dot: PaletteKey.palette.coral
+        value: headline.facts.writeBps
+        peak: headline.facts.writePeakBps
+        least: headline.facts.writeMinBps
+    }
+    Separator {
+        Layout.fillHeight: true
+        color: PaletteKey.palette.borderSoft
+    }
+    BigStat {
+        Layout.fillWidth: true
+        Layout.preferredWidth: 1
+        label: qsTr("Sequential Read")
+        dot: PaletteKey.palette.teal
+        value: headline.facts.readBps
+        peak: headline.facts.readPeakBps
+        least: headline.facts.readMinBps
+    }
+    Separator {
+        Layout.fillHeight: true
+        color: PaletteKey.palette.borderSoft
+    }
+    Column {
+        leftPadding: 20
+        rightPadding: 20
+        topPadding: 17
+        bottomPadding: 17
+        spacing: 9
+
+        Repeater {
+            model: headline.facts.minor
+
+            MiniStat {
+                required property infoItem modelData
+
+                width: 220
+                label: modelData.label
+                value: modelData.value
+            }
+        }
+    }
+}

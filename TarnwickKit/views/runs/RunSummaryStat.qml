@@ -1,0 +1,59 @@
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+/// A rate in a row of runs. Units: bytes per second; not a number where there is none.
+Column {
+    id: stat
+
+    required property string label
+    required property color dot
+    required property real value
+
+    spacing: 2
+    Accessible.role: Accessible.StaticText
+    Accessible.name: label + ": " + figure.text + " MB/s"
+
+    Row {
+        spacing: 6
+
+        Card {
+            anchors.verticalCenter: parent.verticalCenter
+            width: 8
+            height: 8
+            radius: 2
+            color: stat.dot
+        }
+        PlainText {
+            text: stat.label
+            font: Typeface.text(11)
+            color: stat.PaletteKey.palette.text2
+            Accessible.ignored: true
+        }
+    }
+    Row {
+        spacing: 3
+
+        PlainText {
+            id: figure
+
+            width: Math.min(implicitWidth, stat.width - unit.width - 3)
+            // Nothing fits before the row is laid out, and each size that is tried costs a font.
+            fontSizeMode: stat.width > 0 ? Text.HorizontalFit : Text.FixedSize
+            minimumPixelSize: 7
+            text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)
+            font: Typeface.figures(18)
+            color: stat.PaletteKey.palette.text
+            Accessible.ignored: true
+        }
+        PlainText {
+            id: unit
+
+            anchors.baseline: figure.baseline
+            text: "MB/s"
+            font: Typeface.text(11)
+            color: stat.PaletteKey.palette.text3
+            Accessible.ignored: true
+        }
+    }
+}

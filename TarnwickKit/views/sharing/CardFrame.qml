@@ -1,0 +1,51 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// The raised card that shows a run: a header row, a hairline, and what belongs under it.
+Card {
+    id: frame
+
+    property alias header: head.data
+    property real headerPadding: 15
+    default property alias content: column.data
+
+    implicitHeight: column.implicitHeight
+    radius: 15
+    color: PaletteKey.palette.panel
+    outline: PaletteKey.palette.border
+    shadowColor: PaletteKey.palette.shadow
+    shadowRadius: 22
+    shadowOffset: 16
+
+    ColumnLayout {
+        id: column
+
+        width: frame.width
+        spacing: 0
+
+        RowLayout {
+            id: head
+
+            Layout.fillWidth: true
+            Layout.leftMargin: 18
+            Layout.rightMargin: 18
+            Layout.topMargin: frame.headerPadding
+            Layout.bottomMargin: frame.headerPadding
+            spacing: 12
+        }
+        Separator {
+            Layout.fillWidth: true
+            color: PaletteKey.palette.borderSoft
+        }
+    }
+    // Above what reaches to the card's sides.
+    Card {
+        z: 1
+        width: frame.width
+        height: frame.height
+        radius: frame.radius
+        outline: frame.outline
+    }
+}

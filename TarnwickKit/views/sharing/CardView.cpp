@@ -1,0 +1,52 @@
+#include "TarnwickKit/views/sharing/CardView.h"
+
+#include "OndelControls/ViewEngine.h"
+#include "TarnwickKit/views/style/PaletteKey.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace TarnwickKit::views {
+
+namespace {
+
+/// One for all cards of the process, since most of a first card's time goes into loading its types.
+QQmlEngine& engine() {
+    static QPointer<QQmlEngine> shared;
+    if (!shared) {
+        shared = new QQmlEngine(QCoreApplication::instance());
+        OndelControls::prepareEngine(*shared);
+    }
+    return *shared;
+}
+
+} // namespace
+
+std::unique_ptr<QQuickItem> newCard(const QString& name, const QVariantMap& properties,
+                                    const Palette& palette) {
+    QQmlComponent component(&engine(),
+                            QUrl(QStringLiteral("qrc:/qt/qml/TarnwickKit/views/%1.qml").arg(name)));
+    // Letters from distance fields differ between processes and may have coloured fringes; these do not.
+    const auto windowText = QQuickWindow::textRenderType();
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+    std::unique_ptr<QObject> view(component.beginCreate(engine().rootContext()));
+    if (view) {
+        component.setInitialProperties(view.get(), properties);
+        PaletteKey::install(view.get(), palette);
+        component.completeCreate();
+    }
+    QQuickWindow::setTextRenderType(windowText);
+    if (component.isError()) {
+        qCritical("%s", qPrintable(component.errorString()));
+        return nullptr;
+    }
+    return std::unique_ptr<QQuickItem>(qobject_cast<QQuickItem*>(view.release()));
+}
+
+QString productLink() { return QStringLiteral(ONDEL_PRODUCT_LINK); }
+
+} // namespace TarnwickKit::views

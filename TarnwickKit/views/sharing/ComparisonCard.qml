@@ -1,0 +1,80 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// A comparison as a picture to share, with the chart that its pane in the window has.
+ImageCard {
+    id: card
+
+    required property comparedRuns runs
+    /// The product's web address without its scheme.
+    required property string link
+
+    Item {
+        width: parent.width
+        height: brand.implicitHeight + 30
+
+        Brand {
+            id: brand
+
+            x: 18
+            y: 15
+            nameSize: 16
+            link: card.link
+        }
+    }
+    Separator {
+        width: parent.width
+        color: PaletteKey.palette.borderSoft
+    }
+    ComparisonChart {
+        width: parent.width
+        runs: card.runs
+        trackWidth: 460
+    }
+    Separator {
+        width: parent.width
+        color: PaletteKey.palette.border
+    }
+    CardFoot {
+        width: parent.width
+        implicitHeight: row.implicitHeight + 32
+        corner: card.corner
+
+        RowLayout {
+            id: row
+
+            x: 20
+            y: 16
+            width: parent.width - 40
+            spacing: 14
+
+            Column {
+                spacing: 1
+
+                PlainText {
+                    text: qsTr("Runs comparison")
+                    font: Typeface.display(15)
+                    color: PaletteKey.palette.text
+                }
+                PlainText {
+                    text: qsTr("%1 benchmarks compared").arg(card.runs.count)
+                    font: Typeface.mono(11)
+                    color: PaletteKey.palette.text3
+                }
+            }
+            Item {
+                Layout.fillWidth: true
+            }
+            PlainText {
+                text: qsTr("Scan to try it")
+                font: Typeface.mono(10.5)
+                color: PaletteKey.palette.text3
+            }
+            QRTile {
+                link: card.link
+            }
+        }
+    }
+}

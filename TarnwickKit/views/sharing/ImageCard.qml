@@ -1,0 +1,36 @@
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+/// A card that is shared as an image: pieces below each other, with a transparent margin around.
+Item {
+    id: view
+
+    default property alias content: pieces.data
+    readonly property real margin: 24
+    readonly property real corner: 16
+
+    width: 760 + 2 * margin
+    height: pieces.height + 2 * margin
+
+    Card {
+        x: view.margin
+        y: view.margin
+        width: 760
+        height: pieces.height
+        radius: view.corner
+        color: PaletteKey.palette.panel
+
+        Column {
+            id: pieces
+
+            width: parent.width
+        }
+        // Above what reaches to the card's sides.
+        Card {
+            anchors.fill: parent
+            radius: view.corner
+            outline: PaletteKey.palette.border
+        }
+    }
+}

@@ -1,0 +1,108 @@
+#include "TarnwickKit/views/sharing/ReportImage.h"
+
+#include "OndelCore/platform/process/SystemCalls.h"
+#include "OndelCore/platform/storage/PrivateFolder.h"
+#include "OndelCore/platform/storage/ReplaceFile.h"
+#include "TarnwickKit/views/sharing/CardView.h"
+#include "TarnwickKit/views/sharing/PngEncoding.h"
+#include "TarnwickKit/views/sharing/ViewPicture.h"
+#include "TarnwickKit/views/style/LegibleText.h"
+#include "TarnwickKit/views/style/TarnwickFonts.h"
+
+#include <QPromise>
+#include <QQuickItem>
+#include <QTextBoundaryFinder>
+#include <QThreadPool>
+
+#include <utility>
+
+namespace TarnwickKit::views {
+
+namespace fs = std::filesystem;
+using model::RunRecord;
+
+namespace {
+
+constexpr std::string_view extension = ".png";
+
+const auto titlePrefix = QStringLiteral("Ondel Tarnwick — ");
+constexpr qsizetype longestFileName = 255; // bytes; NAME_MAX of every file system in use
+
+/// The longest beginning of `text` that has at most `bytes` in UTF-8 and ends with a whole character.
+QString cut(const QString& text, qsizetype bytes) {
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    qsizetype end = 0;
+    for (qsizetype next = finder.toNextBoundary(); next > 0; next = finder.toNextBoundary()) {
+        if (text.first(next).toUtf8().size() > bytes)
+            break;
+        end = next;
+    }
+    return text.first(end);
+}
+
+std::unique_ptr<QQuickItem> reportCard(const RunRecord& run, const Palette& palette) {
+    return newCard(
+        QStringLiteral("ReportCard"),
+        {{QStringLiteral("run"), QVariant::fromValue(run)}, {QStringLiteral("link"), productLink()}},
+        palette);
+}
+
+ImageFile written(QImage image, const QString& baseName) {
+    const auto folder = OndelCore::platform::privateTemporaryFolder();
+    const QByteArray png = encodedPng(std::exchange(image, QImage()));
+    OndelCore::platform::giveBackFreedMemory(); // a picture takes eight megabytes
+    if (!folder || png.isEmpty())
+        return std::nullopt;
+    const fs::path path = *folder / ReportImage::fileName(baseName);
+    if (OndelCore::platform::replaceFile(path, {png.data(), static_cast<std::size_t>(png.size())},
+                                         fs::perms::owner_read | fs::perms::owner_write,
+                                         OndelCore::platform::Lasting::untilPowerLoss))
+        return std::nullopt;
+    return path;
+}
+
+} // namespace
+
+std::string ReportImage::fileName(const QString& baseName) {
+    QString name = baseName;
+    for (QChar& character : name)
+        if (character == u'/' || disturbsLine(character))
+            character = u'-';
+    if (name.startsWith(u'.'))
+        name[0] = u'-';
+    const std::string stem =
+        cut(name, longestFileName - static_cast<qsizetype>(extension.size())).toStdString();
+    return (stem.empty() ? "-" : stem) + std::string(extension);
+}
+
+ImageFile ReportImage::png(QQuickItem& view, const QString& baseName) {
+    return written(viewPicture(view, scale), baseName);
+}
+
+QFuture<ImageFile> ReportImage::pngLater(QQuickItem* view, const QString& baseName) {
+    const auto promise = std::make_shared<QPromise<ImageFile>>();
+    promise->start();
+    QThreadPool::globalInstance()->start(
+        [image = view ? viewPicture(*view, scale) : QImage(), baseName, promise]() mutable {
+            promise->addResult(written(std::move(image), baseName));
+            promise->finish();
+        });
+    return promise->future();
+}
+
+ImageFile ReportImage::render(const RunRecord& run, const Palette& palette) {
+    const auto card = reportCard(run, palette);
+    return card ? png(*card, titlePrefix + run.screenshotTitle()) : std::nullopt;
+}
+
+QFuture<ImageFile> ReportImage::renderLater(const RunRecord& run, const Palette& palette) {
+    const auto card = reportCard(run, palette);
+    return pngLater(card.get(), titlePrefix + run.screenshotTitle());
+}
+
+ImageFile reportImage(const model::TarnwickReport& report, bool dark) {
+    TarnwickFonts::registerFrom();
+    return ReportImage::render(report.run, dark ? Palette::dark() : Palette::light());
+}
+
+} // namespace TarnwickKit::views

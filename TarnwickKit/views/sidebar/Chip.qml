@@ -1,0 +1,22 @@
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+Card {
+    id: chip
+
+    property alias text: words.text
+
+    implicitWidth: words.implicitWidth + 18
+    implicitHeight: words.implicitHeight + 6
+    radius: height / 2
+    color: PaletteKey.palette.chip
+
+    PlainText {
+        id: words
+
+        anchors.centerIn: parent
+        font: Typeface.text(12, Font.Medium)
+        color: PaletteKey.palette.text2
+    }
+}

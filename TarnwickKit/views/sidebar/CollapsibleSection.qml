@@ -1,0 +1,83 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// A heading that shows and hides what belongs to it. That need not be there before `isShown`.
+Column {
+    id: section
+
+    required property string label
+    property bool isExpanded: true
+    readonly property bool isShown: isExpanded || body.height > 0
+    property string detail: ""
+    property bool moves: false // not before somebody asked for it
+    property alias header: head.data
+    default property alias content: holder.data
+
+    signal toggled(expanded: bool)
+
+    PlainButton {
+        width: parent.width
+        label: section.label
+        detail: section.detail
+        corner: 4
+        leftPadding: 4
+        rightPadding: 4
+        topPadding: 6
+        bottomPadding: section.isExpanded ? 11 : 0
+        Accessible.checkable: true
+        Accessible.checked: section.isExpanded
+        onClicked: {
+            section.moves = true;
+            section.toggled(!section.isExpanded);
+        }
+
+        contentItem: RowLayout {
+            spacing: 6
+
+            Item {
+                id: head
+
+                Layout.fillWidth: true
+                implicitHeight: childrenRect.height
+            }
+            Symbol {
+                name: "chevron.right"
+                size: 9
+                weight: Font.DemiBold
+                color: PaletteKey.palette.text3
+                rotation: section.isExpanded ? 90 : 0
+
+                Behavior on rotation {
+                    NumberAnimation {
+                        duration: 150
+                        easing.type: Easing.InOutQuad
+                    }
+                }
+            }
+        }
+    }
+    Item {
+        id: body
+
+        width: parent.width
+        height: section.isExpanded ? holder.height : 0
+        clip: true
+
+        Behavior on height {
+            enabled: section.moves
+
+            NumberAnimation {
+                duration: 150
+                easing.type: Easing.InOutQuad
+            }
+        }
+
+        Column {
+            id: holder
+
+            width: parent.width
+        }
+    }
+}

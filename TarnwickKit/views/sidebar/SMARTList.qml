@@ -1,0 +1,50 @@
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+/// The figures of the target's drive, and the way to keep them.
+Column {
+    id: list
+
+    required property AnalyzerModel analyzer
+    required property TargetFacts target
+
+    spacing: 4
+
+    InfoList {
+        width: parent.width
+        items: list.target.health
+    }
+    PlainButton {
+        label: qsTr("Export…")
+        hint: qsTr("Save these figures as a text file")
+        corner: 7
+        leftPadding: 10
+        rightPadding: 10
+        topPadding: 5
+        bottomPadding: 5
+        onClicked: list.analyzer.exportSMART()
+
+        background: Card {
+            radius: 7
+            color: PaletteKey.palette.panel
+            outline: PaletteKey.palette.border
+        }
+        contentItem: Row {
+            spacing: 5
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "square.and.arrow.up"
+                size: 12
+                color: PaletteKey.palette.text2
+            }
+            PlainText {
+                text: qsTr("Export…")
+                font: Typeface.text(12)
+                color: PaletteKey.palette.text2
+                Accessible.ignored: true
+            }
+        }
+    }
+}

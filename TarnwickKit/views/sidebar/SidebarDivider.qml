@@ -1,0 +1,13 @@
+import QtQuick
+import TarnwickKit.views
+
+Item {
+    implicitHeight: 21
+
+    Separator {
+        x: 4
+        y: 20
+        width: parent.width - 8
+        color: PaletteKey.palette.border
+    }
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "TarnwickKit/views/window/ModelObserver.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringList>
+#include <QVariantList>
+
+namespace TarnwickKit::views {
+
+/// One entry of the volume menu, for QML.
+struct VolumeItem {
+    Q_GADGET
+    QML_VALUE_TYPE(volumeItem)
+    Q_PROPERTY(QUrl url MEMBER url CONSTANT)
+    Q_PROPERTY(QString label MEMBER label CONSTANT)
+    Q_PROPERTY(QString symbol MEMBER symbol CONSTANT)
+
+public:
+    QUrl url;
+    QString label;
+    QString symbol;
+
+    bool operator==(const VolumeItem&) const = default;
+};
+
+/// What is known of the model's target, in the words in which the window shows it.
+class TargetFacts : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(
+        TarnwickKit::model::AnalyzerModel* analyzer READ analyzer WRITE setAnalyzer NOTIFY analyzerChanged)
+
+    /// The volume's name and the line under it; "" without a volume.
+    Q_PROPERTY(QString volumeName READ volumeName NOTIFY volumeChanged)
+    Q_PROPERTY(QString volumeLine READ volumeLine NOTIFY volumeChanged)
+    /// How it is attached, as Palette's badge colours want it.
+    Q_PROPERTY(int volumeKind READ volumeKind NOTIFY volumeChanged)
+
+    Q_PROPERTY(bool hasCapabilities READ hasCapabilities NOTIFY volumeChanged)
+    Q_PROPERTY(QVariantList capabilities READ capabilities NOTIFY volumeChanged)
+    /// The names of what the file system can do.
+    Q_PROPERTY(QStringList features READ features NOTIFY volumeChanged)
+    /// Names what the file system may be able to do, as long as that is not known; "" where all is known.
+    Q_PROPERTY(QString featuresNote READ featuresNote NOTIFY volumeChanged)
+
+    Q_PROPERTY(bool hasHealth READ hasHealth NOTIFY healthChanged)
+    Q_PROPERTY(bool isFailing READ isFailing NOTIFY healthChanged)
+    Q_PROPERTY(QVariantList health READ health NOTIFY healthChanged)
+    /// Why nothing, or not all, is known of the drive's health; "" where all is, or there is no drive.
+    Q_PROPERTY(QString healthNote READ healthNote NOTIFY healthChanged)
+public:
+    using QObject::QObject;
+
+    model::AnalyzerModel* analyzer() const { return m_analyzer; }
+    void setAnalyzer(model::AnalyzerModel* analyzer);
+    Q_SIGNAL void analyzerChanged();
+
+    QString volumeName() const;
+    QString volumeLine() const;
+    int volumeKind() const;
+    bool hasCapabilities() const { return m_analyzer && m_analyzer->capabilities(); }
+    QVariantList capabilities() const;
+    QStringList features() const;
+    QStringList unknownFeatures() const;
+    QString featuresNote() const;
+    Q_SIGNAL void volumeChanged();
+
+    bool hasHealth() const;
+    bool isFailing() const;
+    QVariantList health() const;
+    QString healthNote() const;
+    Q_SIGNAL void healthChanged();
+
+    /// The mounted volumes as they are now, of type VolumeItem. It may take half a second.
+    Q_INVOKABLE static QVariantList mountedVolumes();
+
+private:
+    ModelObserver m_analyzer;
+};
+
+} // namespace TarnwickKit::views

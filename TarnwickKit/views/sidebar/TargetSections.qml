@@ -1,0 +1,129 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+/// What is known of the target: its file system and its drive. Which of the two is open is remembered.
+Column {
+    id: sections
+
+    required property AnalyzerModel analyzer
+    required property TargetFacts target
+
+    // What there is nothing to tell of, or what is folded, is not there for assistive technology either.
+    Repeater {
+        model: sections.target.hasCapabilities ? 1 : 0
+
+        Column {
+            width: sections.width
+
+            SidebarDivider {
+                width: parent.width
+            }
+            CollapsibleSection {
+                id: capabilities
+
+                width: parent.width
+                label: qsTr("Volume Capabilities")
+                isExpanded: kept.capabilitiesExpanded
+                onToggled: expanded => kept.capabilitiesExpanded = expanded
+
+                header: PlainText {
+                    text: capabilities.label
+                    font: Typeface.display(14)
+                    color: PaletteKey.palette.heading
+                    Accessible.ignored: true
+                }
+
+                Repeater {
+                    model: capabilities.isShown ? 1 : 0
+
+                    Column {
+                        x: 4
+                        width: capabilities.width - 8
+                        spacing: 14
+
+                        CapabilitiesList {
+                            width: parent.width
+                            target: sections.target
+                        }
+                        FeatureChips {
+                            width: parent.width
+                            target: sections.target
+                        }
+                        PlainText {
+                            width: parent.width
+                            visible: text !== ""
+                            text: sections.target.featuresNote
+                            font: Typeface.text(11)
+                            color: PaletteKey.palette.text3
+                            wrapMode: Text.Wrap
+                        }
+                    }
+                }
+            }
+        }
+    }
+    Repeater {
+        model: sections.target.hasHealth ? 1 : 0
+
+        Column {
+            width: sections.width
+
+            SidebarDivider {
+                width: parent.width
+            }
+            CollapsibleSection {
+                id: health
+
+                width: parent.width
+                label: qsTr("S.M.A.R.T.")
+                detail: sections.target.isFailing ? qsTr("Failing") : qsTr("Verified")
+                isExpanded: kept.healthExpanded
+                onToggled: expanded => kept.healthExpanded = expanded
+
+                header: SMARTHeader {
+                    width: parent.width
+                    target: sections.target
+                }
+
+                Repeater {
+                    model: health.isShown ? 1 : 0
+
+                    SMARTList {
+                        x: 4
+                        width: health.width - 8
+                        analyzer: sections.analyzer
+                        target: sections.target
+                    }
+                }
+            }
+        }
+    }
+    Repeater {
+        model: sections.target.healthNote === "" ? 0 : 1
+
+        Column {
+            width: sections.width
+
+            SidebarDivider {
+                width: parent.width
+                visible: !sections.target.hasHealth
+            }
+            PlainText {
+                x: 4
+                width: parent.width - 8
+                topPadding: 6
+                text: sections.target.healthNote
+                wrapMode: Text.Wrap
+                font: Typeface.text(12)
+                color: PaletteKey.palette.text3
+            }
+        }
+    }
+
+    SidebarState {
+        id: kept
+    }
+}

@@ -1,0 +1,67 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// One test: whether it runs, and its figure of the last run.
+PlainButton {
+    id: row
+
+    required property string title
+    required property string figure
+    property bool chosen: false
+
+    signal wanted(chosen: bool)
+
+    label: title
+    corner: 9
+    leftPadding: 11
+    rightPadding: 11
+    topPadding: 9
+    bottomPadding: 9
+
+    detail: figure
+    checkable: true
+    checked: chosen
+    onCheckedChanged: if (checked !== chosen) wanted(checked)
+
+    background: Card {
+        radius: 9
+        color: row.chosen ? row.PaletteKey.palette.sel : "transparent"
+    }
+    contentItem: RowLayout {
+        spacing: 11
+
+        Card {
+            implicitWidth: 18
+            implicitHeight: 18
+            radius: 6
+            color: row.chosen ? row.PaletteKey.palette.accent : row.PaletteKey.palette.panel
+            outline: row.chosen ? "transparent" : row.PaletteKey.palette.border
+            outlineWidth: 1.5
+
+            Symbol {
+                anchors.centerIn: parent
+                visible: row.chosen
+                name: "checkmark"
+                size: 9
+                color: row.PaletteKey.palette.onAccent
+            }
+        }
+        PlainText {
+            Layout.fillWidth: true
+            text: row.title
+            font: Typeface.text(13.5, Font.Medium)
+            color: row.PaletteKey.palette.text
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        PlainText {
+            Layout.leftMargin: 4 - parent.spacing // the least gap, so that long titles stay whole
+            text: row.figure
+            font: Typeface.mono(11)
+            color: row.PaletteKey.palette.text3
+            Accessible.ignored: true
+        }
+    }
+}

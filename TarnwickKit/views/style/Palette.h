@@ -1,0 +1,116 @@
+#pragma once
+
+#include "TarnwickKit/model/runs/RunRecord.h"
+
+#include <QColor>
+#include <QList>
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringView>
+
+#include <utility>
+
+namespace TarnwickKit::views {
+
+/// An opaque sRGB colour from hexadecimal digits, the last six of them as red, green and blue.
+///
+/// Fails: never; what is no number is black.
+QColor hex(QStringView digits);
+
+/// Every colour that the program draws with. Two constant instances exist; which of them a view draws with
+/// comes to it through PaletteKey.
+///
+/// Threads: the instances are made at the first use and are read-only from then on.
+class Palette final : public QObject {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(ColorPalette) // QtQuick has a Palette of its own
+    QML_UNCREATABLE("A view reads the current one from PaletteKey.palette")
+
+    Q_PROPERTY(QColor bg MEMBER bg CONSTANT)
+    Q_PROPERTY(QColor body MEMBER body CONSTANT)
+    Q_PROPERTY(QColor sidebar MEMBER sidebar CONSTANT)
+    Q_PROPERTY(QColor panel MEMBER panel CONSTANT)
+    Q_PROPERTY(QColor panel2 MEMBER panel2 CONSTANT)
+    Q_PROPERTY(QColor tbTop MEMBER tbTop CONSTANT)
+    Q_PROPERTY(QColor tbBot MEMBER tbBot CONSTANT)
+    Q_PROPERTY(QColor border MEMBER border CONSTANT)
+    Q_PROPERTY(QColor borderSoft MEMBER borderSoft CONSTANT)
+    Q_PROPERTY(QColor text MEMBER text CONSTANT)
+    Q_PROPERTY(QColor text2 MEMBER text2 CONSTANT)
+    Q_PROPERTY(QColor text3 MEMBER text3 CONSTANT)
+    Q_PROPERTY(QColor heading MEMBER heading CONSTANT)
+    Q_PROPERTY(QColor coral MEMBER coral CONSTANT)
+    Q_PROPERTY(QColor coral2 MEMBER coral2 CONSTANT)
+    Q_PROPERTY(QColor coralink MEMBER coralink CONSTANT)
+    Q_PROPERTY(QColor coralSoft MEMBER coralSoft CONSTANT)
+    Q_PROPERTY(QColor teal MEMBER teal CONSTANT)
+    Q_PROPERTY(QColor teal2 MEMBER teal2 CONSTANT)
+    Q_PROPERTY(QColor tealSoft MEMBER tealSoft CONSTANT)
+    Q_PROPERTY(QColor amber MEMBER amber CONSTANT)
+    Q_PROPERTY(QColor good MEMBER good CONSTANT)
+    Q_PROPERTY(QColor goodDot MEMBER goodDot CONSTANT)
+    Q_PROPERTY(QColor chip MEMBER chip CONSTANT)
+    Q_PROPERTY(QColor sel MEMBER sel CONSTANT)
+    Q_PROPERTY(QColor grid MEMBER grid CONSTANT)
+    Q_PROPERTY(QColor track MEMBER track CONSTANT)
+    Q_PROPERTY(QColor writeFill MEMBER writeFill CONSTANT)
+    Q_PROPERTY(QColor readFill MEMBER readFill CONSTANT)
+    Q_PROPERTY(QColor shadow MEMBER shadow CONSTANT)
+    Q_PROPERTY(QColor blue MEMBER blue CONSTANT)
+    Q_PROPERTY(QColor accent MEMBER accent CONSTANT)
+    Q_PROPERTY(QColor onAccent MEMBER onAccent CONSTANT)
+    Q_PROPERTY(QList<QColor> series MEMBER series CONSTANT)
+
+public:
+    static const Palette& light();
+    static const Palette& dark();
+
+    /// The two stops of the gradient behind a volume's symbol.
+    std::pair<QColor, QColor> badgeColors(model::RunRecord::Kind kind) const;
+    /// The same for views, of which each knows which stop it wants.
+    Q_INVOKABLE QColor badgeStart(int kind) const { return badgeColors(kindOf(kind)).first; }
+    Q_INVOKABLE QColor badgeEnd(int kind) const { return badgeColors(kindOf(kind)).second; }
+
+    QColor bg;   ///< the whole window
+    QColor body; ///< main pane
+    QColor sidebar;
+    QColor panel;      ///< cards and rows
+    QColor panel2;     ///< toolbar, inner strips, icon buttons
+    QColor tbTop;      ///< toolbar tone, top
+    QColor tbBot;      ///< toolbar tone, bottom
+    QColor border;     ///< strong hairlines, outlines of cards
+    QColor borderSoft; ///< hairlines inside cards
+    QColor text;
+    QColor text2;
+    QColor text3; ///< axis labels, captions
+    QColor heading;
+    QColor coral; ///< the write series
+    QColor coral2;
+    QColor coralink;
+    QColor coralSoft;
+    QColor teal; ///< the read series, links, what is active
+    QColor teal2;
+    QColor tealSoft;
+    QColor amber;   ///< warnings
+    QColor good;    ///< positive text
+    QColor goodDot; ///< positive dots
+    QColor chip;
+    QColor sel;       ///< a selected row
+    QColor grid;      ///< chart grid
+    QColor track;     ///< what bars run in
+    QColor writeFill; ///< area under the write series
+    QColor readFill;  ///< area under the read series
+    QColor shadow;
+    QColor blue;
+    QColor accent;        ///< filled controls, check marks
+    QColor onAccent;      ///< what stands on `accent`
+    QList<QColor> series; ///< one colour per compared run
+
+private:
+    enum class Tone { Light, Dark };
+    explicit Palette(Tone tone);
+
+    static model::RunRecord::Kind kindOf(int kind) { return static_cast<model::RunRecord::Kind>(kind); }
+};
+
+} // namespace TarnwickKit::views

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "OndelDesktop/ColorScheme.h"
+#include "TarnwickKit/views/style/Palette.h"
+
+#include <QObject>
+#include <QQmlEngine>
+
+namespace TarnwickKit::views {
+
+/// Whether the desktop is dark or light, now and as it changes: what its portal says, else what the
+/// platform's own palette looks like.
+class Appearance final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+    Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
+    /// The palette that goes with it.
+    Q_PROPERTY(TarnwickKit::views::Palette* palette READ palette NOTIFY darkChanged)
+    Q_PROPERTY(TarnwickKit::views::Palette* lightPalette READ lightPalette CONSTANT)
+    Q_PROPERTY(TarnwickKit::views::Palette* darkPalette READ darkPalette CONSTANT)
+
+public:
+    explicit Appearance(QObject* parent = nullptr);
+
+    bool isDark() const { return m_dark; }
+    Q_SIGNAL void darkChanged();
+
+    Palette* palette() const { return m_dark ? darkPalette() : lightPalette(); }
+    static Palette* lightPalette() { return const_cast<Palette*>(&Palette::light()); }
+    static Palette* darkPalette() { return const_cast<Palette*>(&Palette::dark()); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void decide();
+
+    OndelDesktop::ColorScheme m_scheme = OndelDesktop::ColorScheme::NoPreference;
+    bool m_dark = false;
+    OndelDesktop::ColorSchemeWatch m_watch;
+};
+
+} // namespace TarnwickKit::views

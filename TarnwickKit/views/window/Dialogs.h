@@ -1,0 +1,44 @@
+#pragma once
+
+#include "TarnwickKit/model/session/AnalyzerDialogs.h"
+
+#include <QFileDialog>
+#include <QPointer>
+
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+class QWindow;
+
+namespace TarnwickKit::views {
+
+/// The model's questions, asked in the desktop's dialogs over the main window. None of them blocks.
+/// Threads: main. Needs a QApplication.
+class Dialogs : public model::AnalyzerDialogs {
+public:
+    ~Dialogs() override;
+
+    /// The window that dialogs belong to from now on. Owner: the caller.
+    void setWindow(QWindow* window) { m_window = window; }
+
+    void askForFolder(const QString& message, const QString& prompt,
+                      const std::optional<std::filesystem::path>& startingAt, Chosen chosen) override;
+    void askForTextFile(const QString& proposedName, Chosen chosen) override;
+    /// Asks where to save a PNG image, beginning where the user keeps pictures.
+    void askForImageFile(const QString& proposedName, const Chosen& chosen);
+    void showError(const QString& sentence) override;
+
+    /// Asks for existing run files, one or several.
+    void askForRunFiles(std::function<void(const std::vector<std::filesystem::path>&)> chosen);
+
+private:
+    QFileDialog* newFileDialog(const Chosen& chosen);
+    QFileDialog* newSaveDialog(const QString& type, const QString& suffix, const Chosen& chosen);
+    void show(QDialog* dialog);
+
+    QPointer<QWindow> m_window;
+    QPointer<QDialog> m_dialog;
+};
+
+} // namespace TarnwickKit::views

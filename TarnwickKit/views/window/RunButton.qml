@@ -1,0 +1,80 @@
+import QtQuick
+import OndelControls
+import TarnwickKit.views
+
+/// Starts a run; while one goes, stops it.
+PlainButton {
+    id: button
+
+    required property AnalyzerModel analyzer
+    readonly property bool stops: analyzer.isRunning
+
+    label: stops ? qsTr("Stop") : qsTr("Run Benchmark")
+    corner: 10
+    leftPadding: 18
+    rightPadding: 18
+    topPadding: 9
+    bottomPadding: 9
+    enabled: stops || analyzer.canRun
+
+    function run(): void {
+        if (analyzer.isFillDisk)
+            confirmFill();
+        else
+            analyzer.start();
+    }
+    function confirmFill(): void {
+        question.setSource("Alert.qml", {
+            parent: button,
+            title: qsTr("Fill the disk?"),
+            message: qsTr("The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.").arg(Format.bytes(Format.defaultLeaveFree)),
+            cancelText: qsTr("Cancel"),
+            acceptText: qsTr("Fill Disk")
+        });
+        (question.item as Alert).open();
+    }
+
+    onClicked: stops ? analyzer.cancel() : run()
+
+    background: Card {
+        radius: 10
+        color: button.stops ? PaletteKey.palette.text2 : PaletteKey.palette.accent
+        shadowColor: button.stops ? "transparent" : PaletteKey.palette.shadow
+        shadowRadius: 9
+        shadowOffset: 5
+    }
+    contentItem: Row {
+        readonly property color ink: button.stops ? "white" : PaletteKey.palette.onAccent
+
+        spacing: button.stops ? 8 : 9
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            name: button.stops ? "stop.fill" : "play.fill"
+            size: 10
+            color: parent.ink
+        }
+        PlainText {
+            text: button.label
+            font: Typeface.display(14)
+            color: parent.ink
+            Accessible.ignored: true
+        }
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+Return", "Ctrl+Enter"]
+        enabled: !button.stops && button.enabled
+        onActivated: button.run()
+    }
+    Loader {
+        id: question
+    }
+    Connections {
+        target: question.item
+
+        function onAccepted(): void {
+            button.analyzer.start();
+        }
+    }
+}

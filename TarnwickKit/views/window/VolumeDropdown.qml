@@ -1,0 +1,91 @@
+import QtQuick
+import QtQuick.Layouts
+import OndelControls
+import TarnwickKit.views
+
+/// Names the volume under test and drops the menu to choose another.
+PlainButton {
+    id: dropdown
+
+    required property AnalyzerModel analyzer
+    required property TargetFacts target
+    readonly property bool hasTarget: analyzer.targetFolder.length > 0
+
+    label: qsTr("Volume")
+    hint: analyzer.targetFolder
+    corner: 10
+    leftPadding: 9
+    rightPadding: 12
+    topPadding: 7
+    bottomPadding: 7
+    implicitWidth: Math.max(244, implicitContentWidth + leftPadding + rightPadding)
+    enabled: !analyzer.isRunning
+    opacity: pressed ? 0.75 : 1 // what is under test is read during a run
+    hoverEnabled: true
+
+    detail: title.text + ", " + subtitle.text
+    onClicked: show()
+    Keys.onDownPressed: show()
+
+    function show(): void {
+        if (!menu.item)
+            menu.setSource("VolumeMenu.qml", {button: dropdown, analyzer: analyzer, target: target});
+        (menu.item as PopupMenu).open();
+    }
+
+    background: Card {
+        radius: 10
+        color: PaletteKey.palette.panel
+        outline: dropdown.hovered ? Qt.alpha(PaletteKey.palette.teal, 0.6) : PaletteKey.palette.border
+        shadowColor: Qt.rgba(0, 0, 0, 0.04)
+        shadowRadius: 1
+        shadowOffset: 1
+    }
+    contentItem: RowLayout {
+        spacing: 11
+
+        VolumeBadge {
+            symbol: dropdown.analyzer.selectedVolumeIcon
+            color: dropdown.hasTarget ? PaletteKey.palette.badgeStart(dropdown.target.volumeKind) : PaletteKey.palette.text3
+            endColor: dropdown.hasTarget ? PaletteKey.palette.badgeEnd(dropdown.target.volumeKind)
+                                         : Qt.alpha(PaletteKey.palette.text3, 0.7)
+        }
+        ColumnLayout {
+            spacing: 1
+
+            PlainText {
+                id: title
+
+                Layout.fillWidth: true
+                text: dropdown.target.volumeName || qsTr("Select a volume")
+                horizontalAlignment: Text.AlignLeft
+                font: Typeface.display(14)
+                color: PaletteKey.palette.text
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+            PlainText {
+                id: subtitle
+
+                Layout.fillWidth: true
+                text: dropdown.target.volumeLine || qsTr("No volume selected")
+                horizontalAlignment: Text.AlignLeft
+                font: Typeface.mono(10.5)
+                color: PaletteKey.palette.text3
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+        }
+        Symbol {
+            Layout.leftMargin: 8
+            name: "chevron.up.chevron.down"
+            size: 11
+            color: PaletteKey.palette.text3
+            opacity: dropdown.enabled ? 1 : 0.4
+        }
+    }
+
+    Loader {
+        id: menu
+    }
+}

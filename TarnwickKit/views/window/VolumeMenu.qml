@@ -1,0 +1,49 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import TarnwickKit.views
+
+/// Where to measure: a mounted volume, or any folder.
+PopupMenu {
+    id: menu
+
+    required property PlainButton button
+    required property AnalyzerModel analyzer
+    required property TargetFacts target
+
+    parent: button
+    y: button.height + 4
+    leastWidth: button.width
+    // Asked anew each time, since volumes come and go.
+    onAboutToShow: volumes.model = target.mountedVolumes()
+
+    PopupMenuItem {
+        text: qsTr("Mounted volumes")
+        isHeading: true
+    }
+    Repeater {
+        id: volumes
+
+        PopupMenuItem {
+            required property volumeItem modelData
+
+            text: modelData.label
+            symbol: modelData.symbol
+            onTriggered: menu.analyzer.selectVolume(modelData.url)
+        }
+    }
+    T.MenuSeparator {
+        verticalPadding: 5
+        horizontalPadding: 10
+        implicitHeight: implicitContentHeight + topPadding + bottomPadding
+        contentItem: Separator {
+            color: PaletteKey.palette.borderSoft
+        }
+    }
+    PopupMenuItem {
+        text: qsTr("Choose Folder…")
+        symbol: "folder"
+        onTriggered: menu.analyzer.chooseFolder()
+    }
+}

@@ -1,0 +1,104 @@
+#include "TarnwickHost/HostProcess.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+
+#include <algorithm>
+#include <filesystem>
+
+using test::runHost;
+
+namespace {
+
+QStringList keysOf(const QJsonValue& object) {
+    QStringList keys = object.toObject().keys();
+    keys.sort();
+    return keys;
+}
+
+QJsonDocument json(const std::vector<std::string>& arguments) {
+    const auto outcome = runHost(arguments);
+    EXPECT_EQ(outcome.exitStatus, 0) << outcome.errors;
+    return QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output));
+}
+
+TEST(Facts, HoldEveryFieldByItsName) {
+    const QJsonObject facts = json({"facts", "--json", "/"}).object();
+    EXPECT_EQ(keysOf(facts["volume"]),
+              (QStringList{"available", "connection", "device", "format", "isEncrypted", "isInternal",
+                           "isReadOnly", "isRemovable", "name", "purgeable", "rawAvailable", "total", "used",
+                           "usedFraction", "volumeURL"}));
+    EXPECT_EQ(facts["volume"]["volumeURL"], "file:///");
+    QStringList capabilities = keysOf(facts["capabilities"]);
+    capabilities.removeOne("maxLinkCount"); // not every file system has one
+    EXPECT_EQ(capabilities,
+              (QStringList{"blockSize", "filesystemType", "isCasePreserving", "isCaseSensitive",
+                           "isJournalActive", "isSealed", "maxNameLength", "maxPathLength", "optimalIOSize",
+                           "supportsCloning", "supportsExtendedAttributes", "supportsExtendedSecurity",
+                           "supportsHardLinks", "supportsJournal", "supportsNamedStreams",
+                           "supportsSnapshots", "supportsSparseFiles", "supportsSymbolicLinks"}));
+    EXPECT_TRUE(facts["drive"].isObject());
+}
+
+TEST(Facts, KeepTheBytesOfAMountPointAndLeaveOutWhatIsNotKnown) {
+    const test::TemporaryFolder parent;
+    const auto point = parent.path() / "50% caf\xe9";
+    std::filesystem::create_directory(point);
+    if (mount("tmpfs", point.c_str(), "tmpfs", 0, "size=1m") != 0)
+        GTEST_SKIP() << "no right to mount";
+    const QJsonObject facts = json({"facts", "--json", point.string()}).object();
+    const auto text = runHost({"facts", point.string()}).output;
+    umount2(point.c_str(), MNT_DETACH);
+    const QByteArray url = facts["volume"]["volumeURL"].toString().toUtf8();
+    EXPECT_TRUE(url.endsWith("/50%25%20caf%E9")) << url.toStdString();
+    EXPECT_EQ(QByteArray::fromPercentEncoding(url).toStdString(), "file://" + point.string());
+    EXPECT_FALSE(facts["capabilities"].toObject().contains("optimalIOSize"));
+    EXPECT_TRUE(QString::fromLocal8Bit(text).contains(QRegularExpression("\\n *Optimal transfer +--\\n")))
+        << text;
+}
+
+TEST(Facts, StayOnOneLineEachWhateverTheFolderIsCalled) {
+    const test::TemporaryFolder parent;
+    for (const std::string name : {"two\nlines", "caf\xe9", "-dash", "\x1b[31m"}) {
+        std::filesystem::create_directory(parent.path() / name);
+        const auto outcome = runHost({"facts", (parent.path() / name).string()});
+        EXPECT_EQ(outcome.exitStatus, 0) << outcome.errors;
+        EXPECT_EQ(outcome.output.rfind("Volume\n  Name ", 0), 0U);
+        EXPECT_EQ(outcome.output.find('\x1b'), std::string::npos);
+    }
+}
+
+TEST(Facts, RefuseWrongCalls) {
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"facts"},
+                                                      {"facts", "/", "/"},
+                                                      {"facts", "/no/such/path"},
+                                                      {"facts", ""},
+                                                      {"volumes", "/"},
+                                                      {"volumes", "--yaml"}}) {
+        const auto outcome = runHost(arguments);
+        EXPECT_EQ(outcome.exitStatus, 2);
+        EXPECT_EQ(outcome.output, "");
+    }
+}
+
+TEST(Volumes, ListTheRootOnceInBothForms) {
+    const QJsonDocument list = json({"volumes", "--json"});
+    ASSERT_TRUE(list.isArray());
+    int roots = 0;
+    for (const QJsonValue& volume : list.array())
+        if (volume["url"] == "file:///") {
+            ++roots;
+            EXPECT_GT(volume["total"].toInteger(), 0);
+            EXPECT_FALSE(volume["name"].toString().isEmpty());
+        }
+    EXPECT_EQ(roots, 1);
+    const auto text = runHost({"volumes"}).output;
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), list.array().size() + 1);
+}
+
+} // namespace

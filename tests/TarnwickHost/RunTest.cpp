@@ -1,0 +1,258 @@
+#include "OndelCore/platform/storage/OpenFolders.h"
+#include "TarnwickHost/HostProcess.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+#include <sys/file.h>
+
+#include <algorithm>
+#include <csignal>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+using test::HostProcess;
+using test::Output;
+using test::runHost;
+
+namespace {
+
+/// Runs of a few megabytes, in a folder whose name is no valid UTF-8.
+class Run : public testing::Test {
+protected:
+    void SetUp() override {
+        fs::create_directory(folder);
+        if (fs::space(folder).available < (std::uintmax_t{1} << 30) + (std::uintmax_t{64} << 20))
+            GTEST_SKIP() << "a run needs 1 GiB of free space in " << fs::temp_directory_path();
+    }
+    bool folderIsEmpty() const { return fs::is_empty(folder); }
+
+    /// One that lasts until it is told to stop.
+    std::vector<std::string> endlessRun() const {
+        return {"run", "--tests", "randomRead", "--size", "1M", "--random-ops", "1000000000", folder};
+    }
+
+    const test::TemporaryFolder parent;
+    const fs::path folder = parent.path() / "a b\xff\n";
+};
+
+std::vector<double> rates(const QJsonObject& part) {
+    std::vector<double> values;
+    for (const QJsonValue sample : part["samples"].toArray())
+        values.push_back(sample["bytesPerSecond"].toDouble());
+    return values;
+}
+
+/// The median of the samples in the last third of the time, computed anew.
+double sustained(const QJsonObject& part) {
+    const QJsonArray samples = part["samples"].toArray();
+    const double from = samples.last()["elapsed"].toDouble() * (2.0 / 3.0);
+    std::vector<double> late;
+    for (const QJsonValue sample : samples)
+        if (sample["elapsed"].toDouble() >= from)
+            late.push_back(sample["bytesPerSecond"].toDouble());
+    std::sort(late.begin(), late.end());
+    return (late[(late.size() - 1) / 2] + late[late.size() / 2]) / 2;
+}
+
+void expectSequential(const QJsonObject& part, qint64 bytes, qint64 block) {
+    EXPECT_EQ(part["bytesProcessed"].toInteger(), bytes);
+    EXPECT_EQ(part["blockSize"].toInteger(), block);
+    const double duration = part["duration"].toDouble();
+    ASSERT_GT(duration, 0);
+    EXPECT_DOUBLE_EQ(part["bytesPerSecond"].toDouble(), static_cast<double>(bytes) / duration);
+
+    const QJsonArray samples = part["samples"].toArray();
+    ASSERT_EQ(samples.size(), (bytes + block - 1) / block) << "an interval of 0 samples every call";
+    double covered = 0;
+    double last = 0;
+    for (const QJsonValue sample : samples) {
+        const double elapsed = sample["elapsed"].toDouble();
+        EXPECT_GT(elapsed, last);
+        covered += sample["bytesPerSecond"].toDouble() * (elapsed - last);
+        last = elapsed;
+    }
+    EXPECT_NEAR(covered, static_cast<double>(bytes), 1);
+    EXPECT_LE(last, duration);
+
+    const auto all = rates(part);
+    const double peak = *std::max_element(all.begin(), all.end());
+    EXPECT_DOUBLE_EQ(part["peakBytesPerSecond"].toDouble(), peak);
+    EXPECT_DOUBLE_EQ(part["sustainedBytesPerSecond"].toDouble(), sustained(part));
+    ASSERT_TRUE(part["observedCacheCliff"].isBool());
+    EXPECT_EQ(part["observedCacheCliff"].toBool(), peak * 0.8 > sustained(part));
+}
+
+void expectRandom(const QJsonObject& part, qint64 operations, qint64 block) {
+    EXPECT_EQ(part["operations"].toInteger(), operations);
+    EXPECT_EQ(part["blockSize"].toInteger(), block);
+    const double iops = static_cast<double>(operations) / part["duration"].toDouble();
+    EXPECT_DOUBLE_EQ(part["iops"].toDouble(), iops);
+    EXPECT_DOUBLE_EQ(part["bytesPerSecond"].toDouble(), iops * static_cast<double>(block));
+}
+
+TEST_F(Run, JsonHoldsThePlanTheFiguresAndWhatFollowsFromThem) {
+    constexpr qint64 size = 3 * 1048576 + 4999;
+    const auto outcome = runHost({"run", "--json", "--size", std::to_string(size), "--write-block", "-7",
+                                  "--read-block=64KiB", "--random-block", "5000", "--random-ops", "600",
+                                  "--file-ops", "70", "--sample-interval", "0", "--cached", "--", folder});
+    ASSERT_EQ(outcome.exitStatus, 0) << outcome.errors;
+    EXPECT_EQ(outcome.errors, "");
+    QJsonParseError error;
+    const QJsonObject run =
+        QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output), &error).object();
+    ASSERT_EQ(error.error, QJsonParseError::NoError) << error.errorString().toStdString();
+
+    const QJsonObject expectedPlan{
+        {"tests", QJsonArray{"sequentialWrite", "sequentialRead", "randomRead", "randomWrite", "fileOps"}},
+        {"size", QJsonObject{{"fixed", size}}},
+        {"writeBlockSize", -7},
+        {"readBlockSize", 65536},
+        {"randomBlockSize", 5000},
+        {"randomOpCount", 600},
+        {"fileOpCount", 70},
+        {"bypassCache", false},
+        {"sampleInterval", 0}};
+    EXPECT_EQ(run["plan"].toObject(), expectedPlan);
+    expectSequential(run["sequentialWrite"].toObject(), size, 4096);
+    expectSequential(run["sequentialRead"].toObject(), size, 65536);
+    expectRandom(run["randomRead"].toObject(), 600, 8192);
+    expectRandom(run["randomWrite"].toObject(), 600, 8192);
+    const QJsonObject fileOps = run["fileOps"].toObject();
+    EXPECT_EQ(fileOps.keys(), QStringList({"create", "delete", "rename", "stat"}));
+    for (const QJsonValue phase : fileOps) {
+        EXPECT_EQ(phase["operations"].toInteger(), 70);
+        EXPECT_DOUBLE_EQ(phase["opsPerSecond"].toDouble(), 70 / phase["duration"].toDouble());
+    }
+    EXPECT_TRUE(folderIsEmpty());
+}
+
+TEST_F(Run, TestsThatWereNotAskedForHaveNoKey) {
+    const auto outcome = runHost({"run", "--json", "--tests", "fileOps,fileOps", "--size", "fill",
+                                  "--leave-free", "1152921504606846976", folder});
+    ASSERT_EQ(outcome.exitStatus, 0) << outcome.errors;
+    const QJsonObject run = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output)).object();
+    EXPECT_EQ(run.keys(), QStringList({"fileOps", "plan"}));
+    const QJsonObject fill{{"fillDisk", QJsonObject{{"leaveFree", qint64{1} << 60}}}};
+    EXPECT_EQ(run["plan"]["size"].toObject(), fill);
+    EXPECT_EQ(run["plan"]["sampleInterval"].toDouble(), 0.02);
+}
+
+TEST_F(Run, TableIsAlignedAndInPeoplesWords) {
+    const auto outcome = runHost({"run", "--size", "2M", "--random-ops", "50", "--file-ops", "50", folder});
+    ASSERT_EQ(outcome.exitStatus, 0) << outcome.errors;
+    EXPECT_EQ(outcome.errors, "") << "no progress where no terminal is";
+    for (const char* words :
+         {"Sequential write", "Sequential read", "Random read (4 KiB)", "Random write (4 KiB)",
+          "File operations", "Sustained", "Peak", "Lowest", "B/s", "IOPS", "ops/s"})
+        EXPECT_NE(outcome.output.find(words), std::string::npos) << words;
+    std::istringstream lines(outcome.output);
+    std::vector<std::string> rows;
+    for (std::string line; std::getline(lines, line);)
+        rows.push_back(line);
+    ASSERT_EQ(rows.size(), 10U) << outcome.output;
+    EXPECT_EQ(rows[0].size(), rows[1].size());
+    EXPECT_EQ(rows[0].size(), rows[2].size());
+    EXPECT_EQ(rows[8].size(), rows[9].size());
+}
+
+TEST_F(Run, FailuresAreOneSentence) {
+    const auto tooLarge = runHost({"run", "--size", "1048576T", folder});
+    EXPECT_EQ(tooLarge.exitStatus, 1);
+    EXPECT_EQ(tooLarge.errors.find("Not enough space: needs 1048576.0 TiB, only "), 0U) << tooLarge.errors;
+    const auto tooSmall = runHost({"run", "--tests", "randomRead", "--size", "0", folder});
+    EXPECT_EQ(tooSmall.exitStatus, 1);
+    EXPECT_EQ(tooSmall.errors, "The test file is too small for the random block size.\n");
+    const auto noDisk = runHost({"run", "--tests", "fileOps", "/proc"});
+    EXPECT_EQ(noDisk.exitStatus, 1);
+    EXPECT_EQ(noDisk.errors.find("Couldn’t write there."), 0U) << noDisk.errors;
+    EXPECT_EQ(tooLarge.output + tooSmall.output + noDisk.output, "");
+    EXPECT_TRUE(folderIsEmpty());
+}
+
+TEST_F(Run, AnOutputThatTakesNothingIsAFailure) {
+    for (const Output output : {Output::closed, Output::fullDevice, Output::brokenPipe}) {
+        const auto outcome = runHost({"run", "--tests", "fileOps", "--file-ops", "1", folder}, output);
+        EXPECT_EQ(outcome.exitStatus, 1);
+        EXPECT_EQ(outcome.errors.find("The result could not be written: "), 0U) << outcome.errors;
+    }
+    EXPECT_TRUE(folderIsEmpty());
+}
+
+TEST_F(Run, WhatAKilledRunLeftIsRemovedByTheNext) {
+    {
+        HostProcess killed({.arguments = endlessRun()});
+        test::waitForWorkingFolder(folder);
+    }
+    ASSERT_FALSE(folderIsEmpty());
+    EXPECT_EQ(runHost({"run", "--tests", "fileOps", "--file-ops", "1", folder}).exitStatus, 0);
+    EXPECT_TRUE(folderIsEmpty());
+}
+
+TEST_F(Run, ARunGoingOnInTheSameFolderIsLeftAlone) {
+    HostProcess first({.arguments = endlessRun()});
+    test::waitForWorkingFolder(folder);
+    EXPECT_EQ(runHost({"run", "--tests", "fileOps", "--file-ops", "1", folder}).exitStatus, 0);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1);
+    first.signal(SIGTERM);
+    EXPECT_EQ(first.wait().exitStatus, 130);
+    EXPECT_TRUE(folderIsEmpty());
+}
+
+TEST_F(Run, AForeignLockKeepsNobodyWaiting) {
+    const std::vector<std::string> shortRun{"run", "--tests", "fileOps", "--file-ops", "1", folder};
+    const fs::path left = folder / ".ondel-analyzer-OLD";
+    fs::create_directory(left);
+    for (const fs::path& locked : {left, folder}) {
+        const auto held = OndelCore::platform::openFolder(locked);
+        ASSERT_EQ(flock(held.get(), LOCK_EX), 0);
+        const auto outcome = runHost(shortRun);
+        EXPECT_EQ(outcome.exitStatus, 0);
+        EXPECT_EQ(outcome.errors,
+                  locked == left ? "Files of another run in this folder are in use and were not removed.\n"
+                                 : "");
+        EXPECT_EQ(fs::exists(left), locked == left);
+    }
+    EXPECT_TRUE(folderIsEmpty());
+}
+
+TEST_F(Run, SignalsEndARunWithItsFilesRemoved) {
+    struct Case {
+        std::vector<int> signals;
+        bool ignoresInterrupt = false;
+    };
+    const std::vector<Case> cases{
+        {{SIGINT}}, {{SIGTERM}}, {{SIGHUP}}, {{SIGINT}, true}, {{SIGINT, SIGQUIT, SIGTERM, SIGINT, SIGHUP}}};
+    for (const Case& each : cases) {
+        HostProcess run({.arguments = endlessRun(), .ignoresInterrupt = each.ignoresInterrupt});
+        test::waitForWorkingFolder(folder);
+        for (const int signal : each.signals)
+            run.signal(signal);
+        const auto outcome = run.wait();
+        EXPECT_EQ(outcome.exitStatus, 130);
+        EXPECT_EQ(outcome.output + outcome.errors, "");
+        EXPECT_TRUE(folderIsEmpty());
+    }
+}
+
+TEST_F(Run, ATerminalSeesProgressOnOneLineThatIsErased) {
+    constexpr int columns = 60;
+    HostProcess run({.arguments = endlessRun(), .terminalColumns = columns});
+    ASSERT_TRUE(run.terminalShows("Random read (4 KiB)"));
+    ASSERT_TRUE(run.terminalShows("of 1,000,000,000"));
+    run.signal(SIGINT);
+    const auto outcome = run.wait();
+    EXPECT_EQ(outcome.exitStatus, 130);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_TRUE(outcome.errors.ends_with("\r\x1b[K")) << outcome.errors;
+    EXPECT_EQ(outcome.errors.find('\n'), std::string::npos);
+    const QString shown = QString::fromStdString(outcome.errors);
+    for (const QString& frame : shown.split("\x1b[K"))
+        EXPECT_LT(frame.size(), columns + 1) << frame.toStdString(); // with its "\r"
+    EXPECT_TRUE(folderIsEmpty());
+}
+
+} // namespace
