@@ -1,8 +1,9 @@
-#include "TarnwickHost/CommandLine.h"
-#include "TarnwickHost/DisplayText.h"
+#include "TarnwickKit/model/format/DisplayText.h"
 #include "fuzz/Fuzz.h"
 
-using namespace TarnwickHost;
+#include <algorithm>
+
+using namespace TarnwickKit::model;
 
 /// Nothing that a terminal obeys comes out.
 void fuzz::read(Bytes bytes) {
