@@ -129,6 +129,8 @@ def tells_why_health_is_missing(program, _folder):
                 return {node.get_name() for node, _ in window.nodes()}
             window.until(repr(note), lambda: note in told())
             check(("S.M.A.R.T." in told()) == has_section, f"{machine}: the tree:\n{window.tree()}")
+            heard = {node.get_description() for node, _ in window.nodes() if node.get_name() == "S.M.A.R.T."}
+            check(heard == ({f"Verified. {note}"} if has_section else set()), f"{machine}: the verdict is heard as {heard}")
 
 
 if __name__ == "__main__":

@@ -7,14 +7,15 @@ import TarnwickKit.views
 RowLayout {
     id: header
 
-    required property TargetFacts target
+    required property bool isFailing
+    required property string verdict
 
     spacing: 6
 
     Symbol {
-        name: header.target.isFailing ? "exclamationmark.triangle.fill" : "checkmark.shield.fill"
+        name: header.isFailing ? "exclamationmark.triangle.fill" : "checkmark.shield.fill"
         size: 12
-        color: header.target.isFailing ? "red" : PaletteKey.palette.good
+        color: header.isFailing ? "red" : PaletteKey.palette.good
     }
     PlainText {
         Layout.fillWidth: true
@@ -24,7 +25,7 @@ RowLayout {
         Accessible.ignored: true
     }
     PlainText {
-        text: header.target.isFailing ? qsTr("Failing") : qsTr("Verified")
+        text: header.verdict
         font: Typeface.text(12)
         color: PaletteKey.palette.text3
         Accessible.ignored: true

@@ -77,15 +77,19 @@ Column {
             CollapsibleSection {
                 id: health
 
+                readonly property string verdict: sections.target.isFailing ? qsTr("Failing") : qsTr("Verified")
+
                 width: parent.width
                 label: qsTr("S.M.A.R.T.")
-                detail: sections.target.isFailing ? qsTr("Failing") : qsTr("Verified")
+                // The note stands apart. Whoever hears the verdict alone must not take it for one on all disks.
+                detail: sections.target.healthNote === "" ? verdict : qsTr("%1. %2").arg(verdict).arg(sections.target.healthNote)
                 isExpanded: kept.healthExpanded
                 onToggled: expanded => kept.healthExpanded = expanded
 
                 header: SMARTHeader {
                     width: parent.width
-                    target: sections.target
+                    isFailing: sections.target.isFailing
+                    verdict: health.verdict
                 }
 
                 Repeater {
