@@ -67,10 +67,20 @@ QJsonObject json(const FileOpsResult& result) {
             {"delete", json(result.remove)}};
 }
 
+/// In the words of "facts", which does not try; what a trial did not tell is left out.
+QJsonObject json(const OndelCore::platform::TriedAbilities& tried) {
+    QJsonObject object;
+    if (tried.sparseFiles)
+        object.insert("supportsSparseFiles", *tried.sparseFiles);
+    if (tried.cloning)
+        object.insert("supportsCloning", *tried.cloning);
+    return object;
+}
+
 } // namespace
 
 QJsonObject resultJson(const BenchmarkPlan& plan, const BenchmarkResult& result) {
-    QJsonObject object{{"plan", planJson(plan)}};
+    QJsonObject object{{"plan", planJson(plan)}, {"capabilities", json(result.tried)}};
     const auto add = [&object](BenchmarkTest test, const auto& part) {
         if (part)
             object.insert(name(test), json(*part));

@@ -42,7 +42,9 @@ constexpr std::array options{
     Option{"--file-ops", "N", "Files in the file-operations test (default: 1000)"},
     Option{"--cached", "", "Let the system cache the data file, as ordinary programs do"},
     Option{"--sample-interval", "S", "Least seconds between two samples (default: 0.02)"},
-    Option{"--json", "", "Print one JSON object: the plan, every figure, every sample"},
+    Option{"--json", "",
+           "Print one JSON object: the plan, every figure, every sample, and under\n"
+           "\"capabilities\" what the file system did when it was tried"},
     Option{"--handoff", "",
            "Write a run file for the window and for \"show\", and print its path\n"
            "as the last line; with --json: as \"handoffFile\" in the object"},

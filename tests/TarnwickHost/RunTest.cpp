@@ -1,3 +1,4 @@
+#include "OndelCore/platform/storage/FileTrials.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
 #include "TarnwickHost/HostProcess.h"
 
@@ -127,6 +128,11 @@ TEST_F(Run, JsonHoldsThePlanTheFiguresAndWhatFollowsFromThem) {
         EXPECT_EQ(phase["operations"].toInteger(), 70);
         EXPECT_DOUBLE_EQ(phase["opsPerSecond"].toDouble(), 70 / phase["duration"].toDouble());
     }
+    const auto tried = OndelCore::platform::tryAbilities(OndelCore::platform::openFolder(folder).get());
+    const QJsonObject capabilities = run["capabilities"].toObject();
+    EXPECT_EQ(capabilities.size(), tried.sparseFiles.has_value() + tried.cloning.has_value());
+    EXPECT_EQ(capabilities["supportsSparseFiles"].toBool(), tried.sparseFiles.value_or(false));
+    EXPECT_EQ(capabilities["supportsCloning"].toBool(), tried.cloning.value_or(false));
     EXPECT_TRUE(folderIsEmpty());
 }
 
@@ -135,7 +141,7 @@ TEST_F(Run, TestsThatWereNotAskedForHaveNoKey) {
                                   "--leave-free", "1152921504606846976", folder});
     ASSERT_EQ(outcome.exitStatus, 0) << outcome.errors;
     const QJsonObject run = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output)).object();
-    EXPECT_EQ(run.keys(), QStringList({"fileOps", "plan"}));
+    EXPECT_EQ(run.keys(), QStringList({"capabilities", "fileOps", "plan"}));
     const QJsonObject fill{{"fillDisk", QJsonObject{{"leaveFree", qint64{1} << 60}}}};
     EXPECT_EQ(run["plan"]["size"].toObject(), fill);
     EXPECT_EQ(run["plan"]["sampleInterval"].toDouble(), 0.02);
