@@ -1,16 +1,19 @@
 #include "OndelCore/platform/storage/FileTrials.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
 #include "TarnwickHost/HostProcess.h"
+#include "support/LoopMount.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 #include <sys/file.h>
 
 #include <algorithm>
 #include <csignal>
+#include <fstream>
 #include <sstream>
 
 namespace fs = std::filesystem;
@@ -186,6 +189,26 @@ TEST_F(Run, AnOutputThatTakesNothingIsAFailure) {
         EXPECT_EQ(outcome.errors.find("The result could not be written: "), 0U) << outcome.errors;
     }
     EXPECT_TRUE(folderIsEmpty());
+}
+
+/// The disk is an image on a full tmpfs: the cache takes what the medium then refuses.
+TEST(FailingDisk, ALostFlushIsToldBesideTheFigures) {
+    const test::LoopMount memory("tmpfs", 24 << 20);
+    const test::LoopMount volume("ext2", 1400 << 20, {}, {"-q"}, memory.path());
+    if (const std::string problem = memory.problem() + volume.problem(); !problem.empty())
+        GTEST_SKIP() << problem;
+    const std::string megabyte(1 << 20, 'x');
+    for (std::ofstream filler(memory.path() / "filler"); filler.write(megabyte.data(), 1 << 20).flush();)
+        continue;
+    const auto outcome = runHost({"run", "--cached", "--tests", "sequentialWrite,randomRead,randomWrite",
+                                  "--size", "4M", "--random-ops", "50", volume.path()});
+    EXPECT_EQ(outcome.exitStatus, 0);
+    const QString lost =
+        ": the flush to the medium failed \\([^()]+\\); not all that was written may be there.\n";
+    const QRegularExpression told("\\ASequential write" + lost + "Random write \\(4 KiB\\)" + lost + "\\z");
+    EXPECT_TRUE(QString::fromStdString(outcome.errors).contains(told)) << outcome.errors;
+    EXPECT_NE(outcome.output.find("\nSequential write "), std::string::npos) << outcome.output;
+    EXPECT_EQ(std::distance(fs::directory_iterator(volume.path()), {}), 1) << "but for lost+found";
 }
 
 TEST_F(Run, WhatAKilledRunLeftIsRemovedByTheNext) {

@@ -25,8 +25,9 @@ std::string complaintOf(const QString& program, const QStringList& arguments) {
 } // namespace
 
 LoopMount::LoopMount(const std::string& type, std::int64_t bytes, const std::string& mountOptions,
-                     const QStringList& formatOptions)
-    : m_mountPoint(m_folder.path() / "mount") {
+                     const QStringList& formatOptions, const std::filesystem::path& holder)
+    : m_folder(holder)
+    , m_mountPoint(m_folder.path() / "mount") {
     std::filesystem::create_directory(m_mountPoint);
     const QString fileSystem = QString::fromStdString(type);
     const QString mountPoint = QString::fromStdString(m_mountPoint.string());

@@ -15,8 +15,9 @@ namespace test {
 /// Owner: the object unmounts, detaches and removes everything when it goes.
 class LoopMount {
 public:
+    /// `holder`: the folder for the image; the test program's own temporary folder when empty.
     LoopMount(const std::string& type, std::int64_t bytes, const std::string& mountOptions = {},
-              const QStringList& formatOptions = {"-q"});
+              const QStringList& formatOptions = {"-q"}, const std::filesystem::path& holder = {});
     ~LoopMount();
     LoopMount(const LoopMount&) = delete;
     LoopMount& operator=(const LoopMount&) = delete;
