@@ -3,9 +3,11 @@
 
 using namespace TarnwickKit::model;
 
-/// What was read can be written, and reads as the same again.
+/// What was read can be written, and reads as the same again. Of a history without damage all is recovered.
 void fuzz::read(Bytes bytes) {
-    decodeRuns(viewOf(bytes));
+    const auto runs = decodeRuns(viewOf(bytes));
+    const auto recovered = recoverRuns(viewOf(bytes));
+    require(!runs || *runs == recovered);
     const auto run = decodeRun(viewOf(bytes));
     if (!run)
         return;
