@@ -12,14 +12,35 @@ Column {
 
     required property AnalyzerModel analyzer
     required property StoredRuns runs
-    /// How far the view goes down from the section's top; logical pixels.
-    required property real reach
+    /// What is in view, in the section's coordinates; logical pixels.
+    required property real viewTop
+    required property real viewHeight
 
     readonly property int rowHeight: 65
-    readonly property int seen: Math.ceil((reach - head.height) / (rowHeight + spacing))
-    readonly property int ahead: 12
-    property int made: 0
-    property int seenBefore: 0
+    /// How far below the view rows are made before they are scrolled to.
+    readonly property real ahead: Assistance.active ? Infinity : 12 * (rowHeight + spacing)
+    /// How many more rows may be made before the next frame. Those in view come with the first frame, however many.
+    property real allowance: Infinity
+    property bool isWaiting: false
+
+    /// Makes the rows between two heights, as far as the allowance goes. False when it does not go far enough. An entry
+    /// at 0 has not been positioned yet.
+    function makeRows(top: real, bottom: real): bool {
+        for (let row = 0; row < entries.count; ++row) {
+            const entry = entries.itemAt(row) as HistoryEntry;
+            if (entry.isMade || entry.y === 0 || entry.y >= bottom || entry.y + entry.height <= top)
+                continue;
+            if (allowance <= 0)
+                return false;
+            --allowance;
+            entry.isMade = true;
+        }
+        return true;
+    }
+    function makeRowsInView(): void {
+        makeRows(viewTop, viewTop + viewHeight);
+        isWaiting = true;
+    }
 
     function confirmClear(): void {
         question.setSource("Alert.qml", {
@@ -32,12 +53,11 @@ Column {
         (question.item as Alert).open();
     }
 
-    // A pane that opens above hides rows, which are no hurry then.
-    onSeenChanged: {
-        if (seen > seenBefore)
-            made = Math.max(made, seen);
-        seenBefore = seen;
-    }
+    // Rows in view are made at once, the others between frames, and all of them only a few at a time.
+    onViewTopChanged: makeRowsInView()
+    onViewHeightChanged: makeRowsInView()
+    onAheadChanged: isWaiting = true
+    onPositioningComplete: makeRowsInView()
 
     spacing: 10
 
@@ -96,71 +116,23 @@ Column {
     }
 
     Repeater {
+        id: entries
+
         model: section.runs
 
-        Column {
-            id: entry
-
-            required property int index
-            required property runRecord run
-            required property bool expanded
-            required property bool picked
-            readonly property bool isMade: index < section.made
-            readonly property bool isOpen: expanded && !section.analyzer.compareMode
-
+        HistoryEntry {
             width: section.width
-            height: isMade ? implicitHeight : section.rowHeight
-
-            Repeater {
-                model: entry.isMade && !entry.isOpen ? 1 : 0
-
-                CompareRow {
-                    width: entry.width
-                    label: row.label
-                    detail: row.detail
-                    picking: section.analyzer.compareMode
-                    chosen: entry.picked
-                    onWanted: section.analyzer.toggleCompareSelection(row.facts.id)
-
-                    HistoryRow {
-                        id: row
-
-                        width: parent.width
-                        run: entry.run
-                        live: !section.analyzer.compareMode
-                        onClicked: section.analyzer.setRunExpanded(facts.id, true)
-                        onRemove: section.analyzer.deleteRun(facts.id)
-                    }
-                }
-            }
-            Repeater {
-                model: entry.isMade && entry.isOpen ? 1 : 0
-
-                ExpandedRunPane {
-                    width: entry.width
-                    analyzer: section.analyzer
-                    run: entry.run
-                    onCollapse: section.analyzer.setRunExpanded(facts.id, false)
-                    onRemove: section.analyzer.deleteRun(facts.id)
-                }
-            }
-        }
-    }
-
-    // Rows in sight are made at once, those that come next between frames, as all are where many are exchanged.
-    Connections {
-        target: section.runs
-
-        function onModelAboutToBeReset(): void {
-            section.made = 0;
+            analyzer: section.analyzer
+            rowHeight: section.rowHeight
         }
     }
     Connections {
-        target: section.made < Math.min(section.runs.count, Assistance.active ? Infinity : section.seen + section.ahead)
-                ? section.Window.window : null
+        target: section.isWaiting ? section.Window.window : null
 
         function onFrameSwapped(): void {
-            section.made += 4;
+            section.allowance = 4;
+            section.isWaiting = !section.makeRows(section.viewTop, section.viewTop + section.viewHeight)
+                    || !section.makeRows(-Infinity, section.viewTop + section.viewHeight + section.ahead);
         }
     }
     Loader {

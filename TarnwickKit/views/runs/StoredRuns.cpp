@@ -42,57 +42,69 @@ QHash<int, QByteArray> StoredRuns::roleNames() const {
     return {{RunRole, "run"}, {ExpandedRole, "expanded"}, {PickedRole, "picked"}};
 }
 
-void StoredRuns::removeAllBut(const std::vector<RunRecord>& runs) {
-    for (int row = count() - 1; row >= 0; --row) {
-        const QUuid id = m_runs[static_cast<std::size_t>(row)].id;
-        if (std::ranges::find(runs, id, &RunRecord::id) != runs.end())
-            continue;
-        beginRemoveRows({}, row, row);
-        m_runs.erase(m_runs.begin() + row);
-        endRemoveRows();
-    }
-}
-
 void StoredRuns::refresh() {
-    std::vector<RunRecord> now = m_analyzer ? m_analyzer->previousRuns() : std::vector<RunRecord>{};
+    const std::vector<RunRecord> now = m_analyzer ? m_analyzer->previousRuns() : std::vector<RunRecord>{};
     const int before = count();
-    if (isFarFrom(now)) {
-        beginResetModel();
-        m_runs = std::move(now);
-        endResetModel();
-    } else {
-        removeAllBut(now);
-        insertAndChange(now);
+    removeAllBut(now);
+    for (int row = 0; row < static_cast<int>(now.size()); ++row) {
+        const auto at = m_runs.begin() + row;
+        const RunRecord& run = now[static_cast<std::size_t>(row)];
+        const auto found = std::ranges::find(at, m_runs.end(), run.id, &RunRecord::id);
+        if (found == m_runs.end())
+            row = insertNew(now, row);
+        else
+            place(static_cast<int>(found - m_runs.begin()), row, run);
     }
+    remove(static_cast<int>(now.size()), count()); // an id that stood there twice
     if (count() != before)
         Q_EMIT countChanged();
 }
 
-/// Whether views do better to begin anew: more has come than they make at once, or the order is another.
-bool StoredRuns::isFarFrom(const std::vector<RunRecord>& now) const {
-    constexpr std::ptrdiff_t few = 4;
-    const auto idsIn = [](const std::vector<RunRecord>& runs, const std::vector<RunRecord>& others) {
-        std::vector<QUuid> ids;
-        for (const RunRecord& run : runs)
-            if (std::ranges::find(others, run.id, &RunRecord::id) != others.end())
-                ids.push_back(run.id);
-        return ids;
+void StoredRuns::removeAllBut(const std::vector<RunRecord>& runs) {
+    const auto isGone = [&runs](const RunRecord& run) {
+        return std::ranges::find(runs, run.id, &RunRecord::id) == runs.end();
     };
-    const auto kept = idsIn(m_runs, now), keptNow = idsIn(now, m_runs);
-    return std::ssize(now) - std::ssize(keptNow) > few || kept != keptNow;
+    for (int end = count(); end > 0; --end) {
+        int first = end;
+        while (first > 0 && isGone(m_runs[static_cast<std::size_t>(first) - 1]))
+            --first;
+        remove(first, end);
+        end = first;
+    }
 }
 
-void StoredRuns::insertAndChange(const std::vector<RunRecord>& now) {
-    for (std::size_t row = 0; row < now.size(); ++row) {
-        const int at = static_cast<int>(row);
-        if (row >= m_runs.size() || m_runs[row].id != now[row].id) {
-            beginInsertRows({}, at, at);
-            m_runs.insert(m_runs.begin() + at, now[row]);
-            endInsertRows();
-        } else if (m_runs[row] != now[row]) {
-            m_runs[row] = now[row];
-            Q_EMIT dataChanged(index(at), index(at), {RunRole});
-        }
+void StoredRuns::remove(int first, int end) {
+    if (first >= end)
+        return;
+    beginRemoveRows({}, first, end - 1);
+    m_runs.erase(m_runs.begin() + first, m_runs.begin() + end);
+    endRemoveRows();
+}
+
+/// Inserts the runs from `first` on that are not here yet, up to the next one that is. Gives the last row.
+int StoredRuns::insertNew(const std::vector<RunRecord>& now, int first) {
+    const auto begin = now.begin() + first;
+    const auto end = std::find_if(std::next(begin), now.end(), [this](const RunRecord& run) {
+        return std::ranges::find(m_runs, run.id, &RunRecord::id) != m_runs.end();
+    });
+    const int last = static_cast<int>(end - now.begin()) - 1;
+    beginInsertRows({}, first, last);
+    m_runs.insert(m_runs.begin() + first, begin, end);
+    endInsertRows();
+    return last;
+}
+
+/// Brings a row up to where it now stands, and its run to what it now says.
+void StoredRuns::place(int from, int to, const RunRecord& run) {
+    if (from != to) {
+        beginMoveRows({}, from, from, {}, to);
+        std::rotate(m_runs.begin() + to, m_runs.begin() + from, m_runs.begin() + from + 1);
+        endMoveRows();
+    }
+    RunRecord& held = m_runs[static_cast<std::size_t>(to)];
+    if (held != run) {
+        held = run;
+        Q_EMIT dataChanged(index(to), index(to), {RunRole});
     }
 }
 

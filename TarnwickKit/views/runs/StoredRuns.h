@@ -11,8 +11,8 @@
 
 namespace TarnwickKit::views {
 
-/// The model's previous runs as a list for views, newest first. Runs that come and go are told one by one, so
-/// that the rows of the others stay as they are, and many that come at once as a new list.
+/// The model's previous runs as a list for views, newest first. Views are told which rows are removed,
+/// inserted and moved, by the runs' ids, so that the rows of the others stay as they are.
 ///
 /// Roles: `run`, whether its row is `expanded`, whether it is `picked` for a comparison.
 class StoredRuns : public QAbstractListModel {
@@ -54,9 +54,10 @@ public:
 
 private:
     void refresh();
-    bool isFarFrom(const std::vector<model::RunRecord>& now) const;
-    void insertAndChange(const std::vector<model::RunRecord>& now);
     void removeAllBut(const std::vector<model::RunRecord>& runs);
+    void remove(int first, int end);
+    int insertNew(const std::vector<model::RunRecord>& now, int first);
+    void place(int from, int to, const model::RunRecord& run);
     void announce(Role role);
 
     ModelObserver m_analyzer;

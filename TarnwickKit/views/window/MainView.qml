@@ -106,7 +106,8 @@ Rectangle {
             PreviousRunsSection {
                 width: parent.width
                 visible: runs.count > 0
-                reach: pane.contentY + pane.height - column.y - y
+                viewTop: pane.contentY - column.y - y
+                viewHeight: pane.height
                 analyzer: main.analyzer
                 runs: runs
             }

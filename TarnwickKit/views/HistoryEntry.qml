@@ -1,0 +1,53 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnwickKit.views
+
+/// A saved run's place in the history: empty and as high as a row until that is made, then a row or the whole pane.
+Column {
+    id: entry
+
+    required property AnalyzerModel analyzer
+    required property int rowHeight
+    required property runRecord run
+    required property bool expanded
+    required property bool picked
+    readonly property bool isOpen: expanded && !analyzer.compareMode
+    property bool isMade: false
+
+    height: isMade ? implicitHeight : rowHeight
+
+    Repeater {
+        model: entry.isMade && !entry.isOpen ? 1 : 0
+
+        CompareRow {
+            width: entry.width
+            label: row.label
+            detail: row.detail
+            picking: entry.analyzer.compareMode
+            chosen: entry.picked
+            onWanted: entry.analyzer.toggleCompareSelection(row.facts.id)
+
+            HistoryRow {
+                id: row
+
+                width: parent.width
+                run: entry.run
+                live: !entry.analyzer.compareMode
+                onClicked: entry.analyzer.setRunExpanded(facts.id, true)
+                onRemove: entry.analyzer.deleteRun(facts.id)
+            }
+        }
+    }
+    Repeater {
+        model: entry.isMade && entry.isOpen ? 1 : 0
+
+        ExpandedRunPane {
+            width: entry.width
+            analyzer: entry.analyzer
+            run: entry.run
+            onCollapse: entry.analyzer.setRunExpanded(facts.id, false)
+            onRemove: entry.analyzer.deleteRun(facts.id)
+        }
+    }
+}
