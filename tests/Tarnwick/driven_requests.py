@@ -92,6 +92,7 @@ def many_runs_come_in_one_go(program, folder):
             told = ended(program, *given)
             check(told == (0, ""), f"a second start ended with {told}")
         shows_run(window, 400)
+        window.until("all rows", lambda: sum(node.get_description() == "Delete this run" for node, _ in window.nodes()) == 49)
         check(len(driver.windows(TITLE)) == 1, "a second window")
         check(stored() == [f"Run {index}" for index in range(400, 350, -1)], f"stored: {stored()}")
         first, middle, last = [run_file(folder, index, date="2026-01-01T00:00:00Z").as_uri() for index in (500, 501, 502)]

@@ -127,7 +127,8 @@ Column {
         }
     }
     Connections {
-        target: section.isWaiting ? section.Window.window : null
+        target: section.Window.window
+        enabled: section.isWaiting
 
         function onFrameSwapped(): void {
             section.allowance = 4;
