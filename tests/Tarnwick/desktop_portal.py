@@ -1,8 +1,11 @@
 """What a desktop offers programs: its dark (1) or light (2) setting, keeping the machine awake, and notices.
 Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal has behind it, a session manager, and
-notices from nobody but the portal. Lines on standard input: a number changes the setting, "press" presses the last notice.
-Lines on standard output: "ready", "awake FLAGS REASON", "asleep", "notice TITLE: TEXT", "withdrawn"."""
+notices from nobody but the portal. With "desktop_portal.py NUMBER refuses" the portal takes the request to keep the machine
+awake and answers that it does not, and there is a login manager. Lines on standard input: a number changes the setting,
+"press" presses the last notice. Lines on standard output: "ready", "awake FLAGS REASON", "asleep",
+"locked WHAT WHO WHY MODE", "unlocked", "notice TITLE: TEXT", "withdrawn"."""
 
+import os
 import sys
 
 from gi.repository import Gio, GLib
@@ -10,6 +13,7 @@ from gi.repository import Gio, GLib
 NAMESPACE, KEY = "org.freedesktop.appearance", "color-scheme"
 PATH = "/org/freedesktop/portal/desktop"
 NOTICES = "org.freedesktop.Notifications"
+LOGIN = "org.freedesktop.login1"
 SESSION = "org.gnome.SessionManager"
 INTERFACES = Gio.DBusNodeInfo.new_for_xml("""<node>
 <interface name="org.freedesktop.portal.Settings">
@@ -20,7 +24,14 @@ INTERFACES = Gio.DBusNodeInfo.new_for_xml("""<node>
   <method name="Inhibit"><arg type="s" direction="in"/><arg type="u" direction="in"/><arg type="a{sv}" direction="in"/>
     <arg type="o" direction="out"/></method>
 </interface>
-<interface name="org.freedesktop.portal.Request"><method name="Close"/></interface>
+<interface name="org.freedesktop.portal.Request">
+  <method name="Close"/>
+  <signal name="Response"><arg type="u"/><arg type="a{sv}"/></signal>
+</interface>
+<interface name="org.freedesktop.login1.Manager">
+  <method name="Inhibit"><arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="s" direction="in"/>
+    <arg type="s" direction="in"/><arg type="h" direction="out"/></method>
+</interface>
 <interface name="org.freedesktop.Notifications">
   <method name="Notify"><arg type="s" direction="in"/><arg type="u" direction="in"/><arg type="s" direction="in"/>
     <arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="as" direction="in"/>
@@ -42,9 +53,10 @@ def tell(*words):
 
 
 class Desktop:
-    def __init__(self, scheme):
+    def __init__(self, scheme, refuses):
         """Without a scheme it stands behind a portal."""
         self.scheme = scheme
+        self.refuses = refuses
         self.notices = 0
         self.requests = {}
         self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
@@ -55,6 +67,9 @@ class Desktop:
                 self.serve(PATH, f"org.freedesktop.portal.{name}")
         self.serve("/org/freedesktop/Notifications", NOTICES)
         own = Gio.bus_own_name_on_connection
+        if refuses:
+            self.serve("/org/freedesktop/login1", f"{LOGIN}.Manager")
+            own(self.bus, LOGIN, Gio.BusNameOwnerFlags.NONE, None, None)
         own(self.bus, NOTICES, Gio.BusNameOwnerFlags.NONE, None, None)
         if scheme is None:  # the back end takes both for a desktop, or neither
             own(self.bus, "org.gnome.ScreenSaver", Gio.BusNameOwnerFlags.NONE, None, None)
@@ -65,6 +80,9 @@ class Desktop:
         return self.bus.register_object(path, INTERFACES.lookup_interface(interface), self.called, None, None)
 
     def called(self, _bus, sender, path, interface, method, arguments, invocation):
+        if interface == f"{LOGIN}.Manager":
+            self.lock(invocation, *arguments.unpack())
+            return
         if interface == SESSION:
             answer = self.session(method, *arguments.unpack())
         elif self.scheme is None and method == "Notify" and arguments.unpack()[0]:
@@ -82,7 +100,21 @@ class Desktop:
         request = f"{PATH}/request/{sender[1:].replace('.', '_')}/{options['handle_token']}"
         self.requests[request] = self.serve(request, "org.freedesktop.portal.Request")
         tell("awake", flags, options["reason"])
+        if self.refuses:
+            GLib.idle_add(self.refuse, request)
         return GLib.Variant("o", request)
+
+    def refuse(self, request):
+        self.bus.emit_signal(None, request, "org.freedesktop.portal.Request", "Response", GLib.Variant("(ua{sv})", (2, {})))
+        self.bus.unregister_object(self.requests.pop(request))
+
+    def lock(self, invocation, *words):
+        """It holds until its other end is closed."""
+        held, given = os.pipe()
+        descriptors = Gio.UnixFDList.new_from_array([given])
+        tell("locked", *words)
+        GLib.io_add_watch(held, GLib.IO_HUP, lambda *_: tell("unlocked"))
+        invocation.return_value_with_unix_fd_list(GLib.Variant("(h)", (0,)), descriptors)
 
     def Close(self, _sender, path):
         self.bus.unregister_object(self.requests.pop(path))
@@ -122,6 +154,6 @@ class Desktop:
 
 
 loop = GLib.MainLoop()
-desktop = Desktop(None if sys.argv[1] == "behind" else int(sys.argv[1]))
+desktop = Desktop(None if sys.argv[1] == "behind" else int(sys.argv[1]), "refuses" in sys.argv[2:])
 GLib.io_add_watch(sys.stdin, GLib.IO_IN | GLib.IO_HUP, desktop.command)
 loop.run()

@@ -3,13 +3,12 @@
 
 import os
 import pathlib
-import select
 import subprocess
 import sys
 
 import driver
 import saved_runs
-from driven_requests import child, run_file, shows_run
+from driven_requests import child, desktop_of, hears_of, run_file, shows_run
 from driven_window import check, choose_small_size, start, TESTS
 
 PROGRAMS = {"org.freedesktop.portal.Desktop": "/usr/libexec/xdg-desktop-portal",
@@ -45,10 +44,7 @@ def follows_the_colour_scheme(program, _folder, _desktop):
 
 
 def keeps_the_machine_awake_and_gives_notice(program, folder, desktop):
-    def told(line):
-        heard = select.select([desktop.stdout], [], [], driver.GUARD_SECONDS)[0] and desktop.stdout.readline().decode().strip()
-        check(heard and heard.startswith(line), f"the desktop heard {heard!r}, not {line!r}")
-
+    told = hears_of(desktop)
     with child(source, stdout=subprocess.DEVNULL), driver.Window(program, folder, env=PORTAL) as window:
         driver.focus("Drag from here")  # a window that has the keyboard does not tell its end
         choose_small_size(window)
@@ -105,9 +101,7 @@ if __name__ == "__main__":
     # The back end reads its settings from a file, for "gsettings" to change them.
     driver.enter_display(services=PROGRAMS, variables={"GSETTINGS_BACKEND": "keyfile", "XDG_CURRENT_DESKTOP": "GNOME"})
     program, source, *only = sys.argv[1:]
-    behind = pathlib.Path(__file__).with_name("desktop_portal.py")
-    with driver.fast_folder() as name, child("/usr/bin/python3", behind, "behind", stdin=subprocess.PIPE,
-                                             stdout=subprocess.PIPE) as desktop:
+    with driver.fast_folder() as name, desktop_of("behind") as desktop:
         check(desktop.stdout.readline() == b"ready\n", "there is no session behind the portal")
         for case in (follows_the_colour_scheme, keeps_the_machine_awake_and_gives_notice, opens_through_the_file_dialog, sends_by_email):
             if only and case.__name__ not in only:

@@ -268,14 +268,23 @@ def goes_by_menu(program, folder):
         check(window.terminate() == (0, ""), "it does not end quietly")
 
 
-def tells_the_desktop_of_runs(program, folder, source):
-    with child("/usr/bin/python3", pathlib.Path(__file__).with_name("desktop_portal.py"), 2, stdin=subprocess.PIPE,
-               stdout=subprocess.PIPE) as desktop, child(source):
-        def told(*lines):
-            for line in lines:
-                heard = select.select([desktop.stdout], [], [], driver.GUARD_SECONDS)[0] and desktop.stdout.readline().decode().strip()
-                check(heard and heard.startswith(line), f"the desktop heard {heard!r}, not {line!r}")
+def hears_of(desktop):
+    """A function that checks how the next lines begin which the desktop tells."""
+    def told(*lines):
+        for line in lines:
+            heard = select.select([desktop.stdout], [], [], driver.GUARD_SECONDS)[0] and desktop.stdout.readline().decode().strip()
+            check(heard and heard.startswith(line), f"the desktop heard {heard!r}, not {line!r}")
+    return told
 
+
+def desktop_of(*words):
+    return child("/usr/bin/python3", pathlib.Path(__file__).with_name("desktop_portal.py"), *words, stdin=subprocess.PIPE,
+                 stdout=subprocess.PIPE)
+
+
+def tells_the_desktop_of_runs(program, folder, source):
+    with desktop_of(2) as desktop, child(source):
+        told = hears_of(desktop)
         told("ready")
         with driver.Window(program, folder) as window:
             driver.focus("Drag from here")
@@ -297,6 +306,21 @@ def tells_the_desktop_of_runs(program, folder, source):
             told("awake")
             check(window.terminate() == (0, ""), "it does not end quietly")
             told("asleep")
+
+
+def stays_awake_though_the_portal_refuses(program, folder):
+    """As the portal's GTK back end does outside of GNOME: the request is taken, and the answer to it says no."""
+    with desktop_of(2, "refuses") as desktop:
+        told = hears_of(desktop)
+        told("ready")
+        with driver.Window(program, folder, env={"DBUS_SYSTEM_BUS_ADDRESS": os.environ["DBUS_SESSION_BUS_ADDRESS"]}) as window:
+            choose_small_size(window)
+            start(window, folder)
+            told("awake 12 ", "locked sleep:idle Ondel Tarnwick A benchmark is running block")
+            window.press("Stop")
+            told("unlocked")
+            window.find("Ready", "status bar")
+            check(window.terminate() == (0, ""), "it does not end quietly")
 
 
 WAYS_TO_OPEN = dict(zip(("preparation", *TESTS), (os.O_WRONLY, os.O_WRONLY, os.O_RDONLY, os.O_RDONLY, os.O_RDWR)))
@@ -355,8 +379,8 @@ if __name__ == "__main__":
     program, source, *only = sys.argv[1:]
     for case in (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_one_that_stands_still,
                  starts_without_a_bus, opens_what_it_is_given, goes_by_menu,
-                 ends_the_desktops_waiting, tells_the_desktop_of_runs, ends_in_every_phase, leaves_nothing_without_a_display,
-                 takes_what_is_dropped):
+                 ends_the_desktops_waiting, tells_the_desktop_of_runs, stays_awake_though_the_portal_refuses, ends_in_every_phase,
+                 leaves_nothing_without_a_display, takes_what_is_dropped):
         if (only and case.__name__ not in only) or (case in ONLY_ON_X11 and not isinstance(driver.display, driver.X11)):
             continue
         print(case.__name__.replace("_", " "), flush=True)
