@@ -54,6 +54,8 @@ public:
     /// out: a folder counts where it is first, run files where they are last. A longer token counts as none.
     static constexpr std::size_t mostUrls = 100;
     static constexpr std::size_t longestToken = 4096;
+    /// No path is longer, with a scheme and a host before it and each of its 4095 bytes as "%xx".
+    static constexpr std::size_t longestUrl = 3 * 4096 + 512;
 
     /// Gives `request`, whatever its length, to the process that was here before. Waits in an event loop, and
     /// for a process that does not answer at most about `patience`.

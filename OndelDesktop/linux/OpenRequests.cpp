@@ -60,6 +60,11 @@ std::string usable(std::string token) {
     return token.size() <= OpenRequests::longestToken ? std::move(token) : std::string();
 }
 
+/// Empty when it is longer, which costs nothing then: a message may carry 128 MiB.
+std::string within(std::size_t longest, const QString& text) {
+    return static_cast<std::size_t>(text.size()) <= longest ? text.toStdString() : std::string();
+}
+
 } // namespace
 
 ApplicationBusAdaptor::ApplicationBusAdaptor(const QDBusConnection& bus, const QString& name)
@@ -148,7 +153,7 @@ void ApplicationBusAdaptor::Open(const QStringList& uris, const QVariantMap& pla
     const QStringList taken = uris.size() > most ? uris.first(most / 2) + uris.last(most - most / 2) : uris;
     OpenRequest request;
     for (const QString& uri : taken)
-        request.urls.push_back(uri.toStdString());
+        request.urls.push_back(within(OpenRequests::longestUrl, uri));
     accept(std::move(request), platformData);
 }
 
@@ -160,7 +165,8 @@ void ApplicationBusAdaptor::ActivateAction(const QString& action, const QVariant
 void ApplicationBusAdaptor::accept(OpenRequest request, const QVariantMap& platformData) {
     for (const QString& key : {activationToken, startupId})
         if (request.activationToken.empty())
-            request.activationToken = usable(platformData.value(key).toString().toStdString());
+            request.activationToken =
+                usable(within(OpenRequests::longestToken, platformData.value(key).toString()));
     if (m_isClosed)
         sendErrorReply(QDBusError::ServiceUnknown, QStringLiteral("The application is ending."));
     else if (!m_take)
