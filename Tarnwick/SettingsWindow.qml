@@ -21,8 +21,4 @@ PanelWindow {
         updater: window.updater
         support: AppSupport.nudges
     }
-    Shortcut {
-        sequences: ["Escape", "Ctrl+W"]
-        onActivated: window.close()
-    }
 }

@@ -65,7 +65,8 @@ MenuStrip {
             },
             Command {
                 text: qsTr("Close")
-                shortcut: "Ctrl+W"
+                keys: "Ctrl+W"
+                shortcut: commands.Window.activeFocusItem ? keys : "" // another window's keys close that one
                 beginsGroup: true
                 enabled: !commands.app.showReport
                 onTriggered: commands.app.terminate()

@@ -35,10 +35,6 @@ PanelWindow {
         }
     }
 
-    Shortcut {
-        sequences: ["Escape", "Ctrl+W"]
-        onActivated: panel.close()
-    }
     Column {
         id: column
 

@@ -1,8 +1,10 @@
 import QtQuick
 import QtQuick.Window
 
-/// A window beside the main one, as large as what it holds.
+/// A window beside the main one, as large as what it holds. Escape and Ctrl+W close it.
 Window {
+    id: panel
+
     required property real wantedWidth
     required property real wantedHeight
 
@@ -20,5 +22,12 @@ Window {
         visible = true;
         raise();
         requestActivate();
+    }
+
+    Shortcut {
+        sequences: ["Escape", "Ctrl+W"]
+        // Newer toolkits hear a window's keys while any window of the same main window has the keyboard, even a closed one's.
+        enabled: panel.activeFocusItem !== null
+        onActivated: panel.close()
     }
 }

@@ -42,10 +42,6 @@ PanelWindow {
             window.comeForward();
         }
     }
-    Shortcut {
-        sequences: ["Escape", "Ctrl+W"]
-        onActivated: window.updater.dismiss()
-    }
     UpdateWords {
         id: words
 

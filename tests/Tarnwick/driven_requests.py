@@ -247,6 +247,12 @@ def goes_by_menu(program, folder):
         window.gone("Not Now")
         driver.display.press("ctrl+w")
         window.until("the end of the settings", lambda: not driver.windows("^Settings$"))
+        for key in "Escape", "ctrl+w":  # now that both windows have been there
+            window.press("Tarnwick", "menu item")
+            window.press("About Ondel Tarnwick", "menu item")
+            driver.focus("About Ondel Tarnwick")
+            driver.display.press(key)
+            window.until("the end of the panel", lambda: not driver.windows("^About Ondel Tarnwick$"))
 
         window.keys("ctrl+shift+o")
         driver.focus("Open")
@@ -263,7 +269,7 @@ def goes_by_menu(program, folder):
         window.press("Help", "menu item")
         window.press("Report a Problem…", "menu item")
         summary = window.find("Summary — a one-line description")
-        check(summary.get_text(0, -1) == "kept", "what was typed is lost")
+        check(window.atspi.Text.get_text(summary, 0, -1) == "kept", "what was typed is lost")
         window.keys("Escape")
         check(window.terminate() == (0, ""), "it does not end quietly")
 

@@ -64,7 +64,7 @@ PlainButton {
 
     Shortcut {
         sequences: ["Ctrl+Return", "Ctrl+Enter"]
-        enabled: !button.stops && button.enabled
+        enabled: !button.stops && button.enabled && button.Window.activeFocusItem !== null // not beside another window
         onActivated: button.run()
     }
     Loader {
