@@ -296,7 +296,8 @@ TEST_F(Hardship, NothingIsAllocatedWhileMeasuring) {
 
 } // namespace
 
-// Every form that the library may mix, so that memory from one of them never reaches another allocator.
+// Every form that the library may mix, so that memory from one of them never reaches another allocator. Never
+// inlined: GCC 14 would see free() on what operator new gave, and warn.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     ++allocations;
     return std::malloc(size);
@@ -306,5 +307,5 @@ void* operator new(std::size_t size) {
         return memory;
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
