@@ -29,8 +29,8 @@ struct Engine {
         std::stop_token stop;
         QPromise<BenchmarkResult> promise;
 
-        void finish(BenchmarkResult result) {
-            promise.addResult(std::move(result));
+        void finish(const BenchmarkResult& result) {
+            promise.addResult(result);
             promise.finish();
         }
         void fail(auto error) {
