@@ -48,10 +48,13 @@ void chooseRenderer() {
 } // namespace
 
 void EndOfToolkit::operator()(QApplication* application) const {
-    if (QGuiApplication::platformName().startsWith(u"wayland"))
-        QThreadPool::globalInstance()->waitForDone(); // as the destructor does
-    else
+    if (!QGuiApplication::platformName().startsWith(u"wayland")) {
         delete application;
+        return;
+    }
+    QThreadPool::globalInstance()->waitForDone(); // as the destructor does
+    // Qt 6.8 complains, when the process ends, of what was left.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 }
 
 Toolkit startToolkit(int& argc, char** argv) {
