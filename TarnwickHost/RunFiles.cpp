@@ -20,7 +20,7 @@ namespace {
 
 /// Why readRunFile gave nothing for `path`, to stand behind its name.
 std::string whyUnread(const std::string& path) {
-    struct stat facts {};
+    struct stat facts{};
     if (stat(path.c_str(), &facts) != 0)
         return ": " + std::generic_category().message(errno);
     if (!S_ISREG(facts.st_mode))

@@ -15,7 +15,7 @@ namespace {
 struct Feature {
     const char* name;
     const char* label;
-    Capability VolumeCapabilities::*field;
+    Capability VolumeCapabilities::* field;
 };
 constexpr std::array features = {
     Feature{"isCaseSensitive", "Case-sensitive", &VolumeCapabilities::isCaseSensitive},

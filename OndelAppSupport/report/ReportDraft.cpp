@@ -21,7 +21,7 @@ constexpr qint64 longestDraft = 1 << 20; // bytes: what is longer was not typed
 
 struct Words {
     QLatin1String key;
-    QString Report::*text;
+    QString Report::* text;
 };
 constexpr std::array<Words, 3> words{{{QLatin1String("summary"), &Report::summary},
                                       {QLatin1String("details"), &Report::details},

@@ -32,7 +32,7 @@ DataFile::DataFile(const TestRun& run, int openFlags, std::string_view failurePr
 }
 
 std::int64_t DataFile::length() const {
-    struct stat facts {};
+    struct stat facts{};
     fstat(m_file.get(), &facts);
     return facts.st_size;
 }

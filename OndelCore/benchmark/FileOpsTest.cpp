@@ -116,7 +116,7 @@ FileOpsResult fileOps(const TestRun& run, int parent, std::int64_t count) {
     result.create =
         timed([&] { steps.forEach(names.size(), [&](std::size_t i) { createFile(folder, names[i]); }); });
     result.stat = timed([&] {
-        struct stat facts {};
+        struct stat facts{};
         steps.forEach(names.size(),
                       [&](std::size_t i) { fstatat(folder, names[i].c_str(), &facts, AT_SYMLINK_NOFOLLOW); });
     });

@@ -52,7 +52,7 @@ WorkingFolder::WorkingFolder(int parent, uid_t owner)
 /// Whether the open folder is the one just made, or at least an empty one of our own, and nobody else's from
 /// now on.
 bool WorkingFolder::isTaken(uid_t owner) const {
-    struct stat facts {};
+    struct stat facts{};
     if (fstat(m_folder.get(), &facts) != 0 || facts.st_uid != owner ||
         platform::lockFolder(m_folder.get()) == platform::FolderLock::heldElsewhere)
         return false;

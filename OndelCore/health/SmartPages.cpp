@@ -67,8 +67,8 @@ double terabytes(const WideCounter& dataUnits) {
 /// `usualBits` are taken while their value is one that a drive can have, then the low 32, then `leastBits`.
 struct Destination {
     std::uint8_t number;
-    std::int32_t OndelSMART::*has;
-    std::uint64_t OndelSMART::*field;
+    std::int32_t OndelSMART::* has;
+    std::uint64_t OndelSMART::* field;
     unsigned usualBits;
     unsigned leastBits; ///< 24 for hours and 16 for sectors is what smartmontools shows by default
     std::uint64_t greatest;

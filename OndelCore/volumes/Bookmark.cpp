@@ -25,7 +25,7 @@ struct FolderIdentity {
 
 /// Fails: absent with errno set.
 std::optional<FolderIdentity> identityOf(const std::filesystem::path& folder) {
-    struct stat facts {};
+    struct stat facts{};
     if (stat(folder.c_str(), &facts) != 0)
         return std::nullopt;
     if (!S_ISDIR(facts.st_mode)) {

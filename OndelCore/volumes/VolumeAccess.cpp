@@ -23,7 +23,7 @@ bool VolumeAccess::isWritable(const std::filesystem::path& folder) {
 std::optional<uid_t> VolumeAccess::ownerOfNewFiles(int folder) {
     const std::string probe = ".ondel-writeprobe-" + platform::newUuid();
     constexpr char byte = 0x46;
-    struct stat facts {};
+    struct stat facts{};
     bool isProved = false;
     {
         const platform::FileDescriptor file(

@@ -11,8 +11,8 @@ namespace {
 using namespace platform;
 
 struct Feature {
-    Capability VolumeCapabilities::*field;
-    CapabilityWord CapabilityWords::*word;
+    Capability VolumeCapabilities::* field;
+    CapabilityWord CapabilityWords::* word;
     std::uint32_t bit;
 };
 constexpr std::array features = {

@@ -15,7 +15,7 @@ namespace OndelDesktop {
 namespace {
 
 /// The desktop may have to start its portal first.
-constexpr std::chrono::milliseconds patience = std::chrono::seconds(10);
+constexpr std::chrono::milliseconds awakePatience = std::chrono::seconds(10);
 
 const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
@@ -27,7 +27,7 @@ QString newToken() {
     return QStringLiteral("ondel_awake_%1").arg(++count);
 }
 
-QString requestPath(const QString& token) {
+QString awakeRequestPath(const QString& token) {
     QString sender = QDBusConnection::sessionBus().baseService().mid(1);
     return path + QStringLiteral("/request/") + sender.replace(u'.', u'_') + u'/' + token;
 }
@@ -43,7 +43,7 @@ AwakePortal::AwakePortal(const QString& why, std::function<void()> refused)
         return;
     }
     // From whom it comes is left open: the toolkit would wait for the bus to tell who has the portal's name.
-    bus.connect(QString(), requestPath(m_token), request, QStringLiteral("Response"), this,
+    bus.connect(QString(), awakeRequestPath(m_token), request, QStringLiteral("Response"), this,
                 SLOT(answered(uint, QVariantMap)));
     ask(why);
 }
@@ -54,7 +54,7 @@ AwakePortal::~AwakePortal() {
     if (!bus.isConnected())
         return;
     auto message =
-        QDBusMessage::createMethodCall(service, requestPath(m_token), request, QStringLiteral("Close"));
+        QDBusMessage::createMethodCall(service, awakeRequestPath(m_token), request, QStringLiteral("Close"));
     message.setAutoStartService(false);
     bus.send(message);
 }
@@ -66,7 +66,7 @@ void AwakePortal::ask(const QString& why) {
     const QVariantMap options{{QStringLiteral("handle_token"), m_token}, {QStringLiteral("reason"), why}};
     message << QString() << suspendAndIdle << options;
     auto* taken = new QDBusPendingCallWatcher(
-        QDBusConnection::sessionBus().asyncCall(message, static_cast<int>(patience.count())), this);
+        QDBusConnection::sessionBus().asyncCall(message, static_cast<int>(awakePatience.count())), this);
     connect(taken, &QDBusPendingCallWatcher::finished, this, [this, taken] {
         taken->deleteLater();
         if (taken->isError())

@@ -19,7 +19,7 @@ namespace {
 using Failed = std::function<void()>;
 
 /// A file manager that must first be started may take its time.
-constexpr std::chrono::milliseconds patience = std::chrono::seconds(10);
+constexpr std::chrono::milliseconds handOffPatience = std::chrono::seconds(10);
 
 /// Starts one of the desktop's own tools, which find the user's programs. It outlives this process.
 void start(const QString& tool, const QStringList& arguments, const Failed& failed) {
@@ -59,7 +59,8 @@ void showInFolder(const std::filesystem::path& file, Failed failed) {
     auto question = QDBusMessage::createMethodCall(name, QStringLiteral("/org/freedesktop/FileManager1"),
                                                    name, QStringLiteral("ShowItems"));
     question << QStringList{QUrl::fromLocalFile(textOf(file)).toString(QUrl::FullyEncoded)} << QString();
-    auto* shown = new QDBusPendingCallWatcher(bus.asyncCall(question, static_cast<int>(patience.count())));
+    auto* shown =
+        new QDBusPendingCallWatcher(bus.asyncCall(question, static_cast<int>(handOffPatience.count())));
     QObject::connect(shown, &QDBusPendingCallWatcher::finished, shown, [shown, openFolder] {
         if (shown->isError())
             openFolder();

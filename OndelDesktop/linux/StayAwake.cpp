@@ -25,7 +25,7 @@ using OndelCore::platform::FileDescriptor;
 namespace {
 
 /// The login manager may have to be started first.
-constexpr std::chrono::milliseconds patience = std::chrono::seconds(10);
+constexpr std::chrono::milliseconds inhibitPatience = std::chrono::seconds(10);
 
 /// Each wish asks over a connection of a name of its own.
 QString newConnectionName() {
@@ -44,7 +44,7 @@ FileDescriptor loginManagerInhibition(const QString& who, const QString& why) {
             QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("Inhibit"));
         message << QStringLiteral("sleep:idle") << who << why << QStringLiteral("block");
         const QDBusReply<QDBusUnixFileDescriptor> reply =
-            bus.call(message, QDBus::Block, static_cast<int>(patience.count()));
+            bus.call(message, QDBus::Block, static_cast<int>(inhibitPatience.count()));
         if (reply.isValid())
             kept = FileDescriptor(fcntl(reply.value().fileDescriptor(), F_DUPFD_CLOEXEC, 0));
     }

@@ -132,7 +132,7 @@ void fileOps(const Request& ask) {
         names.push_back(dir + "/f" + std::to_string(i));
         newNames.push_back(names.back() + ".r");
     }
-    struct stat facts {};
+    struct stat facts{};
     phase("create", ask.files,
           [&](auto i) { close(must(open(names[i].c_str(), O_WRONLY | O_CREAT | O_EXCL, 0600), "create")); });
     phase("stat", ask.files, [&](auto i) { must(lstat(names[i].c_str(), &facts), "lstat"); });

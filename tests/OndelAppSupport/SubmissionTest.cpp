@@ -126,7 +126,9 @@ TEST(Submission, TellsTheSystemsOwnWordsWhenNoAnswerCame) {
                   ReportError::Cause(ReportError::Transport{"Connection timed out"}));
     }
     QUrl nobody;
-    { nobody = HttpsServer().url(); }
+    {
+        nobody = HttpsServer().url();
+    }
     EXPECT_TRUE(isTransportError(outcome(BugReporter::submit({}, service(nobody)))));
 }
 

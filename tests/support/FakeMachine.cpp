@@ -63,7 +63,7 @@ void FakeMachine::setDatabase(dev_t number, OndelCore::platform::DevicePropertie
 }
 
 void FakeMachine::pretendMounted(const fs::path& path, const Row& row) {
-    struct statx facts {};
+    struct statx facts{};
     if (statx(AT_FDCWD, path.c_str(), 0, STATX_MNT_ID, &facts) != 0)
         throw std::runtime_error("no mount identifier for " + path.string());
     setMountTable(std::to_string(facts.stx_mnt_id) + " 1 " + numberText(row.device) + " / " + path.string() +

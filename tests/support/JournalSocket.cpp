@@ -46,7 +46,7 @@ std::optional<std::string> JournalSocket::take() {
     int descriptor = -1;
     std::memcpy(&descriptor, CMSG_DATA(rights), sizeof descriptor);
     const FileDescriptor file(descriptor);
-    struct stat facts {};
+    struct stat facts{};
     fstat(file.get(), &facts);
     std::string text(static_cast<std::size_t>(facts.st_size), '\0');
     if (pread(file.get(), text.data(), text.size(), 0) != facts.st_size)

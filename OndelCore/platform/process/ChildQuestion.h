@@ -41,9 +41,10 @@ askChildren(const std::vector<std::filesystem::path>& paths, std::size_t answerB
 
 /// The same for an answer of one type: plain data, which is copied byte by byte.
 template <typename Answer>
-requires std::is_trivially_copyable_v<Answer> std::vector<std::optional<Answer>>
-askChildrenFor(const std::vector<std::filesystem::path>& paths,
-               const std::function<bool(const char*, Answer&)>& answer, const Waiting& waiting) {
+    requires std::is_trivially_copyable_v<Answer>
+std::vector<std::optional<Answer>> askChildrenFor(const std::vector<std::filesystem::path>& paths,
+                                                  const std::function<bool(const char*, Answer&)>& answer,
+                                                  const Waiting& waiting) {
     const ChildAnswer raw = [&answer](const char* path, std::span<std::byte> bytes) {
         return answer(path, *std::construct_at(reinterpret_cast<Answer*>(bytes.data())));
     };

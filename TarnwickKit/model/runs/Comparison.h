@@ -14,7 +14,7 @@ namespace TarnwickKit::model {
 struct CompareMetric {
     QString label;
     QString unit;
-    std::optional<double> RunRecord::*magnitude; ///< in its raw unit
+    std::optional<double> RunRecord::* magnitude; ///< in its raw unit
     QString (*format)(double);
 
     /// All of them, in the order to show them.

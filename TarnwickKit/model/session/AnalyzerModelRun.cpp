@@ -151,8 +151,7 @@ void AnalyzerModel::endRun(const std::function<void()>& settle) {
     settle();
     run->stream.cancel();
     run->ended.finish();
-    QMetaObject::invokeMethod(
-        this, [run] {}, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [run] {}, Qt::QueuedConnection);
 }
 
 void AnalyzerModel::finish(BenchmarkResult result) {

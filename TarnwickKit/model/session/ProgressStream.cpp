@@ -24,8 +24,7 @@ struct ProgressStream::Queue {
         if (std::exchange(wakeUpPosted, true))
             return;
         // Posted under the lock: the receiver cannot go away in between.
-        QMetaObject::invokeMethod(
-            receiver, [self] { self->drain(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(receiver, [self] { self->drain(); }, Qt::QueuedConnection);
     }
 
     void drain() {

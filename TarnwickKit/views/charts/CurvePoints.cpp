@@ -5,7 +5,7 @@ namespace TarnwickKit::views {
 namespace {
 
 template <typename Sample>
-QList<QPointF> points(const std::vector<Sample>& samples, double Sample::*time, double Sample::*rate) {
+QList<QPointF> points(const std::vector<Sample>& samples, double Sample::* time, double Sample::* rate) {
     QList<QPointF> result;
     result.reserve(static_cast<qsizetype>(samples.size()));
     for (const Sample& sample : samples)

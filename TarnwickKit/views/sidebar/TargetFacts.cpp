@@ -21,7 +21,7 @@ namespace {
 
 struct Feature {
     const char* name;
-    Capability VolumeCapabilities::*flag;
+    Capability VolumeCapabilities::* flag;
 };
 constexpr std::array featureTable{
     Feature{QT_TRANSLATE_NOOP("TarnwickKit::views::TargetFacts", "Sparse files"),

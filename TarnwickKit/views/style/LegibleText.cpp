@@ -15,8 +15,7 @@ bool disturbsLine(QChar character) {
 QString legible(const QString& text) {
     constexpr qsizetype most = 300;
     QString result = text.left(most);
-    std::ranges::replace_if(
-        result, [](QChar one) { return disturbsLine(one) && one.isSpace(); }, u' ');
+    std::ranges::replace_if(result, [](QChar one) { return disturbsLine(one) && one.isSpace(); }, u' ');
     result.removeIf(disturbsLine);
     // "With colours", which an emoji is anyway: the toolkit takes the sign from another font than the emoji,
     // and a flag of two parts falls into them.

@@ -20,7 +20,7 @@ struct Shade {
 };
 
 struct Entry {
-    QColor Palette::*field;
+    QColor Palette::* field;
     Shade light;
     Shade dark;
 };

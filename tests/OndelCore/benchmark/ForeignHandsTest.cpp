@@ -168,7 +168,7 @@ private:
     static void exchangeIn(int folder) {
         static int stolen = 0;
         for (const std::string& name : namesIn(folder)) {
-            struct stat facts {};
+            struct stat facts{};
             if (!name.starts_with(".ondel-analyzer-") ||
                 fstatat(folder, name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0 || facts.st_uid == user)
                 continue;

@@ -67,7 +67,7 @@ TEST_F(OptimalSizeTest, IsWhatTheQueueOfTheWholeDiskTakesBest) {
 
 TEST_F(OptimalSizeTest, OfAServerIsItsOwnWordAndOfMemoryNone) {
     test::FakeMachine machine;
-    struct stat facts {};
+    struct stat facts{};
     ASSERT_EQ(stat(machine.folder().c_str(), &facts), 0);
     machine.pretendMounted(machine.folder(),
                            {.type = "nfs4", .device = makedev(0, 40), .source = "filer:/x"});

@@ -8,8 +8,8 @@ using namespace OndelCore::platform;
 namespace {
 
 struct Feature {
-    Capability VolumeCapabilities::*field;
-    CapabilityWord CapabilityWords::*word;
+    Capability VolumeCapabilities::* field;
+    CapabilityWord CapabilityWords::* word;
     std::uint32_t bit;
 };
 

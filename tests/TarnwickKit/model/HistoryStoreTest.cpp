@@ -48,7 +48,7 @@ struct History : testing::Test {
     }
     /// A change of the file is a new file in its place.
     ino_t fileNumber() const {
-        struct stat status {};
+        struct stat status{};
         return stat(file.c_str(), &status) == 0 ? status.st_ino : 0;
     }
 };
@@ -240,7 +240,7 @@ TEST_F(History, ProcessesThatWriteAtOnceLoseNoRun) {
         });
     }
     int status = 0;
-    for (int ended = 0; ended<writers; ended += waitpid(-1, &status, WNOHANG)> 0) {
+    for (int ended = 0; ended < writers; ended += waitpid(-1, &status, WNOHANG) > 0) {
         ASSERT_TRUE(!fs::exists(file) || stored()) << "a torn file";
         ASSERT_EQ(status, 0);
     }

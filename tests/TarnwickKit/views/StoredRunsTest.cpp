@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/StoredRuns.h"
+#include "TarnwickKit/views/runs/StoredRuns.h"
 
 #include "tests/TarnwickKit/model/ModelHarness.h"
 #include "tests/TarnwickKit/views/Pictures.h"

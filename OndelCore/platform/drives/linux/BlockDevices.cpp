@@ -100,7 +100,7 @@ std::vector<BlockDevice> devicesOfZfsPool(const std::string& pool, const SystemS
 }
 
 std::optional<dev_t> blockNumberOfNode(const fs::path& node) {
-    struct stat facts {};
+    struct stat facts{};
     if (stat(node.c_str(), &facts) != 0 || !S_ISBLK(facts.st_mode))
         return std::nullopt;
     return facts.st_rdev;

@@ -105,7 +105,7 @@ DeviceProperties superblockProperties(dev_t number) {
 
 DeviceProperties imageProperties(const std::filesystem::path& image) {
     const FileDescriptor file(open(image.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    struct stat facts {};
+    struct stat facts{};
     const std::unique_ptr<blkid_struct_probe, Unref> probe(blkid_new_probe());
     if (!file || fstat(file.get(), &facts) != 0 || !S_ISREG(facts.st_mode) || !probe ||
         blkid_probe_set_device(probe.get(), file.get(), 0, 0) != 0)

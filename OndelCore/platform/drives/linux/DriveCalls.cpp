@@ -10,7 +10,7 @@ namespace OndelCore::platform {
 
 FileDescriptor DriveCalls::open(const BlockDevice& disk) {
     FileDescriptor drive(::open(disk.node().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    struct stat facts {};
+    struct stat facts{};
     if (!drive || fstat(drive.get(), &facts) != 0)
         return FileDescriptor();
     if (!S_ISBLK(facts.st_mode) || facts.st_rdev != disk.number) {

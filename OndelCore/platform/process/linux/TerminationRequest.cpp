@@ -30,12 +30,12 @@ int terminationRequestDescriptor() {
     if (requestEvent < 0)
         throw std::system_error(errno, std::generic_category(), "eventfd");
 
-    struct sigaction action {};
+    struct sigaction action{};
     action.sa_handler = noteRequest;
     action.sa_flags = SA_RESTART; // a measured transfer must not see EINTR
     sigemptyset(&action.sa_mask);
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        struct sigaction before {};
+        struct sigaction before{};
         sigaction(signal, nullptr, &before);
         if (before.sa_handler != SIG_IGN) // nohup and background jobs of a shell mean it
             sigaction(signal, &action, nullptr);

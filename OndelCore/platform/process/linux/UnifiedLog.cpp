@@ -62,7 +62,7 @@ std::string payloadOf(const UnifiedLogEntry& entry) {
 
 UnifiedLog::UnifiedLog(const std::filesystem::path& socket) {
     const std::string& name = socket.native();
-    struct stat facts {};
+    struct stat facts{};
     if (name.size() >= sizeof m_address.sun_path || stat(name.c_str(), &facts) != 0 ||
         !S_ISSOCK(facts.st_mode))
         return;
@@ -125,7 +125,7 @@ void UnifiedLog::sendAsFile(std::string_view payload) const {
 }
 
 bool isStandardErrorLogged() {
-    struct stat facts {};
+    struct stat facts{};
     if (fstat(STDERR_FILENO, &facts) != 0)
         return false;
     // What systemd connects to the journal it names by device and inode (systemd.exec(5)).

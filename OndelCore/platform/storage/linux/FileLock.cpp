@@ -17,7 +17,7 @@ FileDescriptor openRegular(const std::filesystem::path& path) {
     constexpr mode_t ownerOnly = 0600;
     FileDescriptor file(
         open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, ownerOnly));
-    struct stat facts {};
+    struct stat facts{};
     return file && fstat(file.get(), &facts) == 0 && S_ISREG(facts.st_mode) ? std::move(file)
                                                                             : FileDescriptor();
 }

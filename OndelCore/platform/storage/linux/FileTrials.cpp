@@ -53,7 +53,7 @@ bool writeAroundAHole(int file) {
 
 std::optional<bool> isSparse(int file) {
     constexpr std::int64_t blockBytes = 512; // of st_blocks, whatever the file system's are
-    struct stat facts {};
+    struct stat facts{};
     if (fstat(file, &facts) != 0)
         return std::nullopt;
     const std::int64_t held = facts.st_blocks * blockBytes;

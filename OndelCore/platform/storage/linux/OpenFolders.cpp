@@ -26,8 +26,8 @@ struct CloseFolder {
 };
 
 bool isSameMount(int one, int other) {
-    struct statx first {};
-    struct statx second {};
+    struct statx first{};
+    struct statx second{};
     if (statx(one, "", AT_EMPTY_PATH, STATX_MNT_ID, &first) == 0 &&
         statx(other, "", AT_EMPTY_PATH, STATX_MNT_ID, &second) == 0 &&
         (first.stx_mask & second.stx_mask & STATX_MNT_ID) != 0)
@@ -40,7 +40,7 @@ bool isSameMount(int one, int other) {
 
 /// fchmod(2) takes no O_PATH descriptor; the link of the same descriptor in /proc is the way around.
 void letOwnerIn(int handle) {
-    struct stat facts {};
+    struct stat facts{};
     if (fstat(handle, &facts) == 0 && facts.st_uid == geteuid() && (facts.st_mode & S_IRWXU) != S_IRWXU)
         chmod(("/proc/self/fd/" + std::to_string(handle)).c_str(), S_IRWXU);
 }
@@ -147,14 +147,14 @@ std::optional<std::string> nameIn(int above, const FileIdentity& folder) {
 } // namespace
 
 std::optional<FileIdentity> identityOf(int descriptor) {
-    struct stat facts {};
+    struct stat facts{};
     if (fstat(descriptor, &facts) != 0)
         return std::nullopt;
     return FileIdentity{facts.st_dev, facts.st_ino};
 }
 
 std::optional<FileIdentity> identityOf(int folder, const std::string& name) {
-    struct stat facts {};
+    struct stat facts{};
     if (fstatat(folder, name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0)
         return std::nullopt;
     return FileIdentity{facts.st_dev, facts.st_ino};

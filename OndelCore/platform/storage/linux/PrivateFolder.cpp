@@ -22,7 +22,7 @@ constexpr std::string_view folderName = "tools.ondel.tarnwick";
 
 /// A real folder, not a link to one, that belongs to this user and that nobody else may enter.
 bool isOurs(const fs::path& folder) {
-    struct stat status {};
+    struct stat status{};
     return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid() &&
            (status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)) == ownerOnly;
 }
@@ -38,8 +38,8 @@ std::optional<fs::path> sessionFolder() {
 
 /// Another user's FUSE can be mounted in a folder that all share and claim any owner.
 bool isMounted(const fs::path& folder, const fs::path& parent) {
-    struct stat here {};
-    struct stat above {};
+    struct stat here{};
+    struct stat above{};
     return lstat(folder.c_str(), &here) != 0 || stat(parent.c_str(), &above) != 0 ||
            here.st_dev != above.st_dev;
 }

@@ -16,7 +16,7 @@ std::optional<std::string> readRegularFile(const std::filesystem::path& path, st
     error.clear();
     // Without O_NONBLOCK a pipe would hold the caller here until somebody writes.
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    struct stat facts {};
+    struct stat facts{};
     if (!file || fstat(file.get(), &facts) != 0) {
         error = lastError();
         return std::nullopt;

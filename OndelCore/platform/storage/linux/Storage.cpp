@@ -9,7 +9,7 @@
 namespace OndelCore::platform {
 
 std::optional<std::int64_t> freeBytes(int descriptor) {
-    struct statvfs facts {};
+    struct statvfs facts{};
     if (fstatvfs(descriptor, &facts) != 0)
         return std::nullopt;
     // Linux counts in fragments; f_bsize is larger on some FUSE and network file systems.

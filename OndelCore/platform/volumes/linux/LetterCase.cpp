@@ -101,7 +101,7 @@ FolderNames namesInThis(int folder) {
         names.hasCapitals |= name.has(isUpper);
         if (!name.has(isLower) && !name.has(isUpper))
             return true;
-        struct stat ignored {};
+        struct stat ignored{};
         if (found != LetterCase::unknown)
             return !names.hasCapitals && ++lookups < mostLookups;
         if (fstatat(folder, name.swapped().text(), &ignored, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) == 0)
@@ -117,7 +117,7 @@ FolderNames namesInThis(int folder) {
 }
 
 std::uint64_t mountOfFolder(int folder) {
-    struct statx facts {};
+    struct statx facts{};
     const int found = statx(folder, "", AT_EMPTY_PATH | AT_STATX_DONT_SYNC, STATX_MNT_ID, &facts);
     return found == 0 && (facts.stx_mask & STATX_MNT_ID) ? facts.stx_mnt_id : 0;
 }
@@ -125,8 +125,8 @@ std::uint64_t mountOfFolder(int folder) {
 /// The folder above on the same mount; -1 at the mount's root. Closes `folder`.
 int replacedByParent(int folder) {
     const int above = openat(folder, "..", O_PATH | O_DIRECTORY | O_CLOEXEC); // asks no other file system
-    struct stat here {};
-    struct stat there {};
+    struct stat here{};
+    struct stat there{};
     const bool isInside = above >= 0 && mountOfFolder(above) == mountOfFolder(folder) &&
                           fstat(folder, &here) == 0 && fstat(above, &there) == 0 &&
                           here.st_ino != there.st_ino;

@@ -103,7 +103,7 @@ void askFolder(const char* path, RawFacts& facts) {
 }
 
 bool ask(const char* path, PathQuestion question, RawFacts& facts) {
-    struct statx place {};
+    struct statx place{};
     if (statx(AT_FDCWD, path, 0, STATX_BASIC_STATS | STATX_MNT_ID, &place) != 0) {
         facts.error = errno;
         return true;
@@ -115,7 +115,7 @@ bool ask(const char* path, PathQuestion question, RawFacts& facts) {
     askResolved(path, facts);
     if (question == PathQuestion::place)
         return true;
-    struct statfs sizes {};
+    struct statfs sizes{};
     if (statfs(path, &sizes) == 0)
         facts.sizes.tell(sizes);
     if (question == PathQuestion::sizes)
@@ -206,7 +206,7 @@ private:
         const fs::path next = m_place / name;
         if (m_hanging.contains(next.native()))
             return Step::hanging;
-        struct stat facts {};
+        struct stat facts{};
         if (fstatat(AT_FDCWD, next.c_str(), &facts, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) != 0)
             return Step::end; // the question itself will fail here too
         if (!S_ISLNK(facts.st_mode)) {
@@ -282,7 +282,7 @@ std::vector<std::optional<std::int64_t>> totalSizes(const std::vector<Mount>& mo
     auto next = answers.begin();
     std::vector<std::optional<std::int64_t>> totals;
     for (const Mount& mount : mounts) {
-        struct statfs local {};
+        struct statfs local{};
         std::optional<struct statfs> sizes;
         if (mayHang(mount))
             sizes = *next++;

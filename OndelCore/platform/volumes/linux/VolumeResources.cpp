@@ -30,7 +30,7 @@ std::optional<std::string> labelOfMounted(const Mount& mount) {
         return std::nullopt;
     const FileDescriptor folder(
         open(mount.mountPoint.c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC));
-    struct statx facts {};
+    struct statx facts{};
     if (!folder || statx(folder.get(), "", AT_EMPTY_PATH, STATX_MNT_ID, &facts) != 0 ||
         facts.stx_mnt_id != mount.id)
         return std::nullopt; // another file system covers this one
