@@ -66,7 +66,7 @@ MenuStrip {
             Command {
                 text: qsTr("Close")
                 keys: "Ctrl+W"
-                shortcut: commands.Window.activeFocusItem ? keys : "" // another window's keys close that one
+                shortcut: commands.Window.activeFocusItem ? keys : "" // newer toolkits hear a menu's keys beside its window too
                 beginsGroup: true
                 enabled: !commands.app.showReport
                 onTriggered: commands.app.terminate()

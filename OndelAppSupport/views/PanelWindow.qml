@@ -26,8 +26,6 @@ Window {
 
     Shortcut {
         sequences: ["Escape", "Ctrl+W"]
-        // Newer toolkits hear a window's keys while any window of the same main window has the keyboard, even a closed one's.
-        enabled: panel.activeFocusItem !== null
         onActivated: panel.close()
     }
 }

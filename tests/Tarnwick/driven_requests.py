@@ -247,12 +247,6 @@ def goes_by_menu(program, folder):
         window.gone("Not Now")
         driver.display.press("ctrl+w")
         window.until("the end of the settings", lambda: not driver.windows("^Settings$"))
-        for key in "Escape", "ctrl+w":  # now that both windows have been there
-            window.press("Tarnwick", "menu item")
-            window.press("About Ondel Tarnwick", "menu item")
-            driver.focus("About Ondel Tarnwick")
-            driver.display.press(key)
-            window.until("the end of the panel", lambda: not driver.windows("^About Ondel Tarnwick$"))
 
         window.keys("ctrl+shift+o")
         driver.focus("Open")

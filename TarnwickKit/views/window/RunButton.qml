@@ -64,7 +64,7 @@ PlainButton {
 
     Shortcut {
         sequences: ["Ctrl+Return", "Ctrl+Enter"]
-        enabled: !button.stops && button.enabled && button.Window.activeFocusItem !== null // not beside another window
+        enabled: !button.stops && button.enabled
         onActivated: button.run()
     }
     Loader {
