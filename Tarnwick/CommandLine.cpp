@@ -2,6 +2,7 @@
 
 #include "OndelCore/platform/process/UnifiedLog.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
+#include "OndelCore/volumes/FileUrl.h"
 #include "Tarnwick/OpenUrls.h"
 #include "Tarnwick/Product.h"
 #include "TarnwickKit/model/format/DisplayText.h"
@@ -39,7 +40,7 @@ std::string urlOf(const char* word) {
     }
     std::error_code error;
     const fs::path path = fs::absolute(word, error);
-    return fileUrl(error ? fs::path(word) : path.lexically_normal());
+    return OndelCore::volumes::fileUrl(error ? fs::path(word) : path.lexically_normal());
 }
 
 } // namespace

@@ -1,23 +1,14 @@
 #include "Tarnwick/OpenUrls.h"
 
 #include "OndelCore/platform/volumes/PathFacts.h"
+#include "OndelCore/volumes/FileUrl.h"
 #include "TarnwickKit/model/runs/TarnwickFile.h"
-
-#include <QByteArray>
-#include <QString>
-#include <QSysInfo>
 
 #include <chrono>
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr std::string_view scheme = "file://";
-
-bool isThisHost(std::string_view host) {
-    return host.empty() || host == "localhost" || QSysInfo::machineHostName().toStdString() == host;
-}
 
 bool isRunFile(const fs::path& path) {
     const std::string extension = (path.has_filename() ? path : path.parent_path()).extension();
@@ -26,27 +17,6 @@ bool isRunFile(const fs::path& path) {
 
 } // namespace
 
-std::optional<fs::path> localPath(std::string_view url) {
-    if (!url.starts_with(scheme))
-        return std::nullopt;
-    url.remove_prefix(scheme.size());
-    const std::size_t root = url.find('/');
-    if (root == std::string_view::npos || !isThisHost(url.substr(0, root)))
-        return std::nullopt;
-    url = url.substr(root, url.find_first_of("?#") - root);
-    const std::string path =
-        QByteArray::fromPercentEncoding(QByteArray(url.data(), static_cast<qsizetype>(url.size())))
-            .toStdString();
-    if (path.find('\0') != std::string::npos)
-        return std::nullopt;
-    return fs::path(path);
-}
-
-std::string fileUrl(const fs::path& path) {
-    return std::string(scheme) +
-           QByteArray::fromStdString(path.native()).toPercentEncoding("/").toStdString();
-}
-
 OpenUrls OpenUrls::from(const std::vector<std::string>& urls) {
     using namespace OndelCore::platform;
     using Clock = std::chrono::steady_clock;
@@ -54,7 +24,7 @@ OpenUrls OpenUrls::from(const std::vector<std::string>& urls) {
     const auto end = Clock::now() + patienceWithAll;
     OpenUrls sorted;
     for (std::size_t place = 0; place < urls.size(); ++place) {
-        const auto path = localPath(urls[place]);
+        const auto path = OndelCore::volumes::localPath(urls[place]);
         const bool isRun = path && isRunFile(*path);
         if (isRun)
             sorted.runs.push_back(*path);

@@ -5,15 +5,7 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <string_view>
 #include <vector>
-
-/// The file that a URL means on this machine, byte for byte, as file names need not be text. Fails: absent
-/// for any other URL, and for one that names another host.
-std::optional<std::filesystem::path> localPath(std::string_view url);
-
-/// The URL of an absolute path.
-std::string fileUrl(const std::filesystem::path& path);
 
 /// A list of URLs sorted by what they mean here.
 struct OpenUrls {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "OndelCore/Hashing.h"
 #include "OndelCore/NamedError.h"
-#include "OndelCore/benchmark/Hashing.h"
 
 #include <cstdint>
 #include <exception>

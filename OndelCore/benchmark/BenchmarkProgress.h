@@ -1,7 +1,7 @@
 #pragma once
 
+#include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkTest.h"
-#include "OndelCore/benchmark/Hashing.h"
 
 #include <cstdint>
 #include <functional>

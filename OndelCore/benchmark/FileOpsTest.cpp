@@ -1,6 +1,6 @@
 #include "OndelCore/benchmark/FileOpsTest.h"
 
-#include "OndelCore/benchmark/SaturatingMath.h"
+#include "OndelCore/SaturatingMath.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
 
 #include <fcntl.h>

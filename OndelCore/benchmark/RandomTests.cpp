@@ -1,7 +1,7 @@
 #include "OndelCore/benchmark/RandomTests.h"
 
+#include "OndelCore/SaturatingMath.h"
 #include "OndelCore/benchmark/DataFile.h"
-#include "OndelCore/benchmark/SaturatingMath.h"
 #include "OndelCore/benchmark/UniformIndexGenerator.h"
 #include "OndelCore/platform/process/SystemCalls.h"
 

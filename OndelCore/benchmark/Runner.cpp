@@ -1,8 +1,8 @@
 #include "OndelCore/benchmark/Runner.h"
 
+#include "OndelCore/SaturatingMath.h"
 #include "OndelCore/benchmark/FileOpsTest.h"
 #include "OndelCore/benchmark/RandomTests.h"
-#include "OndelCore/benchmark/SaturatingMath.h"
 #include "OndelCore/benchmark/SequentialTests.h"
 #include "OndelCore/benchmark/TestRun.h"
 #include "OndelCore/benchmark/WorkingFolder.h"

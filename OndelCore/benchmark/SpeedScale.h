@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/benchmark/Hashing.h"
+#include "OndelCore/Hashing.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "OndelCore/Hashing.h"
+
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,7 @@ struct DiskSMART {
         bool warning = false; ///< the figure is a concern
 
         bool operator==(const Attribute&) const = default;
+        std::size_t hash() const { return hashFields(label, value, warning); }
     };
 
     Status status = Status::notSupported;
@@ -30,16 +32,7 @@ struct DiskSMART {
     bool isSupported() const { return status != Status::notSupported; }
 
     bool operator==(const DiskSMART&) const = default;
+    std::size_t hash() const { return hashFields(status, kind, attributes, note); }
 };
 
 } // namespace OndelCore::health
-
-template <>
-struct std::hash<OndelCore::health::DiskSMART::Attribute> {
-    std::size_t operator()(const OndelCore::health::DiskSMART::Attribute& attribute) const noexcept;
-};
-
-template <>
-struct std::hash<OndelCore::health::DiskSMART> {
-    std::size_t operator()(const OndelCore::health::DiskSMART& smart) const noexcept;
-};

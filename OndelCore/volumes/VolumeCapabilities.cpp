@@ -1,7 +1,5 @@
 #include "OndelCore/volumes/VolumeCapabilities.h"
 
-#include <QHash>
-
 #include <array>
 
 namespace OndelCore::volumes {
@@ -70,15 +68,12 @@ void VolumeCapabilities::learn(const TriedAbilities& tried) {
         supportsCloning = *tried.cloning;
 }
 
-} // namespace OndelCore::volumes
-
-std::size_t std::hash<OndelCore::volumes::VolumeCapabilities>::operator()(
-    const OndelCore::volumes::VolumeCapabilities& capabilities) const noexcept {
-    std::size_t seed =
-        qHashMulti(0, capabilities.filesystemType, capabilities.maxNameLength.value_or(-1),
-                   capabilities.maxPathLength.value_or(-1), capabilities.maxLinkCount.value_or(-1),
-                   capabilities.blockSize, capabilities.optimalIOSize);
-    for (const auto& feature : OndelCore::volumes::features)
-        seed = qHashMulti(seed, bool{capabilities.*feature.field}, (capabilities.*feature.field).isKnown());
-    return seed;
+std::size_t VolumeCapabilities::hash() const {
+    std::size_t hash =
+        hashFields(filesystemType, maxNameLength, maxPathLength, maxLinkCount, blockSize, optimalIOSize);
+    for (const Feature& feature : features)
+        hash = mixed(hash, (this->*feature.field).hash());
+    return hash;
 }
+
+} // namespace OndelCore::volumes

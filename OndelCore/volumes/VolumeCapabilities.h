@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Hashing.h"
 #include "OndelCore/platform/drives/SystemSources.h"
 #include "OndelCore/platform/storage/FileTrials.h"
 #include "OndelCore/platform/volumes/FileSystemAnswers.h"
@@ -10,7 +11,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <optional>
 
 namespace OndelCore::volumes {
@@ -34,6 +34,7 @@ public:
     constexpr bool isKnown() const { return m_isKnown; }
 
     bool operator==(const Capability&) const = default;
+    std::size_t hash() const { return hashFields(m_isThere, m_isKnown); }
 
 private:
     bool m_isThere = false;
@@ -74,11 +75,7 @@ struct VolumeCapabilities {
     void learn(const platform::TriedAbilities& tried);
 
     bool operator==(const VolumeCapabilities&) const = default;
+    std::size_t hash() const;
 };
 
 } // namespace OndelCore::volumes
-
-template <>
-struct std::hash<OndelCore::volumes::VolumeCapabilities> {
-    std::size_t operator()(const OndelCore::volumes::VolumeCapabilities& capabilities) const noexcept;
-};

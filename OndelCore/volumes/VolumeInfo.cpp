@@ -1,7 +1,8 @@
 #include "OndelCore/volumes/VolumeInfo.h"
 
+#include "OndelCore/SaturatingMath.h"
+
 #include <algorithm>
-#include <limits>
 
 namespace OndelCore::volumes {
 
@@ -14,10 +15,7 @@ QString textOr(const std::optional<std::string>& text, const char* otherwise) {
 
 /// a - b, at least 0, without overflow for any two numbers.
 std::int64_t difference(std::int64_t a, std::int64_t b) {
-    std::int64_t result = 0;
-    if (__builtin_sub_overflow(a, b, &result))
-        return a > b ? std::numeric_limits<std::int64_t>::max() : 0;
-    return std::max<std::int64_t>(result, 0);
+    return std::max<std::int64_t>(saturatingSubtract(a, b), 0);
 }
 
 } // namespace

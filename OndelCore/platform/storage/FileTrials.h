@@ -1,7 +1,8 @@
 #pragma once
 
+#include "OndelCore/Hashing.h"
+
 #include <cstddef>
-#include <functional>
 #include <optional>
 
 namespace OndelCore::platform {
@@ -12,9 +13,7 @@ struct TriedAbilities {
     std::optional<bool> cloning;     ///< a file can share another one's blocks
 
     bool operator==(const TriedAbilities&) const = default;
-    std::size_t hash() const {
-        return std::hash<std::optional<bool>>()(sparseFiles) * 31 + std::hash<std::optional<bool>>()(cloning);
-    }
+    std::size_t hash() const { return hashFields(sparseFiles, cloning); }
 };
 
 /// Tries with files of its own in `folder`, an open one, and removes them again. Writes and flushes less than

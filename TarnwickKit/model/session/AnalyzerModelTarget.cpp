@@ -7,6 +7,7 @@
 #include "OndelCore/platform/process/SystemCalls.h"
 #include "OndelCore/platform/storage/ReplaceFile.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
+#include "OndelCore/volumes/FileUrl.h"
 #include "OndelCore/volumes/MountedVolumes.h"
 #include "TarnwickKit/model/session/AnalyzerRun.h"
 #include "TarnwickKit/model/session/PropertyChange.h"
@@ -26,10 +27,6 @@ using OndelCore::health::DiskSMART;
 using OndelCore::volumes::Location;
 
 namespace {
-
-std::filesystem::path localPath(const QUrl& url) {
-    return QFile::encodeName(url.toLocalFile()).toStdString();
-}
 
 std::optional<std::int64_t> suitableBlock(std::int64_t optimalIOSize) {
     return optimalIOSize > 0 ? std::optional(BenchmarkPlan::alignedBlock(optimalIOSize)) : std::nullopt;
@@ -53,8 +50,8 @@ QString AnalyzerModel::targetFolderText() const {
 }
 
 void AnalyzerModel::select(const QUrl& folder) {
-    if (folder.isLocalFile())
-        select(localPath(folder));
+    if (const auto path = OndelCore::volumes::localPath(folder))
+        select(*path);
 }
 
 void AnalyzerModel::select(const std::filesystem::path& folder) {
@@ -103,12 +100,12 @@ void AnalyzerModel::learnAbilities(const OndelCore::platform::TriedAbilities& tr
 }
 
 void AnalyzerModel::selectVolume(const QUrl& mountPoint) {
-    if (!mountPoint.isLocalFile())
+    const auto volume = OndelCore::volumes::localPath(mountPoint);
+    if (!volume)
         return;
     const auto home = OndelCore::platform::homeFolder().value_or("/");
-    const auto volume = localPath(mountPoint);
-    const bool answers = answersInTime(volume, m_services.volumePatience);
-    select(answers ? OndelCore::benchmark::BenchmarkTarget::folder(volume, home) : volume);
+    const bool answers = answersInTime(*volume, m_services.volumePatience);
+    select(answers ? OndelCore::benchmark::BenchmarkTarget::folder(*volume, home) : *volume);
 }
 
 void AnalyzerModel::chooseFolder() { chooseFolder(m_targetFolder); }

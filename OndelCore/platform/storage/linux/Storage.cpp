@@ -1,10 +1,11 @@
 #include "OndelCore/platform/storage/Storage.h"
 
+#include "OndelCore/SaturatingMath.h"
+
 #include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <limits>
 
 namespace OndelCore::platform {
 
@@ -13,10 +14,7 @@ std::optional<std::int64_t> freeBytes(int descriptor) {
     if (fstatvfs(descriptor, &facts) != 0)
         return std::nullopt;
     // Linux counts in fragments; f_bsize is larger on some FUSE and network file systems.
-    std::int64_t bytes = 0;
-    if (__builtin_mul_overflow(facts.f_bavail, facts.f_frsize, &bytes))
-        return std::numeric_limits<std::int64_t>::max();
-    return bytes;
+    return saturatingMultiply(facts.f_bavail, facts.f_frsize);
 }
 
 // fsync(2) on Linux sends the drive's cache flush after the data.

@@ -1,5 +1,6 @@
 #include "OndelCore/platform/volumes/PathFacts.h"
 
+#include "OndelCore/SaturatingMath.h"
 #include "OndelCore/platform/storage/FileDescriptor.h"
 #include "OndelCore/platform/volumes/FileSystemFacts.h"
 #include "OndelCore/platform/volumes/linux/LetterCase.h"
@@ -19,7 +20,6 @@
 #include <cerrno>
 #include <climits>
 #include <deque>
-#include <limits>
 #include <string_view>
 #include <unordered_set>
 
@@ -129,19 +129,12 @@ bool ask(const char* path, PathQuestion question, RawFacts& facts) {
 
 // --- The answers
 
-/// Blocks times their size, held at the greatest number there is.
-std::int64_t bytes(std::uint64_t blocks, std::uint64_t blockSize) {
-    std::int64_t product = 0;
-    return __builtin_mul_overflow(blocks, blockSize, &product) ? std::numeric_limits<std::int64_t>::max()
-                                                               : product;
-}
-
 void addSizes(const struct statfs& sizes, PathFacts& facts) {
     // Linux counts in fragments; f_bsize is larger on some FUSE and network file systems.
     const auto unit = static_cast<std::uint64_t>(sizes.f_frsize ? sizes.f_frsize : sizes.f_bsize);
     facts.hasSizes = true;
-    facts.total = bytes(sizes.f_blocks, unit);
-    facts.available = bytes(sizes.f_bavail, unit);
+    facts.total = saturatingMultiply(sizes.f_blocks, unit);
+    facts.available = saturatingMultiply(sizes.f_bavail, unit);
     facts.blockSize = static_cast<std::int64_t>(unit);
 }
 
