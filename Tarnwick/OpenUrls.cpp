@@ -2,7 +2,7 @@
 
 #include "OndelCore/platform/volumes/PathFacts.h"
 #include "OndelCore/volumes/FileUrl.h"
-#include "TarnwickKit/model/runs/TarnwickFile.h"
+#include "TarnwickKit/model/runs/RunFile.h"
 
 #include <chrono>
 

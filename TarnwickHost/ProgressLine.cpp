@@ -1,6 +1,6 @@
 #include "TarnwickHost/ProgressLine.h"
 
-#include "TarnwickKit/model/format/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
 
 #include <algorithm>

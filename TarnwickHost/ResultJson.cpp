@@ -1,6 +1,6 @@
 #include "TarnwickHost/ResultJson.h"
 
-#include "TarnwickKit/model/format/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/format/BenchmarkText.h"
 
 #include <QJsonArray>
 

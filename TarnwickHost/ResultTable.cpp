@@ -1,7 +1,7 @@
 #include "TarnwickHost/ResultTable.h"
 
 #include "TarnwickHost/TextColumns.h"
-#include "TarnwickKit/model/format/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
 
 #include <vector>

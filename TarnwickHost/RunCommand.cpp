@@ -9,7 +9,7 @@
 #include "TarnwickHost/ResultTable.h"
 #include "TarnwickHost/RunEventLoop.h"
 #include "TarnwickHost/RunOptions.h"
-#include "TarnwickKit/model/format/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
 #include <QJsonDocument>

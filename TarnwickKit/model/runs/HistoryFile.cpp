@@ -5,9 +5,7 @@
 #include "OndelCore/platform/storage/ReadFile.h"
 #include "OndelCore/platform/storage/ReplaceFile.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
-#include "TarnwickKit/model/runs/RunRecordFields.h"
 #include "TarnwickKit/model/runs/RunRecordJson.h"
-#include "TarnwickKit/model/runs/ThinnedCurve.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -172,12 +170,6 @@ std::optional<QByteArray> encodedWithin(std::size_t most, const RunRecord& run) 
     return json && static_cast<std::size_t>(json->size()) <= most ? json : std::nullopt;
 }
 
-RunRecord withThinnedCurves(RunRecord run) {
-    run.writeSamples = thinned(run.writeSamples);
-    run.readSamples = thinned(run.readSamples);
-    return run;
-}
-
 /// A JSON array of what `form` makes of each run. Fails: absent as soon as it is too long for the file.
 template <typename Form>
 std::optional<QByteArray> arrayOf(const Runs& runs, Form form) {
@@ -204,7 +196,7 @@ std::string encoded(const Runs& runs) {
     return arrayOf(runs,
                    [share](const RunRecord& run) {
                        auto full = encodedWithin(share, run);
-                       return full ? full : encodedWithin(share, withThinnedCurves(run));
+                       return full ? full : encodedWithin(share, run.withThinnedCurves());
                    })
         .value()
         .toStdString();

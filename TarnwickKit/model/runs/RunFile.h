@@ -6,10 +6,17 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
 namespace TarnwickKit::model {
+
+/// What marks a file that carries one run from one application to another. The content alone proves that it
+/// is one.
+struct TarnwickFile {
+    static constexpr std::string_view runExtension = "tarnwickrun";
+};
 
 /// The content of a file of runs. Fails: as readRegularFile, and above RunRecordJson's limit.
 std::optional<std::string> readRunFile(const std::filesystem::path& path);

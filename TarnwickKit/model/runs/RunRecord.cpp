@@ -1,22 +1,128 @@
 #include "TarnwickKit/model/runs/RunRecord.h"
 
-#include "TarnwickKit/model/runs/RunRecordFields.h"
-
-#include <QHash>
+#include "OndelCore/Hashing.h"
+#include "TarnwickKit/model/format/Format.h"
 
 #include <unicode/brkiter.h>
 
 #include <algorithm>
 #include <memory>
+#include <tuple>
+#include <utility>
 
 namespace TarnwickKit::model {
 
 using namespace Qt::StringLiterals;
+using OndelCore::benchmark::BenchmarkPlan;
+using OndelCore::benchmark::BenchmarkResult;
+using OndelCore::benchmark::ThroughputResult;
+using OndelCore::volumes::VolumeCapabilities;
+using OndelCore::volumes::VolumeInfo;
 
 namespace {
 
+// --- A record from a run's result and the facts of its volume
+
+/// Without facts of the volume a run counts as internal.
+std::pair<QString, RunRecord::Kind> attachment(const std::optional<VolumeInfo>& volume, bool isOnNetwork) {
+    if (isOnNetwork)
+        return {u"Network"_s, RunRecord::Kind::network};
+    if (volume && volume->isRemovable)
+        return {u"Removable"_s, RunRecord::Kind::external};
+    if (!volume || volume->isInternal)
+        return {u"Internal"_s, RunRecord::Kind::internalDrive};
+    return {u"External"_s, RunRecord::Kind::external};
+}
+
+double sumOfDurations(const BenchmarkResult& result) {
+    const auto duration = [](const auto& test) { return test ? test->duration : 0; };
+    return duration(result.sequentialWrite) + duration(result.sequentialRead) + duration(result.randomRead) +
+           duration(result.randomWrite);
+}
+
+/// Every n-th point of a curve, so that 80 to 159 remain of 80 or more. Points are picked, not averaged; the
+/// first is always kept, the last may go.
+std::vector<RunSample> thinned(const std::vector<RunSample>& samples) {
+    constexpr std::size_t target = 80;
+    const std::size_t step = samples.size() < target ? 1 : samples.size() / target;
+    std::vector<RunSample> kept;
+    kept.reserve(samples.size() / step + 1);
+    for (std::size_t index = 0; index < samples.size(); index += step)
+        kept.push_back(samples[index]);
+    return kept;
+}
+
+std::vector<RunSample> curve(const ThroughputResult& test) {
+    std::vector<RunSample> points;
+    points.reserve(test.samples.size());
+    for (const auto& sample : test.samples)
+        points.push_back({sample.elapsed, sample.bytesPerSecond});
+    return thinned(points);
+}
+
+void fillResult(RunRecord& run, const BenchmarkResult& result) {
+    if (const auto& write = result.sequentialWrite) {
+        run.writeBps = write->sustainedBytesPerSecond();
+        run.writePeakBps = write->peakBytesPerSecond();
+        run.writeMinBps = write->lowestBytesPerSecond();
+        run.writeSamples = curve(*write);
+    }
+    if (const auto& read = result.sequentialRead) {
+        run.readBps = read->sustainedBytesPerSecond();
+        run.readPeakBps = read->peakBytesPerSecond();
+        run.readMinBps = read->lowestBytesPerSecond();
+        run.readSamples = curve(*read);
+    }
+    if (const auto& random = result.randomRead) {
+        run.randomReadIOPS = random->iops();
+        run.randomReadBps = random->bytesPerSecond();
+    }
+    if (const auto& random = result.randomWrite) {
+        run.randomWriteIOPS = random->iops();
+        run.randomWriteBps = random->bytesPerSecond();
+    }
+    if (result.fileOps)
+        run.fileOpsPerSec = result.fileOps->create.opsPerSecond();
+}
+
+void fillVolume(RunRecord& run, const std::optional<VolumeInfo>& volume,
+                const std::optional<VolumeCapabilities>& capabilities,
+                const RunRecord::IdentityOf& driveIdentity) {
+    const bool isOnNetwork = capabilities && isNetworkFilesystem(capabilities->filesystemType);
+    std::tie(run.connection, run.kind) = attachment(volume, isOnNetwork);
+    run.volumeName = volume ? volume->name : u"Volume"_s;
+    if (volume) {
+        run.capacityBytes = volume->total;
+        run.freeBytes = volume->available;
+    }
+    if (capabilities) {
+        run.fsType = capabilities->filesystemType;
+        run.optimalIO = capabilities->optimalIOSize;
+        run.blockSize = capabilities->blockSize;
+        run.maxName = capabilities->maxNameLength;
+    }
+    if (isOnNetwork) {
+        run.deviceProtocol = DriveInfo::networkProtocol(run.fsType);
+    } else if (volume && volume->volumeURL) {
+        const DriveIdentity identity = driveIdentity(*volume->volumeURL);
+        run.deviceModel = identity.model;
+        run.deviceProtocol = identity.protocolName;
+    }
+}
+
+void fillPlan(RunRecord& run, const BenchmarkPlan& plan) {
+    const auto* fixed = plan.size.asFixed();
+    run.sizeLabel = fixed ? Format::bytes(fixed->bytes) : u"Fill disk"_s;
+    run.writeBlock = plan.writeBlockSize;
+    run.readBlock = plan.readBlockSize;
+    run.randomBlock = plan.randomBlockSize;
+    run.bypassCache = plan.bypassCache;
+}
+
+// --- Titles
+
 constexpr int longestTitle = 60;
-const QString separator = u" · "_s;
+const QString partSeparator = u" · "_s;
 
 bool isOnNetwork(const RunRecord& run) {
     return run.kind == RunRecord::Kind::network || (run.fsType && isNetworkFilesystem(*run.fsType));
@@ -36,24 +142,6 @@ qsizetype endOfCharacters(const QString& text, int count) {
     return end == icu::BreakIterator::DONE ? text.size() : end;
 }
 
-std::size_t hashOf(double value) { return qHash(value); }
-std::size_t hashOf(std::int64_t value) { return qHash(value); }
-std::size_t hashOf(bool value) { return qHash(value); }
-std::size_t hashOf(const QString& value) { return qHash(value); }
-std::size_t hashOf(const QUuid& value) { return qHash(value); }
-std::size_t hashOf(const QDateTime& value) { return qHash(value); }
-std::size_t hashOf(RunRecord::Kind value) { return qHash(static_cast<int>(value)); }
-std::size_t hashOf(const std::vector<RunSample>& samples) {
-    std::size_t hash = samples.size();
-    for (const RunSample& sample : samples)
-        hash = qHashMulti(hash, sample.t, sample.v);
-    return hash;
-}
-template <typename Value>
-std::size_t hashOf(const std::optional<Value>& value) {
-    return value ? hashOf(*value) : 0;
-}
-
 } // namespace
 
 bool isNetworkFilesystem(const QString& filesystemType) {
@@ -67,6 +155,31 @@ std::optional<QString> visibleText(const std::optional<QString>& text) {
                character.category() != QChar::Other_Format;
     };
     return text && std::ranges::any_of(*text, isVisible) ? text : std::nullopt;
+}
+
+DriveIdentity RunRecord::identityOf(const std::filesystem::path& volumeURL) {
+    return DriveInfo::identity(volumeURL);
+}
+
+RunRecord RunRecord::from(const BenchmarkResult& result, const std::optional<VolumeInfo>& volume,
+                          const std::optional<VolumeCapabilities>& capabilities, const QDateTime& date,
+                          const BenchmarkPlan& plan, std::optional<double> duration,
+                          const IdentityOf& driveIdentity) {
+    RunRecord run;
+    run.id = QUuid::createUuid();
+    run.date = date;
+    run.duration = std::max(0.0, duration ? *duration : sumOfDurations(result));
+    fillResult(run, result);
+    fillVolume(run, volume, capabilities, driveIdentity);
+    fillPlan(run, plan);
+    return run;
+}
+
+RunRecord RunRecord::withThinnedCurves() const {
+    RunRecord run = *this;
+    run.writeSamples = thinned(writeSamples);
+    run.readSamples = thinned(readSamples);
+    return run;
 }
 
 QString RunRecord::title() const {
@@ -90,8 +203,8 @@ QString RunRecord::screenshotSubtitle() const {
     if (isOnNetwork(*this))
         return u"Network volume"_s;
     if (kind == Kind::internalDrive)
-        return u"Internal"_s + (visibleText(fsType) ? separator + fsType->toUpper() : QString());
-    return u"External"_s + (visibleText(deviceProtocol) ? separator + *deviceProtocol : QString());
+        return u"Internal"_s + (visibleText(fsType) ? partSeparator + fsType->toUpper() : QString());
+    return u"External"_s + (visibleText(deviceProtocol) ? partSeparator + *deviceProtocol : QString());
 }
 
 std::optional<QString> RunRecord::customTitleFrom(const QString& text) {
@@ -101,13 +214,12 @@ std::optional<QString> RunRecord::customTitleFrom(const QString& text) {
     return trimmed.left(endOfCharacters(trimmed, longestTitle));
 }
 
-} // namespace TarnwickKit::model
-
-std::size_t std::hash<TarnwickKit::model::RunRecord>::operator()(
-    const TarnwickKit::model::RunRecord& run) const noexcept {
-    std::size_t all = 0;
-    TarnwickKit::model::visitFields(run, [&](std::string_view, const auto& field) {
-        all = qHashMulti(all, TarnwickKit::model::hashOf(field));
+std::size_t RunRecord::hash() const {
+    std::size_t hash = 0;
+    visitFields(*this, [&](std::string_view, const auto& field) {
+        hash = OndelCore::mixed(hash, OndelCore::hashField(field));
     });
-    return all;
+    return hash;
 }
+
+} // namespace TarnwickKit::model

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
@@ -28,8 +29,8 @@ inline constexpr std::array<std::string_view, 6> networkFilesystems{"smbfs",  "n
 /// Whether a type, in any case, is among them.
 bool isNetworkFilesystem(const QString& filesystemType);
 
-/// A text of a record that shows something. A record from elsewhere may hold one of blanks and control
-/// characters, which counts as absent.
+/// A text with a visible character. A record from elsewhere may hold a text of blanks and control characters,
+/// which counts as absent.
 std::optional<QString> visibleText(const std::optional<QString>& text);
 
 /// One saved point of a curve.
@@ -38,11 +39,12 @@ struct RunSample {
     double v = 0; ///< bytes per second
 
     bool operator==(const RunSample&) const = default;
+    std::size_t hash() const { return OndelCore::hashFields(t, v); }
 };
 
-/// The lasting form of a finished run: the headline figures, a thinned pair of curves, the facts of the
-/// volume at the time, and the settings. What the history keeps, what panes and images show, what a run file
-/// carries. Units: rates in bytes per second, sizes in bytes, times in seconds. `id` alone identifies a run.
+/// The lasting form of a finished run: headline figures, thinned curves, facts of the volume at the time, and
+/// settings. The history keeps it, panes and images show it, run files carry it. `id` alone identifies a run.
+/// Units: rates in bytes per second, sizes in bytes, times in seconds.
 struct RunRecord {
     /// How the volume was attached.
     enum class Kind { internalDrive, external, network };
@@ -84,9 +86,9 @@ struct RunRecord {
     using IdentityOf = std::function<DriveIdentity(const std::filesystem::path& volumeURL)>;
     static DriveIdentity identityOf(const std::filesystem::path& volumeURL);
 
-    /// The record of a run. `duration`: absent is the sum of the tests' durations without the file
-    /// operations'. Threads: any; blocks on asking for the drive's names. Fails: never, what is missing is
-    /// absent. A clock that was set back during the run gives a duration of 0.
+    /// The record of a run. `duration`: if absent, the sum of the durations of all tests but the file
+    /// operations; a negative one, from a clock that was set back, becomes 0.
+    /// Threads: any; blocks on asking for the drive's names. Fails: never; what is missing is absent.
     static RunRecord from(const OndelCore::benchmark::BenchmarkResult& result,
                           const std::optional<OndelCore::volumes::VolumeInfo>& volume,
                           const std::optional<OndelCore::volumes::VolumeCapabilities>& capabilities,
@@ -94,25 +96,63 @@ struct RunRecord {
                           std::optional<double> duration = std::nullopt,
                           const IdentityOf& driveIdentity = identityOf);
 
+    /// The record with 80 to 159 points left of each curve that had more.
+    RunRecord withThinnedCurves() const;
+
     /// What lists call the run: the user's title, else the volume's name, else "Volume".
     QString title() const;
-    /// The headline of report images. Never without a visible character, as `title`.
+    /// The headline of report images. Like `title`, it always has a visible character.
     QString screenshotTitle() const;
     /// The second line of report images.
     QString screenshotSubtitle() const;
 
-    /// The title out of what the user typed: without blanks around it and at most 60 characters as people
-    /// count them. Absent, which clears a title, if nothing is left.
+    /// The title for what the user typed: trimmed, and at most 60 characters as people count them. Absent,
+    /// which clears a title, if nothing is left.
     static std::optional<QString> customTitleFrom(const QString& text);
 
     bool operator==(const RunRecord&) const = default;
+    std::size_t hash() const;
 };
+
+/// Calls `visit(key, field)` for each field of a record, in order. A field that is not a std::optional is
+/// required.
+template <typename Record, typename Visit>
+void visitFields(Record& run, Visit visit) {
+    visit("id", run.id);
+    visit("volumeName", run.volumeName);
+    visit("connection", run.connection);
+    visit("date", run.date);
+    visit("duration", run.duration);
+    visit("writeBps", run.writeBps);
+    visit("writePeakBps", run.writePeakBps);
+    visit("writeMinBps", run.writeMinBps);
+    visit("readBps", run.readBps);
+    visit("readPeakBps", run.readPeakBps);
+    visit("readMinBps", run.readMinBps);
+    visit("randomReadBps", run.randomReadBps);
+    visit("randomWriteBps", run.randomWriteBps);
+    visit("randomReadIOPS", run.randomReadIOPS);
+    visit("randomWriteIOPS", run.randomWriteIOPS);
+    visit("fileOpsPerSec", run.fileOpsPerSec);
+    visit("writeSamples", run.writeSamples);
+    visit("readSamples", run.readSamples);
+    visit("fsType", run.fsType);
+    visit("optimalIO", run.optimalIO);
+    visit("blockSize", run.blockSize);
+    visit("maxName", run.maxName);
+    visit("capacityBytes", run.capacityBytes);
+    visit("freeBytes", run.freeBytes);
+    visit("sizeLabel", run.sizeLabel);
+    visit("writeBlock", run.writeBlock);
+    visit("readBlock", run.readBlock);
+    visit("randomBlock", run.randomBlock);
+    visit("bypassCache", run.bypassCache);
+    visit("deviceModel", run.deviceModel);
+    visit("deviceProtocol", run.deviceProtocol);
+    visit("kind", run.kind);
+    visit("customTitle", run.customTitle);
+}
 
 } // namespace TarnwickKit::model
-
-template <>
-struct std::hash<TarnwickKit::model::RunRecord> {
-    std::size_t operator()(const TarnwickKit::model::RunRecord& run) const noexcept;
-};
 
 Q_DECLARE_METATYPE(TarnwickKit::model::RunRecord)

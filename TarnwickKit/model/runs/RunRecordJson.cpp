@@ -2,7 +2,6 @@
 
 #include "TarnwickKit/model/runs/JsonReader.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
-#include "TarnwickKit/model/runs/RunRecordFields.h"
 
 #include <algorithm>
 #include <array>

@@ -11,7 +11,7 @@
 #include "TarnwickKit/model/session/AnalyzerDialogs.h"
 #include "TarnwickKit/model/session/AnalyzerServices.h"
 #include "TarnwickKit/model/session/AnalyzerSettings.h"
-#include "TarnwickKit/model/session/LatestAnswer.h"
+#include "TarnwickKit/model/session/AnswerLater.h"
 #include "TarnwickKit/model/session/ProgressStream.h"
 #include "TarnwickKit/model/session/VolumeMenuItem.h"
 

@@ -2,7 +2,7 @@
 
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "OndelCore/logging/Log.h"
-#include "TarnwickKit/model/runs/WholeNumber.h"
+#include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/model/session/AnalyzerRun.h"
 #include "TarnwickKit/model/session/PropertyChange.h"
 

@@ -1,6 +1,6 @@
 #include "TarnwickKit/model/session/AnalyzerSettings.h"
 
-#include "TarnwickKit/model/format/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/model/session/PropertyChange.h"
 

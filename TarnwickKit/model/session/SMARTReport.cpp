@@ -1,6 +1,6 @@
 #include "TarnwickKit/model/session/SMARTReport.h"
 
-#include "TarnwickKit/model/format/Formatter.h"
+#include "TarnwickKit/model/format/Format.h"
 
 #include <QList>
 #include <QStringList>

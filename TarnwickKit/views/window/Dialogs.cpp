@@ -1,6 +1,6 @@
 #include "TarnwickKit/views/window/Dialogs.h"
 
-#include "TarnwickKit/model/runs/TarnwickFile.h"
+#include "TarnwickKit/model/runs/RunFile.h"
 
 #include <QFile>
 #include <QMessageBox>

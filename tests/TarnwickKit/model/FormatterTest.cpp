@@ -1,6 +1,5 @@
-#include "TarnwickKit/model/format/Formatter.h"
-
-#include "TarnwickKit/model/format/BenchmarkTestTitle.h"
+#include "TarnwickKit/model/format/BenchmarkText.h"
+#include "TarnwickKit/model/format/Format.h"
 
 #include <QTimeZone>
 

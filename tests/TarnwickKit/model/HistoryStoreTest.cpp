@@ -3,7 +3,6 @@
 #include "SampleRun.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/RunRecordJson.h"
-#include "TarnwickKit/model/runs/TarnwickFile.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 #include "support/TemporaryFolder.h"
 

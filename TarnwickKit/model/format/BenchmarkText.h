@@ -1,10 +1,13 @@
 #pragma once
 
+#include "OndelCore/benchmark/BenchmarkResult.h"
 #include "OndelCore/benchmark/BenchmarkTest.h"
 
 #include <QString>
 
 #include <cstdint>
+#include <exception>
+#include <optional>
 
 namespace TarnwickKit::model {
 
@@ -14,5 +17,12 @@ QString name(OndelCore::benchmark::BenchmarkTest test);
 /// A test's name for people. `randomBlock`: bytes per random operation, part of the random tests' titles:
 /// "Random read (4 KiB)".
 QString title(OndelCore::benchmark::BenchmarkTest test, std::int64_t randomBlock);
+
+/// A test's headline figure without its unit; absent if the test did not run.
+std::optional<QString> headline(const OndelCore::benchmark::BenchmarkResult& result,
+                                OndelCore::benchmark::BenchmarkTest test);
+
+/// An error as a sentence for people.
+QString describe(const std::exception& error);
 
 } // namespace TarnwickKit::model
