@@ -3,7 +3,6 @@
 #include "TarnwickHost/Command.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/RunFiles.h"
-#include "TarnwickKit/views/sharing/ComparisonImage.h"
 #include "TarnwickKit/views/sharing/ReportImage.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
 

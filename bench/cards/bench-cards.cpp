@@ -4,7 +4,6 @@
 // measures a process of its own. QT_QPA_PLATFORM=xcb and QSG_RHI_BACKEND=opengl choose the other renderer.
 
 #include "TarnwickKit/views/sharing/CardView.h"
-#include "TarnwickKit/views/sharing/ComparisonImage.h"
 #include "TarnwickKit/views/sharing/ReportImage.h"
 #include "TarnwickKit/views/sharing/ViewPicture.h"
 

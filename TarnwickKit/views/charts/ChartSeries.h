@@ -1,22 +1,32 @@
 #pragma once
 
+#include "OndelCore/benchmark/BenchmarkResult.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/views/charts/ThroughputPicture.h"
+#include "TarnwickKit/views/runs/LiveRun.h"
 
 #include <QColor>
 #include <QList>
 #include <QObject>
 #include <QPointF>
+#include <QPointer>
 #include <QQmlEngine>
 #include <QString>
 
+#include <vector>
+
 namespace TarnwickKit::views {
+
+/// A curve's points, one per sample in order. Units: seconds and decimal megabytes per second.
+QList<QPointF> pointsOf(const std::vector<OndelCore::benchmark::ThroughputSample>& samples);
+QList<QPointF> pointsOf(const std::vector<model::RunSample>& samples);
 
 /// One curve of a throughput chart. The object itself is the series' identity.
 class ChartSeries : public QObject {
     Q_OBJECT
     QML_ELEMENT
 
-    /// What the curve is called in the chart's text.
+    /// The curve's name in the chart's text summary.
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY changed)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
     /// The area's colour at the curve's highest point.
@@ -50,6 +60,52 @@ private:
 
     QString m_name;
     ChartCurve m_curve;
+};
+
+/// The curve of the running test.
+class LiveSeries : public TarnwickKit::views::ChartSeries {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(TarnwickKit::views::LiveRun* run READ run WRITE setRun NOTIFY runChanged)
+
+public:
+    using ChartSeries::ChartSeries;
+
+    LiveRun* run() const { return m_run; }
+    void setRun(LiveRun* run);
+    Q_SIGNAL void runChanged();
+
+private:
+    QPointer<LiveRun> m_run;
+};
+
+/// One of the two curves of a saved run.
+class RunSeries : public TarnwickKit::views::ChartSeries {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(TarnwickKit::model::RunRecord run READ run WRITE setRun NOTIFY runChanged)
+    Q_PROPERTY(Curve curve READ curve WRITE setCurve NOTIFY curveChanged)
+
+public:
+    enum Curve { Write, Read };
+    Q_ENUM(Curve)
+
+    using ChartSeries::ChartSeries;
+
+    const model::RunRecord& run() const { return m_run; }
+    void setRun(const model::RunRecord& run);
+    Q_SIGNAL void runChanged();
+    Curve curve() const { return m_curve; }
+    void setCurve(Curve curve);
+    Q_SIGNAL void curveChanged();
+
+private:
+    void updatePoints();
+
+    model::RunRecord m_run;
+    Curve m_curve = Write;
 };
 
 } // namespace TarnwickKit::views

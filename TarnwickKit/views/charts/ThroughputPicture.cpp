@@ -1,7 +1,7 @@
 #include "TarnwickKit/views/charts/ThroughputPicture.h"
 
 #include "TarnwickKit/views/charts/PixelBlend.h"
-#include "TarnwickKit/views/style/Typeface.h"
+#include "TarnwickKit/views/style/TarnwickFonts.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

@@ -64,12 +64,4 @@ QString seconds(double time) {
     return QString::number(tenths / 10, 'f', isWhole ? 0 : 1) + QLatin1Char('s');
 }
 
-SparklineScale::SparklineScale(QSizeF size, const QList<QPointF>& points)
-    : canvas(size) {
-    for (const QPointF& point : points) {
-        xTop = std::max(xTop, point.x());
-        yTop = std::max(yTop, point.y() * 1.1);
-    }
-}
-
 } // namespace TarnwickKit::views

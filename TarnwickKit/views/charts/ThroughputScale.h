@@ -60,16 +60,4 @@ struct ThroughputPlot {
     QPointF map(QPointF point) const { return {x(point.x()), top + (1 - point.y() / scale.yTop) * height()}; }
 };
 
-/// A bare curve fills its canvas, with a tenth of headroom above the peak. Neither axis ends below 1.
-struct SparklineScale {
-    QSizeF canvas;
-    double xTop = 1;
-    double yTop = 1;
-
-    SparklineScale(QSizeF canvas, const QList<QPointF>& points);
-    QPointF map(QPointF point) const {
-        return {point.x() / xTop * canvas.width(), (1 - point.y() / yTop) * canvas.height()};
-    }
-};
-
 } // namespace TarnwickKit::views

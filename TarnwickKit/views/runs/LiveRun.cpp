@@ -1,6 +1,6 @@
 #include "TarnwickKit/views/runs/LiveRun.h"
 
-#include "TarnwickKit/views/charts/CurvePoints.h"
+#include "TarnwickKit/views/charts/ChartSeries.h"
 
 #include <chrono>
 #include <utility>

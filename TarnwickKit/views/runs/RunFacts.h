@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TarnwickKit/views/charts/RunSeries.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QObject>
 #include <QQmlEngine>

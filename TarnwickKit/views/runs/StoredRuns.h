@@ -1,6 +1,5 @@
 #pragma once
 
-#include "TarnwickKit/views/charts/RunSeries.h"
 #include "TarnwickKit/views/runs/ComparedRuns.h"
 #include "TarnwickKit/views/window/ModelObserver.h"
 

@@ -8,7 +8,7 @@ namespace TarnwickKit::views {
 
 namespace {
 
-QImage drawn(const qrcodegen::QrCode& code) {
+QImage drawCode(const qrcodegen::QrCode& code) {
     const int modules = code.getSize() + 2 * QRCode::quietModules;
     QImage image(modules, modules, QImage::Format_Grayscale8);
     image.fill(Qt::white);
@@ -28,11 +28,22 @@ std::optional<QImage> QRCode::image(const QString& text) {
         const std::vector segments{
             qrcodegen::QrSegment::makeBytes(std::vector<std::uint8_t>(bytes.begin(), bytes.end()))};
         constexpr int anyMask = -1;
-        return drawn(QrCode::encodeSegments(segments, QrCode::Ecc::MEDIUM, QrCode::MIN_VERSION,
-                                            QrCode::MAX_VERSION, anyMask, false));
+        return drawCode(QrCode::encodeSegments(segments, QrCode::Ecc::MEDIUM, QrCode::MIN_VERSION,
+                                               QrCode::MAX_VERSION, anyMask, false));
     } catch (const qrcodegen::data_too_long&) {
         return std::nullopt;
     }
+}
+
+void QRCodeItem::setText(const QString& text) {
+    if (!take(m_text, text))
+        return;
+    m_code = QRCode::image(text).value_or(QImage());
+    Q_EMIT textChanged();
+}
+
+OndelControls::ImageItem::Picture QRCodeItem::paint(double scale) {
+    return {m_code.scaled((size() * scale).toSize(), Qt::IgnoreAspectRatio, Qt::FastTransformation), {}};
 }
 
 } // namespace TarnwickKit::views

@@ -3,6 +3,7 @@
 #include "OndelCore/platform/process/SystemCalls.h"
 #include "OndelCore/platform/storage/PrivateFolder.h"
 #include "OndelCore/platform/storage/ReplaceFile.h"
+#include "TarnwickKit/views/runs/ComparedRuns.h"
 #include "TarnwickKit/views/sharing/CardView.h"
 #include "TarnwickKit/views/sharing/PngEncoding.h"
 #include "TarnwickKit/views/sharing/ViewPicture.h"
@@ -26,9 +27,10 @@ namespace {
 constexpr std::string_view extension = ".png";
 
 const auto titlePrefix = QStringLiteral("Ondel Tarnwick — ");
+const auto comparisonName = QStringLiteral("Ondel Tarnwick — Comparison");
 constexpr qsizetype longestFileName = 255; // bytes; NAME_MAX of every file system in use
 
-/// The longest beginning of `text` that has at most `bytes` in UTF-8 and ends with a whole character.
+/// The longest prefix of `text` with at most `bytes` bytes in UTF-8 that ends at a character boundary.
 QString cut(const QString& text, qsizetype bytes) {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
     qsizetype end = 0;
@@ -45,6 +47,13 @@ std::unique_ptr<QQuickItem> reportCard(const RunRecord& run, const Palette& pale
         QStringLiteral("ReportCard"),
         {{QStringLiteral("run"), QVariant::fromValue(run)}, {QStringLiteral("link"), productLink()}},
         palette);
+}
+
+std::unique_ptr<QQuickItem> comparisonCard(const std::vector<RunRecord>& runs, const Palette& palette) {
+    return newCard(QStringLiteral("ComparisonCard"),
+                   {{QStringLiteral("runs"), QVariant::fromValue(ComparedRuns{runs})},
+                    {QStringLiteral("link"), productLink()}},
+                   palette);
 }
 
 ImageFile written(QImage image, const QString& baseName) {
@@ -98,6 +107,16 @@ ImageFile ReportImage::render(const RunRecord& run, const Palette& palette) {
 QFuture<ImageFile> ReportImage::renderLater(const RunRecord& run, const Palette& palette) {
     const auto card = reportCard(run, palette);
     return pngLater(card.get(), titlePrefix + run.screenshotTitle());
+}
+
+ImageFile ComparisonImage::render(const std::vector<RunRecord>& runs, const Palette& palette) {
+    const auto card = comparisonCard(runs, palette);
+    return card ? ReportImage::png(*card, comparisonName) : std::nullopt;
+}
+
+QFuture<ImageFile> ComparisonImage::renderLater(const std::vector<RunRecord>& runs, const Palette& palette) {
+    const auto card = comparisonCard(runs, palette);
+    return ReportImage::pngLater(card.get(), comparisonName);
 }
 
 ImageFile reportImage(const model::TarnwickReport& report, bool dark) {

@@ -9,18 +9,19 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 class QQuickItem;
 
 namespace TarnwickKit::views {
 
-/// Where an image lies, or absent when there is none: what all of the following answer.
+/// Where an image was written; absent on failure.
 using ImageFile = std::optional<std::filesystem::path>;
 
-/// Pictures of views as PNG files, in a folder that only this user can enter. A picture of the same name
-/// replaces the one before; nothing removes it.
+/// Pictures of views as PNG files, in a folder that only this user can enter. A picture replaces an earlier
+/// one of the same name; nothing removes it.
 ///
-/// Threads: main, with a QGuiApplication and the fonts registered. Fails: an absent file, without a word.
+/// Threads: main, with a QGuiApplication and the fonts registered. Fails: an absent file; nothing is logged.
 namespace ReportImage {
 
 /// Device pixels per logical one in every picture, whatever the screen's scale.
@@ -28,20 +29,29 @@ inline constexpr double scale = 2;
 
 /// The report card of a run.
 ImageFile render(const model::RunRecord& run, const Palette& palette);
-/// The same, encoded and written on another thread, so that a window only waits for the drawing.
+/// The same, but encoded and written on another thread: the window only waits for the drawing.
 QFuture<ImageFile> renderLater(const model::RunRecord& run, const Palette& palette);
 
-/// Any view that is in no window. `baseName`: see fileName.
+/// Any view that is not in a window. `baseName`: see fileName.
 ImageFile png(QQuickItem& view, const QString& baseName);
-/// The same, encoded and written on another thread. nullptr is a view that could not be made.
+/// The same, but encoded and written on another thread. A view that could not be created is nullptr.
 QFuture<ImageFile> pngLater(QQuickItem* view, const QString& baseName);
 
-/// The file's name for a title: without what would lead to another folder, hide the file, break a line or
-/// turn the direction, and no longer than file systems take. It is cut between characters as people count
-/// them.
+/// The file name for a title. Characters that would lead to another folder, hide the file, break a line or
+/// change the reading direction are replaced. The name is cut at 255 bytes, between characters as people
+/// count them.
 std::string fileName(const QString& baseName);
 
 } // namespace ReportImage
+
+namespace ComparisonImage {
+
+/// The comparison card of some runs, in the order given; as ReportImage::render. All comparisons share one
+/// file.
+ImageFile render(const std::vector<model::RunRecord>& runs, const Palette& palette);
+QFuture<ImageFile> renderLater(const std::vector<model::RunRecord>& runs, const Palette& palette);
+
+} // namespace ComparisonImage
 
 /// The report image of a host application's run. It needs a QGuiApplication, but neither window nor display;
 /// the fonts are registered by the first call. Threads: main. Fails: absent.

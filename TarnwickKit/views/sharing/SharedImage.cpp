@@ -2,7 +2,6 @@
 
 #include "OndelCore/platform/storage/ReplaceFile.h"
 #include "OndelDesktop/FileHandOff.h"
-#include "TarnwickKit/views/sharing/ComparisonImage.h"
 #include "TarnwickKit/views/window/Dialogs.h"
 
 #include <QClipboard>

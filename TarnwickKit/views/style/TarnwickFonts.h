@@ -1,19 +1,45 @@
 #pragma once
 
 #include <QFont>
+#include <QObject>
+#include <QQmlEngine>
 #include <QString>
 
-namespace TarnwickKit::views::TarnwickFonts {
+namespace TarnwickKit::views {
 
-/// Registers the font files ("ttf") that lie in the folder `bundle`, then those in its subfolder "Fonts". The
-/// first call counts, any later one returns at once. A file that is missing or no font is skipped without a
-/// word, and text falls back to the system's font.
+/// The fonts of the window: `font: Typeface.mono(11.5)`.
+///
+/// Units: sizes are in logical pixels; Qt draws text in whole ones, so a half is rounded up. Weights are
+/// those of QML's Font type.
+class Typeface final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    /// Space Grotesk: headings, titles, big numbers, the run button.
+    Q_INVOKABLE static QFont display(double size, int weight = QFont::DemiBold);
+    /// The same with digits of equal width, for figures that change or stand below each other.
+    Q_INVOKABLE static QFont figures(double size, int weight = QFont::DemiBold);
+    /// Figtree: labels, rows, descriptions.
+    Q_INVOKABLE static QFont text(double size, int weight = QFont::Normal);
+    /// IBM Plex Mono: numbers, units, time stamps, axis labels. `spacing` is added between letters.
+    Q_INVOKABLE static QFont mono(double size, double spacing = 0);
+};
+
+namespace TarnwickFonts {
+
+/// Registers the font files ("ttf") in the folder `bundle`, then those in its subfolder "Fonts". Only the
+/// first call has an effect. A file that is missing or not a font is skipped silently, and text falls back to
+/// the system's font.
 ///
 /// Threads: the main thread, before the first view is built.
 void registerFrom(const QString& bundle = QStringLiteral(":/tarnwick"));
 
-/// What the application sets as its font, so that every text draws its glyphs unhinted: hinted ones lose the
-/// feet of letters when a view is rendered at another scale than the screen's.
+/// The application's font. It turns hinting off for every text: hinted glyphs lose their serifs when a view
+/// is rendered at another scale than the screen's.
 QFont applicationFont();
 
-} // namespace TarnwickKit::views::TarnwickFonts
+} // namespace TarnwickFonts
+
+} // namespace TarnwickKit::views

@@ -2,13 +2,14 @@
 
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
 #include <QAbstractListModel>
 #include <QObject>
 #include <QQmlEngine>
 
-/// The model's types under the names by which QML speaks of them. The model itself knows nothing of QML.
+/// The model's types under their QML names. The model itself does not depend on QML.
 namespace TarnwickKit::views {
 
 struct AnalyzerModelType {
@@ -24,7 +25,13 @@ struct AnalyzerSettingsType {
     QML_ANONYMOUS
 };
 
-// No module that these views import tells what a list's base classes are.
+struct RunRecordType {
+    Q_GADGET
+    QML_FOREIGN(TarnwickKit::model::RunRecord)
+    QML_VALUE_TYPE(runRecord)
+};
+
+// The base classes of list models, which no imported module declares.
 struct AbstractItemModelType {
     Q_GADGET
     QML_FOREIGN(QAbstractItemModel)
@@ -49,7 +56,6 @@ public:
     Q_INVOKABLE static QString block(double size) { return model::Format::block(whole(size)); }
     Q_INVOKABLE static QString bytes(double size) { return model::Format::bytes(whole(size)); }
     Q_INVOKABLE static QString mbValue(double rate) { return model::Format::mbValue(rate); }
-    Q_INVOKABLE static QString grouped(double value) { return model::Format::grouped(value); }
 
 private:
     static std::int64_t whole(double size) { return static_cast<std::int64_t>(size); }

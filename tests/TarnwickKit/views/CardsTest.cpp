@@ -2,7 +2,6 @@
 #include "OndelControls/Card.h"
 #include "TarnwickKit/views/runs/ComparedRuns.h"
 #include "TarnwickKit/views/sharing/CardView.h"
-#include "TarnwickKit/views/sharing/ComparisonImage.h"
 #include "TarnwickKit/views/sharing/QRCode.h"
 #include "TarnwickKit/views/sharing/ReportImage.h"
 #include "TarnwickKit/views/sharing/ViewPicture.h"

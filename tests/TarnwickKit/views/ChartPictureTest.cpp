@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/charts/SparklinePicture.h"
+#include "TarnwickKit/views/charts/Sparkline.h"
 #include "TarnwickKit/views/charts/ThroughputPicture.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
@@ -158,6 +158,14 @@ TEST(ThroughputPicture, WithstandsStrangeFigures) {
     ThroughputPicture small;
     for (const QSizeF size : {QSizeF(1, 1), QSizeF(30, 10), QSizeF(50, 28)})
         EXPECT_EQ(small.paint(chart({jagged(9, 2)}), size, 1).size(), size.toSize());
+}
+
+TEST(SparklineScale, NeitherAxisEndsBelowOne) {
+    const SparklineScale slow({100, 40}, {{0, 0.1}, {0.5, 0.3}});
+    EXPECT_EQ(slow.map({0.5, 0.5}), QPointF(50, 20));
+    const SparklineScale fast({100, 40}, {{0, 100}, {10, 50}});
+    EXPECT_NEAR(fast.map({0, 100}).y(), 40 * (1 - 1 / 1.1), 1e-9);
+    EXPECT_DOUBLE_EQ(fast.map({10, 50}).x(), 100);
 }
 
 TEST(Sparkline, IsDrawnFromEdgeToEdgeWithRoundEnds) {

@@ -1,6 +1,5 @@
 #include "OndelControls/SymbolTable.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
-#include "TarnwickKit/views/style/Typeface.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>

@@ -66,12 +66,4 @@ TEST(ThroughputScale, PointsFillThePlot) {
     EXPECT_FALSE(largestOf({{}, {}}));
 }
 
-TEST(SparklineScale, NeitherAxisEndsBelowOne) {
-    const SparklineScale slow({100, 40}, {{0, 0.1}, {0.5, 0.3}});
-    EXPECT_EQ(slow.map({0.5, 0.5}), QPointF(50, 20));
-    const SparklineScale fast({100, 40}, {{0, 100}, {10, 50}});
-    EXPECT_NEAR(fast.map({0, 100}).y(), 40 * (1 - 1 / 1.1), 1e-9);
-    EXPECT_DOUBLE_EQ(fast.map({10, 50}).x(), 100);
-}
-
 } // namespace

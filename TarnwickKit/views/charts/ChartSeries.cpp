@@ -1,4 +1,4 @@
-#include "TarnwickKit/views/charts/CurvePoints.h"
+#include "TarnwickKit/views/charts/ChartSeries.h"
 
 namespace TarnwickKit::views {
 
@@ -22,6 +22,39 @@ QList<QPointF> pointsOf(const std::vector<OndelCore::benchmark::ThroughputSample
 
 QList<QPointF> pointsOf(const std::vector<model::RunSample>& samples) {
     return points(samples, &model::RunSample::t, &model::RunSample::v);
+}
+
+void LiveSeries::setRun(LiveRun* run) {
+    if (run == m_run)
+        return;
+    if (m_run)
+        m_run->disconnect(this);
+    m_run = run;
+    if (run) {
+        connect(run, &LiveRun::moved, this, [this, run] { setPoints(run->points()); });
+        setPoints(run->points());
+    }
+    Q_EMIT runChanged();
+}
+
+void RunSeries::setRun(const model::RunRecord& run) {
+    if (run == m_run)
+        return;
+    m_run = run;
+    updatePoints();
+    Q_EMIT runChanged();
+}
+
+void RunSeries::setCurve(Curve curve) {
+    if (curve == m_curve)
+        return;
+    m_curve = curve;
+    updatePoints();
+    Q_EMIT curveChanged();
+}
+
+void RunSeries::updatePoints() {
+    setPoints(pointsOf(m_curve == Write ? m_run.writeSamples : m_run.readSamples));
 }
 
 } // namespace TarnwickKit::views

@@ -1,6 +1,4 @@
-#include "TarnwickKit/views/sharing/CardImages.h"
-
-#include "TarnwickKit/views/sharing/QRCode.h"
+#include "TarnwickKit/views/style/TarnwickIcon.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -15,17 +13,6 @@ namespace {
 const auto iconFile = QStringLiteral(":/tarnwick/TarnwickIcon.svg");
 
 } // namespace
-
-void QRCodeItem::setText(const QString& text) {
-    if (!take(m_text, text))
-        return;
-    m_code = QRCode::image(text).value_or(QImage());
-    Q_EMIT textChanged();
-}
-
-OndelControls::ImageItem::Picture QRCodeItem::paint(double scale) {
-    return {m_code.scaled((size() * scale).toSize(), Qt::IgnoreAspectRatio, Qt::FastTransformation), {}};
-}
 
 OndelControls::ImageItem::Picture TarnwickIcon::paint(double scale) {
     const QSize pixels = (size() * scale).toSize();
