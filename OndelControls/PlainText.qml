@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 
 /// The one item for text. It shows markup as the characters it is made of: a name from outside can load no picture and

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 
 /// The part of PlainText that sets what PlainText then hides. For PlainText alone.

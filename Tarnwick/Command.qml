@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick.Templates as T
 
 /// One thing that a menu offers.

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import OndelAppSupport.views
 import Tarnwick
 

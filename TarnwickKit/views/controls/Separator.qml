@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import OndelControls
 
 /// A hairline of one logical pixel, on whole device pixels.

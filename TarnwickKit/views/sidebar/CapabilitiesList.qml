@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import TarnwickKit.views
 
 /// What the target's file system is.

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import TarnwickKit.views
 
 /// A sentence under a button that goes by itself: what has just happened.
