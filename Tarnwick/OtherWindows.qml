@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import OndelControls
 import Tarnwick
 
 /// What shows beside or over the main window. Each is loaded when it is first wanted, so that the window's start does
@@ -10,49 +11,53 @@ Item {
     id: others
 
     required property AppDelegate delegate
-    readonly property bool wantsReport: delegate.showReport
+    readonly property Item overlay: T.Overlay.overlay
 
     function showAbout(): void {
-        if (!about.item)
-            about.setSource("AboutWindow.qml", {transientParent: Window.window});
-        (about.item as AboutWindow).show();
+        about.active = true;
+        (about.object as AboutWindow).show();
     }
     function showSettings(): void {
-        if (!settings.item)
-            settings.setSource("SettingsWindow.qml", {updater: delegate.updater, transientParent: Window.window});
-        (settings.item as SettingsWindow).show();
-    }
-    function showUpdates(): void {
-        if (!updates.item)
-            updates.setSource("UpdatesWindow.qml", {updater: delegate.updater.controller, transientParent: Window.window});
+        settings.active = true;
+        (settings.object as SettingsWindow).show();
     }
 
-    onWantsReportChanged: report.setSource(wantsReport ? "ReportSheet.qml" : "", {parent: T.Overlay.overlay})
-
-    Loader {
+    OnDemand {
         id: about
-    }
-    Loader {
-        id: settings
-    }
-    Loader {
-        id: updates
-    }
-    Loader {
-        id: report
-    }
-    Connections {
-        target: report.item
 
-        function onClosed(): void {
-            others.delegate.showReport = false;
+        AboutWindow {
+            transientParent: others.Window.window
+        }
+    }
+    OnDemand {
+        id: settings
+
+        SettingsWindow {
+            updater: others.delegate.updater
+            transientParent: others.Window.window
+        }
+    }
+    OnDemand {
+        id: updates
+
+        UpdatesWindow {
+            updater: others.delegate.updater.controller
+            transientParent: others.Window.window
         }
     }
     Connections {
         target: others.delegate.updater.controller
 
         function onStateChanged(): void {
-            others.showUpdates();
+            updates.active = true;
+        }
+    }
+    OnDemand {
+        active: others.delegate.showReport
+
+        ReportSheet {
+            parent: others.overlay
+            onClosed: others.delegate.showReport = false
         }
     }
 }

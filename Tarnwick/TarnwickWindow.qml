@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import OndelAppSupport.views
+import OndelControls
 import TarnwickKit.views
 import Tarnwick
 
@@ -45,8 +46,8 @@ Window {
         width: parent.width
         analyzer: window.delegate.model
 
-        sidebarFooter: Repeater {
-            model: AppSupport.nudges.showsNote ? 1 : 0
+        sidebarFooter: OnDemand {
+            active: AppSupport.nudges.showsNote
 
             SupportBanner {
                 width: parent.width

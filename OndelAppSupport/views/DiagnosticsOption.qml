@@ -8,7 +8,9 @@ Column {
     id: option
 
     required property ReportForm form
-    required property var show
+
+    /// The preview's file is written and wants to be read.
+    signal previewWritten(path: string)
 
     spacing: 4
 
@@ -31,7 +33,7 @@ Column {
         onClicked: {
             const path = option.form.writePreview();
             if (path.length > 0)
-                option.show(path);
+                option.previewWritten(path);
         }
     }
 }

@@ -11,7 +11,8 @@ ColumnLayout {
 
     required property ReportForm form
     required property appIdentity app
-    required property var showDiagnostics
+
+    signal previewWritten(path: string)
 
     spacing: 10
 
@@ -65,7 +66,7 @@ ColumnLayout {
         Layout.fillWidth: true
         visible: !page.form.isFeature
         form: page.form
-        show: page.showDiagnostics
+        onPreviewWritten: path => page.previewWritten(path)
     }
     RowLayout {
         visible: page.form.failed

@@ -69,7 +69,7 @@ FocusScope {
             visible: !form.sent
             form: form
             app: view.app
-            showDiagnostics: view.showDiagnostics
+            onPreviewWritten: path => view.showDiagnostics(path)
         }
         RowLayout {
             visible: form.sent

@@ -9,16 +9,13 @@ import TarnwickKit.views
 T.ToolTip {
     id: tip
 
-    required property PlainButton button
     /// Assistive technology reads it too; a button's hint it knows already.
     property bool spoken: false
 
-    parent: button
-    text: button.hint
     visible: true
     delay: 700
-    x: Math.round((button.width - width) / 2)
-    y: button.height + 6
+    x: parent ? Math.round((parent.width - width) / 2) : 0
+    y: parent ? parent.height + 6 : 0
     margins: 6
     implicitWidth: Math.min(contentItem.implicitWidth + leftPadding + rightPadding, 320)
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding

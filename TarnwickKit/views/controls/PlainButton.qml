@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import OndelControls
 import TarnwickKit.views
 
 /// A button without looks of its own: what it shows is its content item. It says to assistive technology what it is,
@@ -43,18 +44,24 @@ T.AbstractButton {
         id: pointer
 
         cursorShape: Qt.PointingHandCursor
-        onHoveredChanged: tip.setSource(hovered && button.hint.length > 0 ? "HoverTip.qml" : "", {button: button})
     }
-    // A history has hundreds of buttons and one pointer, so that what follows it is made when it is there.
-    Loader {
-        id: tip
-    }
-    Loader {
-        id: ring
+    // A history has hundreds of buttons, and one of them has the pointer.
+    OnDemand {
+        active: pointer.hovered && button.hint.length > 0
 
-        anchors.fill: parent
-        anchors.margins: -3
-        z: 10
+        HoverTip {
+            parent: button
+            text: button.hint
+        }
     }
-    onVisualFocusChanged: ring.setSource(visualFocus ? "FocusRing.qml" : "", {corner: button.corner + 3})
+    OnDemand {
+        active: button.visualFocus
+
+        FocusRing {
+            anchors.fill: parent
+            anchors.margins: -3
+            z: 10
+            corner: button.corner + 3
+        }
+    }
 }

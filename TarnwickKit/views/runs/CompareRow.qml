@@ -36,8 +36,8 @@ Item {
         size: 18
         color: row.chosen ? row.PaletteKey.palette.accent : row.PaletteKey.palette.text3
     }
-    Repeater {
-        model: row.picking ? 1 : 0
+    OnDemand {
+        active: row.picking
 
         PlainButton {
             width: row.width

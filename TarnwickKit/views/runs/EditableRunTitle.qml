@@ -64,8 +64,8 @@ Item {
             }
         }
     }
-    Repeater {
-        model: title.isEditing ? 1 : 0
+    OnDemand {
+        active: title.isEditing
 
         T.TextField {
             id: field

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import TarnwickKit.views
 
 /// A saved run's place in the history: empty and as high as a row until that is made, then a row or the whole pane.
@@ -17,8 +18,8 @@ Column {
 
     height: isMade ? implicitHeight : rowHeight
 
-    Repeater {
-        model: entry.isMade && !entry.isOpen ? 1 : 0
+    OnDemand {
+        active: entry.isMade && !entry.isOpen
 
         CompareRow {
             width: entry.width
@@ -39,8 +40,8 @@ Column {
             }
         }
     }
-    Repeater {
-        model: entry.isMade && entry.isOpen ? 1 : 0
+    OnDemand {
+        active: entry.isMade && entry.isOpen
 
         ExpandedRunPane {
             width: entry.width

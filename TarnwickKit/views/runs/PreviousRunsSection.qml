@@ -43,14 +43,8 @@ Column {
     }
 
     function confirmClear(): void {
-        question.setSource("Alert.qml", {
-            parent: section,
-            title: qsTr("Delete all saved runs?"),
-            cancelText: qsTr("Cancel"),
-            acceptText: qsTr("Delete All"),
-            destructive: true
-        });
-        (question.item as Alert).open();
+        question.active = true;
+        (question.object as Alert).open();
     }
 
     // Rows in view are made at once, the others between frames, and all of them only a few at a time.
@@ -77,8 +71,8 @@ Column {
             Layout.fillWidth: true
             color: PaletteKey.palette.border
         }
-        Repeater {
-            model: section.analyzer.compareMode ? 0 : 1
+        OnDemand {
+            active: !section.analyzer.compareMode
 
             RowLayout {
                 spacing: head.spacing
@@ -94,8 +88,8 @@ Column {
                 }
             }
         }
-        Repeater {
-            model: section.analyzer.compareMode ? 1 : 0
+        OnDemand {
+            active: section.analyzer.compareMode
 
             RowLayout {
                 spacing: head.spacing
@@ -136,14 +130,16 @@ Column {
                     || !section.makeRows(-Infinity, section.viewTop + section.viewHeight + section.ahead);
         }
     }
-    Loader {
+    OnDemand {
         id: question
-    }
-    Connections {
-        target: question.item
 
-        function onAccepted(): void {
-            section.analyzer.clearHistory();
+        Alert {
+            parent: section
+            title: qsTr("Delete all saved runs?")
+            cancelText: qsTr("Cancel")
+            acceptText: qsTr("Delete All")
+            destructive: true
+            onAccepted: section.analyzer.clearHistory()
         }
     }
 }

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import TarnwickKit.views
 
 /// Makes an image when it is pressed, offers what can be done with it, and says that it was done.
@@ -9,20 +10,36 @@ IconButton {
 
     readonly property SharedImage image: SharedImage {
         onReady: {
-            picker.setSource("SharePicker.qml", {button: button, image: button.image});
-            (picker.item as PopupMenu).open();
+            picker.active = true;
+            (picker.object as PopupMenu).open();
         }
-        onTold: sentence => note.setSource("Note.qml", {button: button, text: sentence})
+        onTold: sentence => {
+            note.active = false; // a new note stands for its whole time
+            note.sentence = sentence;
+            note.active = true;
+        }
     }
 
     label: qsTr("Share")
     symbol: "square.and.arrow.up"
     symbolSize: 12
 
-    Loader {
+    OnDemand {
         id: picker
+
+        SharePicker {
+            button: button
+            image: button.image
+        }
     }
-    Loader {
+    OnDemand {
         id: note
+
+        property string sentence
+
+        Note {
+            parent: button
+            text: note.sentence
+        }
     }
 }

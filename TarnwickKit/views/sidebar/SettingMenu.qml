@@ -10,7 +10,7 @@ RowLayout {
     id: setting
 
     required property string label
-    /// The labels, a QStringList.
+    /// The labels. A QStringList: to the linter, list<string> is another type.
     required property var options
     required property int current
     property string value: options[current] ?? ""
@@ -43,9 +43,8 @@ RowLayout {
         Keys.onDownPressed: show()
 
         function show(): void {
-            if (!menu.item) // not made before somebody looks
-                menu.setSource("SettingChoices.qml", {button: button, setting: setting});
-            const choices = menu.item as PopupMenu;
+            menu.active = true;
+            const choices = menu.object as PopupMenu;
             (choices.contentItem as ListView).forceLayout();
             choices.open();
         }
@@ -71,8 +70,29 @@ RowLayout {
                 color: PaletteKey.palette.text3
             }
         }
-        Loader {
+        OnDemand {
             id: menu
+
+            PopupMenu {
+                parent: button
+                x: button.width - width
+                y: button.height + 4
+                onOpened: currentIndex = setting.current
+
+                Repeater {
+                    model: setting.options
+
+                    PopupMenuItem {
+                        required property int index
+                        required property string modelData
+
+                        text: modelData
+                        checkable: true
+                        chosen: index === setting.current
+                        onTriggered: setting.chosen(index)
+                    }
+                }
+            }
         }
     }
 }

@@ -15,7 +15,7 @@ Rectangle {
 
     color: PaletteKey.palette.sidebar
 
-    function holds(tests: var, test: string): bool {
+    function holds(tests: list<string>, test: string): bool {
         return tests.includes(test);
     }
 

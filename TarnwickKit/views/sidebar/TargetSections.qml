@@ -11,9 +11,9 @@ Column {
     required property AnalyzerModel analyzer
     required property TargetFacts target
 
-    // What there is nothing to tell of, or what is folded, is not there for assistive technology either.
-    Repeater {
-        model: sections.target.hasCapabilities ? 1 : 0
+    // What has nothing to show, or is folded, does not exist: assistive technology would read it.
+    OnDemand {
+        active: sections.target.hasCapabilities
 
         Column {
             width: sections.width
@@ -36,8 +36,8 @@ Column {
                     Accessible.ignored: true
                 }
 
-                Repeater {
-                    model: capabilities.isShown ? 1 : 0
+                OnDemand {
+                    active: capabilities.isShown
 
                     Column {
                         x: 4
@@ -65,8 +65,8 @@ Column {
             }
         }
     }
-    Repeater {
-        model: sections.target.hasHealth ? 1 : 0
+    OnDemand {
+        active: sections.target.hasHealth
 
         Column {
             width: sections.width
@@ -92,8 +92,8 @@ Column {
                     verdict: health.verdict
                 }
 
-                Repeater {
-                    model: health.isShown ? 1 : 0
+                OnDemand {
+                    active: health.isShown
 
                     SMARTList {
                         x: 4
@@ -105,8 +105,8 @@ Column {
             }
         }
     }
-    Repeater {
-        model: sections.target.healthNote === "" ? 0 : 1
+    OnDemand {
+        active: sections.target.healthNote !== ""
 
         Column {
             width: sections.width

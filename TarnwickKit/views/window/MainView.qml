@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import TarnwickKit.views
 
 /// The main pane: what it shows follows from the model's state alone.
@@ -47,9 +48,9 @@ Rectangle {
             bottomPadding: 20
             spacing: 20
 
-            // Each pane is there only while its state holds; a repeater of one or none makes and unmakes it.
-            Repeater {
-                model: main.showsPhase ? 0 : 1
+            // Each pane exists only while its state holds.
+            OnDemand {
+                active: !main.showsPhase
 
                 ComparisonPane {
                     width: parent.width
@@ -57,16 +58,16 @@ Rectangle {
                     onClose: main.analyzer.endComparison()
                 }
             }
-            Repeater {
-                model: main.showsIdle ? 1 : 0
+            OnDemand {
+                active: main.showsIdle
 
                 IdleCard {
                     width: parent.width
                     analyzer: main.analyzer
                 }
             }
-            Repeater {
-                model: main.showsPhase && main.analyzer.isRunning ? 1 : 0
+            OnDemand {
+                active: main.showsPhase && main.analyzer.isRunning
 
                 LiveRunPane {
                     width: parent.width
@@ -74,16 +75,16 @@ Rectangle {
                     volumeName: main.target.volumeName || qsTr("Volume")
                 }
             }
-            Repeater {
-                model: main.showsPhase && main.analyzer.phase === AnalyzerModel.Failed ? 1 : 0
+            OnDemand {
+                active: main.showsPhase && main.analyzer.phase === AnalyzerModel.Failed
 
                 FailureBanner {
                     width: parent.width
                     message: main.analyzer.failureMessage
                 }
             }
-            Repeater {
-                model: main.showsRun && !main.analyzer.currentRunCollapsed ? 1 : 0
+            OnDemand {
+                active: main.showsRun && !main.analyzer.currentRunCollapsed
 
                 ExpandedRunPane {
                     width: parent.width
@@ -93,8 +94,8 @@ Rectangle {
                     onRemove: main.analyzer.deleteRun(facts.id)
                 }
             }
-            Repeater {
-                model: main.showsRun && main.analyzer.currentRunCollapsed ? 1 : 0
+            OnDemand {
+                active: main.showsRun && main.analyzer.currentRunCollapsed
 
                 CollapsedRunView {
                     width: parent.width

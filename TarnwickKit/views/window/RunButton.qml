@@ -26,14 +26,8 @@ PlainButton {
             analyzer.start();
     }
     function confirmFill(): void {
-        question.setSource("Alert.qml", {
-            parent: button,
-            title: qsTr("Fill the disk?"),
-            message: qsTr("The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.").arg(Format.bytes(Format.defaultLeaveFree)),
-            cancelText: qsTr("Cancel"),
-            acceptText: qsTr("Fill Disk")
-        });
-        (question.item as Alert).open();
+        question.active = true;
+        (question.object as Alert).open();
     }
 
     onClicked: stops ? analyzer.cancel() : run()
@@ -69,14 +63,16 @@ PlainButton {
         enabled: !button.stops && button.enabled
         onActivated: button.run()
     }
-    Loader {
+    OnDemand {
         id: question
-    }
-    Connections {
-        target: question.item
 
-        function onAccepted(): void {
-            button.analyzer.start();
+        Alert {
+            parent: button
+            title: qsTr("Fill the disk?")
+            message: qsTr("The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.").arg(Format.bytes(Format.defaultLeaveFree))
+            cancelText: qsTr("Cancel")
+            acceptText: qsTr("Fill Disk")
+            onAccepted: button.analyzer.start()
         }
     }
 }

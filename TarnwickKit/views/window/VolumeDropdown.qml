@@ -30,9 +30,8 @@ PlainButton {
     Keys.onDownPressed: show()
 
     function show(): void {
-        if (!menu.item)
-            menu.setSource("VolumeMenu.qml", {button: dropdown, analyzer: analyzer, target: target});
-        (menu.item as PopupMenu).open();
+        menu.active = true;
+        (menu.object as PopupMenu).open();
     }
 
     background: Card {
@@ -87,7 +86,13 @@ PlainButton {
         }
     }
 
-    Loader {
+    OnDemand {
         id: menu
+
+        VolumeMenu {
+            button: dropdown
+            analyzer: dropdown.analyzer
+            target: dropdown.target
+        }
     }
 }

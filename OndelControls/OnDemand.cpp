@@ -1,0 +1,53 @@
+#include "OndelControls/OnDemand.h"
+
+#include <QQmlInfo>
+
+namespace OndelControls {
+
+void OnDemand::setActive(bool active) {
+    if (active == m_active)
+        return;
+    m_active = active;
+    follow();
+    Q_EMIT activeChanged();
+}
+
+void OnDemand::componentComplete() {
+    QQuickItem::componentComplete();
+    follow();
+}
+
+void OnDemand::follow() {
+    if (!isComponentComplete() || !m_component || m_active == !m_object.isNull())
+        return;
+    if (m_active)
+        make();
+    else
+        remove();
+    Q_EMIT objectChanged();
+}
+
+void OnDemand::make() {
+    QQmlContext* context = m_component->creationContext();
+    m_object = m_component->beginCreate(context ? context : qmlContext(this));
+    if (!m_object) {
+        qmlWarning(this, m_component->errors());
+        return;
+    }
+    m_object->setParent(this);
+    QQmlEngine::setObjectOwnership(m_object, QQmlEngine::CppOwnership);
+    if (auto* item = qobject_cast<QQuickItem*>(m_object)) {
+        item->setParentItem(parentItem());
+        item->stackAfter(this);
+    }
+    m_component->completeCreate();
+}
+
+void OnDemand::remove() {
+    if (auto* item = qobject_cast<QQuickItem*>(m_object))
+        item->setParentItem(nullptr);
+    m_object->deleteLater();
+    m_object = nullptr;
+}
+
+} // namespace OndelControls

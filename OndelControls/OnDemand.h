@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QPointer>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+
+namespace OndelControls {
+
+/// Makes one object of its component while it is active. An item stands beside it in its parent, as a
+/// Repeater's items do, so that positioners and layouts place it. Unlike the toolkit's Loader it takes
+/// components that are bound to their file, which Qt 6.4 refuses there, and it is no focus scope.
+///
+/// Owner: the object, which is deleted soon after it becomes inactive.
+class OnDemand : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_CLASSINFO("DefaultProperty", "component")
+
+    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
+    /// Is set once.
+    Q_PROPERTY(QQmlComponent* component MEMBER m_component)
+    Q_PROPERTY(QObject* object READ object NOTIFY objectChanged)
+
+public:
+    explicit OnDemand(QQuickItem* parent = nullptr)
+        : QQuickItem(parent) {}
+
+    bool isActive() const { return m_active; }
+    void setActive(bool active);
+    Q_SIGNAL void activeChanged();
+
+    QObject* object() const { return m_object; }
+    Q_SIGNAL void objectChanged();
+
+protected:
+    void componentComplete() override;
+
+private:
+    void follow();
+    void make();
+    void remove();
+
+    bool m_active = false;
+    QPointer<QQmlComponent> m_component;
+    QPointer<QObject> m_object;
+};
+
+} // namespace OndelControls
