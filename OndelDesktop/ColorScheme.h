@@ -7,11 +7,11 @@ namespace OndelDesktop {
 
 enum class ColorScheme { NoPreference, Dark, Light };
 
-/// Asks the desktop whether it wants programs dark or light, and keeps listening. Where the desktop cannot be
-/// asked the function is not called.
+/// Follows the desktop's preference for dark or light programs. Where the desktop has no such setting,
+/// `changed` is never called.
 ///
-/// Threads: needs an event loop on the thread that makes it; `changed` is called there, first some
-/// milliseconds after the construction, which itself does not wait for an answer.
+/// Threads: needs an event loop on the thread that creates it; `changed` is called there. The constructor
+/// does not wait for the first answer, which takes some milliseconds.
 class ColorSchemeWatch {
 public:
     explicit ColorSchemeWatch(std::function<void(ColorScheme)> changed);

@@ -4,14 +4,14 @@
 #include <functional>
 #include <string>
 
-/// Hands a file to another program of the desktop. Nothing blocks; an answer that does not come counts as
-/// none. Threads: main, with an event loop. Fails: `failed` is called, later, when no program took the file.
+/// Hands a file to another program of the desktop. Nothing blocks; programs that do not answer count as
+/// absent. Threads: main, with an event loop. Fails: `failed` is called later when no program took the file.
 namespace OndelDesktop {
 
-/// Shows the file in the file manager, selected where that can be asked for.
+/// Shows the file in the file manager: selected, where the file manager supports it.
 void showInFolder(const std::filesystem::path& file, std::function<void()> failed);
 
-/// Begins a message with the file attached. What is written and sent is the user's affair.
+/// Opens a new message with the file attached. The user writes and sends it.
 void sendByEmail(const std::filesystem::path& file, const std::string& subject, std::function<void()> failed);
 
 } // namespace OndelDesktop

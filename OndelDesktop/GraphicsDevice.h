@@ -2,9 +2,9 @@
 
 namespace OndelDesktop {
 
-/// Whether a graphics processor is there that a program without privileges can draw with. Without one, OpenGL
-/// is drawn by the processor, which costs a window three times the memory and twice the time to its first
-/// picture. Threads: any. Fails: what cannot be told counts as none.
+/// Whether an unprivileged program can draw with a graphics processor. Without one, OpenGL is rendered by the
+/// CPU: a window then needs three times the memory and twice the time to its first frame.
+/// Threads: any. Fails: false when it cannot be determined.
 bool hasGraphicsDevice();
 
 } // namespace OndelDesktop

@@ -6,11 +6,10 @@
 
 namespace OndelDesktop {
 
-/// Takes away the mark by which a desktop shows that a program is starting, a busy pointer for example. It
-/// goes by itself when the program's first window shows; a start that ends in a window which was there before
-/// has to say so. That `window` is let have what the start was given, which is the right to come to the
-/// front. `id`: the desktop's name for the start; empty: it has none. Only X11 needs this (freedesktop.org,
-/// "Startup Notification"). Threads: any; waits for the display server. Fails: silently.
+/// Ends the desktop's launch feedback, a busy pointer for example (freedesktop.org, "Startup Notification";
+/// X11 only). The first window of a program ends it as well; a start that only raises the `window` of another
+/// process has to do it here. The window also gets the id, and with it the permission to take the focus.
+/// `id`: of the start; empty: nothing to do. Threads: any; waits for the display server. Fails: silently.
 void completeStartup(const std::string& id, std::optional<std::uint32_t> window = std::nullopt);
 
 } // namespace OndelDesktop

@@ -5,14 +5,14 @@
 
 namespace OndelDesktop {
 
-/// While it lives, the machine does not fall asleep and the session does not become idle by themselves. What
-/// is measured across a sleep is worth nothing.
+/// Keeps the machine from suspending and the session from becoming idle while it exists: a measurement across
+/// a suspend is worthless.
 ///
 /// Threads: the main one, with an event loop; no call waits for an answer. Fails: silently, where the system
-/// has nobody to ask or refuses. It ends with the process at the latest.
+/// refuses. Ends with the process at the latest.
 class StayAwake {
 public:
-    /// `who` and `why` are shown to people who ask the system what keeps it awake.
+    /// `who` and `why` are shown by the system's list of inhibitors.
     StayAwake(const std::string& who, const std::string& why);
     ~StayAwake();
     StayAwake(const StayAwake&) = delete;

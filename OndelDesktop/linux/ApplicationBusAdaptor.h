@@ -23,11 +23,11 @@ class ApplicationBusAdaptor final : public QObject, protected QDBusContext {
 public:
     ApplicationBusAdaptor(const QDBusConnection& bus, const QString& name);
 
-    /// Whether the name is this process's. Fails: true when the bus does not answer.
+    /// Whether this process owns the name. Fails: true when the bus does not answer.
     bool ownsName();
-    /// Asks once more, after the owner has gone.
+    /// Requests the name again, after its owner has gone.
     void askForName();
-    /// Fails: the error of the reply that came last, also when nobody has the name.
+    /// Fails: the error of the last reply, also when nobody owns the name.
     QDBusError send(const OpenRequest& request, std::chrono::milliseconds patience);
     /// Fails: absent.
     std::optional<std::uint32_t> owner();

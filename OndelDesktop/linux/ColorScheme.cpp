@@ -1,26 +1,19 @@
 #include "OndelDesktop/ColorScheme.h"
 
-#include "OndelDesktop/linux/ColorSchemePortal.h"
+#include "DesktopInterfaces.h"
+#include "OndelDesktop/linux/Portal.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
-#include <chrono>
+#include <utility>
 
 namespace OndelDesktop {
 
 namespace {
 
-const auto settingsService = QStringLiteral("org.freedesktop.portal.Desktop");
-const auto settingsPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const auto settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
-const auto appearance = QStringLiteral("org.freedesktop.appearance");
-const auto colorScheme = QStringLiteral("color-scheme");
-
-/// A portal that must first be started may take its time, one that hangs is given up.
-constexpr std::chrono::milliseconds settingsPatience = std::chrono::seconds(2);
+const auto appearanceGroup = QStringLiteral("org.freedesktop.appearance");
+const auto colorSchemeKey = QStringLiteral("color-scheme");
 
 /// The portal wraps its answer in one variant, older ones in two.
 QVariant unwrapped(QVariant value) {
@@ -29,8 +22,8 @@ QVariant unwrapped(QVariant value) {
     return value;
 }
 
-ColorScheme schemeOf(const QVariant& value) {
-    switch (unwrapped(value).toUInt()) {
+ColorScheme schemeOf(const QDBusVariant& value) {
+    switch (unwrapped(value.variant()).toUInt()) {
     case 1:
         return ColorScheme::Dark;
     case 2:
@@ -42,45 +35,34 @@ ColorScheme schemeOf(const QVariant& value) {
 
 } // namespace
 
-ColorSchemePortal::ColorSchemePortal(std::function<void(ColorScheme)> changed)
-    : m_changed(std::move(changed)) {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
-        return;
-    qRegisterMetaType<QDBusVariant>(); // else the connection below is refused
-    const bool listening =
-        bus.connect(settingsService, settingsPath, settingsInterface, QStringLiteral("SettingChanged"), this,
-                    SLOT(settingChanged(QString, QString, QDBusVariant)));
-    Q_ASSERT(listening);
-    Q_UNUSED(listening)
-    ask();
-}
+struct ColorSchemeWatch::Listener {
+    using Settings = org::freedesktop::portal::Settings;
 
-void ColorSchemePortal::ask() {
-    auto question = QDBusMessage::createMethodCall(settingsService, settingsPath, settingsInterface,
-                                                   QStringLiteral("Read"));
-    question << appearance << colorScheme;
-    auto* answer = new QDBusPendingCallWatcher(
-        QDBusConnection::sessionBus().asyncCall(question, static_cast<int>(settingsPatience.count())), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+    explicit Listener(std::function<void(ColorScheme)> changed);
+
+    Settings settings{portalService, portalPath, QDBusConnection::sessionBus()};
+};
+
+ColorSchemeWatch::Listener::Listener(std::function<void(ColorScheme)> changed) {
+    if (!settings.connection().isConnected())
+        return;
+    QObject::connect(&settings, &Settings::SettingChanged, &settings,
+                     [changed](const QString& group, const QString& key, const QDBusVariant& value) {
+                         if (group == appearanceGroup && key == colorSchemeKey)
+                             changed(schemeOf(value));
+                     });
+    settings.setTimeout(2000); // milliseconds: a later answer would repaint a window in use
+    auto* answer = new QDBusPendingCallWatcher(settings.Read(appearanceGroup, colorSchemeKey), &settings);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &settings, [answer, changed] {
         const QDBusPendingReply<QDBusVariant> reply = *answer;
         if (reply.isValid())
-            m_changed(schemeOf(reply.value().variant()));
+            changed(schemeOf(reply.value()));
         answer->deleteLater();
     });
 }
 
-void ColorSchemePortal::settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
-    if (group == appearance && key == colorScheme)
-        m_changed(schemeOf(value.variant()));
-}
-
-struct ColorSchemeWatch::Listener {
-    ColorSchemePortal portal;
-};
-
 ColorSchemeWatch::ColorSchemeWatch(std::function<void(ColorScheme)> changed)
-    : m_listener(new Listener{ColorSchemePortal(std::move(changed))}) {}
+    : m_listener(std::make_unique<Listener>(std::move(changed))) {}
 
 ColorSchemeWatch::~ColorSchemeWatch() = default;
 

@@ -1,10 +1,10 @@
 #include "OndelDesktop/DesktopNotice.h"
 
-#include "OndelDesktop/linux/NoticeService.h"
+#include "DesktopInterfaces.h"
+#include "OndelDesktop/linux/Portal.h"
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QVariantMap>
 
 #include <utility>
 
@@ -12,59 +12,76 @@ namespace OndelDesktop {
 
 namespace {
 
-const QString noticeService = QStringLiteral("org.freedesktop.Notifications");
-const QString noticePath = QStringLiteral("/org/freedesktop/Notifications");
-
-/// The name of what pressing the notice itself does.
+/// The action of a press on the notice itself.
 const QString defaultAction = QStringLiteral("default");
 
-/// Of several notices of one application the portal tells them apart by such a name.
+/// The portal's name for the one notice.
 const QString portalNotice = QStringLiteral("notice");
 
-QDBusMessage portalCall(const QString& method, const QVariantList& arguments) {
-    auto message = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.portal.Notification"), method);
-    message.setArguments(arguments);
-    return message;
+void callNoticePortal(const QString& method, const QVariantList& arguments) {
+    callPortal({.interface = QStringLiteral("Notification"), .method = method, .arguments = arguments});
 }
 
 } // namespace
 
-NoticeService::NoticeService(QString applicationId, QString applicationName,
-                             std::function<void(const std::string&)> chosen)
-    : m_applicationId(std::move(applicationId))
-    , m_applicationName(std::move(applicationName))
-    , m_chosen(std::move(chosen))
-    , m_bus(QDBusConnection::sessionBus()) {}
+/// Shows notices by the desktop's own service, which tells when one is pressed. Where there is none it uses
+/// the portal, which asks the application to come to the front like any other caller.
+class NoticeService final : public QObject {
+public:
+    NoticeService(const std::string& applicationId, const std::string& applicationName,
+                  std::function<void(const std::string& activationToken)> chosen)
+        : m_applicationId(QString::fromStdString(applicationId))
+        , m_applicationName(QString::fromStdString(applicationName))
+        , m_chosen(std::move(chosen)) {}
 
-/// Only once there is something to hear of.
-void NoticeService::listen() {
-    if (std::exchange(m_isListening, true))
-        return;
-    m_bus.connect(noticeService, noticePath, noticeService, QStringLiteral("ActionInvoked"), this,
-                  SLOT(actionInvoked(uint, QString)));
-    m_bus.connect(noticeService, noticePath, noticeService, QStringLiteral("ActivationToken"), this,
-                  SLOT(activationToken(uint, QString)));
+    void show(const QString& title, const QString& text);
+    void withdraw();
+
+private:
+    using Notifications = org::freedesktop::Notifications;
+
+    void connectService();
+    QDBusPendingReply<uint> notify(const QString& title, const QString& text);
+    void addToPortal(const QString& title, const QString& text);
+
+    QString m_applicationId;
+    QString m_applicationName;
+    std::function<void(const std::string& activationToken)> m_chosen;
+    std::unique_ptr<Notifications> m_service; ///< made with the first notice
+    bool m_isWanted = false;                  ///< the reply to the last call may be under way
+    bool m_isInPortal = false;
+    uint m_id = 0; ///< given by the service; 0: no notice is shown
+    QString m_token;
+};
+
+void NoticeService::connectService() {
+    m_service = std::make_unique<Notifications>(QStringLiteral("org.freedesktop.Notifications"),
+                                                QStringLiteral("/org/freedesktop/Notifications"),
+                                                QDBusConnection::sessionBus());
+    connect(m_service.get(), &Notifications::ActivationToken, this, [this](uint id, const QString& token) {
+        if (id == m_id)
+            m_token = token;
+    });
+    connect(m_service.get(), &Notifications::ActionInvoked, this, [this](uint id, const QString& action) {
+        if (id == m_id && id != 0 && action == defaultAction)
+            m_chosen(std::exchange(m_token, {}).toStdString());
+    });
 }
 
-/// The text is markup to the noticeService.
-QDBusMessage NoticeService::notify(const QString& title, const QString& text) const {
-    constexpr int asLongAsTheDesktopLikes = -1;
-    auto message =
-        QDBusMessage::createMethodCall(noticeService, noticePath, noticeService, QStringLiteral("Notify"));
-    message << m_applicationName << m_id << m_applicationId << title << text.toHtmlEscaped()
-            << QStringList{defaultAction, QString()}
-            << QVariantMap{{QStringLiteral("desktop-entry"), m_applicationId}} << asLongAsTheDesktopLikes;
-    return message;
+QDBusPendingReply<uint> NoticeService::notify(const QString& title, const QString& text) {
+    constexpr int desktopsOwnDuration = -1;
+    return m_service->Notify(m_applicationName, m_id, m_applicationId, title, text.toHtmlEscaped(),
+                             {defaultAction, QString()}, {{QStringLiteral("desktop-entry"), m_applicationId}},
+                             desktopsOwnDuration);
 }
 
 void NoticeService::show(const QString& title, const QString& text) {
-    if (!m_bus.isConnected())
+    if (!QDBusConnection::sessionBus().isConnected())
         return;
-    listen();
+    if (!m_service)
+        connectService();
     m_isWanted = true;
-    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(notify(title, text)), this);
+    auto* answer = new QDBusPendingCallWatcher(notify(title, text), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, title, text] {
         answer->deleteLater();
         const QDBusPendingReply<uint> reply = *answer;
@@ -80,36 +97,20 @@ void NoticeService::show(const QString& title, const QString& text) {
 void NoticeService::addToPortal(const QString& title, const QString& text) {
     m_isInPortal = true;
     const QVariantMap notice{{QStringLiteral("title"), title}, {QStringLiteral("body"), text}};
-    m_bus.send(portalCall(QStringLiteral("AddNotification"), {portalNotice, notice}));
+    callNoticePortal(QStringLiteral("AddNotification"), {portalNotice, notice});
 }
 
 void NoticeService::withdraw() {
     m_isWanted = false;
     if (std::exchange(m_isInPortal, false))
-        m_bus.send(portalCall(QStringLiteral("RemoveNotification"), {portalNotice}));
-    if (m_id == 0)
-        return;
-    auto message = QDBusMessage::createMethodCall(noticeService, noticePath, noticeService,
-                                                  QStringLiteral("CloseNotification"));
-    message << std::exchange(m_id, 0);
-    m_bus.send(message);
-}
-
-void NoticeService::activationToken(uint id, const QString& token) {
-    if (id == m_id)
-        m_token = token;
-}
-
-void NoticeService::actionInvoked(uint id, const QString& action) {
-    if (id == m_id && id != 0 && action == defaultAction)
-        m_chosen(std::exchange(m_token, {}).toStdString());
+        callNoticePortal(QStringLiteral("RemoveNotification"), {portalNotice});
+    if (m_id != 0)
+        m_service->CloseNotification(std::exchange(m_id, 0));
 }
 
 DesktopNotice::DesktopNotice(const std::string& applicationId, const std::string& applicationName,
                              std::function<void(const std::string&)> chosen)
-    : m_service(std::make_unique<NoticeService>(QString::fromStdString(applicationId),
-                                                QString::fromStdString(applicationName), std::move(chosen))) {
-}
+    : m_service(std::make_unique<NoticeService>(applicationId, applicationName, std::move(chosen))) {}
 
 DesktopNotice::~DesktopNotice() = default;
 

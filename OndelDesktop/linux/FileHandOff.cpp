@@ -1,29 +1,38 @@
 #include "OndelDesktop/FileHandOff.h"
 
-#include "OndelDesktop/linux/EmailPortal.h"
+#include "OndelCore/platform/storage/FileDescriptor.h"
+#include "OndelDesktop/linux/Portal.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
+#include <QDBusUnixFileDescriptor>
 #include <QFile>
+#include <QList>
 #include <QProcess>
 #include <QStringList>
 #include <QUrl>
+
+#include <fcntl.h>
 
 #include <chrono>
 
 namespace OndelDesktop {
 
+using OndelCore::platform::FileDescriptor;
+
 namespace {
 
 using Failed = std::function<void()>;
 
-/// A file manager that must first be started may take its time.
-constexpr std::chrono::milliseconds handOffPatience = std::chrono::seconds(10);
+/// A file manager or a portal may have to be started first.
+constexpr std::chrono::milliseconds fileManagerTimeout = std::chrono::seconds(10);
+constexpr std::chrono::milliseconds emailTimeout = std::chrono::seconds(5);
 
-/// Starts one of the desktop's own tools, which find the user's programs. It outlives this process.
+/// Starts one of the desktop's own tools, which find the user's programs. It may outlive this process.
 void start(const QString& tool, const QStringList& arguments, const Failed& failed) {
-    auto* process = new QProcess; // without an owner, who would end it with himself
+    auto* process = new QProcess; // without a parent, whose end would kill it
     QObject::connect(process, &QProcess::errorOccurred, process,
                      [process, failed](QProcess::ProcessError error) {
                          if (error != QProcess::FailedToStart)
@@ -44,6 +53,26 @@ void start(const QString& tool, const QStringList& arguments, const Failed& fail
 
 QString textOf(const std::filesystem::path& path) { return QFile::decodeName(path.c_str()); }
 
+/// The request deletes itself. A user who cancels is not told of a failure.
+void composeByPortal(const FileDescriptor& attachment, const QString& subject, const Failed& failed) {
+    using Descriptors = QList<QDBusUnixFileDescriptor>;
+    qDBusRegisterMetaType<Descriptors>();
+    PortalCall call{.interface = QStringLiteral("Email"),
+                    .method = QStringLiteral("ComposeEmail"),
+                    .arguments = {QString()}, // no parent window
+                    .timeout = emailTimeout};
+    auto* request = new PortalRequest(
+        std::move(call), {{QStringLiteral("subject"), subject},
+                          {QStringLiteral("attachment_fds"),
+                           QVariant::fromValue(Descriptors{QDBusUnixFileDescriptor(attachment.get())})}});
+    QObject::connect(request, &PortalRequest::answered, request,
+                     [request, failed](PortalRequest::Outcome outcome) {
+                         if (outcome == PortalRequest::Outcome::failed)
+                             failed();
+                         request->deleteLater();
+                     });
+}
+
 } // namespace
 
 void showInFolder(const std::filesystem::path& file, Failed failed) {
@@ -60,7 +89,7 @@ void showInFolder(const std::filesystem::path& file, Failed failed) {
                                                    name, QStringLiteral("ShowItems"));
     question << QStringList{QUrl::fromLocalFile(textOf(file)).toString(QUrl::FullyEncoded)} << QString();
     auto* shown =
-        new QDBusPendingCallWatcher(bus.asyncCall(question, static_cast<int>(handOffPatience.count())));
+        new QDBusPendingCallWatcher(bus.asyncCall(question, static_cast<int>(fileManagerTimeout.count())));
     QObject::connect(shown, &QDBusPendingCallWatcher::finished, shown, [shown, openFolder] {
         if (shown->isError())
             openFolder();
@@ -70,13 +99,18 @@ void showInFolder(const std::filesystem::path& file, Failed failed) {
 
 void sendByEmail(const std::filesystem::path& file, const std::string& subject, Failed failed) {
     const QString path = textOf(file);
-    const QString words = QString::fromStdString(subject);
-    EmailPortal::compose(path, words, [path, words, failed = std::move(failed)] {
+    const QString title = QString::fromStdString(subject);
+    const auto openMailProgram = [path, title, failed = std::move(failed)] {
         start(
             QStringLiteral("xdg-email"),
-            {QStringLiteral("--utf8"), QStringLiteral("--subject"), words, QStringLiteral("--attach"), path},
+            {QStringLiteral("--utf8"), QStringLiteral("--subject"), title, QStringLiteral("--attach"), path},
             failed);
-    });
+    };
+    const FileDescriptor attachment(open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    if (attachment)
+        composeByPortal(attachment, title, openMailProgram);
+    else
+        openMailProgram();
 }
 
 } // namespace OndelDesktop

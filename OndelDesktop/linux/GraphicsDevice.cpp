@@ -13,7 +13,7 @@ namespace OndelDesktop {
 
 namespace {
 
-/// Kernel drivers that make render nodes with nothing behind them that draws.
+/// Kernel drivers whose render nodes have no graphics processor.
 constexpr std::array<std::string_view, 2> driversWithoutProcessor{"vgem", "vkms"};
 
 bool draws(const fs::path& node) {

@@ -20,7 +20,7 @@ const QString interface = QStringLiteral("org.freedesktop.Application");
 const QString activationToken = QStringLiteral("activation-token");
 const QString startupId = QStringLiteral("desktop-startup-id");
 
-/// For the bus itself, which answers at once or never.
+/// The bus itself answers at once or never.
 constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
 
 QDBusPendingCall askBus(const QDBusConnection& bus, const QString& method, const QVariantList& arguments) {
@@ -31,7 +31,7 @@ QDBusPendingCall askBus(const QDBusConnection& bus, const QString& method, const
     return bus.asyncCall(message, static_cast<int>(busPatience.count()));
 }
 
-/// Waits without holding up what else the event loop has to do.
+/// Waits in an event loop of its own, so that other events are handled.
 QDBusMessage answerTo(const QDBusPendingCall& call) {
     const QDBusPendingCallWatcher watcher(call);
     if (!watcher.isFinished()) {
@@ -42,7 +42,7 @@ QDBusMessage answerTo(const QDBusPendingCall& call) {
     return watcher.reply();
 }
 
-/// Before a question is put again that has just been refused.
+/// Between two attempts, after the first was refused.
 void pause() {
     QEventLoop loop;
     QTimer::singleShot(std::chrono::milliseconds(20), &loop, &QEventLoop::quit);
@@ -60,7 +60,7 @@ std::string usable(std::string token) {
     return token.size() <= OpenRequests::longestToken ? std::move(token) : std::string();
 }
 
-/// Empty when it is longer, which costs nothing then: a message may carry 128 MiB.
+/// Empty for a longer text, which is not converted: a message may hold 128 MiB.
 std::string within(std::size_t longest, const QString& text) {
     return static_cast<std::size_t>(text.size()) <= longest ? text.toStdString() : std::string();
 }
@@ -71,7 +71,7 @@ ApplicationBusAdaptor::ApplicationBusAdaptor(const QDBusConnection& bus, const Q
     : m_bus(bus)
     , m_name(name)
     , m_path(u'/' + QString(name).replace(u'.', u'/')) {
-    // Before the name: whoever finds the name finds the object.
+    // Before the name is requested, so that its owner always has the object.
     m_bus.registerObject(m_path, this, QDBusConnection::ExportScriptableSlots);
     askForName();
 }
@@ -87,8 +87,8 @@ bool ApplicationBusAdaptor::ownsName() {
     return answer.type() != QDBusMessage::ReplyMessage || answer.arguments().value(0).toUInt() != exists;
 }
 
-/// A list of more URLs than one message may have goes in several; the first has the token, which is good for
-/// once.
+/// Splits a list that is too long for one message. Only the first message carries the token, which is single
+/// use.
 std::vector<QDBusMessage> ApplicationBusAdaptor::messagesFor(const OpenRequest& request) const {
     const auto call = [this](const QString& method, const QVariantList& arguments) {
         auto message = QDBusMessage::createMethodCall(m_name, m_path, interface, method);
@@ -115,7 +115,8 @@ std::vector<QDBusMessage> ApplicationBusAdaptor::messagesFor(const OpenRequest& 
     return messages;
 }
 
-/// All are sent before the first is answered: whoever stands still has all of them when it wakes.
+/// All messages are sent before the first answer, so that a stopped process finds all of them when it
+/// continues.
 QDBusError ApplicationBusAdaptor::send(const OpenRequest& request, std::chrono::milliseconds patience) {
     std::vector<QDBusPendingCall> calls;
     for (const QDBusMessage& message : messagesFor(request))
@@ -178,7 +179,7 @@ void ApplicationBusAdaptor::accept(OpenRequest request, const QVariantMap& platf
 OpenRequests::OpenRequests(const std::string& applicationId) {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (bus.isConnected())
-        m_door = std::make_unique<ApplicationBusAdaptor>(bus, QString::fromStdString(applicationId));
+        m_adaptor = std::make_unique<ApplicationBusAdaptor>(bus, QString::fromStdString(applicationId));
 }
 
 OpenRequests::~OpenRequests() = default;
@@ -191,27 +192,27 @@ std::string OpenRequests::activationTokenOfStart() {
 HandOver OpenRequests::handOver(const OpenRequest& request, std::chrono::milliseconds patience) {
     using Outcome = HandOver::Outcome;
     const QDeadlineTimer end(patience);
-    // One that is just ending refuses; its name is then free for this process, unless a third one was faster.
-    while (m_door && !m_door->ownsName()) {
+    // A process that is ending refuses. Then the name is free, unless a third process was faster.
+    while (m_adaptor && !m_adaptor->ownsName()) {
         if (end.hasExpired())
-            return {Outcome::noAnswer, m_door->owner()};
-        const QDBusError refusal = m_door->send(request, std::chrono::milliseconds(end.remainingTime()));
+            return {Outcome::noAnswer, m_adaptor->owner()};
+        const QDBusError refusal = m_adaptor->send(request, std::chrono::milliseconds(end.remainingTime()));
         if (!refusal.isValid() || refusal.type() == QDBusError::InvalidArgs)
             return {Outcome::taken, {}};
         pause();
-        m_door->askForName();
+        m_adaptor->askForName();
     }
     return {Outcome::nobodyElse, {}};
 }
 
 void OpenRequests::deliverTo(Take take) {
-    if (m_door)
-        m_door->deliverTo(std::move(take));
+    if (m_adaptor)
+        m_adaptor->deliverTo(std::move(take));
 }
 
 void OpenRequests::close() {
-    if (m_door)
-        m_door->close();
+    if (m_adaptor)
+        m_adaptor->close();
 }
 
 } // namespace OndelDesktop

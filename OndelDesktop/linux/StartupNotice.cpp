@@ -11,7 +11,7 @@ namespace OndelDesktop {
 
 namespace {
 
-/// A connection of its own, since the toolkit's is not ours to write to.
+/// A connection of its own: the toolkit's must not be written to.
 class XServer {
 public:
     XServer()
@@ -31,7 +31,7 @@ public:
         return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
     }
 
-    /// Returns when the server has done all that was asked of it.
+    /// Returns when the server has processed all requests.
     void finish() const { std::free(xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr)); }
 
 private:
@@ -39,8 +39,8 @@ private:
     xcb_window_t m_root = XCB_WINDOW_NONE;
 };
 
-/// A message to whoever shows starts: a text in pieces of 20 bytes with a NUL at its end, from a window that
-/// tells this message's pieces from another's.
+/// Sends a text to the desktop in pieces of 20 bytes, the last one with a NUL. The sending window tells the
+/// pieces of one message from those of another.
 void broadcast(const XServer& server, const std::string& text) {
     const xcb_window_t sender = xcb_generate_id(server.get());
     xcb_create_window(server.get(), 0, sender, server.root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,

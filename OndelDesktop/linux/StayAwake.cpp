@@ -2,7 +2,7 @@
 
 #include "OndelCore/platform/process/SystemCalls.h"
 #include "OndelCore/platform/storage/FileDescriptor.h"
-#include "OndelDesktop/linux/AwakePortal.h"
+#include "OndelDesktop/linux/Portal.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -24,18 +24,13 @@ using OndelCore::platform::FileDescriptor;
 
 namespace {
 
-/// The login manager may have to be started first.
-constexpr std::chrono::milliseconds inhibitPatience = std::chrono::seconds(10);
-
-/// Each wish asks over a connection of a name of its own.
-QString newConnectionName() {
-    static std::atomic<unsigned> count = 0;
-    return QStringLiteral("ondel_awake_%1").arg(++count);
-}
+/// The portal and the login manager may have to be started first.
+constexpr std::chrono::milliseconds inhibitTimeout = std::chrono::seconds(10);
 
 /// Asks the login manager over a connection of its own. Blocks.
 FileDescriptor loginManagerInhibition(const QString& who, const QString& why) {
-    const QString name = newConnectionName();
+    static std::atomic<unsigned> count = 0;
+    const QString name = QStringLiteral("ondel_awake_%1").arg(++count);
     FileDescriptor kept;
     {
         const auto bus = QDBusConnection::connectToBus(QDBusConnection::SystemBus, name);
@@ -44,7 +39,7 @@ FileDescriptor loginManagerInhibition(const QString& who, const QString& why) {
             QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("Inhibit"));
         message << QStringLiteral("sleep:idle") << who << why << QStringLiteral("block");
         const QDBusReply<QDBusUnixFileDescriptor> reply =
-            bus.call(message, QDBus::Block, static_cast<int>(inhibitPatience.count()));
+            bus.call(message, QDBus::Block, static_cast<int>(inhibitTimeout.count()));
         if (reply.isValid())
             kept = FileDescriptor(fcntl(reply.value().fileDescriptor(), F_DUPFD_CLOEXEC, 0));
     }
@@ -54,19 +49,38 @@ FileDescriptor loginManagerInhibition(const QString& who, const QString& why) {
 
 } // namespace
 
-/// Outlives its owner for as long as the login manager's answer is awaited.
+/// Lives until the login manager has answered, which may be longer than its owner does.
 struct StayAwake::Wish {
     QString who;
     QString why;
-    std::unique_ptr<AwakePortal> portal; ///< the owner's thread's
+    std::unique_ptr<PortalRequest> request; ///< used by the owner's thread alone
 
     std::mutex mutex;
     bool isOver = false;
     FileDescriptor lock; ///< the login manager's, which holds until it is closed
 
+    static void askPortal(const std::shared_ptr<Wish>& wish);
     static void askLoginManager(const std::shared_ptr<Wish>& wish);
     void end();
 };
+
+/// A portal accepts the request before it asks the desktop behind it, which may refuse.
+void StayAwake::Wish::askPortal(const std::shared_ptr<Wish>& wish) {
+    constexpr uint suspendAndIdle = 4U | 8U;
+    const QString inhibit = QStringLiteral("Inhibit");
+    PortalCall call{.interface = inhibit,
+                    .method = inhibit,
+                    .arguments = {QString(), suspendAndIdle},
+                    .timeout = inhibitTimeout};
+    wish->request =
+        std::make_unique<PortalRequest>(std::move(call), QVariantMap{{QStringLiteral("reason"), wish->why}});
+    QObject::connect(wish->request.get(), &PortalRequest::answered, wish->request.get(),
+                     [weak = std::weak_ptr(wish)](PortalRequest::Outcome outcome) {
+                         const auto held = weak.lock();
+                         if (held && outcome != PortalRequest::Outcome::done)
+                             askLoginManager(held);
+                     });
+}
 
 void StayAwake::Wish::askLoginManager(const std::shared_ptr<Wish>& wish) {
     std::thread([wish] {
@@ -79,7 +93,8 @@ void StayAwake::Wish::askLoginManager(const std::shared_ptr<Wish>& wish) {
 }
 
 void StayAwake::Wish::end() {
-    portal.reset();
+    request->close();
+    request.reset();
     const std::lock_guard guard(mutex);
     isOver = true;
     lock = FileDescriptor();
@@ -89,10 +104,7 @@ StayAwake::StayAwake(const std::string& who, const std::string& why)
     : m_wish(std::make_shared<Wish>()) {
     m_wish->who = QString::fromStdString(who);
     m_wish->why = QString::fromStdString(why);
-    m_wish->portal = std::make_unique<AwakePortal>(m_wish->why, [wish = std::weak_ptr(m_wish)] {
-        if (const auto held = wish.lock())
-            Wish::askLoginManager(held);
-    });
+    Wish::askPortal(m_wish);
 }
 
 StayAwake::~StayAwake() { m_wish->end(); }
