@@ -1,6 +1,6 @@
 #include "OndelAppSupport/SupportNudges.h"
 
-#include "OndelAppSupport/MakerSite.h"
+#include "OndelAppSupport/AppIdentity.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelAppSupport/updates/HttpsGet.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -39,5 +41,19 @@ std::optional<QList<Offer>> readAppcast(const QByteArray& feed, const std::stop_
 /// is for none of ours. Where all newer ones are incomplete, the newest of those.
 std::optional<Offer> newestOffer(const QList<Offer>& offers, const QStringList& platforms,
                                  const QString& systemVersion, const QString& currentVersion);
+
+/// What is looked for, and where.
+struct Search {
+    QUrl feed;
+    QString currentVersion;
+    QStringList platforms;
+    QString systemVersion;
+    https::Connection connection;
+};
+
+/// Asks the feed. Absent: nothing newer for this system. Notes that stand elsewhere are loaded too; where
+/// that fails the offer has none. Threads: blocks, not for the main thread. Fails: throws UpdateError, or
+/// https::Stopped.
+std::optional<Offer> findUpdate(const Search& search, const std::stop_token& stop);
 
 } // namespace OndelAppSupport::updates

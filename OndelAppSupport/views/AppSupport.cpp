@@ -1,6 +1,5 @@
 #include "OndelAppSupport/views/AppSupport.h"
 
-#include "OndelAppSupport/MakerSite.h"
 #include "OndelAppSupport/ThirdPartyNotices.h"
 #include "OndelAppSupport/report/BugReporter.h"
 
