@@ -80,20 +80,34 @@ TEST(ThroughputResult, DerivesItsFigures) {
         ThroughputResult result;
         double overall, peak, sustained;
         bool cliff;
+        std::optional<double> lowest = std::nullopt;
     };
     const Case cases[]{
         {"nothing", {0, 0, 4096, {}}, 0, 0, 0, false},
         {"no samples", {100, 2, 4096, {}}, 50, 50, 50, false},
         {"one sample", {100, 2, 4096, {{2, 70}}}, 50, 70, 70, false},
-        {"the first of two is before the last third", {100, 2, 4096, {{1, 90}, {2, 30}}}, 50, 90, 30, true},
-        {"the cut-off itself counts", {100, 3, 4096, {{1, 9}, {2, 40}, {3, 20}}}, 100.0 / 3, 40, 30, true},
-        {"exactly 0.8 of the peak is no cliff", {9, 9, 4096, {{1, 100}, {9, 80}}}, 1, 100, 80, false},
+        {"the first of two is before the last third",
+         {100, 2, 4096, {{1, 90}, {2, 30}}},
+         50,
+         90,
+         30,
+         true,
+         30},
+        {"the cut-off itself counts",
+         {100, 3, 4096, {{1, 9}, {2, 40}, {3, 20}}},
+         100.0 / 3,
+         40,
+         30,
+         true,
+         20},
+        {"exactly 0.8 of the peak is no cliff", {9, 9, 4096, {{1, 100}, {9, 80}}}, 1, 100, 80, false, 80},
         {"time stood still", {100, 2, 4096, {{0, 70}}}, 50, 70, 50, true},
     };
     for (const Case& each : cases) {
         EXPECT_DOUBLE_EQ(each.result.bytesPerSecond(), each.overall) << each.name;
         EXPECT_DOUBLE_EQ(each.result.peakBytesPerSecond(), each.peak) << each.name;
         EXPECT_DOUBLE_EQ(each.result.sustainedBytesPerSecond(), each.sustained) << each.name;
+        EXPECT_EQ(each.result.lowestBytesPerSecond(), each.lowest) << each.name;
         EXPECT_EQ(each.result.observedCacheCliff(), each.cliff) << each.name;
     }
     EXPECT_EQ((IOPSResult{10, 0, 4096}).bytesPerSecond(), 0);

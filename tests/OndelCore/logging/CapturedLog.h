@@ -11,6 +11,8 @@
 
 #include <fstream>
 #include <iterator>
+#include <map>
+#include <string>
 
 namespace test {
 
@@ -52,6 +54,9 @@ public:
             return {};
         }
         const std::string body = line.substr(at + head.size());
+        const std::string level = line.substr(0, at).substr(line.substr(0, at).find_last_of(' ') + 1);
+        EXPECT_EQ(entry.value_or("").substr(entry.value_or("").find("\nPRIORITY=") + 10, 1),
+                  priorities.at(level));
         EXPECT_TRUE(entry && entry->ends_with(body + "\n"))
             << entry.value_or("no entry") << "\nis not the entry of\n"
             << body;
@@ -59,6 +64,9 @@ public:
     }
 
 private:
+    inline static const std::map<std::string, std::string> priorities{
+        {"debug", "7"}, {"notice", "5"}, {"error", "3"}, {"fault", "2"}};
+
     TemporaryFolder m_folder;
     JournalSocket m_journal;
     LogScrubber m_scrubber;

@@ -26,9 +26,9 @@ const QString nvme = u"org.freedesktop.UDisks2.NVMe.Controller"_s;
 const qulonglong disk = makedev(8, 0);
 
 QVariantMap ataProperties() {
-    return {{u"SmartSupported"_s, true},     {u"SmartEnabled"_s, true},
-            {u"SmartFailing"_s, false},      {u"SmartUpdated"_s, QDateTime::currentSecsSinceEpoch()},
-            {u"SmartTemperature"_s, 310.15}, {u"SmartPowerOnSeconds"_s, qulonglong{7200}}};
+    return {{u"SmartSupported"_s, true},    {u"SmartEnabled"_s, true},
+            {u"SmartFailing"_s, false},     {u"SmartUpdated"_s, QDateTime::currentSecsSinceEpoch()},
+            {u"SmartTemperature"_s, 310.6}, {u"SmartPowerOnSeconds"_s, qulonglong{7200}}};
 }
 
 QVariantMap nvmeProperties() {
@@ -78,9 +78,10 @@ TEST_F(UDisks, TellsAnAtaDrivesFiguresInItsRawUnits) {
                                            {12, 1, 1234},
                                            {187, 0, 77},
                                            {193, 1, -1},
-                                           {194, 4, 311150},
+                                           {194, 4, 311550},
                                            {197, 3, 2},
                                            {199, 9, 5}});
+    // 38.4 °C: 273 K in place of 273.15 K would make 39 of it.
     const SmartAnswer answer = ask(scriptOf(ata, ataProperties(), table));
     ASSERT_TRUE(std::holds_alternative<AtaSmartReport>(answer.blocks)) << answer.source;
     const auto& report = std::get<AtaSmartReport>(answer.blocks);

@@ -47,9 +47,12 @@ public:
                          [this](const QModelIndex&, int from, int, const QModelIndex&, int to) {
                              m_words << QStringLiteral("%1>%2").arg(from).arg(to);
                          });
-        QObject::connect(
-            &model, &QAbstractItemModel::dataChanged, &m_context,
-            [this](const QModelIndex& index) { m_words << u'*' + QString::number(index.row()); });
+        QObject::connect(&model, &QAbstractItemModel::dataChanged, &m_context,
+                         [this](const QModelIndex& first, const QModelIndex& last) {
+                             m_words << u'*' + QString::number(first.row());
+                             if (last != first)
+                                 m_words.last() += QStringLiteral("..%1").arg(last.row());
+                         });
         QObject::connect(&model, &QAbstractItemModel::modelReset, &m_context,
                          [this] { m_words << QStringLiteral("reset"); });
     }
@@ -74,6 +77,7 @@ TEST(StoredRuns, TellViewsRowByRowWhatChanges) {
         {"abcdef", "uvwxyz", "-0..5 +0..5"},
         {"abcd", "xaybzcd", "+0..0 +2..2 +4..4"},
         {"abcd", "dabc", "3>0"},
+        {"abcd", "Dabc", "3>0 *0"},
         {"abcd", "dcba", "3>0 3>1 3>2"},
         {"abcdef", "xfbYZa", "-2..4 +0..0 3>1 3>2 +3..4"},
     };

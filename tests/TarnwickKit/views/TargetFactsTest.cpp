@@ -47,8 +47,10 @@ TEST(TargetFacts, NeverShowWhatIsNotKnownAsMissing) {
     capabilities.supportsHardLinks = true;
     capabilities.supportsSnapshots = false;
     capabilities.optimalIOSize = 1048576;
+    capabilities.blockSize = 4096;
     const Shown some = shown(capabilities);
-    EXPECT_EQ(some.rows.mid(1, 2), (QStringList{"Format: Case-insensitive", "Optimal I/O size: 1 MiB"}));
+    EXPECT_EQ(some.rows.mid(1, 3),
+              (QStringList{"Format: Case-insensitive", "Optimal I/O size: 1 MiB", "Block size: 4 KiB"}));
     EXPECT_EQ(some.chips, QStringList("Hard links"));
     EXPECT_EQ(some.unknown, (QStringList{"Sparse files", "Cloning", "Symlinks", "Xattr"}));
     capabilities.isCaseSensitive = true;
