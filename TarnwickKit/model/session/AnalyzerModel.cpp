@@ -1,47 +1,149 @@
-// How the model begins, and its words about a run: what goes on, why it failed, and the sidebar's figures.
-
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
+#include "OndelCore/volumes/FileUrl.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
-#include "TarnwickKit/model/session/AnalyzerRun.h"
 #include "TarnwickKit/model/session/PropertyChange.h"
 
+#include <QFile>
+#include <QPointer>
+
+#include <algorithm>
 #include <utility>
 
 namespace TarnwickKit::model {
 
 using OndelCore::benchmark::BenchmarkTest;
+using OndelCore::volumes::localPath;
 
 AnalyzerModel::AnalyzerModel(AnalyzerServices services, QObject* parent)
     : AnalyzerSettings(parent)
-    , m_services(std::move(services))
-    , m_runStart(m_services.now())
-    , m_history(std::make_unique<HistoryStore>(m_services.historyFolder)) {
-    connect(this, &AnalyzerModel::selectedTestsChanged, this, &AnalyzerModel::announceCanRun);
-    connect(this, &AnalyzerModel::randomBlockChanged, this, &AnalyzerModel::liveTestTitleChanged);
-    connect(this, &AnalyzerModel::liveTestChanged, this, &AnalyzerModel::liveTestTitleChanged);
-    connect(m_history.get(), &HistoryStore::runsChanged, this, &AnalyzerModel::previousRunsChanged);
-    connect(m_history.get(), &HistoryStore::runsChanged, this, &AnalyzerModel::forgetMissingRuns);
-    connect(m_history.get(), &HistoryStore::renamedElsewhere, this, &AnalyzerModel::showTitle);
-    connect(this, &AnalyzerModel::currentRunChanged, this, &AnalyzerModel::previousRunsChanged);
+    , m_services(std::move(services)) {
+    forwardSignals();
+    connectParts();
 }
 
-bool AnalyzerModel::canRun() const { return m_targetFolder && !selectedTests().empty() && !isRunning(); }
+void AnalyzerModel::forwardSignals() {
+    const auto forward = [this](auto& part, auto from, void (AnalyzerModel::*to)()) {
+        connect(&part, from, this, to);
+    };
+    forward(m_target, &AnalyzerTarget::folderChanged, &AnalyzerModel::targetFolderChanged);
+    forward(m_target, &AnalyzerTarget::factsChanged, &AnalyzerModel::volumeChanged);
+    forward(m_target, &AnalyzerTarget::smartChanged, &AnalyzerModel::smartChanged);
+    forward(m_session, &RunSession::resultChanged, &AnalyzerModel::resultChanged);
+    forward(m_session, &RunSession::liveTestChanged, &AnalyzerModel::liveTestTitleChanged);
+    forward(m_session, &RunSession::liveTestChanged, &AnalyzerModel::liveTestChanged);
+    forward(*this, &AnalyzerModel::randomBlockChanged, &AnalyzerModel::liveTestTitleChanged);
+    forward(m_session, &RunSession::liveSamplesChanged, &AnalyzerModel::liveSamplesChanged);
+    forward(m_session, &RunSession::progressChanged, &AnalyzerModel::progressChanged);
+    forward(m_library, &RunLibrary::currentRunChanged, &AnalyzerModel::currentRunChanged);
+    forward(m_library, &RunLibrary::currentRunCollapsedChanged, &AnalyzerModel::currentRunCollapsedChanged);
+    forward(m_library, &RunLibrary::previousRunsChanged, &AnalyzerModel::previousRunsChanged);
+    forward(m_library, &RunLibrary::expandedRunIDsChanged, &AnalyzerModel::expandedRunIDsChanged);
+    forward(m_comparison, &RunComparison::modeChanged, &AnalyzerModel::compareModeChanged);
+    forward(m_comparison, &RunComparison::selectionChanged, &AnalyzerModel::compareSelectionChanged);
+    forward(m_comparison, &RunComparison::runsChanged, &AnalyzerModel::comparisonChanged);
+}
+
+void AnalyzerModel::connectParts() {
+    connect(this, &AnalyzerModel::targetFolderChanged, this, &AnalyzerModel::announceCanRun);
+    connect(this, &AnalyzerModel::selectedTestsChanged, this, &AnalyzerModel::announceCanRun);
+    connect(&m_target, &AnalyzerTarget::factsTaken, this,
+            [this] { setOptimalBlock(m_target.facts().suitableBlock()); });
+    connect(&m_session, &RunSession::started, this, &AnalyzerModel::runStarted);
+    connect(&m_session, &RunSession::recorded, &m_library, &RunLibrary::add);
+    connect(&m_session, &RunSession::ended, this, &AnalyzerModel::runEnded);
+    connect(&m_library, &RunLibrary::currentRunChanged, this, [this] {
+        if (!currentRun() && m_phase == Phase::Done)
+            setPhase(Phase::Idle);
+    });
+    connect(&m_library, &RunLibrary::importShown, this, [this] {
+        m_session.setResult(std::nullopt);
+        setPhase(Phase::Done);
+    });
+}
 
 void AnalyzerModel::announceCanRun() {
     changeProperty(*this, m_couldRun, canRun(), &AnalyzerModel::canRunChanged);
 }
 
-QString AnalyzerModel::liveTestName() const { return m_liveTest ? name(*m_liveTest) : QString(); }
-
-QString AnalyzerModel::liveTestTitle() const {
-    return m_liveTest ? title(*m_liveTest, randomBlock()) : QString();
+QString AnalyzerModel::targetFolderText() const {
+    return targetFolder() ? QFile::decodeName(QByteArray::fromStdString(targetFolder()->native()))
+                          : QString();
 }
 
-QString AnalyzerModel::describe(const std::exception& error) { return model::describe(error); }
+void AnalyzerModel::select(const QUrl& folder) {
+    if (const auto path = localPath(folder))
+        select(*path);
+}
+
+void AnalyzerModel::select(const std::filesystem::path& folder) {
+    if (isRunning())
+        return;
+    m_target.select(folder);
+    setPhase(currentRun() ? Phase::Done : Phase::Idle);
+    m_session.clearLiveSamples();
+}
+
+void AnalyzerModel::selectVolume(const QUrl& mountPoint) {
+    if (const auto volume = localPath(mountPoint))
+        select(m_target.folderOn(*volume));
+}
+
+void AnalyzerModel::chooseFolder() { chooseFolder(targetFolder()); }
+
+void AnalyzerModel::chooseFolder(const std::optional<std::filesystem::path>& startingAt) {
+    m_target.askForFolder(startingAt, [model = QPointer(this)](const std::filesystem::path& folder) {
+        if (model)
+            model->select(folder);
+    });
+}
+
+std::vector<VolumeMenuItem> AnalyzerModel::mountedVolumeItems() {
+    std::vector<VolumeMenuItem> items;
+    std::ranges::transform(OndelCore::volumes::mountedVolumes(), std::back_inserter(items),
+                           VolumeMenuItem::from);
+    return items;
+}
+
+void AnalyzerModel::start() {
+    if (targetFolder() && !isRunning())
+        m_session.start(makePlan());
+}
+
+void AnalyzerModel::runStarted() {
+    setPhase(Phase::Running);
+    m_library.setCurrentRun(std::nullopt);
+}
+
+void AnalyzerModel::runEnded(RunSession::Outcome outcome, const QString& failureMessage) {
+    switch (outcome) {
+    case RunSession::Outcome::finished:
+        return setPhase(Phase::Done);
+    case RunSession::Outcome::cancelled:
+        return setPhase(Phase::Idle);
+    case RunSession::Outcome::failed:
+        return setPhase(Phase::Failed, failureMessage);
+    }
+}
+
+void AnalyzerModel::setPhase(Phase phase, const QString& failureMessage) {
+    if (m_phase == phase && m_failureMessage == failureMessage)
+        return;
+    m_phase = phase;
+    m_failureMessage = failureMessage;
+    m_library.setShowsImports(!isRunning());
+    Q_EMIT phaseChanged();
+    announceCanRun();
+}
+
+QString AnalyzerModel::liveTestName() const { return liveTest() ? name(*liveTest()) : QString(); }
+
+QString AnalyzerModel::liveTestTitle() const {
+    return liveTest() ? title(*liveTest(), randomBlock()) : QString();
+}
 
 std::optional<QString> AnalyzerModel::sidebarValue(BenchmarkTest test) const {
-    return m_result ? headline(*m_result, test) : std::nullopt;
+    return result() ? headline(*result(), test) : std::nullopt;
 }
 
 QStringList AnalyzerModel::sidebarValues() const {
@@ -50,5 +152,7 @@ QStringList AnalyzerModel::sidebarValues() const {
         values.append(sidebarValue(test).value_or(QString()));
     return values;
 }
+
+QString AnalyzerModel::describe(const std::exception& error) { return model::describe(error); }
 
 } // namespace TarnwickKit::model

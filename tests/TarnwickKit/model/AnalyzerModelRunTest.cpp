@@ -1,4 +1,5 @@
 #include "ModelHarness.h"
+#include "TarnwickKit/model/session/ProgressStream.h"
 
 #include <latch>
 #include <optional>

@@ -1,5 +1,4 @@
 #include "ModelHarness.h"
-#include "TarnwickKit/model/session/VolumeMenuItem.h"
 
 #include <QTimeZone>
 

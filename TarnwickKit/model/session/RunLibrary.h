@@ -1,0 +1,83 @@
+#pragma once
+
+#include "TarnwickKit/model/runs/HistoryStore.h"
+#include "TarnwickKit/model/runs/RunFile.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
+
+#include <QObject>
+#include <QString>
+#include <QUuid>
+
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace TarnwickKit::model {
+
+/// The stored runs, the one that the main pane shows, and what people do to them.
+/// Threads: the one that makes it, which runs an event loop.
+class RunLibrary : public QObject {
+    Q_OBJECT
+
+public:
+    /// `historyFolder`: see HistoryStore.
+    explicit RunLibrary(const std::optional<std::filesystem::path>& historyFolder, QObject* parent = nullptr);
+
+    HistoryStore& history() { return m_history; }
+    const HistoryStore& history() const { return m_history; }
+
+    /// The run that the main pane shows.
+    const std::optional<RunRecord>& currentRun() const { return m_currentRun; }
+    void setCurrentRun(std::optional<RunRecord> run);
+    Q_SIGNAL void currentRunChanged();
+    bool currentRunCollapsed() const { return m_currentRunCollapsed; }
+    void setCurrentRunCollapsed(bool collapsed);
+    Q_SIGNAL void currentRunCollapsedChanged();
+    /// Shows a run and stores it.
+    void add(const RunRecord& run);
+
+    /// The stored runs without the one that is shown, newest first.
+    std::vector<RunRecord> previousRuns() const;
+    Q_SIGNAL void previousRunsChanged();
+    /// Whether a run is stored or shown.
+    bool contains(const QUuid& id) const;
+
+    const std::set<QUuid>& expandedRunIDs() const { return m_expandedRunIDs; }
+    void setRunExpanded(const QUuid& id, bool expanded);
+    Q_SIGNAL void expandedRunIDsChanged();
+
+    void deleteRun(const QUuid& id);
+    Q_SIGNAL void deleted(const QUuid& id);
+    /// Gives a run the title that RunRecord::customTitleFrom makes of `text`.
+    void renameRun(const QUuid& id, const QString& text);
+    /// A run has been given a title, here or by another program.
+    Q_SIGNAL void renamed(const QUuid& id, const std::optional<QString>& title);
+    void clear();
+    Q_SIGNAL void cleared();
+
+    /// See AnalyzerModel.
+    bool importRun(const std::filesystem::path& file);
+    void importRuns(const std::vector<std::filesystem::path>& files);
+    /// Whether imported runs are shown, besides being stored.
+    void setShowsImports(bool shows) { m_showsImports = shows; }
+    /// An imported run is shown.
+    Q_SIGNAL void importShown();
+
+private:
+    void importWaitingRuns();
+    void takeImported(const ImportedRuns& imported);
+    void forgetMissingRuns();
+    void showTitle(const QUuid& id, const std::optional<QString>& title);
+
+    HistoryStore m_history;
+    std::optional<RunRecord> m_currentRun;
+    bool m_currentRunCollapsed = false;
+    std::set<QUuid> m_expandedRunIDs;
+    std::vector<std::filesystem::path> m_filesToImport;
+    bool m_isImporting = false;
+    bool m_showsImports = true;
+    ImportedRuns m_imported; ///< read, but not yet stored
+};
+
+} // namespace TarnwickKit::model

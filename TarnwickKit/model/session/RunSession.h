@@ -1,0 +1,112 @@
+#pragma once
+
+#include "OndelCore/benchmark/BenchmarkPlan.h"
+#include "OndelCore/benchmark/BenchmarkProgress.h"
+#include "OndelCore/benchmark/BenchmarkResult.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
+#include "TarnwickKit/model/session/AnalyzerServices.h"
+#include "TarnwickKit/model/session/AnalyzerTarget.h"
+
+#include <QDateTime>
+#include <QFuture>
+#include <QObject>
+#include <QString>
+
+#include <cstdint>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace TarnwickKit::model {
+
+/// The benchmark run: starting it, the live figures, cancelling, and the record of a finished one.
+/// Threads: the one that makes it, which runs an event loop.
+/// Owner: a run. The destructor ends a run and waits until the engine has cleaned up. The caller keeps
+/// `services` and `target` alive.
+class RunSession : public QObject {
+    Q_OBJECT
+
+public:
+    using Sample = OndelCore::benchmark::ThroughputSample;
+    static constexpr std::size_t maxLiveSamples = 2000;
+
+    enum class Outcome { finished, cancelled, failed };
+
+    RunSession(const AnalyzerServices& services, AnalyzerTarget& target, QObject* parent = nullptr);
+    ~RunSession() override;
+
+    /// Begins a run in the target's folder. Does nothing without a folder, or during a run: two runs would
+    /// measure each other.
+    void start(const OndelCore::benchmark::BenchmarkPlan& plan);
+    Q_SIGNAL void started();
+    /// Asks the run to end. It has ended when the engine has cleaned up.
+    void cancel();
+    /// Cancels. The future finishes on this thread when the run has ended, at once if there is none.
+    QFuture<void> cancelAndWait();
+    /// Cancels, and blocks until the engine has cleaned up, without any signal: for a process that ends
+    /// without its event loop.
+    void abandon();
+
+    /// The record of a run that is about to end as finished.
+    Q_SIGNAL void recorded(const TarnwickKit::model::RunRecord& record);
+    /// `failureMessage`: one sentence for people, empty unless the run failed. The next run may begin from
+    /// here.
+    Q_SIGNAL void ended(Outcome outcome, const QString& failureMessage);
+
+    /// What the last finished run brought.
+    const std::optional<OndelCore::benchmark::BenchmarkResult>& result() const { return m_result; }
+    void setResult(std::optional<OndelCore::benchmark::BenchmarkResult> result);
+    Q_SIGNAL void resultChanged();
+
+    /// The test now running. It stays after a run that was cancelled or failed.
+    std::optional<OndelCore::benchmark::BenchmarkTest> liveTest() const { return m_liveTest; }
+    Q_SIGNAL void liveTestChanged();
+    /// The samples of the current test. Beyond maxLiveSamples every second one is dropped.
+    const std::vector<Sample>& liveSamples() const { return m_liveSamples; }
+    void clearLiveSamples();
+    Q_SIGNAL void liveSamplesChanged();
+    /// Progress of the current test, in the counts of BenchmarkProgress.
+    std::int64_t completedBytes() const { return m_completedBytes; }
+    std::int64_t totalBytes() const { return m_totalBytes; }
+    Q_SIGNAL void progressChanged();
+
+    /// Takes one progress event.
+    void apply(const OndelCore::benchmark::BenchmarkProgress& progress);
+
+private:
+    struct Changes;
+    struct Run;
+
+    Changes take(const OndelCore::benchmark::BenchmarkProgress& progress);
+    void announce(const Changes& changes);
+    void setLiveTest(std::optional<OndelCore::benchmark::BenchmarkTest> test);
+    void setProgress(std::int64_t completed, std::int64_t total);
+
+    void reset();
+    void launch();
+    void engineEnded();
+    void endRun(const std::function<void()>& settle);
+    void finish(const OndelCore::benchmark::BenchmarkResult& result);
+    void fail(const std::exception& error);
+    void learnFacts();
+    double secondsSinceStart() const;
+    void logStart() const;
+    void logResult(const OndelCore::benchmark::BenchmarkResult& result) const;
+
+    const AnalyzerServices& m_services;
+    AnalyzerTarget& m_target;
+    /// Kept until the next run begins, so that a late cancel meets an ended run.
+    std::shared_ptr<Run> m_run;
+    bool m_isRunning = false;
+    QDateTime m_runStart;
+
+    std::optional<OndelCore::benchmark::BenchmarkResult> m_result;
+    std::optional<OndelCore::benchmark::BenchmarkTest> m_liveTest;
+    std::vector<Sample> m_liveSamples;
+    std::int64_t m_completedBytes = 0;
+    std::int64_t m_totalBytes = 0;
+};
+
+} // namespace TarnwickKit::model
