@@ -43,20 +43,23 @@ void paintedAnew(benchmark::State& state) {
 }
 BENCHMARK(paintedAnew)->Arg(100)->Arg(200)->Unit(benchmark::kMicrosecond);
 
-/// Also what the model does with its samples: a list that ends one point later.
+/// A running test: one more point, and from time to time only half of them.
 void oneMorePoint(benchmark::State& state) {
     const ThroughputContent chart = content();
     ThroughputPicture picture;
-    qsizetype shown = count / 2;
-    const auto first = [&chart](qsizetype points) {
-        ThroughputContent part = chart;
-        part.curves[0].points = chart.curves[0].points.first(points);
-        return part;
-    };
-    QImage onScreen = picture.paint(first(shown), canvas, scaleOf(state));
+    ThroughputContent shown = chart;
+    ChartCurve& curve = shown.curves[0];
+    curve.points = chart.curves[0].points.first(count / 2);
+    QImage onScreen = picture.paint(shown, canvas, scaleOf(state));
     for ([[maybe_unused]] auto _ : state) {
-        shown = shown < count ? shown + 1 : count / 2;
-        onScreen = picture.paint(first(shown), canvas, scaleOf(state));
+        curve.unchanged = curve.points.size();
+        if (curve.unchanged < count) {
+            curve.points.append(chart.curves[0].points[curve.unchanged]);
+        } else {
+            curve.points = chart.curves[0].points.first(count / 2);
+            curve.unchanged = 0;
+        }
+        onScreen = picture.paint(shown, canvas, scaleOf(state));
         benchmark::DoNotOptimize(onScreen.constBits());
     }
 }
@@ -65,7 +68,7 @@ BENCHMARK(oneMorePoint)->Arg(100)->Arg(200)->Unit(benchmark::kMicrosecond);
 void strokedByPainter(benchmark::State& state) {
     const ThroughputContent chart = content();
     const double scale = scaleOf(state);
-    const ThroughputPlot plot{canvas, ThroughputScale(largestOf({chart.curves[0].points}), true)};
+    const ThroughputPlot plot{canvas, ThroughputScale(largestOf(chart.curves[0].points), true)};
     for ([[maybe_unused]] auto _ : state) {
         QImage image((canvas * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);

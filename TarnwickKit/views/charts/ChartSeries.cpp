@@ -5,7 +5,7 @@ namespace TarnwickKit::views {
 namespace {
 
 template <typename Sample>
-QList<QPointF> points(const std::vector<Sample>& samples, double Sample::* time, double Sample::* rate) {
+QList<QPointF> points(std::span<const Sample> samples, double Sample::* time, double Sample::* rate) {
     QList<QPointF> result;
     result.reserve(static_cast<qsizetype>(samples.size()));
     for (const Sample& sample : samples)
@@ -15,13 +15,26 @@ QList<QPointF> points(const std::vector<Sample>& samples, double Sample::* time,
 
 } // namespace
 
-QList<QPointF> pointsOf(const std::vector<OndelCore::benchmark::ThroughputSample>& samples) {
+QList<QPointF> pointsOf(std::span<const OndelCore::benchmark::ThroughputSample> samples) {
     using OndelCore::benchmark::ThroughputSample;
     return points(samples, &ThroughputSample::elapsed, &ThroughputSample::bytesPerSecond);
 }
 
-QList<QPointF> pointsOf(const std::vector<model::RunSample>& samples) {
+QList<QPointF> pointsOf(std::span<const model::RunSample> samples) {
     return points(samples, &model::RunSample::t, &model::RunSample::v);
+}
+
+void ChartSeries::setPoints(const QList<QPointF>& points) {
+    if (points == m_curve.points)
+        return;
+    m_curve.points = points;
+    m_curve.unchanged = 0;
+    Q_EMIT changed();
+}
+
+void ChartSeries::append(const QList<QPointF>& points) {
+    m_curve.points.append(points);
+    Q_EMIT changed();
 }
 
 void LiveSeries::setRun(LiveRun* run) {
@@ -31,7 +44,8 @@ void LiveSeries::setRun(LiveRun* run) {
         m_run->disconnect(this);
     m_run = run;
     if (run) {
-        connect(run, &LiveRun::moved, this, [this, run] { setPoints(run->points()); });
+        connect(run, &LiveRun::restarted, this, [this, run] { setPoints(run->points()); });
+        connect(run, &LiveRun::grown, this, &LiveSeries::append);
         setPoints(run->points());
     }
     Q_EMIT runChanged();

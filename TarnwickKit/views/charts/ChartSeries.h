@@ -13,13 +13,13 @@
 #include <QQmlEngine>
 #include <QString>
 
-#include <vector>
+#include <span>
 
 namespace TarnwickKit::views {
 
 /// A curve's points, one per sample in order. Units: seconds and decimal megabytes per second.
-QList<QPointF> pointsOf(const std::vector<OndelCore::benchmark::ThroughputSample>& samples);
-QList<QPointF> pointsOf(const std::vector<model::RunSample>& samples);
+QList<QPointF> pointsOf(std::span<const OndelCore::benchmark::ThroughputSample> samples);
+QList<QPointF> pointsOf(std::span<const model::RunSample> samples);
 
 /// One curve of a throughput chart. The object itself is the series' identity.
 class ChartSeries : public QObject {
@@ -44,10 +44,13 @@ public:
     const QColor& fill() const { return m_curve.fill; }
     void setFill(const QColor& fill) { set(m_curve.fill, fill); }
     const QList<QPointF>& points() const { return m_curve.points; }
-    void setPoints(const QList<QPointF>& points) { set(m_curve.points, points); }
+    void setPoints(const QList<QPointF>& points);
+    void append(const QList<QPointF>& points);
     Q_SIGNAL void changed();
 
     const ChartCurve& curve() const { return m_curve; }
+    /// The chart has painted the points as they are.
+    void setPainted() { m_curve.unchanged = m_curve.points.size(); }
 
 private:
     template <typename Value>

@@ -79,14 +79,17 @@ void ThroughputCanvas::setLabelColor(const QColor& color) {
         Q_EMIT colorsChanged();
 }
 
-/// The next sample is never far off, so that what comes into sight again is up to date at once.
+/// A live chart that is scrolled back into view is updated by the next sample, a fraction of a second later.
 bool ThroughputCanvas::canWait() const { return isLive() && clipRect().isEmpty(); }
 
 OndelControls::ImageItem::Picture ThroughputCanvas::paint(double scale) {
-    m_content.curves.clear();
     for (const ChartSeries* series : std::as_const(m_series))
         m_content.curves.push_back(series->curve());
-    return {m_picture.paint(m_content, size(), scale), {}};
+    const QImage image = m_picture.paint(m_content, size(), scale);
+    m_content.curves.clear(); // a second holder of the points would have each append copy them all
+    for (ChartSeries* series : std::as_const(m_series))
+        series->setPainted();
+    return {image, {}};
 }
 
 } // namespace TarnwickKit::views

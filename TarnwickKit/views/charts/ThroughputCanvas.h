@@ -8,11 +8,11 @@
 
 namespace TarnwickKit::views {
 
-/// What a chart tells who cannot see it: of each curve its time, its range and its end.
+/// A chart's text summary for assistive technology: time, range and last value of each curve.
 QString throughputSummary(const QList<ChartSeries*>& series);
 
-/// The curves and axes of a throughput chart. However often its series change it is painted once per frame,
-/// and a live one not at all while it is scrolled out of sight.
+/// The curves and axes of a throughput chart. It is painted at most once per frame, however often its series
+/// change; a live one is not painted while it is scrolled out of view.
 class ThroughputCanvas : public OndelControls::ImageItem {
     Q_OBJECT
     QML_ELEMENT
@@ -24,7 +24,7 @@ class ThroughputCanvas : public OndelControls::ImageItem {
     Q_PROPERTY(bool live READ isLive WRITE setLive NOTIFY liveChanged)
     Q_PROPERTY(QColor gridColor READ gridColor WRITE setGridColor NOTIFY colorsChanged)
     Q_PROPERTY(QColor labelColor READ labelColor WRITE setLabelColor NOTIFY colorsChanged)
-    /// While live it changes once in a second at most.
+    /// While live it changes at most once per second.
     Q_PROPERTY(QString summary READ summary NOTIFY summaryChanged)
 
 public:

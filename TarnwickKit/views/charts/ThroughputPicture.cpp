@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace TarnwickKit::views {
 
@@ -15,33 +16,21 @@ namespace {
 
 constexpr double labelEnd = 36; ///< of the labels left of the plot; logical pixels
 
-/// Text held at its leading edge (0), its centre (0.5) or its trailing edge (1), and by its middle height.
+/// Draws text anchored at its leading edge (0), its centre (0.5) or its trailing edge (1), and vertically
+/// centred.
 void drawLabel(QPainter& painter, const QString& text, QPointF place, double anchor) {
     const QFontMetricsF metrics(painter.font());
     const double left = place.x() - anchor * metrics.horizontalAdvance(text);
     painter.drawText(QPointF(left, place.y() + (metrics.ascent() - metrics.descent()) / 2), text);
 }
 
-/// The font of the axes, or a smaller one of its kind in which `text` is no wider than `room`.
+/// The font of the axes, made smaller until `text` is no wider than `room`.
 QFont fontFor(const QString& text, double room) {
     QFont font = Typeface::mono(9);
     while (font.pixelSize() > 1 && QFontMetricsF(font).horizontalAdvance(text) > room)
         font.setPixelSize(font.pixelSize() - 1);
     return font;
 }
-
-bool continues(const QList<QPointF>& longer, const QList<QPointF>& shorter) {
-    return longer.size() >= shorter.size() && std::equal(shorter.begin(), shorter.end(), longer.begin());
-}
-
-double peakOf(const QList<QPointF>& points) {
-    double peak = 0;
-    for (const QPointF& point : points)
-        peak = std::max(peak, point.y());
-    return peak;
-}
-
-bool isDrawn(const ChartCurve& curve) { return curve.points.size() >= 2; }
 
 /// The area's opacity over a row: full at the curve's highest point and above, none at the floor.
 double fade(int row, double highest, double floor) {
@@ -72,43 +61,40 @@ void blendArea(QImage& picture, const CurveRaster& raster, const QColor& fill, d
 } // namespace
 
 QImage ThroughputPicture::paint(const ThroughputContent& content, QSizeF size, double scale) {
-    std::vector<QList<QPointF>> curves;
-    for (const ChartCurve& curve : content.curves)
-        curves.push_back(curve.points);
-    const ThroughputScale axes(largestOf(curves), content.live);
-
-    const bool isMore = isMoreOf(content, size, scale, axes);
-    if (!isMore)
+    const bool continues = continuesLast(content, size, scale);
+    if (!continues)
+        m_curves.assign(content.curves.size(), {});
+    const ThroughputScale axes(updateLargest(content), content.live);
+    const bool startsAnew = !continues || axes != m_axes;
+    if (startsAnew)
         begin(content, size, scale, axes);
 
-    const ThroughputPlot plot{size, axes};
-    int fromColumn = isMore ? m_picture.width() : 0;
-    for (std::size_t i = 0; i < m_rasters.size(); ++i) {
-        const QList<QPointF>& points = content.curves[i].points;
-        const qsizetype known = isMore ? m_content.curves[i].points.size() : 0;
-        for (qsizetype j = known; j < points.size(); ++j)
-            m_rasters[i].add(plot.map(points[j]) * scale);
-        fromColumn = std::min(fromColumn, m_rasters[i].takeChangedFrom());
-        // The area's colours hang from the highest point.
-        if (const double peak = peakOf(points); peak != std::exchange(m_peaks[i], peak))
-            fromColumn = 0;
-    }
-    m_content = content;
-    compose(fromColumn);
+    const int changedFrom = addPoints(content);
+    compose(startsAnew ? 0 : changedFrom);
     QImage picture = m_picture;
     if (!content.live)
-        *this = {}; // nothing is added to a finished run, and a wide chart's coverages are megabytes
+        *this = {}; // a finished run does not grow, and the coverages of a wide chart take megabytes
     return picture;
 }
 
-bool ThroughputPicture::isMoreOf(const ThroughputContent& content, QSizeF size, double scale,
-                                 const ThroughputScale& axes) const {
-    if (size != m_size || scale != m_scale || axes != m_axes || content.grid != m_content.grid ||
-        content.label != m_content.label || content.curves.size() != m_content.curves.size())
+/// Whether the content is that of the last picture, or more of it.
+bool ThroughputPicture::continuesLast(const ThroughputContent& content, QSizeF size, double scale) const {
+    if (size != m_size || scale != m_scale || content.grid != m_gridColor || content.label != m_labelColor)
         return false;
-    return std::ranges::equal(content.curves, m_content.curves, [](const auto& now, const auto& before) {
-        return now.color == before.color && now.fill == before.fill && continues(now.points, before.points);
+    return std::ranges::equal(content.curves, m_curves, [](const ChartCurve& now, const Drawn& drawn) {
+        return now.color == drawn.color && now.fill == drawn.fill && now.unchanged == drawn.count;
     });
+}
+
+std::optional<QPointF> ThroughputPicture::updateLargest(const ThroughputContent& content) {
+    QList<QPointF> largest; // of each curve
+    for (std::size_t i = 0; i < m_curves.size(); ++i) {
+        Drawn& drawn = m_curves[i];
+        drawn.largest = largestOf(content.curves[i].points, drawn.count, drawn.largest);
+        if (drawn.largest)
+            largest.append(*drawn.largest);
+    }
+    return largestOf(largest);
 }
 
 void ThroughputPicture::begin(const ThroughputContent& content, QSizeF size, double scale,
@@ -116,8 +102,8 @@ void ThroughputPicture::begin(const ThroughputContent& content, QSizeF size, dou
     m_size = size;
     m_scale = scale;
     m_axes = axes;
-    m_content.grid = content.grid;
-    m_content.label = content.label;
+    m_gridColor = content.grid;
+    m_labelColor = content.label;
 
     const QSize pixels = inPixels(size, scale);
     const ThroughputPlot plot{size, axes};
@@ -126,22 +112,44 @@ void ThroughputPicture::begin(const ThroughputContent& content, QSizeF size, dou
     m_grid.setDevicePixelRatio(scale);
     paintGrid(plot);
     m_picture = m_grid.copy();
-    m_rasters.assign(content.curves.size(),
-                     CurveRaster(pixels.width(), pixels.height(), lineWidth * scale, plot.floor() * scale));
-    m_peaks.assign(content.curves.size(), 0);
+    for (std::size_t i = 0; i < m_curves.size(); ++i) {
+        Drawn& drawn = m_curves[i];
+        drawn.color = content.curves[i].color;
+        drawn.fill = content.curves[i].fill;
+        drawn.count = 0;
+        drawn.raster = CurveRaster(pixels.width(), pixels.height(), lineWidth * scale, plot.floor() * scale);
+    }
+}
+
+/// Draws the points that are not drawn yet. Answers the first column of the picture that changes.
+int ThroughputPicture::addPoints(const ThroughputContent& content) {
+    const ThroughputPlot plot{m_size, *m_axes};
+    int changedFrom = m_picture.width();
+    for (std::size_t i = 0; i < m_curves.size(); ++i) {
+        Drawn& drawn = m_curves[i];
+        const QList<QPointF>& points = content.curves[i].points;
+        for (; drawn.count < points.size(); ++drawn.count)
+            drawn.raster.add(plot.map(points[drawn.count]) * m_scale);
+        changedFrom = std::min(changedFrom, drawn.raster.takeChangedFrom());
+        // The colours of the whole area depend on the highest point.
+        const double peak = drawn.largest ? std::max(0.0, drawn.largest->y()) : 0;
+        if (peak != std::exchange(drawn.peak, peak))
+            changedFrom = 0;
+    }
+    return changedFrom;
 }
 
 void ThroughputPicture::paintGrid(const ThroughputPlot& plot) {
     QPainter painter(&m_grid);
     const auto labels = plot.scale.yLabels();
-    // A rate read from a file may be of any size; the largest label, the first, says what all are set in.
+    // A rate read from a file may be of any size. The first label is the largest and decides the font of all.
     painter.setFont(fontFor(QString::number(labels.front()), labelEnd));
     for (int i = 0; i <= ThroughputScale::intervals; ++i) {
         const double y = plot.gridLine(i);
-        // On whole pixels, else some lines would be sharp and others smeared over two rows.
+        // Aligned to whole pixels, otherwise some lines are sharp and others blurred over two rows.
         const double upper = std::round((y - 0.5) * m_scale) / m_scale;
-        painter.fillRect(QRectF(ThroughputPlot::left, upper, plot.width(), 1), m_content.grid);
-        painter.setPen(m_content.label);
+        painter.fillRect(QRectF(ThroughputPlot::left, upper, plot.width(), 1), m_gridColor);
+        painter.setPen(m_labelColor);
         drawLabel(painter, QString::number(labels[static_cast<std::size_t>(i)]), {labelEnd, y}, 1);
     }
     painter.setFont(Typeface::mono(9));
@@ -160,13 +168,13 @@ void ThroughputPicture::compose(int fromColumn) {
                   reinterpret_cast<QRgb*>(m_picture.scanLine(row)) + fromColumn);
     }
     const ThroughputPlot plot{m_size, *m_axes};
-    for (std::size_t i = 0; i < m_rasters.size(); ++i)
-        if (isDrawn(m_content.curves[i]))
-            blendArea(m_picture, m_rasters[i], m_content.curves[i].fill,
-                      plot.map({0, m_peaks[i]}).y() * m_scale, fromColumn);
-    for (std::size_t i = 0; i < m_rasters.size(); ++i)
-        if (isDrawn(m_content.curves[i]))
-            blendLine(m_picture, m_rasters[i], m_content.curves[i].color, fromColumn);
+    for (const Drawn& curve : m_curves)
+        if (curve.count >= 2)
+            blendArea(m_picture, curve.raster, curve.fill, plot.map({0, curve.peak}).y() * m_scale,
+                      fromColumn);
+    for (const Drawn& curve : m_curves)
+        if (curve.count >= 2)
+            blendLine(m_picture, curve.raster, curve.color, fromColumn);
 }
 
 } // namespace TarnwickKit::views

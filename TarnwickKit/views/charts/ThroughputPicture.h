@@ -19,8 +19,9 @@ struct ChartCurve {
     QColor color;
     QColor fill;           ///< the area's colour at the curve's highest point; it fades towards the floor
     QList<QPointF> points; ///< seconds and decimal megabytes per second
-
-    bool operator==(const ChartCurve&) const = default;
+    /// The number of leading points that are the same as in the picture painted before; 0 if not known. Where
+    /// it covers that whole curve, only the points behind it are drawn.
+    qsizetype unchanged = 0;
 };
 
 /// What a throughput chart shows.
@@ -29,11 +30,9 @@ struct ThroughputContent {
     bool live = false;
     QColor grid;
     QColor label;
-
-    bool operator==(const ThroughputContent&) const = default;
 };
 
-/// Paints throughput charts, and what is merely added to a live one at the price of what is new.
+/// Paints throughput charts. Points appended to a live chart cost only their own drawing.
 ///
 /// Threads: one at a time.
 class ThroughputPicture {
@@ -44,18 +43,29 @@ public:
     QImage paint(const ThroughputContent& content, QSizeF size, double scale);
 
 private:
-    bool isMoreOf(const ThroughputContent& content, QSizeF size, double scale,
-                  const ThroughputScale& axes) const;
+    /// What has been drawn of one curve.
+    struct Drawn {
+        QColor color;
+        QColor fill;
+        qsizetype count = 0;            ///< points
+        std::optional<QPointF> largest; ///< coordinates of these points
+        double peak = 0;                ///< the largest y; the area's colours depend on it
+        CurveRaster raster;
+    };
+
+    bool continuesLast(const ThroughputContent& content, QSizeF size, double scale) const;
+    std::optional<QPointF> updateLargest(const ThroughputContent& content);
     void begin(const ThroughputContent& content, QSizeF size, double scale, const ThroughputScale& axes);
     void paintGrid(const ThroughputPlot& plot);
+    int addPoints(const ThroughputContent& content);
     void compose(int fromColumn);
 
-    ThroughputContent m_content;
     QSizeF m_size;
     double m_scale = 0;
+    QColor m_gridColor;
+    QColor m_labelColor;
     std::optional<ThroughputScale> m_axes;
-    std::vector<CurveRaster> m_rasters; ///< one per curve
-    std::vector<double> m_peaks;        ///< largest y per curve
+    std::vector<Drawn> m_curves;
     QImage m_grid;
     QImage m_picture;
 };

@@ -24,15 +24,13 @@ std::int64_t integerPart(double value) {
 
 } // namespace
 
-std::optional<QPointF> largestOf(const std::vector<QList<QPointF>>& curves) {
-    std::optional<QPointF> largest;
-    for (const auto& points : curves)
-        for (const QPointF& point : points) {
-            if (!largest)
-                largest = point;
-            largest = QPointF(std::max(largest->x(), point.x()), std::max(largest->y(), point.y()));
-        }
-    return largest;
+std::optional<QPointF> largestOf(const QList<QPointF>& points, qsizetype first,
+                                 std::optional<QPointF> known) {
+    for (qsizetype i = first; i < points.size(); ++i) {
+        const QPointF& point = points[i];
+        known = known ? QPointF(std::max(known->x(), point.x()), std::max(known->y(), point.y())) : point;
+    }
+    return known;
 }
 
 ThroughputScale::ThroughputScale(std::optional<QPointF> largest, bool live) {

@@ -8,14 +8,14 @@
 #include <array>
 #include <cstdint>
 #include <optional>
-#include <vector>
 
 namespace TarnwickKit::views {
 
-/// The largest coordinates of a chart's points; absent without points.
+/// The largest coordinates of `known` and of the points from index `first` on; absent when there are none.
 ///
 /// Units: x in seconds, y in decimal megabytes per second.
-std::optional<QPointF> largestOf(const std::vector<QList<QPointF>>& curves);
+std::optional<QPointF> largestOf(const QList<QPointF>& points, qsizetype first = 0,
+                                 std::optional<QPointF> known = std::nullopt);
 
 /// The axes of a throughput chart.
 ///
@@ -26,21 +26,22 @@ struct ThroughputScale {
     double xTop = 1;
     double yTop = 1000;
 
-    /// A `live` chart's time axis grows in steps of five seconds, a finished run fills the width exactly.
+    /// The time axis of a `live` chart grows in steps of five seconds; a finished run fills the width
+    /// exactly.
     ThroughputScale(std::optional<QPointF> largest, bool live);
 
-    /// What stands at the grid lines, from the top down to 0.
+    /// The labels of the grid lines, from the top down to 0.
     std::array<std::int64_t, intervals + 1> yLabels() const;
-    /// The times that are written below the axis: 0, about the middle, the end.
+    /// The times labelled below the axis: 0, about the middle, the end.
     std::array<double, 3> xLabels() const;
 
     bool operator==(const ThroughputScale&) const = default;
 };
 
-/// A time as the axis writes it: "0s", "0.15s", "7.3s", "12s".
+/// A time as an axis label: "0s", "0.15s", "7.3s", "12s".
 QString seconds(double time);
 
-/// Where a chart's plot lies on its canvas.
+/// The position of a chart's plot on its canvas.
 ///
 /// Units: logical pixels.
 struct ThroughputPlot {

@@ -3,11 +3,13 @@
 #include "TarnwickKit/views/charts/ChartSeries.h"
 
 #include <chrono>
+#include <span>
 #include <utility>
 
 namespace TarnwickKit::views {
 
 using model::AnalyzerModel;
+using OndelCore::benchmark::ThroughputSample;
 
 namespace {
 
@@ -27,13 +29,19 @@ void LiveRun::setAnalyzer(AnalyzerModel* analyzer) {
     if (!turnTo(m_analyzer, analyzer, this))
         return;
     if (analyzer) {
-        const auto note = [this] { m_hasNews = true; };
-        connect(analyzer, &AnalyzerModel::liveSamplesChanged, this, note);
-        connect(analyzer, &AnalyzerModel::progressChanged, this, note);
-        // The curve of one test is not to be seen in the colours of the next.
-        connect(analyzer, &AnalyzerModel::liveTestChanged, this, &LiveRun::read);
+        connect(analyzer, &AnalyzerModel::liveSamplesChanged, this, [this, analyzer] {
+            m_hasNews = true;
+            m_isOther |= analyzer->liveSamples().empty(); // a run begins
+        });
+        connect(analyzer, &AnalyzerModel::progressChanged, this, [this] { m_hasNews = true; });
+        // Read at once: the curve of one test must not be seen in the colours of the next.
+        connect(analyzer, &AnalyzerModel::liveTestChanged, this, [this] {
+            m_isOther = true;
+            read();
+        });
     }
     Q_EMIT analyzerChanged();
+    m_isOther = true;
     read();
 }
 
@@ -49,8 +57,29 @@ void LiveRun::tick() {
 void LiveRun::read() {
     m_completedBytes = m_analyzer ? static_cast<double>(m_analyzer->completedBytes()) : 0;
     m_totalBytes = m_analyzer ? static_cast<double>(m_analyzer->totalBytes()) : 0;
-    m_points = m_analyzer ? pointsOf(m_analyzer->liveSamples()) : QList<QPointF>();
+    readPoints();
     Q_EMIT moved();
+}
+
+/// Appends the samples that are new. The model thins its samples from time to time; the sample at the place
+/// of the last point is then another one, since time only increases.
+void LiveRun::readPoints() {
+    std::span<const ThroughputSample> samples;
+    if (m_analyzer)
+        samples = m_analyzer->liveSamples();
+    const auto known = static_cast<std::size_t>(m_points.size());
+    const bool isSame = known == 0 || (samples.size() >= known && samples[known - 1] == m_lastSample);
+    const bool grows = !std::exchange(m_isOther, false) && isSame;
+    const QList<QPointF> tail = pointsOf(samples.subspan(grows ? known : 0));
+    if (!samples.empty())
+        m_lastSample = samples.back();
+    if (!grows) {
+        m_points = tail;
+        Q_EMIT restarted();
+    } else if (!tail.isEmpty()) {
+        m_points.append(tail);
+        Q_EMIT grown(tail);
+    }
 }
 
 } // namespace TarnwickKit::views

@@ -10,9 +10,9 @@
 
 namespace TarnwickKit::views {
 
-/// How far a run is, at a pace that eyes follow. A run tells more than twice as much, at moments of its own,
-/// and whatever changes has the window drawn beside the measurement: what moves with `moved` and `beat` moves
-/// in one frame.
+/// The progress of the running test, updated at most 25 times per second. A run reports more than twice as
+/// often, and each update redraws the window beside the measurement. What changes with `moved` and `beat` is
+/// drawn in one frame.
 class LiveRun : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -21,7 +21,7 @@ class LiveRun : public QObject {
         TarnwickKit::model::AnalyzerModel* analyzer READ analyzer WRITE setAnalyzer NOTIFY analyzerChanged)
     Q_PROPERTY(double completedBytes READ completedBytes NOTIFY moved)
     Q_PROPERTY(double totalBytes READ totalBytes NOTIFY moved)
-    /// Counts up evenly, also while nothing is told.
+    /// Counts up at a constant rate, also while no progress is reported.
     Q_PROPERTY(int beat READ beat NOTIFY beatChanged)
 
 public:
@@ -33,9 +33,14 @@ public:
 
     double completedBytes() const { return m_completedBytes; }
     double totalBytes() const { return m_totalBytes; }
-    /// The running test's curve. Units: seconds and decimal megabytes per second.
-    QList<QPointF> points() const { return m_points; }
     Q_SIGNAL void moved();
+
+    /// The running test's curve. Units: seconds and decimal megabytes per second.
+    const QList<QPointF>& points() const { return m_points; }
+    /// `tail` was appended to the points.
+    Q_SIGNAL void grown(const QList<QPointF>& tail);
+    /// The points are others: another run or test, or the model has thinned its samples.
+    Q_SIGNAL void restarted();
 
     int beat() const { return m_beat; }
     Q_SIGNAL void beatChanged();
@@ -43,15 +48,18 @@ public:
 private:
     void tick();
     void read();
+    void readPoints();
 
     ModelObserver m_analyzer;
     QTimer m_clock;
     int m_ticks = 0;
     int m_beat = 0;
     bool m_hasNews = false;
+    bool m_isOther = false; ///< the samples are of another run or test than the points
     double m_completedBytes = 0;
     double m_totalBytes = 0;
     QList<QPointF> m_points;
+    OndelCore::benchmark::ThroughputSample m_lastSample; ///< that of the last point
 };
 
 } // namespace TarnwickKit::views

@@ -78,6 +78,28 @@ TEST(ThroughputChart, TellsOfALiveCurveOnceInASecond) {
     EXPECT_GE(told, 2);
 }
 
+TEST(ThroughputChart, DrawsAppendedPointsLikeAWholeCurve) {
+    const QByteArray chart =
+        "ThroughputChart { width: 300; height: 200; live: true; ChartSeries { color: 'red' } }";
+    QList<QPointF> points;
+    for (int i = 0; i < 60; ++i)
+        points.append({i * 0.1, 100.0 + 97 * (i % 9)});
+    const auto whole = [&](const QList<QPointF>& all) {
+        test::Stage stage(chart);
+        stage.root().findChild<ChartSeries*>()->setPoints(all);
+        return stage.picture();
+    };
+    test::Stage stage(chart);
+    auto* series = stage.root().findChild<ChartSeries*>();
+    for (qsizetype count = 0; count < points.size(); count += 6) {
+        series->append(points.mid(count, 6));
+        EXPECT_EQ(stage.picture(), whole(points.first(count + 6))) << count;
+    }
+    points[30].setY(300); // as long as before, and with the same end
+    series->setPoints(points);
+    EXPECT_EQ(stage.picture(), whole(points));
+}
+
 TEST(ThroughputChart, WaitsOutOfSight) {
     test::Stage stage(R"(Item { width: 300; height: 100; clip: true
         Item { objectName: "content"; height: 1000

@@ -49,7 +49,7 @@ QImage reference(const QList<QPointF>& points, double scale) {
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(scale, scale);
-    const ThroughputPlot plot{canvas, ThroughputScale(largestOf({points}), false)};
+    const ThroughputPlot plot{canvas, ThroughputScale(largestOf(points), false)};
     QPolygonF line;
     double highest = plot.floor();
     for (const QPointF& point : points) {
@@ -89,11 +89,17 @@ TEST(ThroughputPicture, LooksAsAPainterWouldDrawIt) {
 TEST(ThroughputPicture, IsTheSameHoweverItsPointsArrive) {
     const QList<QPointF> all = jagged(500, 22);
     ThroughputPicture growing;
+    qsizetype before = 0;
+    const auto grow = [&](qsizetype count) {
+        ThroughputContent content = chart({all.first(count)}, true);
+        content.curves[0].unchanged = std::exchange(before, count);
+        return growing.paint(content, canvas, 1.5);
+    };
     for (qsizetype count = 0; count <= all.size(); count += count % 7 + 1)
-        growing.paint(chart({all.first(count)}, true), canvas, 1.5);
-    EXPECT_EQ(growing.paint(chart({all}, true), canvas, 1.5), painted(chart({all}, true), 1.5));
+        EXPECT_EQ(grow(count), painted(chart({all.first(count)}, true), 1.5)) << count;
+    EXPECT_EQ(grow(all.size()), painted(chart({all}, true), 1.5));
 
-    // A list that was thinned is no longer the one before with something added.
+    // A thinned list does not continue the one before.
     QList<QPointF> thinned;
     for (qsizetype i = 0; i < all.size(); i += 2)
         thinned.append(all[i]);

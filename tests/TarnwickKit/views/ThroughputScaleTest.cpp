@@ -58,12 +58,13 @@ TEST(ThroughputScale, Times) {
 }
 
 TEST(ThroughputScale, PointsFillThePlot) {
-    const std::vector<QList<QPointF>> curves{{{0, 10}, {4, 90}}, {}, {{8, 100}}};
-    const ThroughputPlot plot{{800, 200}, ThroughputScale(largestOf(curves), false)};
+    const auto first = largestOf({{0, 10}, {4, 90}});
+    const ThroughputPlot plot{{800, 200}, ThroughputScale(largestOf({{9, 200}, {8, 100}}, 1, first), false)};
     EXPECT_EQ(plot.map({0, 0}), QPointF(42, 180));
     EXPECT_EQ(plot.map({8, 100}), QPointF(792, 8)); // a lone point has counted
     EXPECT_EQ(plot.gridLine(5), plot.floor());
-    EXPECT_FALSE(largestOf({{}, {}}));
+    EXPECT_EQ(largestOf({}, 0, first), QPointF(4, 90));
+    EXPECT_FALSE(largestOf({}));
 }
 
 } // namespace

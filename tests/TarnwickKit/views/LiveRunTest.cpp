@@ -1,0 +1,96 @@
+#include "TarnwickKit/views/charts/ChartSeries.h"
+#include "tests/TarnwickKit/model/ModelHarness.h"
+
+#include <gtest/gtest.h>
+
+using namespace TarnwickKit::views;
+using OndelCore::benchmark::BenchmarkProgress;
+using OndelCore::benchmark::BenchmarkTest;
+using TarnwickKit::model::AnalyzerModel;
+using TarnwickKit::model::turnUntil;
+
+namespace {
+
+/// A model with a running test, and the curve that a chart draws of it.
+struct Watched {
+    TarnwickKit::model::Engine engine;
+    AnalyzerModel model{engine.services()};
+    LiveRun run;
+    LiveSeries series;
+    QStringList heard; ///< "restarted", or the number of appended points
+    int moves = 0;
+
+    Watched() {
+        run.setAnalyzer(&model);
+        series.setRun(&run);
+        QObject::connect(&run, &LiveRun::restarted, &run, [this] { heard << QStringLiteral("restarted"); });
+        QObject::connect(&run, &LiveRun::grown, &run,
+                         [this](const QList<QPointF>& tail) { heard << QString::number(tail.size()); });
+        QObject::connect(&run, &LiveRun::moved, &run, [this] { ++moves; });
+    }
+
+    void measure(BenchmarkTest test, int first, int end, double rate = 1e8) {
+        for (int i = first; i < end; ++i) {
+            BenchmarkProgress progress;
+            progress.test = test;
+            progress.elapsed = i * 0.02;
+            progress.instantBytesPerSecond = rate + 1e6 * (i % 7);
+            progress.completedBytes = i;
+            progress.totalBytes = 10000;
+            model.apply(progress);
+        }
+    }
+
+    /// What is announced up to and including the next update.
+    std::string update() {
+        const int before = moves;
+        turnUntil([&] { return moves > before; });
+        EXPECT_EQ(run.points(), pointsOf(model.liveSamples()));
+        EXPECT_EQ(series.points(), run.points());
+        EXPECT_EQ(run.completedBytes(), static_cast<double>(model.completedBytes()));
+        return std::exchange(heard, {}).join(u' ').toStdString();
+    }
+};
+
+TEST(LiveRun, PassesOnOnlyTheNewPoints) {
+    constexpr auto write = BenchmarkTest::sequentialWrite;
+    constexpr auto read = BenchmarkTest::sequentialRead;
+    Watched watched;
+    watched.measure(write, 0, 3); // the first sample begins a test and is read at once
+    EXPECT_EQ(watched.update(), "restarted 2");
+    watched.measure(write, 3, 1500);
+    EXPECT_EQ(watched.update(), "1497");
+    watched.measure(write, 1500, 2001);
+    EXPECT_EQ(watched.model.liveSamples().size(), 1001U);
+    EXPECT_EQ(watched.update(), "restarted") << "the samples were thinned";
+    watched.measure(write, 2001, 2002);
+    EXPECT_EQ(watched.update(), "1");
+    watched.measure(write, 2002, 3900); // thinned, and longer again than before
+    EXPECT_GT(watched.model.liveSamples().size(), 1002U);
+    EXPECT_EQ(watched.update(), "restarted");
+    watched.measure(read, 0, 5000);
+    EXPECT_EQ(watched.update(), "restarted 1999") << "the first sample is kept when others are dropped";
+}
+
+TEST(LiveRun, BeginsAnewWithEachRun) {
+    constexpr auto write = BenchmarkTest::sequentialWrite;
+    const test::TemporaryFolder folder;
+    Watched watched;
+    watched.model.select(folder.path());
+    const auto end = [&watched] {
+        watched.engine.last().fail(OndelCore::benchmark::Cancelled());
+        turnUntilEnded(watched.model);
+    };
+    watched.engine.begin(watched.model);
+    watched.measure(write, 0, 3);
+    watched.update();
+    end();
+
+    watched.engine.begin(watched.model);
+    watched.measure(write, 0, 2, 2e8);
+    watched.measure(write, 2, 3); // the same sample at the end as in the run before
+    watched.update();
+    end();
+}
+
+} // namespace
