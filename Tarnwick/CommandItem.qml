@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import TarnwickKit.views
 
 /// A command in its menu. The first one of a group has a rule above it.

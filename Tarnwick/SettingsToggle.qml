@@ -45,7 +45,7 @@ PlainButton {
                 Accessible.ignored: true
             }
         }
-        SwitchTrack {
+        PaletteSwitch {
             on: control.on
         }
     }

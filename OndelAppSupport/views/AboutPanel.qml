@@ -30,7 +30,7 @@ PanelWindow {
         }
         LinkButton {
             textSize: 11
-            text: credit.text
+            label: credit.text
             onClicked: AppSupport.openPage(credit.address)
         }
     }

@@ -29,7 +29,7 @@ Column {
     LinkButton {
         x: 22
         textSize: 10
-        text: qsTr("View…")
+        label: qsTr("View…")
         onClicked: {
             const path = option.form.writePreview();
             if (path.length > 0)

@@ -14,12 +14,9 @@ FocusScope {
     implicitWidth: 200
     implicitHeight: Math.min(200, area.implicitHeight + 4)
 
-    Card {
+    FieldFrame {
         anchors.fill: parent
-        radius: 6
-        color: pane.palette.base
-        outline: area.activeFocus ? pane.palette.highlight : pane.palette.mid
-        outlineWidth: area.activeFocus ? 2 : 1
+        focused: area.activeFocus
     }
     Flickable {
         id: page
@@ -31,18 +28,7 @@ FocusScope {
         contentHeight: area.implicitHeight
         boundsBehavior: Flickable.StopAtBounds
 
-        T.ScrollBar.vertical: T.ScrollBar {
-            id: bar
-
-            implicitWidth: 8
-            padding: 2
-            visible: size < 1
-            contentItem: Card {
-                radius: 2
-                color: pane.palette.placeholderText
-                opacity: bar.active ? 0.7 : 0.35
-            }
-        }
+        T.ScrollBar.vertical: ScrollMark {}
         PlainTextArea {
             id: area
 

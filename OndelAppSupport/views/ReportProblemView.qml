@@ -99,7 +99,7 @@ FocusScope {
                 visible: !form.sent
                 Layout.leftMargin: -4
                 textSize: 10
-                text: AppSupport.shown(AppSupport.reportPage)
+                label: AppSupport.shown(AppSupport.reportPage)
                 onClicked: AppSupport.openPage(AppSupport.reportPage)
             }
             Item {
@@ -111,14 +111,14 @@ FocusScope {
             }
             SheetButton {
                 visible: !form.sent
-                text: qsTr("Cancel")
+                label: qsTr("Cancel")
                 onClicked: view.dismissed()
             }
             SheetButton {
                 visible: !form.sent
                 prominent: true
                 enabled: form.canSend
-                text: qsTr("Send")
+                label: qsTr("Send")
                 onClicked: form.send()
             }
             SheetButton {
@@ -126,7 +126,7 @@ FocusScope {
 
                 visible: form.sent
                 prominent: true
-                text: qsTr("Done")
+                label: qsTr("Done")
                 onClicked: view.dismissed()
             }
         }

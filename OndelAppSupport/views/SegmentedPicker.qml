@@ -73,7 +73,7 @@ FocusScope {
                 }
                 FocusMark {
                     control: segment
-                    radius: 8
+                    corner: 5
                 }
             }
         }

@@ -70,12 +70,12 @@ Card {
         BannerButton {
             anchors.verticalCenter: parent.verticalCenter
             prominent: true
-            text: qsTr("Support on Ko-fi")
+            label: qsTr("Support on Ko-fi")
             onClicked: banner.nudges.openSupportPage(true)
         }
         BannerButton {
             anchors.verticalCenter: parent.verticalCenter
-            text: qsTr("Not Now")
+            label: qsTr("Not Now")
             hint: qsTr("Hide this for a week")
             onClicked: banner.nudges.notNow()
         }

@@ -17,12 +17,9 @@ FocusScope {
     implicitWidth: 200
     implicitHeight: 116
 
-    Card {
+    FieldFrame {
         anchors.fill: parent
-        radius: 6
-        color: editor.palette.base
-        outline: area.activeFocus ? editor.palette.highlight : editor.palette.mid
-        outlineWidth: area.activeFocus ? 2 : 1
+        focused: area.activeFocus
     }
     Flickable {
         id: pane
@@ -32,18 +29,7 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
 
-        T.ScrollBar.vertical: T.ScrollBar {
-            id: bar
-
-            implicitWidth: 8
-            padding: 2
-            visible: size < 1
-            contentItem: Card {
-                radius: 2
-                color: editor.palette.placeholderText
-                opacity: bar.active ? 0.7 : 0.35
-            }
-        }
+        T.ScrollBar.vertical: ScrollMark {}
         T.TextArea.flickable: PlainTextArea {
             id: area
 

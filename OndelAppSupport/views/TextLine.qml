@@ -24,11 +24,8 @@ T.TextField {
     selectByMouse: true
     Accessible.name: prompt
 
-    background: Card {
-        radius: 6
-        color: field.palette.base
-        outline: field.activeFocus ? field.palette.highlight : field.palette.mid
-        outlineWidth: field.activeFocus ? 2 : 1
+    background: FieldFrame {
+        focused: field.activeFocus
     }
     PlainText {
         x: field.leftPadding

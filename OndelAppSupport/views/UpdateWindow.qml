@@ -97,12 +97,12 @@ PanelWindow {
                 label: qsTr("Release notes")
                 text: window.updater.notes
             }
-            UpdateProgress {
+            ProgressTrack {
                 Layout.fillWidth: true
                 Layout.topMargin: 4
                 visible: window.state === UpdaterController.Loading
                 value: window.updater.length > 0 ? window.updater.loaded / window.updater.length : 0
-                label: words.heading
+                label: qsTr("%1 %2 %").arg(words.heading).arg(percent)
             }
             RowLayout {
                 id: buttons
@@ -112,7 +112,7 @@ PanelWindow {
 
                 SheetButton {
                     visible: window.state === UpdaterController.Available
-                    text: qsTr("Skip This Version")
+                    label: qsTr("Skip This Version")
                     onClicked: window.updater.skipVersion()
                 }
                 Spinner {
@@ -125,16 +125,16 @@ PanelWindow {
                 SheetButton {
                     id: secondary
 
-                    visible: text !== ""
-                    text: words.secondary
+                    visible: label !== ""
+                    label: words.secondary
                     onClicked: words.act(false)
                 }
                 SheetButton {
                     id: primary
 
-                    visible: text !== ""
+                    visible: label !== ""
                     prominent: true
-                    text: words.primary
+                    label: words.primary
                     onClicked: words.act(true)
                 }
             }

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import TarnwickKit.views
 
 /// Runs side by side: bars per metric, one colour per run.

@@ -1,22 +1,17 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
-/// A menu that drops from a control. Arrow keys move in it, Return chooses, Escape closes.
-T.Menu {
+/// A menu in the window's colours.
+BaseMenu {
     id: menu
 
-    property real leastWidth: 120
-
-    implicitWidth: Math.max(leastWidth, implicitContentWidth + leftPadding + rightPadding)
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    margins: 8
-    padding: 5
-    overlap: 1
-    cascade: false
+    leastWidth: 120
+    fill: PaletteKey.palette.panel
+    outline: PaletteKey.palette.border
+    shadowColor: PaletteKey.palette.shadow
 
     delegate: PopupMenuItem {}
 
@@ -26,28 +21,5 @@ T.Menu {
             return;
         popup(18, 30);
         event.accepted = true;
-    }
-
-    contentItem: ListView {
-        implicitWidth: {
-            let widest = 0;
-            for (let i = 0; i < menu.count; ++i)
-                widest = Math.max(widest, menu.itemAt(i).implicitWidth);
-            return widest;
-        }
-        implicitHeight: contentHeight
-        model: menu.contentModel
-        currentIndex: menu.currentIndex
-        interactive: contentHeight > height
-        clip: interactive
-        boundsBehavior: Flickable.StopAtBounds
-    }
-    background: Card {
-        radius: 10
-        color: PaletteKey.palette.panel
-        outline: PaletteKey.palette.border
-        shadowColor: PaletteKey.palette.shadow
-        shadowRadius: 18
-        shadowOffset: 8
     }
 }

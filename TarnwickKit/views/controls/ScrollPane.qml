@@ -99,20 +99,13 @@ Flickable {
         height: childrenRect.height
     }
 
-    T.ScrollBar.vertical: T.ScrollBar {
-        id: bar
-
-        implicitWidth: 10
-        padding: 2
-        policy: T.ScrollBar.AsNeeded
+    T.ScrollBar.vertical: ScrollMark {
         minimumSize: 0.08
-        visible: size < 1
+        corner: 3
+        ink: pane.PaletteKey.palette.text3
+        restOpacity: 0.2
+        activeOpacity: 0.5
+        pressedOpacity: 0.8
         Accessible.ignored: true
-
-        contentItem: Card {
-            radius: 3
-            color: PaletteKey.palette.text3
-            opacity: bar.pressed ? 0.8 : bar.active || bar.hovered ? 0.5 : 0.2
-        }
     }
 }

@@ -31,7 +31,7 @@ PlainButton {
             elide: Text.ElideRight
             Accessible.ignored: true
         }
-        SwitchTrack {
+        PaletteSwitch {
             on: control.on
         }
     }

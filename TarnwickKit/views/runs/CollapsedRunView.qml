@@ -17,7 +17,7 @@ PlainButton {
     label: facts.title
     detail: facts.stamp
     corner: 14
-    pales: false
+    dimsWhenInactive: false
     leftPadding: 18
     rightPadding: 18
     topPadding: 15

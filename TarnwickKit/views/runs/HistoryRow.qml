@@ -27,7 +27,7 @@ PlainButton {
     topPadding: 13
     bottomPadding: 13
     hoverEnabled: true
-    pales: false
+    dimsWhenInactive: false
     Accessible.ignored: !live
 
     background: Card {
@@ -120,7 +120,7 @@ PlainButton {
             label: qsTr("Delete %1").arg(row.facts.title)
             hint: qsTr("Delete this run")
             corner: 4
-            pales: false
+            dimsWhenInactive: false
             Accessible.ignored: !row.live
             onClicked: row.remove()
 

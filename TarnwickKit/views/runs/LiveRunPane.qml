@@ -51,7 +51,9 @@ CardFrame {
 
         ProgressTrack {
             Layout.fillWidth: true
-            label: pane.analyzer.liveTestTitle
+            label: qsTr("%1: %2 %").arg(pane.analyzer.liveTestTitle).arg(percent)
+            trackColor: PaletteKey.palette.track
+            fillColor: PaletteKey.palette.accent
             to: Math.max(1, live.totalBytes)
             value: live.completedBytes
         }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import OndelControls
 import TarnwickKit.views
 
 /// The figures of a finished run.

@@ -38,7 +38,7 @@ IconButton {
         property string sentence
 
         Note {
-            parent: button
+            owner: button
             text: note.sentence
         }
     }

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import TarnwickKit.views
 
 /// What can be done with an image.
@@ -12,7 +13,7 @@ PopupMenu {
 
     parent: button
     x: button.width - width
-    y: button.height + 4
+    y: button.height + Metrics.menuGap
 
     PopupMenuItem {
         text: qsTr("Copy Image")

@@ -76,7 +76,7 @@ RowLayout {
             PopupMenu {
                 parent: button
                 x: button.width - width
-                y: button.height + 4
+                y: button.height + Metrics.menuGap
                 onOpened: currentIndex = setting.current
 
                 Repeater {

@@ -31,12 +31,12 @@ T.Popup {
         color: Qt.rgba(0, 0, 0, 0.32)
     }
     background: Card {
-        radius: 14
+        radius: Metrics.sheetCorner
         color: PaletteKey.palette.panel
         outline: PaletteKey.palette.border
         shadowColor: PaletteKey.palette.shadow
-        shadowRadius: 22
-        shadowOffset: 16
+        shadowRadius: Metrics.sheetShadow
+        shadowOffset: Metrics.sheetShadowOffset
     }
     contentItem: ColumnLayout {
         spacing: 10

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import OndelControls
 import TarnwickKit.views
 
 /// The whole of the window: the toolbar, the sidebar, and the pane that shows the runs.

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import OndelControls
 import TarnwickKit.views
 
 /// Where to measure: a mounted volume, or any folder.
@@ -13,7 +14,7 @@ PopupMenu {
     required property TargetFacts target
 
     parent: button
-    y: button.height + 4
+    y: button.height + Metrics.menuGap
     leastWidth: button.width
     // Asked anew each time, since volumes come and go.
     onAboutToShow: volumes.model = target.mountedVolumes()

@@ -2,18 +2,21 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import OndelControls
-import TarnwickKit.views
 
 /// The picture of a switch.
 Card {
     id: track
 
     required property bool on
+    property color activeColor: palette.highlight
+    property color idleColor: palette.mid
+    property color activeKnob: palette.highlightedText
+    property color idleKnob: palette.base
 
     implicitWidth: 34
     implicitHeight: 20
-    radius: 10
-    color: on ? PaletteKey.palette.accent : PaletteKey.palette.track
+    radius: height / 2
+    color: on ? activeColor : idleColor
 
     Card {
         x: track.on ? track.width - width - 2 : 2
@@ -21,7 +24,7 @@ Card {
         width: 16
         height: 16
         radius: 8
-        color: track.on ? PaletteKey.palette.onAccent : PaletteKey.palette.panel
+        color: track.on ? track.activeKnob : track.idleKnob
 
         Behavior on x {
             NumberAnimation {

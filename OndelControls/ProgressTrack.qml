@@ -3,29 +3,31 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import OndelControls
-import TarnwickKit.views
 
 /// A determinate progress bar.
 T.ProgressBar {
     id: bar
 
+    /// The toolkit tells assistive technology no value of a progress bar, so this has to contain the percentage.
     required property string label
+    readonly property int percent: Math.floor(100 * position)
+    property color trackColor: palette.mid
+    property color fillColor: palette.highlight
 
     implicitHeight: 6
     Accessible.role: Accessible.ProgressBar
-    // The toolkit tells assistive technology no value of a progress bar, so it is part of its name.
-    Accessible.name: qsTr("%1: %2 %").arg(label).arg(Math.floor(100 * position))
+    Accessible.name: label
 
     background: Card {
         radius: height / 2
-        color: PaletteKey.palette.track
+        color: bar.trackColor
     }
     contentItem: Item {
         Card {
             width: bar.visualPosition * parent.width
             height: parent.height
             radius: height / 2
-            color: PaletteKey.palette.accent
+            color: bar.fillColor
         }
     }
 }

@@ -1,0 +1,46 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import OndelControls
+
+/// A menu that drops from a control. Arrow keys move in it, Return chooses, Escape closes.
+T.Menu {
+    id: menu
+
+    property real leastWidth: 0
+    property real corner: Metrics.menuCorner
+    property color fill: palette.window
+    property color outline: palette.mid
+    property color shadowColor: "transparent"
+
+    implicitWidth: Math.max(leastWidth, implicitContentWidth + leftPadding + rightPadding)
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    margins: Metrics.menuMargin
+    padding: Metrics.menuPadding
+    overlap: 1
+    cascade: false
+
+    contentItem: ListView {
+        implicitWidth: {
+            let widest = 0;
+            for (let i = 0; i < menu.count; ++i)
+                widest = Math.max(widest, menu.itemAt(i).implicitWidth);
+            return widest;
+        }
+        implicitHeight: contentHeight
+        model: menu.contentModel
+        currentIndex: menu.currentIndex
+        interactive: contentHeight > height
+        clip: interactive
+        boundsBehavior: Flickable.StopAtBounds
+    }
+    background: Card {
+        radius: menu.corner
+        color: menu.fill
+        outline: menu.outline
+        shadowColor: menu.shadowColor
+        shadowRadius: Metrics.menuShadow
+        shadowOffset: Metrics.menuShadowOffset
+    }
+}

@@ -1,0 +1,22 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import OndelControls
+
+/// Marks the control that the keyboard would act on, just outside its edge.
+Card {
+    required property T.Control control
+    /// The control's own.
+    property real corner: Metrics.fieldCorner
+
+    x: -Metrics.focusGap
+    y: -Metrics.focusGap
+    z: Metrics.focusLayer
+    width: control.width + 2 * Metrics.focusGap
+    height: control.height + 2 * Metrics.focusGap
+    visible: control.visualFocus
+    radius: corner + Metrics.focusGap
+    outlineWidth: Metrics.focusLine
+    outline: control.palette.highlight
+}

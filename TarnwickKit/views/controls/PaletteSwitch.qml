@@ -1,0 +1,12 @@
+pragma ComponentBehavior: Bound
+
+import OndelControls
+import TarnwickKit.views
+
+/// The picture of a switch in the window's colours.
+SwitchTrack {
+    activeColor: PaletteKey.palette.accent
+    idleColor: PaletteKey.palette.track
+    activeKnob: PaletteKey.palette.onAccent
+    idleKnob: PaletteKey.palette.panel
+}
