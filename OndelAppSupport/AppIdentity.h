@@ -16,22 +16,22 @@ struct AppIdentity {
 public:
     QString name;      ///< in full
     QString shortName; ///< where there is little room
-    QString reportID;  ///< the word by which the report service knows the product
+    QString reportID;  ///< the product's name in requests to the report service
     QUrl website;      ///< the product's page
 
     bool operator==(const AppIdentity&) const = default;
 
     static const AppIdentity& tarnwick();
 
-    /// The running product's, assigned once at start: `AppIdentity::current() = AppIdentity::tarnwick();`
+    /// Of the running program, assigned once at start: `AppIdentity::current() = AppIdentity::tarnwick();`
     /// Threads: main.
     static AppIdentity& current();
 };
 
-/// A page of the maker's site, whose host is a setting of the build. `path` begins with a slash.
+/// A page of the maker's site. Its host is a setting of the build. `path` begins with a slash.
 QUrl makerSitePage(const QString& path);
 
-/// The same for the maker's report service.
+/// An address of the maker's report service.
 QUrl makerServiceAddress(const QString& path);
 
 } // namespace OndelAppSupport

@@ -7,8 +7,8 @@
 
 namespace OndelAppSupport {
 
-/// The values that a build gives its program: version, secret of the report service, update feed, the maker's
-/// hosts. They are set as CMake cache variables of the same names.
+/// Values that are set when the program is built: version, secret of the report service, update feed, the
+/// maker's hosts. They are CMake cache variables of the same names.
 class InformationDictionary {
 public:
     explicit InformationDictionary(QVariantMap values)
@@ -17,7 +17,7 @@ public:
     /// This program's own. Threads: any.
     static const InformationDictionary& main();
 
-    /// Fails: absent when the key is missing or holds no text.
+    /// Fails: absent when the key is missing or its value is not a string.
     std::optional<QString> string(const QString& key) const;
 
 private:

@@ -7,17 +7,16 @@
 
 namespace OndelAppSupport {
 
-/// Where the log file lies: "Ondel Tarnwick" in the user's state folder. Threads: any. Fails: absent without
-/// a home.
+/// The folder of the log file: "Ondel Tarnwick" in the user's state folder. Threads: any. Fails: absent
+/// without a home.
 std::optional<std::filesystem::path> logFolder();
 
-/// To be called once, when launching has finished: from here on the log also goes to "ondel.log" in
-/// that folder, and its first line tells what was launched where.
-/// Threads: any. Fails: never; without a folder the log stays in memory.
+/// Starts writing the log to "ondel.log" in that folder, with version and system in the first line. Called
+/// once, when launching has finished. Threads: any. Fails: never; without a folder the log stays in memory.
 void startLogging(const OndelCore::logging::LogOutput& output = OndelCore::logging::LogOutput::shared());
 
-/// To be called once, before the process ends: the last lines also go to the file. Threads: main. Fails: a
-/// file whose disk hangs is waited for a second.
+/// Writes the last lines to the file. Called once, before the process ends. Threads: main. Fails: gives up
+/// after a second when the disk hangs.
 void endLogging();
 
 } // namespace OndelAppSupport

@@ -14,10 +14,10 @@ namespace {
 constexpr const char* alreadySupportedKey = "supportAlreadySupported";
 constexpr const char* snoozedAtKey = "supportSnoozedAt";
 
-/// A timer stands still while the machine sleeps, so the clock is looked at this often. Units: seconds.
+/// A timer does not run while the machine is suspended, so the clock is checked this often. Units: seconds.
 constexpr double longestWait = 3600;
 
-/// The file that a user may have edited keeps truth values as words.
+/// The settings file stores booleans as words, and users may have edited it.
 bool isTrue(const QVariant& value) {
     const QString word = value.toString();
     return word == QLatin1String("true") || word == QLatin1String("1");
@@ -28,7 +28,7 @@ bool isTrue(const QVariant& value) {
 QUrl SupportNudges::supportURL() { return makerSitePage(QStringLiteral("/support")); }
 
 SupportNudges& SupportNudges::shared() {
-    // Never destroyed, since views hold it until the very end.
+    // Never destroyed: views use it until the process ends.
     static auto* const nudges = new SupportNudges(*new QSettings);
     return *nudges;
 }

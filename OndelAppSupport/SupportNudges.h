@@ -10,8 +10,8 @@
 
 namespace OndelAppSupport {
 
-/// When the note that asks for support is shown: at first, and again a week after it was put away, until the
-/// user says to have supported the product. Threads: main.
+/// The schedule of the note that asks for support. It is shown at first and again a week after it was
+/// dismissed, until the user states to have supported the product. Threads: main.
 class SupportNudges : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isSupporter READ isSupporter WRITE setSupporter NOTIFY isSupporterChanged)
@@ -20,10 +20,10 @@ public:
     static constexpr double snoozeInterval = 604800.0; ///< seconds: a week
     static QUrl supportURL();
 
-    /// Over the user's settings and the real clock. It lives as long as the process.
+    /// Uses the user's settings and the real clock. Lives as long as the process.
     static SupportNudges& shared();
 
-    /// Owner: the caller keeps `defaults` for as long as this lives. Units: seconds.
+    /// Owner: `defaults` outlives this. Units: seconds.
     explicit SupportNudges(QSettings& defaults,
                            std::function<QDateTime()> now = &QDateTime::currentDateTimeUtc,
                            double interval = snoozeInterval, QObject* parent = nullptr);
@@ -35,19 +35,18 @@ public:
     bool showsNote() const { return m_showsNote; }
     Q_SIGNAL void showsNoteChanged();
 
-    /// A note that waits for its time.
+    /// Whether the note is scheduled for later.
     bool isWaiting() const { return m_wake.isActive(); }
 
     Q_INVOKABLE void notNow();
 
-    /// `fromNote`: the user has answered the note, which is put away.
+    /// `fromNote`: by the note's own button, which also dismisses it.
     Q_INVOKABLE void openSupportPage(bool fromNote);
 
-    /// Someone with a desktop is asked to open the page.
+    /// Asks the views to open the page.
     Q_SIGNAL void pageWanted(const QUrl& page);
 
-    /// To be told whenever the application becomes the active one: the machine may have slept through the
-    /// moment.
+    /// Called whenever the application becomes active: the timer may be late after a suspend.
     void applicationBecameActive() { refresh(); }
 
 private:

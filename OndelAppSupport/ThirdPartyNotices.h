@@ -6,10 +6,10 @@
 
 namespace OndelAppSupport {
 
-/// Where an installation, or the tree that this was built from, keeps the program's data files.
+/// The folders in which an installation, or the source tree of a build, keeps the program's data files.
 std::vector<std::filesystem::path> resourceFolders();
 
-/// The file "ThirdPartyNotices.txt" in the first of the folders that has it. Threads: any. Fails: absent.
+/// The first file "ThirdPartyNotices.txt" in these folders. Threads: any. Fails: absent.
 std::optional<std::filesystem::path>
 thirdPartyNotices(const std::vector<std::filesystem::path>& folders = resourceFolders());
 

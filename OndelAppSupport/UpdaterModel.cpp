@@ -20,9 +20,9 @@ using Step = updates::UpdateWorker::Step;
 
 namespace {
 
-constexpr auto settling = 5s;  // after a start, which has more urgent things to do
-constexpr auto lookAgain = 1h; // so that a sleeping machine or a changed clock costs an hour at most
-constexpr auto busyPause = 1min;
+constexpr auto startDelay = 5s;    // keeps the first check out of the start
+constexpr auto checkInterval = 1h; // a suspend or a changed clock delays a check by an hour at most
+constexpr auto busyDelay = 1min;
 constexpr qint64 secondsOfADay = 86400;
 
 const QString automaticKey = QStringLiteral("updatesCheckAutomatically"); // boolean; absent: never asked
@@ -40,7 +40,7 @@ https::Connection connectionOf(const UpdaterEnvironment& environment) {
             .patience = environment.patience};
 }
 
-/// Feed and notes may take twice the patience each, and the proxy's settings theirs.
+/// Feed and notes may take twice the patience each, and the proxy settings once more.
 std::chrono::milliseconds longestSilence(const UpdaterEnvironment& environment) {
     return 5 * environment.patience;
 }
@@ -62,7 +62,7 @@ UpdaterController::UpdaterController(UpdaterEnvironment environment, QObject* pa
     : QObject(parent)
     , m_environment(std::move(environment)) {
     if (!m_environment.settings)
-        qFatal("UpdaterController: no settings were handed in");
+        qFatal("UpdaterController: the environment has no settings");
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::VeryCoarseTimer);
     connect(&m_timer, &QTimer::timeout, this, &UpdaterController::checkIfDue);
@@ -77,7 +77,7 @@ QString UpdaterController::currentVersion() const {
 
 void UpdaterController::start() {
     m_started = true;
-    m_timer.start(settling);
+    m_timer.start(startDelay);
 }
 
 bool UpdaterController::automaticallyChecksForUpdates() const {
@@ -91,7 +91,7 @@ void UpdaterController::setAutomaticallyChecksForUpdates(bool checks) {
         return;
     Q_EMIT automaticallyChecksForUpdatesChanged();
     if (checks && m_started)
-        m_timer.start(settling);
+        m_timer.start(startDelay);
 }
 
 void UpdaterController::checkForUpdates() {
@@ -139,17 +139,17 @@ void UpdaterController::allowAutomaticChecks(bool allow) {
 bool UpdaterController::isDue() const {
     const QDateTime last = m_environment.settings->value(lastCheckKey).toDateTime();
     const qint64 since = last.isValid() ? last.secsTo(m_environment.now()) : secondsOfADay;
-    return since < 0 || since >= secondsOfADay; // a clock that was set back says nothing about the last time
+    return since < 0 || since >= secondsOfADay; // negative: the clock was set back
 }
 
 void UpdaterController::checkIfDue() {
     if (!m_started)
         return;
-    m_timer.start(lookAgain);
+    m_timer.start(checkInterval);
     if (m_worker.isWorking() || m_state != State::Idle)
         return;
     if (m_environment.isBusy()) {
-        m_timer.start(busyPause);
+        m_timer.start(busyDelay);
         return;
     }
     QSettings& settings = *m_environment.settings;
@@ -177,8 +177,8 @@ void UpdaterController::checked(std::optional<Offer> offer) {
     QSettings& settings = *m_environment.settings;
     Log::app.notice("update check ended", LogField::bool_("newer", offer.has_value()),
                     LogField::bool_("byHand", byHand));
-    if (!byHand && offer && m_environment.isBusy()) { // it will be found again
-        m_timer.start(busyPause);
+    if (!byHand && offer && m_environment.isBusy()) { // the next check finds it again
+        m_timer.start(busyDelay);
         return;
     }
     settings.setValue(lastCheckKey, m_environment.now());
@@ -226,7 +226,7 @@ void UpdaterController::open(const std::filesystem::path& package) {
 
 void UpdaterController::fail(const UpdateError& error) {
     Log::app.notice("no update", LogField::failure(error));
-    if (m_state == State::Idle) // nobody asked
+    if (m_state == State::Idle) // an automatic check fails silently
         return;
     m_failure = error.description(product());
     setState(State::Failed);

@@ -19,55 +19,54 @@
 
 namespace OndelAppSupport {
 
-/// What updates need from around them. The application hands in `settings`, `openPackage` and `isBusy`; the
-/// rest is another's only in tests.
+/// What the updater depends on. The application sets `settings`, `openPackage` and `isBusy`; only tests
+/// change the rest.
 struct UpdaterEnvironment {
-    /// Where the user's choices and the time of the last check are kept. Owner: the caller; it outlives the
-    /// updater.
+    /// Stores the user's choices and the time of the last check. Owner: the caller; outlives the updater.
     QSettings* settings = nullptr;
-    /// Opens a package with the desktop's installer. Fails: false when nothing takes it.
-    /// Threads: called on the updater's; it must not wait for the installer.
+    /// Opens a package with the desktop's installer. Fails: false when no program takes it.
+    /// Threads: the updater's; must not wait for the installer.
     std::function<bool(const QUrl& package)> openPackage = [](const QUrl&) { return false; };
-    /// While true nothing is checked unasked, so that no window comes up in the middle of something and no
-    /// traffic disturbs a measurement.
+    /// While true there are no automatic checks, so that neither a window nor network traffic disturbs a
+    /// measurement.
     std::function<bool()> isBusy = [] { return false; };
 
     InformationDictionary build = InformationDictionary::main();
     /// The wall clock. It may jump.
     std::function<QDateTime()> now = [] { return QDateTime::currentDateTimeUtc(); };
-    /// Where packages are put: a folder that only this user can enter. Absent: none can be made.
+    /// The folder for packages, accessible to this user alone. Absent: none can be created.
     std::function<std::optional<std::filesystem::path>()> folder;
-    /// The words by which a feed may call this system.
+    /// The names of this system in a feed.
     QStringList platforms;
-    /// What a feed's least system version is compared with.
+    /// Compared with a feed's minimum system version.
     QString systemVersion;
-    /// Certificates of those who vouch for servers, in PEM. Absent: the system's.
+    /// Certificates of the trusted authorities, in PEM. Absent: the system's.
     std::optional<QByteArray> authorities;
-    /// How long a server may say nothing.
+    /// How long a server may be silent.
     std::chrono::milliseconds patience = std::chrono::seconds(30);
 
     UpdaterEnvironment();
 };
 
-/// One update at a time, from the look into the feed to the desktop's installer, and what its window shows.
-/// It never runs anything itself, and loads no package before the user said so. Threads: main, with an event
-/// loop; the network, the disk and the signature are left to a thread of its own. Owner: that thread. The
-/// destructor ends what goes on; nothing half loaded stays, and nothing that hangs is waited for.
+/// One update at a time, from the feed to the desktop's installer, and the state of the update window. It
+/// executes nothing itself and downloads no package before the user agrees. Threads: main, with an event
+/// loop; a thread of its own does network, disk and signature. Owner: that thread. The destructor stops the
+/// work, removes partial downloads and does not wait for a thread that hangs.
 class UpdaterController : public QObject {
     Q_OBJECT
 
 public:
-    /// A declarative view only sees names that begin with a capital.
+    /// QML requires names that begin with a capital.
     enum class State {
         Idle,      ///< nothing to show; an automatic check may be under way
-        Asking,    ///< whether it may check by itself: once, at the second start
-        Checking,  ///< by the user's hand
-        UpToDate,  ///< told after a check by the user's hand
-        Available, ///< asks whether to install
+        Asking,    ///< for permission to check automatically: once, at the second start
+        Checking,  ///< a manual check
+        UpToDate,  ///< the result of a manual check
+        Available, ///< offers to install
         Loading,
         Verifying,
         Opened, ///< the desktop's installer has the package
-        Failed, ///< told after what the user asked for
+        Failed, ///< the result of a manual action
     };
     Q_ENUM(State)
 
@@ -77,20 +76,20 @@ public:
     State state() const { return m_state; }
     Q_SIGNAL void stateChanged();
 
-    // --- What there is to show
+    // --- What the window shows
 
-    /// The product, and its version as people read it.
+    /// The product's name and its short version.
     Q_PROPERTY(QString product READ product CONSTANT)
     static QString product();
     Q_PROPERTY(QString currentVersion READ currentVersion CONSTANT)
     QString currentVersion() const;
-    /// Of the update, while there is one; else "".
+    /// Of the update; "" without one.
     Q_PROPERTY(QString newVersion READ newVersion NOTIFY stateChanged)
     QString newVersion() const { return m_offer ? m_offer->shortVersion : QString(); }
     /// Plain text.
     Q_PROPERTY(QString notes READ notes NOTIFY stateChanged)
     QString notes() const { return m_offer ? m_offer->notes : QString(); }
-    /// One sentence; "" but when Failed.
+    /// One sentence while Failed, else "".
     Q_PROPERTY(QString failure READ failure NOTIFY stateChanged)
     QString failure() const { return m_failure; }
     /// Units: bytes.
@@ -99,31 +98,31 @@ public:
     Q_PROPERTY(double loaded READ loaded NOTIFY loadedChanged)
     double loaded() const { return static_cast<double>(m_loaded); }
     Q_SIGNAL void loadedChanged();
-    /// The user asked again for what is shown already.
+    /// The user requested what the window shows already.
     Q_SIGNAL void attentionWanted();
 
-    // --- What the user may do
+    // --- What the user can do
 
-    /// A check by the user's hand. While an update is shown it only calls for attention.
+    /// A manual check. While an update is shown it only emits attentionWanted.
     Q_INVOKABLE void checkForUpdates();
-    /// While Available: loads the package, proves it and hands it to the desktop's installer.
+    /// While Available: downloads the package, verifies it and opens it with the desktop's installer.
     Q_INVOKABLE void install();
-    /// While Available: automatic checks are silent about this version from now on.
+    /// While Available: automatic checks ignore this version from now on.
     Q_INVOKABLE void skipVersion();
-    /// Puts away what is shown, ending what goes on. An available update comes again with a later check.
+    /// Closes the window and stops its work. A later check offers an available update again.
     Q_INVOKABLE void dismiss();
     /// While Asking: the answer.
     Q_INVOKABLE void allowAutomaticChecks(bool allow);
 
-    // --- When it looks by itself
+    // --- Automatic checks
 
-    /// Begins to look for updates. Without it nobody is ever contacted.
+    /// Starts automatic checks. Without this call no server is ever contacted.
     void start();
-    /// Looks for an update if the user allows it and a day has gone by since the last look. Called by itself
-    /// after a start and from then on every hour.
+    /// Checks for an update if the user allows it and the last check is a day ago. A timer calls it after the
+    /// start and then every hour.
     void checkIfDue();
 
-    /// Whether anything goes on, also unseen.
+    /// Whether work is under way, shown or not.
     bool isWorking() const { return m_worker.isWorking(); }
     bool canCheckForUpdates() const { return m_started && m_state != State::Checking; }
 
@@ -147,12 +146,12 @@ private:
     std::optional<updates::Offer> m_offer;
     qint64 m_loaded = 0;
     bool m_started = false;
-    updates::UpdateWorker m_worker; ///< last: it ends before anything above goes
+    updates::UpdateWorker m_worker; ///< last, so that it is destroyed first
 };
 
-/// Updates as menus and settings see them. A build without a feed's address and a key ("SUFeedURL",
-/// "SUPublicEDKey") is not configured: it never contacts anybody.
-/// Threads: main, with an event loop. Fails: never; what goes wrong in a check is told in the update window.
+/// Updates as menus and settings see them. A build without "SUFeedURL" or "SUPublicEDKey" is not configured:
+/// it never contacts a server.
+/// Threads: main, with an event loop. Fails: never; the update window shows errors.
 class UpdaterModel : public QObject {
     Q_OBJECT
 
@@ -163,8 +162,7 @@ public:
     Q_PROPERTY(OndelAppSupport::UpdaterController* controller READ controller CONSTANT)
     UpdaterController* controller() { return &m_controller; }
 
-    /// Whether the user can check now: false in a build that is not configured, and while a check that the
-    /// user asked for goes on.
+    /// Whether the user can check now: false in a build that is not configured and during a manual check.
     Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates NOTIFY canCheckForUpdatesChanged)
     bool canCheckForUpdates() const { return m_canCheckForUpdates; }
     Q_SIGNAL void canCheckForUpdatesChanged();
@@ -172,7 +170,7 @@ public:
     Q_PROPERTY(bool isConfigured READ isConfigured CONSTANT)
     bool isConfigured() const { return m_isConfigured; }
 
-    /// Whether a new version is looked for about once a day. Kept in the settings.
+    /// Whether to check about once a day. Stored in the settings.
     Q_PROPERTY(bool automaticallyChecksForUpdates READ automaticallyChecksForUpdates WRITE
                    setAutomaticallyChecksForUpdates NOTIFY automaticallyChecksForUpdatesChanged)
     bool automaticallyChecksForUpdates() const { return m_controller.automaticallyChecksForUpdates(); }
@@ -181,7 +179,7 @@ public:
     }
     Q_SIGNAL void automaticallyChecksForUpdatesChanged();
 
-    /// Checks by the user's hand: opens the update window, or asks an open one to come to the front.
+    /// A manual check: opens the update window, or raises an open one.
     Q_INVOKABLE void checkForUpdates() { m_controller.checkForUpdates(); }
 
 private:

@@ -12,10 +12,10 @@
 
 namespace OndelAppSupport::https {
 
-/// Shared by the thread, which may outlive everything else, and the steps on their way to the owner.
+/// Shared by the thread, which may outlive everything else, and the steps posted to the owner.
 struct AbandonableWork::Round {
     std::stop_source stop;
-    std::mutex mutex; ///< guards what follows
+    std::mutex mutex; ///< guards the members below
     std::condition_variable ended;
     QObject* owner;
     bool isOver = false;
@@ -23,21 +23,21 @@ struct AbandonableWork::Round {
     explicit Round(QObject* listener)
         : owner(listener) {}
 
-    bool isHeard() {
+    bool hasOwner() {
         const std::lock_guard lock(mutex);
         return owner != nullptr;
     }
 
-    /// The lock keeps the owner alive: it is abandoned before it goes.
+    /// The lock keeps the owner alive: its destructor abandons this round first.
     static void post(const std::shared_ptr<Round>& round, Step step) {
         const std::lock_guard lock(round->mutex);
         if (!round->owner)
             return;
-        const auto heard = [round, step = std::move(step)] {
-            if (round->isHeard())
+        const auto posted = [round, step = std::move(step)] {
+            if (round->hasOwner())
                 step();
         };
-        QMetaObject::invokeMethod(round->owner, heard, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(round->owner, posted, Qt::QueuedConnection);
     }
 
     void end() {
@@ -59,7 +59,8 @@ void AbandonableWork::begin(Work work) {
     const bool runs = OndelCore::platform::runDetached([round, work = std::move(work)]() mutable {
         OndelCore::platform::enterBackground("ondel-network");
         const Post post = [round](Step step) { Round::post(round, std::move(step)); };
-        std::exchange(work, nullptr)(post, round->stop.get_token()); // what it captured goes before the end
+        std::exchange(work, nullptr)(post,
+                                     round->stop.get_token()); // destroys what it captured before the end
         round->end();
     });
     if (!runs)

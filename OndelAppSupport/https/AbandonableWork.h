@@ -10,15 +10,15 @@
 
 namespace OndelAppSupport::https {
 
-/// Work on a thread of its own that may hang, for an object that lives on an event loop. A dead proxy or name
-/// server takes minutes, and nothing breaks off the wait for it.
+/// Work that may hang, on a thread of its own, for an object with an event loop. A dead proxy or name server
+/// takes minutes, and the wait for it cannot be interrupted.
 /// Threads: that of `owner`. Owner: `owner`, which outlives this. A thread that does not end when it is
-/// stopped is left behind with what its work captured. It reports to nobody, and nothing waits for it, the
-/// end of the process included: work must not refer to what may go before it.
+/// stopped is abandoned together with what its work captured. Nothing waits for it, not even the end of the
+/// process, so work must own what it uses.
 class AbandonableWork {
 public:
     using Step = std::function<void()>;
-    /// Has a step done on the owner's thread, unless the work was abandoned meanwhile.
+    /// Runs a step on the owner's thread, unless the work has been abandoned.
     using Post = std::function<void(Step)>;
     /// Runs on the thread. Throws nothing.
     using Work = std::function<void(const Post& post, const std::stop_token& stop)>;
@@ -29,14 +29,13 @@ public:
     AbandonableWork(const AbandonableWork&) = delete;
     AbandonableWork& operator=(const AbandonableWork&) = delete;
 
-    /// Earlier work is abandoned. Fails: silently, where the machine has no thread left; no step is heard
-    /// then.
+    /// Abandons earlier work. Fails: silently, where no thread can be started; no step is run then.
     void begin(Work work);
-    /// Returns at once. The last steps of the work are still done.
+    /// Returns at once. Steps that the work still posts are run.
     void requestStop();
-    /// Requests a stop and returns at once. Nothing is heard of the work any more.
+    /// Requests a stop and returns at once. No further step is run.
     void abandon();
-    /// Waits until all threads that were begun here have ended. Fails: false after `patience`.
+    /// Waits until all threads started here have ended. Fails: false after `patience`.
     bool awaitEnd(std::chrono::milliseconds patience);
 
 private:

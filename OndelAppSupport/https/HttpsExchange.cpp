@@ -29,14 +29,14 @@ using Easy = std::unique_ptr<CURL, Freed<curl_easy_cleanup>>;
 using Multi = std::unique_ptr<CURLM, Freed<curl_multi_cleanup>>;
 using Lines = std::unique_ptr<curl_slist, Freed<curl_slist_free_all>>;
 
-/// Never undone: a thread that was left behind may still use the library when the process ends.
+/// Never undone: an abandoned thread may still use the library when the process ends.
 void prepareLibrary() {
     static const CURLcode prepared = curl_global_init(CURL_GLOBAL_DEFAULT);
     if (prepared != CURLE_OK)
         throw TransportError(Kind::failed, curl_easy_strerror(prepared));
 }
 
-/// Trimmed; absent when `line` is another header.
+/// The trimmed value; absent when `line` is a different header.
 std::optional<QByteArray> valueOf(const QByteArray& line, const QByteArray& lowerName) {
     const bool isIt = line.size() > lowerName.size() && line[lowerName.size()] == ':' &&
                       line.left(lowerName.size()).toLower() == lowerName;
@@ -46,7 +46,7 @@ std::optional<QByteArray> valueOf(const QByteArray& line, const QByteArray& lowe
 /// One request and its answer through one proxy.
 class Transfer {
 public:
-    /// `headBytes`: what the whole exchange has heard around bodies so far.
+    /// `headBytes`: received so far by the whole exchange.
     Transfer(const Request& request, const Connection& connection, const Receiver& receiver,
              const std::string& proxy, std::size_t& headBytes, Clock::time_point latest)
         : m_request(request)
@@ -97,13 +97,13 @@ private:
 
     void setAddress(const std::string& proxy) {
         set(CURLOPT_URL, m_request.url.toEncoded(QUrl::RemoveFragment).constData());
-        set(CURLOPT_PROXY, proxy.c_str()); // an empty one keeps the library from looking for its own
+        set(CURLOPT_PROXY, proxy.c_str()); // an empty string disables the library's own look-up
         set(CURLOPT_NOPROXY, "");
         set(CURLOPT_PROTOCOLS_STR, "https");
         set(CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});
-        set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1}); // one request has nothing to gain
+        set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1}); // HTTP/2 gains nothing for one request
         set(CURLOPT_NOSIGNAL, 1L);
-        set(CURLOPT_QUICK_EXIT, 1L); // a look-up of a name is not waited for
+        set(CURLOPT_QUICK_EXIT, 1L); // does not wait for a name look-up
         set(CURLOPT_CONNECTTIMEOUT, 0L);
         if (m_connection.authorities) {
             curl_blob certificates{const_cast<char*>(m_connection.authorities->constData()),
@@ -125,9 +125,9 @@ private:
         };
         for (const QByteArray& header : m_request.headers)
             add(header.constData());
-        add("Expect:");                   // nobody is asked first whether a body may come
-        add("Accept-Encoding: identity"); // what is not compressed cannot swell
-        add("Accept-Language: *");        // the user's is nobody's business
+        add("Expect:");                   // sends the body without asking first
+        add("Accept-Encoding: identity"); // rules out decompression bombs
+        add("Accept-Language: *");        // does not disclose the user's language
         set(CURLOPT_HTTPHEADER, m_lines.get());
         set(CURLOPT_USERAGENT, m_connection.userAgent.constData());
         if (m_request.body) {
@@ -137,7 +137,7 @@ private:
     }
 
     void setCallbacks() {
-        set(CURLOPT_ERRORBUFFER, m_words.data());
+        set(CURLOPT_ERRORBUFFER, m_errorText.data());
         const auto take = [](char* bytes, std::size_t size, std::size_t count, void* self) {
             return static_cast<Transfer*>(self)->takeBody({bytes, static_cast<qsizetype>(size * count)});
         };
@@ -152,20 +152,21 @@ private:
 
     bool isLate() const {
         const auto now = Clock::now();
-        const bool hasWords = m_hasFinalHead && !m_connection.limit;
-        return now > m_lastNews + m_connection.patience || (!hasWords && now > m_latest);
+        const bool hasAnyTime = m_hasFinalHead && !m_connection.limit;
+        return now > m_lastActivity + m_connection.patience || (!hasAnyTime && now > m_latest);
     }
 
     /// Units: milliseconds.
     int longestWait() const {
-        const auto end = std::min(m_latest, m_lastNews + m_connection.patience);
+        const auto end = std::min(m_latest, m_lastActivity + m_connection.patience);
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
         return static_cast<int>(std::clamp<std::chrono::milliseconds::rep>(left, 1, 1000));
     }
 
-    /// Nothing may be thrown through the library. Any other count than all of the bytes ends the transfer.
+    /// Exceptions must not pass through the library. A count other than the number of bytes ends the
+    /// transfer.
     std::size_t taken(QByteArrayView bytes, const auto& take) {
-        m_lastNews = Clock::now();
+        m_lastActivity = Clock::now();
         try {
             if (take())
                 return static_cast<std::size_t>(bytes.size());
@@ -210,7 +211,8 @@ private:
         }
     }
 
-    /// Interim answers and a proxy's consent have a head as well. The library's status is the server's alone.
+    /// Interim answers and the proxy's reply to CONNECT have a head as well. The library's status is always
+    /// the server's.
     bool endHead() {
         constexpr long firstFinalStatus = 200;
         long status = 0;
@@ -230,8 +232,8 @@ private:
         curl_easy_getinfo(m_easy.get(), CURLINFO_OS_ERRNO, &error);
         if (code == CURLE_COULDNT_CONNECT && error != 0)
             return {Kind::failed, OndelCore::platform::errorText(static_cast<int>(error)).c_str()};
-        const char* words = m_words[0] != '\0' ? m_words.data() : curl_easy_strerror(code);
-        return {isHttp ? Kind::failed : Kind::notHttp, words};
+        const char* text = m_errorText[0] != '\0' ? m_errorText.data() : curl_easy_strerror(code);
+        return {isHttp ? Kind::failed : Kind::notHttp, text};
     }
 
     const Request& m_request;
@@ -239,18 +241,18 @@ private:
     const Receiver& m_receiver;
     std::size_t& m_headBytes;
     const Clock::time_point m_latest;
-    Clock::time_point m_lastNews = Clock::now();
+    Clock::time_point m_lastActivity = Clock::now();
     Head m_head;
     bool m_hasFinalHead = false;
     bool m_hasEnough = false;
     std::exception_ptr m_thrown;
-    std::array<char, CURL_ERROR_SIZE> m_words{};
+    std::array<char, CURL_ERROR_SIZE> m_errorText{};
     Lines m_lines;
     Easy m_easy;
     Multi m_multi;
 };
 
-/// Through the first proxy that lets it through. One that hands on a word of the server is the last.
+/// Uses the first proxy that works. After an answer of the server no further proxy is tried.
 Head transferThroughProxies(const Request& request, const Connection& connection, const Receiver& receiver,
                             std::size_t& headBytes, Clock::time_point latest, const std::stop_token& stop) {
     const auto proxies =

@@ -15,52 +15,51 @@
 
 namespace OndelAppSupport {
 
-/// Tells the maker's report service what went wrong, and on what kind of system.
-/// Threads: any. `build` and `root` (where the system's files are found) are others only in tests.
+/// Sends problem reports to the maker's report service, with facts about the system.
+/// Threads: any. Only tests pass `build` and `root` (of the system's files).
 class BugReporter {
 public:
     using ReportError = OndelAppSupport::ReportError;
 
-    /// What the user has to say.
+    /// What the user has entered.
     struct Report {
-        bool isFeature = false; ///< a wish, not a fault
+        bool isFeature = false; ///< a feature request, not a bug
         QString summary;        ///< one line
         QString details;
-        QString email;                      ///< where to answer, if anywhere
+        QString email;                      ///< for an answer; may be empty
         bool attachDiagnostics = false;     ///< the user's choice
-        std::optional<QString> diagnostics; ///< the text to send, once it was taken
+        std::optional<QString> diagnostics; ///< the text to send
 
         bool operator==(const Report&) const = default;
     };
 
-    /// Where reports go, and for how long an answer is waited for.
+    /// The address of the service and the limits of an exchange with it.
     struct Service {
         QUrl endpoint;
-        QString secret; ///< travels in one header of the request to `endpoint` and nowhere else
+        QString secret; ///< sent in one header to `endpoint` and nowhere else
         std::chrono::milliseconds limit = std::chrono::seconds(60); ///< for the whole exchange
-        /// Certificates of those who vouch for it, in PEM. Absent: the system's.
+        /// Certificates of the trusted authorities, in PEM. Absent: the system's.
         std::optional<QByteArray> authorities = std::nullopt;
 
-        /// The maker's, with the secret of this build; a build without one sends it empty.
+        /// The maker's, with the secret of this build, which may be empty.
         static Service maker();
     };
 
-    /// What is sent. All values are texts. A wish never carries diagnostics.
+    /// The body of the request. All values are strings. A feature request never carries diagnostics.
     static QVariantMap payload(const Report& report);
 
-    /// Sends the report once, to the endpoint alone: over verified TLS, following nobody elsewhere, and
-    /// reading at most 1 MiB of an answer. Cancelling the future ends the exchange.
-    /// Threads: main. Fails: ReportError, by the future.
+    /// Sends the report once, over verified TLS, without following redirects, and reads at most 1 MiB of the
+    /// answer. Cancelling the future ends the exchange. Threads: main. Fails: ReportError, by the future.
     static QFuture<void> submit(const Report& report, const Service& service = Service::maker());
 
     /// The report service.
     static QUrl endpoint();
 
-    /// "1.2 (345)"; a "?" stands for what the build does not say.
+    /// "1.2 (345)", with "?" for a value that the build lacks.
     static QString appVersion(const InformationDictionary& build = InformationDictionary::main());
-    /// "Debian GNU/Linux 12 (bookworm)"; "Linux" for a system that does not give its name.
+    /// "Debian GNU/Linux 12 (bookworm)"; "Linux" for a system without a name.
     static QString osVersion(const std::filesystem::path& root = "/");
-    /// The machine as its firmware names it, or "unknown".
+    /// The machine's name from its firmware, or "unknown".
     static QString hardwareModel(const std::filesystem::path& root = "/");
     /// The processor's name, or "unknown".
     static QString chip(const std::filesystem::path& root = "/");
@@ -71,7 +70,7 @@ public:
     /// Model, chip and memory on one line.
     static QString hardwareSummary(const std::filesystem::path& root = "/");
 
-    /// Whether this build was given the secret that the report service asks for.
+    /// Whether this build has the secret of the report service.
     static bool isConfigured(const InformationDictionary& build = InformationDictionary::main());
 
 private:

@@ -17,20 +17,20 @@ using Report = BugReporter::Report;
 
 namespace {
 
-constexpr qint64 longestDraft = 1 << 20; // bytes: what is longer was not typed
+constexpr qint64 longestDraft = 1 << 20; // bytes, more than anybody types
 
-struct Words {
+struct Field {
     QLatin1String key;
     QString Report::* text;
 };
-constexpr std::array<Words, 3> words{{{QLatin1String("summary"), &Report::summary},
-                                      {QLatin1String("details"), &Report::details},
-                                      {QLatin1String("email"), &Report::email}}};
+constexpr std::array<Field, 3> fields{{{QLatin1String("summary"), &Report::summary},
+                                       {QLatin1String("details"), &Report::details},
+                                       {QLatin1String("email"), &Report::email}}};
 constexpr QLatin1String isFeatureKey("isFeature");
 
-bool hasWords(const Report& report) {
-    return std::any_of(words.begin(), words.end(),
-                       [&](const Words& each) { return !(report.*each.text).trimmed().isEmpty(); });
+bool hasText(const Report& report) {
+    return std::any_of(fields.begin(), fields.end(),
+                       [&](const Field& field) { return !(report.*field.text).trimmed().isEmpty(); });
 }
 
 } // namespace
@@ -50,16 +50,16 @@ Report ReportDraft::take() const {
     const QJsonObject draft = QJsonDocument::fromJson(file.read(longestDraft)).object();
     file.remove();
     report.isFeature = draft.value(isFeatureKey).toBool();
-    for (const auto& [key, text] : words)
+    for (const auto& [key, text] : fields)
         report.*text = draft.value(key).toString();
     return report;
 }
 
 void ReportDraft::keep(const Report& report) const {
-    if (!m_file || !hasWords(report))
+    if (!m_file || !hasText(report))
         return;
     QJsonObject draft{{isFeatureKey, report.isFeature}};
-    for (const auto& [key, text] : words)
+    for (const auto& [key, text] : fields)
         draft.insert(key, report.*text);
     const QByteArray content = QJsonDocument(draft).toJson(QJsonDocument::Compact);
     OndelCore::platform::replaceFile(*m_file, {content.data(), static_cast<std::size_t>(content.size())},

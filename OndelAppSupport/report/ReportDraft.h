@@ -8,17 +8,16 @@
 
 namespace OndelAppSupport {
 
-/// The words of a report that was neither sent nor cancelled when the program ended, kept until the next one
-/// is written. They lie in a file that only the user can read; whether diagnostics go along is asked anew.
-/// Threads: main. Fails: silently, without a draft.
+/// The text of a report that was neither sent nor cancelled when the program ended. It is stored in a file
+/// that only the user can read, without the choice of diagnostics. Threads: main. Fails: silently.
 class ReportDraft {
 public:
     explicit ReportDraft(const std::optional<std::filesystem::path>& folder = logFolder());
 
-    /// The words that were kept, of which there is then no copy any more; else an empty report.
+    /// Reads and removes the stored text. An empty report without one.
     BugReporter::Report take() const;
 
-    /// Does nothing for a report without words.
+    /// Does nothing for a report without text.
     void keep(const BugReporter::Report& report) const;
 
 private:

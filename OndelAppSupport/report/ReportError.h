@@ -10,7 +10,7 @@
 
 namespace OndelAppSupport {
 
-/// Why a report did not arrive.
+/// Why a report was not filed.
 class ReportError : public std::exception, public OndelCore::NamedError {
 public:
     /// The service answered and refused. `text`: its own reason, or a sentence that names the status.
@@ -18,11 +18,11 @@ public:
         QString text;
         bool operator==(const Server&) const = default;
     };
-    /// What answered did not speak as the service does.
+    /// The address or its server does not speak HTTPS.
     struct Network {
         bool operator==(const Network&) const = default;
     };
-    /// No answer came, or none to be trusted. `text`: the system's own words.
+    /// No answer, or none that can be trusted. `text`: the system's error text.
     struct Transport {
         QString text;
         bool operator==(const Transport&) const = default;
@@ -30,7 +30,7 @@ public:
     using Cause = std::variant<Server, Network, Transport>;
 
     explicit ReportError(Cause cause);
-    /// Transport, in the system's words for an errno value.
+    /// Transport, with the system's text of an errno value.
     static ReportError ofSystem(int error);
 
     const Cause& cause() const { return m_cause; }

@@ -11,7 +11,7 @@ namespace OndelAppSupport {
 
 namespace {
 
-/// Blanks of every width and tabs; a line's end is none.
+/// Spaces of every width and tabs, but not line breaks.
 bool isBlank(QChar character) {
     return character == QLatin1Char('\t') || character.category() == QChar::Separator_Space;
 }
@@ -24,7 +24,7 @@ QStringView trimmed(QStringView text) {
     return {first, last};
 }
 
-/// As a reader counts: an accented letter or an emoji of several code points is one.
+/// Counts graphemes: an accented letter or an emoji of several code points is one.
 bool hasCharacters(QStringView text, int least) {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
     while (least > 0 && finder.toNextBoundary() != -1)

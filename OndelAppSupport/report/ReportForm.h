@@ -13,9 +13,8 @@
 
 namespace OndelAppSupport {
 
-/// A report while the user writes it, and its way to the service. It begins empty and ends `sent`; a failed
-/// send leaves everything as it was typed. Destroying it while it is submitting gives that up. When the
-/// application ends under it, its words are kept, and the next form begins with them. Threads: main.
+/// A report while the user writes it and while it is sent. A failed send keeps all text. The destructor
+/// cancels a submission. When the application ends, the text is stored for the next form. Threads: main.
 class ReportForm : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isFeature READ isFeature WRITE setFeature NOTIFY changed)
@@ -24,13 +23,13 @@ class ReportForm : public QObject {
     Q_PROPERTY(QString email READ email WRITE setEmail NOTIFY changed)
     Q_PROPERTY(bool attachDiagnostics READ attachDiagnostics WRITE setAttachDiagnostics NOTIFY changed)
     Q_PROPERTY(bool submitting READ isSubmitting NOTIFY changed)
-    /// Whether the last send failed, and why.
+    /// Whether the last attempt failed, and why.
     Q_PROPERTY(bool failed READ hasFailed NOTIFY changed)
     Q_PROPERTY(QString errorText READ errorText NOTIFY changed)
     Q_PROPERTY(bool sent READ isSent NOTIFY changed)
     Q_PROPERTY(bool canSend READ canSend NOTIFY changed)
 public:
-    /// What a test may bend.
+    /// Replaced by tests.
     struct Surroundings {
         std::function<QFuture<void>(const BugReporter::Report&)> submit = [](const auto& report) {
             return BugReporter::submit(report);
@@ -60,19 +59,19 @@ public:
     bool isSent() const { return m_sent; }
     Q_SIGNAL void changed();
 
-    /// There is a summary of three characters and a description of five, blanks around them not counted.
+    /// Requires a summary of three characters and a description of five, without surrounding blanks.
     bool canSend() const;
 
-    /// What is shown and what is sent: taken at the first call, the same ever after.
+    /// The text that is shown and sent. Taken at the first call and unchanged from then on.
     QString diagnosticsText();
 
-    /// The path of a file that holds diagnosticsText. Fails: empty.
+    /// The path of a file with diagnosticsText. Fails: empty.
     Q_INVOKABLE QString writePreview();
 
     /// Does nothing while canSend is false.
     Q_INVOKABLE void send();
 
-    /// Called when the application ends. A report that has been sent needs no keeping.
+    /// Called when the application ends. Does nothing for a report that was sent.
     void keepDraft() const;
 
 private:

@@ -28,7 +28,7 @@ https::Request request(const QByteArray& body, const BugReporter::Service& servi
             .body = body};
 }
 
-/// The service's own reason, if it gave one.
+/// The reason that the service gives; may be absent.
 std::optional<QString> reason(const QByteArray& answer) {
     const QJsonValue error = QJsonDocument::fromJson(answer).object().value(QStringLiteral("error"));
     return error.isString() ? std::optional(error.toString()) : std::nullopt;
@@ -49,7 +49,7 @@ void sendReport(const QByteArray& body, const BugReporter::Service& service, con
     https::Receiver receiver;
     receiver.head = [&](const https::Head& head) {
         status = head.status;
-        return status != filed; // whatever else it has to say
+        return status != filed; // the body is not needed then
     };
     receiver.body = [&](QByteArrayView bytes) {
         answer += bytes.first(std::min(bytes.size(), longestAnswer - answer.size()));
@@ -93,7 +93,7 @@ ReportSubmission::ReportSubmission(const QByteArray& body, const BugReporter::Se
             sendReport(body, service, stop);
         } catch (const ReportError& failure) {
             error = failure;
-        } catch (const https::Stopped&) { // it is settled already
+        } catch (const https::Stopped&) { // settled already
         }
         post([this, error] {
             settle(error);

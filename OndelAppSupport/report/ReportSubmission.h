@@ -13,9 +13,9 @@
 
 namespace OndelAppSupport {
 
-/// An exchange with the report service as the user's thread sees it: nothing in it waits, and it is over in
-/// time even if the exchange's own thread is stuck. Owner: itself; it goes when that thread has ended, and,
-/// with its future cancelled, when the application quits. Threads: main.
+/// An exchange with the report service, without waiting in the main thread. It ends in time even if the
+/// exchange's thread hangs. Owner: itself; deleted when that thread has ended or when the application quits,
+/// which cancels the future. Threads: main.
 class ReportSubmission : public QObject {
     Q_OBJECT
 public:

@@ -23,10 +23,10 @@ constexpr qint64 longestPackage = qint64{256} << 20; // bytes
 constexpr qsizetype signatureSize = 64;              // bytes
 constexpr qsizetype longestWord = 64;                // characters of a version
 
-/// A name as it may be shown: one line without signs that nobody sees.
+/// A version that is safe to show: one line without invisible characters.
 QString word(const QString& text) { return showableNotes(text.simplified()).left(longestWord); }
 
-/// By its byte order mark or first sign, else as its declaration says, else as UTF-8.
+/// The encoding is that of the byte order mark or the first character, else the declared one, else UTF-8.
 QString decoded(const QByteArray& feed) {
     constexpr qsizetype longestDeclaration = 200; // bytes
     if (const auto encoding = QStringDecoder::encodingForData(feed, u'<'))
@@ -38,8 +38,8 @@ QString decoded(const QByteArray& feed) {
     return decoder.isValid() ? QString(decoder.decode(feed)) : QString::fromUtf8(feed);
 }
 
-/// Looks at the tags of a feed before the reader does, in one pass. That compares each attribute with each
-/// other of its element, and each name with the namespaces of all elements around it.
+/// Checks the tags of a feed in one pass before the XML reader sees them. The reader compares each attribute
+/// with all others of its element, and each name with the namespaces of all enclosing elements.
 class TagScan {
 public:
     explicit TagScan(QStringView feed)
@@ -72,7 +72,7 @@ private:
         m_rest = found < 0 ? QStringView() : m_rest.mid(found + end.size());
     }
 
-    /// By how much the tag changes the depth; absent for a document type and for too many attributes.
+    /// The change of depth; absent for a document type and for too many attributes.
     std::optional<int> scanTag() {
         if (m_rest.startsWith(u"<!"))
             return std::nullopt;
@@ -128,7 +128,7 @@ private:
             m_xml.raiseError(QStringLiteral("a stop"));
     }
 
-    /// Whether another element begins before the current one ends.
+    /// Whether a child element begins before the current one ends.
     bool nextElement() {
         do
             next();
@@ -136,7 +136,7 @@ private:
         return m_xml.isStartElement();
     }
 
-    /// Passes what follows in the element over, and then its end.
+    /// Skips the rest of the element and its end.
     void skipElement() { text(); }
 
     void readItem() {
@@ -176,8 +176,8 @@ private:
         return nullptr;
     }
 
-    /// With the text of the elements inside. (The reader's own function for it recurses, and elements can be
-    /// nested deeper than a stack.)
+    /// Includes the text of nested elements. (The reader's own function recurses, and nesting may exceed the
+    /// stack.)
     QString text() {
         QString text;
         for (int depth = 1; depth > 0 && !m_xml.hasError();) {
@@ -215,7 +215,7 @@ private:
         return offer;
     }
 
-    /// Versions stand with the item, or, in older feeds, with its enclosure.
+    /// Versions belong to the item or, in older feeds, to its enclosure.
     static Offer combined(const Offer& item, const Offer& enclosure) {
         Offer offer = item;
         if (offer.version.isEmpty())
@@ -267,12 +267,12 @@ std::optional<Offer> newestOffer(const QList<Offer>& offers, const QStringList& 
     };
     const Offer* newest = nullptr;
     for (const Offer& offer : offers) {
-        const bool suits = !offer.version.isEmpty() &&
-                           platforms.contains(offer.platform, Qt::CaseInsensitive) &&
-                           (offer.minimumSystemVersion.isEmpty() ||
-                            std::is_lteq(compareVersions(offer.minimumSystemVersion, systemVersion))) &&
-                           std::is_gt(compareVersions(offer.version, currentVersion));
-        if (suits && (!newest || isBetter(offer, *newest)))
+        const bool fits = !offer.version.isEmpty() &&
+                          platforms.contains(offer.platform, Qt::CaseInsensitive) &&
+                          (offer.minimumSystemVersion.isEmpty() ||
+                           std::is_lteq(compareVersions(offer.minimumSystemVersion, systemVersion))) &&
+                          std::is_gt(compareVersions(offer.version, currentVersion));
+        if (fits && (!newest || isBetter(offer, *newest)))
             newest = &offer;
     }
     return newest ? std::optional(*newest) : std::nullopt;

@@ -15,7 +15,7 @@ void httpsGet(const QUrl& url, const https::Connection& connection, UpdateError:
     https::Receiver receiver;
     receiver.head = [&](const https::Head& head) {
         answer = head;
-        return head.status == ok; // the words of a refusal are for nobody
+        return head.status == ok; // the body of an error is not needed
     };
     receiver.body = [&](QByteArrayView bytes) {
         receive(answer, bytes);

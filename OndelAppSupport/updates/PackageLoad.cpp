@@ -21,7 +21,7 @@ using Cause = UpdateError::Cause;
 
 constexpr qsizetype longestName = 100; // characters
 
-/// A name that means the same to every program it is handed to.
+/// Restricts the name to characters that no program interprets.
 QString packageName(const QUrl& url) {
     QString name = url.fileName(QUrl::FullyDecoded).right(longestName);
     name.removeIf([](QChar c) {
@@ -34,7 +34,7 @@ QString packageName(const QUrl& url) {
 
 void prepare(const fs::path& folder) {
     std::error_code error;
-    fs::remove_all(folder, error); // packages of earlier updates
+    fs::remove_all(folder, error); // earlier packages
     if (!error)
         fs::create_directory(folder, error);
     if (!error)
@@ -60,8 +60,8 @@ bool isSignedWithEd25519(QByteArrayView message, QByteArrayView signature, QByte
                             size(message)) == 1;
 }
 
-/// The package while nobody may trust it. No other load has a file of its name, also not one that was left
-/// behind and ends now. Owner: the object; the file goes with it unless it got its name.
+/// The package before it is verified. The file name is unique, so that an abandoned download which ends late
+/// does no harm. Owner: the object, which removes the file unless it was kept.
 class Part {
 public:
     Part(const fs::path& name, qint64 length)

@@ -8,20 +8,20 @@
 
 namespace OndelAppSupport::updates {
 
-/// Where packages go, and who may have signed them.
+/// The folder for packages and the key of their signatures.
 struct Destination {
-    std::filesystem::path folder; ///< emptied and used for packages alone
+    std::filesystem::path folder; ///< used for packages alone; emptied first
     QByteArray publicKey;         ///< Ed25519, raw
 };
 
-/// Called as the load goes on. Threads: the loading one.
+/// Progress callbacks. Threads: the downloading one.
 struct LoadProgress {
     std::function<void(qint64 bytes)> loaded;
     std::function<void()> verifying;
 };
 
-/// Loads the package of a complete offer. The file gets its name, which is the last of the address, only when
-/// it is as long as the offer says and signed by the key; until then, and after any failure, there is none.
+/// Downloads the package of a complete offer. The file gets its name, the last part of the address, after its
+/// length and its signature have been verified; there is no such file before that or after a failure.
 /// Threads: blocks, not for the main thread. Fails: throws UpdateError, or https::Stopped.
 std::filesystem::path loadPackage(const Offer& offer, const Destination& destination,
                                   const https::Connection& connection, const LoadProgress& progress,

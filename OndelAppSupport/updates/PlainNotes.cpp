@@ -12,8 +12,8 @@ namespace {
 
 constexpr qsizetype longestText = 20'000; // characters: some ten pages
 
-constexpr std::array unshown{u"script",   u"style", u"head",   u"title",
-                             u"template", u"svg",   u"iframe", u"object"};
+constexpr std::array hidden{u"script",   u"style", u"head",   u"title",
+                            u"template", u"svg",   u"iframe", u"object"};
 constexpr std::array paragraphs{u"p", u"h1", u"h2", u"h3", u"h4", u"h5", u"h6", u"pre", u"blockquote"};
 constexpr std::array blocks{u"div", u"ul", u"ol", u"tr", u"dl", u"dt", u"dd", u"section", u"article"};
 
@@ -33,7 +33,7 @@ constexpr std::array namedCharacters{
     NamedCharacter{u"rdquo", u'”'}, NamedCharacter{u"copy", u'©'},  NamedCharacter{u"times", u'×'},
 };
 
-/// Absent (empty) for a reference that is none.
+/// Empty for an unknown reference.
 QString referenced(QStringView name) {
     if (name.startsWith(u'#')) {
         const bool hex = name.size() > 1 && name[1].toLower() == u'x';
@@ -47,7 +47,7 @@ QString referenced(QStringView name) {
     return known == namedCharacters.end() ? QString() : QString(QChar(known->character));
 }
 
-/// Reads HTML from front to back once. It follows no rule of nesting: only the words count.
+/// Reads HTML in one pass and ignores nesting.
 class NotesReader {
 public:
     explicit NotesReader(QStringView html)
@@ -83,7 +83,7 @@ private:
         const QString name = m_rest.left(end - m_rest.begin()).toString().toLower();
         skipPast(u">");
         const bool isParagraph = isOneOf(paragraphs, name);
-        if (!closes && isOneOf(unshown, name)) {
+        if (!closes && isOneOf(hidden, name)) {
             skipPast(QStringLiteral("</") + name);
             skipPast(u">");
         } else if (name == QLatin1String("br")) {

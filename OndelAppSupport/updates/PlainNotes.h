@@ -4,12 +4,13 @@
 
 namespace OndelAppSupport::updates {
 
-/// The words of a piece of HTML, with its paragraphs and lists as lines. Nothing in it is loaded, run or
-/// kept: scripts, styles and pictures are left out. Text without a tag passes as it is but for its white
-/// space.
+/// The text of a piece of HTML, with its paragraphs and lists as lines. Nothing is downloaded or executed:
+/// scripts, styles and images are dropped. In text without tags only white space changes. (QTextDocument
+/// loses list marks and text between "<" and ">", shows script, asks for style sheets, and takes seconds for
+/// deep nesting.)
 QString plainNotes(const QString& html);
 
-/// The text fit to be shown: no control characters, and of a very long one only the beginning.
+/// The text without control characters, and truncated if it is very long.
 QString showableNotes(const QString& text);
 
 } // namespace OndelAppSupport::updates

@@ -8,13 +8,13 @@ namespace OndelAppSupport::updates {
 
 namespace {
 
-struct Words {
+struct Text {
     const char* caseName;
     const char* sentence; ///< %1: the product
 };
 
 /// In the order of UpdateError::Cause.
-constexpr std::array<Words, 10> words{{
+constexpr std::array<Text, 10> texts{{
     {"feedUnreachable",
      QT_TRANSLATE_NOOP(
          "Updates", "The update server couldn’t be reached. Check the internet connection and try again.")},
@@ -39,19 +39,19 @@ constexpr std::array<Words, 10> words{{
     {"notOpened", QT_TRANSLATE_NOOP("Updates", "No program on this system opens the update’s package.")},
 }};
 
-const Words& wordsOf(UpdateError::Cause cause) { return words.at(static_cast<std::size_t>(cause)); }
+const Text& textOf(UpdateError::Cause cause) { return texts.at(static_cast<std::size_t>(cause)); }
 
 } // namespace
 
 QString UpdateError::description(const QString& name) const {
-    const QString sentence = QCoreApplication::translate("Updates", wordsOf(m_cause).sentence);
+    const QString sentence = QCoreApplication::translate("Updates", textOf(m_cause).sentence);
     return sentence.contains(QLatin1String("%1")) ? sentence.arg(name) : sentence;
 }
 
-const char* UpdateError::what() const noexcept { return wordsOf(m_cause).caseName; }
+const char* UpdateError::what() const noexcept { return textOf(m_cause).caseName; }
 
 OndelCore::ErrorName UpdateError::errorName() const noexcept {
-    return {"UpdateError", wordsOf(m_cause).caseName, "OndelAppSupport.UpdateError",
+    return {"UpdateError", textOf(m_cause).caseName, "OndelAppSupport.UpdateError",
             static_cast<int>(m_cause)};
 }
 

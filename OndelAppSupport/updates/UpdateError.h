@@ -8,13 +8,13 @@
 
 namespace OndelAppSupport::updates {
 
-/// Why there is no update.
+/// Why a check or a download failed.
 class UpdateError : public std::exception, public OndelCore::NamedError {
 public:
     enum class Cause {
         feedUnreachable,
         feedUnreadable,
-        feedNotSecure, ///< this build's feed has an address that is no https:// one
+        feedNotSecure, ///< the address of this build's feed is not https://
         offerIncomplete,
         packageUnreachable,
         wrongLength,
@@ -28,7 +28,7 @@ public:
         : m_cause(cause) {}
 
     Cause cause() const { return m_cause; }
-    /// One sentence for the user, of the product `name`.
+    /// One sentence for the user. `name`: of the product.
     QString description(const QString& name) const;
 
     const char* what() const noexcept override;

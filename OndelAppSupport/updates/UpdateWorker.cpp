@@ -17,7 +17,7 @@ UpdateWorker::UpdateWorker()
 
 UpdateWorker::~UpdateWorker() {
     m_work.abandon();
-    m_work.awaitEnd(std::chrono::seconds(1)); // so that nothing half loaded stays
+    m_work.awaitEnd(std::chrono::seconds(1)); // so that no partial download stays
 }
 
 void UpdateWorker::begin(Work work, std::chrono::milliseconds patience, UpdateError::Cause hangs) {
@@ -38,7 +38,7 @@ void UpdateWorker::begin(Work work, std::chrono::milliseconds patience, UpdateEr
         } catch (const UpdateError& error) {
             last = [this, error] { Q_EMIT failed(error); };
         } catch (const https::Stopped&) {
-            return; // and nobody listens
+            return; // no further step is run
         }
         post([this, last = std::move(last)] { end(last); });
     });

@@ -12,27 +12,27 @@
 
 namespace OndelAppSupport::updates {
 
-/// A thread of the updater's own for what may take long, one piece of work at a time.
-/// Threads: the one that made it, which must run an event loop; nothing in here waits but the destructor, a
-/// second at most. Owner: the thread, unless it hangs: then it is left behind.
+/// The updater's thread for long work, one piece at a time.
+/// Threads: the creating one, with an event loop; only the destructor waits, a second at most. Owner: the
+/// thread, which is abandoned if it hangs.
 class UpdateWorker : public QObject {
     Q_OBJECT
 
 public:
     using Step = std::function<void()>;
-    /// Has a step done on the worker's owner's thread, unless the work was stopped meanwhile.
+    /// Runs a step on the owner's thread, unless the work has been stopped.
     using Post = std::function<void(Step)>;
-    /// Runs on the thread, and refers to nothing that may go before it. Gives the last step. May throw
-    /// UpdateError and https::Stopped.
+    /// Runs on the thread, owns what it uses and returns the last step. May throw UpdateError and
+    /// https::Stopped.
     using Work = std::function<Step(const Post& post, const std::stop_token& stop)>;
 
     UpdateWorker();
     ~UpdateWorker() override;
 
-    /// Work that is not over is stopped and left behind. From work that has been silent for `patience`
-    /// nothing more is heard either; it has failed with `hangs`.
+    /// Stops and abandons unfinished work. Work that posts no step for `patience` is stopped as well and
+    /// fails with `hangs`.
     void begin(Work work, std::chrono::milliseconds patience, UpdateError::Cause hangs);
-    /// Returns at once; nothing is heard of the work any more.
+    /// Returns at once. No further step is run.
     void stop();
     bool isWorking() const { return m_isWorking; }
 

@@ -10,13 +10,13 @@ namespace {
 bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
 
 struct Piece {
-    QStringView text; ///< of a number without leading zeros: nothing for zero
+    QStringView text; ///< without leading zeros; empty for zero
     bool isNumber = false;
 
     bool isZero() const { return isNumber && text.empty(); }
 };
 
-/// Zeros that only lengthen a row of numbers are left out, so that 1.2.0b1 reads as 1.2b1.
+/// Removes trailing zeros, so that 1.2.0b1 equals 1.2b1.
 void dropZeros(std::vector<Piece>& pieces) {
     while (!pieces.empty() && pieces.back().isZero())
         pieces.pop_back();
@@ -33,7 +33,7 @@ std::vector<Piece> piecesOf(QStringView version) {
                                           [number](QChar c) { return number ? isDigit(c) : c.isLetter(); });
         const auto length = std::max<qsizetype>(end - version.begin(), 0);
         QStringView text = version.left(length);
-        version = version.mid(std::max<qsizetype>(length, 1)); // a sign is passed over
+        version = version.mid(std::max<qsizetype>(length, 1)); // skips a separator
         if (length == 0)
             continue;
         while (number && text.startsWith(u'0'))

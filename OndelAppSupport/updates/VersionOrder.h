@@ -6,9 +6,10 @@
 
 namespace OndelAppSupport::updates {
 
-/// How versions follow each other as people write them. Numbers count by their value, however long they are
-/// (1.9 < 1.10); letters mark what comes before a release (2.0b2 < 2.0rc1 < 2.0); numbers that are left out
-/// are zero (1.2 = 1.2.0). Signs only separate, and what follows a "+" orders nothing.
+/// Orders version strings. Numbers of any length compare by value (1.9 < 1.10); letters mark a pre-release
+/// (2.0b2 < 2.0rc1 < 2.0); missing numbers are zero (1.2 = 1.2.0); a leading "v" and what follows a "+" are
+/// ignored; other characters separate. (QVersionNumber ignores all that follows the first letter, and numbers
+/// above 2^31, such as 202603011200.)
 std::weak_ordering compareVersions(QStringView left, QStringView right);
 
 } // namespace OndelAppSupport::updates

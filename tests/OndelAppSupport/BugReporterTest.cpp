@@ -1,4 +1,5 @@
 #include "OndelAppSupport/report/BugReporter.h"
+
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -39,7 +40,7 @@ TEST(BugReporter, ReadsTheSystem) {
     EXPECT_EQ(BugReporter::osVersion(nothing.folder.path()), "Linux");
     EXPECT_EQ(BugReporter::hardwareModel(nothing.folder.path()), "unknown");
     EXPECT_EQ(BugReporter::chip(nothing.folder.path()), "unknown");
-    EXPECT_GT(BugReporter::memoryGB(nothing.folder.path()), 0) << "what the kernel counts";
+    EXPECT_GT(BugReporter::memoryGB(nothing.folder.path()), 0) << "from the kernel";
 
     const Root root;
     const auto& path = root.folder.path();

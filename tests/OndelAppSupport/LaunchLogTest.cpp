@@ -13,7 +13,7 @@
 using namespace OndelCore::logging;
 using OndelAppSupport::BugReporter;
 
-TEST(LaunchLog, BeginsTheFileWithWhatWasLaunched) {
+TEST(LaunchLog, WritesVersionAndSystemFirst) {
     const auto store = LogStore::makeForTesting(10);
     const LogScrubber scrubber(OndelCore::platform::UserFacts{});
     const OndelCore::platform::UnifiedLog noJournal("/nonexistent");

@@ -26,7 +26,7 @@ QString content(const std::filesystem::path& file) {
     return QString::fromStdString({std::istreambuf_iterator<char>(stream), {}});
 }
 
-/// A form whose service answers when and what the test wants.
+/// A form with a service whose answers the test chooses.
 struct Desk {
     QList<BugReporter::Report> submitted;
     QPromise<void> answer;
@@ -55,7 +55,7 @@ struct Desk {
 
 } // namespace
 
-TEST(ReportForm, WantsThreeCharactersAndFive) {
+TEST(ReportForm, RequiresThreeAndFiveCharacters) {
     const struct {
         QString summary, details;
         bool canSend;
@@ -65,7 +65,7 @@ TEST(ReportForm, WantsThreeCharactersAndFive) {
         {" \t ab\t ", "abcde", false},
         {"a b", "abcde", true},
         {"abc", "\u00a0abcd\u3000", false},
-        {"abc", "abcd\n", true}, // a line's end is no blank
+        {"abc", "abcd\n", true}, // a line break is not trimmed
         {"a\u0301b\u0301", "abcde", false},
         {"👩‍👩‍👧‍👦👍🏽é", "abcde", true},
         {"👩‍👩‍👧‍👦👍🏽", "abcde", false},
@@ -93,7 +93,7 @@ TEST(ReportForm, SendsWhatThePreviewShows) {
         EXPECT_EQ(report.diagnostics, "snapshot 1");
 }
 
-TEST(ReportForm, SendsNoDiagnosticsUnasked) {
+TEST(ReportForm, SendsDiagnosticsOnlyWhenChosen) {
     Desk desk;
     desk.form.diagnosticsText();
     desk.form.send();
@@ -106,7 +106,7 @@ TEST(ReportForm, SendsNoDiagnosticsUnasked) {
     EXPECT_EQ(desk.submitted[1].diagnostics, std::nullopt);
 }
 
-TEST(ReportForm, KeepsWhatWasTypedUntilItIsSent) {
+TEST(ReportForm, KeepsTheTextUntilItIsSent) {
     Desk desk;
     desk.form.setEmail("a@b.example");
     desk.form.send();
@@ -129,7 +129,7 @@ TEST(ReportForm, KeepsWhatWasTypedUntilItIsSent) {
     EXPECT_EQ(desk.submitted[0], desk.submitted[1]);
 }
 
-TEST(ReportForm, GivesUpWhatItSubmitsWhenItIsDismissed) {
+TEST(ReportForm, CancelsTheSubmissionWhenDestroyed) {
     QPromise<void> answer;
     answer.start();
     {
@@ -142,10 +142,10 @@ TEST(ReportForm, GivesUpWhatItSubmitsWhenItIsDismissed) {
     answer.finish();
 }
 
-TEST(ReportForm, BeginsWithWordsThatTheEndOfTheProgramLeft) {
+TEST(ReportForm, RestoresTheTextOfAnUnsentReport) {
     namespace fs = std::filesystem;
     const test::TemporaryFolder folder;
-    const auto words = [](const ReportForm& form) {
+    const auto text = [](const ReportForm& form) {
         return form.summary() + "|" + form.details() + "|" + form.email() + (form.isFeature() ? "|wish" : "");
     };
     QPromise<void> sent;
@@ -155,7 +155,7 @@ TEST(ReportForm, BeginsWithWordsThatTheEndOfTheProgramLeft) {
                                         .draft = ReportDraft(folder.path())};
     ReportForm typed(here);
     typed.keepDraft();
-    EXPECT_TRUE(fs::is_empty(folder.path())) << "a form without words was kept";
+    EXPECT_TRUE(fs::is_empty(folder.path())) << "a draft of a form without text";
     typed.setFeature(true);
     typed.setDetails("Grüße\n2");
     typed.setAttachDiagnostics(true);
@@ -164,7 +164,7 @@ TEST(ReportForm, BeginsWithWordsThatTheEndOfTheProgramLeft) {
     EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 
     ReportForm next(here);
-    EXPECT_EQ(words(next), "|Grüße\n2||wish");
+    EXPECT_EQ(text(next), "|Grüße\n2||wish");
     EXPECT_FALSE(next.attachDiagnostics());
     EXPECT_TRUE(fs::is_empty(folder.path()));
     next.setSummary("sum");
@@ -172,14 +172,14 @@ TEST(ReportForm, BeginsWithWordsThatTheEndOfTheProgramLeft) {
     QCoreApplication::processEvents();
     ASSERT_TRUE(next.isSent());
     next.keepDraft();
-    EXPECT_TRUE(fs::is_empty(folder.path())) << "what was sent was kept";
+    EXPECT_TRUE(fs::is_empty(folder.path())) << "a draft of a report that was sent";
     for (const char* damage : {"", "[1]", "{\"details\": 5"}) {
         std::ofstream(file) << damage;
-        EXPECT_EQ(words(ReportForm(here)), "||");
+        EXPECT_EQ(text(ReportForm(here)), "||");
     }
 }
 
-TEST(Diagnostics, TellTheMachineAndTheNewestLines) {
+TEST(Diagnostics, ContainTheMachineAndTheNewestLines) {
     LogStore::shared().clear();
     for (int i = 0; i < 2000; ++i)
         LogStore::shared().append(OndelCore::logging::LogLevel::notice, "app", "line " + std::to_string(i));
@@ -201,7 +201,7 @@ TEST(Diagnostics, TellTheMachineAndTheNewestLines) {
     EXPECT_TRUE(Diagnostics::snapshot().endsWith("C\n\n---- recent activity ----\n\n"));
 }
 
-TEST(Diagnostics, AreShownInAFileThatOnlyTheUserReads) {
+TEST(Diagnostics, AreWrittenToAPrivateFile) {
     namespace fs = std::filesystem;
     const auto file = Diagnostics::writeForPreview("Größe");
     ASSERT_TRUE(file);

@@ -43,7 +43,7 @@ bool isTransportError(const std::optional<ReportError::Cause>& cause) {
 
 } // namespace
 
-TEST(Payload, HoldsDiagnosticsOnlyOfAFaultWhoseReporterWantsIt) {
+TEST(Payload, HasDiagnosticsOnlyInBugReportsThatAttachThem) {
     BugReporter::Report report;
     report.summary = " as typed ";
     report.email = "a@b.example";
@@ -67,7 +67,7 @@ TEST(Payload, HoldsDiagnosticsOnlyOfAFaultWhoseReporterWantsIt) {
     EXPECT_FALSE(BugReporter::payload(report).contains("diagnostics"));
 }
 
-TEST(Submission, JudgesEveryAnswer) {
+TEST(Submission, HandlesEveryAnswer) {
     const HttpsServer elsewhere;
     const QByteArray location = elsewhere.url().toEncoded();
     const QByteArray huge = R"({"error": "huge", "padding": ")" + QByteArray(1 << 20, 'x') + "\"}";
@@ -94,7 +94,7 @@ TEST(Submission, JudgesEveryAnswer) {
         HttpsServer server;
         server.script("/api/report", answer);
         BugReporter::Report report;
-        report.details = "Größe \"1\"\n" + QString(300'000, 'x'); // more than goes out at once
+        report.details = "Größe \"1\"\n" + QString(300'000, 'x'); // more than one write to the socket
         EXPECT_EQ(outcome(BugReporter::submit(report, service(server.url("/api/report")))), expected)
             << answer.status << " " << answer.body.left(40).toStdString();
         ASSERT_EQ(server.requests().size(), 1);
@@ -109,7 +109,7 @@ TEST(Submission, JudgesEveryAnswer) {
     EXPECT_EQ(elsewhere.connections(), 0);
 }
 
-TEST(Submission, TellsTheSystemsOwnWordsWhenNoAnswerCame) {
+TEST(Submission, ReportsTheSystemsErrorWithoutAnAnswer) {
     for (const HttpsServer::Answer& answer :
          {HttpsServer::Answer{0, {}, {}, Ending::cut}, {500, "{\"error\": \"cut", {}, Ending::cut}}) {
         HttpsServer server;
@@ -132,7 +132,7 @@ TEST(Submission, TellsTheSystemsOwnWordsWhenNoAnswerCame) {
     EXPECT_TRUE(isTransportError(outcome(BugReporter::submit({}, service(nobody)))));
 }
 
-TEST(Submission, TakesNoMoreThanItsShareOfAnAnswer) {
+TEST(Submission, LimitsTheSizeOfAnAnswer) {
     for (const auto& [status, ending] : {std::pair(200, Ending::endlessHead),
                                          {500, Ending::endlessHead},
                                          {500, Ending::endlessLine},
@@ -147,7 +147,7 @@ TEST(Submission, TakesNoMoreThanItsShareOfAnAnswer) {
     }
 }
 
-TEST(Submission, GivesItsSecretToNobodyElse) {
+TEST(Submission, SendsTheSecretToTheServiceAlone) {
     const HttpsServer unknown;
     auto careful = service(unknown.url());
     careful.authorities.reset();

@@ -41,7 +41,7 @@ TEST(SupportNudges, FollowTheStoredDate) {
         {Week().time.addMSecs(-604799999), false},
         {Week().time.addSecs(-604800), true},
         {Week().time.addSecs(-700000), true},
-        {Week().time.addYears(1), false}, // longer than a timer can wait
+        {Week().time.addYears(1), false}, // longer than a timer's range
     };
     for (const auto& [stored, shows] : table) {
         Week week;
@@ -54,7 +54,7 @@ TEST(SupportNudges, FollowTheStoredDate) {
     }
 }
 
-TEST(SupportNudges, ComeBackAWeekLater) {
+TEST(SupportNudges, ReturnAfterAWeek) {
     Week week;
     const auto nudges = week.nudges();
     int changes = 0;
@@ -62,7 +62,7 @@ TEST(SupportNudges, ComeBackAWeekLater) {
     nudges->notNow();
     EXPECT_FALSE(nudges->showsNote());
     EXPECT_EQ(QSettings(week.file, QSettings::IniFormat).value(snoozedAt).toDateTime(), week.time)
-        << "it is in the file, whatever happens next";
+        << "not written to the file at once";
     week.time = week.time.addSecs(604799);
     nudges->applicationBecameActive();
     EXPECT_FALSE(nudges->showsNote());
@@ -74,7 +74,7 @@ TEST(SupportNudges, ComeBackAWeekLater) {
     EXPECT_EQ(changes, 2);
 }
 
-TEST(SupportNudges, ComeBackByThemselves) {
+TEST(SupportNudges, ReturnByTimer) {
     Week week;
     SupportNudges nudges(week.defaults, &QDateTime::currentDateTimeUtc, 0.05);
     nudges.notNow();
@@ -83,7 +83,7 @@ TEST(SupportNudges, ComeBackByThemselves) {
     EXPECT_FALSE(nudges.isWaiting());
 }
 
-TEST(SupportNudges, LeaveSupportersAlone) {
+TEST(SupportNudges, AreHiddenFromSupporters) {
     Week week;
     const auto nudges = week.nudges();
     nudges->setSupporter(true);
@@ -100,7 +100,7 @@ TEST(SupportNudges, LeaveSupportersAlone) {
     EXPECT_FALSE(week.nudges()->isSupporter());
 }
 
-TEST(SupportNudges, PutTheNoteAwayOnlyWhenItWasAnswered) {
+TEST(SupportNudges, DismissTheNoteOnlyFromItsOwnButton) {
     Week week;
     const auto nudges = week.nudges();
     QList<QUrl> pages;
@@ -114,12 +114,12 @@ TEST(SupportNudges, PutTheNoteAwayOnlyWhenItWasAnswered) {
     EXPECT_EQ(pages[0].path(), "/support");
 }
 
-TEST(ThirdPartyNotices, AreTheFirstThatThereAre) {
+TEST(ThirdPartyNotices, AreReadFromTheFirstFolderThatHasThem) {
     const test::TemporaryFolder one, two;
     EXPECT_EQ(thirdPartyNotices({one.path(), two.path() / "none"}), std::nullopt);
     std::ofstream(two.path() / "ThirdPartyNotices.txt") << "text";
     EXPECT_EQ(thirdPartyNotices({one.path(), two.path() / "x" / ".."}), two.path() / "ThirdPartyNotices.txt");
     std::ofstream(one.path() / "ThirdPartyNotices.txt") << "text";
     EXPECT_EQ(thirdPartyNotices({one.path(), two.path()}), one.path() / "ThirdPartyNotices.txt");
-    EXPECT_TRUE(thirdPartyNotices()) << "in the tree that this program was built in";
+    EXPECT_TRUE(thirdPartyNotices()) << "not found in the source tree";
 }

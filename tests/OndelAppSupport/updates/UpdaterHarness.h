@@ -25,7 +25,7 @@ void waitUntil(Condition condition) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// A maker with a server, a key and one package, and a user of version 1.0 (build 10) on system 6.1.
+/// A server with a feed and one package, a signing key, and version 1.0 (build 10) on system 6.1.
 class UpdaterTest : public testing::Test {
 protected:
     UpdaterTest() {
@@ -50,7 +50,7 @@ protected:
                                                    {u"CFBundleShortVersionString"_s, u"1.0"_s}});
     }
 
-    /// As CONTRIBUTING.md tells the maker.
+    /// For the commands of CONTRIBUTING.md.
     QString shell(const QString& command) const {
         QProcess process;
         process.setWorkingDirectory(QString::fromStdString(secrets.path().string()));

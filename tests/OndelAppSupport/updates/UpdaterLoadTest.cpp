@@ -6,7 +6,7 @@ namespace fs = std::filesystem;
 using namespace test;
 using enum Answer::Ending;
 
-TEST_F(UpdaterTest, APackageIsProvedOrThrownAway) {
+TEST_F(UpdaterTest, OpensOnlyVerifiedPackages) {
     const QString signature = sign(package);
     const QString forged = sign(package + 'x');
     QByteArray altered = package;
@@ -14,7 +14,7 @@ TEST_F(UpdaterTest, APackageIsProvedOrThrownAway) {
     struct Case {
         const char* name;
         Answer answer;
-        QString says; ///< a piece of the failure; "" when it arrives
+        QString failsWith; ///< part of the failure; "" for success
         QString signature;
         qint64 stated;
     };
@@ -22,18 +22,18 @@ TEST_F(UpdaterTest, APackageIsProvedOrThrownAway) {
     const Answer good{200, package};
     const Case cases[]{
         {"good", good, {}, signature, size},
-        {"moved", {302, "", {{"Location", "/elsewhere"}}}, {}, signature, size},
-        {"signed another", good, u"signed"_s, forged, size},
-        {"signed by nobody", good, u"signed"_s, anySignature, size},
+        {"redirect", {302, "", {{"Location", "/elsewhere"}}}, {}, signature, size},
+        {"signature of other content", good, u"signed"_s, forged, size},
+        {"not a signature", good, u"signed"_s, anySignature, size},
         {"altered", {200, altered}, u"signed"_s, signature, size},
         {"shorter than stated", good, u"as long"_s, signature, size + 1},
         {"longer than stated", good, u"as long"_s, signature, size - 1},
-        {"without end", {200, package, {}, endless}, u"as long"_s, signature, size},
+        {"endless", {200, package, {}, endless}, u"as long"_s, signature, size},
         {"empty", {200, ""}, u"as long"_s, signature, size},
         {"cut", {200, package.chopped(1), {}, cut}, u"downloaded"_s, signature, size},
-        {"stops", {200, package.chopped(1), {}, silence}, u"downloaded"_s, signature, size},
-        {"gone", {404, package}, u"downloaded"_s, signature, size},
-        {"moved into the open",
+        {"silent", {200, package.chopped(1), {}, silence}, u"downloaded"_s, signature, size},
+        {"not found", {404, package}, u"downloaded"_s, signature, size},
+        {"redirect to http",
          {302, "", {{"Location", "http://127.0.0.1/"}}},
          u"downloaded"_s,
          signature,
@@ -47,9 +47,9 @@ TEST_F(UpdaterTest, APackageIsProvedOrThrownAway) {
         environment.patience = std::chrono::seconds(c.answer.ending == silence ? 1 : 60);
         UpdaterModel model(environment);
         const UpdaterController& updater = *model.controller();
-        EXPECT_EQ(load(model, c.stated, c.signature), c.says.isEmpty() ? State::Opened : State::Failed);
+        EXPECT_EQ(load(model, c.stated, c.signature), c.failsWith.isEmpty() ? State::Opened : State::Failed);
         const fs::path place = folder.path() / "update";
-        if (c.says.isEmpty()) {
+        if (c.failsWith.isEmpty()) {
             EXPECT_EQ(updater.loaded(), static_cast<double>(size));
             ASSERT_EQ(opened.size(), 1);
             QFile file(opened.first().toLocalFile());
@@ -58,37 +58,37 @@ TEST_F(UpdaterTest, APackageIsProvedOrThrownAway) {
             EXPECT_EQ(file.readAll(), package);
             EXPECT_EQ(file.permissions() & (QFile::ExeOwner | QFile::ReadGroup | QFile::ReadOther), 0);
         } else {
-            EXPECT_TRUE(updater.failure().contains(c.says)) << qPrintable(updater.failure());
+            EXPECT_TRUE(updater.failure().contains(c.failsWith)) << qPrintable(updater.failure());
             EXPECT_TRUE(opened.empty());
             EXPECT_TRUE(fs::is_empty(place));
         }
     }
 }
 
-TEST_F(UpdaterTest, WhatStandsInTheWayOfAPackageIsTold) {
+TEST_F(UpdaterTest, ReportsWhatPreventsAnInstallation) {
     const QString signature = sign(package);
     server.script("/files/tarnwick_1.1_amd64.deb", {200, package});
     const QString key = publicKey();
-    const auto says = [&](const char* words) {
+    const auto failsWith = [&](const char* words) {
         UpdaterModel model(environment);
         EXPECT_EQ(load(model, package.size(), signature), State::Failed);
         EXPECT_TRUE(model.controller()->failure().contains(QLatin1String(words)))
             << qPrintable(model.controller()->failure());
     };
     environment.openPackage = [](const QUrl&) { return false; };
-    says("opens");
+    failsWith("opens");
     for (const QString& wrong : {key.chopped(4), key + key, u"no key"_s}) {
         configure(server.url(u"/feed"_s), wrong);
-        says("signed");
+        failsWith("signed");
     }
     configure(server.url(u"/feed"_s), key);
     environment.folder = [this] { return std::optional(folder.path() / "missing"); };
-    says("written");
+    failsWith("written");
     environment.folder = []() -> std::optional<fs::path> { return std::nullopt; };
-    says("written");
+    failsWith("written");
 }
 
-TEST_F(UpdaterTest, ALoadCanBeStoppedAndLeavesNothing) {
+TEST_F(UpdaterTest, AStoppedDownloadLeavesNoFile) {
     server.script("/feed", {200, feed(enclosure(package.size() + 1, anySignature))});
     server.script("/files/tarnwick_1.1_amd64.deb", {200, package, {}, silence});
     const auto isThere = [this] {

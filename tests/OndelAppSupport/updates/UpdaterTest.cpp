@@ -26,13 +26,13 @@ QByteArray utf16(const QByteArray& utf8) {
 
 } // namespace
 
-TEST_F(UpdaterTest, AFeedIsReadOrRefused) {
+TEST_F(UpdaterTest, ReadsOrRejectsFeeds) {
     const QString good = enclosure(9, anySignature);
     const QByteArray valid = feed(good);
     const QByteArray nested = feed(good, u"11"_s, u"<description>"_s + u"<b>"_s.repeated(150'000));
     QString attributes = good;
     QString inner = u"<description>"_s;
-    for (int i = 0; i < 20'000; ++i) { // times that grow with the square: half a minute each
+    for (int i = 0; i < 20'000; ++i) { // quadratic time in the XML reader: half a minute each
         attributes += u" a%1='>'"_s.arg(i);
         inner += u"<b xmlns:n%1='x'>"_s.arg(i);
     }
@@ -54,16 +54,16 @@ TEST_F(UpdaterTest, AFeedIsReadOrRefused) {
     struct Case {
         const char* name;
         Answer answer;
-        QString says; ///< a piece of the failure; else the state
+        QString says; ///< part of the failure, or the state
     };
     const Case cases[]{
         {"newer", {200, valid}, u"Available"_s},
         {"newer for this processor",
          {200, feed(enclosure(9, anySignature, u"Linux-x86_64"_s))},
          u"Available"_s},
-        {"system is new enough", {200, minimum("6.1")}, u"Available"_s},
-        {"moved to another host", redirect(other.url(u"/moved"_s).toString()), u"Available"_s},
-        {"the newest lacks its signature", {200, below}, u"Available"_s},
+        {"minimum system version met", {200, minimum("6.1")}, u"Available"_s},
+        {"redirect to another host", redirect(other.url(u"/moved"_s).toString()), u"Available"_s},
+        {"newest without signature, next one complete", {200, below}, u"Available"_s},
         {"in UTF-16", {200, utf16(valid)}, u"Available"_s},
         {"in Latin-1",
          {200, QByteArray(valid).replace("utf-8", "iso-8859-1").replace("Better", "B\xe4tter")},
@@ -74,32 +74,33 @@ TEST_F(UpdaterTest, AFeedIsReadOrRefused) {
         {"another platform", {200, feed(enclosure(9, anySignature, u"windows"_s))}, u"UpToDate"_s},
         {"another processor", {200, feed(enclosure(9, anySignature, u"linux-arm64"_s))}, u"UpToDate"_s},
         {"no platform", {200, feed(enclosure(9, anySignature, {}))}, u"UpToDate"_s},
-        {"system too old", {200, minimum("6.2")}, u"UpToDate"_s},
-        {"not for everybody", {200, feed(good, u"11"_s, u"<s:channel>beta</s:channel>"_s)}, u"UpToDate"_s},
+        {"minimum system version not met", {200, minimum("6.2")}, u"UpToDate"_s},
+        {"beta channel", {200, feed(good, u"11"_s, u"<s:channel>beta</s:channel>"_s)}, u"UpToDate"_s},
         {"no items", {200, "<rss version='2.0'><channel/></rss>"}, u"UpToDate"_s},
         {"no signature", {200, feed(enclosure(9, {}))}, u"safely"_s},
         {"signature too short", {200, feed(enclosure(9, anySignature.chopped(8)))}, u"safely"_s},
         {"no length", {200, feed(enclosure(0, anySignature))}, u"safely"_s},
         {"absurd length", {200, feed(enclosure(qint64{1} << 40, anySignature))}, u"safely"_s},
-        {"open package", {200, QByteArray(valid).replace("url='https", "url='http")}, u"safely"_s},
-        {"cut XML", {200, valid.chopped(40)}, u"read"_s},
+        {"package over http", {200, QByteArray(valid).replace("url='https", "url='http")}, u"safely"_s},
+        {"truncated XML", {200, valid.chopped(40)}, u"read"_s},
         {"not a feed", {200, "<html><body>Log in</body></html>"}, u"read"_s},
-        {"nothing", {200, ""}, u"read"_s},
+        {"empty", {200, ""}, u"read"_s},
         {"entity bomb", {200, entityBomb()}, u"read"_s},
-        {"deeper than any stack", {200, nested}, u"read"_s},
-        {"attributes without end", {200, feed(attributes)}, u"read"_s},
-        {"namespaces without end", {200, feed(good, u"11"_s, inner)}, u"read"_s},
+        {"nesting deeper than the stack", {200, nested}, u"read"_s},
+        {"too many attributes", {200, feed(attributes)}, u"read"_s},
+        {"too many namespaces", {200, feed(good, u"11"_s, inner)}, u"read"_s},
         {"cut connection", {200, valid, {}, cut}, u"reached"_s},
-        {"cut before a word", {0, "", {}, cut}, u"reached"_s},
-        {"without end", {200, valid, {}, endless}, u"reached"_s},
+        {"cut before the head", {0, "", {}, cut}, u"reached"_s},
+        {"endless", {200, valid, {}, endless}, u"reached"_s},
         {"never answers", {0, "", {}, silence}, u"reached"_s},
-        {"stops talking", {200, valid, {}, silence}, u"reached"_s},
-        {"an error", {500, valid}, u"reached"_s},
+        {"silent after the body", {200, valid, {}, silence}, u"reached"_s},
+        {"server error", {500, valid}, u"reached"_s},
         {"no content", {204, ""}, u"reached"_s},
-        {"moved into the open", redirect(QString(other.url().toString()).replace(u"https"_s, u"http"_s)),
+        {"redirect to http", redirect(QString(other.url().toString()).replace(u"https"_s, u"http"_s)),
          u"reached"_s},
-        {"moved in a circle", redirect(server.url(u"/feed"_s).toString()), u"reached"_s},
-        {"moved to an impostor", redirect(impostor.url(u"/feed"_s).toString()), u"reached"_s},
+        {"redirect loop", redirect(server.url(u"/feed"_s).toString()), u"reached"_s},
+        {"redirect to a host with a wrong certificate", redirect(impostor.url(u"/feed"_s).toString()),
+         u"reached"_s},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
@@ -116,15 +117,15 @@ TEST_F(UpdaterTest, AFeedIsReadOrRefused) {
     EXPECT_EQ(other.connections(), 1);
     EXPECT_TRUE(impostor.requests().empty());
 
-    environment.authorities.reset(); // nobody vouches for the server
-    UpdaterModel doubtful(environment);
-    EXPECT_EQ(checkByHand(doubtful), State::Failed);
+    environment.authorities.reset(); // an unknown authority
+    UpdaterModel distrusting(environment);
+    EXPECT_EQ(checkByHand(distrusting), State::Failed);
     configure(QUrl(u"http://127.0.0.1/feed"_s), publicKey());
-    UpdaterModel open(environment);
-    EXPECT_EQ(checkByHand(open), State::Failed);
+    UpdaterModel insecure(environment);
+    EXPECT_EQ(checkByHand(insecure), State::Failed);
 }
 
-TEST_F(UpdaterTest, ABuildWithoutFeedOrKeyContactsNobody) {
+TEST_F(UpdaterTest, ABuildWithoutFeedOrKeyContactsNoServer) {
     for (const auto& [url, key] : {std::pair{server.url(u"/feed"_s), QString()}, {QUrl(), publicKey()}}) {
         configure(url, key);
         UpdaterModel model(environment);
@@ -141,7 +142,7 @@ TEST_F(UpdaterTest, ABuildWithoutFeedOrKeyContactsNobody) {
     EXPECT_EQ(server.connections(), 1);
 }
 
-TEST_F(UpdaterTest, LooksOnceADayWhenAllowed) {
+TEST_F(UpdaterTest, ChecksOnceADayWhenAllowed) {
     server.script("/feed", {200, feed({}, u"9"_s)});
     UpdaterModel model(environment);
     UpdaterController& updater = *model.controller();
@@ -155,7 +156,7 @@ TEST_F(UpdaterTest, LooksOnceADayWhenAllowed) {
         EXPECT_EQ(server.requests().size(), expected) << qPrintable(now.toString());
         EXPECT_EQ(updater.state(), State::Idle);
     };
-    tick(false); // the first start: nobody was asked yet
+    tick(false); // the first start does not ask yet
     updater.checkIfDue();
     EXPECT_EQ(updater.state(), State::Asking);
     updater.allowAutomaticChecks(true);
@@ -175,10 +176,10 @@ TEST_F(UpdaterTest, LooksOnceADayWhenAllowed) {
     model.setAutomaticallyChecksForUpdates(false);
     tick(false);
     checkByHand(model);
-    EXPECT_EQ(server.requests().size(), expected + 1); // so nothing was under way
+    EXPECT_EQ(server.requests().size(), expected + 1); // no other check was running
 }
 
-TEST_F(UpdaterTest, AnAutomaticCheckOnlyShowsWhatIsNewAndNotSkipped) {
+TEST_F(UpdaterTest, AnAutomaticCheckOffersNewVersionsUnlessSkipped) {
     UpdaterModel model(environment);
     UpdaterController& updater = *model.controller();
     model.setAutomaticallyChecksForUpdates(true);
@@ -204,10 +205,10 @@ TEST_F(UpdaterTest, AnAutomaticCheckOnlyShowsWhatIsNewAndNotSkipped) {
     updater.skipVersion();
     EXPECT_EQ(look({200, feed(good, u"12"_s)}), State::Available);
     for (const auto& request : server.requests())
-        EXPECT_EQ(request.path, "/feed"); // nothing else before the user says so
+        EXPECT_EQ(request.path, "/feed"); // no package without the user's consent
 }
 
-TEST_F(UpdaterTest, ACheckUnderWayBecomesTheUsersAndCanBeStopped) {
+TEST_F(UpdaterTest, AManualCheckTakesOverAnAutomaticOne) {
     server.script("/feed", {0, "", {}, silence});
     UpdaterModel model(environment);
     UpdaterController& updater = *model.controller();
@@ -224,8 +225,8 @@ TEST_F(UpdaterTest, ACheckUnderWayBecomesTheUsersAndCanBeStopped) {
     EXPECT_EQ(server.requests().size(), 2);
 }
 
-TEST_F(UpdaterTest, AHeadWithoutEndIsNotTakenIn) {
-    constexpr qint64 buffered = 16 << 20; // bytes that the system's sockets may hold of what was sent
+TEST_F(UpdaterTest, LimitsTheSizeOfHeads) {
+    constexpr qint64 buffered = 16 << 20; // bytes; the sockets' buffers are smaller
     const QByteArray valid = feed(enclosure(9, anySignature));
     for (const auto& [status, ending] : {std::pair(200, endlessHead),
                                          {200, endlessLine},
@@ -242,7 +243,7 @@ TEST_F(UpdaterTest, AHeadWithoutEndIsNotTakenIn) {
     }
 }
 
-TEST_F(UpdaterTest, AFeedIsReadNoFurtherWhenStopped) {
+TEST_F(UpdaterTest, StopsReadingAFeed) {
     const QByteArray valid = feed(enclosure(9, anySignature));
     std::stop_source stop;
     EXPECT_TRUE(updates::readAppcast(valid, stop.get_token()));
@@ -250,8 +251,8 @@ TEST_F(UpdaterTest, AFeedIsReadNoFurtherWhenStopped) {
     EXPECT_FALSE(updates::readAppcast(valid, stop.get_token()));
 }
 
-// Proxy settings may name a script on a server. Nothing breaks off the wait for one that does not answer.
-TEST_F(UpdaterTest, ProxySettingsThatHangAreLeftBehind) {
+// Proxy settings may name a script on a server. The wait for it cannot be interrupted.
+TEST_F(UpdaterTest, AbandonsALookUpOfProxiesThatHangs) {
     QTcpServer silent;
     ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
     QList<QTcpSocket*> heard;
@@ -277,7 +278,7 @@ TEST_F(UpdaterTest, ProxySettingsThatHangAreLeftBehind) {
     EXPECT_EQ(server.connections(), 0);
 }
 
-TEST_F(UpdaterTest, AProxysOwnHeadEndsToo) {
+TEST_F(UpdaterTest, LimitsTheSizeOfAProxysHead) {
     QTcpServer proxy;
     ASSERT_TRUE(proxy.listen(QHostAddress::LocalHost));
     qint64 sent = 0;

@@ -8,8 +8,8 @@
 using namespace OndelAppSupport::updates;
 using namespace Qt::StringLiterals;
 
-TEST(VersionOrder, ReadsVersionsAsPeopleDo) {
-    // Each line: what follows rises from left to right, what is joined by "=" is the same.
+TEST(VersionOrder, OrdersVersions) {
+    // Versions ascend from left to right within a line; "=" joins equal ones.
     const QStringList lines{
         u"0.9 1 1.2=1.2.0=v1.2=1.02 1.2.0.1 1.9 1.10 2"_s,
         u"2.0a=2.0-A 2.0.0a1 2.0b2 2.0b10 2.0rc1 2.0.0=2.0=2.0+build.7 2.0.1-rc1 2.0.1"_s,
@@ -26,7 +26,7 @@ TEST(VersionOrder, ReadsVersionsAsPeopleDo) {
     }
 }
 
-TEST(PlainNotes, KeepsTheWordsAndNothingElse) {
+TEST(PlainNotes, KeepsOnlyTheText) {
     const std::pair<QString, QString> cases[]{
         {u"<h2>New</h2>\n<ul>\n <li>One</li>\n <li>Two &amp; <b>three</b></li>\n</ul><p>Bye<br>now"_s,
          u"New\n• One\n• Two & three\n\nBye\nnow"_s},
