@@ -102,7 +102,7 @@ void UpdaterController::checkForUpdates() {
         return;
     }
     setState(State::Checking);
-    if (!m_worker.isWorking()) // else an automatic check is under way, and becomes the user's
+    if (!m_worker.isWorking()) // else the running automatic check becomes a manual one
         check();
 }
 

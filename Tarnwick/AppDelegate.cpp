@@ -19,14 +19,14 @@ namespace platform = OndelCore::platform;
 
 namespace {
 
-/// On X11 the desktop waits to be told that a start is over.
-bool startsAreMarked() { return QGuiApplication::platformName() == QLatin1String("xcb"); }
+/// On X11 the launch feedback lasts until the desktop is told that the start is complete.
+bool hasLaunchFeedback() { return QGuiApplication::platformName() == QLatin1String("xcb"); }
 
 } // namespace
 
 AppDelegate::AppDelegate()
     : m_updater(updaterEnvironment())
-    , m_attendant(m_model, [this](const std::string& token) { comeToFront(token); }) {
+    , m_notifier(m_model, [this](const std::string& token) { comeToFront(token); }) {
     m_model.setDialogs(&m_dialogs);
     connect(&m_end, &QFutureWatcher<void>::finished, this, [] { QCoreApplication::exit(0); });
 
@@ -36,19 +36,18 @@ AppDelegate::AppDelegate()
         notifier->setEnabled(false);
         terminate();
     });
-    // What other windows of this user have saved meanwhile.
+    // Other processes of this user may have saved runs.
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
         if (window)
             m_model.history().refresh();
     });
-    // Direct: the session goes on ending when the call returns. Saving the state is no request to end:
-    // session managers ask for it right after the start.
+    // Direct, because the session ends when the call returns. The request to save the state is ignored:
+    // session managers send it right after the start.
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &AppDelegate::endOfSession,
             Qt::DirectConnection);
 }
 
-/// A package goes to whatever installs packages on this desktop, and no check comes between a run and its
-/// disk.
+/// Packages are opened by the desktop's installer. No check disturbs a run.
 OndelAppSupport::UpdaterEnvironment AppDelegate::updaterEnvironment() {
     OndelAppSupport::UpdaterEnvironment environment;
     environment.settings = &m_defaults;
@@ -101,7 +100,7 @@ void AppDelegate::open(const std::vector<std::string>& urls, const std::string& 
         openNext();
 }
 
-/// One request after the other, as they came. Their file systems are asked on another thread.
+/// Handles requests in order. The file systems are queried on another thread.
 void AppDelegate::openNext() {
     TarnwickKit::model::answerLater(
         this, [urls = m_toOpen.front().urls] { return OpenUrls::from(urls); },
@@ -115,7 +114,7 @@ void AppDelegate::openNext() {
 }
 
 void AppDelegate::open(const OpenUrls& sorted, const std::string& activationToken) {
-    // The target must not change under a run.
+    // The target must not change during a run.
     if (sorted.folder && !m_model.isRunning())
         m_model.select(*sorted.folder);
     m_model.importRuns(sorted.runs);
@@ -136,8 +135,8 @@ void AppDelegate::openRunFile() {
 
 bool AppDelegate::take(const OndelDesktop::OpenRequest& request) {
     const bool isTaken = answer(request);
-    if (startsAreMarked())
-        OndelDesktop::completeStartup(request.activationToken); // also where nothing came to the front
+    if (hasLaunchFeedback())
+        OndelDesktop::completeStartup(request.activationToken); // also if no window comes to the front
     return isTaken;
 }
 
@@ -160,12 +159,12 @@ void AppDelegate::comeToFront(const std::string& activationToken) {
     if (!m_window)
         return;
     if (!activationToken.empty())
-        qputenv("XDG_ACTIVATION_TOKEN", activationToken.c_str()); // where the toolkit looks for it
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.c_str()); // Qt reads it from there
     m_window->setWindowStates(m_window->windowStates() & ~Qt::WindowMinimized);
     m_window->setVisible(true);
-    if (startsAreMarked())
+    if (hasLaunchFeedback())
         OndelDesktop::completeStartup(activationToken, static_cast<std::uint32_t>(m_window->winId()));
     m_window->raise();
     m_window->requestActivate();
-    qunsetenv("XDG_ACTIVATION_TOKEN"); // it is good for once
+    qunsetenv("XDG_ACTIVATION_TOKEN"); // single use
 }

@@ -21,17 +21,17 @@
 
 struct OpenUrls;
 
-/// The application's life: owns the one model, takes what the desktop asks for, and holds the process back
-/// from ending while a benchmark still has files on somebody's disk. Threads: main.
+/// The application's life cycle: owns the model, handles requests of the desktop, and delays the end of the
+/// process until a run has removed its files. Threads: main.
 class AppDelegate : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("There is one for the life of the process.")
+    QML_UNCREATABLE("The application owns the only one.")
     Q_PROPERTY(TarnwickKit::model::AnalyzerModel* model READ model CONSTANT)
     Q_PROPERTY(OndelAppSupport::UpdaterModel* updater READ updater CONSTANT)
     /// The product's page.
     Q_PROPERTY(QUrl website READ website CONSTANT)
-    /// The sheet for problem reports is on the screen.
+    /// Whether the sheet for problem reports is shown.
     Q_PROPERTY(bool showReport READ showReport WRITE setShowReport NOTIFY showReportChanged)
 public:
     enum class TerminateReply { Now, Later };
@@ -45,32 +45,32 @@ public:
     void setShowReport(bool show);
     Q_SIGNAL void showReportChanged();
 
-    /// The window over which dialogs open and which comes to the front. Owner: the caller.
+    /// The main window: the parent of dialogs. Owner: the caller.
     Q_INVOKABLE void setWindow(QWindow* window);
 
     /// Starts the log file and writes its first line.
     void applicationDidFinishLaunching();
 
-    /// Whether the process may end at once. Later: a run is being cancelled, and the end follows it whatever
-    /// its outcome; the window stays alive meanwhile.
+    /// Whether the process may end at once. Later: a run is being cancelled, and the process ends after it;
+    /// until then the window stays responsive.
     TerminateReply applicationShouldTerminate();
 
-    /// The one road on which the process ends: the window's close button, the menu, SIGTERM, SIGINT, SIGHUP
-    /// and the end of the session all come here. Nobody is asked, and further requests change nothing.
+    /// Ends the process. The window's close button, the menu, SIGTERM, SIGINT, SIGHUP and the end of the
+    /// session all call it. There is no confirmation; further calls do nothing.
     Q_INVOKABLE void terminate();
-    /// From here on the process is about to end.
+    /// Emitted once, before the process ends.
     Q_SIGNAL void terminating();
 
-    /// Opens what a list of URLs holds: the first folder becomes the target unless a run goes on, each run
-    /// file is added to the history, anything else is ignored. The application comes to the front if there
-    /// was any of the two. All of it follows later, from the event loop: file systems may take their time.
+    /// Opens a list of URLs: the first folder becomes the target unless a run is under way, run files are
+    /// added to the history, anything else is ignored. The window comes to the front if there was a folder or
+    /// a run file. All of it happens later, from the event loop, because file systems may be slow.
     void open(const std::vector<std::string>& urls, const std::string& activationToken = {});
-    /// The same for what was dropped on the window.
+    /// The same for URLs dropped on the window.
     Q_INVOKABLE void drop(const QList<QUrl>& urls);
-    /// The same for what people choose in a dialog.
+    /// Adds run files that the user chooses in a dialog.
     Q_INVOKABLE void openRunFile();
 
-    /// Does what somebody outside asks for. Fails: false, when it is an action that does not exist.
+    /// Handles a request from outside. Fails: false for an unknown action.
     bool take(const OndelDesktop::OpenRequest& request);
 
     /// Shows the window above others, where the desktop allows it.
@@ -88,7 +88,7 @@ private:
     TarnwickKit::model::AnalyzerModel m_model;
     OndelAppSupport::UpdaterModel m_updater;
     bool m_showReport = false;
-    RunNotifier m_attendant;
+    RunNotifier m_notifier;
     QFutureWatcher<void> m_end;
     bool m_terminating = false;
     QPointer<QWindow> m_window;

@@ -76,7 +76,7 @@ std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
             line.urls.push_back(urlOf(word));
         }
     }
-    // A desktop that starts the program keeps what it says in the log, where no file's name belongs.
+    // The desktop writes standard error into the log, which must not hold file names.
     if (OndelCore::platform::isStandardErrorLogged())
         return line;
     for (const std::size_t place : OpenUrls::from(line.urls).ignored)

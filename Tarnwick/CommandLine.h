@@ -8,10 +8,11 @@
 struct CommandLine {
     std::vector<std::string> urls;
 
-    /// Prints what was asked for without a window; the answer is then the process's status.
+    /// Answers --help and --version, with the exit status. Absent: a window is wanted.
     static std::optional<int> answerWithoutWindow(int argc, char** argv);
 
-    /// Folders, files and URLs; what opens nothing is said on standard error, unless that is logged, and
-    /// kept. Fails: absent for an option that does not exist, with the usage on standard error.
+    /// Converts folders, files and URLs. Names those that cannot be opened on standard error, unless that is
+    /// logged, and keeps them. Fails: absent for an unknown option, with the usage on standard error. (Not
+    /// QCommandLineParser, which loses bytes that are not valid UTF-8.)
     static std::optional<CommandLine> parse(int argc, char** argv);
 };

@@ -26,7 +26,7 @@ bool MenuKey::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::MouseButtonPress:
     case QEvent::Wheel:
-    case QEvent::FocusOut: // the window manager has taken the key for something of its own
+    case QEvent::FocusOut: // the window manager has used the key
         m_isAlone = false;
         break;
     default:

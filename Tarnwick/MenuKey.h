@@ -5,8 +5,7 @@
 #include <QWindow>
 #include <QtQml/qqmlregistration.h>
 
-/// Tells when Alt was pressed and let go in a window with nothing in between, which asks for the menu bar.
-/// Threads: main.
+/// Detects a press and release of Alt alone, which opens the menu bar. Threads: main.
 class MenuKey : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -20,8 +20,8 @@ bool isRunFile(const fs::path& path) {
 OpenUrls OpenUrls::from(const std::vector<std::string>& urls) {
     using namespace OndelCore::platform;
     using Clock = std::chrono::steady_clock;
-    constexpr std::chrono::seconds patienceWithAll(2);
-    const auto end = Clock::now() + patienceWithAll;
+    constexpr std::chrono::seconds totalPatience(2);
+    const auto end = Clock::now() + totalPatience;
     OpenUrls sorted;
     for (std::size_t place = 0; place < urls.size(); ++place) {
         const auto path = OndelCore::volumes::localPath(urls[place]);
@@ -36,7 +36,7 @@ OpenUrls OpenUrls::from(const std::vector<std::string>& urls) {
         if (facts && facts->isFolder)
             folder = facts->resolved;
         else if (path && !isRun && !facts)
-            folder = path; // it may be one
+            folder = path; // no answer: it may be a folder
         if (folder && !sorted.folder)
             sorted.folder = folder;
         if (!folder && !isRun)

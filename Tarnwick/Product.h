@@ -1,6 +1,6 @@
 #pragma once
 
-/// The names by which the desktop knows the application. They stand in its packages' files too.
+/// The application's names on the desktop. The files in packaging/linux repeat them.
 namespace product {
 
 inline constexpr const char* id = "tools.ondel.tarnwick";

@@ -31,12 +31,12 @@ void RunNotifier::phaseChanged() {
     } else if (m_awake) {
         m_awake.reset();
         if (!QGuiApplication::focusWindow())
-            tellOfEnd();
+            showResult();
     }
 }
 
-/// A run that was stopped needs no telling: somebody has just done it.
-void RunNotifier::tellOfEnd() {
+/// A run that the user has stopped needs no notice.
+void RunNotifier::showResult() {
     if (m_model.phase() == AnalyzerModel::Phase::Failed)
         m_notice.show(tr("Benchmark failed").toStdString(), m_model.failureMessage().toStdString());
     if (m_model.phase() != AnalyzerModel::Phase::Done || !m_model.currentRun())

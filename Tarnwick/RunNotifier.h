@@ -10,18 +10,18 @@
 #include <optional>
 #include <string>
 
-/// What the desktop has to know of runs: the machine stays awake while one goes on, and people who look at
-/// another window are told how it ended. Threads: main.
+/// Keeps the machine awake during a run, and shows its result as a notification while no window has the
+/// focus. Threads: main.
 class RunNotifier : public QObject {
     Q_OBJECT
 public:
-    /// `comeToFront` is called when somebody presses the notice. Owner: the model outlives this.
+    /// `comeToFront` is called when the user presses the notice. Owner: the model outlives this.
     RunNotifier(TarnwickKit::model::AnalyzerModel& model,
                 std::function<void(const std::string& activationToken)> comeToFront);
 
 private:
     void phaseChanged();
-    void tellOfEnd();
+    void showResult();
 
     TarnwickKit::model::AnalyzerModel& m_model;
     OndelDesktop::DesktopNotice m_notice;

@@ -25,11 +25,10 @@ using TarnwickKit::model::AnalyzerModel;
 
 namespace {
 
-/// The toolkit ends the process where it stands when the display goes away. Nothing is to be left on the disk
-/// then either.
+/// Qt calls exit() when the display goes away. The run's files have to be removed then as well.
 AnalyzerModel* modelAtExit = nullptr;
 
-void leaveAtExit() {
+void cleanUpAtExit() {
     if (modelAtExit)
         modelAtExit->abandonRun();
     OndelAppSupport::endLogging();
@@ -37,8 +36,7 @@ void leaveAtExit() {
 
 constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
 
-/// Time for the process that was here first to come to its event loop, on a machine that is busy starting
-/// both.
+/// Enough for the first process to reach its event loop on a machine that is busy starting both.
 constexpr std::chrono::milliseconds handOverPatience = std::chrono::seconds(5);
 
 } // namespace
@@ -68,14 +66,14 @@ int TarnwickApp::run(int argc, char** argv) {
     return QApplication::exec();
 }
 
-/// The process's status, if there is another one to do what this start was asked for.
+/// The exit status, if another process handles this start's request.
 std::optional<int> TarnwickApp::handOver(OpenRequests& requests, const OpenRequest& start) {
     const auto [outcome, process] = requests.handOver(start, handOverPatience);
     if (outcome == HandOver::Outcome::nobodyElse)
         return std::nullopt;
     if (outcome == HandOver::Outcome::taken)
         return EXIT_SUCCESS;
-    // It keeps the name, and with it what it was sent, until it wakes or ends.
+    // It keeps the name and the messages sent to it until it continues or ends.
     const std::string who = process ? " (process " + std::to_string(*process) + ")" : std::string();
     std::fprintf(
         stderr,
@@ -94,7 +92,7 @@ void TarnwickApp::prepare() {
 TarnwickApp::TarnwickApp(OpenRequests& requests)
     : m_requests(requests) {
     modelAtExit = m_delegate.model();
-    std::atexit(leaveAtExit);
+    std::atexit(cleanUpAtExit);
     QObject::connect(&m_delegate, &AppDelegate::terminating, &m_delegate, [this] { m_requests.close(); });
 }
 
@@ -106,7 +104,7 @@ bool TarnwickApp::declareScenes() {
     m_engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml")));
     if (m_engine.rootObjects().isEmpty())
         return false;
-    // After the first frame: looking through the desktop's icon theme takes as long as drawing the window.
+    // After the first frame: the search of the icon theme takes as long as drawing the window.
     const auto flags = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
     QObject::connect(
         qobject_cast<QQuickWindow*>(m_engine.rootObjects().constFirst()), &QQuickWindow::frameSwapped, qApp,

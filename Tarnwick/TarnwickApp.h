@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// The application as it is started: the order of what it is made of. Threads: main.
+/// Starts the application: the order of its parts. Threads: main.
 class TarnwickApp {
 public:
     /// The whole life of the process. Returns its status.
@@ -19,14 +19,14 @@ public:
     TarnwickApp(const TarnwickApp&) = delete;
     TarnwickApp& operator=(const TarnwickApp&) = delete;
 
-    /// Loads the window. Fails: false, after the toolkit has said why.
+    /// Loads the window. Fails: false, after Qt has printed the reason.
     bool declareScenes();
 
-    /// Launching has finished: from here on requests are taken, first that of this start.
+    /// Called when launching has finished. Handles the request of this start and then those of others.
     void finishLaunching(const OndelDesktop::OpenRequest& start);
 
 private:
-    /// Identity and fonts, which the delegate and the views are made with.
+    /// Sets identity and fonts, before the delegate and the views are created.
     static void prepare();
     static std::optional<int> handOver(OndelDesktop::OpenRequests& requests,
                                        const OndelDesktop::OpenRequest& start);

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// The toolkit aborts when there is no display. People get a sentence instead.
+/// Qt aborts when there is no display. This prints a sentence instead.
 void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type != QtFatalMsg)
         return;
@@ -26,23 +26,23 @@ void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QStr
     std::_Exit(EXIT_FAILURE);
 }
 
-QtMessageHandler toolkitsOwn = nullptr;
+QtMessageHandler defaultHandler = nullptr;
 
-/// The toolkit's warnings may name files.
+/// Removes file names from Qt's warnings.
 void warnWithoutNames(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     std::string text = message.toStdString();
     OndelCore::logging::LogScrubber::shared().scrub(text);
-    toolkitsOwn(type, context, QString::fromStdString(text));
+    defaultHandler(type, context, QString::fromStdString(text));
 }
 
-/// OpenGL drawn by the processor is slower and larger than the toolkit's own software renderer.
+/// Without a graphics processor, Qt's software renderer is faster and smaller than OpenGL.
 void chooseRenderer() {
     const bool chosenByUser =
         qEnvironmentVariableIsSet("QT_QUICK_BACKEND") || qEnvironmentVariableIsSet("QSG_RHI_BACKEND");
     if (!chosenByUser && !OndelDesktop::hasGraphicsDevice())
         QQuickWindow::setSceneGraphBackend(QStringLiteral("software"));
     if (!qEnvironmentVariableIsSet("QSG_DISTANCEFIELD_ANTIALIASING"))
-        qputenv("QSG_DISTANCEFIELD_ANTIALIASING", "gray"); // else coloured fringes in images of text
+        qputenv("QSG_DISTANCEFIELD_ANTIALIASING", "gray"); // avoids coloured fringes in images of text
 }
 
 } // namespace
@@ -53,17 +53,17 @@ void EndOfToolkit::operator()(QApplication* application) const {
         return;
     }
     QThreadPool::globalInstance()->waitForDone(); // as the destructor does
-    // Qt 6.8 complains, when the process ends, of what was left.
+    // Qt 6.8 warns about remaining objects when the process ends.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 }
 
 Toolkit startToolkit(int& argc, char** argv) {
     chooseRenderer();
-    toolkitsOwn = qInstallMessageHandler(explainMissingDisplay);
+    defaultHandler = qInstallMessageHandler(explainMissingDisplay);
     Toolkit application(new QApplication(argc, argv));
-    qInstallMessageHandler(OndelCore::platform::isStandardErrorLogged() ? warnWithoutNames : toolkitsOwn);
+    qInstallMessageHandler(OndelCore::platform::isStandardErrorLogged() ? warnWithoutNames : defaultHandler);
     application->setApplicationName(QString::fromLatin1(product::name));
-    // Names the settings file together with the line above.
+    // Together with the application name: the name of the settings file.
     application->setOrganizationName(QStringLiteral("Ondel"));
     application->setApplicationVersion(QStringLiteral(ONDEL_VERSION));
     application->setDesktopFileName(QString::fromLatin1(product::id));

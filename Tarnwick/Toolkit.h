@@ -4,17 +4,16 @@
 
 #include <memory>
 
-/// Destroys the application object, but not on Wayland: there Qt 6.4 now and then waits for ever for a thread
-/// of its own.
+/// Destroys the application object, except on Wayland, where the destructor of Qt 6.4 sometimes deadlocks
+/// with one of its own threads.
 struct EndOfToolkit {
     void operator()(QApplication* application) const;
 };
 using Toolkit = std::unique_ptr<QApplication, EndOfToolkit>;
 
-/// The application object, on the display that there is, with the renderer that suits the machine.
-/// Owner: `argc` and `argv` outlive it, and the process ends after it. Fails: ends the process with one
-/// sentence when there is no display.
+/// Creates the application object and chooses the renderer. Owner: `argc` and `argv` outlive it, and the
+/// process ends after it. Fails: without a display, ends the process with one sentence.
 Toolkit startToolkit(int& argc, char** argv);
 
-/// The icon of the desktop's theme, else the program's own copy.
+/// The icon from the desktop's theme, else the built-in one.
 QIcon applicationIcon();

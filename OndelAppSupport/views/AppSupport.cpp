@@ -11,7 +11,7 @@ namespace OndelAppSupport::views {
 
 namespace {
 
-/// The shared note follows the application's activation, and its page opens with the desktop.
+/// Connects the shared note to the application's activation and to the desktop's browser.
 SupportNudges* sharedNudges() {
     SupportNudges& nudges = SupportNudges::shared();
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &nudges,

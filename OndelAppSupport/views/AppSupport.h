@@ -10,7 +10,7 @@
 
 namespace OndelAppSupport::views {
 
-/// What the library knows of the running product, for QML, and the way from it to the desktop.
+/// The product's identity and system facts for QML, and functions that open pages and files.
 class AppSupport : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -20,12 +20,12 @@ class AppSupport : public QObject {
     Q_PROPERTY(QString appVersion READ appVersion CONSTANT)
     Q_PROPERTY(QString osVersion READ osVersion CONSTANT)
     Q_PROPERTY(QString hardwareModel READ hardwareModel CONSTANT)
-    /// The maker's site, as people call it.
+    /// The host of the maker's site, without "www.".
     Q_PROPERTY(QString siteName READ siteName CONSTANT)
     /// The web form for reports.
     Q_PROPERTY(QUrl reportPage READ reportPage CONSTANT)
     Q_PROPERTY(QUrl supportPage READ supportPage CONSTANT)
-    /// The works of others in here, if this installation has the file that lists them.
+    /// The file of third-party notices; empty if this installation lacks it.
     Q_PROPERTY(QUrl thirdPartyNotices READ notices CONSTANT)
     Q_PROPERTY(bool hasNotices READ hasNotices CONSTANT)
 public:
@@ -42,10 +42,10 @@ public:
     static QUrl notices();
     static bool hasNotices() { return !notices().isEmpty(); }
 
-    /// The address of a page as people write it: without the scheme and what all sites begin with.
+    /// The address of a page without scheme and "www.".
     Q_INVOKABLE static QString shown(const QUrl& page);
 
-    /// Both open with whatever the desktop has for it, and return at once.
+    /// Both open the desktop's program for it and return at once.
     Q_INVOKABLE static void openPage(const QUrl& page);
     Q_INVOKABLE static void openFile(const QString& path);
 };

@@ -7,8 +7,7 @@
 #include <QObject>
 #include <QQmlEngine>
 
-/// The support library's types under the names by which QML speaks of them. The library itself knows nothing
-/// of QML.
+/// Registers the support library's types with QML. The library itself does not depend on QML.
 namespace OndelAppSupport::views {
 
 struct AppIdentityType {
@@ -27,7 +26,7 @@ struct SupportNudgesType {
     Q_GADGET
     QML_FOREIGN(OndelAppSupport::SupportNudges)
     QML_NAMED_ELEMENT(SupportNudges)
-    QML_UNCREATABLE("The shared one is AppSupport.nudges.")
+    QML_UNCREATABLE("Use AppSupport.nudges.")
 };
 
 } // namespace OndelAppSupport::views

@@ -5,21 +5,21 @@
 #include <QObject>
 #include <QQmlEngine>
 
-/// The updater's types under the names by which QML speaks of them.
+/// Registers the updater's types with QML.
 namespace OndelAppSupport::views {
 
 struct UpdaterControllerType {
     Q_GADGET
     QML_FOREIGN(OndelAppSupport::UpdaterController)
     QML_NAMED_ELEMENT(UpdaterController)
-    QML_UNCREATABLE("It is UpdaterModel.controller.")
+    QML_UNCREATABLE("Use UpdaterModel.controller.")
 };
 
 struct UpdaterModelType {
     Q_GADGET
     QML_FOREIGN(OndelAppSupport::UpdaterModel)
     QML_NAMED_ELEMENT(UpdaterModel)
-    QML_UNCREATABLE("The application owns the one model and hands it to its views.")
+    QML_UNCREATABLE("The application owns the only one.")
 };
 
 } // namespace OndelAppSupport::views

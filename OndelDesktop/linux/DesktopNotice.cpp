@@ -24,8 +24,8 @@ void callNoticePortal(const QString& method, const QVariantList& arguments) {
 
 } // namespace
 
-/// Shows notices by the desktop's own service, which tells when one is pressed. Where there is none it uses
-/// the portal, which asks the application to come to the front like any other caller.
+/// Shows notices through the desktop's notification service, which reports a press. Without that service it
+/// uses the portal, which calls the application's Activate for a press.
 class NoticeService final : public QObject {
 public:
     NoticeService(const std::string& applicationId, const std::string& applicationName,

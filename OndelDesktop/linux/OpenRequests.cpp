@@ -20,7 +20,7 @@ const QString interface = QStringLiteral("org.freedesktop.Application");
 const QString activationToken = QStringLiteral("activation-token");
 const QString startupId = QStringLiteral("desktop-startup-id");
 
-/// The bus itself answers at once or never.
+/// For calls of the bus itself, which answers at once or never.
 constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
 
 QDBusPendingCall askBus(const QDBusConnection& bus, const QString& method, const QVariantList& arguments) {

@@ -49,7 +49,7 @@ FileDescriptor loginManagerInhibition(const QString& who, const QString& why) {
 
 } // namespace
 
-/// Lives until the login manager has answered, which may be longer than its owner does.
+/// Outlives its owner until the login manager has answered.
 struct StayAwake::Wish {
     QString who;
     QString why;

@@ -1,6 +1,6 @@
 // A window to drag URLs from, once, until it is killed: drag-source URL...
-// It says "ready" when it can be seen, "accepted" when the pointer is over a window that would take them, and
-// "taken" when that has done so. It also repeats what programs tell the desktop of their starts.
+// It prints "ready" when it is visible, "accepted" when the pointer is over a window that accepts the URLs, and
+// "taken" after the drop. It also prints the launch feedback messages of programs.
 
 #include <QAbstractNativeEventFilter>
 #include <QDrag>
@@ -49,7 +49,7 @@ private:
     bool m_isDragging = false;
 };
 
-/// Such a message comes in pieces, the last one with a NUL in it.
+/// A message arrives in pieces, the last one with a NUL.
 class Starts : public QAbstractNativeEventFilter {
 public:
     bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {

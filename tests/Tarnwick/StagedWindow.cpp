@@ -1,11 +1,11 @@
-/// The window on a machine that is made up, for tests, pictures and speed: staged-window MACHINE [TEXT]
-///   drive    a drive with 25 figures of health, several of them a concern, on a volume with a long name
-///   failing  the same, given up by its own verdict
-///   silent   a drive that gives no figures
-///   partial  two of three disks gave theirs
-///   blind    a target of whose volume nothing is known
-///   stream   a run that tells 50 jagged samples a second for a minute and does nothing else
-///   named    every text that a volume or a drive has of its own is TEXT; its run takes a second
+/// The window on a simulated machine, for tests, pictures and benchmarks: staged-window MACHINE [TEXT]
+///   drive    a drive with 25 health values, several of them a concern, on a volume with a long name
+///   failing  the same, with a failing verdict of its own
+///   silent   a drive without health values
+///   partial  health values of two of three disks
+///   blind    a target on an unknown volume
+///   stream   a run that reports 50 jagged samples a second for a minute, without I/O
+///   named    all names of the volume and the drive are TEXT; the run takes a second
 
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelControls/ViewEngine.h"
@@ -58,7 +58,7 @@ void stream(int samples, const benchmark::ProgressListener& tell, const std::sto
     }
 }
 
-/// A benchmark of that many samples which does nothing else.
+/// A benchmark that only reports samples.
 auto streamedRun(int samples) {
     return [samples](auto&&, auto&&, const benchmark::ProgressListener& tell, const std::stop_token& stop) {
         QPromise<benchmark::BenchmarkResult> result;
@@ -73,7 +73,7 @@ auto streamedRun(int samples) {
     };
 }
 
-/// Labels and file systems call themselves what they like.
+/// Names of labels and file systems are arbitrary.
 void nameEverything(AnalyzerServices& services, const std::string& text) {
     const QString name = QString::fromStdString(text);
     services.loadVolume = [load = services.loadVolume, name](const volumes::Location& location) {

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""The installed package in a fresh root: a benchmark in the terminal, one in the window, a run file handed over, the end.
-Usage: clean_root.py ROOT, as root. Display, buses and the person stay outside; in the root is only what is installed there."""
+"""The installed package in a fresh root: a benchmark in the terminal and one in the window, a run file handed over, the end.
+Usage: clean_root.py ROOT, as root. Display, buses and input stay outside of the root."""
 
 import pathlib
 import subprocess
@@ -12,7 +12,7 @@ import driver
 from installed_starts import entrance
 
 
-def used_as_by_a_person(root, folder, tools):
+def is_usable(root, folder, tools):
     host = entrance(root, "/usr/bin/tarnwick-host", tools / "tarnwick-host")
     words = subprocess.run([host, "run", "--size", "64M", "--handoff", folder], check=True, capture_output=True, text=True).stdout
     run_file = words.splitlines()[-1]
@@ -32,12 +32,12 @@ def used_as_by_a_person(root, folder, tools):
         window.until("the figures of the opened run", lambda: figures() and figures() != before)
         window.keys("ctrl+q")
         status = window.end()
-        driven_window.check(status == (0, ""), f"ended with {status}")
+        driver.check(status == (0, ""), f"ended with {status}")
     driven_window.nothing_left(folder)
 
 
 if __name__ == "__main__":
     driver.enter_display()
     with driver.fast_folder() as folder, tempfile.TemporaryDirectory(prefix="ondel-test-") as tools:
-        used_as_by_a_person(pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(folder), pathlib.Path(tools))
+        is_usable(pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(folder), pathlib.Path(tools))
     print("Used in the fresh root: a run in the terminal, one in the window, a run file handed over, the end. Nothing is left.")

@@ -1,8 +1,8 @@
-"""What a desktop offers programs: its dark (1) or light (2) setting, keeping the machine awake, and notices.
-Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal has behind it, a session manager, and
-notices from nobody but the portal. With "desktop_portal.py NUMBER refuses" the portal takes the request to keep the machine
-awake and answers that it does not, and there is a login manager. Lines on standard input: a number changes the setting,
-"press" presses the last notice. Lines on standard output: "ready", "awake FLAGS REASON", "asleep",
+"""A fake desktop: its dark (1) or light (2) setting, inhibition of suspend, and notifications.
+Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal needs, which is a session manager and
+notifications from the portal alone. With "desktop_portal.py NUMBER refuses" the portal accepts the request to inhibit suspend
+and then answers that it failed, and there is a login manager. Lines on standard input: a number changes the setting,
+"press" activates the last notification. Lines on standard output: "ready", "awake FLAGS REASON", "asleep",
 "locked WHAT WHO WHY MODE", "unlocked", "notice TITLE: TEXT", "withdrawn"."""
 
 import os
@@ -54,7 +54,7 @@ def tell(*words):
 
 class Desktop:
     def __init__(self, scheme, refuses):
-        """Without a scheme it stands behind a portal."""
+        """Without a scheme it serves a real portal."""
         self.scheme = scheme
         self.refuses = refuses
         self.notices = 0
@@ -71,7 +71,7 @@ class Desktop:
             self.serve("/org/freedesktop/login1", f"{LOGIN}.Manager")
             own(self.bus, LOGIN, Gio.BusNameOwnerFlags.NONE, None, None)
         own(self.bus, NOTICES, Gio.BusNameOwnerFlags.NONE, None, None)
-        if scheme is None:  # the back end takes both for a desktop, or neither
+        if scheme is None:  # the GTK back end uses both names or neither
             own(self.bus, "org.gnome.ScreenSaver", Gio.BusNameOwnerFlags.NONE, None, None)
         last = SESSION if scheme is None else "org.freedesktop.portal.Desktop"
         own(self.bus, last, Gio.BusNameOwnerFlags.NONE, lambda *_: tell("ready"), None)
@@ -86,7 +86,7 @@ class Desktop:
         if interface == SESSION:
             answer = self.session(method, *arguments.unpack())
         elif self.scheme is None and method == "Notify" and arguments.unpack()[0]:
-            invocation.return_dbus_error("org.freedesktop.DBus.Error.AccessDenied", "The portal gives no name, programs do.")
+            invocation.return_dbus_error("org.freedesktop.DBus.Error.AccessDenied", "Only the portal, which gives no name, is allowed.")
             return
         else:
             answer = getattr(self, method)(sender, path, *arguments.unpack())
@@ -109,7 +109,7 @@ class Desktop:
         self.bus.unregister_object(self.requests.pop(request))
 
     def lock(self, invocation, *words):
-        """It holds until its other end is closed."""
+        """The lock holds until its other end is closed."""
         held, given = os.pipe()
         descriptors = Gio.UnixFDList.new_from_array([given])
         tell("locked", *words)

@@ -1,5 +1,5 @@
-"""The displays that the tests bring: an X server, or a Wayland compositor (ONDEL_DISPLAY=wayland). Each tells and does what a
-person sees and does at one: which windows stand there, keys, the pointer, pictures."""
+"""The displays of the tests: an X server, or a Wayland compositor (ONDEL_DISPLAY=wayland). Each one lists windows, sends keys,
+moves the pointer and takes pictures."""
 
 import contextlib
 import json
@@ -29,7 +29,7 @@ class X11:
     @staticmethod
     @contextlib.contextmanager
     def served(width, height):
-        """Gives the environment of its clients."""
+        """Returns the environment of its clients."""
         with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24", "-dpi", "96", "-noreset",
                                "-nolisten", "tcp"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as server:
             yield {"DISPLAY": ":" + server.stdout.readline().strip(), "QT_QPA_PLATFORM": "xcb"}
@@ -76,7 +76,7 @@ exec sh -c 'echo $WAYLAND_DISPLAY $SWAYSOCK >$XDG_RUNTIME_DIR/new && mv $XDG_RUN
 
 
 class Wayland:
-    """sway without hardware. A window is its container's number; it floats in the size that it asks for."""
+    """sway without hardware. A window is its container's number; it floats in its requested size."""
 
     TOOLS = ("sway", "swaymsg", "grim", "wtype", "setpriv")
 
@@ -86,7 +86,7 @@ class Wayland:
         with tempfile.TemporaryDirectory(prefix="ondel-sway-") as folder:
             pathlib.Path(folder, "config").write_text(SWAY.format(width=width, height=height))
             command = ["sway", "--config", f"{folder}/config"]
-            if os.getuid() == 0:  # whom it refuses
+            if os.getuid() == 0:  # sway refuses root
                 shutil.chown(folder, "nobody")
                 command = ["setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups", *command]
             env = {"PATH": os.environ["PATH"], "HOME": folder, "XDG_RUNTIME_DIR": folder, "WLR_BACKENDS": "headless",
@@ -99,7 +99,7 @@ class Wayland:
                     time.sleep(0.02)
                 name, socket = ready.read_text().split()
                 clients = {"WAYLAND_DISPLAY": f"{folder}/{name}", "SWAYSOCK": socket}
-                # A keyboard that stays: with the last one goes the focus, and the first keys of a first one are lost.
+                # A permanent keyboard: without one the focus is lost, and so are the first keys of a new one.
                 with subprocess.Popen(["wtype", "-s", str(2**31 - 1)], env=os.environ | clients) as keyboard:
                     yield clients | {"QT_QPA_PLATFORM": "wayland"}
                     keyboard.terminate()

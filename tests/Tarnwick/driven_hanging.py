@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""The window on a file system that takes requests and never answers, from outside. Usage: driven_hanging.py PROGRAM DRAG-SOURCE"""
+"""The window on a file system that accepts requests and never answers. Usage: driven_hanging.py PROGRAM DRAG-SOURCE"""
 
 import ctypes
 import os
@@ -13,14 +13,14 @@ import threading
 
 import driver
 from driven_requests import call
-from driven_window import check
+from driver import check
 
 INIT = 26  # FUSE_INIT of linux/fuse.h
 SYSTEM = ctypes.CDLL(None, use_errno=True)
 
 
 class DeafFileSystem:
-    """A FUSE file system whose program takes each request and answers none: no signal ends who asked."""
+    """A FUSE file system whose program reads requests and never answers: no signal ends the waiting process."""
 
     def __init__(self, point):
         self.point = str(point)
@@ -47,12 +47,12 @@ class DeafFileSystem:
         return self
 
     def __exit__(self, *_):
-        SYSTEM.umount2(self.point.encode(), 1)  # MNT_FORCE: whoever waits there gets an error
+        SYSTEM.umount2(self.point.encode(), 1)  # MNT_FORCE: waiting requests fail
         SYSTEM.umount2(self.point.encode(), 2)
 
 
 def ends(window, deaf, way):
-    check(deaf.asked.wait(driver.GUARD_SECONDS), "nothing was asked")
+    check(deaf.asked.wait(driver.GUARD_SECONDS), "no request was sent")
     ended = way(window)
     check(ended == (0, ""), f"it ends with {ended}")
 

@@ -1,12 +1,13 @@
 #!/usr/bin/python3
-"""A person and the runs that are kept, from one start of the program to the next. Usage: driven_history.py PROGRAM"""
+"""The stored runs across starts of the program. Usage: driven_history.py PROGRAM"""
 
 import pathlib
 import sys
 
 import driver
 import saved_runs
-from driven_window import check, choose_small_size, nothing_left, start
+from driver import check
+from driven_window import choose_small_size, nothing_left, start
 
 SAVED = ["Old drive", "Backup", "media"]
 
@@ -31,7 +32,7 @@ def measures_and_names(program, folder):
         window.find("Complete", "status bar")
         for what in ("Running…", "Complete"):
             window.until(f"{what} told", lambda: what in heard)
-        check(any(" %" in words for words in heard), f"no progress told: {heard}")
+        check(any(" %" in words for words in heard), f"no progress announced: {heard}")
         volume = window.find("Volume").get_description().split(",")[0]
         window.press(volume, "push button")
         window.find("Report title", "text")
@@ -72,11 +73,11 @@ def compares_and_clears(program):
     with driver.Window(program) as window:
         window.press("Compare")
         window.find("Select runs to compare")
-        check(not window.enabled("Compare 0"), "nothing can be compared")
+        check(not window.enabled("Compare 0"), "Compare is enabled for no runs")
         for name, count in (("media", 1), ("Old drive", 2), ("media", 1), ("First run", 2)):
             window.press(name, "check box")
-            check(window.enabled(f"Compare {count}") == (count > 1), f"{count} picked")
-        check(rows(window) == [], "a run can be deleted while runs are picked")
+            check(window.enabled(f"Compare {count}") == (count > 1), f"Compare is wrong for {count} runs")
+        check(rows(window) == [], "a run can be deleted while runs are selected")
         window.press("Cancel")
         window.press("Clear")
         window.find("Delete all saved runs?")

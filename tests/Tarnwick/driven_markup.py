@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Markup in every text that comes from outside: it is shown as it is, nobody is called and no file is read.
+"""Markup in every text from outside: it is shown as plain text, without a connection and without reading a file.
 Usage: driven_markup.py PROGRAM"""
 
 import json
@@ -12,17 +12,17 @@ import threading
 
 import driver
 import saved_runs
-from driven_window import check
+from driver import check
 
 KINDS = ("internalDrive", "external", "network")
 TEXTS = ("volumeName", "connection", "fsType", "sizeLabel", "deviceModel", "deviceProtocol", "customTitle")
 
 
 class Lures:
-    """A server and a pipe that markup names. Both note who comes."""
+    """A server and a pipe that the markup refers to. Both record visits."""
 
     def __init__(self, folder):
-        self.came = []
+        self.visits = []
         self.pipe = folder / "picture.png"
         os.mkfifo(self.pipe)
         self.listener = socket.create_server(("127.0.0.1", 0))
@@ -34,16 +34,16 @@ class Lures:
         while True:
             connection, _ = self.listener.accept()
             request = connection.recv(1000).split(b"\r\n")[0].decode()
-            self.came.append(request)
+            self.visits.append(request)
             connection.sendall(b"HTTP/1.0 404 None\r\n\r\n")
             connection.close()
 
     def feed(self):
         with open(self.pipe, "wb"):  # waits for a reader
-            self.came.append("the file")
+            self.visits.append("the file")
 
     def markups(self, field):
-        """What a text can try. A text is shown in full up to 300 characters."""
+        """Texts with markup. A text is shown in full up to 300 characters."""
         picture = f"{self.address}{field}.png"
         return [f'<img src="{picture}">',
                 f'<style>@import "{picture}";</style><p style="background:url({picture})"><a href="{picture}">a</a><img src={picture}>',
@@ -51,8 +51,8 @@ class Lures:
 
 
 def hostile_runs(lures):
-    """For every attachment of a volume and every markup a run that has it in all of its texts. A title of its own would take
-    the place of others, so that every second one has none."""
+    """For every attachment of a volume and every markup a run with it in all texts. Every second one has no custom title, which
+    would hide the other names."""
     runs = []
     for number, (kind, variant) in enumerate((kind, variant) for kind in KINDS for variant in range(3)):
         texts = {field: lures.markups(f"{kind}-{field}")[variant] for field in TEXTS}
@@ -70,8 +70,8 @@ def saved(runs, folder):
     return files
 
 
-def nobody_came(lures, where):
-    check(not lures.came, f"{where}: {len(lures.came)} came, first {lures.came[:3]}")
+def has_no_visits(lures, where):
+    check(not lures.visits, f"{where}: {len(lures.visits)} visits, first {lures.visits[:3]}")
 
 
 def cards_are_drawn(host, files, lures):
@@ -79,14 +79,14 @@ def cards_are_drawn(host, files, lures):
         try:
             drawn = subprocess.run([host, "card", *shown], capture_output=True, text=True, timeout=driver.GUARD_SECONDS)
         except subprocess.TimeoutExpired as hung:
-            raise driver.Failure(f"no card after {hung.timeout} s, {len(lures.came)} came: {lures.came[:3]}") from None
+            raise driver.Failure(f"no card after {hung.timeout} s, {len(lures.visits)} visits: {lures.visits[:3]}") from None
         check((drawn.returncode, drawn.stderr) == (0, ""), f"{shown}: {drawn.returncode} {drawn.stderr}")
-    nobody_came(lures, "cards")
+    has_no_visits(lures, "cards")
 
 
 def rows(window):
-    """The history's rows in view, by what they say of the run below its title. From bottom to top: one that is opened
-    moves those below it out of view."""
+    """The visible rows of the history, by the text below the title. From bottom to top, because an opened row moves those below
+    it out of view."""
     return [node for node, _ in window.nodes()
             if driver.role_of(node) == "push button" and " · " in node.get_description() and window.shows(node, "SHOWING")][::-1]
 
@@ -96,7 +96,7 @@ def charts(window):
 
 
 def share(window):
-    """Has the first card on view drawn, which answers with the menu of what can be done with it."""
+    """Draws the first card, which opens its menu."""
     window.press("Share")
     window.find("Save As…", "menu item")
     window.keys("Escape")
@@ -104,20 +104,20 @@ def share(window):
 
 
 def history_is_shown(program, file, runs, lures):
-    """The history alone at the start, each of its runs opened, a comparison of all, and a run file over it."""
+    """The history at the start, each run opened, a comparison of all, and a run file."""
     saved_runs.lay_down(runs)
     with driver.Window(program) as window:
         window.find("Previous runs")
         window.resize(1180, 1400)
         window.settled()
-        nobody_came(lures, "a start with the history")
+        has_no_visits(lures, "a start with the history")
         closed = rows(window)
         for row in closed:
             row.do_action(0)
         window.until("their panes", lambda: len(charts(window)) == len(closed))
         share(window)
         window.settled()
-        nobody_came(lures, "runs from the history, and the card of one")
+        has_no_visits(lures, "runs from the history, and the card of one")
         window.press("Compare")
         for node in [node for node, _ in window.nodes() if node.get_role_name() == "check box" and "://" in node.get_name()]:
             node.do_action(0)
@@ -125,24 +125,24 @@ def history_is_shown(program, file, runs, lures):
         window.find(f"Comparing {len(runs)} runs")
         share(window)
         window.settled()
-        nobody_came(lures, "a comparison of all, and its card")
-        check(window.terminate() == (0, ""), "the window's end")
+        has_no_visits(lures, "a comparison of all, and its card")
+        check(window.terminate() == (0, ""), "it does not end quietly")
     saved_runs.lay_down([])
     with driver.Window(program, file) as window:
         window.find("Collapse")
         share(window)
         window.settled()
-        nobody_came(lures, "a run file, and its card")
-        check(window.terminate() == (0, ""), "the window's end")
+        has_no_visits(lures, "a run file, and its card")
+        check(window.terminate() == (0, ""), "it does not end quietly")
 
 
 def target_is_shown(staged, lures):
-    """A volume and a drive of such names: toolbar, sidebar, a run on it, and the run's record."""
+    """A volume and a drive with such names: toolbar, sidebar, a run on it, and its record."""
     saved_runs.lay_down([])
     for number, text in enumerate(lures.markups("target")[1:]):
         with driver.Window(staged, "named", text, env={"TMPDIR": os.environ["TMPDIR"]}) as window:
             window.resize(1180, 1400)
-            if number == 0:  # it is remembered
+            if number == 0:  # the choice is stored
                 window.press("S.M.A.R.T.", "push button")
             window.find(f"{text}: {text}")
             window.find(f"File system: {text.upper()}")
@@ -151,7 +151,7 @@ def target_is_shown(staged, lures):
             window.find("Collapse")
             share(window)
             window.settled()
-            nobody_came(lures, text)
+            has_no_visits(lures, text)
 
 
 if __name__ == "__main__":
@@ -164,4 +164,4 @@ if __name__ == "__main__":
         cards_are_drawn(programs / "tarnwick-host", files, lures)
         history_is_shown(sys.argv[1], files[1], runs, lures)
         target_is_shown(programs / "staged-window", lures)
-        nobody_came(lures, "afterwards")
+        has_no_visits(lures, "afterwards")

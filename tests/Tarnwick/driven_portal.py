@@ -9,7 +9,8 @@ import sys
 import driver
 import saved_runs
 from driven_requests import child, desktop_of, hears_of, run_file, shows_run
-from driven_window import check, choose_small_size, start, TESTS
+from driver import check
+from driven_window import choose_small_size, start, TESTS
 
 PROGRAMS = {"org.freedesktop.portal.Desktop": "/usr/libexec/xdg-desktop-portal",
             "org.freedesktop.impl.portal.desktop.gtk": "/usr/libexec/xdg-desktop-portal-gtk",
@@ -24,7 +25,7 @@ MimeType=x-scheme-handler/mailto;
 
 
 def brightness(window):
-    """From 0 to 1, of the window's mean."""
+    """The window's mean brightness, from 0 to 1."""
     words = subprocess.run(["import", "-window", window.id(), "-colorspace", "gray", "-format", "%[fx:mean]", "info:"],
                            capture_output=True, text=True, check=True)
     return float(words.stdout)
@@ -46,7 +47,7 @@ def follows_the_colour_scheme(program, _folder, _desktop):
 def keeps_the_machine_awake_and_gives_notice(program, folder, desktop):
     told = hears_of(desktop)
     with child(source, stdout=subprocess.DEVNULL), driver.Window(program, folder, env=PORTAL) as window:
-        driver.focus("Drag from here")  # a window that has the keyboard does not tell its end
+        driver.focus("Drag from here")  # a window with the focus gives no notice
         choose_small_size(window)
         for test in TESTS[1:]:
             window.press(test)
@@ -66,7 +67,7 @@ def opens_through_the_file_dialog(program, folder, _desktop):
         driver.focus(dialog)
         window.settled(dialog)
         driver.display.press("ctrl+l")
-        window.settled(dialog)  # a key is lost while the line for the path is made
+        window.settled(dialog)  # a key is lost while the path entry opens
         driver.display.press("ctrl+a")
         window.type(f"{run_file(folder, 5)}")
         window.settled(dialog)
@@ -98,11 +99,11 @@ if __name__ == "__main__":
     if missing := [program for program in PROGRAMS.values() if not os.path.exists(program)]:
         print("skipped, not installed:", ", ".join(missing))
         sys.exit(driver.SKIP)
-    # The back end reads its settings from a file, for "gsettings" to change them.
+    # The back end reads its settings from a file that "gsettings" can change.
     driver.enter_display(services=PROGRAMS, variables={"GSETTINGS_BACKEND": "keyfile", "XDG_CURRENT_DESKTOP": "GNOME"})
     program, source, *only = sys.argv[1:]
     with driver.fast_folder() as name, desktop_of("behind") as desktop:
-        check(desktop.stdout.readline() == b"ready\n", "there is no session behind the portal")
+        check(desktop.stdout.readline() == b"ready\n", "the fake desktop did not start")
         for case in (follows_the_colour_scheme, keeps_the_machine_awake_and_gives_notice, opens_through_the_file_dialog, sends_by_email):
             if only and case.__name__ not in only:
                 continue

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""What the desktop and people ask of the application, from outside. Usage: driven_requests.py PROGRAM DRAG-SOURCE [CASE]..."""
+"""Requests of the desktop and of other starts to the application. Usage: driven_requests.py PROGRAM DRAG-SOURCE [CASE]..."""
 
 import contextlib
 import json
@@ -15,7 +15,8 @@ import time
 
 import driver
 import saved_runs
-from driven_window import check, choose_small_size, nothing_left, start, TESTS
+from driver import check
+from driven_window import choose_small_size, nothing_left, start, TESTS
 
 NAME, OBJECT = "tools.ondel.tarnwick", "/tools/ondel/tarnwick"
 TITLE = "^Ondel Tarnwick$"
@@ -41,7 +42,7 @@ def child(*command, **pipes):
 
 
 def call(method, *arguments):
-    """Calls the application over the bus, as a desktop does."""
+    """Calls the application over the bus like a desktop."""
     done = subprocess.run(["gdbus", "call", "--session", "--dest", NAME, "--object-path", OBJECT, "--timeout", "20", "--method",
                            f"org.freedesktop.Application.{method}", *arguments, "{'activation-token': <'leave'>}"],
                           capture_output=True, text=True)
@@ -49,7 +50,7 @@ def call(method, *arguments):
 
 
 def opens_over_bus(urls, token):
-    """For what a command line has no room for."""
+    """For more than fits on a command line."""
     from gi.repository import Gio, GLib
     given = GLib.Variant("(asa{sv})", (urls, {"activation-token": GLib.Variant("s", token)}))
     Gio.bus_get_sync(Gio.BusType.SESSION).call_sync(NAME, OBJECT, "org.freedesktop.Application", "Open", given, None, 0, 20000, None)
@@ -65,14 +66,14 @@ def two_starts_give_one_window(program, folder):
         while all(start.poll() is None for start in both) or not driver.windows(TITLE):
             time.sleep(0.02)
         ended, stays = sorted(both, key=lambda start: start.poll() is None)
-        check(ended.returncode == 0 and len(driver.windows(TITLE)) == 1, "two starts, and not one window")
+        check(ended.returncode == 0 and len(driver.windows(TITLE)) == 1, "two starts do not give one window")
         check(subprocess.run([program]).returncode == 0 and call("Activate"), "a third start does not find the first")
         stays.terminate()
-        check(stays.wait(driver.GUARD_SECONDS) == 0, "the one that stayed does not end quietly")
+        check(stays.wait(driver.GUARD_SECONDS) == 0, "the first does not end quietly")
 
 
 def ended(program, *arguments):
-    """Status and words of a start that is to end by itself."""
+    """Status and messages of a start that ends by itself."""
     with child(program, *arguments, stderr=subprocess.PIPE) as start:
         words = start.communicate(timeout=driver.GUARD_SECONDS)[1].decode()
         return start.returncode, words
@@ -84,7 +85,7 @@ def stored():
 
 
 def many_runs_come_in_one_go(program, folder):
-    """More files than the history keeps, and another start right behind them."""
+    """More files than the history holds, and another start right after them."""
     files = [run_file(folder, index, date="2026-01-01T00:00:00Z") for index in range(400)]
     with driver.Window(program) as window:
         window.find("Choose a volume to begin")
@@ -101,19 +102,19 @@ def many_runs_come_in_one_go(program, folder):
         check(stored()[:3] == ["Run 502", "Run 500", "Run 400"], f"of a long list: {stored()[:3]}")
         status, words = ended(program, "no \x1b[31m folder")
         check(status == 0 and "'no \N{REPLACEMENT CHARACTER}[31m folder'" in words, f"it says {words!r}")
-        window.settled()  # the toolkit complains of an end in the middle of a movement
+        window.settled()  # Qt warns about an end during an animation
         check(window.terminate() == (0, ""), "it does not end quietly")
     with driver.Window(program, *files[:120]) as window:
         shows_run(window, 119)
         check(stored()[0] == "Run 119" and len(stored()) == 50, f"stored from the start: {stored()}")
-        window.settled()  # the toolkit complains of an end in the middle of a movement
+        window.settled()  # Qt warns about an end during an animation
         check(window.terminate() == (0, ""), "it does not end quietly")
 
 
-def waits_for_one_that_stands_still(program, folder):
-    """Its window may be out of sight, but it is the one that everybody asks."""
+def waits_for_a_stopped_process(program, folder):
+    """The stopped process owns the name, so that later starts send their requests to it."""
     with driver.Window(program) as first:
-        driver.appearing(TITLE)  # a display may show it later than the accessibility tree does
+        driver.appearing(TITLE)  # later than in the accessibility tree
         first.process.send_signal(signal.SIGSTOP)
         status, words = ended(program, folder)
         check(status == 1 and words.count("\n") == 1 and f"process {first.process.pid}" in words, f"it ended with {status}: {words}")
@@ -124,7 +125,7 @@ def waits_for_one_that_stands_still(program, folder):
 
 
 def starts_without_a_bus(program, folder):
-    with socket.socket(socket.AF_UNIX) as deaf:  # takes connections, as long as nobody looks, and never answers
+    with socket.socket(socket.AF_UNIX) as deaf:  # accepts connections and never answers
         deaf.bind(f"{folder}/bus")
         deaf.listen()
         for bus in ("/nonexistent", f"{folder}/bus".replace(" ", "%20")):
@@ -137,7 +138,7 @@ def starts_without_a_bus(program, folder):
             check(alone.wait(driver.GUARD_SECONDS) == 0, "without a bus it does not end quietly")
 
 
-def ends_the_desktops_waiting(program, folder, source):
+def ends_the_launch_feedback(program, folder, source):
     with child(source, stdout=subprocess.PIPE) as desktop, driver.Window(program) as window:
         mark = 'a desktop\'s "mark"_TIME7'
         check(subprocess.run([program], env=os.environ | {"DESKTOP_STARTUP_ID": mark}).returncode == 0, "a second start does not hand over")
@@ -161,14 +162,14 @@ def opens_what_it_is_given(program, folder):
         check(window.enabled("Run Benchmark"), "the folder of the start is not the target")
         check(subprocess.run([program, "1.tarnwickrun"], cwd=folder).returncode == 0, "a second start does not hand over")
         shows_run(window, 1)
-        check(opens(f"{url}/0.tarnwickrun"), "a run that is stored already is not taken")
+        check(opens(f"{url}/0.tarnwickrun"), "a stored run is refused")
         shows_run(window, 0)
 
         garbage = [url + "/7.TARNWICKRUN", url + "/missing/", "file://elsewhere/tmp", "http://x/y.tarnwickrun", "file://", "%", "",
                    url + "/2.tarnwickrun%00", "x" * 100000, url + "/missing.tarnwickrun", url + "/broken.tarnwickrun"]
-        check(opens(*garbage), "garbage is not taken")
+        check(opens(*garbage), "garbage is refused")
         shows_run(window, 1)
-        check(opens(*garbage, f"file://localhost{folder}/2.tarnwickrun".replace(" ", "%20")), "a run among garbage is not taken")
+        check(opens(*garbage, f"file://localhost{folder}/2.tarnwickrun".replace(" ", "%20")), "a run among garbage is refused")
         shows_run(window, 2)
         check(call("ActivateAction", "choose-folder", "[]") and not call("ActivateAction", "nonsense", "[]"), "actions")
         driver.focus("Choose a folder")
@@ -176,12 +177,12 @@ def opens_what_it_is_given(program, folder):
 
         choose_small_size(window)
         (work := folder / "work").mkdir()
-        check(opens(f"{url}/work"), "a folder is not taken")
+        check(opens(f"{url}/work"), "a folder is refused")
         start(window, work)
-        check(opens(f"{url}/", f"{url}/3.tarnwickrun"), "nothing is taken during a run")
+        check(opens(f"{url}/", f"{url}/3.tarnwickrun"), "a request during a run is refused")
         window.press("Stop")
         window.find("Ready", "status bar")
-        start(window, work)  # still the target
+        start(window, work)  # the target has not changed
         window.press("Stop")
         window.find("Ready", "status bar")
         shows_run(window, 3)
@@ -190,7 +191,7 @@ def opens_what_it_is_given(program, folder):
 
 
 def leaves_nothing_without_a_display(program, folder):
-    """A display that goes away takes the process with it, as at the end of a desktop's day."""
+    """The process ends with its display, as at the end of a session."""
     with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1400x1000x24", "-nolisten", "tcp"], stdout=subprocess.PIPE,
                           stderr=subprocess.DEVNULL, text=True) as server:
         env = {"DISPLAY": ":" + server.stdout.readline().strip()}
@@ -207,7 +208,7 @@ def takes_what_is_dropped(program, folder, source):
             while drag.stdout.readline() != b"ready\n":
                 pass
             subprocess.run(["xdotool", "mousemove", "1250", "50", "mousedown", "1", "mousemove", "1240", "60"], check=True)
-            x = 1200  # a drag begins with a movement, and its target is asked at each
+            x = 1200  # a drag begins with a movement, and each one queries the target
             while not select.select([drag.stdout], [], [], 0.05)[0] or drag.stdout.readline() != b"accepted\n":
                 x = x - 20 if x > 600 else 1200
                 subprocess.run(["xdotool", "mousemove", str(x), "400"], check=True)
@@ -233,7 +234,7 @@ def goes_by_menu(program, folder):
 
         window.keys("alt")
         window.find("About Ondel Tarnwick", "menu item")
-        check(not window.enabled("Check for Updates…", "menu item"), "updates in a build without a feed")
+        check(not window.enabled("Check for Updates…", "menu item"), "updates are enabled without a feed")
         window.keys("Down", "Return")
         driver.focus("About Ondel Tarnwick")
         driver.display.press("Escape")
@@ -241,7 +242,7 @@ def goes_by_menu(program, folder):
         window.keys("ctrl+comma")
         driver.focus("Settings")
         for name in ("Check for updates automatically", "Check Now"):
-            check(not window.enabled(name), f"{name} in a build without a feed")
+            check(not window.enabled(name), f"{name} is enabled without a feed")
         window.find("Not Now")
         window.press("I’ve already supported Tarnwick")
         window.gone("Not Now")
@@ -263,13 +264,13 @@ def goes_by_menu(program, folder):
         window.press("Help", "menu item")
         window.press("Report a Problem…", "menu item")
         summary = window.find("Summary — a one-line description")
-        check(window.atspi.Text.get_text(summary, 0, -1) == "kept", "what was typed is lost")
+        check(window.atspi.Text.get_text(summary, 0, -1) == "kept", "the typed text is lost")
         window.keys("Escape")
         check(window.terminate() == (0, ""), "it does not end quietly")
 
 
 def hears_of(desktop):
-    """A function that checks how the next lines begin which the desktop tells."""
+    """A function that checks the beginnings of the desktop's next lines."""
     def told(*lines):
         for line in lines:
             heard = select.select([desktop.stdout], [], [], driver.GUARD_SECONDS)[0] and desktop.stdout.readline().decode().strip()
@@ -282,7 +283,7 @@ def desktop_of(*words):
                  stdout=subprocess.PIPE)
 
 
-def tells_the_desktop_of_runs(program, folder, source):
+def notifies_the_desktop_of_runs(program, folder, source):
     with desktop_of(2) as desktop, child(source):
         told = hears_of(desktop)
         told("ready")
@@ -300,7 +301,7 @@ def tells_the_desktop_of_runs(program, folder, source):
             window.find("Complete", "status bar")
             told("asleep", "notice Benchmark complete: ")
             desktop.stdin.write(b"press\n")
-            driver.focus(TITLE)  # without a window manager the program may not take it
+            driver.focus(TITLE)  # without a window manager the program cannot take the focus itself
             told("withdrawn")
             start(window, folder)
             told("awake")
@@ -308,8 +309,8 @@ def tells_the_desktop_of_runs(program, folder, source):
             told("asleep")
 
 
-def stays_awake_though_the_portal_refuses(program, folder):
-    """As the portal's GTK back end does outside of GNOME: the request is taken, and the answer to it says no."""
+def stays_awake_when_the_portal_refuses(program, folder):
+    """Like the portal's GTK back end outside of GNOME, which accepts the request and then answers with a failure."""
     with desktop_of(2, "refuses") as desktop:
         told = hears_of(desktop)
         told("ready")
@@ -327,7 +328,7 @@ WAYS_TO_OPEN = dict(zip(("preparation", *TESTS), (os.O_WRONLY, os.O_WRONLY, os.O
 
 
 def is_in(phase, program, folder):
-    """Exact while the program stands still: each phase opens the data file in a way of its own, or works without it."""
+    """Exact for a stopped program: each phase opens the data file in a mode of its own, or works without it."""
     opened = []
     for file in pathlib.Path(f"/proc/{program}/fd").iterdir():
         with contextlib.suppress(FileNotFoundError):
@@ -335,18 +336,18 @@ def is_in(phase, program, folder):
                 flags = pathlib.Path(f"/proc/{program}/fdinfo", file.name).read_text().split()[3]
                 opened.append(int(flags, 8) & os.O_ACCMODE)
     if os.O_RDONLY in opened:
-        opened.remove(os.O_RDONLY)  # the one that stands for the file's identity all along
+        opened.remove(os.O_RDONLY)  # held open during the whole run, for the file's identity
     if phase in WAYS_TO_OPEN:
         return opened == [WAYS_TO_OPEN[phase]]
     return not opened and any(folder.glob(".ondel-analyzer-*/fops/*" if phase == TESTS[4] else ".ondel-analyzer-*"))
 
 
 def ends_in_every_phase(program, folder):
-    """Some phases are short. The program is stopped in one, and the run made again should it have left it by then."""
+    """Some phases are short. The program is stopped in one; if it has left the phase by then, the run is repeated."""
     def asked_to_end_in(phase):
         with driver.Window(program, folder) as window:
             choose_small_size(window)
-            # The writing goes before a short phase, so that the working folder is there to be seen.
+            # A write test before a short phase makes the working folder visible.
             wanted = {"preparation": {TESTS[1]}, "clean-up": set(TESTS)}.get(phase, {TESTS[0], phase})
             for test in set(TESTS) - wanted:
                 window.press(test)
@@ -370,16 +371,16 @@ def ends_in_every_phase(program, folder):
             print(f"  {phase} was over, once more", flush=True)
 
 
-# What they are about is X11's own, or the drag's source and the limits that they set do not fit another display.
-ONLY_ON_X11 = (starts_without_a_bus, ends_the_desktops_waiting, tells_the_desktop_of_runs,
+# They test X11 itself, or need the drag source or limits that do not work on other displays.
+ONLY_ON_X11 = (starts_without_a_bus, ends_the_launch_feedback, notifies_the_desktop_of_runs,
                leaves_nothing_without_a_display, takes_what_is_dropped)
 
 if __name__ == "__main__":
     driver.enter_display()
     program, source, *only = sys.argv[1:]
-    for case in (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_one_that_stands_still,
+    for case in (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_a_stopped_process,
                  starts_without_a_bus, opens_what_it_is_given, goes_by_menu,
-                 ends_the_desktops_waiting, tells_the_desktop_of_runs, stays_awake_though_the_portal_refuses, ends_in_every_phase,
+                 ends_the_launch_feedback, notifies_the_desktop_of_runs, stays_awake_when_the_portal_refuses, ends_in_every_phase,
                  leaves_nothing_without_a_display, takes_what_is_dropped):
         if (only and case.__name__ not in only) or (case in ONLY_ON_X11 and not isinstance(driver.display, driver.X11)):
             continue

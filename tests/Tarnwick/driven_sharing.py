@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Comparing runs and sharing images in the real window, from outside. Usage: driven_sharing.py PROGRAM"""
+"""Comparing runs and sharing images in the real window. Usage: driven_sharing.py PROGRAM"""
 
 import os
 import pathlib
@@ -9,13 +9,9 @@ import sys
 
 import driver
 import saved_runs
+from driver import check
 
 TOOLS = ("xdg-open", "xdg-email")
-
-
-def check(holds, what):
-    if not holds:
-        raise driver.Failure(what)
 
 
 def share(window, choice):
@@ -24,7 +20,7 @@ def share(window, choice):
 
 
 def called(home, tool):
-    """What one of the desktop's tools was called with, once it was; then it is forgotten."""
+    """The arguments of the last call of a desktop tool, or None. Removes the record."""
     record = home / tool
     if not record.exists() or not record.read_text().endswith("\n"):
         return None
@@ -42,7 +38,7 @@ def compares_and_shares(program, home, folder):
         window.press("Compare 2")
         window.find("Comparing 2 runs")
         window.find("Write, NVMe Server: 104 MB/s")
-        check(window.look("Ready to benchmark") is None, "a comparison does not take the pane's place")
+        check(window.look("Ready to benchmark") is None, "a comparison does not replace the pane")
 
         share(window, "Copy Image")
         window.find("Image copied")
@@ -60,7 +56,7 @@ def compares_and_shares(program, home, folder):
         driver.display.type(str(kept))
         driver.display.press("Return")
         window.find("Saved as “kept.png”")
-        check(kept.read_bytes() == image.read_bytes(), "the saved image is another one")
+        check(kept.read_bytes() == image.read_bytes(), "the saved image differs")
 
         window.press("Run Benchmark")
         window.find("Running…", "status bar")
@@ -78,7 +74,7 @@ def compares_and_shares(program, home, folder):
 
 
 def draws_alike_in_both_renderers(program, home, folder):
-    """A window that draws with OpenGL makes its images with it too, again and again, and they look the same."""
+    """A window with OpenGL draws its images with it as well, repeatedly, and they look the same."""
     image = pathlib.Path(os.environ["XDG_RUNTIME_DIR"], "tools.ondel.tarnwick", "Ondel Tarnwick — SD card.png")
     image.rename(home / "software.png")
     with driver.Window(program, env={"QSG_RHI_BACKEND": "opengl", "LIBGL_ALWAYS_SOFTWARE": "1"}) as window:
@@ -105,7 +101,7 @@ def says_what_cannot_be_done(program, home, _folder):
             image.unlink()
         window.press("Share")
         window.find("Copy Image", "menu item")
-        os.chmod(os.environ["XDG_RUNTIME_DIR"] + "/tools.ondel.tarnwick", 0o755)  # no longer private, and there is no other
+        os.chmod(os.environ["XDG_RUNTIME_DIR"] + "/tools.ondel.tarnwick", 0o755)  # no longer private, and there is no other folder
         window.keys("Escape")
         window.gone("Copy Image", "menu item")
         window.press("Share")

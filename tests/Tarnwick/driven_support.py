@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Reports, the support note and the About panel in the real window, from outside. Usage: driven_support.py PROGRAM"""
+"""Reports, the support note and the About panel in the real window. Usage: driven_support.py PROGRAM"""
 
 import os
 import pathlib
@@ -10,15 +10,11 @@ import threading
 import urllib.parse
 
 import driver
-
-
-def check(holds, what):
-    if not holds:
-        raise driver.Failure(what)
+from driver import check
 
 
 class Proxy:
-    """Stands between the window and the network: what it hears and says is all that there is of a report service."""
+    """A proxy between the window and the network, in place of the report service."""
 
     def __init__(self):
         self.answer = b""
@@ -43,7 +39,7 @@ def type_text(text):
 
 
 def opened(home):
-    """What the desktop was last asked to open; then it is forgotten."""
+    """The last address opened by the desktop. Removes the record."""
     record = home / "xdg-open"
     if not record.exists() or not record.read_text().endswith("\n"):
         return None
@@ -53,7 +49,7 @@ def opened(home):
 
 
 def says(window, start):
-    """The text of an alert that begins so."""
+    """The text of an alert that begins with `start`."""
     return next((node.get_name() for node, _ in window.nodes()
                  if node.get_role_name() == "alert" and node.get_name().startswith(start)), None)
 
@@ -63,17 +59,17 @@ def reports(window, proxy, home):
     window.press("Report a Problem…")
     window.find("Send", "push button")
     window.keys("a", "b", "Return")
-    check(not window.enabled("Send"), "two characters are no summary")
+    check(not window.enabled("Send"), "a summary of two characters can be sent")
     window.keys("c", "Tab")
     type_text("five")
-    check(not window.enabled("Send"), "four characters are no description")
+    check(not window.enabled("Send"), "a description of four characters can be sent")
     window.keys("Return", "x")
     window.until("enough to send", lambda: window.enabled("Send"))
 
     window.press("Attach diagnostics")
     window.press("View…")
     preview = pathlib.Path(window.until("the preview", lambda: opened(home)))
-    check("---- recent activity ----" in preview.read_text(), "the preview holds the log")
+    check("---- recent activity ----" in preview.read_text(), "the preview lacks the log")
     check(preview.stat().st_mode & 0o77 == 0 and preview.parent.stat().st_mode & 0o77 == 0, "others can read the preview")
     window.press("ondel.example/report")
     check(window.until("the web form", lambda: opened(home)).endswith("/report"), "the web form's address")
@@ -81,7 +77,7 @@ def reports(window, proxy, home):
     proxy.answer = b"HTTP/1.1 502 No\r\nContent-Length: 0\r\nConnection: close\r\n\r\n"
     window.keys("ctrl+Return")
     window.until("the failure", lambda: says(window, ""))
-    check(window.enabled("Send"), "what was typed is still there")
+    check(window.enabled("Send"), "the typed text is lost")
     window.press("Feature request")
     window.gone("Attach diagnostics")
 
@@ -89,11 +85,11 @@ def reports(window, proxy, home):
     count = len(proxy.heard)
     window.press("Send")
     window.until("the second try", lambda: len(proxy.heard) > count)
-    check(not window.enabled("Send"), "one report at a time")
+    check(not window.enabled("Send"), "two reports at a time")
     window.press("Cancel")
     window.gone("Send")
     proxy.connections[-1].settimeout(driver.GUARD_SECONDS)
-    check(proxy.connections[-1].recv(1) == b"", "a cancelled report is not sent")
+    check(proxy.connections[-1].recv(1) == b"", "a cancelled report is sent")
     check(all(heard.startswith(b"CONNECT service.ondel.example:443 ") and b"Ondel-App-Secret" not in heard
               for heard in proxy.heard), str(proxy.heard))
 
@@ -107,7 +103,7 @@ def tells_about(window, home):
 
 
 def ends_beside_dead_proxy_settings(program, home):
-    """Proxy settings may name a script on a server, and nothing breaks off the wait for one that does not answer."""
+    """Proxy settings may name a script on a server. The wait for it cannot be interrupted."""
     silent = socket.create_server(("127.0.0.1", 0))
     env = {"https_proxy": f"pac+http://127.0.0.1:{silent.getsockname()[1]}/proxy.pac"}
     with driver.Window(program, home, env=env) as window:
@@ -145,7 +141,7 @@ def main():
         check(end == (0, ""), f"ended with {end}")
     with driver.Window(program, home, env=env) as window:
         window.find("Ready to benchmark")
-        check(window.look("Not Now") is None, "the note was put away for a week")
+        check(window.look("Not Now") is None, "the dismissed note is shown")
         end = window.terminate()
         check(end == (0, ""), f"ended with {end}")
     ends_beside_dead_proxy_settings(program, home)

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""A real benchmark in the real window, from outside. Usage: driven_window.py PROGRAM"""
+"""A real benchmark in the real window. Usage: driven_window.py PROGRAM"""
 
 import os
 import pathlib
@@ -9,15 +9,11 @@ import subprocess
 import sys
 
 import driver
+from driver import check
 
 LOG = pathlib.Path(os.environ.get("XDG_STATE_HOME", ""), "Ondel Tarnwick", "ondel.log")
 
 TESTS = ["Sequential write", "Sequential read", "Random read (4 KiB)", "Random write (4 KiB)", "File operations"]
-
-
-def check(holds, what):
-    if not holds:
-        raise driver.Failure(what)
 
 
 def choose_small_size(window):
@@ -27,7 +23,7 @@ def choose_small_size(window):
 
 
 def start(window, folder):
-    """Presses run; returns when files are being written."""
+    """Presses the run button and returns when files are being written."""
     window.press("Run Benchmark")
     window.find("Running…", "status bar")
     window.until("the working folder", lambda: list(folder.glob(".ondel-analyzer-*/data.bin")))
@@ -45,7 +41,7 @@ def runs_to_the_end(program, folder):
         choose_small_size(window)
         start(window, folder)
 
-        check(not window.enabled("Volume"), "the volume menu is open to change during a run")
+        check(not window.enabled("Volume"), "the volume can be changed during a run")
         window.until("progress", lambda: 0 < (window.progress(TESTS[0]) or 0) <= 100)
         window.find("Throughput over time", "chart")
 
@@ -93,13 +89,13 @@ def goes_by_keyboard(program, folder):
             window.keys("Tab")
             order.append(window.until("a focused control", window.focused))
         expected = ["Volume", "Run Benchmark", *TESTS, "Size", "Write block", "Read block", "Random block", "Bypass cache"]
-        check(order == expected, f"the keyboard goes {order}")
+        check(order == expected, f"the tab order is {order}")
 
         window.keys("space")
         window.until("the switch off", lambda: not window.shows(window.find("Bypass cache"), "CHECKED"))
         window.keys("shift+Tab", "shift+Tab", "shift+Tab", "shift+Tab", "Return", "Up", "Return")
         window.until("the smaller size", lambda: window.find("Size").get_description() == "1 GiB")
-        check(window.until("the focus back from the menu", window.focused) == "Size", "a menu keeps the focus")
+        check(window.until("the focus back from the menu", window.focused) == "Size", "a menu does not return the focus")
         window.keys("ctrl+Return")
         window.find("Running…", "status bar")
         window.find("Complete", "status bar")
@@ -108,7 +104,7 @@ def goes_by_keyboard(program, folder):
 def refuses_what_it_cannot_use(program, folder):
     with driver.Window(program, folder / "missing") as window:
         window.find("Choose a volume to begin")
-        check(not window.enabled("Run Benchmark"), "a run without a target")
+        check(not window.enabled("Run Benchmark"), "a run is possible without a target")
         status, words = window.terminate()
         check(status == 0 and words.count("\n") == 1 and "missing' is not a folder" in words, f"{status}: {words}")
 
@@ -125,7 +121,7 @@ def tells_why_health_is_missing(program, _folder):
     count = "2 of 3 disks answered: sdb is asleep and was left alone"
     for machine, note, has_section in (("silent", f"No S.M.A.R.T. figures: {reason}", False), ("partial", count, True)):
         with driver.Window(staged, machine) as window:
-            def told():  # it may stand below what is in view
+            def told():  # it may be scrolled out of view
                 return {node.get_name() for node, _ in window.nodes()}
             window.until(repr(note), lambda: note in told())
             check(("S.M.A.R.T." in told()) == has_section, f"{machine}: the tree:\n{window.tree()}")

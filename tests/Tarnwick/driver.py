@@ -1,5 +1,4 @@
-"""Drives the real window from outside, as a person with assistive technology would: by names and roles on the
-accessibility tree (AT-SPI), and by the keyboard."""
+"""Drives the real window from outside: by names and roles of the accessibility tree (AT-SPI), and by the keyboard."""
 
 import contextlib
 import io
@@ -17,13 +16,13 @@ import time
 from displays import X11, display  # noqa: F401
 
 SKIP = 77
-GUARD_SECONDS = 40  # no test of speed: what is not there by then does not come
+GUARD_SECONDS = 40  # not a test of speed: catches what never happens
 ACCESSIBILITY = {"org.a11y.Bus": "/usr/libexec/at-spi-bus-launcher"}
 MAIN = "^Ondel Tarnwick$"  # the title of the main window
 
 
 def bus_configuration(folder, services):
-    """Writes what a session bus of our own is told. It starts only what the folder of service files names."""
+    """Writes the configuration of a private session bus. It starts only services of the folder."""
     path = pathlib.Path(folder, "bus.conf")
     path.write_text(f"""<busconfig><type>session</type><listen>unix:path={folder}/bus</listen><auth>EXTERNAL</auth>
 <servicedir>{services}</servicedir><policy context="default"><allow send_destination="*" eavesdrop="true"/>
@@ -33,7 +32,7 @@ def bus_configuration(folder, services):
 
 @contextlib.contextmanager
 def accessibility(env):
-    """The accessibility bus beside the session bus of `env`. Gives its address."""
+    """Starts the accessibility bus of the session bus of `env`. Returns its address."""
     ask = ["gdbus", "call", "--session", "--dest", "org.a11y.Bus", "--object-path", "/org/a11y/bus", "--method",
            "org.a11y.Bus.GetAddress"]
     with subprocess.Popen(list(ACCESSIBILITY.values()), env=env) as launcher:
@@ -45,8 +44,8 @@ def accessibility(env):
 
 
 def environment(home, services, variables):
-    """What every program of a test gets, and nothing else of the session that started the test: folders in `home`, no other
-    bus, no desktop. The bus of dbus-run-session starts what `services` names, besides the accessibility bus."""
+    """The environment of all programs of a test, without anything of the surrounding session: folders in `home`, no other bus, no
+    desktop. The bus of dbus-run-session starts `services` and the accessibility bus."""
     folder = pathlib.Path(home, "services")
     folder.mkdir()
     for name, program in (ACCESSIBILITY | services).items():
@@ -60,12 +59,12 @@ def environment(home, services, variables):
         "XDG_CONFIG_HOME": f"{home}/config", "XDG_DATA_HOME": f"{home}/data", "XDG_STATE_HOME": f"{home}/state",
         "XDG_CACHE_HOME": f"{home}/cache", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         "GSETTINGS_BACKEND": "memory", "DBUS_SYSTEM_BUS_ADDRESS": "disabled:",
-        "QT_LOGGING_RULES": "qt.accessibility.atspi.warning=false;qt.qpa.wayland.warning=false"} | variables  # Qt 6.8 is chatty
+        "QT_LOGGING_RULES": "qt.accessibility.atspi.warning=false;qt.qpa.wayland.warning=false"} | variables  # warnings of Qt 6.8
 
 
 def enter_display(width=1400, height=1000, services={}, variables={}):
-    """Runs this script again inside a display and a session bus of its own, with its own home. Skips without the tools.
-    The bus starts nothing but `services`: programs by their bus names. Every program gets the `variables`."""
+    """Runs this script again with a display, a session bus and a home of its own. Skips without the tools. The bus starts only
+    `services`, programs by their bus names. Every program gets the `variables`."""
     if os.environ.get("ONDEL_DRIVEN"):
         return
     missing = [tool for tool in ("dbus-run-session", *display.TOOLS) if not shutil.which(tool)]
@@ -85,14 +84,14 @@ def enter_display(width=1400, height=1000, services={}, variables={}):
 
 
 def fast_folder(prefix="ondel test "):
-    """A folder on memory where there is enough of it, else on the temporary folder's disk. Remove it afterwards."""
+    """A folder in memory if there is enough, else in the temporary folder. Remove it afterwards."""
     memory = pathlib.Path("/dev/shm")
     enough = memory.is_dir() and shutil.disk_usage(memory).free > 3 * 2**30
     return tempfile.TemporaryDirectory(prefix=prefix, dir=memory if enough else None)
 
 
 def windows(title):
-    """The shown windows of that title, by their numbers."""
+    """The numbers of the visible windows with that title."""
     return display.windows(title)
 
 
@@ -100,8 +99,13 @@ class Failure(Exception):
     pass
 
 
+def check(holds, what):
+    if not holds:
+        raise Failure(what)
+
+
 def appearing(title):
-    """The first shown window of that title, as soon as there is one."""
+    """Waits for a visible window with that title."""
     end = time.monotonic() + GUARD_SECONDS
     while not (found := windows(title)):
         if time.monotonic() > end:
@@ -111,12 +115,12 @@ def appearing(title):
 
 
 def focus(title):
-    """Gives the keyboard to a window as soon as it stands."""
+    """Waits for a window and gives it the focus."""
     display.focus(appearing(title))
 
 
 class Started:
-    """A program that somebody else started, with what is used here of subprocess.Popen. Its exit status cannot be known."""
+    """A program started by another process, with the interface of subprocess.Popen. Its exit status is not known."""
 
     def __init__(self):
         """Waits for its main window."""
@@ -140,7 +144,7 @@ class Started:
 
 
 def role_of(node):
-    """By the names of before version 2.56 of the accessibility library."""
+    """With role names as before version 2.56 of the accessibility library."""
     name = node.get_role_name()
     return "push button" if name == "button" else name
 
@@ -171,14 +175,14 @@ class Window:
         self.process.stderr.close()
 
     def until(self, what, answer):
-        """Asks until the answer is true and returns it."""
+        """Calls `answer` until its result is true, and returns it."""
         end = time.monotonic() + GUARD_SECONDS
         while time.monotonic() < end:
             while self.events.pending():
                 self.events.iteration(False)
             try:
                 found = answer()
-            except self.gone_error:  # nodes vanish while they are walked
+            except self.gone_error:  # nodes may vanish during the walk
                 found = None
             if found:
                 return found
@@ -211,7 +215,7 @@ class Window:
         return all(held.contains(getattr(self.atspi.StateType, state)) for state in states)
 
     def look(self, name, role=None):
-        """The node that is on the screen now, or None."""
+        """The visible node, or None."""
         for node, _ in self.nodes():
             if node.get_name() == name and role in (None, role_of(node)) and self.shows(node, "SHOWING"):
                 return node
@@ -240,18 +244,18 @@ class Window:
         self.until(f"the focus on {name!r}", lambda: self.focused() == name)
 
     def context_menu(self, name):
-        """By its key, which is the only way without a pointer."""
+        """By its access key, the only way without a pointer."""
         self.grab(name)
         self.keys("Menu")
 
     def hover(self, name, role=None):
-        """Puts the pointer there, a little inside its leading edge."""
+        """Moves the pointer to it, a little inside its leading edge."""
         place = self.find(name, role).get_extents(self.atspi.CoordType.SCREEN)
-        # The toolkit tells the bus logical pixels.
+        # Qt reports logical pixels on the bus.
         display.point(*(round(at * float(self.scale)) for at in (place.x + 20, place.y + place.height / 2)))
 
     def resize(self, width, height):
-        """Units: logical pixels, as far as the screen has them."""
+        """Units: logical pixels, clipped to the screen."""
         scale = float(self.scale)
         display.resize(self.id(), round(width * scale), round(height * scale))
         self.settled()
@@ -260,7 +264,7 @@ class Window:
         display.type(text)
 
     def listen(self):
-        """A list that is filled with the names that the window's nodes take on from now on."""
+        """A list that receives all names that nodes of the window get from now on."""
         heard = []
 
         def hear(event):
@@ -273,7 +277,7 @@ class Window:
         return heard
 
     def progress(self, title):
-        """The percentage that the progress bar of a test tells; None while there is no such bar."""
+        """The percentage of a test's progress bar; None without one."""
         for node, _ in self.nodes():
             if role_of(node) == "progress bar" and self.shows(node, "SHOWING"):
                 told = re.fullmatch(re.escape(title) + r": (\d+) %", node.get_name())
@@ -294,7 +298,7 @@ class Window:
         return None
 
     def settled(self, title=MAIN):
-        """Waits until two pictures of the window are alike: nothing moves any more."""
+        """Waits until two successive pictures of the window are equal."""
         def shown():
             return display.pixels(self.id(title))
 

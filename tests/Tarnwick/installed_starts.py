@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""The installed package, started in each way that a desktop has, with no window there before.
+"""The installed package, started in each way that a desktop has, without an open window.
 Usage: installed_starts.py ROOT, as root. ROOT is a Debian with the package, a message bus and gio; display and
 accessibility stay outside."""
 
@@ -15,12 +15,12 @@ import tempfile
 import driver
 import saved_runs
 from driven_requests import NAME, OBJECT, run_file, shows_run
-from driven_window import check
+from driver import check
 
 
 
 def entrance(root, program, path):
-    """Writes a program that runs one of the root's in there, in the process that was started."""
+    """Writes a program that runs one of the root's inside of the root, in the same process."""
     mounts = " && ".join(f"mount --bind {where} {shlex.quote(str(root))}{where}" for where in ("/tmp", "/dev", "/dev/shm", "/sys"))
     inner = f"{mounts} && mount -t proc proc {shlex.quote(str(root))}/proc && exec chroot {shlex.quote(str(root))} {program} \"$@\""
     path.write_text(f"#!/bin/sh\nexec unshare --mount sh -c {shlex.quote(inner)} {path.name} \"$@\"\n")
@@ -30,7 +30,7 @@ def entrance(root, program, path):
 
 @contextlib.contextmanager
 def bus_in(root, tools):
-    """The root's own session bus: what it starts, it starts in there. Gives the environment of its clients."""
+    """The session bus of the root, which starts programs inside of it. Returns the environment of its clients."""
     configuration = driver.bus_configuration(tools, "/usr/share/dbus-1/services")
     daemon = entrance(root, "/usr/bin/dbus-daemon", tools / "dbus-daemon")
     with subprocess.Popen([daemon, f"--config-file={configuration}", "--nofork", "--print-address"], stdout=subprocess.PIPE,
@@ -70,7 +70,7 @@ def starts(root, folder, tools):
     with bus_in(root, tools) as env:
         for what, (command, has_begun) in ways.items():
             saved_runs.lay_down([])
-            # Into a file: a program that the launcher starts itself would keep a pipe open.
+            # Not a pipe, which a program started by the launcher would keep open.
             with open(tools / "words", "w+") as words:
                 done = subprocess.run(command, env=env, stdout=words, stderr=words)
             try:

@@ -1,4 +1,4 @@
-"""Histories as a window finds them at its start: files that the tests, the pictures and the benchmarks lay down."""
+"""History files for tests, pictures and benchmarks, written before a window starts."""
 
 import json
 import math
@@ -14,14 +14,14 @@ VOLUMES = [("Samsung SSD 990 PRO", "Internal", "internalDrive", "ext4", 6_400_00
 
 
 def curve(rate, seconds, points, seed):
-    """A jagged curve around a rate that falls off at the end, as a drive's does when its cache is full."""
+    """A jagged curve that falls at the end, like that of a drive with a full cache."""
     return [{"t": seconds * (i + 1) / points,
              "v": rate * (1 + 0.12 * math.sin(1.7 * i + seed) + 0.08 * math.sin(0.31 * i * seed + 2)) * (0.55 if i > 0.8 * points else 1)}
             for i in range(points)]
 
 
 def run(index, **fields):
-    """A complete record; `fields` change it, None takes a field away."""
+    """A complete record; `fields` replace its fields, None removes one."""
     name, connection, kind, file_system, write, read = VOLUMES[index % len(VOLUMES)]
     seconds = 5 * GB / write
     record = {
@@ -45,7 +45,7 @@ FACTS = ("fsType", "optimalIO", "blockSize", "maxName", "capacityBytes", "freeBy
 
 
 def odd_runs():
-    """What a run may be at its worst, and names as people give them."""
+    """Extreme runs and names."""
     nothing = dict.fromkeys(FIGURES) | {"writeSamples": [], "readSamples": []}
     one = {"writeSamples": [{"t": 0.4, "v": 9e8}], "readSamples": [{"t": 0.2, "v": 1e9}]}
     still = {"writeSamples": [{"t": 2, "v": 1e8 * i} for i in range(159)], "readSamples": [{"t": 0, "v": 5e8}] * 159}
@@ -72,7 +72,7 @@ def history(data_home=None):
 
 
 def lay_down(runs, data_home=None):
-    """Writes them as the history of the programs that start from now on."""
+    """Writes them as the history of programs that start afterwards."""
     file = history(data_home)
     file.parent.mkdir(parents=True, exist_ok=True)
     file.write_text(json.dumps(runs, ensure_ascii=False), encoding="utf-8")
