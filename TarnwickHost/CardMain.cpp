@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::array options{Option{"--dark", "", ""}};
 
-/// The toolkit aborts when a part of it is not installed. People get its reason on one line instead.
+/// Qt aborts if one of its plugins is missing. This prints the reason on one line instead.
 void explainFailure(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type != QtCriticalMsg && type != QtFatalMsg)
         return;
@@ -49,7 +49,7 @@ int draw(const CommandLine& line) {
 } // namespace
 
 int main(int argc, char** argv) {
-    // No display is asked, also where there is one: it could not be reached, and would change nothing.
+    // Drawing needs no display, and one that is named may not be reachable.
     setenv("QT_QPA_PLATFORM", "offscreen", 0); // NOLINT(concurrency-mt-unsafe): no other thread runs yet
     qInstallMessageHandler(explainFailure);
     try {

@@ -9,7 +9,7 @@ namespace TarnwickHost {
 
 enum ExitStatus : int { done = 0, failed = 1, wrongUsage = 2, interrupted = 130 };
 
-/// One thing that the program can do: "tarnwick-host NAME …". Each lives in a file of its own.
+/// One thing that the program can do: "tarnwick-host NAME …".
 struct Command {
     std::string_view name;
     std::string_view operands; ///< as the usage line shows them: "FOLDER"
@@ -28,8 +28,5 @@ extern const Command cardCommand;
 extern const Command factsCommand;
 extern const Command volumesCommand;
 extern const Command smartReportCommand;
-
-/// All commands, in the order in which --help lists them.
-std::span<const Command* const> commands();
 
 } // namespace TarnwickHost

@@ -1,6 +1,15 @@
 #include "TarnwickHost/CommandLine.h"
 
+#include "OndelCore/platform/volumes/PathFacts.h"
+
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <system_error>
 
 namespace TarnwickHost {
 
@@ -12,6 +21,42 @@ const Option& find(std::span<const Option> options, std::string_view name) {
     if (found == options.end())
         throw UsageError("there is no option " + quoted(name));
     return *found;
+}
+
+/// Absent unless the whole of `text` is one number that `Number` can hold.
+template <typename Number>
+std::optional<Number> parsed(std::string_view text) {
+    Number number{};
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc{} || stop != end)
+        return std::nullopt;
+    return number;
+}
+
+/// The shift that `unit` stands for. Absent: no unit of ours.
+std::optional<int> binaryShift(std::string_view unit) {
+    struct Unit {
+        std::string_view letter;
+        std::string_view name;
+        int shift;
+    };
+    static constexpr std::array units{Unit{"", "B", 0}, Unit{"k", "kib", 10}, Unit{"m", "mib", 20},
+                                      Unit{"g", "gib", 30}, Unit{"t", "tib", 40}};
+    std::string lower(unit);
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](char letter) { return letter >= 'A' && letter <= 'Z' ? char(letter + 32) : letter; });
+    for (const Unit& known : units)
+        if (lower == known.letter || lower == known.name || unit == known.name)
+            return known.shift;
+    return std::nullopt;
+}
+
+[[noreturn]] void refuse(std::string_view option, std::string_view text, std::string_view wanted,
+                         Range range) {
+    throw UsageError(std::string(option) + " needs " + std::string(wanted) + " from " +
+                     std::to_string(range.least) + " to " + std::to_string(range.most) + ", not " +
+                     quoted(text));
 }
 
 } // namespace
@@ -53,6 +98,53 @@ void CommandLine::takeOption(std::span<const Option> options, std::span<const ch
 std::optional<std::string_view> CommandLine::value(std::string_view option) const {
     const auto found = m_values.find(option);
     return found == m_values.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::int64_t wholeNumber(std::string_view option, std::string_view text, Range range) {
+    const auto number = parsed<std::int64_t>(text);
+    if (!number || *number < range.least || *number > range.most)
+        refuse(option, text, "a whole number", range);
+    return *number;
+}
+
+std::int64_t byteCount(std::string_view option, std::string_view text, Range range) {
+    static constexpr std::string_view wanted = "a number of bytes, such as 4096, 64K or 5GiB,";
+    const std::size_t digitsEnd = std::min(text.find_first_not_of("-0123456789"), text.size());
+    std::string_view unit = text.substr(digitsEnd);
+    if (unit.starts_with(' '))
+        unit.remove_prefix(1);
+    const auto number = parsed<std::int64_t>(text.substr(0, digitsEnd));
+    const auto shift = binaryShift(unit);
+    std::int64_t bytes = 0;
+    if (!number || !shift || __builtin_mul_overflow(*number, std::int64_t{1} << *shift, &bytes) ||
+        bytes < range.least || bytes > range.most)
+        refuse(option, text, wanted, range);
+    return bytes;
+}
+
+double seconds(std::string_view option, std::string_view text) {
+    const auto number = parsed<double>(text);
+    if (!number || !std::isfinite(*number) || std::signbit(*number))
+        throw UsageError(std::string(option) + " needs a number of seconds, 0 or more, not " + quoted(text));
+    return *number;
+}
+
+FolderLook look(std::string_view folder) {
+    const auto facts = OndelCore::platform::pathFacts(folder);
+    if (!facts)
+        throw std::runtime_error(quoted(folder) + " does not answer");
+    return {.error = facts->error, .isFolder = facts->isFolder};
+}
+
+std::filesystem::path folderIn(const CommandLine& line) {
+    if (line.operands().empty())
+        throw UsageError("a FOLDER is missing");
+    if (line.operands().size() > 1)
+        throw UsageError("one FOLDER at a time");
+    const std::string_view folder = line.operands().front();
+    if (const int error = look(folder).error; error != 0)
+        throw UsageError(quoted(folder) + ": " + std::generic_category().message(error));
+    return folder;
 }
 
 } // namespace TarnwickHost

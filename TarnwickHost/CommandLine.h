@@ -2,6 +2,8 @@
 
 #include "TarnwickKit/model/format/DisplayText.h"
 
+#include <cstdint>
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <span>
@@ -51,5 +53,36 @@ private:
     std::vector<std::string_view> m_operands;
     bool m_wantsHelp = false;
 };
+
+/// The limits of a whole number on the command line; both ends are allowed.
+struct Range {
+    std::int64_t least = 0;
+    std::int64_t most = 0;
+};
+
+/// `text` as a whole number in plain decimal digits.
+/// Fails: throws UsageError naming `option` unless all of `text` is one number within `range`.
+std::int64_t wholeNumber(std::string_view option, std::string_view text, Range range);
+
+/// `text` as a number of bytes: plain digits, or with a binary unit behind them (K, M, G, T, KiB, MiB, GiB,
+/// TiB; "5G" is 5 x 1024 x 1024 x 1024). Decimal units are refused, because "5 GB" is read in two ways.
+/// Fails: as wholeNumber.
+std::int64_t byteCount(std::string_view option, std::string_view text, Range range);
+
+/// `text` as seconds, not negative. Fails: throws UsageError naming `option`, also for what is not finite.
+double seconds(std::string_view option, std::string_view text);
+
+/// How a folder on the command line can be looked at. `error`: errno of a look-up that failed, else 0.
+struct FolderLook {
+    int error = 0;
+    bool isFolder = false;
+};
+
+/// Waits up to half a minute for a volume that may be waking up; signals end the program meanwhile. Fails:
+/// throws std::runtime_error with a sentence for people if it does not answer.
+FolderLook look(std::string_view folder);
+
+/// The one operand of a command, which must exist. Fails: throws UsageError, else as `look`.
+std::filesystem::path folderIn(const CommandLine& line);
 
 } // namespace TarnwickHost

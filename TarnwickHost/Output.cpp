@@ -18,7 +18,7 @@ namespace {
 } // namespace
 
 void occupyStandardDescriptors() {
-    // Opened the wrong way round on purpose: transfers through them fail with EBADF, as on a closed one.
+    // Opened for the opposite direction, so that transfers fail with EBADF as on a closed descriptor.
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         if (fcntl(descriptor, F_GETFD) < 0)
             open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);

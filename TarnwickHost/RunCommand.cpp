@@ -1,17 +1,19 @@
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "TarnwickHost/CardProgram.h"
+#include "OndelCore/volumes/VolumeCapabilities.h"
+#include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickHost/Card.h"
 #include "TarnwickHost/Command.h"
-#include "TarnwickHost/HandOff.h"
 #include "TarnwickHost/Output.h"
-#include "TarnwickHost/ProgressBar.h"
-#include "TarnwickHost/ResultJson.h"
-#include "TarnwickHost/ResultTable.h"
+#include "TarnwickHost/Progress.h"
+#include "TarnwickHost/Results.h"
 #include "TarnwickHost/RunEventLoop.h"
 #include "TarnwickHost/RunOptions.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
+#include "TarnwickKit/model/runs/TarnwickReport.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
+#include <QDateTime>
 #include <QJsonDocument>
 
 #include <chrono>
@@ -22,21 +24,43 @@
 #include <vector>
 
 using namespace OndelCore::benchmark;
+using namespace OndelCore::volumes;
 using TarnwickKit::model::AnalyzerModel;
 
 namespace TarnwickHost {
 
 namespace {
 
-/// Removes what killed runs left in the folder. What is in use is waited for, but not long: a run that goes
-/// on there can take hours.
+/// Facts for the run file as they were before the run. Make it before the run starts.
+class HandOff {
+public:
+    /// Blocks on asking for the volume that holds `folder`. Fails: never, what is not told is absent.
+    explicit HandOff(const std::filesystem::path& folder)
+        : m_volume(VolumeInfo::load(Location::local(folder)))
+        , m_capabilities(VolumeCapabilities::probe(Location::local(folder))) {}
+
+    /// Writes the run file. Fails: absent.
+    std::optional<std::filesystem::path> write(const BenchmarkPlan& plan,
+                                               const BenchmarkResult& result) const {
+        return TarnwickKit::model::TarnwickReport::from(result, m_volume, m_capabilities, m_date, plan)
+            .handoffFile();
+    }
+
+private:
+    std::optional<VolumeInfo> m_volume;
+    std::optional<VolumeCapabilities> m_capabilities;
+    QDateTime m_date = QDateTime::currentDateTimeUtc();
+};
+
+/// Removes what killed runs left in the folder. Waits for files in use a second only: another run can take
+/// hours.
 void sweep(const std::filesystem::path& folder) {
     constexpr std::chrono::seconds patience{1};
     if (BenchmarkEngine::cleanupOrphans(folder, patience) > 0)
         complain("Files of another run in this folder are in use and were not removed.");
 }
 
-/// One line for each flush to the medium that failed; the figures do not show it.
+/// Prints a line for each failed flush to the medium, which the figures do not show.
 void complainOfFlushes(const RunOptions& options, const BenchmarkResult& result) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(options.plan.randomBlockSize);
     for (const FlushFailure& failure : result.flushFailures()) {
@@ -47,7 +71,7 @@ void complainOfFlushes(const RunOptions& options, const BenchmarkResult& result)
     }
 }
 
-/// Runs to the end what `options` ask for. Fails: as BenchmarkEngine::run.
+/// Runs the benchmark to its end. Fails: as BenchmarkEngine::run.
 BenchmarkResult measured(const RunOptions& options) {
     RunEventLoop watch;
     std::stop_source stop;
@@ -87,7 +111,8 @@ struct Files {
     std::optional<std::filesystem::path> card;
 };
 
-/// Writes what `options` ask for. A file that cannot be made gets a line on standard error and is absent.
+/// Writes the files that `options` ask for. One that cannot be written is absent, with a line on standard
+/// error.
 Files written(const RunOptions& options, const HandOff& handOff, const BenchmarkResult& result) {
     Files files{.run = handOff.write(options.plan, result), .card = std::nullopt};
     if (!files.run) {

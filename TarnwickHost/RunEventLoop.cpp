@@ -23,10 +23,9 @@ RunEventLoop::RunEventLoop() {
 
     for (std::size_t index = 0; index < handledSignals.size(); ++index)
         sigaction(handledSignals.at(index), nullptr, &m_previousActions.at(index));
-    // A shell script's background job is started with SIGINT ignored. Whoever sends it one all the same wants
-    // it to stop.
+    // A shell script starts background jobs with SIGINT ignored. An explicit SIGINT must still stop the run.
     std::signal(SIGINT, SIG_DFL);
-    // Ctrl+\ would leave the files behind. Ctrl+C ends a run as fast as the disk allows.
+    // Ctrl+\ would leave the files behind; Ctrl+C ends the run.
     std::signal(SIGQUIT, SIG_IGN);
     m_termination = OndelCore::platform::terminationRequestDescriptor();
 }

@@ -8,12 +8,9 @@
 
 namespace TarnwickHost {
 
-/// Lets the main thread sleep until a run has ended, the system asks the program to end, or it is time for
-/// the next frame.
-///
-/// While the object lives, no signal that people send from a terminal or a script ends the process: the files
-/// of the run are removed first, whatever impatient second signal follows. Afterwards signals do what they
-/// did before.
+/// Waits for the end of a run, a request to end the program, or the time of the next frame.
+/// While the object lives, signals from a terminal or a script do not end the process, however many come, so
+/// that the run's files are removed first. The destructor restores the previous signal actions.
 /// Threads: the main one, one object at a time.
 class RunEventLoop {
 public:

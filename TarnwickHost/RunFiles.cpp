@@ -2,13 +2,20 @@
 
 #include "TarnwickHost/CommandLine.h"
 #include "TarnwickHost/Output.h"
+#include "TarnwickKit/model/format/DisplayText.h"
+#include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/RunRecordJson.h"
+
+#include <QStringList>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <string>
 #include <system_error>
 
@@ -32,6 +39,108 @@ std::string whyUnread(const std::string& path) {
     return " could not be read";
 }
 
+constexpr int leastColumns = 24;
+constexpr int labelColumns = 14;
+const QString separator = " · ";
+const QString parameterSeparator = "  ·  ";
+
+/// `parts` behind a label, on as many lines as they need.
+QString wrapped(const QString& label, const QStringList& parts, const QString& between, int columns) {
+    const int room = columns - static_cast<int>(label.size());
+    QStringList lines;
+    for (const QString& part : parts) {
+        const QString piece = fitted(part, room);
+        if (!lines.isEmpty() && columnsOf(lines.last()) + between.size() + columnsOf(piece) <= room)
+            lines.last() += between + piece;
+        else
+            lines << piece;
+    }
+    const QString indentation(label.size(), ' ');
+    return lines.isEmpty() ? QString() : label + lines.join('\n' + indentation) + '\n';
+}
+
+QString rate(std::optional<double> bytesPerSecond) {
+    return bytesPerSecond ? Format::rate(*bytesPerSecond) : "--";
+}
+
+QString count(std::optional<double> perSecond, const char* unit) {
+    return perSecond ? Format::compact(*perSecond) + ' ' + unit : "--";
+}
+
+QStringList sequential(std::optional<double> sustained, std::optional<double> peak,
+                       std::optional<double> lowest) {
+    if (!sustained && !peak && !lowest)
+        return {};
+    return {rate(sustained), "peak " + rate(peak), "lowest " + rate(lowest)};
+}
+
+QStringList random(std::optional<double> iops, std::optional<double> bytesPerSecond) {
+    if (!iops && !bytesPerSecond)
+        return {};
+    return {count(iops, "IOPS"), rate(bytesPerSecond)};
+}
+
+QString runText(const RunRecord& run, const QString& number, int columns) {
+    const auto row = [columns](const char* label, const QStringList& parts,
+                               const QString& between = separator) {
+        return wrapped(QString(label).leftJustified(labelColumns), parts, between, columns);
+    };
+    QStringList volume;
+    for (const QString& part : {run.volumeName, run.connection, run.deviceModel.value_or(QString()),
+                                run.deviceProtocol.value_or(QString())})
+        if (!part.isEmpty())
+            volume << part;
+    const QStringList stamp = Format::runStamp(run.date, run.duration).split(separator);
+    const QStringList parameters =
+        ComparisonChart::parameterSummary(run).split(parameterSeparator, Qt::SkipEmptyParts);
+    return number + fitted(run.screenshotTitle(), columns - static_cast<int>(number.size())) + '\n' +
+           wrapped({}, stamp, separator, columns) +
+           row("Write", sequential(run.writeBps, run.writePeakBps, run.writeMinBps)) +
+           row("Read", sequential(run.readBps, run.readPeakBps, run.readMinBps)) +
+           row("Random read", random(run.randomReadIOPS, run.randomReadBps)) +
+           row("Random write", random(run.randomWriteIOPS, run.randomWriteBps)) +
+           row("File ops",
+               run.fileOpsPerSec ? QStringList(count(run.fileOpsPerSec, "ops/s")) : QStringList()) +
+           row("Volume", volume) + row("Parameters", parameters, parameterSeparator);
+}
+
+/// The bar on a track of `cells`, drawn in halves of a cell where the terminal has them.
+QString bar(std::optional<double> length, int cells, bool unicode) {
+    if (!length)
+        return QString(cells, ' ');
+    const auto halves = std::clamp(static_cast<int>(std::lround(*length * 2)), 2, cells * 2);
+    if (!unicode)
+        return QString(halves / 2, '#').leftJustified(cells);
+    return (QString(halves / 2, QChar(0x2588)) + QString(halves % 2, QChar(0x258C))).leftJustified(cells);
+}
+
+/// A metric's bars, with the titles at the end: where a terminal draws them narrower than foreseen, nothing
+/// behind them is displaced.
+QString comparisonText(const CompareMetric& metric, const std::vector<RunRecord>& runs, LineStyle style) {
+    // On a track that long the chart's own shortest bar, 3 points, is below a cell.
+    constexpr double pointsPerCell = 8;
+    constexpr int widestTrack = 40;
+    const auto numberColumns = QString::number(runs.size()).size();
+    const int cells = std::min(style.columns * 2 / 5, widestTrack);
+    const auto lines = ComparisonChart::bars(metric, runs, cells * pointsPerCell);
+    qsizetype figureColumns = 0;
+    for (const ComparisonChart::Bar& line : lines)
+        figureColumns = std::max(figureColumns, line.text.size());
+
+    QString text = metric.label + separator + metric.unit + '\n';
+    for (std::size_t index = 0; index < runs.size(); ++index) {
+        std::optional<double> length = lines[index].length;
+        if (length)
+            *length /= pointsPerCell;
+        const QString line = QString::number(index + 1).rightJustified(numberColumns) + ' ' +
+                             bar(length, cells, style.unicode) + ' ' +
+                             lines[index].text.rightJustified(figureColumns) + "  ";
+        const int room = std::max(1, style.columns - static_cast<int>(line.size()));
+        text += line + fitted(runs[index].screenshotTitle(), room) + '\n';
+    }
+    return text;
+}
+
 } // namespace
 
 std::vector<RunRecord> readRuns(std::span<const std::string_view> paths) {
@@ -46,6 +155,18 @@ std::vector<RunRecord> readRuns(std::span<const std::string_view> paths) {
             complain(quoted(operand) + (content ? " is not a run file" : whyUnread(path)));
     }
     return runs;
+}
+
+QString runTexts(const std::vector<RunRecord>& runs, LineStyle style) {
+    style.columns = std::max(style.columns, leastColumns);
+    QStringList blocks;
+    for (std::size_t index = 0; index < runs.size(); ++index)
+        blocks << runText(runs[index], runs.size() > 1 ? QString::number(index + 1) + ' ' : QString(),
+                          style.columns);
+    if (runs.size() > 1)
+        for (const CompareMetric& metric : ComparisonChart::activeMetrics(runs))
+            blocks << comparisonText(metric, runs, style);
+    return blocks.join('\n');
 }
 
 } // namespace TarnwickHost

@@ -1,7 +1,6 @@
 #include "TarnwickHost/RunOptions.h"
 
-#include "TarnwickHost/Folder.h"
-#include "TarnwickHost/Numbers.h"
+#include "TarnwickHost/CommandLine.h"
 
 #include <algorithm>
 #include <array>
@@ -20,10 +19,10 @@ namespace TarnwickHost {
 
 namespace {
 
-/// The window's own interval, so that peak and lowest rates of both can be compared.
+/// The window's interval, so that the peak and lowest rates of both can be compared.
 constexpr double defaultSampleIntervalSeconds = 0.02;
 
-// Beyond these a run could only end by exhausting the machine, and a killed run leaves its files behind.
+// Larger values would exhaust the machine, and a killed run leaves its files behind.
 constexpr Range sizeRange{0, std::int64_t{1} << 60};
 constexpr Range blockRange{std::numeric_limits<std::int64_t>::min(), std::int64_t{1} << 30};
 constexpr Range randomOpRange{0, 1'000'000'000};

@@ -23,9 +23,8 @@ struct RunOptions {
 /// The options that "run" knows, for its parser and its --help.
 std::span<const Option> runOptionTable();
 
-/// Reads `line`, checked far enough that nothing which follows can be a slip of the keyboard: numbers within
-/// what a machine can do, tests that exist, one folder that is there. Whether it can be written is left to
-/// the engine, which finds out by writing. Fails: throws UsageError.
+/// Reads and checks `line`: numbers within sensible limits, known tests, one existing folder. Whether the
+/// folder can be written to is left to the engine. Fails: throws UsageError.
 RunOptions runOptions(const CommandLine& line);
 
 } // namespace TarnwickHost

@@ -1,7 +1,6 @@
 #include "TarnwickHost/Command.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/RunFiles.h"
-#include "TarnwickHost/RunText.h"
 
 #include <unistd.h>
 

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QString>
+
+#include <vector>
+
 namespace TarnwickHost {
 
 /// How a terminal draws: what fits on one line, and whether it knows more than ASCII.
@@ -11,5 +15,14 @@ struct LineStyle {
 /// That of the terminal behind `descriptor`, or of one with 80 columns where none is. Counts one column less
 /// than it has: a character in the last one would wrap the line in some. Needs LC_CTYPE to be the user's.
 LineStyle lineStyle(int descriptor);
+
+using TextRow = std::vector<QString>;
+
+/// Where the cells behind the first one stand in their columns: texts left, figures right.
+enum class CellsStand { left, right };
+
+/// Rows in columns shared by all of them, two blanks apart, each row on one line: control characters inside a
+/// cell become marks.
+QString textColumns(const std::vector<TextRow>& rows, CellsStand stand = CellsStand::left);
 
 } // namespace TarnwickHost

@@ -5,6 +5,7 @@
 #include "TarnwickKit/model/format/DisplayText.h"
 
 #include <algorithm>
+#include <array>
 #include <clocale>
 #include <csignal>
 #include <exception>
@@ -16,6 +17,10 @@ using TarnwickKit::model::columnsOf;
 namespace {
 
 constexpr std::string_view program = "tarnwick-host";
+
+/// In the order in which --help lists them.
+constexpr std::array commands{&runCommand,   &showCommand,    &cardCommand,
+                              &factsCommand, &volumesCommand, &smartReportCommand};
 
 /// Two columns: the words on the left, what they mean on the right.
 class HelpLines {
@@ -57,7 +62,7 @@ std::string helpOf(const Command& command) {
 
 std::string helpOfProgram() {
     HelpLines lines(24);
-    for (const Command* command : commands())
+    for (const Command* command : commands)
         lines.add(std::string(command->name) + " " + std::string(command->operands), command->summary);
     lines.add("--help", "Show this text, or behind a command that command's options");
     lines.add("--version", "Show the version");
@@ -90,7 +95,7 @@ int dispatch(std::span<const char* const> words) {
         print(std::string(program) + " " ONDEL_VERSION "\n");
         return done;
     }
-    for (const Command* command : commands())
+    for (const Command* command : commands)
         if (first == command->name)
             return execute(*command, words.subspan(1));
     const std::string hint = "; see " + std::string(program) + " --help";
@@ -104,7 +109,7 @@ int dispatch(std::span<const char* const> words) {
 int main(int argc, char** argv) {
     occupyStandardDescriptors();
     std::signal(SIGPIPE, SIG_IGN);
-    // Only how the terminal encodes characters: numbers and dates ask for the locale themselves.
+    // The character encoding only: numbers and dates look up the locale themselves.
     // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread runs yet.
     std::setlocale(LC_CTYPE, "");
     try {

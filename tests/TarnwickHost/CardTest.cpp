@@ -69,7 +69,7 @@ TEST(Card, IsDrawnAfterTheRunAndFromItsFile) {
     fs::remove_all(shared);
 }
 
-TEST(Card, IsDrawnByNoProgramOfTheCurrentFolder) {
+TEST(Card, RunsNoProgramOfTheCurrentFolder) {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "the address sanitizer needs /proc itself";
 #endif

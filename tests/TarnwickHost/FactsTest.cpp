@@ -58,6 +58,8 @@ TEST(Facts, KeepTheBytesOfAMountPointAndLeaveOutWhatIsNotKnown) {
     EXPECT_TRUE(url.endsWith("/50%25%20caf%E9")) << url.toStdString();
     EXPECT_EQ(QByteArray::fromPercentEncoding(url).toStdString(), "file://" + point.string());
     EXPECT_FALSE(facts["capabilities"].toObject().contains("optimalIOSize"));
+    EXPECT_TRUE(QString::fromLocal8Bit(text).contains(QRegularExpression("\\n *Block size +4.0 KiB\\n")))
+        << text;
     EXPECT_TRUE(QString::fromLocal8Bit(text).contains(QRegularExpression("\\n *Optimal transfer +--\\n")))
         << text;
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(HangingVolume, DoesNotKeepACommandFromEnding) {
+TEST(HangingVolume, DoesNotBlockTheEndOfACommand) {
     const test::DeafFileSystem seen;
     if (!seen.problem().empty())
         GTEST_SKIP() << seen.problem();

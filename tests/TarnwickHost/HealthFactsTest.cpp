@@ -1,5 +1,4 @@
-#include "TarnwickHost/HealthFacts.h"
-
+#include "TarnwickHost/Facts.h"
 #include "TarnwickHost/HostProcess.h"
 
 #include <QJsonDocument>

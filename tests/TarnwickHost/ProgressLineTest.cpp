@@ -1,4 +1,4 @@
-#include "TarnwickHost/ProgressLine.h"
+#include "TarnwickHost/Progress.h"
 
 #include <gtest/gtest.h>
 

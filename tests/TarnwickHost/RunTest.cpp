@@ -24,7 +24,7 @@ using test::runHost;
 
 namespace {
 
-/// Runs of a few megabytes, in a folder whose name is no valid UTF-8.
+/// Runs of a few megabytes, in a folder whose name is not valid UTF-8.
 class Run : public testing::Test {
 protected:
     void SetUp() override {
@@ -34,7 +34,7 @@ protected:
     }
     bool folderIsEmpty() const { return fs::is_empty(folder); }
 
-    /// One that lasts until it is told to stop.
+    /// A run that lasts until it is stopped.
     std::vector<std::string> endlessRun() const {
         return {"run", "--tests", "randomRead", "--size", "1M", "--random-ops", "1000000000", folder};
     }
@@ -98,7 +98,7 @@ void expectRandom(const QJsonObject& part, qint64 operations, qint64 block) {
     EXPECT_DOUBLE_EQ(part["bytesPerSecond"].toDouble(), iops * static_cast<double>(block));
 }
 
-TEST_F(Run, JsonHoldsThePlanTheFiguresAndWhatFollowsFromThem) {
+TEST_F(Run, JsonHoldsThePlanAndAllFigures) {
     constexpr qint64 size = 3 * 1048576 + 4999;
     const auto outcome = runHost({"run", "--json", "--size", std::to_string(size), "--write-block", "-7",
                                   "--read-block=64KiB", "--random-block", "5000", "--random-ops", "600",
@@ -150,7 +150,7 @@ TEST_F(Run, TestsThatWereNotAskedForHaveNoKey) {
     EXPECT_EQ(run["plan"]["sampleInterval"].toDouble(), 0.02);
 }
 
-TEST_F(Run, TableIsAlignedAndInPeoplesWords) {
+TEST_F(Run, TableIsAligned) {
     const auto outcome = runHost({"run", "--size", "2M", "--random-ops", "50", "--file-ops", "50", folder});
     ASSERT_EQ(outcome.exitStatus, 0) << outcome.errors;
     EXPECT_EQ(outcome.errors, "") << "no progress where no terminal is";
@@ -182,7 +182,7 @@ TEST_F(Run, FailuresAreOneSentence) {
     EXPECT_TRUE(folderIsEmpty());
 }
 
-TEST_F(Run, AnOutputThatTakesNothingIsAFailure) {
+TEST_F(Run, FailsIfTheOutputCannotBeWritten) {
     for (const Output output : {Output::closed, Output::fullDevice, Output::brokenPipe}) {
         const auto outcome = runHost({"run", "--tests", "fileOps", "--file-ops", "1", folder}, output);
         EXPECT_EQ(outcome.exitStatus, 1);
@@ -191,8 +191,8 @@ TEST_F(Run, AnOutputThatTakesNothingIsAFailure) {
     EXPECT_TRUE(folderIsEmpty());
 }
 
-/// The disk is an image on a full tmpfs: the cache takes what the medium then refuses.
-TEST(FailingDisk, ALostFlushIsToldBesideTheFigures) {
+/// The disk is an image on a full tmpfs: writes succeed in the cache and fail at the flush.
+TEST(FailedFlush, IsReportedBesideTheFigures) {
     const test::LoopMount memory("tmpfs", 24 << 20);
     const test::LoopMount volume("ext2", 1400 << 20, {}, {"-q"}, memory.path());
     if (const std::string problem = memory.problem() + volume.problem(); !problem.empty())
@@ -211,7 +211,7 @@ TEST(FailingDisk, ALostFlushIsToldBesideTheFigures) {
     EXPECT_EQ(std::distance(fs::directory_iterator(volume.path()), {}), 1) << "but for lost+found";
 }
 
-TEST_F(Run, WhatAKilledRunLeftIsRemovedByTheNext) {
+TEST_F(Run, RemovesWhatAKilledRunLeft) {
     {
         HostProcess killed({.arguments = endlessRun()});
         test::waitForWorkingFolder(folder);
@@ -221,7 +221,7 @@ TEST_F(Run, WhatAKilledRunLeftIsRemovedByTheNext) {
     EXPECT_TRUE(folderIsEmpty());
 }
 
-TEST_F(Run, ARunGoingOnInTheSameFolderIsLeftAlone) {
+TEST_F(Run, LeavesAnotherRunInTheSameFolderAlone) {
     HostProcess first({.arguments = endlessRun()});
     test::waitForWorkingFolder(folder);
     EXPECT_EQ(runHost({"run", "--tests", "fileOps", "--file-ops", "1", folder}).exitStatus, 0);
@@ -231,7 +231,7 @@ TEST_F(Run, ARunGoingOnInTheSameFolderIsLeftAlone) {
     EXPECT_TRUE(folderIsEmpty());
 }
 
-TEST_F(Run, AForeignLockKeepsNobodyWaiting) {
+TEST_F(Run, DoesNotWaitForForeignLocks) {
     const std::vector<std::string> shortRun{"run", "--tests", "fileOps", "--file-ops", "1", folder};
     const fs::path left = folder / ".ondel-analyzer-OLD";
     fs::create_directory(left);
@@ -248,7 +248,7 @@ TEST_F(Run, AForeignLockKeepsNobodyWaiting) {
     EXPECT_TRUE(folderIsEmpty());
 }
 
-TEST_F(Run, SignalsEndARunWithItsFilesRemoved) {
+TEST_F(Run, RemovesItsFilesAfterSignals) {
     struct Case {
         std::vector<int> signals;
         bool ignoresInterrupt = false;
@@ -267,7 +267,7 @@ TEST_F(Run, SignalsEndARunWithItsFilesRemoved) {
     }
 }
 
-TEST_F(Run, ATerminalSeesProgressOnOneLineThatIsErased) {
+TEST_F(Run, ShowsProgressOnOneLineAndErasesIt) {
     constexpr int columns = 60;
     HostProcess run({.arguments = endlessRun(), .terminalColumns = columns});
     ASSERT_TRUE(run.terminalShows("Random read (4 KiB)"));

@@ -1,5 +1,5 @@
 #include "TarnwickHost/HostProcess.h"
-#include "TarnwickHost/RunText.h"
+#include "TarnwickHost/RunFiles.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
 
@@ -15,7 +15,7 @@ using namespace TarnwickHost;
 using test::runHost;
 namespace {
 
-TEST(Show, SaysWhatTheRunSaidAndNamesWhatIsNoRunFile) {
+TEST(Show, MatchesTheRunsFiguresAndNamesUnreadableFiles) {
     const test::TemporaryFolder folder;
     const auto run =
         runHost({"run", "--json", "--handoff", "--tests", "sequentialWrite", "--size", "1M", folder.path()});

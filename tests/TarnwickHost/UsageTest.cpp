@@ -38,6 +38,8 @@ TEST(Usage, WrongCallsGetOneLineAndStatusTwo) {
         {{"run", "--siz", "1G", there}, "there is no option '--siz'"},
         {{"run", "--json=yes", there}, "--json takes no value"},
         {{"run", there, "--size"}, "--size needs a value"},
+        {{"run", "--", "--none"}, "'--none': No such file"},
+        {{"run", "--size", "1G", "--size", "x", there}, "not 'x'"},
         {{"run", "--size", "", there}, "--size needs a number of bytes"},
         {{"run", "--size", "-1", there}, "not '-1'"},
         {{"run", "--size", "0x100", there}, "not '0x100'"},

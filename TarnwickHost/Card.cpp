@@ -1,4 +1,4 @@
-#include "TarnwickHost/CardProgram.h"
+#include "TarnwickHost/Card.h"
 
 #include "OndelCore/platform/storage/FileDescriptor.h"
 #include "TarnwickHost/Command.h"
@@ -27,9 +27,8 @@ void check(int error) {
         throw std::system_error(error, std::generic_category(), "tarnwick-host-card could not be started");
 }
 
-/// Beside this program where it was built, in a folder of its own where it was installed. Fails: throws
-/// std::system_error where the system does not tell which program this is; any other place would be
-/// somebody else's.
+/// In a build folder it lies beside this program, installed in libexec. Fails: throws std::system_error if
+/// the system does not tell where this program lies; no other place is trusted.
 fs::path cardProgram() {
     std::error_code error;
     const fs::path own = fs::read_symlink("/proc/self/exe", error);
@@ -40,7 +39,8 @@ fs::path cardProgram() {
                                     : own.parent_path().parent_path() / "libexec" / "tarnwick-host-card";
 }
 
-/// Signals as a fresh program expects them, standard output into `pipe`. Fails: throws std::system_error.
+/// Starts a program with default signal settings and standard output into `pipe`. Fails: throws
+/// std::system_error.
 pid_t started(const std::vector<std::string>& words, const FileDescriptor& pipe) {
     std::vector<char*> argv;
     argv.reserve(words.size() + 1);
@@ -103,6 +103,23 @@ CardAnswer answerTo(const std::vector<std::string>& arguments) {
     return answer;
 }
 
+constexpr std::array cardOptions{
+    Option{"--dark", "", "Draw it in the dark colours"},
+};
+
+int executeCard(const CommandLine& line) {
+    if (line.operands().empty())
+        throw UsageError("a RUNFILE to draw is missing");
+    std::vector<std::string> arguments;
+    if (line.has("--dark"))
+        arguments.emplace_back("--dark");
+    arguments.emplace_back("--");
+    arguments.insert(arguments.end(), line.operands().begin(), line.operands().end());
+    const CardAnswer answer = drawCard(arguments);
+    print(answer.output);
+    return answer.status;
+}
+
 } // namespace
 
 CardAnswer drawCard(const std::vector<std::string>& arguments) {
@@ -113,5 +130,18 @@ CardAnswer drawCard(const std::vector<std::string>& arguments) {
         return {failed, {}};
     }
 }
+
+const Command cardCommand{.name = "card",
+                          .operands = "RUNFILE…",
+                          .summary = "Draw a picture of a run to share, or of several compared",
+                          .options = cardOptions,
+                          .notes = R"(
+A run file is what "run --handoff" writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
+transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
+it stays until your session ends, or until the system empties its temporary folder.
+
+Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.
+)",
+                          .execute = &executeCard};
 
 } // namespace TarnwickHost

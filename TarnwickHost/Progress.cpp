@@ -1,10 +1,16 @@
-#include "TarnwickHost/ProgressLine.h"
+#include "TarnwickHost/Progress.h"
 
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
 
+#include <QByteArray>
+
+#include <poll.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
+#include <set>
 
 using namespace OndelCore::benchmark;
 using namespace TarnwickKit::model;
@@ -17,7 +23,7 @@ constexpr qsizetype titleColumns = 20;
 constexpr qsizetype leastBarColumns = 8;
 constexpr qsizetype mostBarColumns = 40;
 
-/// The right end of the line: how much is done, and how fast. Widths are kept so that nothing jumps about.
+/// The right end of the line: how much is done, and how fast. Fixed widths keep the line from jumping.
 struct Amount {
     QString done;
     QString rate;
@@ -60,6 +66,21 @@ QString bar(double fraction, qsizetype columns, bool unicode) {
     return QString(filled, full) + QString(columns - filled, empty);
 }
 
+void replaceLine(const QString& line) {
+    pollfd terminal{.fd = STDERR_FILENO, .events = POLLOUT, .revents = 0};
+    if (poll(&terminal, 1, 0) != 1 || !(terminal.revents & POLLOUT))
+        return;
+    const QByteArray text = "\r" + line.toUtf8() + "\x1b[K";
+    [[maybe_unused]] const ssize_t ignored =
+        write(STDERR_FILENO, text.constData(), static_cast<std::size_t>(text.size()));
+}
+
+/// Without a sequential write the engine prepares the data file first, and tells no progress meanwhile.
+bool preparesFile(const BenchmarkPlan& plan) {
+    return !plan.tests.contains(BenchmarkTest::sequentialWrite) &&
+           plan.tests != std::set{BenchmarkTest::fileOps} && !plan.tests.empty();
+}
+
 } // namespace
 
 QString progressLine(const BenchmarkProgress& progress, const BenchmarkPlan& plan, LineStyle style) {
@@ -83,6 +104,34 @@ QString progressLine(const BenchmarkProgress& progress, const BenchmarkPlan& pla
         if (line.size() + 2 + piece.size() <= columns)
             line += "  " + piece;
     return line.left(columns);
+}
+
+bool ProgressBar::isPossible() { return isatty(STDERR_FILENO) && qgetenv("TERM") != "dumb"; }
+
+ProgressBar::ProgressBar(BenchmarkPlan plan)
+    : m_plan(std::move(plan)) {}
+
+ProgressBar::~ProgressBar() { replaceLine({}); }
+
+void ProgressBar::note(const BenchmarkProgress& progress) {
+    const std::lock_guard guard(m_lock);
+    m_latest = progress;
+}
+
+void ProgressBar::draw(bool stopping) {
+    const LineStyle style = lineStyle(STDERR_FILENO);
+    const auto shown = [&](const QString& text) { replaceLine(text.left(style.columns)); };
+    if (stopping)
+        return shown("Stopping, removing the test files");
+
+    std::unique_lock guard(m_lock);
+    const auto latest = m_latest;
+    guard.unlock();
+    if (latest)
+        return replaceLine(progressLine(*latest, m_plan, style));
+    const auto waited = std::chrono::floor<std::chrono::seconds>(std::chrono::steady_clock::now() - m_start);
+    shown((preparesFile(m_plan) ? "Preparing the test file, " : "Starting, ") +
+          QString::number(waited.count()) + " s");
 }
 
 } // namespace TarnwickHost

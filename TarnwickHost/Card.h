@@ -11,8 +11,8 @@ struct CardAnswer {
     std::string output;
 };
 
-/// Draws a card in a program of its own, "tarnwick-host-card", so that no other command loads
-/// what draws. Its lines on standard error are its own. `arguments`: as those of the "card" command. Fails:
+/// Draws a card in a program of its own, "tarnwick-host-card", so that no other command loads the graphics
+/// libraries. It writes its own errors to standard error. `arguments`: as those of the "card" command. Fails:
 /// `failed`, with a line on standard error.
 CardAnswer drawCard(const std::vector<std::string>& arguments);
 

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "OndelCore/health/DiskHealth.h"
 #include "OndelCore/volumes/MountedVolumes.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
-#include "TarnwickHost/TextColumns.h"
+#include "TarnwickHost/Terminal.h"
 #include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <QJsonObject>
@@ -23,5 +24,13 @@ QJsonObject mountedVolumeJson(const OndelCore::volumes::MountedVolume& volume);
 std::vector<TextRow> volumeRows(const OndelCore::volumes::VolumeInfo& volume);
 std::vector<TextRow> capabilityRows(const OndelCore::volumes::VolumeCapabilities& capabilities);
 std::vector<TextRow> driveRows(const TarnwickKit::model::DriveIdentity& drive);
+
+/// For programs: the source, and where a device was asked the health by its fields with the raw record, or of
+/// several disks with the list of their sources and records. A count above 2^63-1 loses its last digits,
+/// since JSON numbers are read as doubles.
+QJsonObject healthJson(const OndelCore::health::DiskHealth::Reading& reading);
+
+/// For people: where the figures come from or why there are none, the verdict, the figures.
+std::vector<TextRow> healthRows(const OndelCore::health::DiskHealth::Reading& reading);
 
 } // namespace TarnwickHost

@@ -2,12 +2,20 @@
 
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkProgress.h"
+#include "TarnwickHost/Terminal.h"
+
+#include <QString>
 
 #include <chrono>
 #include <mutex>
 #include <optional>
 
 namespace TarnwickHost {
+
+/// One test's progress as one line of at most `style.columns` characters: title, bar, percentage, amount and
+/// rate, as much of it as fits. With the end unknown (total 0) there is no bar and no percentage.
+QString progressLine(const OndelCore::benchmark::BenchmarkProgress& progress,
+                     const OndelCore::benchmark::BenchmarkPlan& plan, LineStyle style);
 
 /// A run's progress on one line of the terminal behind standard error, erased when the object goes.
 /// Threads: `note` any, the others the one that made it.

@@ -1,0 +1,161 @@
+#include "OndelCore/health/DiskHealth.h"
+#include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickHost/Command.h"
+#include "TarnwickHost/Facts.h"
+#include "TarnwickHost/Output.h"
+#include "TarnwickKit/model/format/DisplayText.h"
+#include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/session/DriveInfo.h"
+#include "TarnwickKit/model/session/SMARTReport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+using namespace OndelCore::volumes;
+using OndelCore::health::DiskHealth;
+using TarnwickKit::model::DriveIdentity;
+using TarnwickKit::model::DriveInfo;
+using TarnwickKit::model::harmless;
+using TarnwickKit::model::SMARTReport;
+
+namespace TarnwickHost {
+
+namespace {
+
+constexpr std::array factsOptions{Option{"--json", "", "Print the facts as one JSON object"}};
+
+struct Facts {
+    std::optional<VolumeInfo> volume;
+    std::optional<VolumeCapabilities> capabilities;
+    DriveIdentity drive;
+    DiskHealth::Reading health;
+};
+
+Facts factsOf(const std::filesystem::path& folder) {
+    Facts facts{.volume = VolumeInfo::load(Location::local(folder)),
+                .capabilities = VolumeCapabilities::probe(Location::local(folder)),
+                .drive = {},
+                .health = DiskHealth::readInDetail(folder)};
+    if (facts.volume && facts.volume->volumeURL)
+        facts.drive = DriveInfo::identity(*facts.volume->volumeURL);
+    return facts;
+}
+
+QJsonObject json(const Facts& facts) {
+    QJsonObject object{{"drive", driveJson(facts.drive)}, {"health", healthJson(facts.health)}};
+    if (facts.volume)
+        object.insert("volume", volumeJson(*facts.volume));
+    if (facts.capabilities)
+        object.insert("capabilities", capabilitiesJson(*facts.capabilities));
+    return object;
+}
+
+QString text(const Facts& facts) {
+    std::vector<TextRow> rows;
+    const auto add = [&rows](const char* title, const std::vector<TextRow>& section) {
+        if (!rows.empty())
+            rows.emplace_back();
+        rows.push_back({title});
+        for (const TextRow& row : section)
+            rows.push_back({"  " + row.front(), row.back()});
+    };
+    if (facts.volume)
+        add("Volume", volumeRows(*facts.volume));
+    if (facts.capabilities)
+        add("File system", capabilityRows(*facts.capabilities));
+    add("Drive", driveRows(facts.drive));
+    add("Health", healthRows(facts.health));
+    return textColumns(rows);
+}
+
+int executeFacts(const CommandLine& line) {
+    const Facts facts = factsOf(folderIn(line));
+    print(line.has("--json") ? QJsonDocument(json(facts)).toJson(QJsonDocument::Compact).toStdString() + '\n'
+                             : text(facts).toStdString());
+    return done;
+}
+
+constexpr std::array volumesOptions{Option{"--json", "", "Print the list as one JSON array"}};
+
+std::string json(const std::vector<MountedVolume>& volumes) {
+    QJsonArray array;
+    for (const MountedVolume& volume : volumes)
+        array.append(mountedVolumeJson(volume));
+    return QJsonDocument(array).toJson(QJsonDocument::Compact).toStdString() + '\n';
+}
+
+std::string text(const std::vector<MountedVolume>& volumes) {
+    std::vector<TextRow> rows{{"Name", "Format", "Capacity", "Mounted at"}};
+    for (const MountedVolume& volume : volumes)
+        rows.push_back({volume.name, volume.format,
+                        volume.total ? TarnwickKit::model::Format::bytes(*volume.total) : QString("--"),
+                        QString::fromStdString(volume.url.string())});
+    return textColumns(rows).toStdString();
+}
+
+int executeVolumes(const CommandLine& line) {
+    if (!line.operands().empty())
+        throw UsageError("volumes takes no operand");
+    const auto volumes = mountedVolumes();
+    print(line.has("--json") ? json(volumes) : text(volumes));
+    return done;
+}
+
+std::optional<QString> driveName(const std::filesystem::path& folder) {
+    const std::optional<VolumeInfo> volume = VolumeInfo::load(Location::local(folder));
+    if (!volume || !volume->volumeURL)
+        return std::nullopt;
+    return DriveInfo::identity(*volume->volumeURL).model;
+}
+
+int executeSmartReport(const CommandLine& line) {
+    const std::filesystem::path folder = folderIn(line);
+    const DiskHealth::Reading reading = DiskHealth::readInDetail(folder);
+    if (!reading.smart || !reading.smart->isSupported()) {
+        complain("no S.M.A.R.T. figures: " + reading.source);
+        return failed;
+    }
+    const QString text = SMARTReport::text(*reading.smart, driveName(folder), QDateTime::currentDateTime());
+    QStringList lines = text.split('\n');
+    std::ranges::transform(lines, lines.begin(), harmless); // a drive's name may hold anything
+    print(lines.join('\n').toStdString());
+    return done;
+}
+
+} // namespace
+
+const Command factsCommand{.name = "facts",
+                           .operands = "FOLDER",
+                           .summary = "Show what holds FOLDER: volume, file system, drive and its health",
+                           .options = factsOptions,
+                           .notes = R"(
+Nothing is written anywhere. What the system does not tell reads "--" or "not known", and is left out of the JSON
+object.
+)",
+                           .execute = &executeFacts};
+
+const Command volumesCommand{.name = "volumes",
+                             .operands = "",
+                             .summary = "List the mounted volumes",
+                             .options = volumesOptions,
+                             .notes = R"(
+Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
+mount for themselves is left out. A server that does not answer in time has no capacity.
+)",
+                             .execute = &executeVolumes};
+
+const Command smartReportCommand{.name = "smart-report",
+                                 .operands = "FOLDER",
+                                 .summary = "Print the health of the drive that holds FOLDER",
+                                 .options = {},
+                                 .notes = R"(
+The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
+from, or why there is none, is told by "facts".
+)",
+                                 .execute = &executeSmartReport};
+
+} // namespace TarnwickHost
