@@ -1,6 +1,6 @@
 // A window to drag URLs from, once, until it is killed: drag-source URL...
-// It prints "ready" when it is visible, "accepted" when the pointer is over a window that accepts the URLs, and
-// "taken" after the drop. It also prints the launch feedback messages of programs.
+// It prints "ready" when it is visible, "accepted" when the pointer is over a window that accepts the URLs,
+// and "taken" after the drop. It also prints the launch feedback messages of programs.
 
 #include <QAbstractNativeEventFilter>
 #include <QDrag>
