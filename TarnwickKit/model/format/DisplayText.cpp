@@ -11,7 +11,7 @@ namespace {
 
 constexpr char32_t mark = QChar::ReplacementCharacter;
 constexpr char32_t zeroWidthNonJoiner = 0x200C; // Persian and Indic scripts need it
-constexpr char32_t zeroWidthJoiner = 0x200D;    // as emoji do this one
+constexpr char32_t zeroWidthJoiner = 0x200D;    // emoji need it
 constexpr char32_t emojiSelector = 0xFE0F;
 constexpr qsizetype longestCharacter = 32; // UTF-16 units; the longest emoji has 15
 
@@ -36,7 +36,7 @@ int columnsOf(char32_t character) {
     case U_NON_SPACING_MARK:
     case U_ENCLOSING_MARK:
     case U_FORMAT_CHAR:
-        return character == emojiSelector ? 1 : 0; // it may widen the symbol before it
+        return character == emojiSelector ? 1 : 0; // it may widen the preceding symbol
     default:
         break;
     }
@@ -69,9 +69,9 @@ QString fitted(const QString& text, int columns) {
     bool isCut = text.size() > most;
     int used = 0;
     for (qsizetype begin = 0, end = 0; (end = boundaries.toNextBoundary()) != -1; begin = end) {
-        const bool isHeap = end - begin > longestCharacter;
+        const bool isTooLong = end - begin > longestCharacter;
         const QString character =
-            isHeap ? QString(QChar::ReplacementCharacter) : shown.mid(begin, end - begin);
+            isTooLong ? QString(QChar::ReplacementCharacter) : shown.mid(begin, end - begin);
         used += columnsOf(character);
         if (used > columns) {
             isCut = true;

@@ -7,20 +7,20 @@
 
 namespace TarnwickKit::model {
 
-/// `text` without anything that a terminal would obey instead of showing: control characters and escapes,
-/// line breaks, invisible ones that turn the direction of writing, and halves of characters become marks.
+/// `text` without characters that a terminal would interpret: control characters, line breaks, invisible
+/// direction marks and lone surrogates become replacement characters.
 QString harmless(const QString& text);
 
-/// How many columns a terminal needs for `text` at most: wide characters take two, combining ones none (UAX
-/// #11). Some terminals draw joined emoji narrower.
+/// The number of columns that a terminal needs for `text` at most: wide characters take two, combining ones
+/// none (UAX #11). Some terminals draw joined emoji narrower.
 int columnsOf(const QString& text);
 
-/// The harmless form of `text`, cut with an ellipsis between two characters as people see them (UAX #29) to
-/// take at most `columns`, which is 1 or more. A heap of accents on one letter becomes one mark.
+/// The harmless form of `text` in at most `columns` columns (1 or more). It is cut with an ellipsis between
+/// two characters as people see them (UAX #29). A letter with too many accents becomes one mark.
 QString fitted(const QString& text, int columns);
 
-/// What a person typed, in quotes and on one line: its harmless form, bytes that are no UTF-8 as marks, and
-/// cut where it is very long.
+/// What a person typed, in quotes and on one line: its harmless form, with marks for invalid UTF-8, and cut
+/// if it is very long.
 std::string quoted(std::string_view typed);
 
 } // namespace TarnwickKit::model

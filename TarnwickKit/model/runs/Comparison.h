@@ -21,7 +21,7 @@ struct CompareMetric {
     static const std::array<CompareMetric, 5>& all();
 };
 
-/// What the comparison of some runs shows, without its drawing.
+/// What a comparison of runs shows; the views draw it.
 namespace ComparisonChart {
 
 /// The metrics for which at least one run has a figure.
@@ -34,11 +34,11 @@ struct Bar {
 
     bool operator==(const Bar&) const = default;
 };
-/// A metric's bars, one per run, on a scale of its own: the largest figure fills the track. A bar is never
-/// shorter than 3 points. Units: `trackWidth` in points.
+/// A metric's bars, one per run. The largest figure fills the track, and no bar is shorter than 3 points.
+/// Units: `trackWidth` in points.
 std::vector<Bar> bars(const CompareMetric& metric, const std::vector<RunRecord>& runs, double trackWidth);
 
-/// The run's volume and settings in one line; empty if it tells none of them.
+/// The run's volume and settings in one line; empty if none is known.
 QString parameterSummary(const RunRecord& run);
 
 } // namespace ComparisonChart

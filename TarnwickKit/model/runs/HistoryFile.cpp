@@ -29,12 +29,12 @@ namespace {
 
 constexpr const char* unreadablePrefix = "history.unreadable-";
 constexpr std::size_t unreadableFilesKept = 3;
-/// What a run file names of a person's machine is nobody else's business.
+/// Other users must not read what a history tells of a person's machine.
 constexpr auto ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
 
-/// Where a file that is written through symbolic links lies, or would lie.
+/// The path behind symbolic links. The file need not exist.
 fs::path followed(fs::path path) {
-    constexpr int mostLinks = 40; // as the kernel's
+    constexpr int mostLinks = 40; // the kernel's limit
     for (int link = 0; link < mostLinks; ++link) {
         std::error_code isNoLink;
         const fs::path target = fs::read_symlink(path, isNoLink);
@@ -49,7 +49,7 @@ fs::path lockOf(const fs::path& file) { return fs::path(file) += ".lock"; }
 
 // --- Reading
 
-/// Whether reading again would answer the same: what lies there is no history that this user can read.
+/// Whether a retry would fail too, because this is no file that this user can read.
 bool isFinal(const std::error_code& error) {
     constexpr std::array finalErrors{std::errc::not_supported, std::errc::file_too_large,
                                      std::errc::permission_denied, std::errc::operation_not_permitted,
@@ -59,8 +59,8 @@ bool isFinal(const std::error_code& error) {
 
 // --- Deletions
 
-/// The ids that the lock's file names as deleted: the last line of an id counts, '-' for deleted and '+' for
-/// there again. A line that is cut off or garbled is passed over.
+/// The list of deleted ids in the lock's file. The last line of an id counts: '-' means deleted, '+' added
+/// again. Malformed lines are skipped.
 class Deletions {
 public:
     explicit Deletions(fs::path file)
@@ -112,7 +112,8 @@ private:
         else
             m_ids.erase(id);
     }
-    /// What is deleted longest is forgotten: who still holds it has not saved for hundreds of deletions.
+    /// Drops the oldest deletions. A program that still holds such a run has not saved for hundreds of
+    /// deletions.
     std::string newestLines() const {
         const std::string text = OndelCore::platform::readRegularFile(m_file, mostBytes).value_or("");
         const std::size_t begin = text.find('\n', text.size() - std::min(text.size(), usualBytes / 2));
@@ -127,8 +128,8 @@ private:
 
 // --- Merging
 
-/// The list of the file is what counts; of `mine` comes in what it lacks, each run behind the one that it
-/// follows in `mine`.
+/// The file's list with the runs of `mine` that it lacks. Each is inserted behind the run that it follows in
+/// `mine`.
 Runs merged(Runs runs, const Runs& mine, const HistoryChanges& changes,
             const std::set<QUuid>& deletedElsewhere) {
     std::erase_if(runs, [&](const RunRecord& run) { return changes.deleted.contains(run.id); });
@@ -148,7 +149,7 @@ Runs merged(Runs runs, const Runs& mine, const HistoryChanges& changes,
 
 // --- Writing
 
-/// What the JSON of a record's field takes at the least.
+/// The least number of bytes in the JSON of a field.
 std::size_t leastLength(const QString& text) { return static_cast<std::size_t>(text.size()); }
 std::size_t leastLength(const std::vector<RunSample>& samples) {
     return samples.size() * std::string_view(R"({"t":0,"v":0})").size();
@@ -162,7 +163,7 @@ std::size_t leastLength(const RunRecord& run) {
     return sum;
 }
 
-/// The JSON of a run if it has one of at most `most` bytes. One that is far larger costs nothing.
+/// The JSON of a run, if it has at most `most` bytes. Far larger runs are rejected without being encoded.
 std::optional<QByteArray> encodedWithin(std::size_t most, const RunRecord& run) {
     if (leastLength(run) > most)
         return std::nullopt;
@@ -170,7 +171,7 @@ std::optional<QByteArray> encodedWithin(std::size_t most, const RunRecord& run) 
     return json && static_cast<std::size_t>(json->size()) <= most ? json : std::nullopt;
 }
 
-/// A JSON array of what `form` makes of each run. Fails: absent as soon as it is too long for the file.
+/// A JSON array with `form` of each run. Fails: absent if it is too long for the file.
 template <typename Form>
 std::optional<QByteArray> arrayOf(const Runs& runs, Form form) {
     JsonWriter json;
@@ -185,10 +186,9 @@ std::optional<QByteArray> arrayOf(const Runs& runs, Form form) {
     return json.json();
 }
 
-/// The file never grows beyond what can be read again. A run that has no JSON form is left out rather than
-/// cost the others their place. Imported runs can be large, and where all of them together are too large for
-/// the file, those above an even share of it go in with thinned curves; one whose texts alone exceed that is
-/// left out, too.
+/// The file never grows beyond the size that can be read. A run without a JSON form is left out. If all runs
+/// together are too large, those above an even share of the file are written with thinned curves, and those
+/// whose texts alone exceed it are left out.
 std::string encoded(const Runs& runs) {
     if (const auto all = arrayOf(runs, encodeRun))
         return all->toStdString();
@@ -202,8 +202,8 @@ std::string encoded(const Runs& runs) {
         .toStdString();
 }
 
-/// Of the files kept, the newest few stay. Their names sort by time; `newest` is the newest whatever the
-/// clock said when the others were named.
+/// Keeps the newest few unreadable files. Their names sort by time; `newest` counts as the newest even if the
+/// clock was set back.
 void dropOldUnreadableFiles(const fs::path& newest) {
     std::vector<fs::path> others;
     std::error_code error;
@@ -217,13 +217,13 @@ void dropOldUnreadableFiles(const fs::path& newest) {
         fs::remove(others[index], error);
 }
 
-/// Keeps the file under another name, with a link where there are any, so that a process killed in between
-/// leaves it in its place.
+/// Keeps the file under another name. A hard link is preferred, so that a process killed in between leaves
+/// the file in its place.
 bool keepBeside(const fs::path& file, std::size_t recoveredRuns) {
     QDateTime time = QDateTime::currentDateTimeUtc();
     std::error_code error;
     fs::path kept;
-    do { // two files of one millisecond: the later one takes the next free name, in order
+    do { // of two files in one millisecond the later takes the next free name
         kept = file.parent_path() /
                (unreadablePrefix + time.toString(QStringLiteral("yyyyMMddTHHmmss.zzzZ")).toStdString() +
                 ".json");
@@ -242,10 +242,10 @@ bool keepBeside(const fs::path& file, std::size_t recoveredRuns) {
 
 } // namespace
 
-/// What lies in the file's place.
+/// What was read from the file's path.
 struct HistoryFile::Content {
     Runs runs;
-    std::optional<Fingerprint> fingerprint; ///< absent: there is no file, or none that can be read
+    std::optional<Fingerprint> fingerprint; ///< absent: there is no readable file
     bool isDamaged = false;
 };
 
@@ -301,10 +301,10 @@ std::optional<Runs> HistoryFile::look(const Runs& mine, const HistoryChanges& ch
 }
 
 std::optional<Runs> HistoryFile::update(const Runs& mine, const HistoryChanges& changes, std::size_t most) {
-    constexpr int attempts = 5; // each fails only if another program has just written without the lock
+    constexpr int attempts = 5; // one fails only if another program has just written without the lock
     const fs::path file = followed(m_path);
     std::error_code ignored;
-    fs::create_directories(file.parent_path(), ignored); // somebody may have tidied up meanwhile
+    fs::create_directories(file.parent_path(), ignored); // it may have been removed meanwhile
     const FileLock lock(lockOf(file), m_access.lockPatience);
     for (int attempt = 0; attempt < attempts; ++attempt) {
         auto now = content(file);
@@ -320,7 +320,7 @@ std::optional<Runs> HistoryFile::update(const Runs& mine, const HistoryChanges& 
         const auto isStillWanted = [&] {
             if (fingerprint(file) != now->fingerprint)
                 return false;
-            // First the deletions: a run deleted by half is still there, none is ever half there.
+            // Deletions are noted first: if the process is killed here, the run is still in the file.
             deletions.note(changes.deleted, runs);
             return !now->isDamaged || keepBeside(file, recovered);
         };

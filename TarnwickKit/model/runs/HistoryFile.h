@@ -17,15 +17,15 @@
 
 namespace TarnwickKit::model {
 
-/// What one program changed in its list of runs since it last agreed with the file.
+/// What one program has changed in its list since it last matched the file.
 struct HistoryChanges {
     std::set<QUuid> added;
     std::set<QUuid> deleted;
     std::set<QUuid> renamed;
 };
 
-/// The file of a history that several programs write, windows of several sessions among them: a JSON array of
-/// runs, newest first. No program's runs are lost to another one's save.
+/// The file of a history: a JSON array of runs, newest first. Several programs may write it, and none loses
+/// runs to another one's save.
 ///
 /// Writing. A save takes a lock, reads the file again, merges by `id`, and replaces the whole file. It waits
 /// for the lock for a limited time and then goes on without it. If another program replaces the file between
@@ -45,7 +45,7 @@ class HistoryFile {
 public:
     using Runs = std::vector<RunRecord>;
 
-    /// What tests bend.
+    /// What tests replace.
     struct Access {
         /// As readRunFile.
         std::function<std::optional<std::string>(const std::filesystem::path&, std::error_code&)> read =
@@ -62,11 +62,11 @@ public:
     /// Removes what killed writers left beside the file.
     void removeLeftovers() const;
 
-    /// `mine` and `changes` merged with the file as it is now, at most `most` of it unless one of both holds
-    /// more. Absent: there is nothing new, or the file cannot be read at the moment.
+    /// `mine` and `changes` merged with the present file: at most `most` runs, unless the file or `mine`
+    /// holds more. Absent: there is nothing new, or the file cannot be read at the moment.
     std::optional<Runs> look(const Runs& mine, const HistoryChanges& changes, std::size_t most);
 
-    /// The same, and writes it, also where there is nothing new. Fails: absent, and the file is as it was.
+    /// The same, and writes it even if nothing is new. Fails: absent, and the file is unchanged.
     std::optional<Runs> update(const Runs& mine, const HistoryChanges& changes, std::size_t most);
 
 private:
@@ -84,7 +84,7 @@ private:
 
     std::filesystem::path m_path;
     Access m_access;
-    /// Of the content that the program's list already holds.
+    /// The content that the program's list already includes.
     std::optional<Fingerprint> m_known;
 };
 

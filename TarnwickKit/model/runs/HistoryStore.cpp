@@ -18,7 +18,7 @@ namespace {
 constexpr const char* folderName = "tools.ondel.tarnwick";
 constexpr const char* fileName = "history.json";
 
-/// Absent rather than one that others can guess or write to.
+/// Absent rather than a folder that others can guess or write to.
 std::optional<fs::path> defaultFolder() {
     if (const auto data = OndelCore::platform::dataHome()) {
         std::error_code error;

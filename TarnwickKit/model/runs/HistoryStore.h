@@ -14,31 +14,31 @@
 
 namespace TarnwickKit::model {
 
-/// The list of past runs, mirrored to one file that other programs may write, too (see HistoryFile): a JSON
-/// array of runs, newest first. The file is read when the store is made; what others change in it comes in
-/// with each save and each `refresh`.
+/// The list of past runs, newest first, mirrored to one file that other programs may also write (see
+/// HistoryFile). The file is read when the store is made. Each save and each `refresh` takes in what others
+/// have changed.
 ///
-/// Threads: the one that makes it. Fails: silently. What cannot be written stays in memory, and the next save
-/// that succeeds carries everything.
+/// Threads: the one that makes it. Fails: silently. Runs that cannot be written stay in memory until a save
+/// succeeds.
 class HistoryStore : public QObject {
     Q_OBJECT
 
 public:
     static constexpr std::size_t limit = 50;
 
-    /// `directory`: where the file is; absent is the user's data folder. It is made if it is missing. Of a
-    /// file that is damaged the runs that can be read are there. Fails: for a user without a folder of their
-    /// own the list is kept in memory alone, with a line in the log.
+    /// `directory`: the file's folder; absent is the user's data folder. It is made if it is missing. Of a
+    /// damaged file the readable runs are taken. Fails: for a user without any folder the list is kept in
+    /// memory only, with a line in the log.
     explicit HistoryStore(const std::optional<std::filesystem::path>& directory = std::nullopt,
                           QObject* parent = nullptr, HistoryFile::Access access = {});
 
     /// More than `limit` only if the file held more.
     const std::vector<RunRecord>& runs() const { return m_runs; }
     Q_SIGNAL void runsChanged();
-    /// Another program has given a run another title. `runsChanged` comes first.
+    /// Another program has changed a run's title. `runsChanged` comes first.
     Q_SIGNAL void renamedElsewhere(const QUuid& id, const std::optional<QString>& title);
 
-    /// The file; absent where none is kept.
+    /// The file; absent if the list is kept in memory only.
     std::optional<std::filesystem::path> url() const {
         return m_file ? std::optional(m_file->path()) : std::nullopt;
     }
@@ -52,11 +52,11 @@ public:
     void deleteRun(const QUuid& id);
     /// Absent clears the title. Does nothing, and writes nothing, if no run has that id.
     void setTitle(const std::optional<QString>& title, const QUuid& id);
-    /// Forgets all runs; the file then holds an empty array, but for runs that others have added since this
-    /// store last looked.
+    /// Deletes all runs. The file then holds an empty array, except for runs that others have added since
+    /// this store last read it.
     void clear();
     void save();
-    /// Takes in what others have changed. Costs little while there is nothing.
+    /// Takes in what others have changed. Cheap if there is nothing.
     void refresh();
 
 private:

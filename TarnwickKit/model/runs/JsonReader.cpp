@@ -29,7 +29,7 @@ JsonReader::Nesting::Nesting(JsonReader& reader, char opening)
     ++reader.m_depth;
 }
 
-/// The next character that is no blank, NUL at the end.
+/// The next non-blank character; NUL at the end.
 char JsonReader::peek() {
     while (m_at < m_text.size()) {
         const char character = m_text[m_at];
@@ -54,7 +54,7 @@ bool JsonReader::tryWord(std::string_view word) {
     return true;
 }
 
-/// Whether another item follows in an object or array; its comma or the closing mark has been read.
+/// Whether another item of an object or array follows. Reads its comma or the closing mark.
 bool JsonReader::nextItem(bool first, char closing) {
     if (peek() == closing) {
         ++m_at;
@@ -65,7 +65,7 @@ bool JsonReader::nextItem(bool first, char closing) {
     return true;
 }
 
-/// A string's content. It lies in the text itself unless it has escapes.
+/// A string's content: a view of the text, or of a copy if it has escapes.
 std::string_view JsonReader::rawString() {
     expect('"');
     const std::size_t begin = m_at;
@@ -126,7 +126,7 @@ char32_t JsonReader::hexCodeUnit() {
     return value;
 }
 
-/// A number's text in JSON's own grammar, which is narrower than what the C++ library reads.
+/// A number's text by JSON's grammar, which is narrower than that of the C++ library.
 std::string_view JsonReader::numberToken() {
     peek();
     const std::size_t begin = m_at;
@@ -170,7 +170,7 @@ double JsonReader::number() {
     const char* end = token.data() + token.size();
     if (std::from_chars(token.data(), end, value).ec == std::errc())
         return value;
-    // The C++ library does not tell too large from too small; Qt answers an infinity or zero.
+    // The C++ library reports overflow and underflow alike; Qt returns infinity or zero.
     if (!std::isfinite(QLocale::c().toDouble(QLatin1StringView(token.data(), end))))
         throw JsonError("number out of range");
     return 0;

@@ -10,16 +10,16 @@
 
 namespace TarnwickKit::model {
 
-/// The text is not JSON (RFC 8259, in UTF-8), or a value is not what was asked for.
+/// The text is not JSON (RFC 8259, in UTF-8), or a value is not of the requested type.
 class JsonError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Reads JSON from start to end, value by value, into the caller's own types. Nothing is built in between,
-/// which is what lets a full history load several times faster than through a document of variants.
+/// Reads JSON from start to end, value by value, into the caller's own types. Without a document of variants
+/// in between, a full history loads several times faster.
 ///
-/// Every reading function fails with JsonError on malformed text, on a value of another type, and on nesting
+/// Every reading function throws JsonError on malformed text, on a value of another type, and on nesting
 /// deeper than `maxDepth`.
 /// Owner: the caller keeps the text alive.
 class JsonReader {
@@ -29,7 +29,7 @@ public:
     explicit JsonReader(std::string_view text);
 
     /// Calls `member(std::string_view key)` for each member, which must read or skip the value. The key is
-    /// gone once it does.
+    /// invalid after that.
     template <typename Member>
     void object(Member member) {
         const Nesting nesting(*this, '{');
@@ -49,19 +49,19 @@ public:
     QString string();
     /// A finite double.
     double number();
-    /// A whole number that fits, however it is spelled: 5, 5.0 and 5e0 are the same.
+    /// An integer in any spelling: 5, 5.0 and 5e0 are the same.
     std::int64_t integer();
     bool boolean();
-    /// Reads a null, if that is what comes next.
+    /// Reads a null, if one comes next.
     bool tryNull();
-    /// Passes over a value of any type.
+    /// Skips a value of any type.
     void skip();
-    /// Nothing but blanks may follow.
+    /// Requires that only blanks follow.
     void end();
 
-    /// Where the next value, or what follows the last one, begins in the text.
+    /// The position in the text behind what has been read.
     std::size_t position() const { return m_at; }
-    /// Reads on from there as if nothing had been read, also after a failure.
+    /// Continues at a position with no open object or array. Allowed after a failure.
     void goTo(std::size_t position) {
         m_at = position;
         m_depth = 0;

@@ -12,7 +12,7 @@ namespace {
 /// Longer than the longest spelling of a double or an integer.
 constexpr std::size_t longestNumber = 32;
 
-/// Appends a number as the C++ library spells it, which no locale changes.
+/// Appends a number in the spelling of the C++ library, which is independent of the locale.
 void appendNumber(QByteArray& json, auto value) {
     std::array<char, longestNumber> buffer;
     const char* end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;

@@ -8,8 +8,8 @@
 
 namespace TarnwickKit::model {
 
-/// Writes JSON (RFC 8259) without blanks, with an object's members in the order in which they are given.
-/// Doubles are spelled with the fewest digits that read back as the same number.
+/// Writes JSON (RFC 8259) without blanks. Members keep the order of the calls. Doubles get the fewest digits
+/// that read back as the same number.
 class JsonWriter {
 public:
     void beginObject() { open('{'); }

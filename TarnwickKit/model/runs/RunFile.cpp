@@ -17,7 +17,7 @@ namespace {
 using Milliseconds = std::chrono::milliseconds;
 using Clock = std::chrono::steady_clock;
 
-/// What all files that do not answer may cost together, and what each of them costs afterwards.
+/// The time for all files that do not answer together, and for each one after that.
 constexpr Milliseconds patienceWithAll = std::chrono::seconds(10);
 constexpr Milliseconds leastPatience(100);
 

@@ -18,23 +18,22 @@ struct TarnwickFile {
     static constexpr std::string_view runExtension = "tarnwickrun";
 };
 
-/// The content of a file of runs. Fails: as readRegularFile, and above RunRecordJson's limit.
+/// The content of a file of runs. Fails: as readRegularFile, and above maxRunFileBytes.
 std::optional<std::string> readRunFile(const std::filesystem::path& path);
 std::optional<std::string> readRunFile(const std::filesystem::path& path, std::error_code& error);
 
-/// What a list of run files brought.
+/// The runs of a list of run files.
 struct ImportedRuns {
-    std::vector<RunRecord> runs; ///< in the files' order, of those that a history would keep of them
+    std::vector<RunRecord> runs; ///< in the files' order; at most as many as a history keeps
     std::optional<RunRecord> last;
     std::size_t readable = 0;
     std::size_t unreadable = 0;
 
-    /// Reads the files one by one. Threads: any; blocks on the file system. Files that do not answer hold it
-    /// up for ten seconds together and a tenth of a second each after that. Fails: a file that cannot be read
-    /// is counted.
+    /// Reads the files one by one. Threads: any; blocks on the file system. Files that do not answer take ten
+    /// seconds together, and a tenth of a second each after that. Fails: unreadable files are counted.
     static ImportedRuns from(const std::vector<std::filesystem::path>& files);
 
-    /// Adds what later files brought.
+    /// Adds the runs of later files.
     void append(ImportedRuns later);
 };
 

@@ -55,13 +55,13 @@ void write(JsonWriter& json, const std::vector<RunSample>& samples) {
 // --- Reading
 
 void read(JsonReader& json, QString& value) { value = json.string(); }
-void read(JsonReader& json, double& value) { value = json.number() + 0.0; } // -0 would be shown as such
+void read(JsonReader& json, double& value) { value = json.number() + 0.0; } // -0 becomes 0
 void read(JsonReader& json, std::int64_t& value) { value = json.integer(); }
 void read(JsonReader& json, bool& value) { value = json.boolean(); }
 
 void read(JsonReader& json, QUuid& value) {
     const QString text = json.string();
-    // QUuid would also take other forms, and answers all that it cannot read with the null UUID.
+    // QUuid accepts other forms, and returns the null UUID for malformed ones.
     value = text.size() == uuidLength ? QUuid::fromString(text) : QUuid();
     if (value.toString(QUuid::WithoutBraces).compare(text, Qt::CaseInsensitive) != 0)
         throw JsonError("malformed UUID");
@@ -152,7 +152,7 @@ RunRecord readRun(JsonReader& json) {
         bool known = false;
         int index = 0;
         visitFields(run, [&](std::string_view name, auto& field) {
-            // The key is gone as soon as a value has been read.
+            // The key is invalid after a value has been read.
             if (!known && name == key) {
                 known = true;
                 seen |= std::uint64_t{1} << index;
@@ -222,8 +222,8 @@ std::optional<std::vector<RunRecord>> decodeRuns(QByteArrayView text) {
     });
 }
 
-/// Wherever an object begins, a run may: damage can hide where the one before it ends. Objects nest 64 deep
-/// at most, so that no text is read more often than that.
+/// Tries every '{' as the beginning of a run, because damage can hide where the run before it ends. Objects
+/// nest at most 64 deep, so no text is read more often than that.
 std::vector<RunRecord> recoverRuns(QByteArrayView text) {
     std::vector<RunRecord> runs;
     if (static_cast<std::size_t>(text.size()) > maxRunFileBytes)

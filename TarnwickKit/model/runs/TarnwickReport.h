@@ -10,8 +10,8 @@
 
 namespace TarnwickKit::model {
 
-/// A finished run as a host application sees it. Its image is the views' part: reportImage.
-/// Units: as RunRecord, but for the curves: x in seconds, y in megabytes per second, ready for a chart.
+/// A finished run for a host application. Its image comes from the views: reportImage.
+/// Units: as RunRecord, except for the curves: x in seconds, y in megabytes per second.
 /// Threads: any.
 struct TarnwickReport {
     RunRecord run;
@@ -33,8 +33,8 @@ struct TarnwickReport {
     std::vector<QPointF> readCurve() const;
     std::optional<QString> sizeLabel() const { return run.sizeLabel; }
 
-    /// Writes the run file, to be opened with the application, into a folder that only this user can enter.
-    /// The same run always goes to the same path within a process; nothing removes the file. Fails: absent.
+    /// Writes a run file for the application to open, into a folder that only this user can enter. Within a
+    /// process the same run has the same path. Nothing removes the file. Fails: absent.
     std::optional<std::filesystem::path> handoffFile() const;
 };
 

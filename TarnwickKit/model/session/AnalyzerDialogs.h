@@ -8,19 +8,19 @@
 
 namespace TarnwickKit::model {
 
-/// The questions that the model puts to people, for the views to ask in dialogs. A dialog may return at once
-/// and call back later; one that is dismissed does not call back.
+/// The model's questions to people, asked by the views in dialogs. A dialog may return immediately and call
+/// back later. It does not call back if it is dismissed.
 class AnalyzerDialogs {
 public:
     using Chosen = std::function<void(const std::filesystem::path&)>;
 
     virtual ~AnalyzerDialogs() = default;
 
-    /// Asks for one existing folder. `message`: why; `prompt`: the accepting button. Begins at `startingAt`,
-    /// or wherever the dialog likes.
+    /// Asks for one existing folder. `message`: why; `prompt`: the accepting button. Without `startingAt` the
+    /// dialog chooses where to begin.
     virtual void askForFolder(const QString& message, const QString& prompt,
                               const std::optional<std::filesystem::path>& startingAt, Chosen chosen) = 0;
-    /// Asks where to save a plain text file. An existing file has been confirmed by whoever is asked.
+    /// Asks where to save a plain text file. The dialog itself confirms replacing an existing file.
     virtual void askForTextFile(const QString& proposedName, Chosen chosen) = 0;
     virtual void showError(const QString& sentence) = 0;
 };

@@ -12,7 +12,7 @@ using OndelCore::volumes::VolumeInfo;
 
 namespace {
 
-/// A volume that answers after a minute is still taken; the thread that waits for one that never does ends.
+/// An answer after a minute is still taken. The thread that waits for a hanging volume must end some time.
 constexpr std::chrono::minutes latePatience(10);
 
 OndelCore::platform::SystemSources waitingFor(std::chrono::milliseconds patience) {

@@ -18,7 +18,7 @@
 
 namespace TarnwickKit::model {
 
-/// What the model asks of the machine beneath it. `real()` is the machine itself; tests bend single answers.
+/// What the model asks the machine. `real()` is the machine itself; tests replace single answers.
 struct AnalyzerServices {
     /// See BenchmarkEngine::run.
     std::function<QFuture<OndelCore::benchmark::BenchmarkResult>(
@@ -32,7 +32,7 @@ struct AnalyzerServices {
         loadVolume;
     std::function<std::optional<OndelCore::volumes::VolumeCapabilities>(const OndelCore::volumes::Location&)>
         probeCapabilities;
-    /// How long a selection waits for them.
+    /// How long a selection waits for loadVolume and probeCapabilities.
     std::chrono::milliseconds volumePatience = OndelCore::platform::volumePatience;
     /// See DiskHealth::read. Threads: called on a thread of its own.
     std::function<std::optional<OndelCore::health::DiskSMART>(const std::filesystem::path&)> readHealth;

@@ -16,8 +16,8 @@
 
 namespace TarnwickKit::model {
 
-/// How to test: the part of AnalyzerModel that the views write directly. No value is refused or changed, and
-/// none outlives the process.
+/// How to test: the part of AnalyzerModel that the views write directly. No value is refused or adjusted, and
+/// none is saved.
 ///
 /// Properties carry what a declarative view can bind to: a test is its raw value ("sequentialWrite"), and
 /// bytes are doubles (exact to 2^53). The getters beside them carry the real types.
@@ -27,7 +27,7 @@ class AnalyzerSettings : public QObject {
 public:
     explicit AnalyzerSettings(QObject* parent = nullptr);
 
-    /// Index into BenchmarkSize::presets. One outside of it is a programming fault, found by makePlan.
+    /// Index into BenchmarkSize::presets. Another index is a programming fault, which makePlan detects.
     Q_PROPERTY(int sizeIndex READ sizeIndex WRITE setSizeIndex NOTIFY sizeIndexChanged)
     int sizeIndex() const { return m_sizeIndex; }
     void setSizeIndex(int index);
@@ -35,7 +35,7 @@ public:
     /// The labels of BenchmarkSize::presets.
     Q_PROPERTY(QStringList sizeLabels READ sizeLabels CONSTANT)
     static QStringList sizeLabels();
-    /// The chosen size fills the disk, which the views ask about before a run.
+    /// The chosen size fills the disk. The views ask before such a run.
     Q_PROPERTY(bool isFillDisk READ isFillDisk NOTIFY sizeIndexChanged)
     bool isFillDisk() const;
 
@@ -76,7 +76,7 @@ public:
     };
     /// The block size that suits the target's file system. Units: bytes.
     std::optional<std::int64_t> optimalBlock() const { return m_optimalBlock; }
-    /// What the menus of block sizes offer, ascending, the optimal one among them and marked.
+    /// The entries of the block size menus, ascending. They include the optimal size, which is marked.
     std::vector<BlockOption> blockOptions() const;
     static std::vector<BlockOption> randomBlockOptions();
     Q_PROPERTY(QStringList blockLabels READ blockLabels NOTIFY optimalBlockChanged)
@@ -95,12 +95,12 @@ public:
     void setBypassCache(bool bypass);
     Q_SIGNAL void bypassCacheChanged();
 
-    /// The plan for the present settings.
+    /// The plan for the current settings.
     OndelCore::benchmark::BenchmarkPlan makePlan() const;
 
 protected:
-    /// Takes what suits a new target. It overrides the sequential blocks that were chosen for another one; of
-    /// a target without, they stay.
+    /// Sets the optimal block of a new target. It replaces the chosen sequential block sizes; without one
+    /// they stay.
     void setOptimalBlock(std::optional<std::int64_t> bytes);
 
 private:

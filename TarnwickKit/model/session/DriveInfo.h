@@ -10,7 +10,7 @@
 
 namespace TarnwickKit::model {
 
-/// What a drive is called and how it is attached. Absent is what it does not tell.
+/// What a drive is called and how it is attached. Absent: the drive does not tell.
 struct DriveIdentity {
     std::optional<QString> model;
     std::optional<QString> protocolName;
@@ -26,11 +26,11 @@ public:
     /// The whole disk under the volume whose root is `volumeURL`. Fails: both texts absent.
     static DriveIdentity identity(const std::filesystem::path& volumeURL,
                                   const OndelCore::platform::SystemSources& sources = {});
-    /// The names out of what the drive says of itself.
+    /// The names in a drive's description.
     static DriveIdentity identity(const OndelCore::platform::DriveDescription& description);
 
-    /// The protocol that a network volume is reached by ("SMB", "NFS", …), of a file-system type in any
-    /// case. Fails: absent for any other type.
+    /// The network protocol ("SMB", "NFS", …) of a file-system type in any case. Fails: absent for any other
+    /// type.
     static std::optional<QString> networkProtocol(const std::optional<QString>& filesystemType);
 };
 

@@ -10,27 +10,27 @@
 
 namespace TarnwickKit::model {
 
-/// Carries a run's progress events from the worker to the receiver's thread: unbounded, in order, nothing
-/// lost until it is cancelled.
+/// Carries a run's progress events from the worker to the receiver's thread, in order and without a limit. No
+/// event is lost until it is cancelled.
 ///
-/// Sending only appends under a lock, and at most one wake-up is under way at a time; a slow interface thus
-/// finds a longer batch, and never slows the measurement.
+/// Sending only appends under a lock, and at most one wake-up is pending. A slow interface gets longer
+/// batches and never slows the measurement.
 class ProgressStream {
 public:
     using Batch = std::vector<OndelCore::benchmark::BenchmarkProgress>;
 
-    /// `take` gets each batch on the thread that makes this object, from its event loop.
+    /// `take` receives each batch from the event loop of the thread that makes this object.
     explicit ProgressStream(std::function<void(const Batch&)> take);
     /// Cancels.
     ~ProgressStream();
     ProgressStream(const ProgressStream&) = delete;
     ProgressStream& operator=(const ProgressStream&) = delete;
 
-    /// The sending end. It may be kept and called after the stream is gone, which then does nothing.
+    /// The sending end. It may be called after the stream is destroyed and then does nothing.
     /// Threads: any.
     std::function<void(const OndelCore::benchmark::BenchmarkProgress&)> sender() const;
 
-    /// Drops what is queued and everything sent from now on. Threads: the receiver's.
+    /// Drops the queued events and all that are sent later. Threads: the receiver's.
     void cancel();
 
 private:

@@ -5,8 +5,7 @@
 
 namespace TarnwickKit::model {
 
-/// Gives the member behind a property its value and tells of it by `changed`, unless it has that value
-/// already.
+/// Sets the member behind a property and emits `changed`, unless it already has the value.
 template <typename Object, typename Value>
 void changeProperty(Object& object, Value& member, std::type_identity_t<Value> value,
                     void (Object::*changed)()) {

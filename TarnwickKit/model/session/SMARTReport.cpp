@@ -22,7 +22,7 @@ struct Row {
 
 qsizetype characterCount(const QString& text) { return text.toUcs4().size(); }
 
-/// Lines whose values stand in one column, one blank behind the colon of the longest label.
+/// Lines with their values in one column, one blank behind the longest label's colon.
 QStringList aligned(const QList<Row>& rows) {
     qsizetype width = 0;
     for (const Row& row : rows)

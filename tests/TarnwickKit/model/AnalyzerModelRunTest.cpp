@@ -31,7 +31,7 @@ struct AnalyzerModelRun : testing::Test {
     }
 };
 
-TEST_F(AnalyzerModelRun, NeedsATargetAndATest) {
+TEST_F(AnalyzerModelRun, RequiresATargetAndATest) {
     AnalyzerModel fresh(services);
     fresh.start();
     EXPECT_EQ(fresh.phase(), Phase::Idle);
@@ -48,7 +48,7 @@ TEST_F(AnalyzerModelRun, NeedsATargetAndATest) {
     EXPECT_DEATH(fresh.setTestSelected("SequentialRead", true), "names no test");
 }
 
-TEST_F(AnalyzerModelRun, PlansWhatTheSettingsSay) {
+TEST_F(AnalyzerModelRun, PlansBySettings) {
     model.setSelectedTests({BenchmarkTest::fileOps, BenchmarkTest::sequentialRead});
     model.setSizeIndex(5);
     model.setWriteBlock(1);
@@ -91,7 +91,7 @@ TEST_F(AnalyzerModelRun, ShowsTheResult) {
     EXPECT_EQ(model.sidebarValues(), QStringList({"", "", "", "", ""}));
 }
 
-TEST_F(AnalyzerModelRun, AFailureKeepsWhatWasLiveAndStaysUntilTheNextSelection) {
+TEST_F(AnalyzerModelRun, FailureStaysUntilTheNextSelection) {
     engine.begin(model);
     send(event(BenchmarkTest::sequentialRead, 5e6, 0.1, 10, 20));
     engine.last().fail(BenchmarkError(BenchmarkError::Io{"read: %1 %2"}));
@@ -112,7 +112,7 @@ TEST_F(AnalyzerModelRun, AFailureKeepsWhatWasLiveAndStaysUntilTheNextSelection) 
               "Not enough space: needs 5.0 GiB, only 1023 B free.");
 }
 
-TEST_F(AnalyzerModelRun, AnEngineThatThrowsAtOnceFailsTheRun) {
+TEST_F(AnalyzerModelRun, EngineThatCannotStartFailsTheRun) {
     services.runBenchmark = [](auto&&...) -> QFuture<BenchmarkResult> {
         throw std::system_error(EAGAIN, std::generic_category(), "mkdir");
     };
@@ -123,7 +123,7 @@ TEST_F(AnalyzerModelRun, AnEngineThatThrowsAtOnceFailsTheRun) {
     EXPECT_EQ(unlucky.failureMessage(), "Resource temporarily unavailable");
 }
 
-TEST_F(AnalyzerModelRun, CancellingWaitsForTheEngine) {
+TEST_F(AnalyzerModelRun, CancelWaitsForTheEngine) {
     EXPECT_TRUE(model.cancelAndWait().isFinished());
     engine.begin(model);
     send(event(BenchmarkTest::sequentialRead, 5e6, 0.1, 10, 20));
@@ -145,13 +145,13 @@ TEST_F(AnalyzerModelRun, CancellingWaitsForTheEngine) {
     EXPECT_EQ(model.phase(), Phase::Idle);
 }
 
-TEST_F(AnalyzerModelRun, AViewMayStartTheNextRunFromTheEndOfOne) {
+TEST_F(AnalyzerModelRun, NextRunMayStartFromTheEndOfOne) {
     engine.begin(model);
     QObject::connect(&model, &AnalyzerModel::phaseChanged, &model, [this] {
         if (model.phase() == Phase::Done && engine.calls.size() == 1)
             model.start();
     });
-    model.start(); // refused: one goes on
+    model.start(); // ignored during a run
     EXPECT_EQ(engine.calls.size(), 1u);
     engine.last().finish({});
     turnUntil([this] { return engine.calls.size() == 2; });
@@ -161,7 +161,7 @@ TEST_F(AnalyzerModelRun, AViewMayStartTheNextRunFromTheEndOfOne) {
     EXPECT_EQ(model.phase(), Phase::Done);
 }
 
-TEST_F(AnalyzerModelRun, EventsFeedTheLiveDisplay) {
+TEST_F(AnalyzerModelRun, ThinsLiveSamples) {
     for (int index = 0; index < 2000; ++index)
         model.apply(event(BenchmarkTest::sequentialWrite, index + 1, index));
     EXPECT_EQ(model.liveSamples().size(), 2000u);
@@ -179,7 +179,7 @@ TEST_F(AnalyzerModelRun, EventsFeedTheLiveDisplay) {
     EXPECT_EQ(model.property("liveTest").toString(), "sequentialRead");
 }
 
-TEST_F(AnalyzerModelRun, TakesEveryEventInOrderAndAnnouncesByTheBatch) {
+TEST_F(AnalyzerModelRun, TakesAllEventsInOrderAndAnnouncesBatches) {
     engine.begin(model);
     int announcements = 0;
     QObject::connect(&model, &AnalyzerModel::progressChanged, &model, [&] { ++announcements; });
@@ -193,7 +193,7 @@ TEST_F(AnalyzerModelRun, TakesEveryEventInOrderAndAnnouncesByTheBatch) {
     for (std::size_t index = 0; index < 1500; ++index)
         ASSERT_EQ(model.liveSamples()[index].bytesPerSecond, static_cast<double>(index + 1));
 
-    // What a straggler sends after the run's end is dropped.
+    // Events that arrive after the run's end are dropped.
     engine.last().finish({});
     turnUntilEnded(model);
     engine.last().progress(event(BenchmarkTest::sequentialRead, 1, 1, 1, 1));
@@ -201,7 +201,7 @@ TEST_F(AnalyzerModelRun, TakesEveryEventInOrderAndAnnouncesByTheBatch) {
     EXPECT_EQ(model.completedBytes(), 1500);
 }
 
-TEST(ProgressStream, DropsWhatIsQueuedWhenCancelled) {
+TEST(ProgressStream, DropsQueuedEventsOnCancel) {
     int taken = 0;
     auto stream = std::make_unique<ProgressStream>([&](const ProgressStream::Batch&) { ++taken; });
     const auto send = stream->sender();
@@ -215,7 +215,7 @@ TEST(ProgressStream, DropsWhatIsQueuedWhenCancelled) {
     EXPECT_EQ(taken, 0);
 }
 
-TEST_F(AnalyzerModelRun, WaitsForTheSweepOfItsFolder) {
+TEST_F(AnalyzerModelRun, WaitsForTheSweep) {
     const auto gate = std::make_shared<std::latch>(1);
     services.cleanupOrphans = [gate](const std::filesystem::path&) { gate->wait(); };
     AnalyzerModel swept(services);

@@ -16,7 +16,7 @@ using namespace OndelCore::benchmark;
 using OndelCore::logging::LogStore;
 using Phase = AnalyzerModel::Phase;
 
-/// The log's lines since it was last cleared, without their time stamps.
+/// The log since it was last cleared, without time stamps.
 QStringList logged() {
     QStringList lines;
     for (const QString& line : QString::fromStdString(LogStore::shared().snapshot(100000)).split('\n'))
@@ -71,7 +71,7 @@ TEST_F(AnalyzerModelRuns, RecordsAFinishedRun) {
     QObject::connect(&model, &AnalyzerModel::phaseChanged, &model, [&] { order << "phase"; });
     clock = 1714566896000 - 500;
     engine.begin(model);
-    volume.available = 1; // the record tells what was known when the run began
+    volume.available = 1; // the record holds what was known when the run began
     BenchmarkResult result;
     result.sequentialWrite = ThroughputResult{1000, 1, 4096, {{1, 1234567890}}};
     result.sequentialWrite->flushError = std::make_error_code(std::errc::io_error);
@@ -100,7 +100,7 @@ TEST_F(AnalyzerModelRuns, RecordsAFinishedRun) {
     EXPECT_EQ(HistoryStore(engine.history.path()).runs().size(), 2u);
 }
 
-TEST_F(AnalyzerModelRuns, RecordsNothingOfARunThatDidNotFinish) {
+TEST_F(AnalyzerModelRuns, RecordsOnlyFinishedRuns) {
     engine.begin(model);
     model.cancel();
     fail(Cancelled());
@@ -124,7 +124,7 @@ TEST_F(AnalyzerModelRuns, ImportsARunFile) {
     EXPECT_EQ(model.currentRun(), run);
     EXPECT_FALSE(model.currentRunCollapsed());
 
-    // A second import shows the file's copy; the stored one, meanwhile renamed, stays.
+    // A second import shows the file's copy. The stored one keeps its new title.
     model.renameRun(run.id, "Renamed");
     EXPECT_TRUE(importRun(run));
     EXPECT_EQ(model.currentRun(), run);
@@ -140,7 +140,7 @@ TEST_F(AnalyzerModelRuns, ImportsARunFile) {
     EXPECT_EQ(logged().first(), "error  app  run from another app couldn't be read");
 
     model.select(std::filesystem::path("/"));
-    EXPECT_EQ(model.phase(), Phase::Done) << "the last run stays on view";
+    EXPECT_EQ(model.phase(), Phase::Done) << "the last run is still shown";
     engine.begin(model);
     LogStore::shared().clear();
     EXPECT_TRUE(importRun(fullRun(2)));
@@ -154,7 +154,7 @@ TEST_F(AnalyzerModelRuns, ImportsARunFile) {
     EXPECT_EQ(model.failureMessage(), "");
 }
 
-TEST_F(AnalyzerModelRuns, ImportsManyFilesInOneGo) {
+TEST_F(AnalyzerModelRuns, ImportsManyFilesWithOneSave) {
     std::vector<RunRecord> runs;
     std::vector<std::filesystem::path> files;
     for (int count = 0; count < 120; ++count) {
@@ -167,9 +167,9 @@ TEST_F(AnalyzerModelRuns, ImportsManyFilesInOneGo) {
     QObject::connect(&model, &AnalyzerModel::currentRunChanged, &model, [&] { ++shown; });
     model.importRuns({});
     model.importRuns({files.begin(), files.begin() + 60});
-    model.importRuns({files.begin() + 60, files.begin() + 90}); // while the first are being read
+    model.importRuns({files.begin() + 60, files.begin() + 90}); // during the first import
     model.importRuns({files.begin() + 90, files.end()});
-    EXPECT_TRUE(model.history().runs().empty()) << "files are read on this thread";
+    EXPECT_TRUE(model.history().runs().empty()) << "files must be read on another thread";
 
     turnUntil([&] { return model.currentRun() && model.currentRun()->id == runs.back().id; });
     EXPECT_EQ(changes, 1);
@@ -181,7 +181,7 @@ TEST_F(AnalyzerModelRuns, ImportsManyFilesInOneGo) {
     EXPECT_EQ(logged().count("error  app  run from another app couldn't be read"), 1);
 }
 
-TEST_F(AnalyzerModelRuns, LetsGoOfRunsThatAnotherWindowDeletes) {
+TEST_F(AnalyzerModelRuns, DropsRunsThatAnotherWindowDeleted) {
     const QUuid ids[] = {complete(), complete(), complete()};
     model.setRunExpanded(ids[0], true);
     model.toggleCompareMode();
@@ -193,20 +193,20 @@ TEST_F(AnalyzerModelRuns, LetsGoOfRunsThatAnotherWindowDeletes) {
     other.setTitle("From elsewhere", ids[1]);
     model.history().refresh();
     EXPECT_TRUE(model.expandedRunIDs().empty());
-    EXPECT_EQ(model.compareSelection(), (std::set<QUuid>{ids[1], ids[2]})) << "the last is still on view";
+    EXPECT_EQ(model.compareSelection(), (std::set<QUuid>{ids[1], ids[2]})) << "the last run is still shown";
     EXPECT_EQ(model.previousRuns().front().customTitle, "From elsewhere");
     other.setTitle("On view", ids[1]);
     other.add(*model.currentRun());
     other.setTitle("Renamed on view", ids[2]);
     model.history().refresh();
     EXPECT_EQ(model.currentRun()->customTitle, std::nullopt)
-        << "what was not in the list has no title to follow";
+        << "a run that was not listed has no title to follow";
     other.setTitle("And again", ids[2]);
     model.history().refresh();
     EXPECT_EQ(model.currentRun()->customTitle, "And again");
 }
 
-TEST_F(AnalyzerModelRuns, ComparesInTheOrderOnView) {
+TEST_F(AnalyzerModelRuns, ComparesInTheOrderShown) {
     const RunRecord runs[] = {fullRun(2), fullRun(2), fullRun(2)};
     std::vector<std::filesystem::path> files;
     for (const RunRecord& run : runs)
@@ -214,7 +214,7 @@ TEST_F(AnalyzerModelRuns, ComparesInTheOrderOnView) {
     model.importRuns(files);
     turnUntil([&] { return model.currentRun().has_value(); });
     EXPECT_EQ(HistoryStore(engine.history.path()).runs(), model.history().runs());
-    // A single run, even with one that nobody has, is no comparison.
+    // One run is no comparison, nor is one together with an unknown id.
     model.toggleCompareMode();
     for (const QUuid& id : {runs[0].id, QUuid::createUuid()}) {
         model.toggleCompareSelection(id);
@@ -222,7 +222,7 @@ TEST_F(AnalyzerModelRuns, ComparesInTheOrderOnView) {
         EXPECT_FALSE(model.comparison());
         EXPECT_TRUE(model.compareMode());
     }
-    // On view is the last one imported; the others follow from new to old.
+    // The last imported run is shown; the others follow, newest first.
     model.toggleCompareSelection(runs[2].id);
     model.beginComparison();
     EXPECT_EQ(model.comparison(), (std::vector<RunRecord>{runs[2], runs[0]}));
@@ -233,7 +233,7 @@ TEST_F(AnalyzerModelRuns, ComparesInTheOrderOnView) {
     EXPECT_EQ(model.comparison()->back().customTitle, "New name");
     EXPECT_EQ(model.currentRun()->customTitle, fullRun(2).customTitle);
     model.deleteRun(runs[1].id);
-    EXPECT_TRUE(model.isComparing()) << "the deleted run was none of those compared";
+    EXPECT_TRUE(model.isComparing()) << "the deleted run was not part of the comparison";
     model.deleteRun(runs[0].id);
     EXPECT_FALSE(model.isComparing());
 
@@ -246,7 +246,7 @@ TEST_F(AnalyzerModelRuns, ComparesInTheOrderOnView) {
     EXPECT_EQ(model.compareSelectionCount(), 0);
 }
 
-TEST_F(AnalyzerModelRuns, ForgetsWhatIsDeleted) {
+TEST_F(AnalyzerModelRuns, DeletingARunDropsItEverywhere) {
     const QUuid older = complete();
     const QUuid newer = complete();
     model.setRunExpanded(older, true);

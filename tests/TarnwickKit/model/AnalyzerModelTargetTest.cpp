@@ -18,7 +18,7 @@ DiskSMART health(const char* kind) {
     return {DiskSMART::Status::verified, kind, {{"Power on", "3 hours", false}}};
 }
 
-/// Answers at once, or notes what it was asked.
+/// Records the questions; answers them immediately if it has an answer.
 struct Dialogs : AnalyzerDialogs {
     std::optional<std::filesystem::path> answer;
     std::optional<std::filesystem::path> startingAt;
@@ -50,11 +50,11 @@ struct AnalyzerModelTarget : testing::Test {
         services.loadVolume = [this](const auto&) { return volume; };
         services.probeCapabilities = [this](const auto&) { return capabilities; };
     }
-    /// The file is gone with the test's other things.
+    /// A file that is removed with the test's folder.
     std::filesystem::path file(const char* name) const { return engine.history.path() / name; }
 };
 
-TEST_F(AnalyzerModelTarget, NamesHowTheVolumeIsAttached) {
+TEST(VolumeFacts, NamesTheConnection) {
     using Kind = RunRecord::Kind;
     struct Case {
         bool isKnown, isInternal, isRemovable;
@@ -71,21 +71,19 @@ TEST_F(AnalyzerModelTarget, NamesHowTheVolumeIsAttached) {
              Case{true, true, true, "NFS", "Network", network, Kind::network},
              Case{false, false, false, "nfs", "Network", "externaldrive", Kind::network},
          }) {
-        volume.emplace();
-        volume->isInternal = each.isInternal;
-        volume->isRemovable = each.isRemovable;
+        VolumeFacts facts{.info = VolumeInfo(), .capabilities = VolumeCapabilities()};
+        facts.info->isInternal = each.isInternal;
+        facts.info->isRemovable = each.isRemovable;
         if (!each.isKnown)
-            volume.reset();
-        capabilities->filesystemType = each.type;
-        AnalyzerModel model(services);
-        model.select(std::filesystem::path("/"));
-        EXPECT_EQ(model.connectionLabel(), each.label);
-        EXPECT_EQ(model.selectedVolumeIcon(), each.icon) << each.label;
-        EXPECT_EQ(model.selectedVolumeKind(), each.kind) << each.label;
+            facts.info.reset();
+        facts.capabilities->filesystemType = each.type;
+        EXPECT_EQ(facts.connectionLabel(), each.label);
+        EXPECT_EQ(facts.icon(), each.icon) << each.label;
+        EXPECT_EQ(facts.kind(), each.kind) << each.label;
     }
 }
 
-TEST_F(AnalyzerModelTarget, OffersTheBlockThatSuitsTheFileSystem) {
+TEST_F(AnalyzerModelTarget, OffersTheOptimalBlock) {
     const auto labelsFor = [this](std::int64_t optimalIOSize) {
         capabilities->optimalIOSize = optimalIOSize;
         AnalyzerModel model(services);
@@ -103,7 +101,7 @@ TEST_F(AnalyzerModelTarget, OffersTheBlockThatSuitsTheFileSystem) {
     EXPECT_EQ(labelsFor(1048576), "1048576 1048576: 4 KiB, 64 KiB, 256 KiB, 1 MiB  ·  optimal, 4 MiB");
 }
 
-TEST_F(AnalyzerModelTarget, ListsVolumesForTheMenu) {
+TEST(VolumeMenuItem, DescribesAVolume) {
     struct Case {
         QString format, type;
         std::optional<std::int64_t> total;
@@ -122,7 +120,7 @@ TEST_F(AnalyzerModelTarget, ListsVolumesForTheMenu) {
     }
 }
 
-TEST_F(AnalyzerModelTarget, OnlyTheLatestHealthReadLands) {
+TEST_F(AnalyzerModelTarget, IgnoresStaleHealth) {
     const auto gate = std::make_shared<std::latch>(1);
     services.readHealth = [gate](const std::filesystem::path& path) {
         if (path == "/slow")
@@ -143,7 +141,7 @@ TEST_F(AnalyzerModelTarget, OnlyTheLatestHealthReadLands) {
     EXPECT_EQ(kinds, QStringList({"quick", "none", "next"}));
 }
 
-TEST_F(AnalyzerModelTarget, GoesOnWithoutAVolumeThatHangsAndTakesItsFactsWhenTheyCome) {
+TEST_F(AnalyzerModelTarget, TakesLateFactsOfAHangingVolume) {
     const auto gate = std::make_shared<std::latch>(1);
     services.volumePatience = std::chrono::milliseconds(1);
     services.loadVolume = [gate](const OndelCore::volumes::Location& place) {
@@ -168,10 +166,10 @@ TEST_F(AnalyzerModelTarget, GoesOnWithoutAVolumeThatHangsAndTakesItsFactsWhenThe
     turnUntil([&] { return model.volumeInfo().has_value(); });
     EXPECT_EQ(model.volumeInfo()->volumeURL, "/hangs too");
     EXPECT_EQ(model.readBlock(), 65536);
-    EXPECT_EQ(changes, 3) << "what the first one told is dropped";
+    EXPECT_EQ(changes, 3) << "the first volume's facts are dropped";
 }
 
-TEST_F(AnalyzerModelTarget, GivesARunTheFactsThatComeAfterItsStart) {
+TEST_F(AnalyzerModelTarget, RunUsesFactsThatArriveLate) {
     const auto named = [](const char* name) {
         VolumeInfo info;
         info.name = name;
@@ -181,7 +179,7 @@ TEST_F(AnalyzerModelTarget, GivesARunTheFactsThatComeAfterItsStart) {
     struct Gates {
         std::latch old{1}, wakes{1}, late{1};
     };
-    const auto gates = std::make_shared<Gates>(); // a question may outlive the test
+    const auto gates = std::make_shared<Gates>(); // a pending question may outlive the test
     services.loadVolume = [gates, named](const OndelCore::volumes::Location& place) {
         if (place.path == "/old")
             gates->old.wait();
@@ -214,10 +212,10 @@ TEST_F(AnalyzerModelTarget, GivesARunTheFactsThatComeAfterItsStart) {
     EXPECT_EQ(nameAfterRun(), "Volume");
     gates->late.count_down();
     turnUntil([&] { return model.volumeInfo().has_value(); });
-    EXPECT_EQ(model.currentRun()->volumeName, "Volume") << "a record that is made stays as it is";
+    EXPECT_EQ(model.currentRun()->volumeName, "Volume") << "late facts do not change a stored record";
 }
 
-TEST_F(AnalyzerModelTarget, AReadMayOutliveTheModel) {
+TEST_F(AnalyzerModelTarget, HealthReadMayOutliveTheModel) {
     const auto gate = std::make_shared<std::latch>(1);
     const auto ended = std::make_shared<std::latch>(1);
     services.readHealth = [gate, ended](const std::filesystem::path&) {

@@ -12,7 +12,7 @@ RunRecord writing(std::optional<double> rate) {
     return run;
 }
 
-TEST(ComparisonChart, ShowsTheMetricsThatARunHas) {
+TEST(ComparisonChart, ShowsMetricsOfAnyRun) {
     const auto labels = [](const std::vector<RunRecord>& runs) {
         QStringList list;
         for (const CompareMetric& metric : activeMetrics(runs))
@@ -26,7 +26,7 @@ TEST(ComparisonChart, ShowsTheMetricsThatARunHas) {
               QStringList({"Write MB/s", "Random write IOPS", "File ops ops/s"}));
 }
 
-TEST(ComparisonChart, ScalesEachMetricByItsLargest) {
+TEST(ComparisonChart, ScalesBarsByTheLargestFigure) {
     const CompareMetric& write = CompareMetric::all().front();
     EXPECT_EQ(bars(write, {writing(2e9), writing(1e9), writing(1), writing(std::nullopt)}, 300),
               (std::vector<Bar>{{300, "2,000"}, {150, "1,000"}, {3, "0"}, {std::nullopt, "--"}}));
@@ -35,7 +35,7 @@ TEST(ComparisonChart, ScalesEachMetricByItsLargest) {
     EXPECT_EQ(bars(write, {writing(std::nullopt)}, 300), (std::vector<Bar>{{std::nullopt, "--"}}));
 }
 
-TEST(ComparisonChart, SumsTheParametersUp) {
+TEST(ComparisonChart, SummarizesParameters) {
     RunRecord run;
     EXPECT_EQ(parameterSummary(run), "");
     run.fsType = "apfs";

@@ -26,12 +26,12 @@ TEST(DriveInfo, JoinsTheTrimmedNamesAndPrefersTheBus) {
             << each.expected.model.value_or("none").toStdString();
 }
 
-TEST(DriveInfo, OfNoDiskIsAbsent) {
+TEST(DriveInfo, IsAbsentWithoutADisk) {
     for (const char* path : {"/proc", "/no/such/path", ""})
         EXPECT_EQ(DriveInfo::identity(std::filesystem::path(path)), DriveIdentity()) << path;
 }
 
-TEST(DriveInfo, NamesTheProtocolsOfNetworkVolumes) {
+TEST(DriveInfo, NamesNetworkProtocols) {
     QStringList protocols;
     for (const char* type :
          {"smbfs", "SMBFS", "cifs", "nfs", "afpfs", "WebDAV", "ftp", "exfat", "nfs4", " nfs", ""})

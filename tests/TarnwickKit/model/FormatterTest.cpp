@@ -66,7 +66,7 @@ TEST(Formatter, RatesAndCounts) {
         {format.rate(2345000000), "2.35 GB/s"},
         {format.grouped(1234567.9), "1,234,567"},
         {format.grouped(-1234.9), "-1,234"},
-        // The double's exact value decides, as in the C library: 0.15 lies below, 0.25 in the middle.
+        // The exact value of the double is rounded, as in the C library: 0.15 is below, 0.25 exact.
         {format.bytes(1024 + 154), "1.2 KiB"},
         {format.compact(2.5), "2"},
         {format.compact(1150), "1.1k"},
@@ -74,7 +74,7 @@ TEST(Formatter, RatesAndCounts) {
     });
 }
 
-TEST(Formatter, FollowsTheLocalesMarks) {
+TEST(Formatter, UsesLocaleMarks) {
     const auto in = [](const char* locale) { return Formatter({locale, locale}); };
     expectAll({
         {in("de_DE").bytes(3 * GiB / 2), "1,5 GiB"},
@@ -100,7 +100,7 @@ TEST(Formatter, Stamps) {
     });
 }
 
-TEST(Formatter, UsesTheMachinesZoneWhenNoneIsGiven) {
+TEST(Formatter, DefaultsToTheMachinesZone) {
     for (const auto& [zone, stamp] :
          {std::pair("XYZ-5:30", "May 1 · 6:04 PM"), {"UTC", "May 1 · 12:34 PM"}}) {
         setenv("TZ", zone, 1);
@@ -109,7 +109,7 @@ TEST(Formatter, UsesTheMachinesZoneWhenNoneIsGiven) {
     }
 }
 
-TEST(FormatterDeathTest, StopsAtFiguresNoIntegerHolds) {
+TEST(FormatterDeathTest, RejectsFiguresBeyondIntegers) {
     const Formatter format(english);
     EXPECT_DEATH(format.grouped(infinite), "not finite");
     EXPECT_DEATH(format.mbValue(notANumber), "not finite");
@@ -119,7 +119,7 @@ TEST(FormatterDeathTest, StopsAtFiguresNoIntegerHolds) {
     EXPECT_EQ(format.grouped(-9223372036854775808.0), "-9,223,372,036,854,775,808");
 }
 
-TEST(UserLocale, TakesTheFirstVariableThatSaysSomething) {
+TEST(UserLocale, TakesTheFirstVariableThatIsSet) {
     const auto locale = [](const char* all, const char* numeric, const char* time, const char* lang) {
         setenv("LC_ALL", all, 1);
         setenv("LC_NUMERIC", numeric, 1);

@@ -19,7 +19,7 @@ using OndelCore::benchmark::BenchmarkEngine;
 using OndelCore::benchmark::BenchmarkPlan;
 using OndelCore::benchmark::BenchmarkResult;
 
-/// An engine whose runs go as the test says.
+/// A fake engine whose runs the test controls.
 struct Engine {
     test::TemporaryFolder history;
     struct Call {
@@ -42,7 +42,7 @@ struct Engine {
 
     Call& last() { return *calls.back(); }
 
-    /// Starts the model's next run and waits until it has come here.
+    /// Starts the model's next run and waits until the engine is called.
     void begin(AnalyzerModel& model);
 
     AnalyzerServices services() {
@@ -66,7 +66,7 @@ struct Engine {
     }
 };
 
-/// Turns the event loop until `done`; what is waited for is always under way.
+/// Runs the event loop until `done`. The awaited event must be pending.
 inline void turnUntil(const std::function<bool()>& done) {
     while (!done())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

@@ -20,7 +20,7 @@ std::string report(const DiskSMART& smart, const std::optional<QString>& drive, 
     return SMARTReport::text(smart, drive, morning, formatter).toStdString();
 }
 
-TEST(SMARTReport, WritesBothBlocksInColumnsOfTheirOwn) {
+TEST(SMARTReport, AlignsEachBlock) {
     const DiskSMART smart{
         Status::verified,
         "NVMe",
@@ -38,7 +38,7 @@ Spare available: 100%
 )");
 }
 
-TEST(SMARTReport, LeavesOutWhatIsNotKnown) {
+TEST(SMARTReport, OmitsUnknownFacts) {
     EXPECT_EQ(report({Status::failing, "", {}}, std::nullopt, "de_DE"), R"(Ondel Tarnwick S.M.A.R.T. report
 
 Date:   14. März 2026 um 09:26
@@ -50,7 +50,7 @@ Status: Failing
     EXPECT_NE(notSupported.find("Status: Verified"), std::string::npos) << notSupported;
 }
 
-TEST(SMARTReport, ProposesANameThatIsOneFile) {
+TEST(SMARTReport, ProposesAValidFileName) {
     EXPECT_EQ(SMARTReport::fileName("Bus 1/Port:2", morning), "S.M.A.R.T. Bus 1-Port-2 2026-03-14.txt");
     EXPECT_EQ(SMARTReport::fileName(std::nullopt, morning), "S.M.A.R.T. Drive 2026-03-14.txt");
 }

@@ -2,7 +2,6 @@
 
 #include "TarnwickKit/model/runs/RunRecord.h"
 
-#include <QByteArray>
 #include <QTimeZone>
 
 #include <random>
@@ -51,35 +50,6 @@ inline RunRecord fullRun(std::size_t points = 159) {
     run.kind = RunRecord::Kind::external;
     run.customTitle = "After the firmware";
     return run;
-}
-
-/// Damages a text in one to four places: other bytes, missing pieces, repeated pieces, telling fragments.
-inline void mutate(QByteArray& text, std::mt19937& random) {
-    static constexpr const char* fragments[] = {
-        "null", "-", "1e999", "\"", "{", "}",    "[", "]",
-        ",",    ":", "\\u",   "\\", "0", "\xff", ".", "9999999999999999999"};
-    const auto below = [&](qsizetype bound) {
-        return static_cast<qsizetype>(random() % static_cast<std::uint32_t>(std::max<qsizetype>(bound, 1)));
-    };
-    for (qsizetype count = 1 + below(4); count > 0; --count) {
-        const qsizetype at = below(text.size());
-        switch (below(5)) {
-        case 0:
-            text[at] = static_cast<char>(random());
-            break;
-        case 1:
-            text[at] = static_cast<char>('0' + below(10));
-            break;
-        case 2:
-            text.remove(at, 1 + below(20));
-            break;
-        case 3:
-            text.insert(at, text.mid(below(text.size()), 1 + below(30)));
-            break;
-        default:
-            text.insert(at, fragments[static_cast<std::size_t>(below(std::size(fragments)))]);
-        }
-    }
 }
 
 } // namespace TarnwickKit::model
