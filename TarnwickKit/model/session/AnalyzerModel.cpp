@@ -105,11 +105,6 @@ std::vector<VolumeMenuItem> AnalyzerModel::mountedVolumeItems() {
     return items;
 }
 
-void AnalyzerModel::start() {
-    if (targetFolder() && !isRunning())
-        m_session.start(makePlan());
-}
-
 void AnalyzerModel::runStarted() {
     setPhase(Phase::Running);
     m_library.setCurrentRun(std::nullopt);

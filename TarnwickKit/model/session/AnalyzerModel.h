@@ -101,7 +101,7 @@ public:
     Q_SIGNAL void resultChanged();
 
     /// Begins a run. Does nothing without a target, or during a run; it does not check canRun.
-    Q_INVOKABLE void start();
+    Q_INVOKABLE void start() { m_session.start(makePlan()); }
     /// Asks the run to end. The phase stays Running until the engine has cleaned up, then it is Idle.
     Q_INVOKABLE void cancel() { m_session.cancel(); }
     QFuture<void> cancelAndWait() { return m_session.cancelAndWait(); }

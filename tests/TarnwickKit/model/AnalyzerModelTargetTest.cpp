@@ -101,6 +101,21 @@ TEST_F(AnalyzerModelTarget, OffersTheOptimalBlock) {
     EXPECT_EQ(labelsFor(1048576), "1048576 1048576: 4 KiB, 64 KiB, 256 KiB, 1 MiB  ·  optimal, 4 MiB");
 }
 
+/// A run teaches what the file system can do. That must not reset the block sizes.
+TEST_F(AnalyzerModelTarget, RunKeepsTheChosenBlock) {
+    capabilities->optimalIOSize = 65536;
+    AnalyzerModel model(services);
+    model.select(std::filesystem::path("/"));
+    model.setWriteBlock(4096);
+    engine.begin(model);
+    BenchmarkResult result;
+    result.tried.sparseFiles = true;
+    engine.last().finish(result);
+    turnUntilEnded(model);
+    EXPECT_TRUE(model.capabilities()->supportsSparseFiles);
+    EXPECT_EQ(model.writeBlock(), 4096);
+}
+
 TEST(VolumeMenuItem, DescribesAVolume) {
     struct Case {
         QString format, type;
