@@ -56,18 +56,18 @@ std::unique_ptr<QQuickItem> comparisonCard(const std::vector<RunRecord>& runs, c
                    palette);
 }
 
-ImageFile written(QImage image, const QString& baseName) {
+std::optional<SharedPng> written(QImage image, const QString& baseName) {
     const auto folder = OndelCore::platform::privateTemporaryFolder();
-    const QByteArray png = encodedPng(std::exchange(image, QImage()));
+    QByteArray png = encodedPng(std::exchange(image, QImage()));
     OndelCore::platform::giveBackFreedMemory(); // a picture takes eight megabytes
     if (!folder || png.isEmpty())
         return std::nullopt;
-    const fs::path path = *folder / ReportImage::fileName(baseName);
+    fs::path path = *folder / ReportImage::fileName(baseName);
     if (OndelCore::platform::replaceFile(path, {png.data(), static_cast<std::size_t>(png.size())},
                                          fs::perms::owner_read | fs::perms::owner_write,
                                          OndelCore::platform::Lasting::untilPowerLoss))
         return std::nullopt;
-    return path;
+    return SharedPng{.path = std::move(path), .bytes = std::move(png)};
 }
 
 } // namespace
@@ -85,11 +85,12 @@ std::string ReportImage::fileName(const QString& baseName) {
 }
 
 ImageFile ReportImage::png(QQuickItem& view, const QString& baseName) {
-    return written(viewPicture(view, scale), baseName);
+    const auto png = written(viewPicture(view, scale), baseName);
+    return png ? ImageFile(png->path) : std::nullopt;
 }
 
-QFuture<ImageFile> ReportImage::pngLater(QQuickItem* view, const QString& baseName) {
-    const auto promise = std::make_shared<QPromise<ImageFile>>();
+SharedPngLater ReportImage::pngLater(QQuickItem* view, const QString& baseName) {
+    const auto promise = std::make_shared<QPromise<std::optional<SharedPng>>>();
     promise->start();
     QThreadPool::globalInstance()->start(
         [image = view ? viewPicture(*view, scale) : QImage(), baseName, promise]() mutable {
@@ -104,7 +105,7 @@ ImageFile ReportImage::render(const RunRecord& run, const Palette& palette) {
     return card ? png(*card, titlePrefix + run.screenshotTitle()) : std::nullopt;
 }
 
-QFuture<ImageFile> ReportImage::renderLater(const RunRecord& run, const Palette& palette) {
+SharedPngLater ReportImage::renderLater(const RunRecord& run, const Palette& palette) {
     const auto card = reportCard(run, palette);
     return pngLater(card.get(), titlePrefix + run.screenshotTitle());
 }
@@ -114,7 +115,7 @@ ImageFile ComparisonImage::render(const std::vector<RunRecord>& runs, const Pale
     return card ? ReportImage::png(*card, comparisonName) : std::nullopt;
 }
 
-QFuture<ImageFile> ComparisonImage::renderLater(const std::vector<RunRecord>& runs, const Palette& palette) {
+SharedPngLater ComparisonImage::renderLater(const std::vector<RunRecord>& runs, const Palette& palette) {
     const auto card = comparisonCard(runs, palette);
     return ReportImage::pngLater(card.get(), comparisonName);
 }

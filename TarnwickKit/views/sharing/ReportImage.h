@@ -4,6 +4,7 @@
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 #include "TarnwickKit/views/style/Palette.h"
 
+#include <QByteArray>
 #include <QFuture>
 
 #include <filesystem>
@@ -18,6 +19,13 @@ namespace TarnwickKit::views {
 /// Where an image was written; absent on failure.
 using ImageFile = std::optional<std::filesystem::path>;
 
+/// An image that was written, and the bytes of its file.
+struct SharedPng {
+    std::filesystem::path path;
+    QByteArray bytes;
+};
+using SharedPngLater = QFuture<std::optional<SharedPng>>;
+
 /// Pictures of views as PNG files, in a folder that only this user can enter. A picture replaces an earlier
 /// one of the same name; nothing removes it.
 ///
@@ -30,12 +38,12 @@ inline constexpr double scale = 2;
 /// The report card of a run.
 ImageFile render(const model::RunRecord& run, const Palette& palette);
 /// The same, but encoded and written on another thread: the window only waits for the drawing.
-QFuture<ImageFile> renderLater(const model::RunRecord& run, const Palette& palette);
+SharedPngLater renderLater(const model::RunRecord& run, const Palette& palette);
 
 /// Any view that is not in a window. `baseName`: see fileName.
 ImageFile png(QQuickItem& view, const QString& baseName);
 /// The same, but encoded and written on another thread. A view that could not be created is nullptr.
-QFuture<ImageFile> pngLater(QQuickItem* view, const QString& baseName);
+SharedPngLater pngLater(QQuickItem* view, const QString& baseName);
 
 /// The file name for a title. Characters that would lead to another folder, hide the file, break a line or
 /// change the reading direction are replaced. The name is cut at 255 bytes, between characters as people
@@ -49,7 +57,7 @@ namespace ComparisonImage {
 /// The comparison card of some runs, in the order given; as ReportImage::render. All comparisons share one
 /// file.
 ImageFile render(const std::vector<model::RunRecord>& runs, const Palette& palette);
-QFuture<ImageFile> renderLater(const std::vector<model::RunRecord>& runs, const Palette& palette);
+SharedPngLater renderLater(const std::vector<model::RunRecord>& runs, const Palette& palette);
 
 } // namespace ComparisonImage
 

@@ -22,17 +22,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-QByteArray content(const fs::path& path) {
-    QFile file(QFile::decodeName(path.c_str()));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// Copies the image to where the user wants it, with the permissions of an ordinary file.
-std::error_code copyTo(const fs::path& target, const QByteArray& image) {
+/// Writes the image where the user wants it, with the permissions of an ordinary file.
+std::error_code writeTo(const fs::path& target, const QByteArray& image) {
     constexpr fs::perms ordinary = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read |
                                    fs::perms::group_write | fs::perms::others_read | fs::perms::others_write;
-    if (image.isEmpty())
-        return std::make_error_code(std::errc::no_such_file_or_directory);
     return OndelCore::platform::replaceFile(target, {image.data(), static_cast<std::size_t>(image.size())},
                                             ordinary);
 }
@@ -54,37 +47,33 @@ void SharedImage::makeComparison(const ComparedRuns& runs, const Palette* palett
         await(ComparisonImage::renderLater(runs.runs, *palette));
 }
 
-void SharedImage::await(const QFuture<ImageFile>& image) {
+void SharedImage::await(const SharedPngLater& image) {
     m_making = image;
-    m_making.then(this, [this](const ImageFile& file) {
-        if (!file)
+    m_making.then(this, [this](const std::optional<SharedPng>& png) {
+        if (!png)
             return;
-        m_file = *file;
+        m_image = *png;
         Q_EMIT ready();
     });
 }
 
 void SharedImage::copy() {
-    const QByteArray png = content(m_file);
+    auto* data = new QMimeData;
+    data->setData(QStringLiteral("image/png"), m_image.bytes);
     QClipboard* clipboard = QGuiApplication::clipboard();
-    if (!png.isEmpty()) {
-        auto* data = new QMimeData;
-        data->setData(QStringLiteral("image/png"), png);
-        clipboard->setMimeData(data);
-    }
-    Q_EMIT told(!png.isEmpty() && clipboard->ownsClipboard() ? tr("Image copied")
-                                                             : tr("The image couldn't be copied."));
+    clipboard->setMimeData(data);
+    Q_EMIT told(clipboard->ownsClipboard() ? tr("Image copied") : tr("The image couldn't be copied."));
 }
 
 void SharedImage::saveAs(QQuickItem* item) {
     if (!m_dialogs)
         m_dialogs = std::make_unique<Dialogs>();
     m_dialogs->setWindow(item->window());
-    m_dialogs->askForImageFile(QFile::decodeName(m_file.filename().c_str()),
+    m_dialogs->askForImageFile(QFile::decodeName(m_image.path.filename().c_str()),
                                [this](const fs::path& target) { save(target); });
 }
 
-/// On another thread: the disk may be the slow one that the image is about.
+/// On another thread: the target may be the slow disk that was measured.
 void SharedImage::save(const fs::path& target) {
     const auto promise = std::make_shared<QPromise<std::error_code>>();
     promise->start();
@@ -92,21 +81,21 @@ void SharedImage::save(const fs::path& target) {
         Q_EMIT told(error ? tr("The image couldn't be saved: %1").arg(QString::fromStdString(error.message()))
                           : tr("Saved as “%1”").arg(QFile::decodeName(target.filename().c_str())));
     });
-    QThreadPool::globalInstance()->start([source = m_file, target, promise] {
-        promise->addResult(copyTo(target, content(source)));
+    QThreadPool::globalInstance()->start([image = m_image.bytes, target, promise] {
+        promise->addResult(writeTo(target, image));
         promise->finish();
     });
 }
 
 void SharedImage::showInFolder() {
-    OndelDesktop::showInFolder(m_file, [self = QPointer(this)] {
+    OndelDesktop::showInFolder(m_image.path, [self = QPointer(this)] {
         if (self)
             Q_EMIT self->told(tr("The folder couldn't be opened."));
     });
 }
 
 void SharedImage::sendByEmail() {
-    OndelDesktop::sendByEmail(m_file, m_file.stem().string(), [self = QPointer(this)] {
+    OndelDesktop::sendByEmail(m_image.path, m_image.path.stem().string(), [self = QPointer(this)] {
         if (self)
             Q_EMIT self->told(tr("No mail program could be opened."));
     });

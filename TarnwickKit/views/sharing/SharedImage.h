@@ -17,10 +17,10 @@ namespace TarnwickKit::views {
 
 class Dialogs;
 
-/// An image made to be shared, and what people do with it. Making it takes the window a fraction of the whole
-/// time; what else is asked for meanwhile is ignored. What has happened is told in a sentence for people.
+/// An image made for sharing, and the actions on it. Only the drawing blocks the window; a request for
+/// another image is ignored meanwhile. The result of an action is a sentence for people.
 ///
-/// Threads: main. Fails: no image, no word.
+/// Threads: main. Fails: without an image `ready` is not emitted.
 class SharedImage : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -33,11 +33,11 @@ public:
                                 const TarnwickKit::views::Palette* palette);
     Q_INVOKABLE void makeComparison(const TarnwickKit::views::ComparedRuns& runs,
                                     const TarnwickKit::views::Palette* palette);
-    /// The image lies in its file and can be handed on.
+    /// The image is written to its file; the actions below may be called.
     Q_SIGNAL void ready();
 
     Q_INVOKABLE void copy();
-    /// Asks over the item's window where to. Needs a QApplication.
+    /// Asks for the file in a dialog over the item's window. Needs a QApplication.
     Q_INVOKABLE void saveAs(QQuickItem* item);
     Q_INVOKABLE void showInFolder();
     Q_INVOKABLE void sendByEmail();
@@ -45,12 +45,12 @@ public:
 
 private:
     bool isBusy() const { return m_making.isRunning(); }
-    void await(const QFuture<ImageFile>& image);
+    void await(const SharedPngLater& image);
     void save(const std::filesystem::path& target);
 
-    QFuture<ImageFile> m_making;
-    std::filesystem::path m_file;
-    std::unique_ptr<Dialogs> m_dialogs; ///< from the first question on
+    SharedPngLater m_making;
+    SharedPng m_image;
+    std::unique_ptr<Dialogs> m_dialogs; ///< created by the first dialog
 };
 
 } // namespace TarnwickKit::views

@@ -2,6 +2,7 @@
 #include "OndelControls/Card.h"
 #include "TarnwickKit/views/runs/ComparedRuns.h"
 #include "TarnwickKit/views/sharing/CardView.h"
+#include "TarnwickKit/views/sharing/PngEncoding.h"
 #include "TarnwickKit/views/sharing/QRCode.h"
 #include "TarnwickKit/views/sharing/ReportImage.h"
 #include "TarnwickKit/views/sharing/ViewPicture.h"
@@ -103,8 +104,11 @@ TEST(ReportImage, IsACardWithACodeThatCamerasRead) {
             expectCard(file, *palette);
             ASSERT_TRUE(file);
             const QByteArray bytes = content(*file);
-            EXPECT_EQ(ReportImage::renderLater(run, *palette).result(), file) << "replaces the one before";
+            const auto later = ReportImage::renderLater(run, *palette).result();
+            ASSERT_TRUE(later);
+            EXPECT_EQ(later->path, *file) << "replaces the one before";
             EXPECT_EQ(content(*file), bytes) << "the same run gives the same bytes";
+            EXPECT_EQ(later->bytes, bytes);
         }
     EXPECT_EQ(link(), OndelAppSupport::AppIdentity::tarnwick().website.toString());
 }
@@ -167,6 +171,23 @@ TEST(ReportImage, AsksForNothingWhereThereIsNoPicture) {
     std::filesystem::create_directories(*picture / "in the way");
     EXPECT_FALSE(ReportImage::render(bareRun(), Palette::light()));
     std::filesystem::remove_all(*picture);
+}
+
+TEST(PngEncoding, KeepsEveryPixel) {
+    QImage gradient(37, 70, QImage::Format_ARGB32); // more lines than are converted at a time
+    for (int y = 0; y < gradient.height(); ++y)
+        for (int x = 0; x < gradient.width(); ++x)
+            gradient.setPixel(x, y, qRgba(x * 6, y * 3, x ^ y, y < 9 ? 0 : 255 - x));
+    for (const auto format :
+         {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB32})
+        for (const QSize size : {QSize(1, 1), QSize(37, 32), QSize(3, 33), QSize(37, 70)}) {
+            const QImage image = gradient.convertToFormat(format).copy(QRect(QPoint(), size));
+            const QByteArray png = encodedPng(image);
+            EXPECT_EQ(QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGBA8888),
+                      image.convertToFormat(QImage::Format_RGBA8888))
+                << format << " " << size.width() << " by " << size.height();
+        }
+    EXPECT_TRUE(encodedPng(QImage()).isEmpty());
 }
 
 TEST(QRCode, IsSharpAndHoldsWhatItCan) {
@@ -260,7 +281,7 @@ TEST(ComparisonImage, IsACardWithACodeThatCamerasRead) {
         expectCard(file, *palette);
         ASSERT_TRUE(file);
         EXPECT_EQ(file->filename(), "Ondel Tarnwick — Comparison.png");
-        EXPECT_EQ(ComparisonImage::renderLater({fullRun(), bareRun()}, *palette).result(), file);
+        EXPECT_EQ(ComparisonImage::renderLater({fullRun(), bareRun()}, *palette).result()->path, *file);
     }
 }
 
