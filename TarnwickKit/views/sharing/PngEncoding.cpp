@@ -1,107 +1,106 @@
-// PNG (ISO/IEC 15948): a signature, then chunks of length, type, content and checksum. The content of IDAT is
-// one zlib stream of lines, each behind a byte that names its filter.
-
 #include "TarnwickKit/views/sharing/PngEncoding.h"
 
-#include <QtEndian>
-
-#include <zlib.h>
+#include <png.h>
 
 #include <algorithm>
 #include <array>
+#include <csetjmp>
+#include <new>
 
 namespace TarnwickKit::views {
 
 namespace {
 
-constexpr int level = 2; // from 3 on it takes longer than it saves
+constexpr int level = 2; // higher levels take more time than the smaller file is worth
+constexpr int bitsPerChannel = 8;
+constexpr int linesAtATime = 32; // are converted, so that a picture takes no second one's memory
 
-void appendNumber(QByteArray& file, quint32 number) {
-    const quint32 big = qToBigEndian(number);
-    file.append(reinterpret_cast<const char*>(&big), sizeof big);
-}
-
-void appendChunk(QByteArray& file, const char (&type)[5], const QByteArray& content) {
-    appendNumber(file, static_cast<quint32>(content.size()));
-    const qsizetype start = file.size();
-    file.append(type, 4).append(content);
-    const auto* summed = reinterpret_cast<const Bytef*>(file.constData() + start);
-    appendNumber(file, static_cast<quint32>(crc32_z(0, summed, static_cast<z_size_t>(file.size() - start))));
-}
-
-QByteArray header(QSize size) {
-    QByteArray content;
-    appendNumber(content, static_cast<quint32>(size.width()));
-    appendNumber(content, static_cast<quint32>(size.height()));
-    constexpr char bitsPerChannel = 8;
-    constexpr char colorWithAlpha = 6;
-    content.append(bitsPerChannel).append(colorWithAlpha);
-    return content.append(3, '\0'); // deflate, the five standard filters, not interlaced
-}
-
-/// A deflate stream that ends with the object.
-class Packing {
+/// A PNG file in memory. libpng reports errors by a jump; `run` keeps its jumps from passing destructors.
+class PngWriter {
 public:
-    explicit Packing(qsizetype expectedBytes) {
-        m_isGood = deflateInit(&m_stream, level) == Z_OK;
-        m_packed.reserve(expectedBytes);
+    explicit PngWriter(qsizetype expectedBytes) {
+        m_file.reserve(expectedBytes);
+        m_png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, ignoreWarning);
+        m_info = m_png ? png_create_info_struct(m_png) : nullptr;
     }
-    ~Packing() { deflateEnd(&m_stream); }
-    Packing(const Packing&) = delete;
-    Packing& operator=(const Packing&) = delete;
+    ~PngWriter() { png_destroy_write_struct(&m_png, &m_info); }
+    PngWriter(const PngWriter&) = delete;
+    PngWriter& operator=(const PngWriter&) = delete;
 
-    void add(const QByteArray& bytes, int flush = Z_NO_FLUSH) {
-        m_stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data())); // it is only read
-        m_stream.avail_in = static_cast<uInt>(bytes.size());
-        do {
-            m_stream.next_out = m_buffer.data();
-            m_stream.avail_out = static_cast<uInt>(m_buffer.size());
-            m_isGood = m_isGood && deflate(&m_stream, flush) != Z_STREAM_ERROR;
-            m_packed.append(reinterpret_cast<const char*>(m_buffer.data()),
-                            static_cast<qsizetype>(m_buffer.size() - m_stream.avail_out));
-        } while (m_isGood && m_stream.avail_out == 0);
+    bool begin(QSize size) {
+        return m_info && run([&] {
+                   png_set_write_fn(m_png, &m_file, append, nullptr);
+                   png_set_compression_level(m_png, level);
+                   png_set_filter(m_png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
+                   // One chunk of data instead of one per 8 KiB. Only what is used of the buffer takes
+                   // memory.
+                   png_set_compression_buffer_size(m_png, std::size_t{4} << 20);
+                   png_set_IHDR(m_png, m_info, static_cast<png_uint_32>(size.width()),
+                                static_cast<png_uint_32>(size.height()), bitsPerChannel, PNG_COLOR_TYPE_RGBA,
+                                PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+                   png_write_info(m_png, m_info);
+               });
     }
+
+    bool add(const QImage& rgba) {
+        std::array<png_const_bytep, linesAtATime> lines{};
+        for (int y = 0; y < rgba.height(); ++y)
+            lines[static_cast<std::size_t>(y)] = rgba.constScanLine(y);
+        return run([&] {
+            png_write_rows(m_png, const_cast<png_bytepp>(lines.data()), // it only reads them
+                           static_cast<png_uint_32>(rgba.height()));
+        });
+    }
+
     QByteArray end() {
-        add({}, Z_FINISH);
-        return m_isGood ? m_packed : QByteArray();
+        return run([&] { png_write_end(m_png, nullptr); }) ? m_file : QByteArray();
     }
 
 private:
-    z_stream m_stream{};
-    std::array<Bytef, 65536> m_buffer{};
-    QByteArray m_packed;
-    bool m_isGood;
-};
-
-/// Some lines at a time, so that a picture takes no memory beside itself.
-QByteArray packedLines(const QImage& image) {
-    constexpr int linesAtATime = 32;
-    constexpr char unfiltered = 0;
-    const qsizetype length = qsizetype{4} * image.width();
-    Packing packing(image.sizeInBytes() / 16);
-    for (int top = 0; top < image.height(); top += linesAtATime) {
-        const QImage rgba = image.copy(0, top, image.width(), std::min(linesAtATime, image.height() - top))
-                                .convertToFormat(QImage::Format_RGBA8888);
-        QByteArray raw;
-        raw.reserve((length + 1) * rgba.height());
-        for (int y = 0; y < rgba.height(); ++y)
-            raw.append(unfiltered).append(reinterpret_cast<const char*>(rgba.constScanLine(y)), length);
-        packing.add(raw);
+    /// False after an error in `calls`, which must own nothing.
+    template <typename Calls>
+    bool run(const Calls& calls) {
+        if (setjmp(png_jmpbuf(m_png))) // NOLINT(cert-err52-cpp): libpng's own interface
+            return false;
+        calls();
+        return true;
     }
-    return packing.end();
-}
+
+    static void append(png_structp png, png_bytep bytes, std::size_t count) {
+        if (!appended(*static_cast<QByteArray*>(png_get_io_ptr(png)), bytes, count))
+            png_error(png, "no memory");
+    }
+    static bool appended(QByteArray& file, const png_byte* bytes, std::size_t count) {
+        try {
+            file.append(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(count));
+            return true;
+        } catch (const std::bad_alloc&) {
+            return false;
+        }
+    }
+    static void ignoreWarning(png_structp, png_const_charp) {}
+
+    QByteArray m_file;
+    png_structp m_png = nullptr;
+    png_infop m_info = nullptr;
+};
 
 } // namespace
 
 QByteArray encodedPng(const QImage& image) {
-    const QByteArray packed = image.isNull() ? QByteArray() : packedLines(image);
-    if (packed.isEmpty())
+    if (image.isNull())
         return {};
-    QByteArray file("\x89PNG\r\n\x1a\n");
-    appendChunk(file, "IHDR", header(image.size()));
-    appendChunk(file, "IDAT", packed);
-    appendChunk(file, "IEND", {});
-    return file;
+    PngWriter writer(image.sizeInBytes() / 16 + 1024);
+    if (!writer.begin(image.size()))
+        return {};
+    for (int top = 0; top < image.height(); top += linesAtATime) {
+        const int height = std::min(linesAtATime, image.height() - top);
+        const QImage lines =
+            image.copy(0, top, image.width(), height).convertToFormat(QImage::Format_RGBA8888);
+        if (lines.isNull() || !writer.add(lines))
+            return {};
+    }
+    return writer.end();
 }
 
 } // namespace TarnwickKit::views
