@@ -31,7 +31,9 @@ struct History {
     }
 };
 
-/// What the model tells views, in order: "-1..2" for rows that go, "+0..0", "2>0" for one that moves, "*1".
+/// What the model announces, in order: "-1..2" for removed rows, "+0..0" for inserted ones, "2>0" for a moved
+/// one,
+/// "*1..1 run" for rows whose role has changed.
 class Told {
 public:
     explicit Told(QAbstractItemModel& model) {
@@ -48,10 +50,11 @@ public:
                              m_words << QStringLiteral("%1>%2").arg(from).arg(to);
                          });
         QObject::connect(&model, &QAbstractItemModel::dataChanged, &m_context,
-                         [this](const QModelIndex& first, const QModelIndex& last) {
-                             m_words << u'*' + QString::number(first.row());
-                             if (last != first)
-                                 m_words.last() += QStringLiteral("..%1").arg(last.row());
+                         [this, range, &model](const QModelIndex& first, const QModelIndex& last,
+                                               const QList<int>& roles) {
+                             m_words << u'*' + range(first.row(), last.row());
+                             for (const int role : roles)
+                                 m_words << QString::fromLatin1(model.roleNames().value(role));
                          });
         QObject::connect(&model, &QAbstractItemModel::modelReset, &m_context,
                          [this] { m_words << QStringLiteral("reset"); });
@@ -72,12 +75,12 @@ TEST(StoredRuns, TellViewsRowByRowWhatChanges) {
         {"abc", "abc", ""},
         {"abc", "xabc", "+0..0"},
         {"abc", "ac", "-1..1"},
-        {"abcd", "aBcD", "*1 *3"},
+        {"abcd", "aBcD", "*1..1 run *3..3 run"},
         {"abcdefgh", "acg", "-7..7 -3..5 -1..1"}, // from below, so that the numbers hold
         {"abcdef", "uvwxyz", "-0..5 +0..5"},
         {"abcd", "xaybzcd", "+0..0 +2..2 +4..4"},
         {"abcd", "dabc", "3>0"},
-        {"abcd", "Dabc", "3>0 *0"},
+        {"abcd", "Dabc", "3>0 *0..0 run"},
         {"abcd", "dcba", "3>0 3>1 3>2"},
         {"abcdef", "xfbYZa", "-2..4 +0..0 3>1 3>2 +3..4"},
     };
@@ -96,7 +99,24 @@ TEST(StoredRuns, TellViewsRowByRowWhatChanges) {
     }
 }
 
-/// How many rows stand for runs there.
+TEST(StoredRuns, AnnounceWhichRoleHasChanged) {
+    History history("abc");
+    StoredRuns runs;
+    const QAbstractItemModelTester tester(&runs, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    runs.setAnalyzer(&history.model);
+    const Told heard(runs);
+    const auto id = [&](int row) {
+        return runs.data(runs.index(row), StoredRuns::RunRole).value<RunRecord>().id;
+    };
+    history.model.setRunExpanded(id(1), true);
+    history.model.renameRun(id(2), QStringLiteral("Title"));
+    EXPECT_EQ(heard.words().toStdString(), "*0..2 expanded *2..2 run");
+    for (int row = 0; row < 3; ++row)
+        EXPECT_EQ(runs.data(runs.index(row), StoredRuns::ExpandedRole).toBool(), row == 1);
+    EXPECT_EQ(runs.data(runs.index(2), StoredRuns::RunRole).value<RunRecord>().customTitle, "Title");
+}
+
+/// The number of rows for runs in `item`.
 int rowsIn(const QQuickItem& item) {
     int rows = QByteArrayView(item.metaObject()->className()).startsWith("HistoryRow_") ? 1 : 0;
     for (const QQuickItem* child : item.childItems())
@@ -104,7 +124,7 @@ int rowsIn(const QQuickItem& item) {
     return rows;
 }
 
-/// Draws frames until no row comes with them. Gives the rows behind each.
+/// Draws frames until no more rows are added. Answers the number of rows after each frame.
 std::vector<int> frames(test::Stage& stage) {
     std::vector<int> rows;
     while (rows.size() < 2 || rows.back() != rows[rows.size() - 2]) {
