@@ -41,8 +41,7 @@ double clampedIntegral(double value) {
     return value < 1 ? value * value / 2 : value - 0.5;
 }
 
-/// How far `row` is filled on average, when the area's upper edge runs evenly from `upper`
-/// to `lower`.
+/// The average coverage of `row` when the area's upper edge is a straight line from `upper` to `lower`.
 double filled(int row, double upper, double lower) {
     const double below = row + 1;
     if (lower - upper < 1e-6)
@@ -69,7 +68,7 @@ int CurveRaster::takeChangedFrom() { return std::exchange(m_changedFrom, m_width
 
 void CurveRaster::add(QPointF point) {
     if (m_count > 0 && !m_line.empty()) {
-        // Each segment but the first brings the round corner at its start along.
+        // Each segment but the first draws the round join at its start.
         const bool isRound = m_caps == Caps::Round;
         stroke(m_last, point, m_count > 1 || isRound, isRound);
         fillBeneath(m_last, point);
@@ -111,7 +110,7 @@ void CurveRaster::stroke(QPointF from, QPointF to, bool roundStart, bool roundEn
 }
 
 void CurveRaster::fillBeneath(QPointF from, QPointF to) {
-    // What runs backwards takes away again what lies beneath it.
+    // A segment that runs backwards subtracts the area beneath it.
     const double sign = from.x() <= to.x() ? 1 : -1;
     if (sign < 0)
         std::swap(from, to);

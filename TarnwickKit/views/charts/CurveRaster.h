@@ -7,12 +7,11 @@
 
 namespace TarnwickKit::views {
 
-/// How much of each pixel a curve's line and the area beneath it cover.
+/// The share of each pixel that a curve's line and the area beneath it cover.
 ///
-/// A line through thousands of jagged points costs a painter's stroker over ten milliseconds, and a live
-/// chart has fifty frames a second. Here a point costs only the pixels along its own segment, and the
-/// coverages of a curve that grows by a point are those of the curve before it and of that one segment:
-/// however the points arrive, the picture is the same.
+/// QPainter needs over ten milliseconds to stroke a line through thousands of jagged points, and a live chart
+/// is drawn up to fifty times per second. Here a point costs only the pixels along its own segment. The
+/// result does not depend on how the points are distributed over calls.
 ///
 /// Units: device pixels, y downwards.
 class CurveRaster {
@@ -20,10 +19,10 @@ public:
     enum class Caps { Butt, Round };
 
     CurveRaster() = default;
-    /// `floor` is where the area ends below.
+    /// `floor` is the lower edge of the area.
     CurveRaster(int width, int height, double lineWidth, double floor, Caps caps = Caps::Butt);
 
-    /// Goes on to `point`. Corners are round. What lies outside is cut off.
+    /// Continues the line to `point`. Joins are round. What lies outside the picture is clipped.
     void add(QPointF point);
 
     int width() const { return m_width; }
@@ -32,11 +31,12 @@ public:
     /// 0 to 255 for each of a row's `width()` pixels.
     const std::uint8_t* line(int row) const { return m_line.data() + at(0, row); }
 
-    /// The area's coverage of a row is the sum of all rows down to it, 0 to 1 in magnitude.
+    /// The area's coverage of a pixel is the sum of the steps of all rows down to its own, 0 to 1 in
+    /// magnitude.
     const float* areaStep(int row) const { return m_area.data() + at(0, row); }
     double floor() const { return m_floor; }
 
-    /// The first column that points have changed since the last call; `width()` if none.
+    /// The first column changed since the last call; `width()` if none.
     int takeChangedFrom();
 
 private:

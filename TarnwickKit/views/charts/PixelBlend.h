@@ -17,7 +17,7 @@ inline QSize inPixels(QSizeF size, double scale) {
             static_cast<int>(std::ceil(size.height() * scale))};
 }
 
-/// A premultiplied pixel times a share of 0 to 255.
+/// A premultiplied pixel scaled by a share of 0 to 255.
 constexpr QRgb timesShare(QRgb pixel, std::uint32_t share) {
     std::uint32_t even = (pixel & 0xff00ff) * share;
     even = ((even + ((even >> 8) & 0xff00ff) + 0x800080) >> 8) & 0xff00ff;
@@ -26,10 +26,10 @@ constexpr QRgb timesShare(QRgb pixel, std::uint32_t share) {
     return even | odd;
 }
 
-/// One premultiplied pixel laid over another.
+/// One premultiplied pixel composited over another.
 constexpr QRgb over(QRgb upper, QRgb lower) { return upper + timesShare(lower, 255 - (upper >> 24)); }
 
-/// Lays a curve's line over a premultiplied picture, from a column on.
+/// Draws a curve's line over a premultiplied picture, starting at column `from`.
 inline void blendLine(QImage& picture, const CurveRaster& raster, const QColor& color, int from) {
     const QRgb pixel = qPremultiply(color.rgba());
     for (int row = 0; row < raster.height(); ++row) {

@@ -6,7 +6,7 @@
 
 namespace TarnwickKit::views {
 
-/// Whether assistive technology reads the window. It cannot scroll, so that to it everything has to be there.
+/// Whether assistive technology reads the window. It cannot scroll, so all content must exist while it does.
 class Assistance : public QObject, private QAccessible::ActivationObserver {
     Q_OBJECT
     QML_ELEMENT

@@ -11,7 +11,7 @@
 
 namespace TarnwickKit::views {
 
-/// A run's line in the group of a metric.
+/// One run's bar in a metric's group.
 struct ComparedBar {
     Q_GADGET
     QML_VALUE_TYPE(comparedBar)
@@ -22,7 +22,7 @@ struct ComparedBar {
 public:
     double length = 0; ///< logical pixels; 0 without a bar
     QString text;
-    QString sentence; ///< the same for who cannot see the bar's place and colour
+    QString sentence; ///< the same for assistive technology
 
     bool operator==(const ComparedBar&) const = default;
 };
@@ -42,7 +42,7 @@ public:
     bool operator==(const ComparedMetric&) const = default;
 };
 
-/// What the chart says of one run beside its bars.
+/// The chart's texts about one run.
 struct ComparedRun {
     Q_GADGET
     QML_VALUE_TYPE(comparedRun)
@@ -56,7 +56,7 @@ public:
     bool operator==(const ComparedRun&) const = default;
 };
 
-/// Runs that are compared, as a value that QML hands on.
+/// The compared runs, as a value for QML.
 struct ComparedRuns {
     Q_GADGET
     QML_VALUE_TYPE(comparedRuns)
@@ -69,7 +69,8 @@ public:
     int count() const { return static_cast<int>(runs.size()); }
     /// ComparedRun, one per run.
     QVariantList entries() const;
-    /// ComparedMetric, those that any run has a figure for. Units: `trackWidth` in logical pixels.
+    /// ComparedMetric, for each metric that at least one run has a figure for. Units: `trackWidth` in logical
+    /// pixels.
     Q_INVOKABLE QVariantList metrics(double trackWidth) const;
 
     bool operator==(const ComparedRuns&) const = default;

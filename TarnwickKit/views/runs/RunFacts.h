@@ -10,7 +10,7 @@
 
 namespace TarnwickKit::views {
 
-/// A labelled figure as a list shows it.
+/// A labelled figure in a list.
 struct InfoItem {
     Q_GADGET
     QML_VALUE_TYPE(infoItem)
@@ -26,8 +26,8 @@ public:
     bool operator==(const InfoItem&) const = default;
 };
 
-/// What the views say of a saved run, in words and figures.
-/// Units: bytes per second, operations per second; not a number where there is none.
+/// A saved run as the views show it, in words and figures.
+/// Units: bytes per second, operations per second; NaN when absent.
 struct RunFacts {
     Q_GADGET
     QML_VALUE_TYPE(runFacts)
@@ -55,16 +55,16 @@ public:
     QVariant idValue() const { return id; }
 
     QUuid id;
-    QString title;           ///< the user's, else the volume's name
-    QString screenshotTitle; ///< what the run is called on images
+    QString title;           ///< the user's title, else the volume's name
+    QString screenshotTitle; ///< the headline on images
     QString screenshotSubtitle;
-    QString badgeSymbol; ///< how the volume was attached, as `kind`
+    QString badgeSymbol; ///< stands for `kind`
     QString customTitle; ///< "" without one
     QString stamp;       ///< date, time and length
     QString shortStamp;
     QString connection;
     bool isNetwork = false;
-    int kind = 0; ///< RunRecord::Kind, a network volume by its file system too
+    int kind = 0; ///< RunRecord::Kind; network also when the file system is a network one
     double writeBps = 0;
     double writePeakBps = 0;
     double writeMinBps = 0;

@@ -55,7 +55,7 @@ void StoredRuns::refresh() {
         else
             place(static_cast<int>(found - m_runs.begin()), row, run);
     }
-    remove(static_cast<int>(now.size()), count()); // an id that stood there twice
+    remove(static_cast<int>(now.size()), count()); // a run whose id occurred twice
     if (count() != before)
         Q_EMIT countChanged();
 }
@@ -81,7 +81,7 @@ void StoredRuns::remove(int first, int end) {
     endRemoveRows();
 }
 
-/// Inserts the runs from `first` on that are not here yet, up to the next one that is. Gives the last row.
+/// Inserts the new runs from `first` on, up to the next known one. Answers the last row inserted.
 int StoredRuns::insertNew(const std::vector<RunRecord>& now, int first) {
     const auto begin = now.begin() + first;
     const auto end = std::find_if(std::next(begin), now.end(), [this](const RunRecord& run) {
@@ -94,7 +94,7 @@ int StoredRuns::insertNew(const std::vector<RunRecord>& now, int first) {
     return last;
 }
 
-/// Brings a row up to where it now stands, and its run to what it now says.
+/// Moves a row up to its new place and updates its run.
 void StoredRuns::place(int from, int to, const RunRecord& run) {
     if (from != to) {
         beginMoveRows({}, from, from, {}, to);

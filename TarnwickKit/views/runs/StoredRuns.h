@@ -10,8 +10,8 @@
 
 namespace TarnwickKit::views {
 
-/// The model's previous runs as a list for views, newest first. Views are told which rows are removed,
-/// inserted and moved, by the runs' ids, so that the rows of the others stay as they are.
+/// The model's previous runs as a list model, newest first. Changes are announced row by row, matched by the
+/// runs' ids, so that views keep the rows of all other runs.
 ///
 /// Roles: `run`, whether its row is `expanded`, whether it is `picked` for a comparison.
 class StoredRuns : public QAbstractListModel {
@@ -20,10 +20,10 @@ class StoredRuns : public QAbstractListModel {
     Q_PROPERTY(
         TarnwickKit::model::AnalyzerModel* analyzer READ analyzer WRITE setAnalyzer NOTIFY analyzerChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
-    /// The run that the main pane shows; empty without one.
+    /// The run in the main pane; empty without one.
     Q_PROPERTY(TarnwickKit::model::RunRecord currentRun READ currentRun NOTIFY currentRunChanged)
     Q_PROPERTY(bool hasCurrentRun READ hasCurrentRun NOTIFY currentRunChanged)
-    /// The runs that are compared; none without a comparison.
+    /// The compared runs; none without a comparison.
     Q_PROPERTY(TarnwickKit::views::ComparedRuns comparison READ comparison NOTIFY comparisonChanged)
 public:
     enum Role { RunRole = Qt::UserRole, ExpandedRole, PickedRole };

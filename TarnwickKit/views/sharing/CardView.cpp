@@ -14,7 +14,7 @@ namespace TarnwickKit::views {
 
 namespace {
 
-/// One for all cards of the process, since most of a first card's time goes into loading its types.
+/// One engine for all cards of the process: most of the first card's time is spent on loading types.
 QQmlEngine& engine() {
     static QPointer<QQmlEngine> shared;
     if (!shared) {
@@ -30,7 +30,8 @@ std::unique_ptr<QQuickItem> newCard(const QString& name, const QVariantMap& prop
                                     const Palette& palette) {
     QQmlComponent component(&engine(),
                             QUrl(QStringLiteral("qrc:/qt/qml/TarnwickKit/views/%1.qml").arg(name)));
-    // Letters from distance fields differ between processes and may have coloured fringes; these do not.
+    // Text from distance fields differs between processes and may have coloured fringes; native text does
+    // not.
     const auto windowText = QQuickWindow::textRenderType();
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     std::unique_ptr<QObject> view(component.beginCreate(engine().rootContext()));

@@ -11,13 +11,13 @@ class QQuickItem;
 
 namespace TarnwickKit::views {
 
-/// A view of this module by its name ("ReportCard") and properties, in no window, for a picture.
-/// Threads: main. Fails: null, with the engine's words as a critical message, where a part of the toolkit is
-/// not installed.
+/// Creates a view of this module by its name ("ReportCard") and properties, without a window, to make a
+/// picture of. Threads: main. Fails: null when a part of Qt is not installed; the engine's message is logged
+/// as critical.
 std::unique_ptr<QQuickItem> newCard(const QString& name, const QVariantMap& properties,
                                     const Palette& palette);
 
-/// The product's page as people type it, without a scheme.
+/// The address of the product's page, without a scheme.
 QString productLink();
 
 } // namespace TarnwickKit::views

@@ -17,10 +17,10 @@ namespace TarnwickKit::views {
 
 namespace {
 
-constexpr int longestSide = 32767; // as far as the toolkit's painter counts
+constexpr int longestSide = 32767; // QPainter's limit
 
-/// A window that exists nowhere, around one view. The two ways of drawing it differ in when the renderer gets
-/// its device, so that a window is good for one picture.
+/// An off-screen window around one view, single use: the two renderers differ in when the window gets its
+/// device.
 class Offscreen {
 public:
     Offscreen(QQuickItem& view, double scale)
@@ -34,7 +34,7 @@ public:
     Offscreen& operator=(const Offscreen&) = delete;
 
     QImage picture() {
-        // Asked of this window: the static question does not know of the software renderer.
+        // Not QQuickWindow::graphicsApi(), which does not report the software renderer.
         switch (m_window.rendererInterface()->graphicsApi()) {
         case QSGRendererInterface::Software:
             return software();
@@ -46,8 +46,8 @@ public:
     }
 
 private:
-    /// Lets the view take its height and gives the window the same size. Answers that in device pixels; empty
-    /// for more than can be drawn.
+    /// Lays out the view and gives the window its size. Answers the size in device pixels; empty when it is
+    /// too large to draw.
     QSize layOut() {
         m_control.polishItems();
         const QSizeF size = m_view.size();
@@ -84,7 +84,7 @@ private:
         if (!m_control.initialize())
             return {};
         QImage image = renderedTexture();
-        m_view.setParentItem(nullptr); // its textures go while their context is current
+        m_view.setParentItem(nullptr); // frees its textures while their context is current
         m_control.invalidate();
         return image;
     }
@@ -105,7 +105,7 @@ private:
 
     QQuickItem& m_view;
     double m_scale;
-    // The control's device goes with the control, and needs its context until then.
+    // Destruction order: the control's device needs the context.
     QOffscreenSurface m_surface;
     QOpenGLContext m_context;
     QQuickRenderControl m_control;

@@ -6,9 +6,8 @@ class QQuickItem;
 
 namespace TarnwickKit::views {
 
-/// Draws `view`, which is in no window, as it would look on a screen of `scale` device pixels per logical
-/// one, on a transparent ground. It works with or without a window, on any screen or none, in the software
-/// renderer and in OpenGL, whichever the process draws with.
+/// Draws `view`, which is not in a window, at `scale` device pixels per logical one on a transparent
+/// background. Needs no screen. Uses the renderer of the process, software or OpenGL.
 ///
 /// Threads: main. Needs a QGuiApplication. Fails: a null image, also for a view without a size or of more
 /// than 32767 device pixels to a side.

@@ -6,7 +6,7 @@
 
 namespace TarnwickKit::views {
 
-/// Which of the sidebar's sections are open. It outlives the process, in the user's settings.
+/// Which of the sidebar's sections are open. Stored in the user's settings.
 class SidebarState : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -25,7 +25,7 @@ public:
     bool operator==(const VolumeItem&) const = default;
 };
 
-/// What is known of the model's target, in the words in which the window shows it.
+/// The facts of the model's target, as texts for the window.
 class TargetFacts : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -35,20 +35,20 @@ class TargetFacts : public QObject {
     /// The volume's name and the line under it; "" without a volume.
     Q_PROPERTY(QString volumeName READ volumeName NOTIFY volumeChanged)
     Q_PROPERTY(QString volumeLine READ volumeLine NOTIFY volumeChanged)
-    /// How it is attached, as Palette's badge colours want it.
+    /// How it is attached: an argument of Palette::badgeStart.
     Q_PROPERTY(int volumeKind READ volumeKind NOTIFY volumeChanged)
 
     Q_PROPERTY(bool hasCapabilities READ hasCapabilities NOTIFY volumeChanged)
     Q_PROPERTY(QVariantList capabilities READ capabilities NOTIFY volumeChanged)
-    /// The names of what the file system can do.
+    /// The names of the features that the file system has.
     Q_PROPERTY(QStringList features READ features NOTIFY volumeChanged)
-    /// Names what the file system may be able to do, as long as that is not known; "" where all is known.
+    /// Names the features of which is not known whether the file system has them; "" when all are known.
     Q_PROPERTY(QString featuresNote READ featuresNote NOTIFY volumeChanged)
 
     Q_PROPERTY(bool hasHealth READ hasHealth NOTIFY healthChanged)
     Q_PROPERTY(bool isFailing READ isFailing NOTIFY healthChanged)
     Q_PROPERTY(QVariantList health READ health NOTIFY healthChanged)
-    /// Why nothing, or not all, is known of the drive's health; "" where all is, or there is no drive.
+    /// Why the drive's health is not, or not completely, known; "" when it is, or without a drive.
     Q_PROPERTY(QString healthNote READ healthNote NOTIFY healthChanged)
 public:
     using QObject::QObject;
@@ -73,7 +73,7 @@ public:
     QString healthNote() const;
     Q_SIGNAL void healthChanged();
 
-    /// The mounted volumes as they are now, of type VolumeItem. It may take half a second.
+    /// The mounted volumes (VolumeItem). Blocks for up to half a second.
     Q_INVOKABLE static QVariantList mountedVolumes();
 
 private:

@@ -6,7 +6,7 @@ namespace TarnwickKit::views {
 
 namespace {
 
-/// A child that positions nothing itself, such as a Repeater, has no size and takes no place.
+/// A child without a size, such as a Repeater, takes no space.
 bool isLaidOut(const QQuickItem& child) { return child.isVisible() && !child.size().isEmpty(); }
 
 } // namespace

@@ -10,28 +10,28 @@
 
 namespace TarnwickKit::views {
 
-/// Where children stand that wrap like words.
+/// The positions of children that wrap like words.
 struct Flow {
     QList<QPointF> places; ///< top left corners
     double height = 0;
 };
 
-/// Lays children of their own sizes out in lines of `width`, `spacing` apart in both directions, lines
-/// `lineSpacing` where it is given. A child wider than that gets a line of its own, over-long.
+/// Arranges children in lines of `width`, `spacing` apart in both directions; `lineSpacing` overrides the
+/// distance of lines. A child wider than `width` gets a line of its own and overflows it.
 Flow flowLayout(const std::vector<QSizeF>& children, double width, double spacing,
                 std::optional<double> lineSpacing = std::nullopt);
 
-/// Lets its visible children wrap like words, in lines as wide as itself. Its height follows.
+/// Wraps its visible children like words within its own width. Its implicit height is that of the lines.
 class FlowLayout : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
 
     Q_PROPERTY(double spacing READ spacing WRITE setSpacing NOTIFY spacingChanged)
-    /// Between lines; as `spacing` until it is set.
+    /// Between lines; equals `spacing` until it is set.
     Q_PROPERTY(double lineSpacing READ lineSpacing WRITE setLineSpacing NOTIFY spacingChanged)
 
 public:
-    /// What is laid out in while no width is given.
+    /// The implicit width.
     static constexpr double proposedWidth = 240;
 
     explicit FlowLayout(QQuickItem* parent = nullptr);

@@ -17,8 +17,8 @@ QString legible(const QString& text) {
     QString result = text.left(most);
     std::ranges::replace_if(result, [](QChar one) { return disturbsLine(one) && one.isSpace(); }, u' ');
     result.removeIf(disturbsLine);
-    // "With colours", which an emoji is anyway: the toolkit takes the sign from another font than the emoji,
-    // and a flag of two parts falls into them.
+    // The variation selector for coloured emoji. Qt takes it from another font than the emoji, which splits a
+    // flag into its two parts; emoji are coloured without it.
     result.remove(QChar(0xFE0F));
     return result;
 }

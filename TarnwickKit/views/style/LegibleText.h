@@ -4,16 +4,15 @@
 
 namespace TarnwickKit::views {
 
-/// What breaks a line, or turns the reading direction so that a text reads as another or turns what follows
-/// it.
+/// Whether a character breaks a line or changes the reading direction of the text around it.
 bool disturbsLine(QChar character);
 
-/// A text from outside, fit to stand in a line: its beginning, since a run file can hold megabytes of a title
-/// over which the toolkit would think for seconds, without what disturbs the line.
+/// A text from outside, made safe to show in a line: the first 300 characters, without those that disturb the
+/// line. A run file can hold a title of megabytes, which Qt would take seconds to lay out.
 QString legible(const QString& text);
 
-/// `text` for a line in which others follow: one that runs from right to left does not take their figures
-/// along.
+/// `text` for a line in which other text follows: right-to-left text is isolated, so that it does not reorder
+/// the figures behind it.
 QString keptApart(const QString& text);
 
 } // namespace TarnwickKit::views

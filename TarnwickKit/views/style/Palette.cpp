@@ -93,7 +93,7 @@ std::pair<QColor, QColor> Palette::badgeColors(model::RunRecord::Kind kind) cons
     std::abort();
 }
 
-// Never destroyed: in a process that ends in the middle of things the views are still there.
+// Never destroyed: views may still exist when the process ends.
 const Palette& Palette::light() {
     static const Palette* const palette = new Palette(Tone::Light);
     return *palette;

@@ -14,13 +14,12 @@ namespace TarnwickKit::views {
 
 /// An opaque sRGB colour from hexadecimal digits, the last six of them as red, green and blue.
 ///
-/// Fails: never; what is no number is black.
+/// Fails: never; digits that are not a number give black.
 QColor hex(QStringView digits);
 
-/// Every colour that the program draws with. Two constant instances exist; which of them a view draws with
-/// comes to it through PaletteKey.
+/// All colours of the program. There are two constant instances; a view gets its own through PaletteKey.
 ///
-/// Threads: the instances are made at the first use and are read-only from then on.
+/// Threads: any. The instances are created at first use and are read-only.
 class Palette final : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(ColorPalette) // QtQuick has a Palette of its own
@@ -67,7 +66,7 @@ public:
 
     /// The two stops of the gradient behind a volume's symbol.
     std::pair<QColor, QColor> badgeColors(model::RunRecord::Kind kind) const;
-    /// The same for views, of which each knows which stop it wants.
+    /// The same, one stop at a time, for QML.
     Q_INVOKABLE QColor badgeStart(int kind) const { return badgeColors(kindOf(kind)).first; }
     Q_INVOKABLE QColor badgeEnd(int kind) const { return badgeColors(kindOf(kind)).second; }
 
@@ -97,13 +96,13 @@ public:
     QColor chip;
     QColor sel;       ///< a selected row
     QColor grid;      ///< chart grid
-    QColor track;     ///< what bars run in
+    QColor track;     ///< the background of bars
     QColor writeFill; ///< area under the write series
     QColor readFill;  ///< area under the read series
     QColor shadow;
     QColor blue;
     QColor accent;        ///< filled controls, check marks
-    QColor onAccent;      ///< what stands on `accent`
+    QColor onAccent;      ///< text and symbols on `accent`
     QList<QColor> series; ///< one colour per compared run
 
 private:

@@ -11,7 +11,7 @@ PaletteKey* keyOf(QObject* owner) {
     return owner ? qobject_cast<PaletteKey*>(qmlAttachedPropertiesObject<PaletteKey>(owner, false)) : nullptr;
 }
 
-/// A popup shows in the window's overlay, far from the item that it belongs to.
+/// A popup is a child of the window's overlay, not of the item that it belongs to.
 QQuickItem* popupParent(const QQuickItem* item) {
     QObject* owner = item->parent();
     if (!owner || owner->isWindowType() || qobject_cast<QQuickItem*>(owner))
@@ -60,7 +60,7 @@ void PaletteKey::setPalette(const Palette& palette) {
     m_wayUp.clear();
     use(palette);
 
-    // What lies beneath may have looked further up until now.
+    // Descendants may have inherited from further up until now.
     if (!isFirst)
         return;
     if (auto* item = qobject_cast<QQuickItem*>(parent()))
@@ -80,14 +80,14 @@ void PaletteKey::tellBeneath(QQuickItem* item) {
     for (QQuickItem* child : items)
         if (!tell(child))
             tellBeneath(child);
-    const auto& others = item->children(); // what is no item, such as a chart's series
+    const auto& others = item->children(); // objects that are no items, such as a chart's series
     for (QObject* child : others)
         if (!qobject_cast<QQuickItem*>(child))
             tell(child);
 }
 
-/// Takes the palette of the nearest key above. A window has hundreds of keys, so each listens to as little as
-/// will do: to that key, to its own view's moving, and to that of a tree which is not in a window yet.
+/// Takes the palette of the nearest key above. A window has hundreds of keys, so each has few connections: to
+/// that key, to its own view's parent changes, and to those of a tree that is not in a window yet.
 void PaletteKey::inherit() {
     if (m_installed)
         return;

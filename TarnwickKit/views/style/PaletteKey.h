@@ -11,12 +11,11 @@ class QQuickItem;
 
 namespace TarnwickKit::views {
 
-/// The key under which the current Palette travels from a view to all views in it: `PaletteKey.palette`.
+/// Passes the current Palette from a view to all views in it: `PaletteKey.palette`.
 ///
-/// A view that sets it installs that palette for itself and everything beneath; a view that only reads it
-/// gets the palette of the nearest view above that has one, light if there is none. Popups take that of the
-/// item they belong to. A key follows when its own view moves; a view on the way up that has no key must not
-/// move from one palette to another.
+/// Setting it installs the palette for the view and its descendants. Reading it gives the palette of the
+/// nearest ancestor with a key, light without one. A popup inherits from the item it belongs to. A key is
+/// updated when its own view gets another parent, but not when an ancestor without a key does.
 class PaletteKey final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -29,10 +28,10 @@ class PaletteKey final : public QObject {
 public:
     static PaletteKey* qmlAttachedProperties(QObject* owner);
 
-    /// The key of a view, made at the first call, which must not come from the view's constructor.
+    /// The key of a view, created by the first call. Must not be called from the view's constructor.
     static PaletteKey* of(QObject* view);
 
-    /// Installs `palette` for `view` and what lies beneath it.
+    /// Installs `palette` for `view` and its descendants.
     static void install(QObject* view, const Palette& palette);
 
     const Palette& palette() const { return *m_palette; }
@@ -42,7 +41,7 @@ public:
 private:
     explicit PaletteKey(QObject* owner);
 
-    // The declarative engine knows no pointers to constants; a Palette has nothing that could be written.
+    // QML has no pointers to const objects. A Palette has no writable property.
     Palette* palettePointer() const { return const_cast<Palette*>(m_palette); }
     void setPalettePointer(Palette* palette);
 

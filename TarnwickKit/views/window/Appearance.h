@@ -8,15 +8,15 @@
 
 namespace TarnwickKit::views {
 
-/// Whether the desktop is dark or light, now and as it changes: what its portal says, else what the
-/// platform's own palette looks like.
+/// Whether the desktop is dark or light, with changes: the portal's setting, else the lightness of the
+/// platform's palette.
 class Appearance final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
 
     Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
-    /// The palette that goes with it.
+    /// The palette for it.
     Q_PROPERTY(TarnwickKit::views::Palette* palette READ palette NOTIFY darkChanged)
     Q_PROPERTY(TarnwickKit::views::Palette* lightPalette READ lightPalette CONSTANT)
     Q_PROPERTY(TarnwickKit::views::Palette* darkPalette READ darkPalette CONSTANT)

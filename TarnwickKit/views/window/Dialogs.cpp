@@ -35,7 +35,7 @@ void Dialogs::show(QDialog* dialog) {
     m_dialog = dialog;
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::WindowModal);
-    dialog->winId(); // makes the window that gets the parent
+    dialog->winId(); // creates the window, which needs the parent
     dialog->windowHandle()->setTransientParent(m_window);
     dialog->show();
 }
@@ -54,7 +54,7 @@ void Dialogs::askForFolder(const QString& message, const QString& prompt,
 
 QFileDialog* Dialogs::newSaveDialog(const QString& type, const QString& suffix, const Chosen& chosen) {
     QFileDialog* dialog = newFileDialog(chosen);
-    dialog->setWindowTitle(QFileDialog::tr("Save As")); // a desktop's own dialog has no title but this
+    dialog->setWindowTitle(QFileDialog::tr("Save As")); // the desktop's own dialog would have no title
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setMimeTypeFilters({type});

@@ -13,19 +13,19 @@ class QWindow;
 
 namespace TarnwickKit::views {
 
-/// The model's questions, asked in the desktop's dialogs over the main window. None of them blocks.
+/// Asks the model's questions in the desktop's dialogs over the main window. No call blocks.
 /// Threads: main. Needs a QApplication.
 class Dialogs : public model::AnalyzerDialogs {
 public:
     ~Dialogs() override;
 
-    /// The window that dialogs belong to from now on. Owner: the caller.
+    /// Sets the parent window of later dialogs. Owner: the caller.
     void setWindow(QWindow* window) { m_window = window; }
 
     void askForFolder(const QString& message, const QString& prompt,
                       const std::optional<std::filesystem::path>& startingAt, Chosen chosen) override;
     void askForTextFile(const QString& proposedName, Chosen chosen) override;
-    /// Asks where to save a PNG image, beginning where the user keeps pictures.
+    /// Asks where to save a PNG image, starting in the user's folder of pictures.
     void askForImageFile(const QString& proposedName, const Chosen& chosen);
     void showError(const QString& sentence) override;
 

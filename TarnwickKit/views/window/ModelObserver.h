@@ -6,11 +6,11 @@
 
 namespace TarnwickKit::views {
 
-/// The model whose signals an object of the views listens to.
+/// The model that a view object observes.
 using ModelObserver = QPointer<model::AnalyzerModel>;
 
-/// Makes `follower` let go of the model that it followed and hold another, whose signals are then to be
-/// connected. False, and nothing is done, when it is the same.
+/// Disconnects `follower` from its model and makes `followed` point to `next`; the caller connects the
+/// signals. False without any effect when the model is the same.
 inline bool turnTo(ModelObserver& followed, model::AnalyzerModel* next, const QObject* follower) {
     if (next == followed)
         return false;

@@ -36,7 +36,7 @@ TEST(CardTile, IsNotStretchedWhereItCannotBe) {
     EXPECT_EQ(cardTile(gradient, {300, 200}, 1).image.width(), 300 + 66);
 }
 
-/// A card that is put together of a tile's pieces is the one that would be painted whole.
+/// A card assembled from a tile's pieces looks like one that is painted whole.
 TEST(Card, ShowsNoSeams) {
     for (const double scale : {1.0, 1.5, 2.0}) {
         test::Stage stage(R"(Item { width: 480; height: 400
@@ -69,7 +69,7 @@ TEST(Card, FollowsItsSizeAndLook) {
     EXPECT_EQ(stage.picture().pixelColor(290, 50), QColor(Qt::blue));
 }
 
-/// A card or a symbol is the same picture to the pixel wherever what holds it is moved to.
+/// A card or a symbol looks the same to the pixel wherever its parent is moved.
 TEST(Card, LiesOnWholePixels) {
     for (const char* piece : {"Card { x: 10; y: 10; width: 20; height: 10; radius: 3; outline: \"red\" }",
                               "Separator { x: 10; y: 10; width: 20; color: \"red\" }",

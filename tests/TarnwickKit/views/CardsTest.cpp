@@ -31,7 +31,7 @@ QByteArray content(const std::filesystem::path& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// What a camera would read; the name of a reader that is not installed is no answer of any code.
+/// The text that a QR reader decodes from a picture.
 QString scanned(const std::filesystem::path& picture) {
     QProcess reader;
     reader.start(QStringLiteral("zbarimg"),
@@ -45,7 +45,7 @@ bool hasReader() { return !QStandardPaths::findExecutable(QStringLiteral("zbarim
 
 QString link() { return QStringLiteral("https://") + productLink(); }
 
-/// A picture as every card's must be, whatever it shows.
+/// Checks what all cards have in common.
 void expectCard(const ImageFile& file, const Palette& palette) {
     ASSERT_TRUE(file);
     const QImage card(QString::fromStdString(file->string()));
@@ -67,7 +67,7 @@ void expectCard(const ImageFile& file, const Palette& palette) {
     }
 }
 
-/// All items of a card in the order in which it is read.
+/// All items of a card in reading order.
 QList<const QQuickItem*> itemsOf(const QQuickItem& item) {
     QList<const QQuickItem*> all{&item};
     const auto children = item.childItems();
@@ -261,13 +261,13 @@ TEST(ReportCard, ShowsWhatTheRecordHas) {
     }
 }
 
-/// A comparison whose runs differ in title, and in figures only where `change` makes them.
+/// Eight runs with different titles and figures.
 std::vector<RunRecord> eightRuns() {
     std::vector<RunRecord> runs(8, fullRun());
     for (std::size_t i = 0; i < runs.size(); ++i) {
         runs[i].customTitle = QStringLiteral("Disk %1").arg(i);
         runs[i].writeBps = 1e9 / static_cast<double>(i + 1);
-        runs[i].readBps = i == 0 ? 1e12 : 1e3; // a thousandth of a pixel is seen as a stub
+        runs[i].readBps = i == 0 ? 1e12 : 1e3; // a bar of a thousandth of a pixel, drawn as a stub
         runs[i].randomReadIOPS = i == 3 ? std::optional(5.0) : std::nullopt;
         runs[i].randomWriteIOPS = 0;
         runs[i].fileOpsPerSec = std::nullopt;

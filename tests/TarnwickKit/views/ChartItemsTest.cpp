@@ -100,7 +100,7 @@ TEST(ThroughputChart, DrawsAppendedPointsLikeAWholeCurve) {
     EXPECT_EQ(stage.picture(), whole(points));
 }
 
-TEST(ThroughputChart, WaitsOutOfSight) {
+TEST(ThroughputChart, IsNotPaintedOutOfSight) {
     test::Stage stage(R"(Item { width: 300; height: 100; clip: true
         Item { objectName: "content"; height: 1000
             ThroughputChart { live: true; width: 300; height: 100; ChartSeries { color: "red" } } } })");
@@ -112,7 +112,7 @@ TEST(ThroughputChart, WaitsOutOfSight) {
     series->setPoints({{0, 400}, {1, 400}});
     stage.picture();
     content->setY(0);
-    EXPECT_FALSE(shows(stage.picture(), Qt::red)); // still as it went out of sight
+    EXPECT_FALSE(shows(stage.picture(), Qt::red)); // the picture from before it left the view
     series->setPoints({{0, 400}, {1, 400}, {2, 400}});
     EXPECT_TRUE(shows(stage.picture(), Qt::red));
 }

@@ -42,7 +42,7 @@ QImage painted(const ThroughputContent& content, double scale = 1) {
     return ThroughputPicture().paint(content, canvas, scale);
 }
 
-/// The same chart by the painter's own means.
+/// The same chart drawn by QPainter.
 QImage reference(const QList<QPointF>& points, double scale) {
     QImage image((canvas * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -86,7 +86,7 @@ TEST(ThroughputPicture, LooksAsAPainterWouldDrawIt) {
                 << points.size() << " points at " << scale;
 }
 
-TEST(ThroughputPicture, IsTheSameHoweverItsPointsArrive) {
+TEST(ThroughputPicture, DoesNotDependOnHowPointsArrive) {
     const QList<QPointF> all = jagged(500, 22);
     ThroughputPicture growing;
     qsizetype before = 0;
@@ -110,7 +110,7 @@ TEST(ThroughputPicture, IsTheSameHoweverItsPointsArrive) {
 TEST(ThroughputPicture, LinesLieAboveAllAreas) {
     ThroughputContent content = chart({{{0, 900}, {4, 100}}, {{0, 100}, {4, 900}}});
     content.curves[1].color = Qt::blue;
-    content.curves[1].fill = Qt::black; // opaque where the first line passes beneath it
+    content.curves[1].fill = Qt::black; // opaque where the first line would be hidden
     const QImage image = painted(content);
     const ThroughputPlot plot{canvas, ThroughputScale(QPointF(4, 900), false)};
     const auto at = [&](double time, double rate) {

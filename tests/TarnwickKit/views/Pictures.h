@@ -18,7 +18,7 @@
 
 namespace test {
 
-/// How far two premultiplied pictures are apart: the root of the mean square over all channels, 0 to 255.
+/// The root mean square difference of two premultiplied pictures over all channels, 0 to 255.
 inline double distance(const QImage& a, const QImage& b) {
     EXPECT_EQ(a.size(), b.size());
     double sum = 0;
@@ -30,7 +30,7 @@ inline double distance(const QImage& a, const QImage& b) {
     return std::sqrt(sum / (4.0 * a.width() * a.height()));
 }
 
-/// Shows a piece of QML off screen, again and again.
+/// Draws a piece of QML off screen, as often as asked.
 class Stage {
 public:
     explicit Stage(const QByteArray& qml, const QVariantMap& properties = {}) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The format that the toolkit's own class goes by, whatever hides it.
+/// The text format of Qt's own class, also where a subclass hides the property.
 int formatOf(const QObject& item, const char* className) {
     const QMetaObject* type = item.metaObject();
     while (qstrcmp(type->className(), className) != 0)
@@ -16,7 +16,7 @@ int formatOf(const QObject& item, const char* className) {
     return type->property(type->indexOfProperty("textFormat")).read(&item).toInt();
 }
 
-/// What the engine says against a piece of QML.
+/// The engine's error about a piece of QML.
 QString refusal(const QByteArray& qml) {
     QQmlEngine engine;
     OndelControls::prepareEngine(engine);
@@ -52,7 +52,7 @@ TEST(NotesPane, IsAsHighAsItsTextWithinALimit) {
     EXPECT_EQ(stage.root().implicitHeight(), 200);
 }
 
-/// Also what is not ours, and would load what a text names, is refused.
+/// Qt's own items that load resources named in a text are blocked too.
 TEST(ViewEngine, ReachesNoNetwork) {
     QTcpServer server;
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));

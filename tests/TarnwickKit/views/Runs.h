@@ -6,7 +6,7 @@
 
 namespace test {
 
-/// A run on an external drive with everything that a record can tell.
+/// A run on an external drive with all optional fields.
 inline TarnwickKit::model::RunRecord fullRun() {
     TarnwickKit::model::RunRecord run;
     run.id = QUuid::createUuid();
@@ -39,7 +39,7 @@ inline TarnwickKit::model::RunRecord fullRun() {
     return run;
 }
 
-/// One of which only the required is known.
+/// A run with only the required fields.
 inline TarnwickKit::model::RunRecord bareRun() {
     TarnwickKit::model::RunRecord run;
     run.volumeName = QStringLiteral("Old");

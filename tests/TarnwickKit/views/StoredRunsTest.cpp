@@ -14,7 +14,7 @@ using TarnwickKit::model::RunRecord;
 
 namespace {
 
-/// A model with a history: a run for each letter, which stands for its id. A capital has another title.
+/// A model with a history: one run per letter, which determines its id. A capital letter has another title.
 struct History {
     TarnwickKit::model::Engine engine;
     AnalyzerModel model{engine.services()};
@@ -76,7 +76,7 @@ TEST(StoredRuns, TellViewsRowByRowWhatChanges) {
         {"abc", "xabc", "+0..0"},
         {"abc", "ac", "-1..1"},
         {"abcd", "aBcD", "*1..1 run *3..3 run"},
-        {"abcdefgh", "acg", "-7..7 -3..5 -1..1"}, // from below, so that the numbers hold
+        {"abcdefgh", "acg", "-7..7 -3..5 -1..1"}, // from the end, so that earlier row numbers stay valid
         {"abcdef", "uvwxyz", "-0..5 +0..5"},
         {"abcd", "xaybzcd", "+0..0 +2..2 +4..4"},
         {"abcd", "dabc", "3>0"},
@@ -143,7 +143,7 @@ QString letters(char16_t first) {
 }
 
 TEST(PreviousRuns, MakeAFewRowsAFrame) {
-    History first(letters(0x4e00)), second(letters(0x5e00)); // neither capitals nor small
+    History first(letters(0x4e00)), second(letters(0x5e00)); // letters without case
     StoredRuns runs;
     runs.setAnalyzer(&first.model);
     test::Stage stage(
