@@ -14,10 +14,10 @@ Column {
     readonly property real room: width - leftPadding - rightPadding
 
     spacing: 18
-    leftPadding: 20
-    rightPadding: 20
-    topPadding: 18
-    bottomPadding: 18
+    leftPadding: ViewMetrics.figurePadding
+    rightPadding: ViewMetrics.figurePadding
+    topPadding: ViewMetrics.cardPadding
+    bottomPadding: ViewMetrics.cardPadding
 
     function seriesColor(index: int): color {
         const series = PaletteKey.palette.series;

@@ -15,7 +15,7 @@ ColumnLayout {
 
     RowLayout {
         Layout.fillWidth: true
-        Layout.margins: 18
+        Layout.margins: ViewMetrics.cardPadding
         Layout.topMargin: 16
         Layout.bottomMargin: 10
         spacing: 14
@@ -39,10 +39,10 @@ ColumnLayout {
     }
     ThroughputChart {
         Layout.fillWidth: true
-        Layout.preferredHeight: 200
-        Layout.leftMargin: 18
-        Layout.rightMargin: 18
-        Layout.bottomMargin: 18
+        Layout.preferredHeight: ViewMetrics.chartHeight
+        Layout.leftMargin: ViewMetrics.cardPadding
+        Layout.rightMargin: ViewMetrics.cardPadding
+        Layout.bottomMargin: ViewMetrics.cardPadding
 
         RunSeries {
             name: qsTr("Read")

@@ -14,8 +14,8 @@ PlainButton {
     signal wanted(on: bool)
 
     corner: 7
-    leftPadding: 4
-    rightPadding: 4
+    leftPadding: ViewMetrics.sidebarInset
+    rightPadding: ViewMetrics.sidebarInset
     checkable: true
     checked: on
     onCheckedChanged: if (checked !== on) wanted(checked)

@@ -23,9 +23,9 @@ ColumnLayout {
     Accessible.name: label + ": " + figure.text + " MB/s" + (extremes.visible ? ", " + extremes.text : "")
 
     RowLayout {
-        Layout.leftMargin: 20
-        Layout.rightMargin: 20
-        Layout.topMargin: 17
+        Layout.leftMargin: ViewMetrics.figurePadding
+        Layout.rightMargin: ViewMetrics.figurePadding
+        Layout.topMargin: ViewMetrics.figureMargin
         spacing: 7
 
         Card {
@@ -45,9 +45,9 @@ ColumnLayout {
         id: line
 
         Layout.fillWidth: true
-        Layout.leftMargin: 20
-        Layout.rightMargin: 20
-        Layout.bottomMargin: extremes.visible ? 0 : 17
+        Layout.leftMargin: ViewMetrics.figurePadding
+        Layout.rightMargin: ViewMetrics.figurePadding
+        Layout.bottomMargin: extremes.visible ? 0 : ViewMetrics.figureMargin
         spacing: 6
 
         PlainText {
@@ -74,9 +74,9 @@ ColumnLayout {
     PlainText {
         id: extremes
 
-        Layout.leftMargin: 20
-        Layout.rightMargin: 20
-        Layout.bottomMargin: 17
+        Layout.leftMargin: ViewMetrics.figurePadding
+        Layout.rightMargin: ViewMetrics.figurePadding
+        Layout.bottomMargin: ViewMetrics.figureMargin
         Layout.fillWidth: true
         elide: Text.ElideRight
         visible: !isNaN(stat.peak) && !isNaN(stat.least)

@@ -18,8 +18,8 @@ PlainButton {
     detail: facts.stamp
     corner: 14
     dimsWhenInactive: false
-    leftPadding: 18
-    rightPadding: 18
+    leftPadding: ViewMetrics.cardPadding
+    rightPadding: ViewMetrics.cardPadding
     topPadding: 15
     bottomPadding: 15
 
@@ -28,7 +28,7 @@ PlainButton {
         color: PaletteKey.palette.panel
         outline: Qt.alpha(PaletteKey.palette.accent, 0.35)
         shadowColor: PaletteKey.palette.shadow
-        shadowRadius: 18
+        shadowRadius: Metrics.menuShadow
         shadowOffset: 12
     }
     contentItem: RowLayout {
@@ -71,13 +71,13 @@ PlainButton {
             Layout.fillWidth: true
         }
         RunSummaryStat {
-            Layout.preferredWidth: 104
+            Layout.preferredWidth: ViewMetrics.statWidth
             label: qsTr("Write")
             value: view.facts.writeBps
             dot: PaletteKey.palette.coral
         }
         RunSummaryStat {
-            Layout.preferredWidth: 104
+            Layout.preferredWidth: ViewMetrics.statWidth
             label: qsTr("Read")
             value: view.facts.readBps
             dot: PaletteKey.palette.teal

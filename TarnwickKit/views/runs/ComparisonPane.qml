@@ -46,6 +46,6 @@ CardFrame {
         Layout.fillWidth: true
         runs: pane.runs
         // As wide as on the image, but in a narrow window as wide as there is room beside its words and figures.
-        trackWidth: Math.max(60, Math.min(460, pane.width - 234))
+        trackWidth: Math.max(60, Math.min(ViewMetrics.trackWidth, pane.width - 234))
     }
 }

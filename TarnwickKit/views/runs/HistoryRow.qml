@@ -15,7 +15,9 @@ PlainButton {
     property bool live: true
     /// What everything but the words leaves of the row. The words' own width would not do: they change their height
     /// by it, which is too late once the row is laid out.
-    readonly property real room: availableWidth - 8 - 30 - 2 * 104 - 96 - remove.implicitWidth - fold.implicitWidth - 7 * 12
+    readonly property real room: ViewMath.roomBeside(availableWidth,
+        [dot.implicitWidth, badge.implicitWidth, ViewMetrics.statWidth, ViewMetrics.statWidth, curves.implicitWidth,
+         remove.implicitWidth, fold.implicitWidth], line.spacing)
 
     signal remove
 
@@ -36,17 +38,23 @@ PlainButton {
         outline: row.hovered ? Qt.alpha(row.PaletteKey.palette.teal, 0.6) : row.PaletteKey.palette.border
     }
     contentItem: RowLayout {
+        id: line
+
         spacing: 12
 
         Card {
+            id: dot
+
             implicitWidth: 8
             implicitHeight: 8
             radius: 4
             color: row.facts.isNetwork ? row.PaletteKey.palette.amber : row.PaletteKey.palette.goodDot
         }
         Card {
-            implicitWidth: 30
-            implicitHeight: 30
+            id: badge
+
+            implicitWidth: ViewMetrics.badgeSide
+            implicitHeight: ViewMetrics.badgeSide
             radius: 8
             color: row.PaletteKey.palette.badgeStart(row.facts.kind)
             endColor: row.PaletteKey.palette.badgeEnd(row.facts.kind)
@@ -98,18 +106,20 @@ PlainButton {
             }
         }
         RunSummaryStat {
-            Layout.preferredWidth: 104
+            Layout.preferredWidth: ViewMetrics.statWidth
             label: qsTr("Write")
             value: row.facts.writeBps
             dot: row.PaletteKey.palette.coral
         }
         RunSummaryStat {
-            Layout.preferredWidth: 104
+            Layout.preferredWidth: ViewMetrics.statWidth
             label: qsTr("Read")
             value: row.facts.readBps
             dot: row.PaletteKey.palette.teal
         }
         DualSparkline {
+            id: curves
+
             implicitWidth: 96
             implicitHeight: 34
             run: row.run

@@ -43,10 +43,10 @@ CardFrame {
         analyzer: pane.analyzer
     }
     ColumnLayout {
-        Layout.leftMargin: 18
-        Layout.rightMargin: 18
+        Layout.leftMargin: ViewMetrics.cardPadding
+        Layout.rightMargin: ViewMetrics.cardPadding
         Layout.topMargin: 16
-        Layout.bottomMargin: 18
+        Layout.bottomMargin: ViewMetrics.cardPadding
         spacing: 10
 
         ProgressTrack {
@@ -68,7 +68,7 @@ CardFrame {
             readonly property bool reads: pane.analyzer.liveTest === "sequentialRead"
 
             Layout.fillWidth: true
-            Layout.preferredHeight: 200
+            Layout.preferredHeight: ViewMetrics.chartHeight
             live: true
 
             LiveSeries {

@@ -13,24 +13,23 @@ CardFoot {
 
     visible: hasFacts
     implicitHeight: items.height + 26
-    corner: 15
+    corner: ViewMetrics.cardCorner
 
     FlowLayout {
         id: items
 
-        x: 20
+        x: ViewMetrics.figurePadding
         y: 13
-        width: strip.width - 40
+        width: strip.width - 2 * x
+        // All that a run can tell is a little wider than an image.
         spacing: {
             let taken = 0;
             for (let i = 0; i < each.count; ++i)
                 taken += each.itemAt(i)?.width ?? 0;
-            const room = Math.floor((width - taken) / (each.count - 1));
-            return room < 12 ? 22 : Math.min(22, room);
+            return ViewMath.spacingInLine(width, taken, each.count, 22, 12);
         }
         lineSpacing: 8
 
-        // Closer together before they wrap: all that a run can tell is a little wider than an image.
         Repeater {
             id: each
 

@@ -40,10 +40,10 @@ RowLayout {
         color: PaletteKey.palette.borderSoft
     }
     Column {
-        leftPadding: 20
-        rightPadding: 20
-        topPadding: 17
-        bottomPadding: 17
+        leftPadding: ViewMetrics.figurePadding
+        rightPadding: ViewMetrics.figurePadding
+        topPadding: ViewMetrics.figureMargin
+        bottomPadding: ViewMetrics.figureMargin
         spacing: 9
 
         Repeater {

@@ -14,12 +14,12 @@ Card {
     default property alias content: column.data
 
     implicitHeight: column.implicitHeight
-    radius: 15
+    radius: ViewMetrics.cardCorner
     color: PaletteKey.palette.panel
     outline: PaletteKey.palette.border
     shadowColor: PaletteKey.palette.shadow
-    shadowRadius: 22
-    shadowOffset: 16
+    shadowRadius: Metrics.sheetShadow
+    shadowOffset: Metrics.sheetShadowOffset
 
     ColumnLayout {
         id: column
@@ -31,8 +31,8 @@ Card {
             id: head
 
             Layout.fillWidth: true
-            Layout.leftMargin: 18
-            Layout.rightMargin: 18
+            Layout.leftMargin: ViewMetrics.cardPadding
+            Layout.rightMargin: ViewMetrics.cardPadding
             Layout.topMargin: frame.headerPadding
             Layout.bottomMargin: frame.headerPadding
             spacing: 12

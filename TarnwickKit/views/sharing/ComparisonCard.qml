@@ -20,7 +20,7 @@ ImageCard {
         Brand {
             id: brand
 
-            x: 18
+            x: ViewMetrics.cardPadding
             y: 15
             nameSize: 16
             link: card.link
@@ -33,7 +33,7 @@ ImageCard {
     ComparisonChart {
         width: parent.width
         runs: card.runs
-        trackWidth: 460
+        trackWidth: ViewMetrics.trackWidth
     }
     Separator {
         width: parent.width
@@ -47,9 +47,9 @@ ImageCard {
         RowLayout {
             id: row
 
-            x: 20
+            x: ViewMetrics.figurePadding
             y: 16
-            width: parent.width - 40
+            width: parent.width - 2 * x
             spacing: 14
 
             Column {

@@ -21,9 +21,9 @@ ImageCard {
         RowLayout {
             id: head
 
-            x: 18
+            x: ViewMetrics.cardPadding
             y: 15
-            width: parent.width - 36
+            width: parent.width - 2 * x
             spacing: 12
 
             VolumeBadge {

@@ -17,9 +17,9 @@ CardFoot {
     RowLayout {
         id: row
 
-        x: 20
+        x: ViewMetrics.figurePadding
         y: 16
-        width: footer.width - 40
+        width: footer.width - 2 * x
         spacing: 14
 
         Brand {

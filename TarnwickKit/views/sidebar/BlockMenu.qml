@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import TarnwickKit.views
 
 /// The menu of a block size. Units: bytes.
@@ -12,12 +13,7 @@ SettingMenu {
 
     signal picked(size: double)
 
-    current: {
-        let at = sizes.length - 1;
-        while (at >= 0 && sizes[at] !== size)
-            --at;
-        return at;
-    }
+    current: ViewMath.lastIndexOf(sizes, size)
     value: Format.block(size)
     onChosen: index => picked(sizes[index])
 }

@@ -8,6 +8,8 @@ Card {
     id: chip
 
     property alias text: words.text
+    property alias font: words.font
+    property alias ink: words.color
 
     implicitWidth: words.implicitWidth + 18
     implicitHeight: words.implicitHeight + 6

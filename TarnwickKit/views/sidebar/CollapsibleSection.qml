@@ -24,8 +24,8 @@ Column {
         label: section.label
         detail: section.detail
         corner: 4
-        leftPadding: 4
-        rightPadding: 4
+        leftPadding: ViewMetrics.sidebarInset
+        rightPadding: ViewMetrics.sidebarInset
         topPadding: 6
         bottomPadding: section.isExpanded ? 11 : 0
         Accessible.checkable: true

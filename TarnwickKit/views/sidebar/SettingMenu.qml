@@ -21,7 +21,7 @@ RowLayout {
 
     PlainText {
         Layout.fillWidth: true
-        Layout.leftMargin: 4
+        Layout.leftMargin: ViewMetrics.sidebarInset
         text: setting.label
         font: Typeface.text(13, Font.Medium)
         color: PaletteKey.palette.text2
@@ -31,7 +31,7 @@ RowLayout {
     PlainButton {
         id: button
 
-        Layout.rightMargin: 4
+        Layout.rightMargin: ViewMetrics.sidebarInset
         label: setting.label
         corner: 7
         leftPadding: 9

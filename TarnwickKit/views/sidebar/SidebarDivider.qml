@@ -8,9 +8,9 @@ Item {
     implicitHeight: 21
 
     Separator {
-        x: 4
+        x: ViewMetrics.sidebarInset
         y: 20
-        width: parent.width - 8
+        width: parent.width - 2 * x
         color: PaletteKey.palette.border
     }
 }

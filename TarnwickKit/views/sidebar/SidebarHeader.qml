@@ -5,8 +5,8 @@ import OndelControls
 import TarnwickKit.views
 
 PlainText {
-    leftPadding: 4
-    rightPadding: 4
+    leftPadding: ViewMetrics.sidebarInset
+    rightPadding: ViewMetrics.sidebarInset
     bottomPadding: 11
     font: Typeface.display(14)
     color: PaletteKey.palette.heading

@@ -40,8 +40,8 @@ Column {
                     active: capabilities.isShown
 
                     Column {
-                        x: 4
-                        width: capabilities.width - 8
+                        x: ViewMetrics.sidebarInset
+                        width: capabilities.width - 2 * x
                         spacing: 14
 
                         CapabilitiesList {
@@ -96,8 +96,8 @@ Column {
                     active: health.isShown
 
                     SMARTList {
-                        x: 4
-                        width: health.width - 8
+                        x: ViewMetrics.sidebarInset
+                        width: health.width - 2 * x
                         analyzer: sections.analyzer
                         target: sections.target
                     }
@@ -116,8 +116,8 @@ Column {
                 visible: !sections.target.hasHealth
             }
             PlainText {
-                x: 4
-                width: parent.width - 8
+                x: ViewMetrics.sidebarInset
+                width: parent.width - 2 * x
                 topPadding: 6
                 text: sections.target.healthNote
                 wrapMode: Text.Wrap

@@ -11,7 +11,7 @@ Card {
     readonly property bool hasTarget: analyzer.targetFolder.length > 0
 
     implicitHeight: column.implicitHeight + 92
-    radius: 15
+    radius: ViewMetrics.cardCorner
     color: PaletteKey.palette.panel
     outline: PaletteKey.palette.border
 

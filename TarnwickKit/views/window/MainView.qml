@@ -42,11 +42,11 @@ Rectangle {
         Column {
             id: column
 
-            x: 20
-            y: 20
-            width: parent.width - 40
-            bottomPadding: 20
-            spacing: 20
+            x: ViewMetrics.paneMargin
+            y: ViewMetrics.paneMargin
+            width: parent.width - 2 * x
+            bottomPadding: ViewMetrics.paneMargin
+            spacing: ViewMetrics.paneMargin
 
             // Each pane exists only while its state holds.
             OnDemand {

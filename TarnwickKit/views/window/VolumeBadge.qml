@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import OndelControls
+import TarnwickKit.views
 
 /// The volume's square: its symbol on the colours of how it is attached.
 Card {
@@ -11,8 +12,8 @@ Card {
     property alias symbolSize: glyph.size
     property alias symbolWeight: glyph.weight
 
-    implicitWidth: 30
-    implicitHeight: 30
+    implicitWidth: ViewMetrics.badgeSide
+    implicitHeight: ViewMetrics.badgeSide
     radius: 8
     outline: Qt.rgba(1, 1, 1, 0.18)
 
