@@ -29,12 +29,11 @@ void LiveRun::setAnalyzer(AnalyzerModel* analyzer) {
     if (!turnTo(m_analyzer, analyzer, this))
         return;
     if (analyzer) {
-        connect(analyzer, &AnalyzerModel::liveSamplesChanged, this, [this, analyzer] {
-            m_hasNews = true;
-            m_isOther |= analyzer->liveSamples().empty(); // a run begins
-        });
-        connect(analyzer, &AnalyzerModel::progressChanged, this, [this] { m_hasNews = true; });
-        // Read at once: the curve of one test must not be seen in the colours of the next.
+        const auto note = [this] { m_hasNews = true; };
+        connect(analyzer, &AnalyzerModel::liveSamplesChanged, this, note);
+        connect(analyzer, &AnalyzerModel::progressChanged, this, note);
+        // Each run and each test announces itself here. It is read at once: the curve of one test must not be
+        // seen in the colours of the next.
         connect(analyzer, &AnalyzerModel::liveTestChanged, this, [this] {
             m_isOther = true;
             read();

@@ -29,12 +29,12 @@ struct Watched {
         QObject::connect(&run, &LiveRun::moved, &run, [this] { ++moves; });
     }
 
-    void measure(BenchmarkTest test, int first, int end, double rate = 1e8) {
+    void measure(BenchmarkTest test, int first, int end) {
         for (int i = first; i < end; ++i) {
             BenchmarkProgress progress;
             progress.test = test;
             progress.elapsed = i * 0.02;
-            progress.instantBytesPerSecond = rate + 1e6 * (i % 7);
+            progress.instantBytesPerSecond = 1e8 + 1e6 * (i % 7);
             progress.completedBytes = i;
             progress.totalBytes = 10000;
             model.apply(progress);
@@ -70,27 +70,6 @@ TEST(LiveRun, PassesOnOnlyTheNewPoints) {
     EXPECT_EQ(watched.update(), "restarted");
     watched.measure(read, 0, 5000);
     EXPECT_EQ(watched.update(), "restarted 1999") << "the first sample is kept when others are dropped";
-}
-
-TEST(LiveRun, BeginsAnewWithEachRun) {
-    constexpr auto write = BenchmarkTest::sequentialWrite;
-    const test::TemporaryFolder folder;
-    Watched watched;
-    watched.model.select(folder.path());
-    const auto end = [&watched] {
-        watched.engine.last().fail(OndelCore::benchmark::Cancelled());
-        turnUntilEnded(watched.model);
-    };
-    watched.engine.begin(watched.model);
-    watched.measure(write, 0, 3);
-    watched.update();
-    end();
-
-    watched.engine.begin(watched.model);
-    watched.measure(write, 0, 2, 2e8);
-    watched.measure(write, 2, 3); // the same sample at the end as in the run before
-    watched.update();
-    end();
 }
 
 } // namespace
