@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -77,6 +78,9 @@ TEST(PathFacts, OfAChildAreThoseOfThisProcess) {
     };
     EXPECT_EQ(both(folder.path() / "link").resolved, folder.path());
     EXPECT_EQ(both(folder.path() / "none").error, ENOENT);
+    if (setxattr(folder.path().c_str(), "user.other", "x", 1, 0) == 0) {
+        EXPECT_EQ(both(folder.path()).keepsUserAttributes, true);
+    }
     EXPECT_EQ(both("").error, ENOENT);
     EXPECT_EQ(both(".").resolved, fs::current_path());
     EXPECT_FALSE(both(folder.path() / "Name").isFolder);

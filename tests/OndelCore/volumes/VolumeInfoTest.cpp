@@ -136,7 +136,9 @@ TEST_F(AttachmentTest, NameIsTheLabelThenThePartitionsNameThenTheFolder) {
     EXPECT_EQ(name(), "Data partition");
     machine.setDatabase(number, {{"ID_FS_TYPE", "ext4"}, {"ID_PART_ENTRY_NAME", "Windows"}});
     EXPECT_EQ(name(), "Windows");
-    machine.setDatabase(number, {{"ID_FS_TYPE", "ext4"}, {"ID_FS_LABEL", "My label\n\xff"}});
+    machine.setDatabase(
+        number,
+        {{"ID_FS_TYPE", "ext4"}, {"ID_FS_LABEL", "My label\n\xff"}, {"ID_PART_ENTRY_NAME", "Windows"}});
     EXPECT_EQ(name(), QString("My label\n") + QChar(QChar::ReplacementCharacter));
     machine.setDatabase(number, {{"ID_FS_TYPE", "ext4"}});
     machine.setAttributes(ata, {{"uevent", "DEVNAME=sdb"}});
