@@ -1,6 +1,6 @@
 // What a run does, in which order, and what it says meanwhile.
 
-#include "BentSystem.h"
+#include "FakeSystem.h"
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "OndelCore/benchmark/UniformIndexGenerator.h"
@@ -10,7 +10,7 @@
 #include <cstring>
 
 using namespace OndelCore::benchmark;
-using test::BentSystem;
+using test::FakeSystem;
 using test::smallPlan;
 using enum BenchmarkTest;
 
@@ -21,7 +21,7 @@ using Lines = std::vector<std::string>;
 struct Engine : testing::Test {
     ~Engine() override { EXPECT_EQ(test::entriesIn(folder.path()), 0U); }
     test::TemporaryFolder folder;
-    BentSystem system;
+    FakeSystem system;
 };
 
 TEST_F(Engine, WritesThenReadsTheFileAndTimesIt) {

@@ -1,6 +1,6 @@
 // Runs in folders where others change things meanwhile: nothing of theirs is touched, and nothing is left.
 
-#include "BentSystem.h"
+#include "FakeSystem.h"
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
 #include "support/LoopMount.h"
@@ -18,7 +18,7 @@
 
 using namespace OndelCore::benchmark;
 using namespace OndelCore::platform;
-using test::BentSystem;
+using test::FakeSystem;
 using test::smallPlan;
 using enum BenchmarkTest;
 namespace fs = std::filesystem;
@@ -43,7 +43,7 @@ fs::path workingFolderIn(const fs::path& folder) {
 }
 
 /// Lets `happen` take place once, at the first event of a run's first test.
-void once(BentSystem& system, std::function<void()> happen) {
+void once(FakeSystem& system, std::function<void()> happen) {
     system.onProgress = [happen = std::move(happen), done = false](const auto&) mutable {
         if (!std::exchange(done, true))
             happen();
@@ -62,7 +62,7 @@ TEST(MovedAway, ARunStaysWithItsFolder) {
         fs::create_directory(target);
         fs::create_directory(other);
         fs::create_directory_symlink(target, link);
-        BentSystem system;
+        FakeSystem system;
         once(system, happen);
         EXPECT_EQ(system.failureOf(wholePlan, folder), "");
         for (const fs::path& each : {target, other, top.path() / "renamed"}) {
@@ -78,7 +78,7 @@ TEST(MovedAway, ARunStaysWithAFileSystemThatIsUnmounted) {
     if (!volume.problem().empty())
         GTEST_SKIP() << volume.problem();
     const FileDescriptor root = openFolder(volume.path());
-    BentSystem system;
+    FakeSystem system;
     once(system, [&] { EXPECT_EQ(umount2(volume.path().c_str(), MNT_DETACH), 0); });
     EXPECT_EQ(system.failureOf(wholePlan, volume.path()), "");
     EXPECT_TRUE(fs::is_empty(volume.path()));
@@ -97,7 +97,7 @@ TEST(DataFile, IsOneFileForTheWholeRun) {
     for (std::size_t i = 0; i < std::size(links); ++i) {
         std::ofstream(file) << precious;
         for (const BenchmarkTest test : {sequentialRead, randomRead, randomWrite}) {
-            BentSystem system;
+            FakeSystem system;
             system.flushToMedium = [&](int) {
                 fs::remove(data());
                 links[i]();
@@ -107,7 +107,7 @@ TEST(DataFile, IsOneFileForTheWholeRun) {
                       (test == sequentialRead ? "open(read): " : "open(random): ") + expected[i]);
         }
         for (const BenchmarkTest test : {sequentialWrite, sequentialRead}) {
-            BentSystem system;
+            FakeSystem system;
             system.freeBytes = [&](int) { return links[i](), std::int64_t{1} << 40; };
             EXPECT_EQ(system.failureOf(smallPlan({test}, BenchmarkSize::fixed(8192)), folder.path()),
                       (test == sequentialRead ? "open(prepare): " : "open(write): ") +
@@ -208,7 +208,7 @@ struct SharedFolder : testing::TestWithParam<uid_t> {
 
     const test::TemporaryFolder folder{test::inMemory()};
     const fs::path victim = folder.path() / "victim";
-    BentSystem system;
+    FakeSystem system;
 };
 
 TEST_P(SharedFolder, WhatTakesTheWorkingFoldersPlaceIsNotTouched) {
@@ -288,7 +288,7 @@ TEST_P(HidingVolume, ASweepEndsWhileALeftFileIsOpen) {
         std::ofstream held(left / "data.bin");
         BenchmarkEngine::cleanupOrphans(volume.path());
         EXPECT_TRUE(fs::exists(left));
-        BentSystem system; // meanwhile runs go on
+        FakeSystem system; // meanwhile runs go on
         EXPECT_EQ(system.failureOf(wholePlan, volume.path()), "");
     }
     BenchmarkEngine::cleanupOrphans(volume.path());

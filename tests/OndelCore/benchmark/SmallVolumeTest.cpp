@@ -1,6 +1,6 @@
 // Whole runs on real file systems that are small enough to fill.
 
-#include "BentSystem.h"
+#include "FakeSystem.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
 #include "support/LoopMount.h"
@@ -78,7 +78,7 @@ TEST_P(SmallVolume, TakesAnyLengthPastTheCache) {
     auto plan = smallPlan(everyTest, BenchmarkSize::fixed(size));
     plan.bypassCache = true;
     plan.writeBlockSize = 5000;
-    test::BentSystem system;
+    test::FakeSystem system;
     int past = 0, through = 0;
     system.write = [&](int file, const void* bytes, std::size_t length) {
         const ssize_t written = write(file, bytes, length);

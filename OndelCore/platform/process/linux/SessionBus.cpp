@@ -71,7 +71,7 @@ bool busAnswers(const std::string& addresses, std::chrono::milliseconds patience
         setsockopt(bus.get(), SOL_SOCKET, direction, &limit, sizeof limit);
     const auto* name = reinterpret_cast<const sockaddr*>(&address->value);
     if (connect(bus.get(), name, address->length) != 0)
-        return errno != EAGAIN; // whatever else it is, is said at once to everybody
+        return errno != EAGAIN; // other errors fail fast
     const QByteArray words = greeting();
     char answer = 0;
     return send(bus.get(), words.data(), static_cast<std::size_t>(words.size()), MSG_NOSIGNAL) >= 0 &&

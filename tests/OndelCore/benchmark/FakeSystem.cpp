@@ -1,4 +1,4 @@
-#include "BentSystem.h"
+#include "FakeSystem.h"
 
 using namespace OndelCore::benchmark;
 
@@ -13,7 +13,7 @@ std::string line(const Text&... text) {
 }
 } // namespace
 
-BentSystem::BentSystem() {
+FakeSystem::FakeSystem() {
     const auto note = [this](const auto&... text) { diary.push_back(line(text...)); };
     monotonicNanoseconds = [this, note] {
         note("clock");
@@ -47,7 +47,7 @@ BentSystem::BentSystem() {
     tryAbilities = [](int) { return OndelCore::platform::TriedAbilities(); };
 }
 
-BenchmarkResult BentSystem::run(const BenchmarkPlan& plan, const std::filesystem::path& folder) {
+BenchmarkResult FakeSystem::run(const BenchmarkPlan& plan, const std::filesystem::path& folder) {
     return runInFolder(*this, plan, folder, flag, [this](const BenchmarkProgress& now) {
         onProgress(now);
         diary.push_back(line("progress ", rawValue(now.test), " ", std::to_string(now.completedBytes), "/",
@@ -56,7 +56,7 @@ BenchmarkResult BentSystem::run(const BenchmarkPlan& plan, const std::filesystem
     });
 }
 
-std::string BentSystem::failureOf(const BenchmarkPlan& plan, const std::filesystem::path& folder) {
+std::string FakeSystem::failureOf(const BenchmarkPlan& plan, const std::filesystem::path& folder) {
     try {
         run(plan, folder);
         return {};

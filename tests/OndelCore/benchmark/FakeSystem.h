@@ -13,9 +13,9 @@ namespace test {
 /// An engine environment whose clock ticks one second per reading and whose disk has room, with a diary of
 /// what the engine asked: "clock", "write 4096", "pread 4096 @ 8192", "flush", "progress sequentialWrite
 /// 1/2".
-struct BentSystem : OndelCore::benchmark::EngineEnvironment {
-    BentSystem();
-    BentSystem(const BentSystem&) = delete;
+struct FakeSystem : OndelCore::benchmark::EngineEnvironment {
+    FakeSystem();
+    FakeSystem(const FakeSystem&) = delete;
 
     OndelCore::benchmark::BenchmarkResult run(const OndelCore::benchmark::BenchmarkPlan& plan,
                                               const std::filesystem::path& folder);

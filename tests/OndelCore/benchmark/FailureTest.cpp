@@ -1,6 +1,6 @@
 // Runs that go wrong: each ends with the error or the result it should, and leaves no file and no descriptor.
 
-#include "BentSystem.h"
+#include "FakeSystem.h"
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
@@ -18,7 +18,7 @@
 #include <thread>
 
 using namespace OndelCore::benchmark;
-using test::BentSystem;
+using test::FakeSystem;
 using test::smallPlan;
 using enum BenchmarkTest;
 namespace fs = std::filesystem;
@@ -29,13 +29,13 @@ thread_local std::size_t allocations = 0;
 
 const std::set<BenchmarkTest> everyTest(allBenchmarkTests.begin(), allBenchmarkTests.end());
 
-struct Hardship : testing::Test {
-    ~Hardship() override {
+struct Failure : testing::Test {
+    ~Failure() override {
         EXPECT_EQ(test::entriesIn(folder.path()), 0U);
         EXPECT_EQ(test::openDescriptors(), descriptorsBefore);
     }
     test::TemporaryFolder folder;
-    BentSystem system;
+    FakeSystem system;
     std::size_t descriptorsBefore = test::openDescriptors();
 };
 
@@ -50,11 +50,11 @@ auto failingAt(int call, int error, Transfer transfer) {
     };
 }
 
-TEST_F(Hardship, AFailingTransferEndsTheRunWithItsName) {
+TEST_F(Failure, AFailingTransferEndsTheRunWithItsName) {
     const auto plan = [](BenchmarkTest test) { return smallPlan({test}, BenchmarkSize::fixed(8 * 4096)); };
     struct Case {
         BenchmarkPlan plan;
-        std::function<void(BentSystem&)> bend;
+        std::function<void(FakeSystem&)> bend;
         std::string text;
     };
     const Case cases[]{
@@ -74,25 +74,25 @@ TEST_F(Hardship, AFailingTransferEndsTheRunWithItsName) {
          "file too small for a random block"},
     };
     for (const Case& each : cases) {
-        BentSystem bent;
+        FakeSystem bent;
         each.bend(bent);
         EXPECT_EQ(bent.failureOf(each.plan, folder.path()), each.text);
     }
 }
 
-TEST_F(Hardship, AFolderThatVanishesIsNoticedAtTheNextName) {
+TEST_F(Failure, AFolderThatVanishesIsNoticedAtTheNextName) {
     const auto vanish = [this] {
         for (const auto& entry : fs::directory_iterator(folder.path()))
             fs::remove_all(entry);
     };
-    const auto beforeFirstOpen = [&](BentSystem& bent) {
+    const auto beforeFirstOpen = [&](FakeSystem& bent) {
         bent.freeBytes = [&](const auto&) { return vanish(), std::int64_t{1} << 40; };
     };
-    const auto afterTheFile = [&](BentSystem& bent) {
+    const auto afterTheFile = [&](FakeSystem& bent) {
         bent.flushToMedium = [&](int) { return vanish(), std::error_code(); };
     };
     const auto atFileOp = [&](std::int64_t steps) {
-        return [&, steps](BentSystem& bent) {
+        return [&, steps](FakeSystem& bent) {
             bent.onProgress = [&, steps](const auto& now) {
                 if (now.completedBytes == steps)
                     vanish();
@@ -101,7 +101,7 @@ TEST_F(Hardship, AFolderThatVanishesIsNoticedAtTheNextName) {
     };
     struct Case {
         BenchmarkTest test;
-        std::function<void(BentSystem&)> bend;
+        std::function<void(FakeSystem&)> bend;
         std::string text;
     };
     const std::string missing = "No such file or directory";
@@ -115,7 +115,7 @@ TEST_F(Hardship, AFolderThatVanishesIsNoticedAtTheNextName) {
         {fileOps, atFileOp(768), "unlink: " + missing},
     };
     for (const Case& each : cases) {
-        BentSystem bent;
+        FakeSystem bent;
         each.bend(bent);
         auto plan = smallPlan({each.test}, BenchmarkSize::fixed(8192));
         plan.fileOpCount = 256;
@@ -123,10 +123,10 @@ TEST_F(Hardship, AFolderThatVanishesIsNoticedAtTheNextName) {
     }
 }
 
-TEST_F(Hardship, CancelTakesEffectBeforeTheNextCall) {
+TEST_F(Failure, CancelTakesEffectBeforeTheNextCall) {
     auto plan = smallPlan(everyTest, BenchmarkSize::fixed(8 * 4096));
     for (const BenchmarkTest test : allBenchmarkTests) {
-        BentSystem bent;
+        FakeSystem bent;
         bent.onProgress = [&](const auto& now) {
             if (now.test == test)
                 bent.flag.cancel();
@@ -136,7 +136,7 @@ TEST_F(Hardship, CancelTakesEffectBeforeTheNextCall) {
         EXPECT_TRUE(bent.diary.back().starts_with("progress " + std::string(rawValue(test))));
     }
     plan.tests = {sequentialRead};
-    BentSystem bent;
+    FakeSystem bent;
     bent.write = [&, write = bent.write](auto... arguments) {
         return bent.flag.cancel(), write(arguments...);
     };
@@ -144,7 +144,7 @@ TEST_F(Hardship, CancelTakesEffectBeforeTheNextCall) {
     EXPECT_EQ(bent.diary, (std::vector<std::string>{"free", "write 4096"}));
 }
 
-TEST_F(Hardship, AnInterruptedTransferIsMadeAgainUntilCancelled) {
+TEST_F(Failure, AnInterruptedTransferIsMadeAgainUntilCancelled) {
     system.write = failingAt(2, EINTR, system.write);
     const auto plan = smallPlan({sequentialWrite}, BenchmarkSize::fixed(8192));
     EXPECT_EQ(system.run(plan, folder.path()).sequentialWrite->bytesProcessed, 8192);
@@ -156,7 +156,7 @@ TEST_F(Hardship, AnInterruptedTransferIsMadeAgainUntilCancelled) {
     EXPECT_EQ(system.failureOf(plan, folder.path()), "cancelled");
 }
 
-TEST_F(Hardship, NumbersBeyondTheMachineAreErrors) {
+TEST_F(Failure, NumbersBeyondTheMachineAreErrors) {
     auto plan = smallPlan({sequentialWrite}, BenchmarkSize::fixed(8192));
     plan.writeBlockSize = std::numeric_limits<std::int64_t>::max();
     EXPECT_EQ(system.failureOf(plan, folder.path()), "memory: Cannot allocate memory");
@@ -165,7 +165,7 @@ TEST_F(Hardship, NumbersBeyondTheMachineAreErrors) {
     EXPECT_EQ(system.failureOf(plan, folder.path()), "memory: Cannot allocate memory");
 }
 
-TEST_F(Hardship, AFileSizeLimitIsAnErrorAndNotTheEndOfTheProcess) {
+TEST_F(Failure, AFileSizeLimitIsAnErrorAndNotTheEndOfTheProcess) {
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
     const rlimit small{1048576, before.rlim_max};
@@ -182,7 +182,7 @@ TEST_F(Hardship, AFileSizeLimitIsAnErrorAndNotTheEndOfTheProcess) {
     EXPECT_EQ(text, "write: File too large");
 }
 
-TEST_F(Hardship, AKilledRunIsSweptAway) {
+TEST_F(Failure, AKilledRunIsSweptAway) {
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
     const pid_t child = fork();
@@ -213,7 +213,7 @@ TEST_F(Hardship, AKilledRunIsSweptAway) {
     BenchmarkEngine::cleanupOrphans(folder.path() / "missing");
 }
 
-TEST_F(Hardship, ASweepLeavesAFolderInUseAlone) {
+TEST_F(Failure, ASweepLeavesAFolderInUseAlone) {
     std::size_t inUse = 0;
     system.onProgress = [&](const auto&) {
         BenchmarkEngine::cleanupOrphans(folder.path());
@@ -233,7 +233,7 @@ TEST_F(Hardship, ASweepLeavesAFolderInUseAlone) {
     EXPECT_EQ(BenchmarkEngine::cleanupOrphans(folder.path(), std::chrono::milliseconds(0)), 0U);
 }
 
-TEST_F(Hardship, ASweepBesideTheStartOfARunDoesNoHarm) {
+TEST_F(Failure, ASweepBesideTheStartOfARunDoesNoHarm) {
     const test::TemporaryFolder busy(test::inMemory());
     std::atomic<bool> isOver = false;
     std::thread sweeper([&] {
@@ -248,7 +248,7 @@ TEST_F(Hardship, ASweepBesideTheStartOfARunDoesNoHarm) {
     EXPECT_EQ(failures, std::set<std::string>{""});
 }
 
-TEST_F(Hardship, AFailedFlushIsPartOfTheResult) {
+TEST_F(Failure, AFailedFlushIsPartOfTheResult) {
     const std::error_code lost(EIO, std::generic_category()), quota(EDQUOT, std::generic_category());
     system.flushToMedium = [&, calls = 0](int) mutable { return calls++ == 0 ? quota : lost; };
     const auto plan = smallPlan({sequentialWrite, randomWrite}, BenchmarkSize::fixed(8192));
@@ -264,7 +264,7 @@ TEST_F(Hardship, AFailedFlushIsPartOfTheResult) {
     EXPECT_EQ(OndelCore::platform::flushToMedium(-1).value(), EBADF);
 }
 
-TEST_F(Hardship, NothingIsAllocatedWhileMeasuring) {
+TEST_F(Failure, NothingIsAllocatedWhileMeasuring) {
     std::vector<std::size_t> counted;
     counted.reserve(10000);
     const auto count = [&counted](auto transfer) {
