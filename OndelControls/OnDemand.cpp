@@ -4,6 +4,11 @@
 
 namespace OndelControls {
 
+OnDemand::OnDemand(QQuickItem* parent)
+    : QQuickItem(parent) {
+    setVisible(false); // layouts leave out what is hidden
+}
+
 void OnDemand::setActive(bool active) {
     if (active == m_active)
         return;

@@ -11,7 +11,8 @@ namespace OndelControls {
 /// Repeater's items do, so that positioners and layouts place it. Unlike the toolkit's Loader it takes
 /// components that are bound to their file, which Qt 6.4 refuses there, and it is no focus scope.
 ///
-/// Owner: the object, which is deleted soon after it becomes inactive.
+/// Owner: the object, which loses its parent when this becomes inactive and is deleted soon afterwards. Its
+/// bindings must not rely on a parent.
 class OnDemand : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -23,8 +24,7 @@ class OnDemand : public QQuickItem {
     Q_PROPERTY(QObject* object READ object NOTIFY objectChanged)
 
 public:
-    explicit OnDemand(QQuickItem* parent = nullptr)
-        : QQuickItem(parent) {}
+    explicit OnDemand(QQuickItem* parent = nullptr);
 
     bool isActive() const { return m_active; }
     void setActive(bool active);

@@ -50,7 +50,7 @@ Window {
             active: AppSupport.nudges.showsNote
 
             SupportBanner {
-                width: parent.width
+                width: parent?.width ?? 0
             }
         }
     }

@@ -44,6 +44,7 @@ BaseButton {
 
         BaseMenuItem {
             text: button.entry
+            rightPadding: 20
             onTriggered: button.chosen()
         }
     }

@@ -53,7 +53,7 @@ Rectangle {
                 active: !main.showsPhase
 
                 ComparisonPane {
-                    width: parent.width
+                    width: column.width
                     runs: runs.comparison
                     onClose: main.analyzer.endComparison()
                 }
@@ -62,7 +62,7 @@ Rectangle {
                 active: main.showsIdle
 
                 IdleCard {
-                    width: parent.width
+                    width: column.width
                     analyzer: main.analyzer
                 }
             }
@@ -70,7 +70,7 @@ Rectangle {
                 active: main.showsPhase && main.analyzer.isRunning
 
                 LiveRunPane {
-                    width: parent.width
+                    width: column.width
                     analyzer: main.analyzer
                     volumeName: main.target.volumeName || qsTr("Volume")
                 }
@@ -79,7 +79,7 @@ Rectangle {
                 active: main.showsPhase && main.analyzer.phase === AnalyzerModel.Failed
 
                 FailureBanner {
-                    width: parent.width
+                    width: column.width
                     message: main.analyzer.failureMessage
                 }
             }
@@ -87,7 +87,7 @@ Rectangle {
                 active: main.showsRun && !main.analyzer.currentRunCollapsed
 
                 ExpandedRunPane {
-                    width: parent.width
+                    width: column.width
                     analyzer: main.analyzer
                     run: runs.currentRun
                     onCollapse: main.analyzer.currentRunCollapsed = true
@@ -98,7 +98,7 @@ Rectangle {
                 active: main.showsRun && main.analyzer.currentRunCollapsed
 
                 CollapsedRunView {
-                    width: parent.width
+                    width: column.width
                     run: runs.currentRun
                     onClicked: main.analyzer.currentRunCollapsed = false
                     onRemove: main.analyzer.deleteRun(facts.id)

@@ -11,7 +11,7 @@ namespace {
 
 /// The object stands beside its maker, knows the ids of its file, and is deleted when it is no longer wanted.
 TEST(OnDemand, MakesItsObjectWhileItIsActive) {
-    test::Stage stage("Column { id: column; width: 70\n"
+    test::Stage stage("Column { id: column; width: 70; height: 40\n"
                       "  OnDemand { Item { width: column.width; height: 20 } } }");
     auto* maker = qobject_cast<OndelControls::OnDemand*>(stage.root().childItems().constFirst());
     ASSERT_TRUE(maker);
