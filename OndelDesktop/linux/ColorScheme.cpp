@@ -53,12 +53,13 @@ ColorSchemeWatch::Listener::Listener(std::function<void(ColorScheme)> changed) {
                      });
     settings.setTimeout(2000); // milliseconds: a later answer would repaint a window in use
     auto* answer = new QDBusPendingCallWatcher(settings.Read(appearanceGroup, colorSchemeKey), &settings);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &settings, [answer, changed] {
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
-        if (reply.isValid())
-            changed(schemeOf(reply.value()));
-        answer->deleteLater();
-    });
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &settings,
+                     [answer, changed = std::move(changed)] {
+                         const QDBusPendingReply<QDBusVariant> reply = *answer;
+                         if (reply.isValid())
+                             changed(schemeOf(reply.value()));
+                         answer->deleteLater();
+                     });
 }
 
 ColorSchemeWatch::ColorSchemeWatch(std::function<void(ColorScheme)> changed)
