@@ -5,8 +5,8 @@
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/model/runs/Comparison.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
-#include "TarnwickKit/model/runs/RunRecordJson.h"
 
 #include <QStringList>
 

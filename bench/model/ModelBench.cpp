@@ -3,7 +3,7 @@
 
 #include "TarnwickKit/model/SampleRun.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
-#include "TarnwickKit/model/runs/RunRecordJson.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 #include "TarnwickKit/model/session/ProgressStream.h"
 

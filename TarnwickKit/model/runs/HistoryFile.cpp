@@ -5,7 +5,7 @@
 #include "OndelCore/platform/storage/ReadFile.h"
 #include "OndelCore/platform/storage/ReplaceFile.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
-#include "TarnwickKit/model/runs/RunRecordJson.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 
 #include <QByteArray>
 #include <QDateTime>

@@ -3,7 +3,7 @@
 #include "OndelCore/platform/storage/ReadFile.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
 #include "TarnwickKit/model/runs/HistoryStore.h"
-#include "TarnwickKit/model/runs/RunRecordJson.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 
 #include <algorithm>
 #include <chrono>

@@ -2,8 +2,8 @@
 
 #include "OndelCore/platform/storage/PrivateFolder.h"
 #include "OndelCore/platform/storage/ReplaceFile.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
-#include "TarnwickKit/model/runs/RunRecordJson.h"
 
 #include <string>
 

@@ -2,8 +2,8 @@
 
 #include "SampleRun.h"
 #include "TarnwickKit/model/runs/HistoryStore.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
-#include "TarnwickKit/model/runs/RunRecordJson.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include "SampleRun.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
-#include "TarnwickKit/model/runs/RunRecordJson.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 
 #include <QTimeZone>
@@ -184,7 +184,7 @@ TEST(RunRecord, LimitsTitlesByCharacters) {
     EXPECT_EQ(RunRecord::customTitleFrom(accented.repeated(61)), accented.repeated(60));
 }
 
-TEST(RunRecordJson, ReadsBackWhatItWrites) {
+TEST(RunCodec, ReadsBackWhatItWrites) {
     RunRecord run = fullRun();
     run.volumeName = "A \"quoted\" \\ \n \u0001 Ä";
     run.writeSamples = {{0, 1.5}, {0.1, 1e22}};
@@ -213,7 +213,7 @@ QByteArray replaced(const char* key, const QByteArray& value) {
     return json.left(begin) + member + json.mid(end);
 }
 
-TEST(RunRecordJson, IgnoresOnlyUnknownKeysAndAbsentOptions) {
+TEST(RunCodec, IgnoresOnlyUnknownKeysAndAbsentOptions) {
     QByteArray longCurve = "[{\"t\":0,\"v\":0}";
     for (std::size_t points = 1; points < maxCurvePoints; ++points)
         longCurve += ",{\"t\":0,\"v\":0}";
@@ -254,7 +254,7 @@ TEST(RunRecordJson, IgnoresOnlyUnknownKeysAndAbsentOptions) {
     }
 }
 
-TEST(RunRecordJson, RefusesOtherText) {
+TEST(RunCodec, RefusesOtherText) {
     const QByteArray run = encodeRun(fullRun()).value();
     const QByteArray tooLong(static_cast<qsizetype>(maxRunFileBytes), ' ');
     for (const QByteArray& text : {QByteArray(), QByteArray("[]"), QByteArray("{}"), run + "x",

@@ -1,4 +1,4 @@
-#include "TarnwickKit/model/runs/RunRecordJson.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 
 #include "TarnwickKit/model/runs/JsonReader.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
