@@ -34,7 +34,8 @@ bool removeOrphan(int parent, const std::string& name) {
 // opening and locking it a sweep can take it for a leftover. Either is noticed here, and another name tried.
 WorkingFolder::WorkingFolder(int parent, uid_t owner)
     : m_parent(parent) {
-    constexpr int attempts = 10;
+    // Whoever exchanges folders without a pause wins several times in a row, more often on a busy machine.
+    constexpr int attempts = 100;
     int error = 0;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         m_name = std::string(namePrefix) + platform::newUuid();
