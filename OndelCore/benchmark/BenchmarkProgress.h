@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace OndelCore::benchmark {
 
@@ -19,10 +20,11 @@ struct BenchmarkProgress {
     std::int64_t totalBytes = 0;
     double instantBytesPerSecond = 0; ///< of the last interval; always 0 outside the sequential tests
     double elapsed = 0;               ///< seconds since this test's measuring began
+    std::optional<double> celsius{};  ///< the hottest drive's temperature, where a sensor tells
 
     bool operator==(const BenchmarkProgress&) const = default;
     std::size_t hash() const {
-        return hashFields(test, completedBytes, totalBytes, instantBytesPerSecond, elapsed);
+        return hashFields(test, completedBytes, totalBytes, instantBytesPerSecond, elapsed, celsius);
     }
 };
 

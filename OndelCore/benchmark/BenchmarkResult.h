@@ -2,6 +2,8 @@
 
 #include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkTest.h"
+#include "OndelCore/benchmark/Evidence.h"
+#include "OndelCore/platform/drives/Circumstances.h"
 #include "OndelCore/platform/storage/FileTrials.h"
 
 #include <cstdint>
@@ -29,6 +31,7 @@ struct ThroughputResult {
     /// Why the closing flush of the write failed; absent when it did not. Not all that was written may be on
     /// the medium then, and the rate is that of the system calls all the same.
     std::optional<std::error_code> flushError{};
+    TestEvidence evidence{};
 
     /// Overall rate; 0 without a duration.
     double bytesPerSecond() const;
@@ -42,7 +45,9 @@ struct ThroughputResult {
     bool observedCacheCliff() const;
 
     bool operator==(const ThroughputResult&) const = default;
-    std::size_t hash() const { return hashFields(bytesProcessed, duration, blockSize, samples, flushError); }
+    std::size_t hash() const {
+        return hashFields(bytesProcessed, duration, blockSize, samples, flushError, evidence);
+    }
 };
 
 /// A random test as measured, one operation outstanding at a time.
@@ -51,33 +56,39 @@ struct IOPSResult {
     double duration = 0;                         ///< seconds; for writes with the closing flush
     std::int64_t blockSize = 0;                  ///< bytes per operation, as used
     std::optional<std::error_code> flushError{}; ///< of the closing flush of writes, as above
+    std::optional<Latency> latency{};            ///< of each operation without that flush
+    TestEvidence evidence{};
 
     double iops() const;           ///< operations per second; 0 without a duration
     double bytesPerSecond() const; ///< blockSize times iops
 
     bool operator==(const IOPSResult&) const = default;
-    std::size_t hash() const { return hashFields(operations, duration, blockSize, flushError); }
+    std::size_t hash() const {
+        return hashFields(operations, duration, blockSize, flushError, latency, evidence);
+    }
 };
 
 /// One phase of the file-operations test.
 struct FileOpResult {
     std::int64_t operations = 0;
-    double duration = 0; ///< seconds
+    double duration = 0;              ///< seconds
+    std::optional<Latency> latency{}; ///< of each operation
 
     double opsPerSecond() const; ///< 0 without a duration
 
     bool operator==(const FileOpResult&) const = default;
-    std::size_t hash() const { return hashFields(operations, duration); }
+    std::size_t hash() const { return hashFields(operations, duration, latency); }
 };
 
 struct FileOpsResult {
     FileOpResult create{};
     FileOpResult stat{};
     FileOpResult rename{};
-    FileOpResult remove{}; ///< the phase "delete", a word that the language keeps for itself
+    FileOpResult remove{};   ///< the phase "delete", a word that the language keeps for itself
+    TestEvidence evidence{}; ///< of all phases
 
     bool operator==(const FileOpsResult&) const = default;
-    std::size_t hash() const { return hashFields(create, stat, rename, remove); }
+    std::size_t hash() const { return hashFields(create, stat, rename, remove, evidence); }
 };
 
 /// A flush to the medium that failed, after which the run went on.
@@ -99,6 +110,8 @@ struct BenchmarkResult {
     std::optional<std::error_code> preparationFlushError{};
     /// What the file system did when it was tried after the tests.
     platform::TriedAbilities tried{};
+    /// Absent where nobody looked.
+    std::optional<platform::Circumstances> circumstances{};
 
     /// In the order of their time; mostly none.
     std::vector<FlushFailure> flushFailures() const;
@@ -106,7 +119,7 @@ struct BenchmarkResult {
     bool operator==(const BenchmarkResult&) const = default;
     std::size_t hash() const {
         return hashFields(sequentialWrite, sequentialRead, randomRead, randomWrite, fileOps,
-                          preparationFlushError, tried);
+                          preparationFlushError, tried, circumstances);
     }
 };
 

@@ -37,4 +37,17 @@ std::int64_t DataFile::length() const {
     return facts.st_size;
 }
 
+std::optional<std::error_code> DataFile::flush() {
+    const std::int64_t start = m_run.system.evidenceClock();
+    const std::error_code error = m_run.system.flushToMedium(m_file.get());
+    m_flushDuration = static_cast<double>(m_run.system.evidenceClock() - start) * 1e-9;
+    return error ? std::optional(error) : std::nullopt;
+}
+
+void DataFile::tell(TestEvidence& evidence) const {
+    evidence.isBypassRefused = m_run.plan.bypassCache && !m_cacheBypass.isOn();
+    evidence.refusedTransfers = m_cacheBypass.refusedTransfers();
+    evidence.flushDuration = m_flushDuration;
+}
+
 } // namespace OndelCore::benchmark

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/benchmark/Evidence.h"
 #include "OndelCore/benchmark/TestRun.h"
 #include "OndelCore/platform/storage/CacheBypass.h"
 #include "OndelCore/platform/storage/FileDescriptor.h"
@@ -48,29 +49,29 @@ public:
     /// 0 when the system does not tell. Units: bytes.
     std::int64_t length() const;
 
-    ssize_t read(std::span<std::byte> bytes) const {
+    ssize_t read(std::span<std::byte> bytes) {
         return transfer([&] { return m_run.system.read(m_file.get(), bytes.data(), bytes.size()); });
     }
-    ssize_t write(std::span<const std::byte> bytes) const {
+    ssize_t write(std::span<const std::byte> bytes) {
         return transfer([&] { return m_run.system.write(m_file.get(), bytes.data(), bytes.size()); });
     }
-    ssize_t readAt(std::int64_t offset, std::span<std::byte> bytes) const {
+    ssize_t readAt(std::int64_t offset, std::span<std::byte> bytes) {
         return transfer([&] { return m_run.system.pread(m_file.get(), bytes.data(), bytes.size(), offset); });
     }
-    ssize_t writeAt(std::int64_t offset, std::span<const std::byte> bytes) const {
+    ssize_t writeAt(std::int64_t offset, std::span<const std::byte> bytes) {
         return transfer(
             [&] { return m_run.system.pwrite(m_file.get(), bytes.data(), bytes.size(), offset); });
     }
 
     /// Returns when the medium holds the data, or with the reason why it may not.
-    std::optional<std::error_code> flush() const {
-        const std::error_code error = m_run.system.flushToMedium(m_file.get());
-        return error ? std::optional(error) : std::nullopt;
-    }
+    std::optional<std::error_code> flush();
+
+    /// Adds what the file saw of the cache bypass and of its flush.
+    void tell(TestEvidence& evidence) const;
 
 private:
     template <class Call>
-    ssize_t transfer(Call call) const {
+    ssize_t transfer(Call call) {
         for (;;) {
             const ssize_t moved = m_cacheBypass.perform(call);
             if (moved >= 0 || errno != EINTR) [[likely]]
@@ -82,6 +83,7 @@ private:
     const TestRun& m_run;
     platform::FileDescriptor m_file;
     platform::CacheBypass m_cacheBypass;
+    std::optional<double> m_flushDuration;
 };
 
 } // namespace OndelCore::benchmark

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/platform/drives/Circumstances.h"
+#include "OndelCore/platform/drives/DiskWitness.h"
 #include "OndelCore/platform/process/SystemCalls.h"
 #include "OndelCore/platform/storage/FileTrials.h"
 #include "OndelCore/platform/storage/Storage.h"
@@ -11,6 +13,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <system_error>
 
@@ -20,6 +23,8 @@ namespace OndelCore::benchmark {
 /// needs. The four transfers answer as the system calls of their names do.
 struct EngineEnvironment {
     std::function<std::int64_t()> monotonicNanoseconds = platform::monotonicNanoseconds;
+    /// For what no rate depends on: latencies, pauses, when a test began.
+    std::function<std::int64_t()> evidenceClock = platform::monotonicNanoseconds;
     std::function<std::optional<std::int64_t>(int descriptor)> freeBytes = platform::freeBytes;
     std::function<ssize_t(int, void*, std::size_t)> read = ::read;
     std::function<ssize_t(int, const void*, std::size_t)> write = ::write;
@@ -30,6 +35,14 @@ struct EngineEnvironment {
     std::function<bool(int folder)> confineWrites = platform::confineWritesOfThisThread;
     /// Asked after the tests, of the folder that holds their files.
     std::function<platform::TriedAbilities(int folder)> tryAbilities = platform::tryAbilities;
+    /// Asked of the target folder when the run begins. The watch ends with the run.
+    std::function<std::unique_ptr<platform::CircumstanceWatch>(int folder)> watchCircumstances =
+        platform::watchCircumstances;
+    /// Made of the target folder, and asked before and after each test.
+    std::function<std::unique_ptr<platform::DiskWitness>(int folder)> diskWitness = platform::diskWitness;
+    /// Asked on the thread that measures.
+    std::function<std::optional<platform::ThreadTraffic>()> trafficOfThisThread =
+        platform::trafficOfThisThread;
 };
 
 } // namespace OndelCore::benchmark

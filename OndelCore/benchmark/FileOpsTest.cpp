@@ -1,6 +1,7 @@
 #include "OndelCore/benchmark/FileOpsTest.h"
 
 #include "OndelCore/SaturatingMath.h"
+#include "OndelCore/benchmark/OperationTimer.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
 
 #include <fcntl.h>
@@ -50,7 +51,8 @@ public:
     Steps(const TestRun& run, std::int64_t count)
         : m_run(run)
         , m_total(saturatingMultiply(4, count))
-        , m_start(run.now()) {}
+        , m_start(run.now())
+        , m_timer(run.system.evidenceClock) {}
 
     void report() const {
         m_run.progress({BenchmarkTest::fileOps, m_done, m_total, 0, m_run.now() - m_start});
@@ -58,25 +60,34 @@ public:
 
     void finishedOne() {
         ++m_done;
-        if (m_done % 256 == 0)
+        if (m_done % 256 == 0) {
             report();
+            m_timer.begin();
+        }
     }
 
     /// Does `operation` for each index below `count`.
     template <class Operation>
     void forEach(std::size_t count, Operation operation) {
+        m_timer.begin();
         for (std::size_t i = 0; i < count; ++i) {
             m_run.throwIfCancelled();
             operation(i);
+            m_timer.endedOne();
             finishedOne();
         }
     }
+
+    /// Of the operations since it was asked last.
+    std::optional<Latency> takeLatency() { return m_timer.takeLatency(); }
+    void tell(TestEvidence& evidence) const { m_timer.tell(evidence); }
 
 private:
     const TestRun& m_run;
     std::int64_t m_total;
     std::int64_t m_done = 0;
     double m_start;
+    OperationTimer m_timer;
 };
 
 void createFile(int folder, const std::string& name) {
@@ -104,13 +115,14 @@ FileOpsResult fileOps(const TestRun& run, int parent, std::int64_t count) {
     const int folder = made.get();
     const std::vector<std::string> names = namesOf(count);
     std::vector<std::string> newNames;
+    Steps steps(run, count);
     const auto timed = [&](auto phase) -> FileOpResult {
         const double start = run.now();
         phase();
-        return {count, run.now() - start};
+        const double duration = run.now() - start;
+        return {count, duration, steps.takeLatency()};
     };
 
-    Steps steps(run, count);
     steps.report();
     FileOpsResult result;
     result.create =
@@ -127,6 +139,7 @@ FileOpsResult fileOps(const TestRun& run, int parent, std::int64_t count) {
     result.remove = timed(
         [&] { steps.forEach(newNames.size(), [&](std::size_t i) { deleteFile(folder, newNames[i]); }); });
     steps.report();
+    steps.tell(result.evidence);
     return result;
 }
 

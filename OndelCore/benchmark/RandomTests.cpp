@@ -2,6 +2,7 @@
 
 #include "OndelCore/SaturatingMath.h"
 #include "OndelCore/benchmark/DataFile.h"
+#include "OndelCore/benchmark/OperationTimer.h"
 #include "OndelCore/benchmark/UniformIndexGenerator.h"
 #include "OndelCore/platform/process/SystemCalls.h"
 
@@ -22,7 +23,7 @@ struct RandomTest {
 IOPSResult measure(const TestRun& run, const RandomTest& kind) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.randomBlockSize);
     const std::int64_t count = run.plan.randomOpCount;
-    const DataFile file(run, kind.openFlags, "open(random): ");
+    DataFile file(run, kind.openFlags, "open(random): ");
     const std::int64_t blocks = file.length() / block;
     if (blocks <= 0)
         throw BenchmarkError(BenchmarkError::FileTooSmallForRandom{});
@@ -36,7 +37,9 @@ IOPSResult measure(const TestRun& run, const RandomTest& kind) {
             {kind.test, saturatingMultiply(operations, block), saturatingMultiply(count, block), 0, elapsed});
     };
 
+    OperationTimer timer(run.system.evidenceClock);
     const double start = run.now();
+    timer.begin();
     for (std::int64_t i = 0; i < count; ++i) {
         run.throwIfCancelled();
         const auto index = static_cast<std::int64_t>(draw.below(static_cast<std::uint64_t>(blocks)));
@@ -44,13 +47,19 @@ IOPSResult measure(const TestRun& run, const RandomTest& kind) {
         const ssize_t moved = kind.writes ? file.writeAt(offset, bytes) : file.readAt(offset, bytes);
         if (moved < 0)
             throw ioError(kind.failurePrefix, errno);
-        if (i % 512 == 0)
+        timer.endedOne();
+        if (i % 512 == 0) {
             report(i + 1, run.now() - start);
+            timer.begin();
+        }
     }
     const auto flushError = kind.writes ? file.flush() : std::nullopt;
     const double duration = run.now() - start;
     report(count, duration);
-    return {count, duration, block, flushError};
+    IOPSResult result{count, duration, block, flushError, timer.latency()};
+    timer.tell(result.evidence);
+    file.tell(result.evidence);
+    return result;
 }
 
 } // namespace

@@ -15,7 +15,9 @@
 #include <chrono>
 #include <cstdint>
 #include <future>
+#include <memory>
 #include <new>
+#include <optional>
 #include <stdexcept>
 #include <system_error>
 #include <thread>
@@ -71,26 +73,79 @@ void awaitAnswer(const std::filesystem::path& folder, const CancelFlag& flag) {
         throw Cancelled();
 }
 
+double secondsBetween(std::int64_t from, std::int64_t to) { return static_cast<double>(to - from) * 1e-9; }
+
+std::optional<std::int64_t> difference(const std::optional<std::int64_t>& before,
+                                       const std::optional<std::int64_t>& after) {
+    return before && after && *after >= *before ? std::optional(*after - *before) : std::nullopt;
+}
+
+/// Looks from outside at what the tests of one run do.
+class RunWitness {
+public:
+    RunWitness(const EngineEnvironment& system, int volume)
+        : m_system(system)
+        , m_disks(system.diskWitness(volume))
+        , m_start(system.evidenceClock()) {}
+
+    /// Makes a test's result, with the evidence of what happened meanwhile.
+    template <class Test>
+    auto observed(Test test) {
+        const View before = look();
+        auto result = test();
+        const View after = look();
+        TestEvidence& evidence = result.evidence;
+        evidence.began = secondsBetween(m_start, before.time);
+        evidence.ended = secondsBetween(m_start, after.time);
+        if (before.disks && after.disks) {
+            evidence.diskReads = Traffic{after.disks->readBytes - before.disks->readBytes,
+                                         after.disks->reads - before.disks->reads};
+            evidence.diskWrites = Traffic{after.disks->writtenBytes - before.disks->writtenBytes,
+                                          after.disks->writes - before.disks->writes};
+        }
+        if (before.thread && after.thread) {
+            evidence.threadReads = difference(before.thread->readBytes, after.thread->readBytes);
+            evidence.threadWrites = difference(before.thread->writtenBytes, after.thread->writtenBytes);
+        }
+        return result;
+    }
+
+private:
+    struct View {
+        std::int64_t time;
+        std::optional<platform::DiskCounters> disks;
+        std::optional<platform::ThreadTraffic> thread;
+    };
+    View look() {
+        return {m_system.evidenceClock(), m_disks ? m_disks->counters() : std::nullopt,
+                m_system.trafficOfThisThread()};
+    }
+
+    const EngineEnvironment& m_system;
+    std::unique_ptr<platform::DiskWitness> m_disks;
+    std::int64_t m_start;
+};
+
 /// The tests of the plan that need the data file, in their order. `volume`: the target folder, open.
-BenchmarkResult transferTests(const TestRun& run, int volume) {
+BenchmarkResult transferTests(const TestRun& run, RunWitness& witness, int volume) {
     const auto asksFor = [&run](BenchmarkTest test) { return run.plan.tests.contains(test); };
     BenchmarkResult result;
     const std::int64_t target = checkedTarget(run.plan.size, run.freeBytes(volume));
     if (asksFor(BenchmarkTest::sequentialWrite))
-        result.sequentialWrite = sequentialWrite(run, target, volume);
+        result.sequentialWrite = witness.observed([&] { return sequentialWrite(run, target, volume); });
     else
         result.preparationFlushError = prepareDataFile(run, target);
     if (asksFor(BenchmarkTest::sequentialRead)) {
         run.throwIfCancelled();
-        result.sequentialRead = sequentialRead(run);
+        result.sequentialRead = witness.observed([&] { return sequentialRead(run); });
     }
     if (asksFor(BenchmarkTest::randomRead)) {
         run.throwIfCancelled();
-        result.randomRead = randomRead(run);
+        result.randomRead = witness.observed([&] { return randomRead(run); });
     }
     if (asksFor(BenchmarkTest::randomWrite)) {
         run.throwIfCancelled();
-        result.randomWrite = randomWrite(run);
+        result.randomWrite = witness.observed([&] { return randomWrite(run); });
     }
     return result;
 }
@@ -100,15 +155,16 @@ BenchmarkResult transferTests(const TestRun& run, int volume) {
 /// time.
 BenchmarkResult runInWorkingFolder(const TestRun& run, int working, int volume) {
     BenchmarkResult result;
+    RunWitness witness(run.system, volume);
     if (needsDataFile(run.plan.tests))
         result = onThreadOfItsOwn([&](bool isOwnThread) {
             if (isOwnThread)
                 run.system.confineWrites(working);
-            return transferTests(run, volume);
+            return transferTests(run, witness, volume);
         });
     if (run.plan.tests.contains(BenchmarkTest::fileOps)) {
         run.throwIfCancelled();
-        result.fileOps = fileOps(run, working, run.plan.fileOpCount);
+        result.fileOps = witness.observed([&] { return fileOps(run, working, run.plan.fileOpCount); });
     }
     if (!run.plan.tests.empty()) // a plan without any makes no files
         result.tried = run.system.tryAbilities(working);
@@ -128,8 +184,16 @@ BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan
     const WorkingFolder working(parent.get(), *owner);
     try {
         DataFilePlace dataFile(working.descriptor());
-        const TestRun run{system, plan, dataFile, flag, progress};
-        return runInWorkingFolder(run, working.descriptor(), parent.get());
+        const auto watch = system.watchCircumstances(parent.get());
+        const ProgressListener withTemperature = [&](BenchmarkProgress now) {
+            now.celsius = watch->celsius();
+            progress(now);
+        };
+        const TestRun run{system, plan, dataFile, flag, watch ? withTemperature : progress};
+        BenchmarkResult result = runInWorkingFolder(run, working.descriptor(), parent.get());
+        if (watch)
+            result.circumstances = watch->finish();
+        return result;
     } catch (const std::bad_alloc&) { // a block, or a list of files, larger than the memory
         throw ioError("memory: ", ENOMEM);
     } catch (const std::length_error&) {

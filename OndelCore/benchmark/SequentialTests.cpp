@@ -41,9 +41,8 @@ private:
 
 /// Writes blocks until the target is reached, the last one cut to fit. `transferred` hears the bytes so far.
 template <class Listener>
-std::int64_t writeToTarget(const TestRun& run, const DataFile& file, const BlockBuffer& buffer,
-                           std::int64_t block, std::int64_t target, std::string_view failurePrefix,
-                           Listener transferred) {
+std::int64_t writeToTarget(const TestRun& run, DataFile& file, const BlockBuffer& buffer, std::int64_t block,
+                           std::int64_t target, std::string_view failurePrefix, Listener transferred) {
     std::int64_t moved = 0;
     for (;;) {
         run.throwIfCancelled();
@@ -59,8 +58,8 @@ std::int64_t writeToTarget(const TestRun& run, const DataFile& file, const Block
 
 /// Writes whole blocks until the reserve is reached or the disk is full.
 template <class Listener>
-std::int64_t writeUntilFull(const TestRun& run, const DataFile& file, const BlockBuffer& buffer,
-                            std::int64_t block, ReserveWatch reserve, Listener transferred) {
+std::int64_t writeUntilFull(const TestRun& run, DataFile& file, const BlockBuffer& buffer, std::int64_t block,
+                            ReserveWatch reserve, Listener transferred) {
     std::int64_t moved = 0;
     for (;;) {
         run.throwIfCancelled();
@@ -83,7 +82,7 @@ constexpr int createForWriting = O_WRONLY | O_CREAT | O_TRUNC;
 ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes, int volumePath) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.writeBlockSize);
     const bool fillDisk = run.plan.size.asFillDisk() != nullptr;
-    const DataFile file(run, createForWriting, "open(write): ");
+    DataFile file(run, createForWriting, "open(write): ");
     BlockBuffer buffer(block);
     buffer.fillWithRandomBytes();
 
@@ -96,12 +95,13 @@ ThroughputResult sequentialWrite(const TestRun& run, std::int64_t targetBytes, i
     const auto flushError = file.flush();
     ThroughputResult result = recorder.result(moved, block);
     result.flushError = flushError;
+    file.tell(result.evidence);
     return result;
 }
 
 std::optional<std::error_code> prepareDataFile(const TestRun& run, std::int64_t targetBytes) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.writeBlockSize);
-    const DataFile file(run, createForWriting, "open(prepare): ");
+    DataFile file(run, createForWriting, "open(prepare): ");
     BlockBuffer buffer(block);
     buffer.fillWithRandomBytes();
 
@@ -111,7 +111,7 @@ std::optional<std::error_code> prepareDataFile(const TestRun& run, std::int64_t 
 
 ThroughputResult sequentialRead(const TestRun& run) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(run.plan.readBlockSize);
-    const DataFile file(run, O_RDONLY, "open(read): ");
+    DataFile file(run, O_RDONLY, "open(read): ");
     const std::int64_t totalBytes = file.length();
     const BlockBuffer buffer(block);
 
@@ -128,7 +128,9 @@ ThroughputResult sequentialRead(const TestRun& run) {
         recorder.transferred(moved);
     }
     recorder.loopEnded(moved);
-    return recorder.result(moved, block);
+    ThroughputResult result = recorder.result(moved, block);
+    file.tell(result.evidence);
+    return result;
 }
 
 } // namespace OndelCore::benchmark

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/benchmark/OperationTimer.h"
 #include "OndelCore/benchmark/TestRun.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace OndelCore::benchmark {
@@ -18,11 +20,13 @@ public:
         , m_test(test)
         , m_totalBytes(totalBytes)
         , m_start(run.now())
-        , m_lastTime(m_start) {}
+        , m_lastTime(m_start)
+        , m_lastTransfer(m_start) {}
 
     /// Call after each transfer. `moved`: bytes moved so far.
     void transferred(std::int64_t moved) {
         const double now = m_run.now();
+        m_pauses.add(now - std::exchange(m_lastTransfer, now));
         if (!(now - m_lastTime < m_run.plan.sampleInterval) && now > m_lastTime) // no time, no rate
             takeSample(moved, now);
     }
@@ -38,7 +42,9 @@ public:
     /// Ends the time. `blockSize`: as used.
     ThroughputResult result(std::int64_t moved, std::int64_t blockSize) {
         const double duration = m_run.now() - m_start;
-        return {moved, duration, blockSize, std::move(m_samples), std::nullopt};
+        ThroughputResult result{moved, duration, blockSize, std::move(m_samples)};
+        m_pauses.tell(result.evidence);
+        return result;
     }
 
 private:
@@ -48,7 +54,9 @@ private:
     BenchmarkTest m_test;
     std::int64_t m_totalBytes;
     double m_start;
-    double m_lastTime;
+    double m_lastTime; ///< of the last sample
+    double m_lastTransfer;
+    Pauses m_pauses;
     std::int64_t m_lastBytes = 0;
     std::vector<ThroughputSample> m_samples;
 };

@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <cerrno>
+#include <cstdint>
 
 namespace OndelCore::platform {
 
@@ -21,10 +22,11 @@ public:
     /// refuses this one for that reason, the transfer alone is made again through the cache.
     /// `transfer`: a call that answers as read(2) does. Fails: as the call does, errno set.
     template <class Transfer>
-    ssize_t perform(Transfer transfer) const {
+    ssize_t perform(Transfer transfer) {
         const ssize_t moved = transfer();
         if (moved >= 0 || !m_isOn || !isRefusal(errno)) [[likely]]
             return moved;
+        ++m_refusedTransfers;
         suspend();
         const ssize_t movedThroughCache = transfer();
         const int error = errno;
@@ -32,6 +34,11 @@ public:
         errno = error;
         return movedThroughCache;
     }
+
+    /// Whether the file system went along with the bypass when it was asked.
+    bool isOn() const { return m_isOn; }
+    /// How many transfers it refused all the same.
+    std::int64_t refusedTransfers() const { return m_refusedTransfers; }
 
 private:
     static bool isRefusal(int error);
@@ -41,6 +48,7 @@ private:
     int m_descriptor = -1;
     int m_statusFlags = 0; ///< of the descriptor without the bypass
     bool m_isOn = false;
+    std::int64_t m_refusedTransfers = 0;
 };
 
 } // namespace OndelCore::platform

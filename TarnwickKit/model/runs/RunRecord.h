@@ -3,8 +3,10 @@
 #include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/benchmark/Remark.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickKit/model/runs/RunEvidence.h"
 #include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <QDateTime>
@@ -81,7 +83,12 @@ struct RunRecord {
     std::optional<QString> deviceModel;
     std::optional<QString> deviceProtocol; ///< the bus, or a network volume's protocol
     Kind kind = Kind::internalDrive;
-    std::optional<QString> customTitle; ///< the user's own
+    std::optional<QString> customTitle;  ///< the user's own
+    std::optional<QString> kernel;       ///< the system's release
+    std::optional<QString> version;      ///< of the program that measured
+    std::optional<RunEvidence> evidence; ///< absent: not recorded
+    /// What the evidence says about the figures, worst first; empty: nothing. Absent: not recorded.
+    std::optional<std::vector<OndelCore::benchmark::Remark>> remarks;
 
     using IdentityOf = std::function<DriveIdentity(const std::filesystem::path& volumeURL)>;
     static DriveIdentity identityOf(const std::filesystem::path& volumeURL);

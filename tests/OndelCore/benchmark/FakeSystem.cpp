@@ -45,6 +45,10 @@ FakeSystem::FakeSystem() {
     };
     confineWrites = [](int) { return false; }; // so that a test can do its worst from within the run
     tryAbilities = [](int) { return OndelCore::platform::TriedAbilities(); };
+    evidenceClock = [] { return 0; };
+    watchCircumstances = [](int) { return nullptr; };
+    diskWitness = [](int) { return nullptr; };
+    trafficOfThisThread = [] { return std::nullopt; };
 }
 
 BenchmarkResult FakeSystem::run(const BenchmarkPlan& plan, const std::filesystem::path& folder) {
@@ -54,6 +58,23 @@ BenchmarkResult FakeSystem::run(const BenchmarkPlan& plan, const std::filesystem
                              std::to_string(now.totalBytes), " at ",
                              std::to_string(static_cast<int>(now.elapsed)), " s"));
     });
+}
+
+BenchmarkResult withoutEvidence(BenchmarkResult result) {
+    const auto clear = [](auto& test) {
+        if (test)
+            test->evidence = {};
+    };
+    clear(result.sequentialWrite), clear(result.sequentialRead), clear(result.fileOps);
+    clear(result.randomRead), clear(result.randomWrite);
+    for (auto* test : {&result.randomRead, &result.randomWrite})
+        if (*test)
+            (*test)->latency.reset();
+    if (result.fileOps)
+        for (FileOpResult FileOpsResult::* phase :
+             {&FileOpsResult::create, &FileOpsResult::stat, &FileOpsResult::rename, &FileOpsResult::remove})
+            ((*result.fileOps).*phase).latency.reset();
+    return result;
 }
 
 std::string FakeSystem::failureOf(const BenchmarkPlan& plan, const std::filesystem::path& folder) {

@@ -30,6 +30,9 @@ struct FakeSystem : OndelCore::benchmark::EngineEnvironment {
     std::int64_t seconds = 0;
 };
 
+/// The figures alone.
+OndelCore::benchmark::BenchmarkResult withoutEvidence(OndelCore::benchmark::BenchmarkResult result);
+
 /// Everything in the folder, hidden or not.
 inline std::size_t entriesIn(const std::filesystem::path& folder) {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));

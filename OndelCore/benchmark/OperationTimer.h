@@ -1,0 +1,60 @@
+#pragma once
+
+#include "OndelCore/benchmark/Evidence.h"
+#include "OndelCore/benchmark/LatencyHistogram.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <utility>
+
+namespace OndelCore::benchmark {
+
+/// The longest time that a test stood still, and how often it stood for over a second.
+class Pauses {
+public:
+    /// Units: seconds.
+    void add(double duration) {
+        m_longest = std::max(m_longest, duration);
+        m_long += duration > 1 ? 1 : 0;
+    }
+    void tell(TestEvidence& evidence) const {
+        evidence.longestPause = m_longest;
+        evidence.longPauses = m_long;
+    }
+
+private:
+    double m_longest = 0;
+    std::int64_t m_long = 0;
+};
+
+/// Times single operations with one reading of the clock for each. Does not allocate.
+class OperationTimer {
+public:
+    /// `nanoseconds`: the clock; outlives the object.
+    explicit OperationTimer(const std::function<std::int64_t()>& nanoseconds)
+        : m_nanoseconds(nanoseconds) {}
+
+    /// What lies between the end of the last operation and this call belongs to no operation.
+    void begin() { m_last = m_nanoseconds(); }
+    void endedOne() {
+        const std::int64_t now = m_nanoseconds();
+        const std::int64_t duration = now - std::exchange(m_last, now);
+        m_histogram.add(duration);
+        m_pauses.add(static_cast<double>(duration) * 1e-9);
+    }
+
+    std::optional<Latency> latency() const { return m_histogram.latency(); }
+    /// The same, and forgets the operations so far; their pauses stay.
+    std::optional<Latency> takeLatency() { return std::exchange(m_histogram, {}).latency(); }
+    void tell(TestEvidence& evidence) const { m_pauses.tell(evidence); }
+
+private:
+    const std::function<std::int64_t()>& m_nanoseconds;
+    std::int64_t m_last = 0;
+    LatencyHistogram m_histogram;
+    Pauses m_pauses;
+};
+
+} // namespace OndelCore::benchmark

@@ -1,0 +1,15 @@
+#include "OndelCore/platform/drives/Circumstances.h"
+
+namespace OndelCore::platform {
+
+std::size_t Circumstances::hash() const {
+    return hashFields(kernel, fileSystemType, reach, isServedByProgram, compresses, copiesOnWrite,
+                      checksumsData, journalsData, isEncrypted, allowsDirectIo, disks, isFileOnDisk,
+                      isCachedFileOnDisk, isVirtualDisk, isRotational, hasVolatileWriteCache, misalignment,
+                      link, isOnBattery, hasPowerSaveGovernor, memoryBytes, capacityBytes, freeBytes,
+                      maxCelsius, criticalCelsius, samples);
+}
+
+std::unique_ptr<CircumstanceWatch> watchCircumstances(int) { return nullptr; }
+
+} // namespace OndelCore::platform

@@ -1,0 +1,109 @@
+#include "OndelCore/platform/drives/DiskWitness.h"
+
+#include "OndelCore/platform/drives/BlockDevices.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace OndelCore::platform {
+
+namespace {
+
+constexpr std::int64_t sector = 512; // the unit of `stat`, whatever the disk's own is
+constexpr std::size_t fields = 7;    // up to the written sectors
+
+/// The first numbers of a disk's "stat" (the kernel's Documentation/block/stat.rst). Fails: absent.
+std::optional<std::array<std::int64_t, fields>> statOf(const std::filesystem::path& folder) {
+    std::array<std::int64_t, fields> numbers{};
+    std::ifstream file(folder / "stat");
+    for (std::int64_t& number : numbers)
+        if (!(file >> number) || number < 0)
+            return std::nullopt;
+    return numbers;
+}
+
+class BlockDeviceWitness : public DiskWitness {
+public:
+    explicit BlockDeviceWitness(std::vector<std::filesystem::path> folders)
+        : m_folders(std::move(folders)) {}
+
+    std::optional<DiskCounters> counters() override {
+        DiskCounters sum;
+        for (const std::filesystem::path& folder : m_folders) {
+            const auto numbers = statOf(folder);
+            constexpr std::int64_t most = INT64_MAX / sector / 1024;
+            if (!numbers || std::ranges::any_of(*numbers, [](std::int64_t number) { return number > most; }))
+                return std::nullopt;
+            sum.reads += (*numbers)[0];
+            sum.readBytes += (*numbers)[2] * sector;
+            sum.writes += (*numbers)[4];
+            sum.writtenBytes += (*numbers)[6] * sector;
+        }
+        const DiskCounters before = std::exchange(m_last, sum);
+        if (sum.reads < before.reads || sum.readBytes < before.readBytes || sum.writes < before.writes ||
+            sum.writtenBytes < before.writtenBytes)
+            return std::nullopt;
+        return sum;
+    }
+
+private:
+    std::vector<std::filesystem::path> m_folders;
+    DiskCounters m_last;
+};
+
+/// The value behind `name` in a text of lines "name: value". Fails: absent.
+std::optional<std::int64_t> valueOf(std::string_view text, std::string_view name) {
+    const std::size_t at = text.find(name);
+    std::int64_t value = 0;
+    if (at == std::string_view::npos)
+        return std::nullopt;
+    const char* digits = text.data() + at + name.size();
+    const auto read = std::from_chars(digits, text.data() + text.size(), value);
+    return read.ec == std::errc() && value >= 0 ? std::optional(value) : std::nullopt;
+}
+
+/// The mount that an open file or folder lies in. Fails: absent.
+std::optional<Mount> mountOfOpen(int descriptor) {
+    struct statx facts{};
+    if (statx(descriptor, "", AT_EMPTY_PATH | AT_STATX_DONT_SYNC, STATX_MNT_ID, &facts) != 0 ||
+        (facts.stx_mask & STATX_MNT_ID) == 0)
+        return std::nullopt;
+    const std::vector<Mount> all = mounts();
+    const auto found = std::ranges::find(all, facts.stx_mnt_id, &Mount::id);
+    return found == all.end() ? std::nullopt : std::optional(*found);
+}
+
+} // namespace
+
+std::unique_ptr<DiskWitness> diskWitness(int folder) {
+    const auto mount = mountOfOpen(folder);
+    std::vector<std::filesystem::path> folders;
+    if (mount)
+        for (const BlockDevice& disk : blockStack(*mount).wholeDisks)
+            folders.push_back(disk.folder);
+    return witnessOf(std::move(folders));
+}
+
+std::unique_ptr<DiskWitness> witnessOf(std::vector<std::filesystem::path> diskFolders) {
+    return diskFolders.empty() ? nullptr : std::make_unique<BlockDeviceWitness>(std::move(diskFolders));
+}
+
+std::optional<ThreadTraffic> trafficOfThisThread() {
+    std::ifstream file("/proc/thread-self/io");
+    std::string text(1024, '\0');
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    const auto read = valueOf(text, "\nread_bytes: ");
+    const auto written = valueOf(text, "\nwrite_bytes: ");
+    return read && written ? std::optional(ThreadTraffic{*read, *written}) : std::nullopt;
+}
+
+} // namespace OndelCore::platform

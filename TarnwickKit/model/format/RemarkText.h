@@ -1,0 +1,16 @@
+#pragma once
+
+#include "OndelCore/benchmark/Remark.h"
+
+#include <QString>
+
+namespace TarnwickKit::model {
+
+/// One sentence for people, with the remark's numbers: "0 % of what was read came from the disk."
+QString remarkSentence(const OndelCore::benchmark::Remark& remark);
+/// What to do about it, in one sentence; empty where there is nothing to do.
+QString remarkAdvice(const OndelCore::benchmark::Remark& remark);
+/// The weight in a word that stands beside its symbol: "Note", "Caution", "Invalid".
+QString remarkWeightWord(OndelCore::benchmark::RemarkWeight weight);
+
+} // namespace TarnwickKit::model
