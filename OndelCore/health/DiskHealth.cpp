@@ -2,7 +2,6 @@
 
 #include "OndelCore/health/SmartReader.h"
 #include "OndelCore/platform/process/LocaleNumbers.h"
-#include "OndelCore/platform/volumes/VolumeResources.h"
 
 #include <string.h>
 
@@ -15,15 +14,6 @@ namespace OndelCore::health {
 namespace {
 
 using Attribute = DiskSMART::Attribute;
-
-/// The device that a mount path's file system lies on, without "/dev/".
-std::optional<std::string> bsdName(const std::filesystem::path& mountPath) {
-    constexpr std::string_view devices = "/dev/";
-    const std::optional<std::string> source = platform::mountedFrom(mountPath);
-    if (!source || !source->starts_with(devices))
-        return std::nullopt;
-    return source->substr(devices.size());
-}
 
 /// One decimal and a point in every locale; printf and streams would follow the process's locale.
 std::string oneDecimal(double value) {
@@ -144,11 +134,12 @@ std::string addCount(std::size_t answered, std::size_t disks, DiskSMART& all) {
 
 } // namespace
 
-DiskHealth::Reading DiskHealth::readInDetail(const std::filesystem::path& mountPath) {
-    const std::optional<std::string> name = bsdName(mountPath);
-    if (!name)
+DiskHealth::Reading DiskHealth::readInDetail(const std::filesystem::path& mountPath,
+                                             const platform::SystemSources& sources) {
+    const auto mount = platform::mountOfPathIn(sources.mountTable.mounts(), mountPath, sources.patience);
+    if (!mount || !platform::sourceOfMount(*mount, sources.sysfs).starts_with("/dev/"))
         return {.smart = std::nullopt, .disks = {}, .source = "no device is behind this path"};
-    SmartReadings readings = readSmart(*name);
+    SmartReadings readings = readSmart(*mount, {.system = sources});
     DiskSMART health = smart(readings);
     return {
         .smart = std::move(health), .disks = std::move(readings.disks), .source = std::move(readings.source)};

@@ -30,7 +30,8 @@ public:
         /// One line in plain words: who answered ("NVMe health log of nvme0n1"), or why nobody did.
         std::string source;
     };
-    static Reading readInDetail(const std::filesystem::path& mountPath);
+    static Reading readInDetail(const std::filesystem::path& mountPath,
+                                const platform::SystemSources& sources = {});
 
     /// The worst verdict of all disks, and the rows of all. A single disk's rows are those of its record; of
     /// several each row names its disk. Disks that gave no answer are counted in a row and in `note`.

@@ -82,8 +82,8 @@ OndelSMART recordOf(const platform::SmartAnswer& answer) {
     return record;
 }
 
-SmartReadings readSmart(const std::string& deviceName, const platform::SmartSources& sources) {
-    const platform::DiskAnswers answers = platform::smartOfDevice(deviceName, sources);
+SmartReadings readSmart(const platform::Mount& mount, const platform::SmartSources& sources) {
+    const platform::DiskAnswers answers = platform::smartOfMount(mount, sources);
     SmartReadings readings{.disks = {}, .source = answers.obstacle};
     for (const auto& [disk, answer] : answers.disks) {
         readings.disks.push_back({.disk = disk, .record = recordOf(answer), .source = answer.source});
@@ -95,9 +95,12 @@ SmartReadings readSmart(const std::string& deviceName, const platform::SmartSour
 std::int32_t ondel_read_smart(const char* deviceName, OndelSMART* record) {
     assert(deviceName && record);
     *record = {};
-    for (const SmartReading& reading : readSmart(deviceName).disks)
-        if (!record->available || (!record->failing && reading.record.failing))
-            *record = reading.record;
+    const platform::BlockStack stack = platform::blockStackNamed("/dev/" + std::string(deviceName));
+    for (const auto& [disk, answer] : platform::smartOfDisks(stack)) {
+        const OndelSMART found = recordOf(answer);
+        if (!record->available || (!record->failing && found.failing))
+            *record = found;
+    }
     return 0;
 }
 

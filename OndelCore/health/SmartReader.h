@@ -15,15 +15,16 @@ struct SmartReading {
     std::string source;
 };
 
-/// All disks under a device, and in one line where their records came from or why there are none.
+/// All disks under a mounted file system, and in one line where their records came from or why there are
+/// none.
 struct SmartReadings {
     std::vector<SmartReading> disks;
     std::string source;
 };
 
-/// Every disk that `ondel_read_smart` would ask, with sources other than the real system's if the caller
-/// hands some in. Threads, Fails: as there.
-SmartReadings readSmart(const std::string& deviceName, const platform::SmartSources& sources = {});
+/// Reads the health of every disk under a mounted file system. Threads: any; blocks on the drives, for
+/// `sources.patience` at most. Fails: no disks, or empty records, with the reasons in `source`.
+SmartReadings readSmart(const platform::Mount& mount, const platform::SmartSources& sources = {});
 
 /// The record for what came back from the drive or spoke for it. Threads: any.
 OndelSMART recordOf(const platform::SmartAnswer& answer);

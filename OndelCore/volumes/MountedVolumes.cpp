@@ -24,7 +24,7 @@ MountedVolume describe(const platform::Mount& mount, const platform::VolumeResou
 
 std::vector<MountedVolume> mountedVolumes(const platform::SystemSources& sources,
                                           std::chrono::milliseconds patience) {
-    const auto mounts = platform::visibleMounts(platform::mounts(sources.mountTable));
+    const auto mounts = platform::visibleMounts(sources.mountTable.mounts());
     std::vector<MountedVolume> volumes;
     volumes.reserve(mounts.size());
     for (const platform::Mount& mount : mounts)

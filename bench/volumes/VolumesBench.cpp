@@ -58,7 +58,7 @@ public:
     platform::SystemSources sources() {
         m_file.flush();
         platform::SystemSources sources;
-        sources.mountTable = m_path;
+        sources.mountTable = platform::MountTable(m_path);
         return sources;
     }
 

@@ -15,5 +15,5 @@ void fuzz::read(Bytes bytes) {
         hasMountOption(mount.options, "ro");
         mountOptionValue(mount.superOptions, "subvol");
     }
-    mountOfPathIn(path, "/");
+    mountOfPathIn(mounts(path), "/");
 }

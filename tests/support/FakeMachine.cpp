@@ -75,7 +75,7 @@ void FakeMachine::setMountTable(const std::string& text) {
 }
 
 OndelCore::platform::SystemSources FakeMachine::sources() const {
-    return {.mountTable = m_folder.path() / "mountinfo",
+    return {.mountTable = OndelCore::platform::MountTable(m_folder.path() / "mountinfo"),
             .sysfs = m_folder.path() / "sys",
             .database =
                 [database = m_database](dev_t number) {

@@ -52,15 +52,23 @@ bool isSuspended(const BlockDevice& wholeDisk);
 /// meanwhile, has no whole disks.
 BlockStack blockStack(dev_t number, const SystemSources& sources = {});
 
-/// The same for all devices of the file system that is mounted from `source`, a path below "/dev" or several
-/// joined by ':' ("/dev/sda1:/dev/sdb1"). `devices`: the folder that has the nodes. Fails: absent if `source`
-/// names no block device.
-std::optional<BlockStack> blockStack(std::string_view source, const std::filesystem::path& devices,
-                                     const SystemSources& sources);
-
 /// What lies under a mounted file system, under all the devices of one that has several (Btrfs, a ZFS pool).
 /// Threads: any. Fails: no whole disks for network and memory file systems.
 BlockStack blockStack(const Mount& mount, const SystemSources& sources = {});
+
+/// What lies under the file system of an open file or folder. Each whole disk has its device number and its
+/// folder in the device tree, whose `stat` counts the disk's transfers. Threads: any; does not ask the file
+/// system. Fails: as above.
+BlockStack blockStackOfDescriptor(int descriptor, const SystemSources& sources = {});
+
+/// What lies under the device at a path below "/dev", and under all devices of a Btrfs that it belongs to.
+/// Several devices of one file system are joined by ':' ("/dev/sda1:/dev/sdb1"). Threads: any. Fails: no
+/// whole disks.
+BlockStack blockStackNamed(std::string_view path, const SystemSources& sources = {});
+
+/// The entries of `sources.superblock` for a device. Fails: none if a disk under it sleeps, which reading
+/// would wake.
+DeviceProperties superblockUnlessAsleep(dev_t number, const SystemSources& sources);
 
 /// The number of the block device that a file system is mounted from, also where the file system has an
 /// anonymous number of its own (Btrfs). Threads: any. Fails: absent for network, memory and pool file

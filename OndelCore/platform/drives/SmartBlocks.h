@@ -1,11 +1,11 @@
 #pragma once
 
+#include "OndelCore/platform/drives/BlockDevices.h"
 #include "OndelCore/platform/drives/SystemSources.h"
 
 #include <array>
 #include <chrono>
 #include <cstdint>
-#include <filesystem>
 #include <map>
 #include <memory>
 #include <optional>
@@ -78,26 +78,26 @@ struct DiskAnswers {
 /// Where the answers come from: the real system, unless a caller hands in something else.
 struct SmartSources {
     SystemSources system;
-    std::filesystem::path devices = "/dev";
     /// Carries the commands to the drives; null: the kernel. Threads: used by one thread for each disk.
-    std::shared_ptr<DriveCalls> calls;
+    std::shared_ptr<DriveCalls> calls{};
     /// Address of the bus of the second reader; empty: the system bus.
-    std::string serviceBus;
+    std::string serviceBus{};
     std::chrono::milliseconds serviceLimit{5000}; ///< for each call to the second reader
     /// For all disks together, which are asked at once. A drive that is busy with a bad sector needs many
     /// seconds for each of its three commands.
     std::chrono::milliseconds patience{60000};
 };
 
-/// What the drives behind a block device say of their health: every whole disk under it is asked, under all
-/// devices of a Btrfs that it belongs to, and a drive that several paths lead to is asked by the first that
-/// works.
+/// What the disks of a stack say of their health. A drive that several paths lead to is asked through the
+/// first that works.
 ///
-/// `deviceName`: the device below "/dev" ("sda1", "mapper/vault", "sda1:/dev/sdb1"). A drive is asked itself
-/// where this process may; otherwise a system service that may is asked for what it knows. Nobody is
-/// prompted, nothing is switched on in a drive, and a drive that sleeps is left asleep. Threads: any; blocks
-/// for at most `patience`. A drive that hangs keeps a thread of its own for as long as it does. Fails: an
-/// empty answer with the reason in `source`.
-DiskAnswers smartOfDevice(const std::string& deviceName, const SmartSources& sources = {});
+/// A drive is asked itself where this process may; otherwise a system service that may is asked for what it
+/// knows. Nobody is prompted, nothing is switched on in a drive, and a sleeping drive is not woken. Threads:
+/// any; blocks for at most `patience`. A drive that hangs keeps a thread of its own for as long as it does.
+/// Fails: an empty answer with the reason in `source`.
+std::vector<DiskAnswer> smartOfDisks(const BlockStack& stack, const SmartSources& sources = {});
+
+/// The same of all disks under a mounted file system. Fails: no disks, with the reason in `obstacle`.
+DiskAnswers smartOfMount(const Mount& mount, const SmartSources& sources = {});
 
 } // namespace OndelCore::platform

@@ -27,7 +27,7 @@ std::optional<std::string> propertyIn(const DeviceProperties& properties, std::s
 DeviceProperties databaseProperties(dev_t device);
 
 /// What the device's own first sectors say: ID_FS_LABEL, ID_FS_TYPE. Reads the device, hence only where this
-/// process may, and not from a disk that the kernel has put to sleep. Threads: any. Fails: no entries.
+/// process may. Threads: any. Fails: no entries.
 DeviceProperties superblockProperties(dev_t device);
 
 /// The same of a file that holds a file system. Threads: any. Fails: no entries, for anything but a regular
@@ -35,9 +35,10 @@ DeviceProperties superblockProperties(dev_t device);
 DeviceProperties imageProperties(const std::filesystem::path& image);
 
 /// Where the answers about volumes and drives come from: the real system, unless a caller hands in something
-/// else.
+/// else. Questions that are given the same sources read the mount table once, so make new ones for each
+/// reading of a volume's facts.
 struct SystemSources {
-    std::filesystem::path mountTable = systemMountTable;
+    MountTable mountTable;
     std::filesystem::path sysfs = "/sys";
     DevicePropertySource database = databaseProperties;
     DevicePropertySource superblock = superblockProperties;

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,6 +35,21 @@ struct Mount {
 /// Threads: any. Fails: an unreadable table is an empty list; a malformed line is left out.
 std::vector<Mount> mounts(const std::filesystem::path& table = systemMountTable);
 
+/// One reading of a mount table. Copies share it, so that all questions that are given one table agree and
+/// the file is read once. Threads: any.
+class MountTable {
+public:
+    /// The file is read at the first call of `mounts`.
+    explicit MountTable(std::filesystem::path file);
+    MountTable()
+        : MountTable(systemMountTable) {}
+    const std::vector<Mount>& mounts() const;
+
+private:
+    struct Reading;
+    std::shared_ptr<Reading> m_reading;
+};
+
 /// How long the questions of this library wait for a volume unless a caller says otherwise: longer than a
 /// sleeping disk or server takes.
 constexpr std::chrono::milliseconds defaultPatience = std::chrono::seconds(30);
@@ -42,13 +58,17 @@ constexpr std::chrono::milliseconds defaultPatience = std::chrono::seconds(30);
 /// view, or does not answer in time (see defaultPatience).
 std::optional<Mount> mountOfPath(const std::filesystem::path& path);
 
-/// The same, looked up in another table.
-std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std::filesystem::path& path,
+/// The same among these mounts.
+std::optional<Mount> mountOfPathIn(const std::vector<Mount>& mounts, const std::filesystem::path& path,
                                    std::chrono::milliseconds patience = defaultPatience);
 
-/// The mount that holds the absolute path `resolved`, by the table's text alone: nothing on the path is
-/// touched, so that a dead server cannot hold up the answer. Fails: absent if no mount point is above it.
-std::optional<Mount> mountAbove(const std::filesystem::path& table, const std::filesystem::path& resolved);
+/// The mount that holds an open file or folder, without asking its file system. Threads: any. Fails: absent
+/// if it is none of these.
+std::optional<Mount> mountOfDescriptor(int descriptor, const std::vector<Mount>& mounts);
+
+/// The mount that holds the absolute path `resolved`, by the mount points alone: nothing on the path is
+/// touched, so that a dead server cannot delay the answer. Fails: absent if no mount point is above it.
+std::optional<Mount> mountAbove(const std::vector<Mount>& mounts, const std::filesystem::path& resolved);
 
 /// Whether `option` ("ro", "noload") is one of a comma-separated list.
 bool hasMountOption(std::string_view options, std::string_view option);

@@ -37,8 +37,4 @@ std::optional<VolumeResources> volumeResources(const std::filesystem::path& path
 /// The same from the mount alone, without touching the volume: sizes stay absent.
 VolumeResources resourcesOfMount(const Mount& mount, const SystemSources& sources = {});
 
-/// The path of the device that the path's file system is mounted from, or whatever stands in its place for a
-/// network or virtual one. Threads: any. Fails: absent.
-std::optional<std::string> mountedFrom(const std::filesystem::path& path, const SystemSources& sources = {});
-
 } // namespace OndelCore::platform

@@ -44,7 +44,7 @@ protected:
         test::FakeDrives drives;
         addDisk(machine, "sda", disk, subsystem, {{"device/vendor", "ATA"}});
         drives.drives["sda"].page = page;
-        return rowsOf(DiskHealth::smart(readSmart("sda", sourcesOf(machine, drives))));
+        return rowsOf(DiskHealth::smart(readSmart(test::mountFrom("sda"), sourcesOf(machine, drives))));
     }
     std::string asUser(const QString& interface, const QVariantMap& properties, const QVariant& attributes) {
         test::FakeMachine machine;
@@ -57,7 +57,7 @@ protected:
         const test::FakeUDisks service(m_bus.address(), std::move(script));
         SmartSources sources = sourcesOf(machine, drives);
         sources.serviceBus = m_bus.address();
-        return rowsOf(DiskHealth::smart(readSmart("sda", sources)));
+        return rowsOf(DiskHealth::smart(readSmart(test::mountFrom("sda"), sources)));
     }
 
 private:
@@ -178,7 +178,7 @@ TEST(DisksOfAVolume, TellTheWorstWhateverTheLayers) {
     drives.drives["sda"].verdict = test::descriptorSense(0x50, 0, 0xf4, 0x2c);
     drives.drives["nvme0n1"];
     const auto healthOf = [&](const char* device) {
-        return DiskHealth::smart(readSmart(device, sourcesOf(machine, drives)));
+        return DiskHealth::smart(readSmart(test::mountFrom(device, "btrfs"), sourcesOf(machine, drives)));
     };
     EXPECT_EQ(healthOf("nvme0n1").status, DiskSMART::Status::verified) << "alone";
     machine.joinBtrfs("0b7c", {"nvme0n1", "sda"});

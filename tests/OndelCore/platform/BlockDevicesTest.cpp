@@ -1,8 +1,11 @@
 #include "OndelCore/platform/drives/BlockDevices.h"
 
+#include "OndelCore/platform/storage/FileDescriptor.h"
 #include "support/FakeMachine.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/sysmacros.h>
 
 #include <fstream>
@@ -98,12 +101,35 @@ TEST_F(BlockStackTest, CountsEveryDeviceOfAFileSystemThatHasSeveral) {
     EXPECT_EQ(disksOf("btrfs", makedev(8, 17), "/dev/sdb1"), "sda sdb ");
     EXPECT_EQ(disksOf("btrfs", makedev(8, 16), "/dev/sdb"), "sdb ");
     EXPECT_EQ(disksOf("btrfs", makedev(8, 0), "/dev/sda"), "sda ");
+    EXPECT_EQ(namesOf(blockStackNamed("/dev/sda1", machine.sources())), "sda sdb ");
+    EXPECT_EQ(namesOf(blockStackNamed("/dev/none", machine.sources())), "");
+
+    const FileDescriptor folder(open(machine.folder().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const auto disksOfFolder = [&] {
+        return namesOf(blockStackOfDescriptor(folder.get(), machine.sources()));
+    };
+    machine.pretendMounted(machine.folder(),
+                           {.type = "btrfs", .device = makedev(0, 40), .source = "/dev/sdb1"});
+    EXPECT_EQ(disksOfFolder(), "sda sdb ");
+    machine.setMountTable("");
+    struct stat facts{};
+    fstat(folder.get(), &facts);
+    machine.addBlockDevice("virtual/block/real", facts.st_dev);
+    EXPECT_EQ(disksOfFolder(), "real ") << "by its device number where its mount is not listed";
 
     machine.setDatabase(makedev(8, 17), {{"ID_FS_TYPE", "zfs_member"}, {"ID_FS_LABEL", "tank"}});
     machine.setDatabase(makedev(8, 1), {{"ID_FS_TYPE", "zfs_member"}, {"ID_FS_LABEL", "other"}});
     EXPECT_EQ(disksOf("zfs", makedev(0, 50), "tank/home/ada"), "sdb ");
     EXPECT_EQ(disksOf("zfs", makedev(0, 51), "gone"), "");
     EXPECT_EQ(disksOf("tmpfs", makedev(0, 52), "tmpfs"), "");
+}
+
+TEST_F(BlockStackTest, LeavesTheSuperblockOfASleepingDiskUnread) {
+    SystemSources sources = machine.sources();
+    sources.superblock = [](dev_t) { return DeviceProperties{{"ID_FS_TYPE", "ntfs"}}; };
+    EXPECT_EQ(superblockUnlessAsleep(makedev(8, 1), sources).size(), 1U);
+    machine.setAttributes(ata1, {{"device/power/runtime_status", "suspended"}});
+    EXPECT_EQ(superblockUnlessAsleep(makedev(8, 1), sources).size(), 0U);
 }
 
 TEST_F(BlockStackTest, EndsOnADamagedTree) {

@@ -135,14 +135,22 @@ inline void addDisk(FakeMachine& machine, const std::string& name, dev_t number,
 /// Sources that know nothing but this machine and these drives; no second reader is reachable.
 inline SmartSources sourcesOf(const FakeMachine& machine, FakeDrives& drives) {
     return {.system = machine.sources(),
-            .devices = machine.folder() / "no-nodes",
             .calls = {std::shared_ptr<void>(), &drives},
             .serviceBus = "unix:path=" + (machine.folder() / "no-bus").string()};
 }
 
+/// A file system on a device below "/dev", as the mount table lists it where the file system has a number of
+/// its own.
+inline Mount mountFrom(const std::string& deviceName, const char* type = "ext4") {
+    Mount mount;
+    mount.type = type;
+    mount.source = "/dev/" + deviceName;
+    return mount;
+}
+
 /// What the one disk under a device answers, or why there is none.
 inline SmartAnswer answerOf(const std::string& deviceName, const SmartSources& sources) {
-    DiskAnswers answers = smartOfDevice(deviceName, sources);
+    DiskAnswers answers = smartOfMount(mountFrom(deviceName), sources);
     EXPECT_LE(answers.disks.size(), 1U);
     return answers.disks.empty() ? SmartAnswer{.blocks = {}, .source = answers.obstacle}
                                  : std::move(answers.disks.front().answer);

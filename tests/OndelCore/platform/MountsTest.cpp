@@ -1,8 +1,10 @@
 #include "OndelCore/platform/volumes/Mounts.h"
 
+#include "OndelCore/platform/storage/FileDescriptor.h"
 #include "OndelCore/platform/volumes/VisibleMounts.h"
 #include "support/TemporaryFolder.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -90,6 +92,30 @@ TEST(MountTable, KeepsBytesAndLeavesMalformedLinesOut) {
     EXPECT_TRUE(mounts(folder.path() / "none").empty());
     std::ofstream(table, std::ios::trunc).close();
     EXPECT_TRUE(mounts(table).empty());
+}
+
+TEST(MountTable, IsReadOnceForAllCopies) {
+    const test::TemporaryFolder folder;
+    const auto file = folder.path() / "mountinfo";
+    const MountTable table(file);
+    const MountTable copy = table;
+    std::ofstream(file) << "20 1 8:1 / / rw - ext4 /dev/sda1 rw\n";
+    EXPECT_EQ(copy.mounts().size(), 1U) << "not read before the first question";
+    std::ofstream(file, std::ios::trunc).close();
+    EXPECT_EQ(table.mounts().size(), 1U);
+    EXPECT_EQ(MountTable(file).mounts().size(), 0U);
+}
+
+TEST(MountOfDescriptor, IsThatOfThePath) {
+    const auto all = mounts();
+    for (const char* path : {"/proc/self/mountinfo", "/dev", "/"}) {
+        const FileDescriptor file(open(path, O_RDONLY | O_CLOEXEC));
+        const auto mount = mountOfDescriptor(file.get(), all);
+        ASSERT_TRUE(mount) << path;
+        EXPECT_EQ(mount, mountOfPathIn(all, path));
+        EXPECT_FALSE(mountOfDescriptor(file.get(), {}));
+    }
+    EXPECT_FALSE(mountOfDescriptor(-1, all));
 }
 
 TEST(MountOptions, AreWholeWords) {

@@ -18,6 +18,7 @@ using test::FakeDrive;
 using test::FakeDrives;
 using test::FakeMachine;
 using test::fixedSense;
+using test::mountFrom;
 using test::sourcesOf;
 
 SmartPage filled(std::uint8_t byte) {
@@ -184,15 +185,15 @@ TEST(SmartBlocks, AsksEveryDiskUnderAllLayers) {
     FakeDrives drives;
     for (const char* name : {"sda", "sdb", "sdc", "nvme0n1"})
         drives.drives[name];
-    const auto all = [&](const char* name) { return told(smartOfDevice(name, sourcesOf(machine, drives))); };
+    const auto all = [&](const char* name, const char* type = "ext4") {
+        return told(smartOfMount(mountFrom(name, type), sourcesOf(machine, drives)));
+    };
 
     const std::string mirror = "sda: ATA S.M.A.R.T. of sda | sdb: ATA S.M.A.R.T. of sdb";
     const std::string btrfs = "nvme0n1: NVMe health log of nvme0n1 | sda: ATA S.M.A.R.T. of sda";
     const std::pair<const char*, std::string> cases[] = {
         {"dm-1", mirror},
         {"mapper/name-of-dm-1", mirror},
-        {"nvme0n1", btrfs},
-        {"sda1", btrfs},
         {"loop0", btrfs},
         {"loop1", "loop1: loop1 has no S.M.A.R.T. interface"},
         {"vda:/dev/sdc", "vda: vda has no S.M.A.R.T. interface | sdc: ATA S.M.A.R.T. of sdc"},
@@ -201,6 +202,8 @@ TEST(SmartBlocks, AsksEveryDiskUnderAllLayers) {
     };
     for (const auto& [device, expected] : cases)
         EXPECT_EQ(all(device), expected) << device;
+    for (const char* member : {"nvme0n1", "sda1"})
+        EXPECT_EQ(all(member, "btrfs"), btrfs) << member;
 
     drives.drives["sda"].power = descriptorSense(0x50, 0x00);
     drives.drives["sdb"].openError = EACCES;
@@ -221,7 +224,7 @@ TEST(SmartBlocks, WaitsForADiskThatHangsNoLongerThanItsPatience) {
     SmartSources sources = sourcesOf(machine, *drives);
     sources.calls = drives; // shared with the thread that hangs
     sources.patience = std::chrono::seconds(1);
-    const std::string answers = told(smartOfDevice("nvme0n1", sources));
+    const std::string answers = told(smartOfMount(mountFrom("nvme0n1", "btrfs"), sources));
     gate->count_down();
     EXPECT_EQ(answers, "nvme0n1: nvme0n1 does not answer | nvme1n1: NVMe health log of nvme1n1");
 }

@@ -118,24 +118,22 @@ std::optional<BlockDevice> mappingNamed(std::string_view name, const fs::path& s
 }
 
 /// The device tree knows the kernel's names, the nodes below "/dev" all others.
-std::optional<BlockDevice> deviceBelow(const fs::path& devices, const std::string& name,
-                                       const fs::path& sysfs) {
+std::optional<BlockDevice> deviceNamed(const std::string& name, const fs::path& sysfs) {
     if (auto device = blockDeviceNamed(name, sysfs))
         return device;
-    if (const auto number = blockNumberOfNode(devices / name))
+    if (const auto number = blockNumberOfNode(fs::path("/dev") / name))
         return blockDevice(*number, sysfs);
     return mappingNamed(name, sysfs);
 }
 
 /// Several devices of one file system stand in the mount table as "/dev/sda1:/dev/sdb1".
-std::vector<BlockDevice> devicesNamed(std::string_view source, const fs::path& devices,
-                                      const fs::path& sysfs) {
+std::vector<BlockDevice> devicesNamed(std::string_view source, const fs::path& sysfs) {
     constexpr std::string_view prefix = "/dev/";
     std::vector<BlockDevice> found;
     while (source.starts_with(prefix)) {
         const auto end = std::min(source.find(":/dev/"), source.size());
         const std::string name(source.substr(0, end).substr(prefix.size()));
-        if (auto device = deviceBelow(devices, name, sysfs))
+        if (auto device = deviceNamed(name, sysfs))
             found.push_back(std::move(*device));
         source.remove_prefix(std::min(end + 1, source.size()));
     }
@@ -147,7 +145,7 @@ std::vector<BlockDevice> devicesOfMount(const Mount& mount, const SystemSources&
         return devicesOfZfsPool(mount.source.substr(0, mount.source.find('/')), sources);
     std::vector<BlockDevice> devices;
     if (major(mount.device) == 0)
-        devices = devicesNamed(mount.source, "/dev", sources.sysfs);
+        devices = devicesNamed(mount.source, sources.sysfs);
     else if (auto device = blockDevice(mount.device, sources.sysfs))
         devices.push_back(std::move(*device));
     if (mount.type == "btrfs" && !devices.empty())
@@ -159,7 +157,7 @@ std::vector<BlockDevice> devicesOfMount(const Mount& mount, const SystemSources&
 std::optional<std::vector<BlockDevice>> layerBelow(const BlockDevice& whole, const SystemSources& sources) {
     std::vector<BlockDevice> devices;
     if (const auto file = readAttribute(whole.folder / "loop" / "backing_file")) {
-        if (const auto mount = mountAbove(sources.mountTable, *file))
+        if (const auto mount = mountAbove(sources.mountTable.mounts(), *file))
             devices = devicesOfMount(*mount, sources);
         return devices.empty() ? std::nullopt : std::optional(devices);
     }
@@ -257,12 +255,24 @@ BlockStack blockStack(const Mount& mount, const SystemSources& sources) {
     return stackUnder(devicesOfMount(mount, sources), sources);
 }
 
-std::optional<BlockStack> blockStack(std::string_view source, const fs::path& devices,
-                                     const SystemSources& sources) {
-    std::vector<BlockDevice> mounted;
-    for (const BlockDevice& device : devicesNamed(source, devices, sources.sysfs))
-        std::ranges::copy(devicesOfBtrfs(device, sources.sysfs), std::back_inserter(mounted));
-    return mounted.empty() ? std::nullopt : std::optional(stackUnder(std::move(mounted), sources));
+BlockStack blockStackOfDescriptor(int descriptor, const SystemSources& sources) {
+    if (const auto mount = mountOfDescriptor(descriptor, sources.mountTable.mounts()))
+        return blockStack(*mount, sources);
+    struct stat facts{}; // a mount outside of this process's view, or a kernel without mount numbers
+    return fstat(descriptor, &facts) == 0 ? blockStack(facts.st_dev, sources) : BlockStack();
+}
+
+DeviceProperties superblockUnlessAsleep(dev_t number, const SystemSources& sources) {
+    return std::ranges::any_of(blockStack(number, sources).wholeDisks, isSuspended)
+               ? DeviceProperties()
+               : sources.superblock(number);
+}
+
+BlockStack blockStackNamed(std::string_view path, const SystemSources& sources) {
+    std::vector<BlockDevice> devices;
+    for (const BlockDevice& device : devicesNamed(path, sources.sysfs))
+        std::ranges::copy(devicesOfBtrfs(device, sources.sysfs), std::back_inserter(devices));
+    return stackUnder(std::move(devices), sources);
 }
 
 std::optional<dev_t> deviceOfMount(const Mount& mount) {

@@ -94,7 +94,7 @@ DeviceProperties databaseProperties(dev_t number) {
 
 DeviceProperties superblockProperties(dev_t number) {
     const auto device = blockDevice(number);
-    if (!device || std::ranges::any_of(blockStack(number).wholeDisks, isSuspended))
+    if (!device)
         return {};
     const std::unique_ptr<blkid_struct_probe, Unref> probe(
         blkid_new_probe_from_filename(device->node().c_str()));

@@ -62,7 +62,7 @@ void keepCommon(std::optional<std::string>& value, const std::optional<std::stri
 
 std::optional<DriveDescription> describeDrive(const std::filesystem::path& volumeRoot,
                                               const SystemSources& sources) {
-    const auto mount = mountOfPathIn(sources.mountTable, volumeRoot, sources.patience);
+    const auto mount = mountOfPathIn(sources.mountTable.mounts(), volumeRoot, sources.patience);
     if (!mount)
         return std::nullopt;
     std::optional<DriveDescription> common;

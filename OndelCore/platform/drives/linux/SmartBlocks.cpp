@@ -112,13 +112,20 @@ DriveReply unreachable(const BlockDevice& disk, int error) {
     }
 }
 
-DiskAnswers smartOfDevice(const std::string& deviceName, const SmartSources& sources) {
-    const auto stack = blockStack("/dev/" + deviceName, sources.devices, sources.system);
-    if (!stack)
-        return {.disks = {}, .obstacle = oneLine(deviceName + " is no block device")};
-    if (stack->wholeDisks.empty())
-        return {.disks = {}, .obstacle = oneLine("no disk is behind " + deviceName)};
-    return {.disks = askAtOnce(drivesOf(*stack), sources), .obstacle = {}};
+std::vector<DiskAnswer> smartOfDisks(const BlockStack& stack, const SmartSources& sources) {
+    return askAtOnce(drivesOf(stack), sources);
+}
+
+DiskAnswers smartOfMount(const Mount& mount, const SmartSources& sources) {
+    const BlockStack stack = blockStack(mount, sources.system);
+    if (!stack.wholeDisks.empty())
+        return {.disks = smartOfDisks(stack, sources), .obstacle = {}};
+    std::string device = sourceOfMount(mount, sources.system.sysfs);
+    if (constexpr std::string_view nodes = "/dev/"; device.starts_with(nodes))
+        device.erase(0, nodes.size());
+    return {.disks = {},
+            .obstacle = oneLine(deviceOfMount(mount) ? "no disk is behind " + device
+                                                     : device + " is no block device")};
 }
 
 } // namespace OndelCore::platform

@@ -52,7 +52,7 @@ std::optional<std::int64_t> linkLimit(const PathFacts& answers, const FileSystem
 
 std::optional<FileSystemAnswers> askFileSystem(const std::filesystem::path& path,
                                                const SystemSources& sources) {
-    const auto table = mounts(sources.mountTable);
+    const auto& table = sources.mountTable.mounts();
     const auto told = pathFacts(path, PathQuestion::abilities, table, {.patience = sources.patience});
     if (!told || !told->hasSizes)
         return std::nullopt;

@@ -10,14 +10,14 @@ namespace {
 std::optional<std::string> typeOnDevice(dev_t device, const SystemSources& sources) {
     if (auto type = propertyIn(sources.database(device), "ID_FS_TYPE"))
         return type;
-    return propertyIn(sources.superblock(device), "ID_FS_TYPE");
+    return propertyIn(superblockUnlessAsleep(device, sources), "ID_FS_TYPE");
 }
 
 } // namespace
 
 std::optional<std::filesystem::path> imageOfMount(const Mount& mount, const SystemSources& sources) {
     if (mount.type != "fuse" || !mount.source.starts_with('/') ||
-        mayHang(mount.source, mounts(sources.mountTable)))
+        mayHang(mount.source, sources.mountTable.mounts()))
         return std::nullopt;
     std::error_code failed;
     return std::filesystem::is_regular_file(mount.source, failed)

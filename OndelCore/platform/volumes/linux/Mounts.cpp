@@ -2,10 +2,13 @@
 
 #include "OndelCore/platform/volumes/PathFacts.h"
 
+#include <fcntl.h>
 #include <libmount/libmount.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <memory>
+#include <mutex>
 
 namespace OndelCore::platform {
 
@@ -64,27 +67,47 @@ std::vector<Mount> mounts(const std::filesystem::path& table) {
     return found;
 }
 
-std::optional<Mount> mountOfPath(const std::filesystem::path& path) {
-    return mountOfPathIn(systemMountTable, path);
+struct MountTable::Reading {
+    std::filesystem::path file;
+    std::once_flag isRead{};
+    std::vector<Mount> mounts{};
+};
+
+MountTable::MountTable(std::filesystem::path file)
+    : m_reading(std::make_shared<Reading>(std::move(file))) {}
+
+const std::vector<Mount>& MountTable::mounts() const {
+    std::call_once(m_reading->isRead, [this] { m_reading->mounts = platform::mounts(m_reading->file); });
+    return m_reading->mounts;
 }
 
-std::optional<Mount> mountOfPathIn(const std::filesystem::path& table, const std::filesystem::path& path,
+std::optional<Mount> mountOfPath(const std::filesystem::path& path) { return mountOfPathIn(mounts(), path); }
+
+std::optional<Mount> mountOfPathIn(const std::vector<Mount>& mounts, const std::filesystem::path& path,
                                    std::chrono::milliseconds patience) {
-    const auto all = mounts(table);
-    const auto facts = pathFacts(path, PathQuestion::place, all, {.patience = patience});
-    return facts ? mountOf(*facts, all) : std::nullopt;
+    const auto facts = pathFacts(path, PathQuestion::place, mounts, {.patience = patience});
+    return facts ? mountOf(*facts, mounts) : std::nullopt;
 }
 
-std::optional<Mount> mountAbove(const std::filesystem::path& table, const std::filesystem::path& resolved) {
-    std::optional<Mount> nearest;
-    for (Mount& mount : mounts(table)) {
+std::optional<Mount> mountOfDescriptor(int descriptor, const std::vector<Mount>& mounts) {
+    struct statx facts{};
+    if (statx(descriptor, "", AT_EMPTY_PATH | AT_STATX_DONT_SYNC, STATX_MNT_ID, &facts) != 0 ||
+        !(facts.stx_mask & STATX_MNT_ID))
+        return std::nullopt;
+    const auto found = std::ranges::find(mounts, facts.stx_mnt_id, &Mount::id);
+    return found == mounts.end() ? std::nullopt : std::optional(*found);
+}
+
+std::optional<Mount> mountAbove(const std::vector<Mount>& mounts, const std::filesystem::path& resolved) {
+    const Mount* nearest = nullptr;
+    for (const Mount& mount : mounts) {
         const auto ends = std::ranges::mismatch(mount.mountPoint, resolved);
         const bool isAbove = ends.in1 == mount.mountPoint.end() && mount.mountPoint.is_absolute();
         const auto length = [](const Mount& one) { return one.mountPoint.native().size(); };
         if (isAbove && (!nearest || length(mount) >= length(*nearest)))
-            nearest = std::move(mount);
+            nearest = &mount;
     }
-    return nearest;
+    return nearest ? std::optional(*nearest) : std::nullopt;
 }
 
 bool hasMountOption(std::string_view options, std::string_view option) {

@@ -49,7 +49,7 @@ std::optional<std::string> labelOnDevice(const Mount& mount, const BlockDevice& 
     if (!label && !properties.contains("ID_FS_TYPE")) {
         label = labelOfMounted(mount);
         if (!label)
-            label = propertyIn(sources.superblock(device.number), "ID_FS_LABEL");
+            label = propertyIn(superblockUnlessAsleep(device.number, sources), "ID_FS_LABEL");
     }
     if (nonEmpty(label))
         return label;
@@ -76,7 +76,7 @@ void addAttachment(VolumeResources& resources, const FileSystemFacts* facts, con
     if (reach == FileSystemReach::memory || reach == FileSystemReach::layered)
         resources.isInternal = true;
     const auto image = imageOfMount(mount, sources);
-    const auto below = image ? mountOfPathIn(sources.mountTable, *image) : std::nullopt;
+    const auto below = image ? mountOfPathIn(sources.mountTable.mounts(), *image) : std::nullopt;
     const BlockStack stack = blockStack(below.value_or(mount), sources);
     if (stack.wholeDisks.empty())
         return;
@@ -110,7 +110,7 @@ VolumeResources resourcesOfMount(const Mount& mount, const SystemSources& source
 
 std::optional<VolumeResources> volumeResources(const std::filesystem::path& path,
                                                const SystemSources& sources) {
-    const auto table = mounts(sources.mountTable);
+    const auto& table = sources.mountTable.mounts();
     const auto facts = pathFacts(path, PathQuestion::sizes, table, {.patience = sources.patience});
     if (!facts || !facts->hasSizes)
         return std::nullopt;
@@ -119,11 +119,6 @@ std::optional<VolumeResources> volumeResources(const std::filesystem::path& path
     resources.total = facts->total;
     resources.available = facts->available;
     return resources;
-}
-
-std::optional<std::string> mountedFrom(const std::filesystem::path& path, const SystemSources& sources) {
-    const auto mount = mountOfPathIn(sources.mountTable, path, sources.patience);
-    return mount ? nonEmpty(sourceOfMount(*mount, sources.sysfs)) : std::nullopt;
 }
 
 } // namespace OndelCore::platform
