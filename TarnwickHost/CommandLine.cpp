@@ -129,20 +129,21 @@ double seconds(std::string_view option, std::string_view text) {
     return *number;
 }
 
-FolderLook look(std::string_view folder) {
-    const auto facts = OndelCore::platform::pathFacts(folder);
+FolderLook look(std::string_view folder, const OndelCore::platform::MountTable& mounts) {
+    using namespace OndelCore::platform;
+    const auto facts = pathFacts(folder, PathQuestion::place, mounts.mounts(), {.patience = defaultPatience});
     if (!facts)
         throw std::runtime_error(quoted(folder) + " does not answer");
     return {.error = facts->error, .isFolder = facts->isFolder};
 }
 
-std::filesystem::path folderIn(const CommandLine& line) {
+std::filesystem::path folderIn(const CommandLine& line, const OndelCore::platform::MountTable& mounts) {
     if (line.operands().empty())
         throw UsageError("a FOLDER is missing");
     if (line.operands().size() > 1)
         throw UsageError("one FOLDER at a time");
     const std::string_view folder = line.operands().front();
-    if (const int error = look(folder).error; error != 0)
+    if (const int error = look(folder, mounts).error; error != 0)
         throw UsageError(quoted(folder) + ": " + std::generic_category().message(error));
     return folder;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/platform/volumes/Mounts.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 
 #include <cstdint>
@@ -80,9 +81,9 @@ struct FolderLook {
 
 /// Waits up to half a minute for a volume that may be waking up; signals end the program meanwhile. Fails:
 /// throws std::runtime_error with a sentence for people if it does not answer.
-FolderLook look(std::string_view folder);
+FolderLook look(std::string_view folder, const OndelCore::platform::MountTable& mounts = {});
 
 /// The one operand of a command, which must exist. Fails: throws UsageError, else as `look`.
-std::filesystem::path folderIn(const CommandLine& line);
+std::filesystem::path folderIn(const CommandLine& line, const OndelCore::platform::MountTable& mounts);
 
 } // namespace TarnwickHost

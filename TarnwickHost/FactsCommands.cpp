@@ -17,6 +17,7 @@
 
 using namespace OndelCore::volumes;
 using OndelCore::health::DiskHealth;
+using OndelCore::platform::SystemSources;
 using TarnwickKit::model::DriveIdentity;
 using TarnwickKit::model::DriveInfo;
 using TarnwickKit::model::harmless;
@@ -35,13 +36,13 @@ struct Facts {
     DiskHealth::Reading health;
 };
 
-Facts factsOf(const std::filesystem::path& folder) {
-    Facts facts{.volume = VolumeInfo::load(Location::local(folder)),
-                .capabilities = VolumeCapabilities::probe(Location::local(folder)),
+Facts factsOf(const std::filesystem::path& folder, const SystemSources& sources) {
+    Facts facts{.volume = VolumeInfo::load(Location::local(folder), sources),
+                .capabilities = VolumeCapabilities::probe(Location::local(folder), sources),
                 .drive = {},
-                .health = DiskHealth::readInDetail(folder)};
+                .health = DiskHealth::readInDetail(folder, sources)};
     if (facts.volume && facts.volume->volumeURL)
-        facts.drive = DriveInfo::identity(*facts.volume->volumeURL);
+        facts.drive = DriveInfo::identity(*facts.volume->volumeURL, sources);
     return facts;
 }
 
@@ -73,7 +74,8 @@ QString text(const Facts& facts) {
 }
 
 int executeFacts(const CommandLine& line) {
-    const Facts facts = factsOf(folderIn(line));
+    const SystemSources sources;
+    const Facts facts = factsOf(folderIn(line, sources.mountTable), sources);
     print(line.has("--json") ? QJsonDocument(json(facts)).toJson(QJsonDocument::Compact).toStdString() + '\n'
                              : text(facts).toStdString());
     return done;
@@ -105,21 +107,23 @@ int executeVolumes(const CommandLine& line) {
     return done;
 }
 
-std::optional<QString> driveName(const std::filesystem::path& folder) {
-    const std::optional<VolumeInfo> volume = VolumeInfo::load(Location::local(folder));
+std::optional<QString> driveName(const std::filesystem::path& folder, const SystemSources& sources) {
+    const std::optional<VolumeInfo> volume = VolumeInfo::load(Location::local(folder), sources);
     if (!volume || !volume->volumeURL)
         return std::nullopt;
-    return DriveInfo::identity(*volume->volumeURL).model;
+    return DriveInfo::identity(*volume->volumeURL, sources).model;
 }
 
 int executeSmartReport(const CommandLine& line) {
-    const std::filesystem::path folder = folderIn(line);
-    const DiskHealth::Reading reading = DiskHealth::readInDetail(folder);
+    const SystemSources sources;
+    const std::filesystem::path folder = folderIn(line, sources.mountTable);
+    const DiskHealth::Reading reading = DiskHealth::readInDetail(folder, sources);
     if (!reading.smart || !reading.smart->isSupported()) {
         complain("no S.M.A.R.T. figures: " + reading.source);
         return failed;
     }
-    const QString text = SMARTReport::text(*reading.smart, driveName(folder), QDateTime::currentDateTime());
+    const QString text =
+        SMARTReport::text(*reading.smart, driveName(folder, sources), QDateTime::currentDateTime());
     QStringList lines = text.split('\n');
     std::ranges::transform(lines, lines.begin(), harmless); // a drive's name may hold anything
     print(lines.join('\n').toStdString());

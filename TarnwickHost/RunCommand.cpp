@@ -35,9 +35,10 @@ namespace {
 class HandOff {
 public:
     /// Blocks on asking for the volume that holds `folder`. Fails: never, what is not told is absent.
-    explicit HandOff(const std::filesystem::path& folder)
-        : m_volume(VolumeInfo::load(Location::local(folder)))
-        , m_capabilities(VolumeCapabilities::probe(Location::local(folder))) {}
+    explicit HandOff(const std::filesystem::path& folder,
+                     const OndelCore::platform::SystemSources& sources = {})
+        : m_volume(VolumeInfo::load(Location::local(folder), sources))
+        , m_capabilities(VolumeCapabilities::probe(Location::local(folder), sources)) {}
 
     /// Writes the run file. Fails: absent.
     std::optional<std::filesystem::path> write(const BenchmarkPlan& plan,
