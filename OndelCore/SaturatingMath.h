@@ -7,8 +7,8 @@
 
 namespace OndelCore {
 
-// Arithmetic on numbers from outside: plans and file systems may hold any. A result beyond 64 bits becomes
-// the nearest number that they hold.
+// Arithmetic on untrusted numbers from plans and file systems. Results beyond 64 bits are clamped to the
+// nearest representable number.
 
 constexpr std::int64_t saturated(bool isNegative) {
     return isNegative ? std::numeric_limits<std::int64_t>::min() : std::numeric_limits<std::int64_t>::max();

@@ -15,7 +15,7 @@ namespace {
 
 using Attribute = DiskSMART::Attribute;
 
-/// One decimal and a point in every locale; printf and streams would follow the process's locale.
+/// One decimal, with a point in every locale; printf and streams depend on the process's locale.
 std::string oneDecimal(double value) {
     std::array<char, 400> text{};
     const auto end =
@@ -34,7 +34,7 @@ std::string hours(std::uint64_t count) {
     return oneDecimal(static_cast<double>(days) / 365.0) + " years";
 }
 
-/// The bits that NVM Express 1.0 defined; later ones have no words here.
+/// The bits defined by NVM Express 1.0; later ones have no text.
 std::string criticalWarning(std::int32_t value) {
     constexpr std::array<std::string_view, 5> words{"Spare below threshold", "Temperature",
                                                     "Reliability degraded", "Read-only", "Backup failed"};
@@ -48,7 +48,7 @@ std::string criticalWarning(std::int32_t value) {
     return text.empty() ? "Unknown" : text;
 }
 
-/// Collects the rows that are known.
+/// Collects the rows of known figures.
 class Rows {
 public:
     void add(bool known, std::string_view label, std::string value, bool warning = false) {
@@ -58,7 +58,7 @@ public:
     void count(bool known, std::string_view label, std::uint64_t value) {
         add(known, label, platform::groupedNumber(value));
     }
-    /// A count of mishaps: any at all is a concern.
+    /// A count of errors: any is a concern.
     void mishaps(bool known, std::string_view label, std::uint64_t value) {
         add(known, label, platform::groupedNumber(value), value != 0);
     }
@@ -111,7 +111,7 @@ void addErrors(const OndelSMART& record, Rows& rows) {
     rows.count(record.has_nvme_counters, "Error log entries", record.error_log_entries);
 }
 
-/// Adds one disk's verdict and rows to those of all.
+/// Adds one disk's verdict and rows to the result.
 void addVerdict(DiskSMART one, const SmartReading& reading, bool isAlone, DiskSMART& all) {
     const bool isFailing = one.status == DiskSMART::Status::failing;
     if (isFailing || all.status == DiskSMART::Status::notSupported)
@@ -125,7 +125,7 @@ void addVerdict(DiskSMART one, const SmartReading& reading, bool isAlone, DiskSM
         all.attributes.push_back({prefix + row.label, std::move(row.value), row.warning});
 }
 
-/// Puts the share of the disks that answered in front of all rows, and tells it in words.
+/// Inserts a first row with the number of disks that answered, and returns its text.
 std::string addCount(std::size_t answered, std::size_t disks, DiskSMART& all) {
     std::string count = std::to_string(answered) + " of " + std::to_string(disks) + " disks answered";
     all.attributes.insert(all.attributes.begin(), {"Disks", count, false});

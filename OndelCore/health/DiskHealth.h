@@ -10,31 +10,31 @@
 
 namespace OndelCore::health {
 
-/// What a user sees of a drive's health: which figures, in which order and units, and what is a concern.
-/// Threads: any; the functions keep no state.
+/// The presentation of a drive's health: which figures are shown, their order and units, and which are a
+/// concern. Threads: any; the functions keep no state.
 class DiskHealth {
 public:
     DiskHealth() = delete;
 
     /// The health of the drives that hold `mountPath`, any path on a mounted volume.
     ///
-    /// Absent: no device is behind the path (a network share, a memory file system, no such path).
-    /// `notSupported`: a device is, and no disk under it says anything. Blocks on the drives for as long as
-    /// `ondel_read_smart` does, so never on the thread of the interface. Fails: never; see above.
+    /// Absent: there is no device under the path (a network share, a memory file system, no such path).
+    /// `notSupported`: there is a device, and no disk under it gave health data. Threads: not the one of the
+    /// interface: it blocks on the drives as `ondel_read_smart` does. Fails: never; see above.
     static std::optional<DiskSMART> read(const std::filesystem::path& mountPath);
 
-    /// `read` with what lies behind its answer.
+    /// The result of `read` with its sources.
     struct Reading {
         std::optional<DiskSMART> smart;
         std::vector<SmartReading> disks;
-        /// One line in plain words: who answered ("NVMe health log of nvme0n1"), or why nobody did.
+        /// One line of text: which reader answered ("NVMe health log of nvme0n1"), or why none did.
         std::string source;
     };
     static Reading readInDetail(const std::filesystem::path& mountPath,
                                 const platform::SystemSources& sources = {});
 
-    /// The worst verdict of all disks, and the rows of all. A single disk's rows are those of its record; of
-    /// several each row names its disk. Disks that gave no answer are counted in a row and in `note`.
+    /// The worst verdict of all disks, and the rows of all. With several disks each row names its disk. Disks
+    /// without an answer are counted in a row and in `note`.
     static DiskSMART smart(const SmartReadings& readings);
 
     /// The rows and the verdict for a record whose `available` is 1. Grouped numbers follow the user's

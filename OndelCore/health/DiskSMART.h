@@ -8,7 +8,7 @@
 
 namespace OndelCore::health {
 
-/// A drive's health as shown to people. All texts are UTF-8 and finished.
+/// A drive's health for display. All texts are final and in UTF-8.
 struct DiskSMART {
     enum class Status { verified, failing, notSupported };
 
@@ -23,10 +23,10 @@ struct DiskSMART {
     };
 
     Status status = Status::notSupported;
-    /// "NVMe" or "ATA", of several disks each once ("NVMe, ATA"); empty when not supported.
+    /// "NVMe" or "ATA", each once for several disks ("NVMe, ATA"); empty if not supported.
     std::string kind;
-    std::vector<Attribute> attributes; ///< in the order to show them
-    /// One line of plain text: why nothing, or not every disk, could be read. Empty: all is there.
+    std::vector<Attribute> attributes; ///< in display order
+    /// One line of text: why no disk, or not every disk, could be read. Empty: all were read.
     std::string note{};
 
     bool isSupported() const { return status != Status::notSupported; }

@@ -6,8 +6,7 @@
 
 namespace OndelCore::health {
 
-/// An unsigned number of `size` bytes as drives write it, the least significant byte first. It may stand at
-/// any address of a wire structure: it has no alignment and is read byte by byte.
+/// An unsigned little-endian number of `size` bytes in a wire structure. It has no alignment.
 template <std::size_t size>
 struct LittleEndian {
     static_assert(size <= sizeof(std::uint64_t));

@@ -5,12 +5,12 @@
 
 namespace OndelCore::health {
 
-/// A drive's health as its reader found it: flat, plain values, whatever the interface was.
+/// A drive's health as read: plain values, independent of the interface.
 ///
-/// A `has_` field is 0 or 1 and says whether the fields behind it, up to the next `has_`, are known. A field
-/// that means nothing for the drive at hand is zero.
+/// A `has_` field is 0 or 1 and says whether the fields up to the next `has_` are valid. Fields that do not
+/// apply to the drive are zero.
 struct OndelSMART {
-    std::int32_t available = 0; ///< 1: the drive was asked and answered; 0: nothing else here is valid
+    std::int32_t available = 0; ///< 1: the drive answered; 0: no other field is valid
     std::int32_t failing = 0;   ///< 1: the drive itself reports a failing condition
     char kind[8] = {};          ///< the interface: "NVMe" or "ATA", NUL-terminated
 
@@ -47,7 +47,7 @@ struct OndelSMART {
     std::uint64_t host_write_commands = 0;
 
     std::int32_t has_busy_minutes = 0;
-    std::uint64_t busy_minutes = 0; ///< time that the controller was busy with commands
+    std::uint64_t busy_minutes = 0; ///< time that the controller spent on commands
 
     std::int32_t has_reallocated = 0;
     std::uint64_t reallocated = 0; ///< ATA attribute 5
@@ -74,14 +74,14 @@ struct OndelSMART {
 };
 static_assert(std::is_standard_layout_v<OndelSMART> && std::is_trivially_copyable_v<OndelSMART>);
 
-/// Asks the drives behind a block device for their health and fills `record`, whatever it held before.
+/// Reads the health of the drives under a block device into `record`. Its previous content is lost.
 ///
-/// `deviceName`: the device without "/dev/", NUL-terminated ("nvme0n1p2", "mapper/vault"); its whole disks
-/// are found from there. Of several the first that reports a failing condition counts, else the first that
-/// answers. `record` belongs to the caller. The result is 0 in every case: `available` tells.
+/// `deviceName`: the device without "/dev/", NUL-terminated ("nvme0n1p2", "mapper/vault"). All whole disks
+/// under it are read. The record is that of the first disk that reports a failing condition, else of the
+/// first that answers. Owner: the caller, of `record`. Always returns 0.
 ///
-/// Only looks: no question to the user, nothing switched on, no sleeping disk woken.
-/// Threads: any, several at once; blocks on the drives, for a minute at most. Fails: `available` stays 0.
+/// Asks the user nothing, enables nothing in a drive and wakes no sleeping disk. Threads: any, several at
+/// once; blocks on the drives, for a minute at most. Fails: `available` is 0.
 extern "C" std::int32_t ondel_read_smart(const char* deviceName, OndelSMART* record);
 
 } // namespace OndelCore::health

@@ -13,7 +13,7 @@ namespace {
 template <std::size_t size>
 using Reserved = std::array<std::uint8_t, size>;
 
-/// A counter of 128 bits, of which the low half is read: 2^64 units are never reached.
+/// A 128-bit counter. The low half suffices: 2^64 units are never reached.
 struct WideCounter {
     LittleEndian<8> low;
     LittleEndian<8> high;
@@ -63,26 +63,26 @@ double terabytes(const WideCounter& dataUnits) {
     return static_cast<double>(dataUnits.low.value()) * bytesPerDataUnit / bytesPerTerabyte;
 }
 
-/// Where an attribute goes and how its 48 raw bits are read. Makers put other figures into the upper bytes:
-/// `usualBits` are taken while their value is one that a drive can have, then the low 32, then `leastBits`.
+/// The field of an attribute and the width of its raw value. Some makers store other figures in the upper
+/// bytes: the first of `usualBits`, 32 and `leastBits` that gives a possible value is used.
 struct Destination {
     std::uint8_t number;
     std::int32_t OndelSMART::* has;
     std::uint64_t OndelSMART::* field;
     unsigned usualBits;
-    unsigned leastBits; ///< 24 for hours and 16 for sectors is what smartmontools shows by default
+    unsigned leastBits; ///< smartmontools shows 24 bits of hours and 16 of sectors by default
     std::uint64_t greatest;
 };
 
-/// A hundred years, of 8760 hours: drives have told their age for less than forty.
+/// A hundred years of 8760 hours: drives have had this counter for less than forty.
 constexpr std::uint64_t mostHours = std::uint64_t{100} * 8760;
-/// Drives keep a few thousand sectors in reserve and fail their own threshold when these run out.
+/// Drives have a few thousand spare sectors, and report a failing condition when these are used up.
 constexpr std::uint64_t mostBadSectors = 1000000;
-/// One every hour for as long as `mostHours`.
+/// One an hour for `mostHours`.
 constexpr std::uint64_t mostCycles = mostHours;
-/// Heads that park every 8 seconds reach this in 25 years.
+/// Reached in 25 years by heads that park every 8 seconds.
 constexpr std::uint64_t mostHeadLoads = 100000000;
-/// A bad cable repeats transfers all day, yet no link lives through this many.
+/// More than a bad cable causes in the life of a drive.
 constexpr std::uint64_t mostLinkErrors = 100000000;
 
 constexpr std::array destinations{
@@ -98,7 +98,7 @@ constexpr std::array destinations{
     Destination{199, &OndelSMART::has_crc_errors, &OndelSMART::crc_errors, 32, 24, mostLinkErrors},
 };
 
-/// Fails: absent if no reading is possible. Bits that are all set are a filling, not a figure.
+/// Fails: absent if no width gives a possible value. All bits set means no value.
 std::optional<std::uint64_t> possibleValue(std::uint64_t raw, const Destination& destination) {
     for (const unsigned bits : {destination.usualBits, 32U, destination.leastBits}) {
         const std::uint64_t mask = (std::uint64_t{1} << bits) - 1;
@@ -109,7 +109,7 @@ std::optional<std::uint64_t> possibleValue(std::uint64_t raw, const Destination&
     return std::nullopt;
 }
 
-/// Attribute 194: degrees Celsius in the lowest byte, the record of extremes above it.
+/// Attribute 194: degrees Celsius in the lowest byte, minimum and maximum above it.
 void keepAtaTemperature(std::uint64_t raw, OndelSMART& record) {
     const auto degrees = static_cast<std::int32_t>(raw & 0xffU);
     if (degrees < 1 || degrees > 119)

@@ -26,7 +26,7 @@ void keepTerabytes(const std::optional<std::uint64_t>& bytes, std::int32_t& has,
     field = static_cast<double>(bytes.value_or(0)) / 1000000000000.0;
 }
 
-/// Fills the record from whichever answer it meets.
+/// Fills the record from each kind of answer.
 struct Filler {
     OndelSMART& record;
 

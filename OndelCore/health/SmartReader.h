@@ -8,15 +8,14 @@
 
 namespace OndelCore::health {
 
-/// A disk's record and, in one line, where it came from or why it is empty.
+/// A disk's record, and one line of text on its source or why it is empty.
 struct SmartReading {
     std::string disk; ///< its name below "/dev"
     OndelSMART record;
     std::string source;
 };
 
-/// All disks under a mounted file system, and in one line where their records came from or why there are
-/// none.
+/// All disks under a mounted file system, and one line of text on their sources or why there are none.
 struct SmartReadings {
     std::vector<SmartReading> disks;
     std::string source;
@@ -26,7 +25,7 @@ struct SmartReadings {
 /// `sources.patience` at most. Fails: no disks, or empty records, with the reasons in `source`.
 SmartReadings readSmart(const platform::Mount& mount, const platform::SmartSources& sources = {});
 
-/// The record for what came back from the drive or spoke for it. Threads: any.
+/// The record of a drive's answer. Threads: any.
 OndelSMART recordOf(const platform::SmartAnswer& answer);
 
 } // namespace OndelCore::health

@@ -12,7 +12,7 @@ namespace OndelCore::logging {
 
 namespace {
 
-/// A Linux program has no bundle that could name it; this is the id it has on the desktop.
+/// The application id on the desktop: Linux programs have no bundle identifier.
 constexpr std::string_view subsystem = "tools.ondel.tarnwick";
 
 platform::UnifiedLogType unifiedTypeOf(LogLevel level) {
@@ -67,7 +67,7 @@ void Log::emit(Level level, LogText message, std::span<const LogField> fields) c
                                .text = line});
     output.store.append(level, m_category.view(), line);
 } catch (const std::exception&) {
-    // No memory for the line: it is dropped, and the caller goes on.
+    // Out of memory: the line is dropped.
 }
 
 } // namespace OndelCore::logging

@@ -20,25 +20,25 @@ namespace OndelCore::logging {
 class LogScrubber;
 class LogStore;
 
-/// Where lines go and what is looked for in them. Owner: whoever makes it; it outlives the Log that uses it.
+/// The destinations of log lines, and their scrubber. Owner: the maker; must outlive the Log that uses it.
 struct LogOutput {
     LogStore& store;
     const LogScrubber& scrubber;
     const platform::UnifiedLog& unified;
 
-    /// The process's own.
+    /// The one of the process.
     static const LogOutput& shared();
 };
 
-/// The one way to log: `Log::app.notice("run imported", LogField::bool_("shown", true));`
-/// The message is a constant; everything variable is a LogField that knows how it may be shown. Each line is
-/// redacted and scrubbed before it reaches the system's log or the store.
-/// Threads: any. Fails: never; nothing throws, and no caller waits for a disk or for the system's log.
+/// The interface for logging: `Log::app.notice("run imported", LogField::bool_("shown", true));` The message
+/// is a constant. Variable parts are LogFields, which know how they may be shown. Each line is redacted and
+/// scrubbed before it reaches the system's log or the store. Threads: any; never blocks on a disk or on the
+/// system's log. Fails: never, and never throws.
 class Log {
 public:
     using Level = LogLevel;
 
-    /// `output`: the process's own when null.
+    /// `output`: null for that of the process.
     explicit constexpr Log(LogText category, const LogOutput* output = nullptr)
         : m_category(category)
         , m_output(output) {}
@@ -53,7 +53,7 @@ public:
     static const Log net;
     static const Log git;
 
-    /// Lines below it are dropped before anything is rendered. Nothing in the application changes it.
+    /// Lines below this level are dropped before rendering. Constant in the application.
     static inline std::atomic<Level> minimumLevel{Level::notice};
 
     template <std::same_as<LogField>... Fields>

@@ -13,7 +13,7 @@ namespace {
 
 template <typename... Format>
 void appendNumber(std::string& line, auto number, Format... format) {
-    std::array<char, 512> digits; // the largest double has 309 digits before its point
+    std::array<char, 512> digits; // the largest double has 309 digits before the point
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, format...).ptr;
     line.append(digits.data(), end);
 }
@@ -37,7 +37,7 @@ void LogField::appendTo(std::string& line) const {
     case Kind::integer:
         appendNumber(line, std::get<std::int64_t>(m_value));
         break;
-    case Kind::milliseconds: // to_chars and not printf, whose decimal point follows the user's locale
+    case Kind::milliseconds: // to_chars: the decimal point of printf depends on the locale
         appendNumber(line, std::get<double>(m_value), std::chars_format::fixed, 1);
         line.append("ms");
         break;

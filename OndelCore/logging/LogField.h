@@ -15,11 +15,10 @@ class QString;
 
 namespace OndelCore::logging {
 
-/// A text that only a program's run knows, on its way into a field. Bytes that are no UTF-8 are taken as they
-/// are and mended when the line is rendered.
+/// A run-time text for a field. Invalid UTF-8 is accepted and repaired when the line is rendered.
 class LogValue {
 public:
-    // NOLINTBEGIN(google-explicit-constructor): every kind of text may stand for a value.
+    // NOLINTBEGIN(google-explicit-constructor): every kind of text converts.
     LogValue(const char* text)
         : m_text(text ? text : "") {}
     LogValue(std::string_view text)
@@ -37,8 +36,8 @@ private:
     std::string m_text;
 };
 
-/// A closed vocabulary says how its values read in a log by a function `logToken` found beside it. A type
-/// with a textual `rawValue` reads as that.
+/// A closed vocabulary has a function `logToken` (found by argument-dependent lookup) with the text of each
+/// value. A type with a textual `rawValue` is logged as that.
 template <typename T>
 concept HasLogToken = requires(const T& value) {
     { logToken(value) } -> std::convertible_to<std::string_view>;
@@ -50,8 +49,8 @@ concept HasTextRawValue = requires(const T& value) {
 template <typename T>
 concept LogToken = HasLogToken<T> || HasTextRawValue<T>;
 
-/// One variable part of a log line. The way it is made says how it may be shown. (`int` and `bool` are words
-/// of the language, hence the underscores.)
+/// A variable part of a log line. The factory function determines how it is shown. (`int` and `bool` are
+/// keywords, hence the underscores.)
 class LogField {
 public:
     /// A plain count: key=123
@@ -62,7 +61,7 @@ public:
     static LogField ms(LogText key, double value) { return {Kind::milliseconds, key, value}; }
     /// key=true or key=false
     static LogField bool_(LogText key, std::same_as<bool> auto value) { return {Kind::boolean, key, value}; }
-    /// A value of a closed vocabulary, safe as it stands: key=value
+    /// A value of a closed vocabulary, shown unchanged: key=value
     static LogField token(LogText key, LogValue value) { return {Kind::token, key, std::move(value).take()}; }
     static LogField token(LogText key, const LogToken auto& value) {
         if constexpr (HasLogToken<std::remove_cvref_t<decltype(value)>>)
@@ -70,13 +69,13 @@ public:
         else
             return token(key, LogValue(std::string_view(rawValue(value))));
     }
-    /// A path or a file's name, never shown whole: key=, then Redact::path of the value
+    /// A path or file name, always redacted: key=, then Redact::path of the value
     static LogField name(LogText key, LogValue value) { return {Kind::name, key, std::move(value).take()}; }
-    /// An identifier to compare but not to read: key=, then Redact::opaque of the value
+    /// An identifier, shown as a token for comparison: key=, then Redact::opaque of the value
     static LogField opaque(LogText key, LogValue value) {
         return {Kind::opaque, key, std::move(value).take()};
     }
-    /// A text the caller knows to be safe: key="value", nothing escaped
+    /// A text that the caller knows to be safe: key="value", without escaping
     static LogField classified(LogText key, LogValue value) {
         return {Kind::classified, key, std::move(value).take()};
     }
@@ -84,7 +83,7 @@ public:
     static LogField failure(const std::exception& error);
     static LogField failure(const std::exception_ptr& error);
 
-    /// Appends the field as it stands in a line.
+    /// Appends the rendered field to a line.
     void appendTo(std::string& line) const;
 
 private:

@@ -30,7 +30,7 @@ bool writeAll(int descriptor, std::string_view bytes) {
     return true;
 }
 
-/// Written beside and renamed, so that nobody ever sees half of it.
+/// Written to another file and renamed, so that it is never seen incomplete.
 void makeLogFile(const fs::path& file, std::string_view lines) {
     makeLogFolder(file.parent_path());
     std::string beside = file.native() + ".XXXXXX";
@@ -65,7 +65,7 @@ bool rotateIfNeeded(const fs::path& file) {
 }
 
 void appendToLogFile(const fs::path& file, std::string_view lines) {
-    // Without O_NONBLOCK a pipe that somebody put in the file's place would hold the writer for ever.
+    // Without O_NONBLOCK, opening a pipe in the file's place would block for ever.
     const FileDescriptor descriptor(open(file.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC | O_NONBLOCK));
     if (!descriptor) {
         makeLogFile(file, lines);
@@ -73,7 +73,7 @@ void appendToLogFile(const fs::path& file, std::string_view lines) {
     }
     const off_t before = lseek(descriptor.get(), 0, SEEK_END);
     if (!writeAll(descriptor.get(), lines) && before >= 0 && ftruncate(descriptor.get(), before) != 0)
-        return; // half a batch stays; there is nothing more to do for it
+        return; // part of the batch stays
 }
 
 } // namespace OndelCore::logging

@@ -6,20 +6,20 @@
 
 namespace OndelCore::logging {
 
-/// A log file larger than this gives way to a new one. Units: bytes.
+/// The size above which a log file is rotated. Units: bytes.
 inline constexpr std::int64_t rotationLimitBytes = 1'000'000;
 
-/// Makes the folder of log files and those above it where there are none, for the owner alone (XDG Base
-/// Directory). Fails: silently.
+/// Makes the folder of log files and missing parents, accessible to the owner alone (XDG Base Directory).
+/// Fails: silently.
 void makeLogFolder(const std::filesystem::path& folder);
 
-/// Renames "ondel.log" to "ondel.1.log" beside it once it is larger than the limit; an older one goes. Where
-/// something stands in the way of that, the file is emptied. Fails: false when the file is too large and
-/// neither can be done: nothing more is to be appended.
+/// Renames "ondel.log" to "ondel.1.log" once it is larger than the limit, replacing an older one. If that is
+/// impossible the file is emptied. Fails: false if the file is too large and neither worked: nothing may be
+/// appended then.
 bool rotateIfNeeded(const std::filesystem::path& file);
 
-/// Appends whole lines, or makes the file with them, readable by its owner alone, and its folder if that has
-/// gone. A disk that fills up in the middle leaves none of the batch. Fails: silently.
+/// Appends whole lines. A missing file, readable by its owner alone, and its folder are made. If the disk
+/// fills up, the whole batch is removed again. Fails: silently.
 void appendToLogFile(const std::filesystem::path& file, std::string_view lines);
 
 } // namespace OndelCore::logging

@@ -49,8 +49,8 @@ struct Rule {
     const char* replacement;
 };
 
-/// RE2 and not a backtracking engine: it takes linear time on every text, where "a…a@" of some kilobytes
-/// would hold a backtracking one up for minutes or make it give up with the private text still in place.
+/// RE2, because it takes linear time on every text. A backtracking engine would need minutes for a few
+/// kilobytes of "a…a@", or give up without replacing the private text.
 std::vector<Rule> makeRules() {
     const std::array<std::tuple<bool (*)(std::string_view), const char*, const char*>, 6> sources{{
         {[](std::string_view text) { return contains(text, "/Users/"); }, R"re(/Users/[^/\s]+(/[^\s"']*)?)re",
@@ -93,7 +93,7 @@ void replaceAll(std::string& text, std::string_view piece, std::string_view repl
 
 LogScrubber::LogScrubber(const platform::UserFacts& user)
     : m_net(user) {
-    constexpr std::size_t tooShortToTell = 2; // "jo" stands in too many words
+    constexpr std::size_t tooShortToTell = 2; // "jo" is part of too many words
     for (const auto& fact : {user.shortName, user.fullName, user.hostName, user.homeFolder}) {
         std::string text = fact.value_or("");
         mendUtf8(text);

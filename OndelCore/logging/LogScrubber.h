@@ -8,21 +8,21 @@
 
 namespace OndelCore::logging {
 
-/// The safety net behind Redact: looks at a finished line and replaces whatever still has the shape of a
-/// path, an address, a person's name or a secret. A clean line costs a few scans over its bytes; any line
-/// costs time in proportion to its length. Threads: any.
+/// The safety net behind Redact: replaces what still looks like a path, an address, a person's name or a
+/// secret in a rendered line. A clean line costs a few scans of its bytes. Time is linear in the length of
+/// the line. Threads: any.
 class LogScrubber {
 public:
     explicit LogScrubber(const platform::UserFacts& user);
 
-    /// For the user of this process, made on first use.
+    /// The scrubber for the user of this process, made on first use.
     static const LogScrubber& shared();
 
-    /// Scrubs the line in place, with the six rules that every system has and then with the net for this one.
-    /// Result: the number of replacements (a literal counts once however often it
-    /// stood there). `line` must be UTF-8: bytes that are none hide what stands beside them.
+    /// Scrubs the line in place: first with the six common rules, then with the rules for this system.
+    /// Returns the number of replacements; a literal counts once for all its occurrences. `line` must be
+    /// valid UTF-8: text beside invalid bytes may be missed.
     int scrub(std::string& line) const;
-    /// The user's names and the six rules alone.
+    /// Only the user's names and the six common rules.
     int scrubByRules(std::string& line) const;
 
 private:

@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view between = "  ";
 
-/// "000" to "999": no number is formatted per line.
+/// "000" to "999": avoids formatting a number for each line.
 constexpr auto milliseconds = [] {
     std::array<std::array<char, 3>, 1000> table{};
     for (std::size_t i = 0; i < table.size(); ++i)
@@ -27,7 +27,7 @@ constexpr auto milliseconds = [] {
     return table;
 }();
 
-/// In the local time zone, in digits that no locale changes.
+/// In local time, independent of the locale.
 std::size_t formatSecond(std::chrono::sys_seconds second, std::array<char, 64>& text) {
     const std::time_t time = std::chrono::system_clock::to_time_t(second);
     std::tm local{};
@@ -41,8 +41,8 @@ LogStore::LogStore(std::size_t lines, LogEnvironment environment)
     : m_environment(std::move(environment))
     , m_ring(lines) {
     if (lines == 0)
-        std::abort(); // a ring without a slot
-    tzset();          // reads the time zone's file, which the first append would do under the lock
+        std::abort(); // a ring needs a slot
+    tzset();          // reads the time zone file, which the first append would otherwise do under the lock
 }
 
 LogStore::~LogStore() = default;
@@ -56,7 +56,7 @@ std::unique_ptr<LogStore> LogStore::makeForTesting(std::size_t lines, LogEnviron
     return std::unique_ptr<LogStore>(new LogStore(lines, std::move(environment)));
 }
 
-/// The stamp without its milliseconds stays the same for a second. The lock is held.
+/// The stamp without milliseconds is cached for a second. The lock must be held.
 std::string_view LogStore::timestamp() {
     const auto now = m_environment.now();
     const auto second = std::chrono::floor<std::chrono::seconds>(now);
@@ -72,8 +72,7 @@ std::string_view LogStore::timestamp() {
 }
 
 void LogStore::append(LogLevel level, std::string_view category, std::string_view body) noexcept try {
-    constexpr std::size_t keptBytes =
-        4096; // a slot keeps its memory for the next line, unless it once held a giant
+    constexpr std::size_t keptBytes = 4096; // a slot reuses its memory unless it grew beyond this
     const std::string_view levelText = textOf(level);
     const std::lock_guard guard(m_lock);
     const std::string_view stamp = timestamp();
@@ -89,7 +88,7 @@ void LogStore::append(LogLevel level, std::string_view category, std::string_vie
     if (m_file)
         m_pending.append(line).push_back('\n');
 } catch (const std::exception&) {
-    // No memory for the line: it is dropped, and the caller goes on.
+    // Out of memory: the line is dropped.
 }
 
 std::string LogStore::snapshot(std::int64_t maxBytes) const {
@@ -130,13 +129,13 @@ void LogStore::startFileLogging(const std::optional<fs::path>& directory) {
         return;
     const auto state = platform::stateHome();
     if (!directory && !state)
-        return; // nowhere to write: the lines stay in memory
+        return; // no folder: the lines stay in memory only
     const fs::path folder = directory ? *directory : *state / "Ondel";
     makeLogFolder(folder);
     try {
         m_writer = std::jthread([this](const std::stop_token& stop) { runWriter(stop); });
     } catch (const std::system_error&) {
-        return; // no thread to be had, and without one the lines would only pile up
+        return; // no thread: pending lines would accumulate
     }
     const std::lock_guard guard(m_lock);
     m_file = folder / "ondel.log";
@@ -149,7 +148,7 @@ void LogStore::flush() {
 
 void LogStore::runWriter(const std::stop_token& stop) {
     platform::enterBackground("tools.ondel.log");
-    platform::keepSignalsOffThisThread(); // a log that outgrows the user's file-size limit ends nobody
+    platform::keepSignalsOffThisThread(); // else exceeding the user's file-size limit would end the process
     std::unique_lock files(m_fileLock);
     auto next = std::chrono::steady_clock::now();
     while (!stop.stop_requested()) {
@@ -160,7 +159,7 @@ void LogStore::runWriter(const std::stop_token& stop) {
     }
 }
 
-/// m_fileLock is held, so that two writers never overlap and lines leave in the order they came.
+/// m_fileLock must be held, so that writers do not overlap and lines keep their order.
 void LogStore::writePending() {
     std::string lines;
     std::optional<fs::path> file;

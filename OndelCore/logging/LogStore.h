@@ -18,18 +18,18 @@
 
 namespace OndelCore::logging {
 
-/// What a test may bend of a store's surroundings.
+/// The surroundings of a store, which tests replace.
 struct LogEnvironment {
     std::function<std::chrono::system_clock::time_point()> now = &std::chrono::system_clock::now;
-    std::chrono::nanoseconds tick = std::chrono::seconds(2); ///< between two looks at what is to be written
+    std::chrono::nanoseconds tick = std::chrono::seconds(2); ///< the interval of the background writer
 };
 
-/// The recent log lines of this process, for a problem report, and their copy in a small rotating file. An
-/// append only touches memory; all file work happens on a background thread. Threads: any. Fails: never
-/// visibly. A file that cannot be written is done without; the lines in memory stay.
+/// The recent log lines of this process, for problem reports, with a copy in a small rotating file. Appending
+/// only uses memory; a background thread does all file work. Threads: any. Fails: silently. If the file
+/// cannot be written, the lines in memory remain.
 class LogStore {
 public:
-    /// Lines kept by the shared store.
+    /// The capacity of the shared store, in lines.
     static constexpr std::size_t capacity = 2000;
 
     /// The process's store. It is never destroyed, so the last destructor may still log.
@@ -39,22 +39,22 @@ public:
     LogStore(const LogStore&) = delete;
     LogStore& operator=(const LogStore&) = delete;
 
-    /// Keeps one line. `body` must have gone through Redact and LogScrubber: what comes in here reaches the
-    /// file and the reports as it stands. Log is the one caller.
+    /// Adds a line. `body` must be redacted and scrubbed: it reaches the file and the reports unchanged. Only
+    /// Log calls this.
     void append(LogLevel level, std::string_view category, std::string_view body) noexcept;
 
-    /// The newest whole lines that fit, oldest first, with a newline between them. Units: bytes; a line takes
-    /// its length and one.
+    /// The newest whole lines that fit, oldest first, separated by newlines. Units: bytes; a line takes its
+    /// length plus one.
     std::string snapshot(std::int64_t maxBytes) const;
 
-    /// Forgets what is in memory, also what still waits for the file. The file is left alone.
+    /// Removes all lines from memory, including those not yet written. The file is unchanged.
     void clear();
 
-    /// From now on lines also go to "ondel.log" in `directory`, which is made if need be; absent: "Ondel" in
-    /// the user's state folder. A second call changes nothing.
+    /// Starts writing lines to "ondel.log" in `directory`, which is made if missing. Absent: "Ondel" in the
+    /// user's state folder. Further calls have no effect.
     void startFileLogging(const std::optional<std::filesystem::path>& directory);
 
-    /// Writes what waits, and returns when that is done.
+    /// Writes pending lines to the file before it returns.
     void flush();
 
 private:
@@ -66,7 +66,7 @@ private:
 
     const LogEnvironment m_environment;
 
-    mutable std::mutex m_lock; ///< guards what follows, held for memory work only
+    mutable std::mutex m_lock; ///< guards the fields below; never held during file work
     std::vector<std::string> m_ring;
     std::size_t m_next = 0;
     bool m_wrapped = false;
@@ -78,7 +78,7 @@ private:
 
     std::mutex m_fileLock; ///< serialises all file work
     std::condition_variable_any m_wake;
-    std::jthread m_writer; ///< last: it ends before anything above goes
+    std::jthread m_writer; ///< last: destroyed before the fields above
 };
 
 } // namespace OndelCore::logging

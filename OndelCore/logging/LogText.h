@@ -4,11 +4,11 @@
 
 namespace OndelCore::logging {
 
-/// A text that was fixed when the program was built: a line's message or a field's key. Only a constant
-/// converts to it; a text made at run time does not compile. So nothing private enters a line by this road.
+/// A compile-time text: a line's message or a field's key. Only constants convert to it, and run-time texts
+/// do not compile. So it cannot contain private text.
 class LogText {
 public:
-    // NOLINTNEXTLINE(google-explicit-constructor): a literal should be all a caller has to write.
+    // NOLINTNEXTLINE(google-explicit-constructor): callers pass literals.
     consteval LogText(const char* literal)
         : m_text(literal) {}
 

@@ -17,23 +17,23 @@ namespace {
 
 using re2::StringPiece;
 
-/// What a rule needs to see somewhere in the line before its expression is tried.
+/// Features that a line must have before a rule's expression is tried.
 enum Sign : std::uint32_t {
     none = 0,
-    slash = 1U << 0U, ///< "/", or what stands for it: "%", "\"
+    slash = 1U << 0U, ///< "/" or an encoding of it: "%", "\"
     at = 1U << 1U,
     colon = 1U << 2U,
     equals = 1U << 3U,
     tilde = 1U << 4U,
-    mark = 1U << 5U, ///< «», that is, something was replaced already
+    mark = 1U << 5U, ///< «», the mark of an earlier replacement
     backslash = 1U << 6U,
     hyphen = 1U << 7U,
     percent = 1U << 8U,
     dollar = 1U << 9U,
     underscore = 1U << 10U,
-    word = 1U << 11U,  ///< one of those behind which something private stands
-    run = 1U << 12U,   ///< twenty letters and digits
-    place = 1U << 13U, ///< a root of people's files, or another beginning of a path
+    word = 1U << 11U,  ///< a keyword before private text
+    run = 1U << 12U,   ///< at least twenty letters and digits
+    place = 1U << 13U, ///< a root of people's files, or another start of a path
 };
 
 constexpr auto signsOfBytes = [] {
@@ -67,13 +67,12 @@ std::uint32_t signsIn(std::string_view line) {
     }
     for (auto open = line.find("«"); open != std::string_view::npos; open = line.find("«", open + 1))
         for (const std::string_view word : {"«path»", "«local»", "«email»", "«ip»", "«secret»"})
-            if (line.substr(open).starts_with(word)) // and no token of Redact
+            if (line.substr(open).starts_with(word)) // no token of Redact
                 return signs | mark;
     return signs;
 }
 
-/// One pass of an automaton instead of one for each rule: the words behind which netRules look, and the
-/// addresses without a sign of their own.
+/// One automaton for all rules: the keywords of netRules, and the addresses without a distinctive character.
 constexpr const char* wordPattern = "cookie|auth|bearer|pass|pwd|secret|token|api.?key|access.?key|private.?"
                                     "key|credential|session.?(?:id|key)|"
                                     "(?:\\b|_)(?:key|sid|otp|psk|sig|signature|pin|r?user|username|login|"
@@ -95,17 +94,17 @@ bool hasPlace(std::string_view line) {
     return RE2::PartialMatch(StringPiece(line.data(), line.size()), places);
 }
 
-/// Where a match stands. Sparing leaves it as it is.
+/// The context of a match. A spared match is not replaced.
 struct Match {
-    std::string_view whole; ///< without what stands around it
-    char before;            ///< the bytes beside it; a blank at the ends of the line
+    std::string_view whole; ///< without its context
+    char before;            ///< the bytes next to it; a blank at the ends of the line
     char after;
-    bool behindEscape; ///< "%3A", "%22": what stands before it is no letter of a name
+    bool behindEscape; ///< "%3A", "%22": the character before it is no letter of a name
 };
 using Spares = bool (*)(const Match&);
 
 struct NetRule {
-    std::uint32_t needs; ///< all of them
+    std::uint32_t needs; ///< all of these features
     std::unique_ptr<const RE2> regex;
     const char* rewrite;
     Spares spares; ///< may be null
@@ -121,7 +120,8 @@ bool insidePath(const Match& match) {
 
 bool noWholeWord(const Match& match) { return isWordByte(match.before) || isWordByte(match.after); }
 
-/// C++ scopes look like short addresses; an address has a digit and is no word's piece. "::1" is everybody's.
+/// C++ scopes look like short addresses. An address has a digit and is not part of a word. "::1" is not
+/// private.
 bool noAddress(const Match& match) {
     return !hasDigit(match.whole) || match.whole == "::1" || isWordByte(match.before) ||
            isWordByte(match.after) || match.before == ':' || match.before == '_' || match.after == '_' ||
@@ -134,7 +134,7 @@ bool noHost(const Match& match) {
     return host.starts_with("tty") || host.starts_with("pts") || match.after == '.';
 }
 
-/// Everybody has these.
+/// Paths that exist on every machine.
 bool ordinaryTemporary(const Match& match) {
     const std::string_view name = match.whole.substr(match.whole.rfind("tmp/") + 4);
     for (const std::string_view prefix :
@@ -151,14 +151,14 @@ bool ordinaryDotFolder(const Match& match) {
     return isWordByte(match.before);
 }
 
-/// A serial number has a digit, and is no device of the kernel's.
+/// A serial number has a digit and is no kernel device name.
 bool noSerial(const Match& match) {
     const auto at = match.whole.find_last_of(" :=#\"'") + 1;
     const std::string_view value = match.whole.substr(at);
     return isWordByte(match.before) || !hasDigit(value) || value.size() < 5 || value.starts_with("tty");
 }
 
-/// "bearer channel ready" is no secret.
+/// "bearer channel ready" has no secret.
 bool plainWord(const Match& match) {
     const std::string_view value = match.whole.substr(match.whole.find_last_of(" \t") + 1);
     const bool hasLetter = std::ranges::any_of(value, [](char c) { return isWordByte(c) && !isDigit(c); });
@@ -183,7 +183,7 @@ bool noHostBeforePath(const Match& match) {
            isWordByte(match.before) || match.before == '/' || match.before == '.';
 }
 
-/// Random text goes from letters to digits and back many times.
+/// Random text alternates often between letters and digits.
 bool noRandomText(const Match& match) {
     int groups = 0;
     bool lower = false;
@@ -211,8 +211,7 @@ struct Source {
     Spares spares = nullptr;
 };
 
-// {/} stands for a separator in any spelling, {…} for the rest of a path, {any} for the roots of people's
-// files.
+// {/}: a separator in any spelling. {…}: the rest of a path. {any}: the roots of people's files.
 const std::pair<std::string_view, std::string_view> abbreviations[] = {
     {"{/}", R"re((?:\\*/|\\+u002f|%(?:25)*2f)+)re"},
     {"{…}", R"re((?:«local»|[^\s"'<>|«»])*)re"},
@@ -222,9 +221,9 @@ const std::pair<std::string_view, std::string_view> abbreviations[] = {
      R"re((?:[\w.-]*[_.-]|pg|access|client|refresh|auth|id)?(?:pass(?:word|wd|phrase|code|wort)?|pwd|secret|token|api[_-]?key|access[_-]?key|private[_-]?key|credentials?|cookie|session[_-]?(?:id|key)|sid|otp|psk|auth|signature|sig|pin)(?:[_.-]\w+)*)re"},
     {"{value}", R"re((?:\\?"[^"]*"|'[^']*'|[^\s"',;&})\]]+))re"}};
 
-// In this order. What one leaves another may need.
+// The order matters: rules build on the results of earlier ones.
 const Source sources[] = {
-    // Addresses of servers and what is on them
+    // Addresses of servers and their paths
     {slash | colon | place, R"re((://)[^\s/@"'<>]*(?:@|«email»)[^\s/"'<>]*)re", R"re(\1«local»)re"},
     {slash | colon | place,
      R"re(\b((?:smb|cifs|nfs4?|sftp|ssh|scp|ftps?|davs?|webdavs?|afp|afc|mtp|gphoto2|fish|rsync|rclone|s3|admin|file|network|obex|google-drive|onedrive)://)/*[^\s"'<>/«][^\s"'<>]*)re",
@@ -233,7 +232,7 @@ const Source sources[] = {
     {colon | equals,
      R"re(\b((?:smb-share|sftp|davs?|ftp|nfs|afp-volume|mtp|gphoto2|google-drive|archive):)(?:[a-z-]+=[^\s"'/,]+,?)+{…})re",
      R"re(\1«path»)re"},
-    // The places of people's files
+    // Paths of people's files
     {slash | colon | place,
      R"re(\b[\w][\w.-]*:/(?:exports?|srv|nfs|volumes?\d*|mnt|data|storage|shares?)\b{…})re", "«local»:«path»",
      noHostBeforePath},
@@ -257,14 +256,14 @@ const Source sources[] = {
      [](const Match& match) { return isWordByte(match.before); }},
     {hyphen, R"re(\b(?:run-media|media|mnt|home|srv)-[^\s"'<>]+(\.(?:mount|automount|device|swap)\b))re",
      R"re(«path»\1)re"},
-    // What goes on behind a blank or an apostrophe
+    // Continuations after a blank or an apostrophe
     {mark, R"re("«path»[^"\n]*")re", R"re("«path»")re"},
     {mark, R"re('«path»[^'\n]*')re", R"re('«path»')re"},
     {mark, R"re(«path»'[\pL\pN][^\s"']*)re", "«path»"},
     {mark | slash,
      R"re(«path»(?:(?: (?-i:[A-Z0-9])[^\s/"',;:()=«»]*){0,3} [^\s/"'=:«»]+/(?:[^\s"'/«»]*/[^\s"'«»]*|[^\s"'/«»]*\.[a-z0-9]{1,11}\b))+)re",
      "«path»"},
-    // Secrets behind their words
+    // Secrets after their keywords
     {word, R"re(\b((?:set-)?cookie\\?["']?\s*[:=]\s*)[^"\n]+)re", R"re(\1«secret»)re"},
     {word, R"re(\b((?:proxy-)?authorization\\?["']?\s*[:=]\s*\\?["']?)(?:[a-z]+\s+)?[^\s"',]+)re",
      R"re(\1«secret»)re"},
@@ -290,7 +289,7 @@ const Source sources[] = {
      [](const Match& match) { return !hasDigit(match.whole); }},
     {word, R"re(\b(?-i:AKIA|ASIA|AIza)[A-Z0-9_-]{12,})re", "«secret»"},
     {run, R"re(\b[A-Za-z0-9]{20,31}\b)re", "«secret»", noRandomText},
-    // Names, hosts and accounts behind their words
+    // Names, hosts and accounts after their keywords
     {word | equals,
      R"re((\b(?:r?user(?:name)?|login|account|owner|author|r?host(?:name)?|server|share|workgroup|domain|realm|label|partlabel|volname|volume|ssid|uuid|partuuid|ptuuid|mail|email|id_fs_label(?:_enc)?|id_fs_uuid(?:_enc)?)=){value})re",
      R"re(\1«local»)re",
@@ -364,12 +363,12 @@ bool isBehindEscape(std::string_view line, std::size_t start) {
            std::isxdigit(static_cast<unsigned char>(line[start - 2])) != 0;
 }
 
-/// Replaces what `spares` does not spare. Result: how often.
+/// Replaces the matches that `spares` does not spare. Returns their number.
 int replaceEach(std::string& line, const RE2& regex, const char* rewrite, Spares spares) {
-    constexpr int mostGroups = 3; // the whole and two in it
+    constexpr int mostGroups = 3; // the whole match and two groups
     std::array<StringPiece, mostGroups> groups;
     std::string replaced;
-    std::size_t from = 0; // what was not copied yet
+    std::size_t from = 0; // start of the text not copied yet
     int count = 0;
     for (std::size_t search = 0;
          search <= line.size() && regex.Match(line, search, line.size(), RE2::UNANCHORED, groups.data(),
@@ -395,7 +394,7 @@ int replaceEach(std::string& line, const RE2& regex, const char* rewrite, Spares
     return count;
 }
 
-/// Words of a name that stand in ordinary text too.
+/// Parts of names that are also ordinary words.
 bool isCommonWord(std::string_view word) {
     static constexpr std::array common{
         "root",    "user",  "admin",  "guest", "test",   "live",   "debian", "ubuntu",    "linux", "system",
@@ -424,8 +423,8 @@ std::vector<std::string> wordsOf(const std::string& text) {
     return words;
 }
 
-/// The short name as it stands when it has two characters, in any case when it has more; the words of the
-/// full name and the host's own from four on. Empty: nothing.
+/// The short name from two characters on, case-sensitive up to three; words of the full name and of the host
+/// name from four characters on. Empty: no names.
 std::string patternOfNames(const platform::UserFacts& user) {
     std::string pattern;
     const auto add = [&](const std::string& name, bool anyCase) {

@@ -11,21 +11,21 @@ class RE2;
 
 namespace OndelCore::logging {
 
-/// The second net, behind the rules of LogScrubber, for what a Linux desktop writes: mount points and other
-/// places of people's files in all their spellings, addresses of servers, secrets behind their words, serial
-/// numbers, short and partial names. Words that the shapes have in common with harmless text are spared.
-/// Works in time proportional to the line. Threads: any.
+/// The rules behind those of LogScrubber, for texts of a Linux desktop: mount points and other paths of
+/// people's files in all spellings, addresses of servers, secrets after their keywords, serial numbers, short
+/// and partial names. Harmless text of the same shape is spared. Time is linear in the length of the line.
+/// Threads: any.
 class PrivacyNet {
 public:
     explicit PrivacyNet(const platform::UserFacts& user);
     ~PrivacyNet();
 
-    /// Replaces in place. Result: the number of replacements. `line` must be UTF-8.
+    /// Replaces in place. Returns the number of replacements. `line` must be UTF-8.
     int scrub(std::string& line) const;
 
 private:
-    std::unique_ptr<const re2::RE2> m_names; ///< null: nothing to look for
-    std::unique_ptr<const re2::RE2> m_words; ///< holds where some rule may have something to do
+    std::unique_ptr<const re2::RE2> m_names; ///< null: no names to search for
+    std::unique_ptr<const re2::RE2> m_words; ///< matches if some rule may match
 };
 
 } // namespace OndelCore::logging

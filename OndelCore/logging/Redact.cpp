@@ -31,7 +31,7 @@ std::string token(std::string_view value) {
     return hash.result().first(3).toHex().toStdString();
 }
 
-/// With its full stop; empty where what follows the last one is no plain short extension.
+/// Including the full stop; empty if the text after the last one is no short, plain extension.
 std::string_view fileExtension(std::string_view name) {
     constexpr std::size_t longest = 12;
     const auto stop = name.rfind('.');
@@ -46,7 +46,7 @@ std::string_view fileExtension(std::string_view name) {
                                                                                    : std::string_view();
 }
 
-/// What makes a name special, as words with commas between; empty for an ordinary one.
+/// The special properties of a name, separated by commas; empty for an ordinary one.
 std::string flags(std::string_view name) {
     constexpr std::size_t overlongBytes = 256;
     const auto holds = [name](std::string_view piece) { return name.find(piece) != std::string_view::npos; };
@@ -92,7 +92,7 @@ std::string fullTypeName(const std::exception& error) {
     return status == 0 ? name.get() : mangled;
 }
 
-/// "filesystem_error": without namespaces, template arguments and ABI tags.
+/// "filesystem_error": removes namespaces, template arguments and ABI tags.
 std::string ownNameOf(std::string_view typeName) {
     typeName = typeName.substr(0, typeName.find_first_of("<["));
     const auto colons = typeName.rfind("::");
@@ -109,7 +109,7 @@ std::string failureText(const std::string& caseName, std::string_view domain, in
 
 const std::string& Redact::salt() {
     static const std::string& salt =
-        *new std::string(platform::newUuid()); // lives for the last destructor's log
+        *new std::string(platform::newUuid()); // never destroyed: the last destructor may log
     return salt;
 }
 

@@ -7,17 +7,17 @@
 
 namespace OndelCore::logging {
 
-/// Renders what is known to be sensitive in a form that still helps to find a fault: a path keeps its depth,
-/// its extension and its lengths, an identifier can be told from another, an error shows its kind. Threads:
-/// any. Fails: never; any bytes are taken.
+/// Renders sensitive values in a form that still helps to diagnose a fault: a path keeps its depth, extension
+/// and lengths, identifiers remain distinguishable, an error shows its kind. Threads: any. Fails: never;
+/// accepts any bytes.
 class Redact {
 public:
     enum class Detail { full, redacted };
 
-    /// How much is shown, for the whole process. Nothing in the application changes it.
+    /// How much is shown, for the whole process. Constant in the application.
     static inline std::atomic<Detail> detail{Detail::redacted};
 
-    /// Makes the tokens of this process useless in any other. Never stored.
+    /// Makes tokens of different processes incomparable. Never stored.
     static const std::string& salt();
 
     /// "/Users/ann/My Files/report.final.pdf" → "/1/2/3/«3f9a01».pdf len=36 name=16"
@@ -26,8 +26,8 @@ public:
     static std::string opaque(std::string_view value);
     /// "BenchmarkError.io OndelCore.BenchmarkError/1", "system_error posix=28 (No space left on device)"
     static std::string failure(const std::exception& error);
-    /// The same of a caught exception; of one that is no std::exception only that. Fails: `error` must hold
-    /// one.
+    /// The same for a caught exception; one that is no std::exception has a fixed text. `error` must not be
+    /// null.
     static std::string failure(const std::exception_ptr& error);
 };
 

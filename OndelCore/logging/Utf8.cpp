@@ -36,18 +36,18 @@ void mendUtf8(std::string& text) {
         text = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toStdString();
 }
 
-// ICU and not Qt, whose finder of 6.4 takes a flag behind an emoji for two characters.
+// ICU, because the boundary finder of Qt 6.4 counts a flag after an emoji as two characters.
 std::size_t characterCount(std::string_view utf8) {
-    if (isAscii(utf8)) // each a character of its own, but for the one pair that belongs together
+    if (isAscii(utf8)) // one character each, except CR LF
         return utf8.size() - pairsOfReturnAndLinefeed(utf8);
     UErrorCode failed = U_ZERO_ERROR;
-    // Made once a thread: it costs far more than a count.
+    // Made once per thread: it costs far more than a count.
     thread_local const std::unique_ptr<UBreakIterator, void (*)(UBreakIterator*)> characters(
         ubrk_open(UBRK_CHARACTER, "", nullptr, 0, &failed), ubrk_close);
     const std::unique_ptr<UText, UText* (*)(UText*)> text(
         utext_openUTF8(nullptr, utf8.data(), static_cast<std::int64_t>(utf8.size()), &failed), utext_close);
     if (!characters || !text)
-        return codePoints(utf8); // a system whose ICU has lost its data
+        return codePoints(utf8); // ICU without its data
     ubrk_setUText(characters.get(), text.get(), &failed);
     std::size_t count = 0;
     while (ubrk_next(characters.get()) != UBRK_DONE)

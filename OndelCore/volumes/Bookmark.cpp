@@ -13,8 +13,8 @@ namespace OndelCore::volumes {
 
 namespace {
 
-// One line that names the form, one with what tells the folder from others (device and inode number in
-// decimal), then the path's bytes up to the end.
+// A line with the format, a line with the folder's device and inode numbers in decimal, then the bytes of the
+// path.
 constexpr std::string_view form = "ondel-bookmark-1\n";
 
 struct FolderIdentity {
@@ -35,7 +35,7 @@ std::optional<FolderIdentity> identityOf(const std::filesystem::path& folder) {
     return FolderIdentity{facts.st_dev, facts.st_ino};
 }
 
-/// Takes a decimal number and the character behind it off the front.
+/// Removes a decimal number and the character after it from the front.
 std::optional<std::uint64_t> takeNumber(std::string_view& text, char behind) {
     std::uint64_t number = 0;
     const auto [end, failed] = std::from_chars(text.data(), text.data() + text.size(), number);

@@ -9,8 +9,8 @@
 
 namespace OndelCore::volumes {
 
-/// The file that a URL names on this machine, byte for byte: file names need not be valid UTF-8.
-/// Fails: absent for any other URL, and for one of another host.
+/// The path of a file URL of this machine, as bytes: file names need not be UTF-8. Fails: absent for other
+/// URLs, including files of another host.
 std::optional<std::filesystem::path> localPath(std::string_view url);
 std::optional<std::filesystem::path> localPath(const QUrl& url);
 

@@ -6,7 +6,7 @@
 
 namespace OndelCore::volumes {
 
-/// Who keeps the place a `Location` names. Only `local` means this machine's file system.
+/// The provider of a `Location`. Only `local` is this machine's file system.
 struct ProviderID {
     std::string text;
 
@@ -14,7 +14,7 @@ struct ProviderID {
     bool operator==(const ProviderID&) const = default;
 };
 
-/// The address of a place: a provider and a path in its terms. The path's bytes need not be valid UTF-8.
+/// The address of a place: a provider and a path there. The path need not be UTF-8.
 struct Location {
     ProviderID provider;
     std::filesystem::path path;

@@ -16,18 +16,17 @@ namespace OndelCore::volumes {
 struct MountedVolume {
     std::filesystem::path url;         ///< the mount point
     QString name;                      ///< never empty
-    QString format;                    ///< for people; empty when it cannot be told
+    QString format;                    ///< for people; empty if unknown
     QString filesystemType;            ///< as VolumeCapabilities::filesystemType
-    std::optional<std::int64_t> total; ///< bytes; absent when the volume does not tell it in time
+    std::optional<std::int64_t> total; ///< bytes; absent without an answer in time
     bool isInternal = false;
     bool isRemovable = false;
 
     bool operator==(const MountedVolume&) const = default;
 };
 
-/// The mounted volumes that a person expects to see, in the system's order. Threads: any. A server that does
-/// not answer holds the list up for no longer than `patience`, and its volume stays in it without a size.
-/// Fails: an empty list.
+/// The mounted volumes that people expect to see, in the order of the mount table. Threads: any; blocks for
+/// up to `patience` on servers. A volume that does not answer is listed without a size. Fails: an empty list.
 std::vector<MountedVolume>
 mountedVolumes(const platform::SystemSources& sources = {},
                std::chrono::milliseconds patience = std::chrono::milliseconds(500));

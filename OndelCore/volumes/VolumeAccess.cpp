@@ -14,7 +14,7 @@
 namespace OndelCore::volumes {
 
 bool VolumeAccess::isWritable(const std::filesystem::path& folder) {
-    if (!platform::pathFacts(folder)) // a thread that asks one that hangs could not be ended
+    if (!platform::pathFacts(folder)) // a thread that enters a hanging volume cannot be ended
         return false;
     const platform::FileDescriptor opened = platform::openFolder(folder);
     return opened && ownerOfNewFiles(opened.get());

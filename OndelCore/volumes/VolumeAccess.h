@@ -11,14 +11,13 @@
 
 namespace OndelCore::volumes {
 
-/// What keeps the way to a folder beyond this run of the program: opaque bytes.
+/// A persistent reference to a folder: opaque bytes.
 using BookmarkData = std::string;
 
-/// For whom a bookmark is made or resolved. This system grants folders to the user and not to single
-/// programs, so that both mean the same here.
+/// The scope of a bookmark. Linux grants access to users and not to programs, so both have the same effect.
 enum class BookmarkOptions { none, withSecurityScope };
 
-/// A bookmark's folder. Stale: nothing is there any more, or another folder than the one that was marked.
+/// A bookmark's folder. Stale: the folder is gone or was replaced by another.
 struct ResolvedBookmark {
     std::filesystem::path url;
     bool isStale = false;
@@ -26,38 +25,38 @@ struct ResolvedBookmark {
     bool operator==(const ResolvedBookmark&) const = default;
 };
 
-/// How the right to use a folder is taken and given back. Here the user's rights hold without either.
+/// Acquires and releases access to a folder. Not needed on Linux.
 struct FolderAccess {
     std::function<bool(const std::filesystem::path&)> start = [](const auto&) { return true; };
     std::function<void(const std::filesystem::path&)> stop = [](const auto&) {};
 };
 
-/// Questions about the right to use a folder.
-/// Threads: any; the functions keep no state.
+/// Questions about access to a folder. Threads: any; the functions keep no state.
 class VolumeAccess {
 public:
     VolumeAccess() = delete;
 
-    /// Whether a file can really be made, written and flushed in `folder`, proved by doing so: permissions
-    /// and mount flags are not asked, only whether the volume answers at all. The probe (".ondel-writeprobe-"
-    /// and a UUID) is removed again. Fails: any failing step means "no".
+    /// Whether a file can be made, written and flushed in `folder`. It is tried with a probe file
+    /// (".ondel-writeprobe-" and a UUID), which is removed again, after checking that the volume answers.
+    /// Permissions and mount flags are not consulted. Fails: false if any step fails.
     static bool isWritable(const std::filesystem::path& folder);
 
-    /// The same of an open folder. Answers who owns the probe, and so whatever this process makes there: on
-    /// file systems that keep no owners, or change them, not this user. Fails: absent means "no".
+    /// The same for an open folder. Returns the owner of the probe, who owns all files that this process
+    /// makes there: another user on file systems that have no owners or map them. Fails: absent if any step
+    /// fails.
     static std::optional<uid_t> ownerOfNewFiles(int folder);
 
     /// Fails: throws std::system_error if there is no such folder.
     static BookmarkData bookmark(const std::filesystem::path& folder,
                                  BookmarkOptions options = BookmarkOptions::none);
 
-    /// Fails: throws std::system_error (std::errc::invalid_argument) for bytes that are no bookmark. A
-    /// folder that is gone is no failure but a stale bookmark.
+    /// Fails: throws std::system_error (std::errc::invalid_argument) if the bytes are no bookmark. A missing
+    /// folder gives a stale bookmark.
     static ResolvedBookmark resolve(const BookmarkData& data,
                                     BookmarkOptions options = BookmarkOptions::none);
 
-    /// Calls `body` between taking and giving back the right to use `folder`, also when the right was not
-    /// given; gives it back if and only if it was. Answers what `body` does. Fails: as `body`.
+    /// Calls `body` with access to `folder`, and also if access was refused. Access is released only if it
+    /// was acquired. Returns the result of `body`. Fails: as `body`.
     template <typename Body>
     static std::invoke_result_t<Body> withAccess(const std::filesystem::path& folder, Body&& body,
                                                  const FolderAccess& access = {}) {

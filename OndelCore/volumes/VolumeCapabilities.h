@@ -15,13 +15,13 @@
 
 namespace OndelCore::volumes {
 
-/// Whether a file system has a feature: yes, no, or not known. Where only one of two is asked for, it reads
-/// as what is assumed of an unknown one.
+/// Whether a file system has a feature: yes, no, or unknown. Converts to bool; an unknown feature converts to
+/// what is assumed.
 class Capability {
 public:
-    /// Not known.
+    /// Unknown.
     constexpr Capability() = default;
-    constexpr Capability(bool isThere) // NOLINT(google-explicit-constructor): set as a flag is
+    constexpr Capability(bool isThere) // NOLINT(google-explicit-constructor): assigned like a flag
         : m_isThere(isThere)
         , m_isKnown(true) {}
     static constexpr Capability assumed(bool isThere) {
@@ -41,15 +41,15 @@ private:
     bool m_isKnown = false;
 };
 
-/// What the file system of a path can do. A feature counts as present only when the file system both claims
-/// it and says that the claim is valid; where nothing is valid it is not known. Threads: any.
+/// The abilities of the file system of a path. A feature is present only if it is claimed and the claim is
+/// valid; without a valid claim it is unknown. Threads: any.
 struct VolumeCapabilities {
     QString filesystemType; ///< "ext4", "nfs", "cifs"
     std::optional<std::int64_t> maxNameLength;
     std::optional<std::int64_t> maxPathLength;
     std::optional<std::int64_t> maxLinkCount;
     Capability isCaseSensitive;
-    Capability isCasePreserving = Capability::assumed(true); ///< the one that is assumed of an unknown one
+    Capability isCasePreserving = Capability::assumed(true); ///< assumed if unknown
     Capability supportsSparseFiles;
     Capability supportsHardLinks;
     Capability supportsSymbolicLinks;
@@ -62,16 +62,16 @@ struct VolumeCapabilities {
     Capability isJournalActive;
     Capability isSealed;
     std::int64_t blockSize = 0;     ///< bytes
-    std::int64_t optimalIOSize = 0; ///< bytes; 0 where nothing can be told
+    std::int64_t optimalIOSize = 0; ///< bytes; 0: unknown
 
     /// Fails: absent for a provider other than the local one, and for a path that cannot be asked.
     static std::optional<VolumeCapabilities> probe(const Location& location,
                                                    const platform::SystemSources& sources = {});
     static std::optional<VolumeCapabilities> probe(const std::filesystem::path& path,
                                                    const platform::SystemSources& sources = {});
-    /// The record out of the file system's answers.
+    /// Makes the record from the file system's answers.
     static VolumeCapabilities from(const platform::FileSystemAnswers& answers);
-    /// Takes what was seen to happen for what was claimed.
+    /// Replaces claims by the results of trials.
     void learn(const platform::TriedAbilities& tried);
 
     bool operator==(const VolumeCapabilities&) const = default;

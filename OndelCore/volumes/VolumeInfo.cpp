@@ -10,7 +10,7 @@ namespace {
 
 QString textOr(const std::optional<std::string>& text, const char* otherwise) {
     const QString given = QString::fromStdString(text.value_or(std::string()));
-    return given.trimmed().isEmpty() ? QString::fromUtf8(otherwise) : given; // a label may be mere blanks
+    return given.trimmed().isEmpty() ? QString::fromUtf8(otherwise) : given; // a label may be blank
 }
 
 /// a - b, at least 0, without overflow for any two numbers.

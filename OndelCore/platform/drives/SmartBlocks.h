@@ -17,21 +17,21 @@ namespace OndelCore::platform {
 
 class DriveCalls;
 
-/// A block of health data exactly as the drive sent it.
+/// A block of health data in the drive's own format.
 using SmartPage = std::array<std::uint8_t, 512>;
 
-/// An NVMe drive answered: its SMART / Health Information log page.
+/// The answer of an NVMe drive: its SMART / Health Information log page.
 struct NvmeSmart {
     SmartPage page{};
 };
 
-/// An ATA drive answered. What it was asked for and did not give is absent.
+/// The answer of an ATA drive. Absent: the command failed.
 struct AtaSmart {
     std::optional<bool> thresholdExceeded; ///< its verdict: SMART RETURN STATUS
     std::optional<SmartPage> page;         ///< its figures: SMART READ DATA
 };
 
-/// A system service spoke for an NVMe drive. Only what it knows is there.
+/// The answer of a system service for an NVMe drive. Absent: unknown to the service.
 struct NvmeSmartReport {
     std::uint8_t criticalWarning = 0; ///< the bits of the health log's first byte
     std::optional<std::int32_t> temperatureCelsius;
@@ -48,53 +48,54 @@ struct NvmeSmartReport {
     std::optional<std::uint64_t> bytesRead;
 };
 
-/// A system service spoke for an ATA drive. The figures stand under their attribute numbers as the drive's
-/// raw values do, makers' packing of other figures included.
+/// The answer of a system service for an ATA drive. The attributes are raw values of the drive, including
+/// other figures that some makers pack into the upper bytes.
 struct AtaSmartReport {
     bool thresholdExceeded = false;
     std::map<std::uint8_t, std::uint64_t> attributes;
 };
 
 struct SmartAnswer {
-    /// std::monostate: nobody gave a verdict.
+    /// std::monostate: no reader has a verdict.
     std::variant<std::monostate, NvmeSmart, AtaSmart, NvmeSmartReport, AtaSmartReport> blocks;
-    /// One line in plain words: who answered, or why nobody did.
+    /// One line of text: which reader answered, or why none did.
     std::string source;
 
     bool isEmpty() const { return std::holds_alternative<std::monostate>(blocks); }
 };
 
-/// What one whole disk answered.
+/// The answer of one whole disk.
 struct DiskAnswer {
     std::string disk; ///< its name below "/dev"
     SmartAnswer answer;
 };
 
 struct DiskAnswers {
-    std::vector<DiskAnswer> disks; ///< in the device tree's order of names
-    std::string obstacle;          ///< without disks: why there are none, in one line
+    std::vector<DiskAnswer> disks; ///< in the order of BlockStack::wholeDisks
+    std::string obstacle;          ///< one line of text: why there are no disks
 };
 
 /// Where the answers come from: the real system, unless a caller hands in something else.
 struct SmartSources {
     SystemSources system;
-    /// Carries the commands to the drives; null: the kernel. Threads: used by one thread for each disk.
+    /// Sends the commands to the drives; null: through the kernel. Threads: called by one thread for each
+    /// disk.
     std::shared_ptr<DriveCalls> calls{};
     /// Address of the bus of the second reader; empty: the system bus.
     std::string serviceBus{};
     std::chrono::milliseconds serviceLimit{5000}; ///< for each call to the second reader
-    /// For all disks together, which are asked at once. A drive that is busy with a bad sector needs many
-    /// seconds for each of its three commands.
+    /// For all disks, which are asked in parallel. A drive that is busy with a bad sector needs many seconds
+    /// for each of three commands.
     std::chrono::milliseconds patience{60000};
 };
 
-/// What the disks of a stack say of their health. A drive that several paths lead to is asked through the
-/// first that works.
+/// Reads the S.M.A.R.T. data of the disks of a stack. Of several paths to a drive the first that works is
+/// used.
 ///
-/// A drive is asked itself where this process may; otherwise a system service that may is asked for what it
-/// knows. Nobody is prompted, nothing is switched on in a drive, and a sleeping drive is not woken. Threads:
-/// any; blocks for at most `patience`. A drive that hangs keeps a thread of its own for as long as it does.
-/// Fails: an empty answer with the reason in `source`.
+/// The drive itself is asked if this process has the permission, otherwise a system service. No password is
+/// asked for, no feature of the drive is enabled, and a sleeping drive is not woken. Threads: any; blocks for
+/// at most `patience`. A drive that hangs occupies a thread until it answers. Fails: an empty answer with the
+/// reason in `source`.
 std::vector<DiskAnswer> smartOfDisks(const BlockStack& stack, const SmartSources& sources = {});
 
 /// The same of all disks under a mounted file system. Fails: no disks, with the reason in `obstacle`.

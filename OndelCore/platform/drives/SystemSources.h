@@ -15,35 +15,34 @@
 
 namespace OndelCore::platform {
 
-/// Facts of one block device under the names that the device database uses ("ID_FS_LABEL", "ID_MODEL", …),
-/// as decoded bytes. What is not known has no entry.
+/// Properties of a block device by their names in the device database ("ID_FS_LABEL", "ID_MODEL", …). Values
+/// are decoded bytes. Unknown properties have no entry.
 using DeviceProperties = std::map<std::string, std::string, std::less<>>;
 using DevicePropertySource = std::function<DeviceProperties(dev_t)>;
 
 /// Fails: absent if there is no entry of this name.
 std::optional<std::string> propertyIn(const DeviceProperties& properties, std::string_view name);
 
-/// What the device database (udev) says of a block device. Threads: any. Fails: no entries.
+/// The properties of a block device in the device database (udev). Threads: any. Fails: no entries.
 DeviceProperties databaseProperties(dev_t device);
 
-/// What the device's own first sectors say: ID_FS_LABEL, ID_FS_TYPE. Reads the device, hence only where this
-/// process may. Threads: any. Fails: no entries.
+/// ID_FS_LABEL and ID_FS_TYPE from the superblock on the device. Requires the permission to read the device.
+/// Threads: any. Fails: no entries.
 DeviceProperties superblockProperties(dev_t device);
 
-/// The same of a file that holds a file system. Threads: any. Fails: no entries, for anything but a regular
-/// file too.
+/// The same from an image file. Threads: any. Fails: no entries, also if it is no regular file.
 DeviceProperties imageProperties(const std::filesystem::path& image);
 
-/// Where the answers about volumes and drives come from: the real system, unless a caller hands in something
-/// else. Questions that are given the same sources read the mount table once, so make new ones for each
-/// reading of a volume's facts.
+/// The sources of facts about volumes and drives: by default the real system; tests replace them. Questions
+/// with the same sources share one reading of the mount table, so make new ones for each reading of a
+/// volume's facts.
 struct SystemSources {
     MountTable mountTable;
     std::filesystem::path sysfs = "/sys";
     DevicePropertySource database = databaseProperties;
     DevicePropertySource superblock = superblockProperties;
     std::function<DeviceProperties(const std::filesystem::path&)> image = imageProperties;
-    /// How long a volume that may never answer is waited for.
+    /// How long to wait for a volume that may never answer.
     std::chrono::milliseconds patience = defaultPatience;
 };
 

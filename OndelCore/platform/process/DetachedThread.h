@@ -6,10 +6,10 @@
 
 namespace OndelCore::platform {
 
-/// Runs `work` on a thread of its own and not a pool's, for what may take long. The end of the process does
-/// not wait for it, as long as the thread can be killed where it stands: it may wait for a child process, a
-/// server or a lock, but must not enter a file system that may hang (see mayHang and askChildren).
-/// Fails: false where the machine has no thread left; `work` is then gone, with the promises that it held.
+/// Runs `work` on a new thread, for tasks that may take long and would block a pool. The process does not
+/// wait for the thread at its end, as long as the kernel can kill it: `work` may wait for a child process, a
+/// server or a lock, but must not enter a file system that may hang (see mayHang and askChildren). Fails:
+/// false if no thread can be started; `work` and the promises in it are destroyed then.
 template <typename Work>
 bool runDetached(Work work) {
     try {

@@ -5,16 +5,16 @@
 
 namespace OndelCore::platform {
 
-/// Whether the message bus at these addresses (D-Bus, "Server Addresses") answers, or there is none. One that
-/// takes connections and then says nothing holds whoever asks it something for half a minute and more.
-/// Threads: any; blocks for `patience` at most with each of three steps.
+/// Whether the message bus at these addresses (D-Bus, "Server Addresses") can be used without blocking: it
+/// answers, or there is none. A bus that accepts connections and does not answer blocks each caller for half
+/// a minute or more. Threads: any; blocks for up to three times `patience`.
 bool busAnswers(const std::string& addresses, std::chrono::milliseconds patience);
 
-/// The same of the session's bus, which the toolkit's start waits for.
+/// The same of the session bus, for which the toolkit waits at its start.
 bool sessionBusAnswers(std::chrono::milliseconds patience);
 
-/// From now on this process, and what it starts, does without the session's message bus. Threads: the main
-/// one, before others exist and before anything has asked for the bus.
+/// Makes this process and its children do without the session bus. Threads: the main one, before others exist
+/// and before the bus is used.
 void doWithoutSessionBus();
 
 } // namespace OndelCore::platform

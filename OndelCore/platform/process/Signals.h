@@ -2,13 +2,12 @@
 
 namespace OndelCore::platform {
 
-/// Leaves the process's signals to its other threads, so that none breaks off a system call here and writing
-/// beyond a file-size limit is an error (EFBIG) and not the end of the process. Faults of the thread itself
-/// still stop it.
+/// Blocks signals in the calling thread, so that none interrupts its system calls, and writing beyond a
+/// file-size limit fails with EFBIG instead of ending the process. Faults of the thread itself still stop it.
 void keepSignalsOffThisThread();
 
-/// From now on writing beyond the user's file-size limit is an error (EFBIG) in every thread, and in what
-/// this process starts, and ends nobody. Threads: the main one, before others exist.
+/// Makes writing beyond the user's file-size limit fail with EFBIG, in every thread and in child processes,
+/// instead of ending the process. Threads: the main one, before others exist.
 void surviveFileSizeLimit();
 
 } // namespace OndelCore::platform

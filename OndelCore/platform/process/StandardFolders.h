@@ -5,16 +5,16 @@
 
 namespace OndelCore::platform {
 
-/// The user's home folder: what the session says, else what the user database says.
-/// Threads: any. Fails: absent when neither names an absolute path.
+/// The user's home folder: that of the environment, else that of the user database. Threads: any. Fails:
+/// absent if neither names an absolute path.
 std::optional<std::filesystem::path> homeFolder();
 
-/// Where programs keep what should outlive a restart but is no document: logs (XDG Base Directory, "state").
-/// It may not exist yet. Threads: any. Fails: absent without a home folder.
+/// The folder for data that survives a restart but is no document, such as logs (XDG Base Directory,
+/// "state"). It may not exist yet. Threads: any. Fails: absent without a home folder.
 std::optional<std::filesystem::path> stateHome();
 
-/// Where programs keep what belongs to the user (XDG Base Directory, "data"). It may not exist yet.
-/// Threads: any. Fails: absent without a home folder.
+/// The folder for the user's data (XDG Base Directory, "data"). It may not exist yet. Threads: any. Fails:
+/// absent without a home folder.
 std::optional<std::filesystem::path> dataHome();
 
 } // namespace OndelCore::platform

@@ -12,18 +12,18 @@ namespace OndelCore::platform {
 
 enum class UnifiedLogType { debug, standard, error, fault };
 
-/// One text for the system-wide log. The views live as long as the call that takes them.
+/// One entry for the system-wide log. The views must be valid for the call only.
 struct UnifiedLogEntry {
-    std::string_view subsystem; ///< which program: "tools.ondel.tarnwick"
-    std::string_view category;  ///< which of its areas: "app"
+    std::string_view subsystem; ///< the program: "tools.ondel.tarnwick"
+    std::string_view category;  ///< an area of the program: "app"
     std::string_view level;     ///< the level's own name: "notice"
     UnifiedLogType type = UnifiedLogType::standard;
-    std::string_view text; ///< public as it stands
+    std::string_view text; ///< shown unchanged
 };
 
-/// The system-wide log that collects the lines of all programs: on Linux the systemd journal, spoken to in
-/// its native datagram protocol. A system without a journal takes nothing. Threads: any. Fails: silently; a
-/// line that the journal has no room for right now is dropped, so that no caller ever waits.
+/// The system-wide log of all programs: on Linux the systemd journal, in its native datagram protocol.
+/// Without a journal, entries are discarded. Threads: any; never blocks. Fails: silently; an entry is dropped
+/// if the journal's queue is full.
 class UnifiedLog {
 public:
     explicit UnifiedLog(const std::filesystem::path& socket = "/run/systemd/journal/socket");
@@ -40,8 +40,8 @@ private:
     sockaddr_un m_address{};
 };
 
-/// Whether what this process writes to standard error ends in the system-wide log, as where a desktop has
-/// started it: nothing private belongs there. Threads: any.
+/// Whether standard error is connected to the system-wide log, as in a process that a desktop started.
+/// Nothing private may be written to it then. Threads: any.
 bool isStandardErrorLogged();
 
 } // namespace OndelCore::platform

@@ -5,7 +5,7 @@
 
 namespace OndelCore::platform {
 
-/// What names the person in front of this machine, and the machine. Absent: the system does not say.
+/// Names of the user and of the machine. Absent: unknown.
 struct UserFacts {
     std::optional<std::string> shortName; ///< the account: "ann"
     std::optional<std::string> fullName;  ///< the person: "Ann Example"
@@ -15,7 +15,7 @@ struct UserFacts {
     bool operator==(const UserFacts&) const = default;
 };
 
-/// Threads: any; may wait for a directory server when the account comes from one.
+/// Threads: any; may wait for a directory server if the account comes from one.
 UserFacts userFacts();
 
 } // namespace OndelCore::platform

@@ -7,8 +7,8 @@
 
 namespace OndelCore::platform {
 
-/// Keeps the data that moves through one descriptor out of the system's file cache, as far as the file
-/// system goes along with it. A refusal is never an error: the transfers then go through the cache.
+/// Keeps transfers through one descriptor out of the system's file cache where the file system supports it. A
+/// refusal is not an error: the transfers then go through the cache.
 ///
 /// Threads: one at a time. Owner: the descriptor stays the caller's and must outlive the object.
 class CacheBypass {
@@ -18,9 +18,9 @@ public:
     /// Asks for the bypass, right after open(2).
     explicit CacheBypass(int descriptor);
 
-    /// Makes one transfer. A file system may take only lengths and offsets that suit its device; where it
-    /// refuses this one for that reason, the transfer alone is made again through the cache.
-    /// `transfer`: a call that answers as read(2) does. Fails: as the call does, errno set.
+    /// Makes one transfer. File systems may require aligned lengths and offsets. A transfer that is refused
+    /// for that reason is repeated through the cache; later ones bypass it again. `transfer`: a call with the
+    /// result of read(2). Fails: as the call does, errno set.
     template <class Transfer>
     ssize_t perform(Transfer transfer) {
         const ssize_t moved = transfer();

@@ -6,8 +6,8 @@
 
 namespace OndelCore::platform {
 
-/// An open file descriptor. Owner: the object closes it; a negative number is "none", as open(2) answers a
-/// failure.
+/// An open file descriptor. Owner: the object closes it; a negative number, the result of a failed open(2),
+/// means none.
 class FileDescriptor {
 public:
     FileDescriptor() = default;
@@ -26,7 +26,7 @@ public:
 
     explicit operator bool() const { return m_descriptor >= 0; }
     int get() const { return m_descriptor; }
-    /// From now on somebody else closes it.
+    /// Gives up ownership: the caller closes it.
     int release() { return std::exchange(m_descriptor, -1); }
 
 private:

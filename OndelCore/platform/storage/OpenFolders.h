@@ -10,13 +10,13 @@
 #include <string>
 #include <vector>
 
-// Folders by descriptor. In a folder that others can write to, a path may lead elsewhere by the time it is
-// used; an open folder and a name in it cannot.
+// Folders by descriptor. Where others can write, a path may lead elsewhere by the time it is used. An open
+// folder and a name in it do not.
 
 namespace OndelCore::platform {
 
-/// Which file it is, whatever its name. It holds while a descriptor of the file is open: some file systems
-/// give a file that nobody holds another number.
+/// Identifies a file independently of its name. Valid while a descriptor of the file is open: some file
+/// systems renumber files that nobody has open.
 struct FileIdentity {
     dev_t device = 0;
     ino_t number = 0;
@@ -29,37 +29,37 @@ std::optional<FileIdentity> identityOf(int descriptor);
 /// Of the entry itself: a symbolic link is not followed. Fails: absent, with errno set.
 std::optional<FileIdentity> identityOf(int folder, const std::string& name);
 
-/// Opens the folder that `path` leads to, to list it if its permissions allow that, else to reach what is in
-/// it. Fails: none, with errno set.
+/// Opens the folder that `path` leads to: for listing if its permissions allow that, else as a base for the
+/// names in it. Fails: none, with errno set.
 FileDescriptor openFolder(const std::filesystem::path& path);
 
-/// Opens the folder `name` in `parent`: no symbolic link and no mount. Permissions by which its owner, this
-/// user, kept itself out are lifted. Fails: none, with errno set.
+/// Opens the folder `name` in `parent`, but no symbolic link and no mount point. If this user owns it and
+/// lacks the permissions, they are added. Fails: none, with errno set.
 FileDescriptor openInnerFolder(int parent, const std::string& name);
 
-/// The entries of an open folder but for "." and "..", in the order of its listing. Fails: what was read by
-/// then.
+/// The entries of an open folder except "." and "..", in the order of its listing. Fails: the entries read
+/// before the error.
 std::vector<std::string> namesIn(int folder);
 
 enum class FolderLock { taken, heldElsewhere, notPossible };
 
-/// Locks an open folder until its descriptor is closed, against whoever asks the same of another descriptor
-/// of it. Does not wait. It holds among the programs of one machine; not every file system can do it.
+/// Locks an open folder until its descriptor is closed. The lock excludes those taken through other
+/// descriptors of the folder, by programs of this machine. Does not wait. Not every file system has such
+/// locks.
 FolderLock lockFolder(int folder);
 
-/// unlinkat(2), or what a test puts in its place.
+/// unlinkat(2), or a test's replacement.
 using Unlink = std::function<int(int folder, const char* name, int flags)>;
 Unlink systemUnlink();
 
-/// Removes everything in an open folder. Symbolic links go, what they point to stays; so does whatever
-/// another file system, mounted inside, holds. What cannot be removed does not keep the rest. Any depth is
-/// removed with a handful of descriptors. A file that comes back under another name, as FUSE file systems let
-/// one that is open, ends it: a pass that leaves as many entries as it found is the last.
-/// Threads: any. Fails: silently.
+/// Removes everything in an open folder. Symbolic links are removed and not followed; file systems mounted
+/// inside are left alone. Entries that cannot be removed are skipped. The number of open descriptors does not
+/// depend on the depth. Some FUSE file systems keep an open file under another name; so the last pass over a
+/// folder is the one that leaves as many entries as it found. Threads: any. Fails: silently.
 void removeContents(int folder, const Unlink& unlink = systemUnlink()) noexcept;
 
-/// Removes an open folder with everything in it. `parent`, `name`: where it was; moved meanwhile, it is
-/// removed from where it is now, and whatever has its name now stays. Threads: any. Fails: silently.
+/// Removes an open folder with everything in it. `parent`, `name`: where it was. If it was moved meanwhile it
+/// is removed from its new place, and a new folder of that name stays. Threads: any. Fails: silently.
 void removeFolder(int folder, int parent, const std::string& name,
                   const Unlink& unlink = systemUnlink()) noexcept;
 

@@ -8,10 +8,10 @@
 
 namespace OndelCore::platform {
 
-/// The whole content of a regular file, for files that come from outside: a pipe or a device, which might
-/// never answer or never end, is refused, also when it takes the file's place at the last moment.
-/// Threads: any; blocks on the file system. Fails: absent, also for a file of more than `most` bytes and for
-/// one that changes its length meanwhile.
+/// The whole content of a regular file from an untrusted source. A pipe or a device, which might block or
+/// never end, is refused, also if it replaces the file at the last moment. Threads: any; blocks on the file
+/// system. Fails: absent, also for a file of more than `most` bytes and for one whose length changes
+/// meanwhile.
 std::optional<std::string> readRegularFile(const std::filesystem::path& path, std::size_t most);
 
 /// The same; `error` says why there is no content: std::errc::not_supported for what is no regular file,

@@ -2,12 +2,12 @@
 
 namespace OndelCore::platform {
 
-/// From now on the calling thread, and whatever threads and processes it starts, can open for writing, make,
-/// rename and remove files below the open `folder` only. Reading, and descriptors that are open already, go
-/// on as before. There is no way back: for threads that end with their task. The system holds the folder for
-/// a tenth of a second or two after their end, also when their process ends. Of a folder that was removed
-/// its file system then says "busy" to who would remount it read-only; to unmount it, nobody has to wait.
-/// Fails: false where the system cannot do it, and nothing is changed.
+/// Restricts the calling thread, and the threads and processes that it starts, to changes below the open
+/// `folder`: elsewhere no file can be opened for writing, made, renamed or removed. Reading and descriptors
+/// that are already open are not restricted. It cannot be undone, so use it on threads that end with their
+/// task. The kernel keeps a reference to the folder for 0.1 to 0.2 s after such a thread ends. If the folder
+/// was removed, remounting its file system read-only fails with "busy" meanwhile; unmounting works. Fails:
+/// false where the system does not support it; nothing is changed then.
 bool confineWritesOfThisThread(int folder);
 
 } // namespace OndelCore::platform

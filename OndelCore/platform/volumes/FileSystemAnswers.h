@@ -12,11 +12,11 @@
 
 namespace OndelCore::platform {
 
-/// What the file system of a path says of itself.
+/// Facts that the file system of a path reports.
 struct FileSystemAnswers {
     std::string type;                    ///< in the fixed vocabulary (see FileSystemFacts.h)
     std::int64_t blockSizeBytes = 0;     ///< the unit of allocation
-    std::int64_t optimalIOSizeBytes = 0; ///< the transfer that suits the medium best; 0: nothing to tell
+    std::int64_t optimalIOSizeBytes = 0; ///< the best transfer size for the medium; 0: unknown
     std::optional<std::int64_t> maxNameLength;
     std::optional<std::int64_t> maxPathLength;
     std::optional<std::int64_t> maxLinkCount;
@@ -30,7 +30,7 @@ struct FileSystemAnswers {
 std::optional<FileSystemAnswers> askFileSystem(const std::filesystem::path& path,
                                                const SystemSources& sources = {});
 
-/// The same out of what a path's system calls answered and the mount that holds it. Threads: any.
+/// The same from the facts of a path and its mount. Threads: any.
 FileSystemAnswers fileSystemAnswers(const PathFacts& told, const std::optional<Mount>& mount,
                                     const SystemSources& sources = {});
 

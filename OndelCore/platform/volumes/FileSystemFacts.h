@@ -29,14 +29,14 @@ enum InterfaceCapability : std::uint32_t {
     interfaceSnapshot = 0x20000,
 };
 
-/// One word of capability bits: a feature is there only when it is claimed and the claim is valid.
+/// A word of capability bits. A feature exists if it is claimed and the claim is valid.
 struct CapabilityWord {
     std::uint32_t claimed = 0;
     std::uint32_t valid = 0;
 
     bool has(std::uint32_t bit) const { return (claimed & valid & bit) != 0; }
     bool knows(std::uint32_t bit) const { return (valid & bit) != 0; }
-    /// Makes what is known of `bit` certain.
+    /// Sets the claim of `bit` and makes it valid.
     void state(std::uint32_t bit, bool present) {
         valid |= bit;
         claimed = present ? claimed | bit : claimed & ~bit;
@@ -53,38 +53,38 @@ struct CapabilityWords {
 /// Where a file system of a type keeps its data.
 enum class FileSystemReach {
     device,  ///< on a block device or a pool of them
-    memory,  ///< in the machine's memory, gone at power-off
+    memory,  ///< in memory, lost at power-off
     layered, ///< on other file systems of this machine
-    network, ///< with another machine, or with the host of this virtual one
+    network, ///< on another machine, or on the host of this virtual machine
 };
 
-/// What is known of every file system of one type.
+/// Facts that hold for all file systems of a type.
 struct FileSystemFacts {
-    std::string_view type; ///< the name in the system's own vocabulary: "ext4", "nfs", "cifs"
+    std::string_view type; ///< the name in the fixed vocabulary: "ext4", "nfs", "cifs"
     std::string_view displayName;
     FileSystemReach reach = FileSystemReach::device;
     CapabilityWords capabilities;
-    std::int64_t maxLinkCount = 0;  ///< names of one file; 0: not known from the type alone
-    std::int64_t maxNameLength = 0; ///< characters; 0: what the system answers holds
+    std::int64_t maxLinkCount = 0;  ///< links to one file; 0: depends on more than the type
+    std::int64_t maxNameLength = 0; ///< characters; 0: the system's answer is right
 };
 
-/// Who reads and writes the file system.
+/// What implements the file system.
 enum class FileSystemDriver { kernel, program };
 
-/// The facts of a type as normalized by `fileSystemTypeName`. Fails: null for a type without a row.
+/// The facts of a type, as named by `fileSystemTypeName`. Fails: null for an unknown type.
 const FileSystemFacts* fileSystemFacts(std::string_view type,
                                        FileSystemDriver driver = FileSystemDriver::kernel);
 
 /// All rows.
 std::span<const FileSystemFacts> allFileSystemFacts();
 
-/// The kernel's type name brought to the fixed vocabulary: "nfs4" is "nfs", "smb3" is "cifs". `source` tells
-/// what old FUSE programs put there instead; `onDevice` is what the device's superblock says, asked for
-/// "fuseblk" only.
+/// Converts the kernel's type name to the fixed vocabulary: "nfs4" is "nfs", "smb3" is "cifs". `source`: the
+/// mount's source, which has the type for old FUSE programs. `onDevice`: the type in the device's superblock,
+/// used for "fuseblk" only.
 std::string fileSystemTypeName(std::string_view kernelType, std::string_view source = {},
                                const std::optional<std::string>& onDevice = {});
 
-/// Whether files of this kernel type live with another machine.
+/// Whether this kernel type is a network file system.
 bool isNetworkFileSystem(std::string_view type);
 
 } // namespace OndelCore::platform

@@ -15,13 +15,13 @@ namespace OndelCore::platform {
 
 inline const std::filesystem::path systemMountTable = "/proc/self/mountinfo";
 
-/// One mounted file system as the system's mount table tells it (proc(5), "mountinfo").
-/// Paths and source are the decoded bytes; they need not be valid UTF-8.
+/// One entry of the mount table (proc(5), "mountinfo"). Paths and source are decoded bytes, not necessarily
+/// UTF-8.
 struct Mount {
-    std::uint64_t id = 0;       ///< unique among the mounts of now; may be used again later
-    std::uint64_t parentId = 0; ///< the mount that `mountPoint` lies in; not always in the table
+    std::uint64_t id = 0;       ///< unique among current mounts; may be reused later
+    std::uint64_t parentId = 0; ///< the mount of the parent folder; may be missing from the table
     dev_t device = 0;           ///< the superblock's device number; anonymous for Btrfs, network, memory
-    std::filesystem::path root; ///< what of the file system is mounted: "/" or a subvolume, a bind source
+    std::filesystem::path root; ///< the mounted part of the file system: "/", a subvolume or a bind source
     std::filesystem::path mountPoint; ///< where it is mounted
     std::string type;                 ///< the kernel's name of the file system: "ext4", "fuse.sshfs"
     std::string source;               ///< the device's path, the server's address, or a word such as "tmpfs"
@@ -31,12 +31,12 @@ struct Mount {
     bool operator==(const Mount&) const = default;
 };
 
-/// All mounts of this process's view, in the table's order (a later one covers an earlier one).
-/// Threads: any. Fails: an unreadable table is an empty list; a malformed line is left out.
+/// All mounts of this process's namespace, in the table's order: later ones cover earlier ones. Threads: any.
+/// Fails: an unreadable table is an empty list; a malformed line is skipped.
 std::vector<Mount> mounts(const std::filesystem::path& table = systemMountTable);
 
-/// One reading of a mount table. Copies share it, so that all questions that are given one table agree and
-/// the file is read once. Threads: any.
+/// One reading of a mount table. Copies share it, so that all questions to one table agree and the file is
+/// read once. Threads: any.
 class MountTable {
 public:
     /// The file is read at the first call of `mounts`.
@@ -50,12 +50,11 @@ private:
     std::shared_ptr<Reading> m_reading;
 };
 
-/// How long the questions of this library wait for a volume unless a caller says otherwise: longer than a
-/// sleeping disk or server takes.
+/// The default time limit of questions to a volume: longer than a sleeping disk or server takes to wake up.
 constexpr std::chrono::milliseconds defaultPatience = std::chrono::seconds(30);
 
-/// The mount that holds `path`. Threads: any. Fails: absent if the path does not resolve to a mount of this
-/// view, or does not answer in time (see defaultPatience).
+/// The mount that holds `path`. Threads: any. Fails: absent if the path cannot be resolved, its mount is not
+/// in this namespace, or it does not answer within defaultPatience.
 std::optional<Mount> mountOfPath(const std::filesystem::path& path);
 
 /// The same among these mounts.

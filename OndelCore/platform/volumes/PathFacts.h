@@ -12,35 +12,34 @@
 
 namespace OndelCore::platform {
 
-/// Whether the file system of a mount may take a request and never answer it: a server, another program or an
-/// automounter stands behind it. Unknown types count as such.
+/// Whether the file system of a mount may accept a request and never answer it, because it depends on a
+/// server, a FUSE program or an automounter. Unknown types are included.
 bool mayHang(const Mount& mount);
 
-/// The same of a path: whether looking it up comes to such a mount, through symbolic links as well. Only what
-/// lies before the first such mount is touched. Threads: any.
+/// Whether the look-up of a path enters such a mount, also through symbolic links. Only the part before the
+/// first such mount is accessed. Threads: any.
 bool mayHang(const std::filesystem::path& path, const std::vector<Mount>& mounts);
 
-/// Whether names that differ only in upper and lower case are one. Found out by looking up an existing name
-/// in swapped case; nothing is made.
+/// How names that differ only in case are treated. Determined by looking up an existing name in swapped case;
+/// nothing is created.
 enum class LetterCase : std::uint8_t {
-    unknown,    ///< no name with letters is there, or the answers make no sense
-    sensitive,  ///< two names
-    preserving, ///< one name, kept as it was written
-    ignored,    ///< one name; whether it is kept as written cannot be seen
+    unknown,    ///< no name has letters, or the answers contradict each other
+    sensitive,  ///< they are two names
+    preserving, ///< they are one name, stored as written
+    ignored,    ///< they are one name; whether it is stored as written is unknown
 };
 
-/// What is asked about a path. Each includes those before it.
+/// Questions about a path. Each includes the previous ones.
 enum class PathQuestion : std::uint8_t { place, sizes, abilities };
 
-/// What the system calls that take a path answer.
-/// Units: bytes.
+/// The answers of system calls on a path. Units: bytes.
 struct PathFacts {
-    int error = 0; ///< errno of the failed look-up; nothing else is told then
+    int error = 0; ///< errno of a failed look-up; no other field is set then
     // place
     bool isFolder = false;
-    bool mayWrite = false;          ///< as far as the permissions say
-    std::uint64_t mountId = 0;      ///< Mount::id; 0: not told
-    std::filesystem::path resolved; ///< without symbolic links; as given where that cannot be told
+    bool mayWrite = false;          ///< according to the permissions
+    std::uint64_t mountId = 0;      ///< Mount::id; 0: unknown
+    std::filesystem::path resolved; ///< without symbolic links; unchanged if that is unknown
     // sizes
     bool hasSizes = false;
     std::int64_t total = 0;
@@ -56,23 +55,21 @@ struct PathFacts {
     std::optional<std::int64_t> folderFlags;       ///< FS_IOC_GETFLAGS
     std::optional<std::uint32_t> xfsGeometryFlags; ///< XFS_IOC_FSGEOMETRY
     LetterCase letterCase = LetterCase::unknown;
-    bool hasCapitals = false; ///< a name with an upper-case letter is there
+    bool hasCapitals = false; ///< there is a name with an upper-case letter
 };
 
-/// Asks where `path` lies on this machine's own file systems, and through a child process where it may hang.
-/// Threads: any. Fails: absent where there was no answer in time; a path that cannot be looked up has an
-/// `error`.
+/// Asks directly on local file systems, and through a child process where the path may hang. Threads: any.
+/// Fails: absent without an answer in time; `error` is set if the look-up fails.
 std::optional<PathFacts> pathFacts(const std::filesystem::path& path, PathQuestion question,
                                    const std::vector<Mount>& mounts, const Waiting& waiting);
 std::optional<PathFacts> pathFacts(const std::filesystem::path& path,
                                    PathQuestion question = PathQuestion::place,
                                    const Waiting& waiting = {.patience = defaultPatience});
 
-/// The capacities of the volumes mounted at these places, all asked at once. Units: bytes. Fails: absent
-/// each.
+/// The capacities of these mounts, asked in parallel. Units: bytes. Fails: each is absent by itself.
 std::vector<std::optional<std::int64_t>> totalSizes(const std::vector<Mount>& mounts, const Waiting& waiting);
 
-/// The mount that facts of a path name. Fails: absent if it is none of these.
+/// The mount of a path's facts. Fails: absent if it is none of these.
 std::optional<Mount> mountOf(const PathFacts& facts, const std::vector<Mount>& mounts);
 
 } // namespace OndelCore::platform

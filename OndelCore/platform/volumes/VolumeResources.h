@@ -10,21 +10,21 @@
 
 namespace OndelCore::platform {
 
-/// The facts of a mounted volume, each one absent when the system does not tell it.
-/// Units: bytes. Texts are decoded bytes that need not be valid UTF-8.
+/// The facts of a mounted volume. Absent: unknown. Units: bytes. Texts are decoded bytes, not necessarily
+/// UTF-8.
 struct VolumeResources {
     std::optional<std::string> name;
     std::optional<std::string> format; ///< for people: "Ext4"
     std::optional<std::string> type;   ///< in the fixed vocabulary: "ext4"
     std::optional<std::int64_t> total;
     std::optional<std::int64_t> available;
-    std::optional<std::int64_t> availableForImportantUsage; ///< what could be freed counts as free
+    std::optional<std::int64_t> availableForImportantUsage; ///< includes what the system could free
     std::optional<bool> isInternal;
     std::optional<bool> isRemovable;
     std::optional<bool> isReadOnly;
     std::optional<bool> isEncrypted;
     std::optional<std::filesystem::path> volumeRoot; ///< the mount point
-    std::optional<std::string> mountedFrom;          ///< the device's path, or what stands in its place
+    std::optional<std::string> mountedFrom;          ///< the device's path, a server's address or a word
 
     bool operator==(const VolumeResources&) const = default;
 };
@@ -34,7 +34,7 @@ struct VolumeResources {
 std::optional<VolumeResources> volumeResources(const std::filesystem::path& path,
                                                const SystemSources& sources = {});
 
-/// The same from the mount alone, without touching the volume: sizes stay absent.
+/// The same from the mount table entry, without sizes. The volume is not asked.
 VolumeResources resourcesOfMount(const Mount& mount, const SystemSources& sources = {});
 
 } // namespace OndelCore::platform

@@ -9,8 +9,8 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// The commands in the 16-byte form of ATA PASS-THROUGH (SAT-2, 12.2.2). Those without data ask for the
-/// registers by CK_COND. The SMART commands carry the signature 4Fh, C2h in LBA mid and high.
+/// Commands as ATA PASS-THROUGH (16) (SAT-2, 12.2.2). Those without data request the registers with CK_COND.
+/// SMART commands have the signature 4Fh, C2h in LBA mid and high.
 constexpr Cdb16 checkPowerMode{0x85, 0x06, 0x20, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xe5, 0};
 constexpr Cdb16 smartReturnStatus{0x85, 0x06, 0x20, 0, 0xda, 0, 0, 0, 0, 0, 0x4f, 0, 0xc2, 0, 0xb0, 0};
 constexpr Cdb16 smartReadData{0x85, 0x08, 0x0e, 0, 0xd0, 0, 0x01, 0, 0, 0, 0x4f, 0, 0xc2, 0, 0xb0, 0};
@@ -18,23 +18,23 @@ constexpr Cdb16 smartReadData{0x85, 0x08, 0x0e, 0, 0xd0, 0, 0x01, 0, 0, 0, 0x4f,
 /// The page of supported vital product data pages (SPC-4, 7.8.13).
 constexpr Cdb6 inquireSupportedPages{0x12, 0x01, 0x00, 0x00, 0xff, 0x00};
 
-/// Whether the standard list of product data pages holds "ATA Information" (SAT-2, 10.3.5): so declares a
-/// translator that ATA commands pass through it. Answered by the translator; a sleeping disk stays asleep.
+/// Whether the list of vital product data pages has "ATA Information" (SAT-2, 10.3.5), with which a
+/// translator declares that it passes ATA commands. The translator itself answers, so a sleeping disk is not
+/// woken.
 bool listsAtaInformation(DriveCalls& calls, const FileDescriptor& drive) {
     constexpr std::uint8_t ataInformation = 0x89;
     constexpr std::size_t head = 4;
     std::array<std::uint8_t, 255> page{};
     const std::size_t received = sendScsi(calls, drive, inquireSupportedPages, page).received;
-    if (received < head || page[1] != 0x00) // a device without such pages may answer with something else
+    if (received < head || page[1] != 0x00) // a device without such pages may return other data
         return false;
     const std::size_t count = std::min<std::size_t>(std::size_t{page[2]} << 8U | page[3], received - head);
     const auto pages = std::span(page).subspan(head, count);
     return std::find(pages.begin(), pages.end(), ataInformation) != pages.end();
 }
 
-/// Whether the system already knows that the disk takes ATA commands, told by the translator's vendor text,
-/// by the page that the kernel keeps, or by the device database, which asked the disk
-/// itself.
+/// Whether the system knows already that the disk takes ATA commands: from the translator's vendor text, the
+/// page that the kernel keeps, or the device database, whose rules asked the disk.
 bool isKnownAsAta(const BlockDevice& disk, const DevicePropertySource& database) {
     if (hasAtaForVendor(disk))
         return true;
@@ -44,18 +44,18 @@ bool isKnownAsAta(const BlockDevice& disk, const DevicePropertySource& database)
     return propertyIn(database(disk.number), "ID_ATA") == "1";
 }
 
-/// Sticks and card readers are not asked for pages that many of them stumble over.
+/// Sticks and card readers are not asked for data pages: some of them fail on it.
 bool mayBeAsked(const BlockDevice& disk) { return readNumber(disk.folder / "removable").value_or(1) == 0; }
 
-/// Standby by the count that CHECK POWER MODE leaves (ACS-3, 7.3.2): spun down, on the way there, or spun
-/// down behind a non-volatile cache. A drive that somebody sent to the deeper SLEEP hears no command at all:
-/// the kernel resets its link before it passes this one on, which takes the drive to standby.
+/// Standby according to the count register after CHECK POWER MODE (ACS-3, 7.3.2): spun down, spinning down,
+/// or spun down with a non-volatile cache. A drive in SLEEP mode accepts no command: the kernel resets its
+/// link first, which takes it to standby.
 bool isAsleep(const AtaRegisters& registers) {
     return !registers.isAborted() &&
            (registers.count == 0x00 || registers.count == 0x01 || registers.count == 0x40);
 }
 
-/// The verdict by the signature that SMART RETURN STATUS leaves (ACS-3, 7.48.7). Absent: none was given.
+/// The verdict from the signature after SMART RETURN STATUS (ACS-3, 7.48.7). Absent: no verdict.
 std::optional<bool> thresholdExceeded(const AtaRegisters& registers) {
     if (registers.isAborted())
         return std::nullopt;

@@ -11,7 +11,7 @@ namespace {
 
 using Bytes = std::span<const std::uint8_t>;
 
-/// Descriptors begin behind the 8-byte head; each tells its own length (SPC-4, 4.5.2).
+/// Descriptors follow the 8-byte header. Each has its length in byte 1 (SPC-4, 4.5.2).
 std::optional<AtaRegisters> fromDescriptors(Bytes sense) {
     constexpr std::size_t head = 8;
     constexpr std::uint8_t ataStatusReturn = 0x09;

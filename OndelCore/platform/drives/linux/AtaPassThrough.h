@@ -10,7 +10,7 @@
 
 namespace OndelCore::platform {
 
-/// What an ATA device leaves in its registers behind a command, as far as anyone here looks at it.
+/// The registers of an ATA device after a command; only those that are used.
 struct AtaRegisters {
     std::uint8_t error = 0;
     std::uint8_t status = 0;
@@ -18,21 +18,21 @@ struct AtaRegisters {
     std::uint8_t lbaMid = 0;
     std::uint8_t lbaHigh = 0;
 
-    /// The device turned the command down.
+    /// The device aborted the command.
     bool isAborted() const { return status & 0x01U; }
 
     bool operator==(const AtaRegisters&) const = default;
 };
 
-/// The registers out of SCSI sense data, in either format: the ATA Status Return descriptor, or the fixed
-/// format's information fields when the additional sense code says that they hold them (SAT-2, 12.2.5).
-/// Fails: absent if the sense data holds none, or is cut short.
+/// Decodes the registers in SCSI sense data of either format: the ATA Status Return descriptor, or the
+/// information fields of the fixed format if the additional sense code declares them (SAT-2, 12.2.5). Fails:
+/// absent if there are none or the data is truncated.
 std::optional<AtaRegisters> ataRegisters(std::span<const std::uint8_t> sense);
 
-/// A SCSI command's end.
+/// The result of a SCSI command.
 struct ScsiAnswer {
     int error = 0;            ///< errno; not 0: the command did not reach the disk
-    bool isGood = false;      ///< finished without a complaint, with all the data that was asked for
+    bool isGood = false;      ///< completed without a check condition, with all requested data
     std::size_t received = 0; ///< bytes
     std::optional<AtaRegisters> registers;
 };

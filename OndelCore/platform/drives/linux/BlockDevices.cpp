@@ -30,7 +30,7 @@ std::optional<dev_t> numberIn(const fs::path& folder) {
     return makedev(majorNumber, minorNumber);
 }
 
-/// The device tree writes '!' where the name below "/dev" has a '/'.
+/// The device tree has '!' in place of '/' in device names.
 std::string exchanged(std::string name, char from, char to) {
     std::replace(name.begin(), name.end(), from, to);
     return name;
@@ -59,7 +59,7 @@ std::vector<fs::path> sortedEntries(const fs::path& folder) {
     return entries;
 }
 
-/// cryptsetup's tools mark their layers as CRYPT-<kind>-…; not every kind encrypts.
+/// cryptsetup marks its layers as CRYPT-<kind>-…; not all kinds encrypt.
 void noteLayer(const fs::path& folder, BlockStack& stack) {
     const auto uuid = readAttribute(folder / "dm" / "uuid");
     if (!uuid || !uuid->starts_with("CRYPT-"))
@@ -70,7 +70,7 @@ void noteLayer(const fs::path& folder, BlockStack& stack) {
         stack.isEncrypted = true;
 }
 
-/// The kernel lists the devices of each Btrfs that is in use.
+/// The kernel lists the devices of each Btrfs in use.
 std::vector<BlockDevice> devicesOfBtrfs(const BlockDevice& mounted, const fs::path& sysfs) {
     for (const fs::path& fileSystem : sortedEntries(sysfs / "fs" / "btrfs")) {
         std::vector<BlockDevice> devices;
@@ -84,7 +84,7 @@ std::vector<BlockDevice> devicesOfBtrfs(const BlockDevice& mounted, const fs::pa
     return {mounted};
 }
 
-/// A pool is found by its name, which each of its devices carries as a label.
+/// The devices of a pool have its name as their label.
 std::vector<BlockDevice> devicesOfZfsPool(const std::string& pool, const SystemSources& sources) {
     std::vector<BlockDevice> devices;
     for (const fs::path& link : sortedEntries(sources.sysfs / "dev" / "block")) {
@@ -106,7 +106,7 @@ std::optional<dev_t> blockNumberOfNode(const fs::path& node) {
     return facts.st_rdev;
 }
 
-/// Device mapper's own names stand below "/dev/mapper", where a sandbox need not have them.
+/// Names of device mapper, by the device tree: a sandbox may lack "/dev/mapper".
 std::optional<BlockDevice> mappingNamed(std::string_view name, const fs::path& sysfs) {
     constexpr std::string_view mappings = "mapper/";
     if (!name.starts_with(mappings))
@@ -117,7 +117,7 @@ std::optional<BlockDevice> mappingNamed(std::string_view name, const fs::path& s
     return std::nullopt;
 }
 
-/// The device tree knows the kernel's names, the nodes below "/dev" all others.
+/// The device tree has the kernel's names, "/dev" the others.
 std::optional<BlockDevice> deviceNamed(const std::string& name, const fs::path& sysfs) {
     if (auto device = blockDeviceNamed(name, sysfs))
         return device;
@@ -153,7 +153,7 @@ std::vector<BlockDevice> devicesOfMount(const Mount& mount, const SystemSources&
     return devices;
 }
 
-/// What a device is made of; absent: of nothing else, it is a whole disk.
+/// The devices directly below a device. Absent: it is a whole disk.
 std::optional<std::vector<BlockDevice>> layerBelow(const BlockDevice& whole, const SystemSources& sources) {
     std::vector<BlockDevice> devices;
     if (const auto file = readAttribute(whole.folder / "loop" / "backing_file")) {
@@ -173,8 +173,8 @@ std::optional<std::vector<BlockDevice>> layerBelow(const BlockDevice& whole, con
     return devices;
 }
 
-/// Depth first, so that the disks come in the order in which the layers name them. Every device is looked at
-/// once, so that the walk ends in a tree with a cycle too.
+/// Depth first, so that the disks keep the order in which the layers name them. Each device is visited once,
+/// so the walk ends also if the tree has a cycle.
 BlockStack stackUnder(std::vector<BlockDevice> waiting, const SystemSources& sources) {
     BlockStack stack;
     std::set<dev_t> seen;
@@ -226,7 +226,7 @@ std::optional<BlockDevice> blockDevice(dev_t number, const fs::path& sysfs) {
     const fs::path link =
         sysfs / "dev" / "block" / (std::to_string(major(number)) + ':' + std::to_string(minor(number)));
     std::error_code failed;
-    // One system call for a number without a device, where resolving the path would take one per folder.
+    // One system call for an unknown number; resolving the path would take one per folder.
     return fs::is_symlink(link, failed) ? deviceAt(link) : std::nullopt;
 }
 
@@ -258,7 +258,7 @@ BlockStack blockStack(const Mount& mount, const SystemSources& sources) {
 BlockStack blockStackOfDescriptor(int descriptor, const SystemSources& sources) {
     if (const auto mount = mountOfDescriptor(descriptor, sources.mountTable.mounts()))
         return blockStack(*mount, sources);
-    struct stat facts{}; // a mount outside of this process's view, or a kernel without mount numbers
+    struct stat facts{}; // a mount outside this namespace, or a kernel without mount ids
     return fstat(descriptor, &facts) == 0 ? blockStack(facts.st_dev, sources) : BlockStack();
 }
 

@@ -31,7 +31,7 @@ int hexDigit(char character) {
     return -1;
 }
 
-/// The database writes a byte that is unsafe in a file name as "\x" and two hexadecimal digits.
+/// The database writes bytes that are unsafe in file names as "\x" and two hexadecimal digits.
 std::string decodeEscapes(std::string_view text) {
     std::string decoded;
     while (!text.empty()) {
@@ -45,7 +45,7 @@ std::string decodeEscapes(std::string_view text) {
 
 void copyTag(blkid_probe probe, const char* tag, const char* name, DeviceProperties& properties) {
     const char* value = nullptr;
-    std::size_t length = 0; // counts the terminator
+    std::size_t length = 0; // includes the terminator
     if (blkid_probe_lookup_value(probe, tag, &value, &length) == 0 && length > 1)
         properties[name] = std::string(value, length - 1);
 }
@@ -83,7 +83,7 @@ DeviceProperties databaseProperties(dev_t number) {
         if (name && value && *value)
             properties[name] = value;
     }
-    // The plain forms have lost characters; the encoded ones beside them have all.
+    // The plain values lack some characters; the encoded ones are complete.
     for (const char* name : {"ID_FS_LABEL", "ID_VENDOR", "ID_MODEL"})
         if (const auto encoded = propertyIn(properties, std::string(name) + "_ENC"))
             properties[name] = decodeEscapes(*encoded);

@@ -14,12 +14,12 @@ namespace OndelCore::platform {
 namespace {
 
 struct PathRule {
-    std::string_view prefix; ///< of a folder above the disk, followed by a digit
+    std::string_view prefix; ///< of a folder in the disk's path, followed by a digit
     std::string_view bus;
     bool isExternal;
 };
 
-// The first row that matches any folder above the disk holds: a SATA disk behind a USB bridge is a USB disk.
+// The first row that matches a folder in the path decides: a SATA disk behind a USB bridge is a USB disk.
 constexpr std::array pathRules = {
     PathRule{"usb", "USB", true},        PathRule{"fw", "FireWire", true},
     PathRule{"session", "iSCSI", true},  PathRule{"rport-", "Fibre Channel", true},
@@ -32,7 +32,7 @@ bool isNumbered(std::string_view name, std::string_view prefix) {
            std::isdigit(static_cast<unsigned char>(name[prefix.size()]));
 }
 
-/// A port that leads out of the case (Thunderbolt, USB4) marks what is plugged into it as removable.
+/// The kernel marks devices on external ports (Thunderbolt, USB4) as removable.
 bool isBehindExternalPort(fs::path folder) {
     for (; folder.has_relative_path(); folder = folder.parent_path())
         if (readAttribute(folder / "removable") == "removable")
@@ -40,8 +40,8 @@ bool isBehindExternalPort(fs::path folder) {
     return false;
 }
 
-/// The controllers of an NVMe namespace: the folder above, or, where several may share the namespace, links
-/// in the folder of the subsystem above.
+/// The controllers of an NVMe namespace: the parent folder, or, if several may share the namespace, the links
+/// in the folder of their subsystem.
 std::vector<fs::path> nvmeControllers(const fs::path& disk) {
     std::vector<fs::path> controllers;
     std::error_code failed;
@@ -96,7 +96,7 @@ DriveBus busOfDisk(const BlockDevice& wholeDisk) {
             continue;
         if (!rule.isExternal && isBehindExternalPort(wholeDisk.folder.parent_path()))
             return {"Thunderbolt", true};
-        // A SAS controller speaks SATA to such a disk.
+        // A SATA disk on a SAS controller.
         if (rule.bus == "SAS" && hasAtaForVendor(wholeDisk))
             return {"SATA", false};
         return {std::string(rule.bus), rule.isExternal};

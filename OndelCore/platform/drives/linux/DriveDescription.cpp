@@ -24,7 +24,7 @@ std::optional<std::string> firstOf(std::optional<std::string> first, std::option
     return first ? std::move(first) : std::move(second);
 }
 
-/// The vendor's name as the disk itself gives it. A PCI or virtio number is none.
+/// The vendor's name from the disk. PCI and virtio numbers are no names.
 std::optional<std::string> vendorAttribute(const BlockDevice& disk) {
     auto vendor = readAttribute(disk.folder / "device/vendor");
     if ((vendor && vendor->starts_with("0x")) || hasAtaForVendor(disk))

@@ -5,26 +5,26 @@
 
 namespace OndelCore::platform {
 
-/// What one reader got out of one disk.
+/// The result of one reader for one disk.
 struct DriveReply {
     SmartAnswer answer;
-    /// This process was not let through to the disk; someone else might be.
+    /// This process lacks the permission; a service may have it.
     bool isRefused = false;
 };
 
-/// Asks an NVMe drive for its health log. Threads: any; blocks. Fails: an empty answer.
+/// Reads the health log of an NVMe drive. Threads: any; blocks. Fails: an empty answer.
 DriveReply readNvmeDrive(const BlockDevice& disk, DriveCalls& calls);
 
-/// Asks a disk of the SCSI layer that declares to carry ATA commands (SATA ports, SAS controllers, USB
-/// bridges with SCSI/ATA translation). A disk that sleeps, or does not say whether it does, is left alone,
-/// and so is one that gives no verdict. Threads: any; blocks. Fails: an empty answer.
+/// Reads an ATA disk in the SCSI layer (SATA ports, SAS controllers, USB bridges with SCSI/ATA translation)
+/// that declares to take ATA commands. Stops if the disk sleeps, if its power mode is unknown, or if it has
+/// no verdict. Threads: any; blocks. Fails: an empty answer.
 DriveReply readAtaDrive(const BlockDevice& disk, DriveCalls& calls, const DevicePropertySource& database);
 
-/// Asks UDisks2 for what it knows of a disk. Needs no event loop. Threads: any; blocks.
-/// Fails: an empty answer.
+/// Reads the data that UDisks2 has on a disk. Needs no event loop. Threads: any; blocks. Fails: an empty
+/// answer.
 SmartAnswer readFromUDisks(const BlockDevice& disk, const SmartSources& sources);
 
-/// The reply when `open` or a command ended with this errno.
+/// The reply if `open` or a command failed with this errno.
 DriveReply unreachable(const BlockDevice& disk, int error);
 
 } // namespace OndelCore::platform

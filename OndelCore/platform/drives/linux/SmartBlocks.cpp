@@ -11,7 +11,7 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// The name of the layer that drives the disk: "nvme", "scsi", "virtio", "mmc", …; empty: none.
+/// The kernel subsystem of the disk: "nvme", "scsi", "virtio", "mmc", …; empty: none.
 std::string subsystemOf(const BlockDevice& disk) {
     std::error_code ignored;
     return std::filesystem::read_symlink(disk.folder / "device/subsystem", ignored).filename().string();
@@ -36,14 +36,14 @@ SmartAnswer askDisk(const BlockDevice& disk, DriveCalls& calls, const SmartSourc
     return service;
 }
 
-/// Device names may hold any byte but '/'; a source is one line.
+/// Device names may contain control characters; a source is one line.
 std::string oneLine(std::string text) {
     std::replace_if(
         text.begin(), text.end(), [](unsigned char byte) { return byte < 0x20 || byte == 0x7f; }, '?');
     return text;
 }
 
-/// The disks through which one drive is reached.
+/// The paths to one drive.
 using Paths = std::vector<BlockDevice>;
 
 std::vector<Paths> drivesOf(const BlockStack& stack) {
@@ -74,7 +74,7 @@ SmartAnswer askDrive(const Paths& paths, const SmartSources& sources) {
     return {.blocks = {}, .source = reasons};
 }
 
-/// Each drive on a thread of its own: a command to a drive that hangs cannot be taken back.
+/// One thread for each drive, because a command to a drive that hangs cannot be cancelled.
 std::vector<DiskAnswer> askAtOnce(const std::vector<Paths>& drives, const SmartSources& sources) {
     const auto deadline = std::chrono::steady_clock::now() + sources.patience;
     std::vector<std::future<SmartAnswer>> pending;

@@ -12,13 +12,13 @@ namespace {
 const QString ataInterface = QStringLiteral("org.freedesktop.UDisks2.Drive.Ata");
 const QString nvmeInterface = QStringLiteral("org.freedesktop.UDisks2.NVMe.Controller");
 
-/// Where the system bus listens (D-Bus, "Well-known Message Bus Instances").
+/// The address of the system bus (D-Bus, "Well-known Message Bus Instances").
 std::string systemBusAddress() {
     const QByteArray given = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
     return given.isEmpty() ? "unix:path=/var/run/dbus/system_bus_socket" : given.toStdString();
 }
 
-/// The service's object for the drive that the disk belongs to.
+/// The service's drive object of the disk.
 std::optional<QDBusObjectPath> driveOf(const BlockDevice& disk, const UDisksObjects& objects) {
     for (const UDisksInterfaces& interfaces : objects) {
         const QVariantMap block = interfaces.value(QStringLiteral("org.freedesktop.UDisks2.Block"));
@@ -31,7 +31,7 @@ std::optional<QDBusObjectPath> driveOf(const BlockDevice& disk, const UDisksObje
     return std::nullopt;
 }
 
-/// When the service read the drive, in words; what it read within the last minute counts as now.
+/// How long ago the service read the drive, as text; empty within the last minute.
 std::string ageOf(std::uint64_t readAtSeconds) {
     const auto now = static_cast<std::uint64_t>(QDateTime::currentSecsSinceEpoch());
     const std::uint64_t minutes = now > readAtSeconds ? (now - readAtSeconds) / 60 : 0;
@@ -43,7 +43,7 @@ SmartAnswer nothing(std::string reason) { return {.blocks = {}, .source = std::m
 SmartAnswer readInterface(const BlockDevice& disk, const UDisksBus& bus, const QDBusObjectPath& drive,
                           const QString& interface) {
     const bool isNvme = interface == nvmeInterface;
-    // A refusal (a sleeping drive, no permission) leaves the figures that the service read last.
+    // On a refusal (a sleeping drive, no permission) the service keeps its last figures.
     bus.ask(drive, interface, QStringLiteral("SmartUpdate"), {});
     const std::optional<QVariantMap> properties = bus.properties(drive, interface);
     if (!properties)

@@ -11,7 +11,7 @@ namespace {
 
 const QString service = QStringLiteral("org.freedesktop.UDisks2");
 
-/// Connections are known to Qt by name; two conversations at once must not share one.
+/// Qt identifies connections by name. Concurrent conversations must not share one.
 QString uniqueName() {
     static std::atomic<std::uint64_t> count = 0;
     return QStringLiteral("ondel-udisks-%1").arg(++count);

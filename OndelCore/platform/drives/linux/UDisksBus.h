@@ -14,9 +14,9 @@ namespace OndelCore::platform {
 using UDisksInterfaces = QMap<QString, QVariantMap>;
 using UDisksObjects = QMap<QDBusObjectPath, UDisksInterfaces>;
 
-/// A connection of its own to the bus of UDisks2, for one conversation of blocking calls.
-/// Threads: the one that made it; needs no event loop. Owner: closes the connection when it goes.
-/// Fails: every call is answered with absent or false, on a missing bus too.
+/// A private connection to the bus of UDisks2, for blocking calls. Threads: the one that made it; needs no
+/// event loop. Owner: the destructor closes the connection. Fails: calls return absent or false, also without
+/// a bus.
 class UDisksBus {
 public:
     /// `address`: a bus address; empty: the system bus. `limit`: for each call.
@@ -28,9 +28,8 @@ public:
     std::optional<UDisksObjects> objects() const;
     std::optional<QVariantMap> properties(const QDBusObjectPath& object, const QString& interface) const;
 
-    /// Calls a method of an interface with the one argument that S.M.A.R.T. methods take, the options: no
-    /// drive is to be woken and nobody to be asked for a password. Fails: absent, also when the answer's
-    /// first part is not of the D-Bus type `signature` ("": no answer is looked for).
+    /// Calls a S.M.A.R.T. method, whose one argument is the options: no drive is woken and no password asked
+    /// for. Fails: absent, also if the reply is not of the D-Bus type `signature` ("": an empty reply).
     std::optional<QVariant> ask(const QDBusObjectPath& object, const QString& interface,
                                 const QString& method, const QString& signature) const;
 

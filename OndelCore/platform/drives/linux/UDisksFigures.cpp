@@ -28,20 +28,20 @@ std::optional<std::uint64_t> numberOf(const QVariantMap& map, const char* name) 
 
 std::optional<std::int32_t> percentOf(const QVariantMap& map, const char* name) {
     const auto value = numberOf(map, name);
-    if (!value || *value > 255) // one byte in the health log
+    if (!value || *value > 255) // a byte in the health log
         return std::nullopt;
     return static_cast<std::int32_t>(*value);
 }
 
-/// The service leaves a total out of its figures while it is 0.
+/// The service omits a total of 0.
 std::optional<std::uint64_t> totalOf(const QVariantMap& figures, const char* name) {
     if (!figures.isEmpty() && !figures.contains(QString::fromLatin1(name)))
         return 0;
     return numberOf(figures, name);
 }
 
-/// The health log's first byte out of the service's words. A word that is not known yet sets the one bit
-/// that the standard reserves, so that the warning is not lost.
+/// The health log's first byte from the service's words. An unknown word sets the reserved bit, so that the
+/// warning is not lost.
 std::uint8_t criticalWarning(const QStringList& words) {
     constexpr std::array<std::string_view, 6> bits{"spare",    "temperature",  "degraded",
                                                    "readonly", "volatile_mem", "pmr_readonly"};
@@ -76,17 +76,17 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, AtaRow& row) {
     return argument;
 }
 
-/// How the service makes a row's figure out of the drive's raw value.
+/// How the service computes a row's figure from the drive's raw value.
 struct Scale {
-    qlonglong unit; ///< of the figure, for each 1 of the raw value
+    qlonglong unit; ///< added to the figure per 1 of the raw value
     qlonglong zero = 0;
 };
 
 constexpr Scale hours{3600000};        // in milliseconds
-constexpr Scale celsius{1000, 273150}; // in thousandths of a kelvin
+constexpr Scale celsius{1000, 273150}; // in millikelvin
 constexpr Scale asIs{1};
 
-/// By the row's name where the figure is not in its attribute's usual unit (libatasmart, "make_pretty").
+/// Rows whose unit depends on their name (libatasmart, "make_pretty").
 struct NamedScale {
     QLatin1StringView name;
     Scale scale;
@@ -102,8 +102,8 @@ constexpr std::array namedScales{
     NamedScale{QLatin1StringView("temperature-centi-celsius"), {100, 273150}},
 };
 
-/// Absent: the service does not know what the row means. A known row that it holds for implausible keeps its
-/// name and figure and loses its unit.
+/// Absent: the service does not know the row. A known row with an implausible figure keeps its name and
+/// figure and loses its unit.
 std::optional<Scale> scaleOf(const AtaRow& row) {
     enum Unit { unknown, none, milliseconds, sectors, milliKelvin };
     const auto named =
@@ -123,13 +123,13 @@ std::optional<Scale> scaleOf(const AtaRow& row) {
     }
 }
 
-/// The drive's raw value, so that it is judged as if the drive itself had been asked. Of hours, reallocated
-/// and pending sectors the service passes on the low 32 bits.
+/// The drive's raw value, so that the same rules apply as to a drive that was read directly. The service
+/// gives only the low 32 bits of hours, reallocated and pending sectors.
 std::optional<std::uint64_t> rawValueOf(const AtaRow& row) {
     const auto scale = scaleOf(row);
     if (!scale || row.pretty < scale->zero)
         return std::nullopt;
-    const qlonglong half = scale->zero == 0 ? 0 : scale->unit / 2; // a temperature may come rounded
+    const qlonglong half = scale->zero == 0 ? 0 : scale->unit / 2; // temperatures may be rounded
     return static_cast<std::uint64_t>((row.pretty - scale->zero + half) / scale->unit);
 }
 

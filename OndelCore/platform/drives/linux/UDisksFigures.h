@@ -9,16 +9,15 @@
 
 namespace OndelCore::platform {
 
-/// The D-Bus types of what SmartGetAttributes answers.
+/// The D-Bus types of the replies of SmartGetAttributes.
 inline const QString nvmeAttributesSignature = QStringLiteral("a{sv}");
 inline const QString ataAttributesSignature = QStringLiteral("a(ysqiiixia{sv})");
 
-/// A number that came as any of D-Bus's whole-number types. Fails: absent if it is of another type, negative
-/// or missing.
+/// A value of any integer type of D-Bus. Fails: absent for other types, negative and missing values.
 std::optional<std::uint64_t> wholeNumber(const QVariant& value);
 
-/// What the properties of org.freedesktop.UDisks2.NVMe.Controller and the answer of its SmartGetAttributes
-/// (or none) say. Threads: any. Fails: absent without a verdict; a figure of the wrong type is left out.
+/// Decodes the properties of org.freedesktop.UDisks2.NVMe.Controller and the reply of its SmartGetAttributes,
+/// if any. Threads: any. Fails: absent without a verdict; a figure of the wrong type is omitted.
 std::optional<NvmeSmartReport> nvmeReport(const QVariantMap& properties, const QVariant& attributes);
 
 /// The same for org.freedesktop.UDisks2.Drive.Ata.

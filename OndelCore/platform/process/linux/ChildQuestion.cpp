@@ -25,7 +25,7 @@ using Bytes = std::vector<std::byte>;
 
 constexpr std::size_t mostChildren = 16;
 
-/// The paths that a child is asking about, a child that was given up and hangs included.
+/// The paths with a child, including abandoned children that hang.
 class AskedPaths {
 public:
     bool take(const std::filesystem::path& path) {
@@ -36,7 +36,7 @@ public:
         const std::lock_guard lock(m_mutex);
         m_paths.erase(path);
     }
-    /// Never destroyed: a thread that waits for a child may outlive the static objects.
+    /// Never destroyed: a thread that reaps a child may outlive static objects.
     static AskedPaths& everywhere() {
         static auto& paths = *new AskedPaths;
         return paths;
@@ -47,7 +47,7 @@ private:
     std::set<std::filesystem::path> m_paths;
 };
 
-/// Reaps the child on a thread, which a wait for it does not keep from being killed.
+/// Reaps the child on a thread of its own. waitpid(2) does not prevent the thread from being killed.
 void reapLater(pid_t process, const std::filesystem::path& path) {
     runDetached([process, path] {
         while (waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
@@ -56,7 +56,7 @@ void reapLater(pid_t process, const std::filesystem::path& path) {
     });
 }
 
-/// A child that asks about one path. Owner: the object gives the child up, if it has not answered, and frees
+/// A child that asks about one path. Owner: the destructor abandons a child without an answer, and releases
 /// the path.
 class Child {
 public:
@@ -90,7 +90,7 @@ public:
     std::size_t index() const { return m_index; }
     int pipe() const { return m_pipe.get(); }
 
-    /// The answer; absent if the child ended without one. Call when the pipe has something to say.
+    /// The answer; absent if the child ended without one. Call when the pipe is readable.
     std::optional<Bytes> take(std::size_t length) {
         m_hasEnded = true;
         Bytes bytes(length);
@@ -112,24 +112,24 @@ private:
     pid_t m_process;
     FileDescriptor m_pipe;
     bool m_isKilled;
-    bool m_hasEnded = false; ///< or is about to: its last act is the answer
+    bool m_hasEnded = false; ///< or is about to, since it answers last
 };
 
-/// What the child does. `answer` is the copy that the fork has made.
+/// The body of the child. `answer`: the child's copy of the buffer.
 [[noreturn]] void answerAndEnd(const char* path, int pipe, pid_t parent, bool isKilled,
                                const ChildAnswer& answer, std::span<std::byte> bytes) {
     prctl(PR_SET_NAME, "ondel-question");
-    for (const int request : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) // an own handler would speak to the parent
+    for (const int request : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) // the handlers write to the parent's pipe
         std::signal(request, isKilled ? SIG_DFL : SIG_IGN);
     if (isKilled) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (getppid() != parent)
             _exit(1);
     }
-    // Whatever else is open here, a lock or a display, must not stay so for as long as this process hangs.
+    // A child that hangs must not keep the parent's locks and connections open.
     dup2(pipe, STDIN_FILENO);
     close_range(STDIN_FILENO + 1, ~0U, 0);
-    [[maybe_unused]] const int ignored = chdir("/"); // nor must a folder be kept from being unmounted
+    [[maybe_unused]] const int ignored = chdir("/"); // does not keep a file system busy
     if (!answer(path, bytes))
         _exit(1);
     for (std::size_t told = 0; told < bytes.size();) {
@@ -141,7 +141,7 @@ private:
     _exit(0);
 }
 
-/// Fails: absent where the machine has no process or descriptor left.
+/// Fails: absent if no process or descriptor is left.
 std::optional<Child> ask(std::size_t index, const std::filesystem::path& path, const ChildAnswer& answer,
                          std::span<std::byte> bytes, bool isKilled) {
     std::array<int, 2> ends{};
@@ -151,10 +151,10 @@ std::optional<Child> ask(std::size_t index, const std::filesystem::path& path, c
     const FileDescriptor writing(ends[1]);
     std::error_code failed;
     const std::filesystem::path absolute =
-        std::filesystem::absolute(path, failed); // the child leaves its folder
+        std::filesystem::absolute(path, failed); // the child changes its working folder
     const char* const name = failed || path.empty() ? path.c_str() : absolute.c_str();
     const pid_t parent = getpid();
-    const pid_t process = _Fork(); // without the handlers of libraries, which are not for this
+    const pid_t process = _Fork(); // without the fork handlers of libraries
     if (process == 0)
         answerAndEnd(name, writing.get(), parent, isKilled, answer, bytes);
     if (process < 0)
@@ -192,7 +192,7 @@ public:
     }
 
 private:
-    /// How long nothing but an answer is looked for.
+    /// How long to wait for answers before the next check.
     std::chrono::milliseconds slice() const {
         constexpr std::chrono::milliseconds untilFree(5);
         constexpr std::chrono::milliseconds untilCancelled(100);
@@ -234,9 +234,9 @@ private:
     const std::vector<std::filesystem::path>& m_paths;
     const ChildAnswer& m_answer;
     const Waiting& m_waiting;
-    Bytes m_buffer; ///< of zeros: each child fills a copy of its own
+    Bytes m_buffer; ///< all zeros; each child fills its own copy
     std::vector<std::optional<Bytes>> m_answers;
-    std::vector<std::size_t> m_left; ///< indices of questions that nobody asks yet, the next one last
+    std::vector<std::size_t> m_left; ///< indices of paths without a child yet, the next one last
     std::vector<Child> m_children;
 };
 

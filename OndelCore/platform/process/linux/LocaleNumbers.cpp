@@ -8,7 +8,8 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// ICU's grouping mark of French and others, for which few fonts have a glyph, as the usual no-break space.
+/// Replaces the narrow no-break space, ICU's grouping mark in French and others, by the usual one: few fonts
+/// have a glyph for it.
 void widenNarrowSpaces(icu::UnicodeString& text) { text.findAndReplace(u"\u202f", u"\u00a0"); }
 
 } // namespace

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What firmware says when nobody filled in the form.
+/// Placeholders in firmware whose maker entered no name.
 constexpr std::array<std::string_view, 8> firmwareFillers{"To Be Filled By O.E.M.",
                                                           "To be filled by O.E.M.",
                                                           "System Product Name",
@@ -44,8 +44,7 @@ std::optional<std::string> firstLineOf(const fs::path& file) {
     return line.empty() ? std::nullopt : std::optional(line);
 }
 
-/// A value as a shell reads it, which is how os-release(5) is written: quotes off, backslash escapes
-/// resolved.
+/// Decodes a value of os-release(5) as a shell does: without quotes, escapes resolved.
 std::string unquoted(std::string_view value) {
     const bool single = value.starts_with('\'');
     if (value.size() >= 2 && (single || value.starts_with('"')) && value.back() == value.front())
@@ -70,8 +69,8 @@ std::optional<std::string> prettyNameIn(const fs::path& osRelease) {
     return std::nullopt;
 }
 
-/// The memory modules as the kernel counts them, in blocks of one size (sysfs, "memory"): what the kernel
-/// keeps for itself is in there, so that 16 GB read as 16.
+/// The installed memory, counted in blocks of one size (sysfs, "memory"). It includes what the kernel
+/// reserves, so 16 GB read as 16.
 std::optional<std::int64_t> memoryBlocksIn(const fs::path& folder) {
     const auto size = firstLineOf(folder / "block_size_bytes");
     std::int64_t blockBytes = 0;

@@ -26,7 +26,7 @@ struct SocketAddress {
     socklen_t length = 0;
 };
 
-/// Of the first address in the list (D-Bus, "Server Addresses"). Absent: one of another kind.
+/// The socket of the first address in the list (D-Bus, "Server Addresses"). Absent: another transport.
 std::optional<SocketAddress> socketOf(const QByteArray& addresses) {
     const QByteArray first = addresses.split(';').constFirst();
     if (!first.startsWith("unix:"))
@@ -50,7 +50,7 @@ std::optional<SocketAddress> socketOf(const QByteArray& addresses) {
     return std::nullopt;
 }
 
-/// The first words of the authentication, which a bus answers before anything else.
+/// The start of the authentication, which a bus answers first.
 QByteArray greeting() {
     return QByteArray(1, '\0') + "AUTH EXTERNAL " + QByteArray::number(geteuid()).toHex() + "\r\n";
 }

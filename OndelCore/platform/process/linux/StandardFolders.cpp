@@ -11,12 +11,12 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// The XDG Base Directory rules want relative values ignored.
+/// XDG Base Directory: relative values are ignored.
 std::optional<std::filesystem::path> absoluteOf(const std::string& value) {
     return value.starts_with('/') ? std::optional<std::filesystem::path>(value) : std::nullopt;
 }
 
-/// What `variable` says, else its default's place in the home folder.
+/// The value of `variable`, else its default in the home folder.
 std::optional<std::filesystem::path> folderOf(const char* variable, const char* localName) {
     if (auto folder = absoluteOf(qgetenv(variable).toStdString()))
         return folder;

@@ -24,7 +24,7 @@ std::int64_t monotonicNanoseconds() {
 void fillRandom(void* bytes, std::size_t size) {
     auto* next = static_cast<std::byte*>(bytes);
     while (size > 0) {
-        // One call gives at most 32 MiB and may be broken off by a signal: getrandom(2).
+        // One call returns at most 32 MiB and may be interrupted by a signal: getrandom(2).
         const ssize_t filled = getrandom(next, size, 0);
         if (filled < 0) {
             if (errno == EINTR)
@@ -40,7 +40,7 @@ std::string newUuid() { return QUuid::createUuid().toString(QUuid::WithoutBraces
 
 std::string errorText(int error) {
     char buffer[256];
-    return strerror_r(error, buffer, sizeof buffer); // the GNU form, which may leave the buffer alone
+    return strerror_r(error, buffer, sizeof buffer); // the GNU form, which may return a constant
 }
 
 std::error_code lastError() { return {errno, std::generic_category()}; }
@@ -48,9 +48,9 @@ std::error_code lastError() { return {errno, std::generic_category()}; }
 void giveBackFreedMemory() { malloc_trim(0); }
 
 void enterBackground(const char* name) {
-    constexpr int niceness = 10; // half way to the idlest
+    constexpr int niceness = 10; // half way to the lowest priority
     pthread_setname_np(pthread_self(), name);
-    setpriority(PRIO_PROCESS, static_cast<id_t>(gettid()), niceness); // on Linux of this one thread
+    setpriority(PRIO_PROCESS, static_cast<id_t>(gettid()), niceness); // for this thread only on Linux
 }
 
 } // namespace OndelCore::platform

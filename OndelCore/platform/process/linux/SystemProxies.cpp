@@ -11,7 +11,7 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// libproxy's schemes and those by which names are looked up at the proxy.
+/// libproxy's schemes, and ours, which resolve host names at the proxy.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 6> schemes{{{"direct://", ""},
                                                                                 {"http://", "http://"},
                                                                                 {"https://", "https://"},
@@ -21,8 +21,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 6> schemes{{
 
 } // namespace
 
-// A settings object of each call's own: toolkits share one between threads and wait for it when the process
-// ends.
+// Each call makes its own libproxy factory. A shared one would make the process wait for other threads at its
+// end.
 std::vector<std::string> systemProxies(const std::string& url) {
     const std::unique_ptr<pxProxyFactory, void (*)(pxProxyFactory*)> settings(px_proxy_factory_new(),
                                                                               px_proxy_factory_free);

@@ -37,7 +37,7 @@ int terminationRequestDescriptor() {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         struct sigaction before{};
         sigaction(signal, nullptr, &before);
-        if (before.sa_handler != SIG_IGN) // nohup and background jobs of a shell mean it
+        if (before.sa_handler != SIG_IGN) // set on purpose by nohup and shells
             sigaction(signal, &action, nullptr);
     }
     return requestEvent;

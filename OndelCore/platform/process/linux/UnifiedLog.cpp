@@ -1,6 +1,6 @@
 // The journal's native protocol, as systemd documents it under "Native Journal Protocol": one datagram is one
 // entry, a field is NAME=value and a newline, or, for a value that may hold newlines, NAME, a newline, the
-// length in 64 bits little-endian, the value and a newline. What does not fit into a datagram travels as the
+// length in 64 bits little-endian, the value and a newline. An entry too large for a datagram is sent as the
 // descriptor of a sealed memory file.
 
 #include "OndelCore/platform/process/UnifiedLog.h"
@@ -69,7 +69,7 @@ UnifiedLog::UnifiedLog(const std::filesystem::path& socket) {
     m_address.sun_family = AF_UNIX;
     std::memcpy(m_address.sun_path, name.c_str(), name.size() + 1);
     m_socket = FileDescriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    reconnect(); // spares every line the way through the file system
+    reconnect(); // no path look-up per line
 }
 
 bool UnifiedLog::reconnect() const {
@@ -128,7 +128,7 @@ bool isStandardErrorLogged() {
     struct stat facts{};
     if (fstat(STDERR_FILENO, &facts) != 0)
         return false;
-    // What systemd connects to the journal it names by device and inode (systemd.exec(5)).
+    // systemd tells the stream that it connected to the journal by device and inode (systemd.exec(5)).
     return qgetenv("JOURNAL_STREAM") ==
            QByteArray::number(facts.st_dev) + ':' + QByteArray::number(facts.st_ino);
 }

@@ -16,7 +16,7 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// The first piece of the comment; "&" in it stands for the account's name with a capital letter.
+/// The first field of the comment. "&" stands for the capitalized account name.
 std::string fullNameOf(const UserRecord& user) {
     std::string capitalised = user.name;
     if (!capitalised.empty())

@@ -23,7 +23,7 @@ std::string posixLocale(const char* category) {
 } // namespace
 
 std::string icuLocaleName(const std::string& posixName) {
-    // Codeset and modifier say nothing that the marks of numbers and dates depend on, but for the script.
+    // Number and date formats depend on the modifier for the script only, and not on the codeset.
     const std::string base = posixName.substr(0, posixName.find_first_of(".@"));
     if (base.empty() || base == "C" || base == "POSIX")
         return fallbackName;
@@ -33,7 +33,7 @@ std::string icuLocaleName(const std::string& posixName) {
                                  ? base + script
                                  : base.substr(0, country) + script + base.substr(country);
     const icu::Locale locale = icu::Locale::createCanonical(name.c_str());
-    // ICU answers a language that it does not know with a placeholder's marks ("M05 1").
+    // For an unknown language ICU has placeholder formats ("M05 1").
     UErrorCode status = U_ZERO_ERROR;
     const icu::LocalULocaleDataPointer data(ulocdata_open(locale.getName(), &status));
     if (locale.isBogus() || U_FAILURE(status) || status == U_USING_DEFAULT_WARNING)

@@ -12,7 +12,7 @@ struct UserRecord {
     std::string homeFolder;
 };
 
-/// Fails: absent for a user the database does not know, as in a container with a made-up number.
+/// Fails: absent for a user without an entry, as in some containers.
 std::optional<UserRecord> userRecord();
 
 } // namespace OndelCore::platform

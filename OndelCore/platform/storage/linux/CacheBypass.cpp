@@ -7,7 +7,7 @@ namespace OndelCore::platform {
 CacheBypass::CacheBypass(int descriptor)
     : m_descriptor(descriptor)
     , m_statusFlags(fcntl(descriptor, F_GETFL)) {
-    // Not O_DIRECT in open(2): there a file system without direct transfers would fail the whole open.
+    // Not as a flag of open(2), which fails on a file system without direct transfers.
     m_isOn = m_statusFlags >= 0 && fcntl(descriptor, F_SETFL, m_statusFlags | O_DIRECT) == 0;
 }
 

@@ -12,7 +12,7 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// A link, a pipe or a device in the file's place is nothing to lock or to write.
+/// Refuses a link, a pipe or a device in the file's place.
 FileDescriptor openRegular(const std::filesystem::path& path) {
     constexpr mode_t ownerOnly = 0600;
     FileDescriptor file(
@@ -24,7 +24,7 @@ FileDescriptor openRegular(const std::filesystem::path& path) {
 
 } // namespace
 
-// The call that waits cannot be given a time, so that the one that does not wait is repeated.
+// flock(2) has no time limit, so the call that does not wait is repeated.
 FileLock::FileLock(const std::filesystem::path& path, std::chrono::milliseconds patience)
     : m_file(openRegular(path)) {
     constexpr std::chrono::milliseconds step(2);

@@ -18,7 +18,7 @@ namespace OndelCore::platform {
 namespace {
 
 constexpr std::size_t headBytes = 65536;
-constexpr off_t tailAt = 1048576; ///< what lies between is a hole
+constexpr off_t tailAt = 1048576; ///< a hole lies before it
 
 /// A new file in a folder. Owner: the object removes it.
 class TrialFile {
@@ -43,7 +43,7 @@ private:
     FileDescriptor m_file;
 };
 
-/// Writes what no file system makes smaller, then a little beyond a hole.
+/// Writes random bytes, which no file system compresses, and a few bytes behind a hole.
 bool writeAroundAHole(int file) {
     std::array<std::byte, headBytes> bytes{};
     fillRandom(bytes.data(), bytes.size());
@@ -52,12 +52,12 @@ bool writeAroundAHole(int file) {
 }
 
 std::optional<bool> isSparse(int file) {
-    constexpr std::int64_t blockBytes = 512; // of st_blocks, whatever the file system's are
+    constexpr std::int64_t blockBytes = 512; // the unit of st_blocks on every file system
     struct stat facts{};
     if (fstat(file, &facts) != 0)
         return std::nullopt;
     const std::int64_t held = facts.st_blocks * blockBytes;
-    if (held < static_cast<std::int64_t>(headBytes)) // it does not count what it holds, or not yet
+    if (held < static_cast<std::int64_t>(headBytes)) // blocks are not counted, or not yet
         return std::nullopt;
     return held < tailAt / 2;
 }

@@ -32,21 +32,21 @@ bool isSameMount(int one, int other) {
         statx(other, "", AT_EMPTY_PATH, STATX_MNT_ID, &second) == 0 &&
         (first.stx_mask & second.stx_mask & STATX_MNT_ID) != 0)
         return first.stx_mnt_id == second.stx_mnt_id;
-    // Before Linux 5.8. A mount of the same file system is not told apart then.
+    // Before Linux 5.8. Mounts of the same file system cannot be told apart there.
     const auto here = identityOf(one);
     const auto there = identityOf(other);
     return here && there && here->device == there->device;
 }
 
-/// fchmod(2) takes no O_PATH descriptor; the link of the same descriptor in /proc is the way around.
+/// fchmod(2) refuses O_PATH descriptors; chmod of their links in /proc works.
 void letOwnerIn(int handle) {
     struct stat facts{};
     if (fstat(handle, &facts) == 0 && facts.st_uid == geteuid() && (facts.st_mode & S_IRWXU) != S_IRWXU)
         chmod(("/proc/self/fd/" + std::to_string(handle)).c_str(), S_IRWXU);
 }
 
-/// Removes a tree without recursion: it keeps one descriptor, of the folder it is in, and on the heap what it
-/// has yet to do in each folder above.
+/// Removes a tree without recursion. It keeps one descriptor, that of the current folder; the names left to
+/// remove in the folders above are on the heap.
 class TreeRemoval {
 public:
     TreeRemoval(int root, const Unlink& unlink)
@@ -73,7 +73,7 @@ private:
         FileIdentity identity;
         std::string name;                 ///< in the level above
         std::vector<std::string> names{}; ///< to be removed in this pass, the last one first
-        std::set<std::string> kept{};     ///< what could not be removed; it is tried once
+        std::set<std::string> kept{};     ///< could not be removed; each is tried once
         std::size_t entries = std::numeric_limits<std::size_t>::max(); ///< when the pass began
     };
 
@@ -86,7 +86,7 @@ private:
         return true;
     }
 
-    /// Begins a pass. False when there is nothing to be done in another one.
+    /// Begins a pass. False if another pass would change nothing.
     bool list(Level& level) const {
         std::vector<std::string> names = namesIn(m_here.get());
         if (names.size() >= level.entries)
@@ -98,17 +98,17 @@ private:
         return !level.names.empty();
     }
 
-    /// True when the entry is gone, or is a folder that has been entered.
+    /// True if the entry was removed, or is a folder and was entered.
     bool remove(const std::string& name) {
         if (m_unlink(m_here.get(), name.c_str(), 0) == 0)
             return true;
-        if (errno != EISDIR && errno != EPERM) // EPERM: what POSIX names for a folder
+        if (errno != EISDIR && errno != EPERM) // POSIX has EPERM for a folder
             return false;
         return enter(openInnerFolder(m_here.get(), name), name);
     }
 
-    /// Goes up and removes the folder it comes from. A folder that was moved out of the tree meanwhile leads
-    /// up elsewhere: then the walk begins anew at the root, a few times at most.
+    /// Goes up and removes the folder it comes from. If that folder was moved out of the tree meanwhile, the
+    /// walk starts again at the root, a limited number of times.
     void leave() {
         const std::string name = std::move(m_levels.back().name);
         m_levels.pop_back();
@@ -136,7 +136,7 @@ private:
     std::vector<Level> m_levels;
 };
 
-/// The name that an open folder now has in the open folder above it. Fails: absent.
+/// The current name of an open folder in its open parent. Fails: absent.
 std::optional<std::string> nameIn(int above, const FileIdentity& folder) {
     for (std::string& name : namesIn(above))
         if (identityOf(above, name) == folder)
@@ -180,14 +180,14 @@ FileDescriptor openInnerFolder(int parent, const std::string& name) {
 }
 
 std::vector<std::string> namesIn(int folder) {
-    // A description of its own: the position in the listing belongs to it.
+    // A separate open file description, which has a position of its own.
     FileDescriptor listed(openat(folder, ".", toList));
     const std::unique_ptr<DIR, CloseFolder> stream(listed ? fdopendir(listed.get()) : nullptr);
     if (!stream)
         return {};
     listed.release();
     std::vector<std::string> names;
-    // readdir is safe where each thread has a DIR of its own, as here.
+    // readdir is thread-safe with a DIR for each thread.
     while (const dirent* entry = readdir(stream.get())) { // NOLINT(concurrency-mt-unsafe)
         const std::string_view name = entry->d_name;
         if (name != "." && name != "..")
@@ -208,7 +208,7 @@ Unlink systemUnlink() { return ::unlinkat; }
 void removeContents(int folder, const Unlink& unlink) noexcept {
     try {
         TreeRemoval(folder, unlink).run();
-    } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch): more names than memory; the rest stays
+    } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch): out of memory: the rest stays
     }
 }
 

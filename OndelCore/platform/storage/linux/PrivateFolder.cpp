@@ -20,7 +20,7 @@ namespace {
 constexpr mode_t ownerOnly = 0700;
 constexpr std::string_view folderName = "tools.ondel.tarnwick";
 
-/// A real folder, not a link to one, that belongs to this user and that nobody else may enter.
+/// A folder, not a link to one, that belongs to this user and that no other user may enter.
 bool isOurs(const fs::path& folder) {
     struct stat status{};
     return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid() &&
@@ -36,7 +36,7 @@ std::optional<fs::path> sessionFolder() {
     return isOurs(folder) ? std::optional(folder) : std::nullopt;
 }
 
-/// Another user's FUSE can be mounted in a folder that all share and claim any owner.
+/// Another user can mount a FUSE file system in a shared folder, and it can report any owner.
 bool isMounted(const fs::path& folder, const fs::path& parent) {
     struct stat here{};
     struct stat above{};
@@ -44,8 +44,8 @@ bool isMounted(const fs::path& folder, const fs::path& parent) {
            here.st_dev != above.st_dev;
 }
 
-/// One that an earlier process of this user made, or they would pile up: the first by name, so that all
-/// processes agree. Nobody could guess the name before it was there, and nobody else can replace it now.
+/// The folder that an earlier process of this user made. All processes agree on the first by name. Its name
+/// could not be guessed before it was made, and no other user can replace it.
 std::optional<fs::path> earlierFolder(const fs::path& shared, const std::string& prefix) {
     std::optional<fs::path> first;
     std::error_code error;
@@ -62,7 +62,7 @@ std::optional<fs::path> earlierFolder(const fs::path& shared, const std::string&
 std::optional<fs::path> folderInSharedPlace() {
     std::error_code error;
     const fs::path shared = fs::temp_directory_path(error);
-    if (error || !shared.is_absolute()) // a relative one would be wherever the process was started
+    if (error || !shared.is_absolute()) // a relative path would depend on the working folder
         return std::nullopt;
     const std::string prefix = std::string(folderName) + "-";
     if (auto earlier = earlierFolder(shared, prefix))
@@ -77,7 +77,7 @@ std::optional<fs::path> privateTemporaryFolder() {
     static std::mutex lock;
     static std::optional<fs::path> folder;
     const std::lock_guard guard(lock);
-    // The system may have emptied its temporary folder under a process that runs for weeks.
+    // The system may empty its temporary folder while a process runs for weeks.
     if (!folder || !isOurs(*folder)) {
         const auto session = sessionFolder();
         folder = session ? session : folderInSharedPlace();

@@ -14,7 +14,7 @@ namespace OndelCore::platform {
 std::optional<std::string> readRegularFile(const std::filesystem::path& path, std::size_t most,
                                            std::error_code& error) {
     error.clear();
-    // Without O_NONBLOCK a pipe would hold the caller here until somebody writes.
+    // Without O_NONBLOCK, opening a pipe blocks until somebody writes.
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat facts{};
     if (!file || fstat(file.get(), &facts) != 0) {
@@ -29,7 +29,7 @@ std::optional<std::string> readRegularFile(const std::filesystem::path& path, st
     if (error)
         return std::nullopt;
 
-    std::string content(size + 1, '\0'); // room for the byte that a growing file has more
+    std::string content(size + 1, '\0'); // one byte more detects a file that grew
     std::size_t length = 0;
     while (length < content.size()) {
         const ssize_t got = read(file.get(), content.data() + length, content.size() - length);

@@ -41,8 +41,8 @@ std::error_code writeAndFlush(int file, std::string_view content, Lasting lastin
     return flush(file, lasting);
 }
 
-/// Writes a file that has no name until it is complete, so that a killed process leaves nothing.
-/// Fails: also where the file system or a missing /proc does not allow it.
+/// Writes a file that is unnamed until it is complete, so that a killed process leaves nothing. Fails: also
+/// if the file system does not support it or /proc is missing.
 std::error_code writeNameless(int folder, const std::string& name, std::string_view content, Manner manner) {
     const FileDescriptor file(openat(folder, ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, manner.mode));
     if (!file)
@@ -82,7 +82,7 @@ std::error_code replaceFile(const fs::path& path, std::string_view content, fs::
         unlinkat(folder.get(), temporary.c_str(), 0);
         return error;
     }
-    // The new name is durable only with its folder. The file is in place whatever this answers.
+    // The new name is durable only after its folder is flushed. The file is replaced even if this fails.
     flush(folder.get(), lasting);
     return {};
 }

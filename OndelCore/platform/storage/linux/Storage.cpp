@@ -17,7 +17,7 @@ std::optional<std::int64_t> freeBytes(int descriptor) {
     return saturatingMultiply(facts.f_bavail, facts.f_frsize);
 }
 
-// fsync(2) on Linux sends the drive's cache flush after the data.
+// fsync(2) on Linux also flushes the drive's cache.
 std::error_code flushToMedium(int descriptor) {
     while (fsync(descriptor) != 0)
         if (errno != EINTR)

@@ -8,8 +8,8 @@
 
 #include <cstdint>
 
-// Landlock (kernel documentation, userspace-api/landlock.rst), by its system calls: the C library has no
-// functions for them, and the headers of the oldest supported system lack the later rights.
+// Landlock (kernel documentation, userspace-api/landlock.rst). The system calls are made directly: the C
+// library has no functions for them, and the headers of the oldest supported system lack the later rights.
 
 namespace OndelCore::platform {
 
@@ -55,7 +55,7 @@ bool confineWritesOfThisThread(int folder) {
         static_cast<int>(syscall(SYS_landlock_create_ruleset, &forbidden, sizeof forbidden, 0)));
     const PathBeneathAttributes exception{needed, folder};
     return ruleset && syscall(SYS_landlock_add_rule, ruleset.get(), rulePathBeneath, &exception, 0) == 0 &&
-           // Of this thread; without it the kernel takes the next call from privileged processes only.
+           // For this thread; otherwise the next call requires privileges.
            prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
            syscall(SYS_landlock_restrict_self, ruleset.get(), 0) == 0;
 }

@@ -14,7 +14,7 @@ constexpr std::int64_t folderIgnoresCase = 0x40000000; // FS_CASEFOLD_FL of linu
 void readAttributes(CapabilityWords& words, const Mount& mount, const PathFacts& answers) {
     if (const auto keeps = answers.keepsUserAttributes)
         words.interfaces.state(interfaceExtendedAttributes, *keeps);
-    // A FUSE program may take an access list, answer as if it had none, and store nothing.
+    // FUSE programs may accept an access list without storing it.
     const auto keeps = answers.keepsAccessLists;
     if (keeps && !(mount.type.starts_with("fuse") && *keeps))
         words.interfaces.state(interfaceExtendedSecurity, *keeps);
@@ -29,19 +29,19 @@ void readFolder(CapabilityWords& words, const PathFacts& answers) {
     }
 }
 
-/// What the look-up of a name found, where the type leaves it open.
+/// The result of the look-up, if the type does not determine it.
 void readLetterCase(CapabilityWord& format, std::string_view type, LetterCase found) {
     if (found == LetterCase::unknown)
         return;
     const bool isSensitive = found == LetterCase::sensitive;
     if (!format.knows(formatCaseSensitive))
         format.state(formatCaseSensitive, isSensitive);
-    const bool isDisc = type == "iso9660"; // plain names are told apart and not kept
+    const bool isDisc = type == "iso9660"; // plain names are case-sensitive and not preserved
     if (!format.knows(formatCasePreserving) && found != LetterCase::ignored && !isDisc)
         format.state(formatCasePreserving, true);
 }
 
-/// Ext3 and Ext4 can be made without a journal, and mounted without using it.
+/// Ext3 and Ext4 may have no journal, or be mounted without using it.
 void askJournal(CapabilityWords& words, const Mount& mount, const SystemSources& sources) {
     if (hasMountOption(mount.superOptions, "norecovery") || hasMountOption(mount.superOptions, "noload")) {
         words.format.state(formatJournalActive, false);
@@ -55,8 +55,8 @@ void askJournal(CapabilityWords& words, const Mount& mount, const SystemSources&
         words.format.state(formatJournalActive, *task != "<none>");
 }
 
-/// The mount table says "norock" where Joliet's names are in use, or Rock Ridge's are not wanted. Without
-/// that word the names are either Rock Ridge's or plain ones, and plain ones are shown in lower case.
+/// The option "norock" means that Joliet names are used or Rock Ridge was disabled. Without it the names are
+/// Rock Ridge's or plain ones, and plain ones are shown in lower case.
 void readDisc(CapabilityWord& format, const Mount& mount, const PathFacts& answers) {
     const auto has = [&](std::string_view option) { return hasMountOption(mount.superOptions, option); };
     format.state(formatCaseSensitive, has("check=s"));

@@ -7,8 +7,8 @@
 
 namespace OndelCore::platform {
 
-/// What a type's row claims, made precise by what the mounted file system answered at a path. `facts`: null
-/// for a type without a row. Threads: any.
+/// The capabilities of a type, refined by the answers of the mounted file system at a path. `facts`: null for
+/// an unknown type. Threads: any.
 CapabilityWords capabilityWords(const FileSystemFacts* facts, const Mount& mount, const PathFacts& answers,
                                 const SystemSources& sources);
 

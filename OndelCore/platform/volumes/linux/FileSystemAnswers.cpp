@@ -17,8 +17,8 @@ constexpr std::int64_t smallestRequest = 64 * kibibyte;
 constexpr std::int64_t largestRequest = 4096 * kibibyte;
 constexpr std::int64_t pageSize = 4096;
 
-/// What the device's queue takes best. The size that the device itself declares is believed where it is
-/// made of whole pages: USB bridges are known to declare 65535 sectors.
+/// The best size for the device's queue. The size that the device declares is used only if it is a multiple
+/// of the page size: some USB bridges declare 65535 sectors.
 std::int64_t optimalSizeOfQueue(const std::filesystem::path& queue) {
     const auto declared = readNumber(queue / "optimal_io_size").value_or(0);
     if (declared > 0 && declared % pageSize == 0)
@@ -32,7 +32,7 @@ std::int64_t optimalSizeOfQueue(const std::filesystem::path& queue) {
 
 std::int64_t optimalSize(const std::optional<Mount>& mount, const FileSystemFacts* facts,
                          const PathFacts& answers, const SystemSources& sources) {
-    // A server's own word. A single page is what the kernel puts where there is none.
+    // The server's preference. The kernel reports one page if the server has none.
     if (facts && facts->reach == FileSystemReach::network)
         return answers.preferredTransfer > pageSize ? answers.preferredTransfer : 0;
     const auto number = mount ? deviceOfMount(*mount) : std::nullopt;
@@ -40,7 +40,7 @@ std::int64_t optimalSize(const std::optional<Mount>& mount, const FileSystemFact
     return device ? optimalSizeOfQueue(wholeDevice(*device).folder / "queue") : 0;
 }
 
-/// The C library answers 127 for each file system that it does not know.
+/// The C library reports 127 for file systems that it does not know.
 std::optional<std::int64_t> linkLimit(const PathFacts& answers, const FileSystemFacts* facts) {
     constexpr std::int64_t madeUp = 127;
     if (answers.maxLinkCount != madeUp)

@@ -15,21 +15,21 @@ namespace OndelCore::platform {
 
 namespace {
 
-constexpr int mostEntries = 20000; // of a folder that is read to its end
+constexpr int mostEntries = 20000; // read from one folder
 constexpr int mostLookups = 8;
 constexpr int mostFolders = 40;
 
 constexpr bool isLower(char letter) { return letter >= 'a' && letter <= 'z'; }
 constexpr bool isUpper(char letter) { return letter >= 'A' && letter <= 'Z'; }
 
-/// A file name in place, without the heap.
+/// A file name without heap memory.
 class Name {
 public:
     explicit Name(const char* text) {
         const std::size_t length = strnlen(text, m_text.size() - 1);
         std::memcpy(m_text.data(), text, length);
     }
-    /// Only the letters of ASCII: what else has two cases is the file system's secret.
+    /// ASCII letters only: file systems differ in their rules for others.
     Name swapped() const {
         Name other = *this;
         for (char& letter : other.m_text)
@@ -50,8 +50,8 @@ private:
     std::array<char, 256> m_text{};
 };
 
-/// Calls `see` for each entry but "." and ".." until it returns false. Fails: false, the folder was not read
-/// to its end.
+/// Calls `see` for each entry except "." and ".." until it returns false. Fails: false, the folder was not
+/// read completely.
 template <typename See>
 bool forEachEntry(int folder, See see) {
     if (lseek(folder, 0, SEEK_SET) != 0)
@@ -74,7 +74,7 @@ bool forEachEntry(int folder, See see) {
     }
 }
 
-/// What a look-up of the swapped name found: both listed means that there are two names.
+/// The case rule after a successful look-up of the swapped name. If both are listed they are two names.
 LetterCase caseOfFound(int folder, const Name& name) {
     const Name other = name.swapped();
     bool isListed = false;
@@ -108,7 +108,7 @@ FolderNames namesInThis(int folder) {
             found = caseOfFound(folder, name);
         else if (errno == ENOENT &&
                  fstatat(folder, text, &ignored, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) == 0)
-            found = LetterCase::sensitive; // and not a file that has gone meanwhile
+            found = LetterCase::sensitive; // the file itself still exists
         const bool isDone =
             found != LetterCase::unknown && (names.hasCapitals || found != LetterCase::sensitive);
         return !isDone && ++lookups < mostLookups;
@@ -122,9 +122,9 @@ std::uint64_t mountOfFolder(int folder) {
     return found == 0 && (facts.stx_mask & STATX_MNT_ID) ? facts.stx_mnt_id : 0;
 }
 
-/// The folder above on the same mount; -1 at the mount's root. Closes `folder`.
+/// The parent folder on the same mount; -1 at the mount's root. Closes `folder`.
 int replacedByParent(int folder) {
-    const int above = openat(folder, "..", O_PATH | O_DIRECTORY | O_CLOEXEC); // asks no other file system
+    const int above = openat(folder, "..", O_PATH | O_DIRECTORY | O_CLOEXEC); // accesses no other file system
     struct stat here{};
     struct stat there{};
     const bool isInside = above >= 0 && mountOfFolder(above) == mountOfFolder(folder) &&

@@ -4,14 +4,14 @@
 
 namespace OndelCore::platform {
 
-/// What the names of a folder tell.
+/// What the names in a folder show.
 struct FolderNames {
     LetterCase letterCase = LetterCase::unknown;
     bool hasCapitals = false; ///< as PathFacts::hasCapitals
 };
 
-/// Looks for a name with letters in the folder, then in those above it on the same mount.
-/// Threads: any; async-signal-safe. Fails: unknown.
+/// Examines the names in the folder, then those in its parents on the same mount. Threads: any;
+/// async-signal-safe. Fails: unknown.
 FolderNames namesIn(int folder);
 
 } // namespace OndelCore::platform

@@ -29,7 +29,7 @@ namespace OndelCore::platform {
 
 namespace {
 
-/// A flag with the value that it makes valid, as plain data.
+/// An optional value that is trivially copyable.
 template <typename Value>
 struct Told {
     Value value{};
@@ -42,7 +42,7 @@ struct Told {
     }
 };
 
-/// PathFacts as a child hands them over.
+/// PathFacts as a child sends them.
 struct RawFacts {
     int error = 0;
     bool isFolder = false;
@@ -59,7 +59,7 @@ struct RawFacts {
     FolderNames names;
 };
 
-// --- The questions. All of this is async-signal-safe.
+// --- The questions. This part is async-signal-safe.
 
 void askResolved(const char* path, RawFacts& facts) {
     const int place = open(path, O_PATH | O_CLOEXEC);
@@ -79,7 +79,7 @@ void askResolved(const char* path, RawFacts& facts) {
     close(place);
 }
 
-/// Whether the file system keeps an attribute of this name; not told where the answer does not say.
+/// Whether the file system supports attributes of this name; not set if unclear.
 void askAttribute(const char* path, const char* name, Told<bool>& keeps) {
     if (getxattr(path, name, nullptr, 0) >= 0 || errno == ENODATA)
         keeps.tell(true);
@@ -167,13 +167,13 @@ PathFacts decoded(const fs::path& path, const RawFacts& raw) {
 
 constexpr int mostLinks = 40; // as the kernel counts
 
-/// Resolves a path without entering what may hang.
+/// Resolves a path without entering mounts that may hang.
 class CarefulWalk {
 public:
     explicit CarefulWalk(std::unordered_set<std::string> hanging)
         : m_hanging(std::move(hanging)) {}
 
-    /// Whether the way to `path` comes to such a mount.
+    /// Whether the look-up of `path` enters such a mount.
     bool meetsOne(const fs::path& path) {
         m_left.assign(path.begin(), path.end());
         while (!m_left.empty()) {
@@ -220,7 +220,7 @@ private:
     int m_links = 0;
 };
 
-// File systems of the kernel's own that are in each machine. Not procfs: its links lead anywhere.
+// The kernel's own file systems, which never hang. Not procfs: its links lead anywhere.
 constexpr std::array<std::string_view, 11> kernelTypes = {"sysfs",     "devtmpfs",   "devpts",  "cgroup",
                                                           "cgroup2",   "securityfs", "debugfs", "tracefs",
                                                           "hugetlbfs", "mqueue",     "efivarfs"};

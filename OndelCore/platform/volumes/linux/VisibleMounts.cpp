@@ -19,7 +19,7 @@ namespace OndelCore::platform {
 
 namespace {
 
-// Where the system, its packages and its containers mount things for themselves.
+// Internal mount points of the system, its packages and its containers.
 constexpr std::array<std::string_view, 14> systemPlaces = {
     "/proc",
     "/sys",
@@ -38,14 +38,14 @@ constexpr std::array<std::string_view, 14> systemPlaces = {
 };
 constexpr std::array<std::string_view, 1> peoplesPlaces = {"/run/media"};
 
-// Where containers mount single files and folders of the host's file system for their own needs.
+// Places where containers mount files and folders of the host for internal use.
 constexpr std::array<std::string_view, 6> programPlaces = {"/etc", "/usr", "/bin", "/lib", "/lib64", "/sbin"};
 
-// FUSE programs of the desktop and the system that show no storage.
+// FUSE programs of the desktop and the system without storage.
 constexpr std::array<std::string_view, 6> serviceTypes = {
     "fuse.gvfsd-fuse", "fuse.portal", "fuse.lxcfs", "fuse.snapfuse", "fuse.veracrypt", "fuse.squashfuse"};
 
-// File systems that only ever hold a finished image.
+// File systems of read-only images.
 constexpr std::array<std::string_view, 4> imageTypes = {"squashfs", "erofs", "cramfs", "romfs"};
 
 template <typename Names>
@@ -63,7 +63,7 @@ bool isBelowAny(std::string_view path, const Places& places) {
                        [&](std::string_view place) { return isBelow(path, place); });
 }
 
-/// Which mounts can be reached by their mount points, and are not covered by others.
+/// Determines which mounts are accessible at their mount points, that is, not covered by others.
 class Reachability {
 public:
     explicit Reachability(const std::vector<Mount>& mounts) {
@@ -87,7 +87,7 @@ public:
                 break;
             }
             chain.push_back(next);
-            m_known.emplace(next, false); // also ends a circle of damaged parent numbers
+            m_known.emplace(next, false); // ends cycles of damaged parent ids
             if (!isTop(*next) || !isOnTopOfBelow(*next)) {
                 result = false;
                 break;
@@ -99,7 +99,7 @@ public:
     }
 
 private:
-    /// Null for the topmost mount, which the kernel lists as its own parent or below one that is out of view.
+    /// Null for the root mount: its parent is itself or outside the namespace.
     const Mount* parentOf(const Mount& mount) const {
         const auto found = m_byId.find(mount.parentId);
         return found == m_byId.end() || mount.parentId == mount.id ? nullptr : found->second;
@@ -108,7 +108,7 @@ private:
         const auto top = m_top.find(mount.mountPoint.native());
         return top != m_top.end() && top->second == &mount;
     }
-    /// The mount that a path lookup passes last before it comes to this mount point.
+    /// The mount that holds this mount point in a path look-up.
     const Mount* mountBelow(const Mount& mount) const {
         std::string_view path = mount.mountPoint.native();
         while (path.size() > 1) {
@@ -167,8 +167,8 @@ bool isVolume(const Mount& mount, const std::function<bool(const fs::path&)>& is
     return mount.root == "/" || (!isForPrograms && isFolder(mount.mountPoint));
 }
 
-/// What makes two mounts one volume: the same superblock, for ZFS the same pool. Two shares of a server may
-/// have one superblock and are two volumes all the same.
+/// Mounts with the same identity are one volume: the same superblock, or the same ZFS pool. Shares of one
+/// server may have one superblock, but are separate volumes.
 std::string identity(const Mount& mount) {
     if (mount.type == "zfs")
         return "pool " + mount.source.substr(0, mount.source.find('/'));

@@ -23,8 +23,8 @@ std::optional<std::string> nonEmpty(std::optional<std::string> text) {
     return text && text->empty() ? std::nullopt : std::move(text);
 }
 
-/// The label as the mounted file system itself has it, which needs no right to read the device and wakes no
-/// disk. Empty: it has none. Fails: absent if it cannot be asked.
+/// The label from the mounted file system, which needs no permission on the device and wakes no disk. Empty:
+/// no label. Fails: absent if the file system does not tell it.
 std::optional<std::string> labelOfMounted(const Mount& mount) {
     if (mount.type.starts_with("fuse"))
         return std::nullopt;
@@ -40,12 +40,12 @@ std::optional<std::string> labelOfMounted(const Mount& mount) {
     return std::string(label.data());
 }
 
-/// The label of the file system, else the name of the partition that it lies in.
+/// The label of the file system, else the name of its partition.
 std::optional<std::string> labelOnDevice(const Mount& mount, const BlockDevice& device,
                                          const SystemSources& sources) {
     const DeviceProperties properties = sources.database(device.number);
     auto label = propertyIn(properties, "ID_FS_LABEL");
-    // With an entry for the type the first sectors have been looked at: no label is no label then.
+    // An entry for the type means that udev read the superblock, so the file system has no label.
     if (!label && !properties.contains("ID_FS_TYPE")) {
         label = labelOfMounted(mount);
         if (!label)

@@ -8,7 +8,7 @@
 
 namespace OndelCore::platform {
 
-/// The answer of XFS to "what is your geometry", first version (xfs_fs.h); all in the machine's byte order.
+/// The result of XFS_IOC_FSGEOMETRY_V1 (xfs_fs.h), in native byte order.
 struct XfsGeometry {
     std::array<std::uint32_t, 4> blockAndGroupSizes;
     std::array<std::uint32_t, 4> sectorAndInodeSizes;
