@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""A real benchmark in the real window. Usage: driven_window.py PROGRAM"""
+"""A real benchmark in the real window. Usage: driven_window.py PROGRAM DRAG-SOURCE [CASE]..."""
 
 import os
 import pathlib
@@ -131,9 +131,12 @@ def tells_why_health_is_missing(program, _folder):
 
 if __name__ == "__main__":
     driver.enter_display()
+    program, _source, *only = sys.argv[1:]
     with driver.fast_folder() as name:
         for case in (runs_to_the_end, ends_cleanly_in_a_run, goes_by_keyboard, refuses_what_it_cannot_use,
                      tells_why_health_is_missing):
+            if only and case.__name__ not in only:
+                continue
             print(case.__name__.replace("_", " "), flush=True)
-            case(sys.argv[1], pathlib.Path(name))
+            case(program, pathlib.Path(name))
             nothing_left(pathlib.Path(name))

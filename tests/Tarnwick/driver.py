@@ -16,7 +16,7 @@ import time
 from displays import X11, display  # noqa: F401
 
 SKIP = 77
-GUARD_SECONDS = 40  # not a test of speed: catches what never happens
+GUARD_SECONDS = float(os.environ.get("ONDEL_GUARD_SECONDS", 40))  # not a test of speed: catches what never happens
 ACCESSIBILITY = {"org.a11y.Bus": "/usr/libexec/at-spi-bus-launcher"}
 MAIN = "^Ondel Tarnwick$"  # the title of the main window
 
@@ -53,7 +53,7 @@ def environment(home, services, variables):
     bus_configuration(home, folder)
     runtime = pathlib.Path(home, "run")
     runtime.mkdir(mode=0o700)
-    kept = {name: value for name, value in os.environ.items() if name in ("PATH", "LD_LIBRARY_PATH", "TZ", "USER", "LOGNAME", "ONDEL_DISPLAY")}
+    kept = {name: value for name, value in os.environ.items() if name in ("PATH", "LD_LIBRARY_PATH", "TZ", "USER", "LOGNAME", "ONDEL_DISPLAY", "ONDEL_GUARD_SECONDS")}
     return kept | {
         "ONDEL_DRIVEN": "1", "HOME": home, "XDG_RUNTIME_DIR": str(runtime), "TMPDIR": home, "LC_ALL": "C.UTF-8",
         "XDG_CONFIG_HOME": f"{home}/config", "XDG_DATA_HOME": f"{home}/data", "XDG_STATE_HOME": f"{home}/state",

@@ -156,6 +156,22 @@ TEST_F(Failure, AnInterruptedTransferIsMadeAgainUntilCancelled) {
     EXPECT_EQ(system.failureOf(plan, folder.path()), "cancelled");
 }
 
+TEST_F(Failure, AShortWriteIsContinued) {
+    std::uintmax_t length = 0;
+    system.write = [&](int file, const void* bytes, std::size_t size) {
+        const ssize_t written = write(file, bytes, std::min<std::size_t>(size, 1000));
+        length += static_cast<std::uintmax_t>(written);
+        return written;
+    };
+    for (const auto test : {sequentialWrite, sequentialRead}) { // which prepares the file by writing it
+        length = 0;
+        const auto result = system.run(smallPlan({test}, BenchmarkSize::fixed(10'000)), folder.path());
+        EXPECT_EQ((result.sequentialWrite ? result.sequentialWrite : result.sequentialRead)->bytesProcessed,
+                  10'000);
+        EXPECT_EQ(length, 10'000U);
+    }
+}
+
 TEST_F(Failure, NumbersBeyondTheMachineAreErrors) {
     auto plan = smallPlan({sequentialWrite}, BenchmarkSize::fixed(8192));
     plan.writeBlockSize = std::numeric_limits<std::int64_t>::max();
