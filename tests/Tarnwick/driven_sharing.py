@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Comparing runs and sharing images in the real window. Usage: driven_sharing.py PROGRAM"""
+"""Comparing runs and sharing images in the real window. Usage: driven_sharing.py PROGRAM DRAG-SOURCE [CASE]..."""
 
 import os
 import pathlib
@@ -112,6 +112,7 @@ def says_what_cannot_be_done(program, home, _folder):
 
 if __name__ == "__main__":
     driver.enter_display()
+    program, _source, *only = sys.argv[1:]
     home = pathlib.Path(os.environ["HOME"])
     (home / "bin").mkdir()
     for tool in TOOLS:
@@ -121,5 +122,7 @@ if __name__ == "__main__":
     saved_runs.lay_down([saved_runs.run(i) for i in range(4)])
     with driver.fast_folder() as name:
         for case in (compares_and_shares, draws_alike_in_both_renderers, says_what_cannot_be_done):
+            if only and case.__name__ not in only:
+                continue
             print(case.__name__.replace("_", " "), flush=True)
-            case(sys.argv[1], home, pathlib.Path(name))
+            case(program, home, pathlib.Path(name))
