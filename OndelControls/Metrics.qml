@@ -11,6 +11,13 @@ QtObject {
     /// Above what a control holds.
     readonly property int focusLayer: 10
 
+    /// Sizes of text in what follows the system's style: sheets, panels, menus.
+    readonly property int textSize: 13
+    readonly property int captionSize: 12
+    readonly property int noteSize: 10
+    readonly property int titleSize: 17
+
+    readonly property int fieldWidth: 200
     readonly property int tipDelay: 700
     readonly property int tipWidth: 320
     /// How far tips and menus stay away from the window's edges, and from their control.
@@ -36,6 +43,7 @@ QtObject {
     readonly property int tipShadowOffset: 4
     readonly property int menuShadow: 18
     readonly property int menuShadowOffset: 8
+    readonly property real dimming: 0.32
     readonly property int sheetShadow: 22
     readonly property int sheetShadowOffset: 16
 }

@@ -14,12 +14,9 @@ ColumnLayout {
 
     spacing: 8
 
-    PlainText {
+    HeadingText {
         Layout.leftMargin: 4
         text: section.title
-        font: Typeface.display(14)
-        color: PaletteKey.palette.heading
-        Accessible.role: Accessible.Heading
     }
     Card {
         Layout.fillWidth: true

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import OndelControls
 import OndelAppSupport.views
 import TarnwickKit.views
 import Tarnwick
@@ -17,13 +16,6 @@ Item {
     implicitWidth: 440
     implicitHeight: form.implicitHeight + 40
 
-    component Caption: PlainText {
-        Layout.fillWidth: true
-        font: Typeface.text(12)
-        color: PaletteKey.palette.text2
-        wrapMode: Text.Wrap
-    }
-
     ColumnLayout {
         id: form
 
@@ -34,7 +26,8 @@ Item {
         SettingsSection {
             title: qsTr("Updates")
 
-            SettingsToggle {
+            ToggleSwitch {
+                Layout.fillWidth: true
                 label: qsTr("Check for updates automatically")
                 explanation: qsTr("Looks for a new version about once a day and asks before installing it. Off, Tarnwick only checks when you choose Check for Updates.")
                 enabled: view.updater.isConfigured
@@ -47,6 +40,7 @@ Item {
                 onClicked: view.updater.checkForUpdates()
             }
             Caption {
+                Layout.fillWidth: true
                 visible: !view.updater.isConfigured
                 text: qsTr("This build doesn’t update itself. Development builds are built without the update feed, so they can’t replace themselves with a release.")
             }
@@ -55,13 +49,15 @@ Item {
             title: qsTr("Support Tarnwick")
 
             Caption {
+                Layout.fillWidth: true
                 text: qsTr("Tarnwick is free, and made by one developer. Support covers the Apple developer program, hosting, and the time it takes to keep it going.")
             }
             AlertButton {
                 label: qsTr("Support on Ko-fi…")
                 onClicked: view.support.openSupportPage(false)
             }
-            SettingsToggle {
+            ToggleSwitch {
+                Layout.fillWidth: true
                 label: qsTr("I’ve already supported Tarnwick")
                 explanation: qsTr("Hides the support note at the foot of the sidebar.")
                 on: view.support.isSupporter

@@ -48,14 +48,14 @@ PanelWindow {
             sourceSize.height: 96
             Accessible.ignored: true
         }
-        SheetText {
+        BodyText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: panel.app.name
             font.pixelSize: 17
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
         }
-        SheetText {
+        BodyText {
             anchors.horizontalCenter: parent.horizontalCenter
             bottomPadding: 6
             text: qsTr("Version %1").arg(AppSupport.appVersion)

@@ -9,26 +9,14 @@ T.CheckBox {
     id: box
 
     implicitWidth: words.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(16, words.implicitHeight)
+    implicitHeight: Math.max(indicator.implicitHeight, words.implicitHeight)
     leftPadding: 22
     Accessible.name: text
 
-    indicator: Card {
+    indicator: TickBox {
         y: Math.round((box.height - height) / 2)
-        width: 16
-        height: 16
-        radius: 4
-        color: box.checked ? box.palette.highlight : box.palette.base
-        outline: box.checked ? "transparent" : box.palette.mid
-
-        Symbol {
-            anchors.centerIn: parent
-            visible: box.checked
-            name: "checkmark"
-            size: 10
-            weight: Font.DemiBold
-            color: box.palette.highlightedText
-        }
+        ticked: box.checked
+        markWeight: Font.DemiBold
     }
     contentItem: PlainText {
         id: words

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import OndelAppSupport.views
 
 /// Whether the log goes along with a report, and what is in it.
@@ -19,7 +20,7 @@ Column {
         checked: option.form.attachDiagnostics
         onCheckedChanged: option.form.attachDiagnostics = checked
     }
-    SheetText {
+    BodyText {
         x: 22
         width: parent.width - x
         secondary: true

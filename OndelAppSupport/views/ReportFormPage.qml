@@ -54,7 +54,7 @@ ColumnLayout {
             size: 10
             color: page.palette.placeholderText
         }
-        SheetText {
+        BodyText {
             Layout.fillWidth: true
             secondary: true
             font.pixelSize: 10
@@ -78,7 +78,7 @@ ColumnLayout {
             size: 13
             color: OndelBrand.coral
         }
-        SheetText {
+        BodyText {
             Layout.fillWidth: true
             text: page.form.errorText
             font.pixelSize: 12

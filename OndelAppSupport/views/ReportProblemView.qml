@@ -11,8 +11,6 @@ FocusScope {
     id: view
 
     property appIdentity app: AppSupport.app
-    /// Is given the path of a file that the user wants to read.
-    property var showDiagnostics: path => AppSupport.openFile(path)
 
     signal dismissed
 
@@ -27,6 +25,10 @@ FocusScope {
     Keys.onReturnPressed: view.proceed()
     Keys.onEnterPressed: view.proceed()
 
+    /// Shows a file that the user wants to read. A host that shows it in its own way declares this function anew.
+    function showDiagnostics(path: string): void {
+        AppSupport.openFile(path);
+    }
     function proceed(): void {
         if (form.sent)
             dismissed();
@@ -55,7 +57,7 @@ FocusScope {
                 size: 17
                 color: view.palette.windowText
             }
-            SheetText {
+            BodyText {
                 id: title
 
                 text: form.sent ? qsTr("Thank You") : qsTr("Report a Problem")
@@ -80,7 +82,7 @@ FocusScope {
                 size: 28
                 color: view.palette.highlight
             }
-            SheetText {
+            BodyText {
                 Layout.fillWidth: true
                 text: qsTr("Your report has been filed. Thanks for helping make %1 better.").arg(view.app.shortName)
             }
@@ -88,7 +90,7 @@ FocusScope {
         RowLayout {
             spacing: 8
 
-            SheetText {
+            BodyText {
                 visible: !form.sent
                 secondary: true
                 font.pixelSize: 10

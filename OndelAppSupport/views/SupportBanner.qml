@@ -39,7 +39,7 @@ Card {
         anchors.rightMargin: 12
         y: banner.fitsOneRow ? Math.round((parent.height - height) / 2) : 12
 
-        SheetText {
+        BodyText {
             id: free
 
             width: parent.width
@@ -48,7 +48,7 @@ Card {
             font.weight: Font.Medium
             color: "white"
         }
-        SheetText {
+        BodyText {
             id: plea
 
             width: parent.width

@@ -76,14 +76,14 @@ PanelWindow {
         ColumnLayout {
             spacing: 8
 
-            SheetText {
+            BodyText {
                 Layout.fillWidth: true
                 text: words.heading
                 font.pixelSize: 14
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
             }
-            SheetText {
+            BodyText {
                 Layout.fillWidth: true
                 visible: text !== ""
                 text: words.detail

@@ -33,7 +33,7 @@ public:
     void setSizeIndex(int index);
     Q_SIGNAL void sizeIndexChanged();
     /// The labels of BenchmarkSize::presets.
-    Q_PROPERTY(QStringList sizeLabels READ sizeLabels CONSTANT)
+    Q_PROPERTY(QList<QString> sizeLabels READ sizeLabels CONSTANT)
     static QStringList sizeLabels();
     /// The chosen size fills the disk. The views ask before such a run.
     Q_PROPERTY(bool isFillDisk READ isFillDisk NOTIFY sizeIndexChanged)
@@ -79,12 +79,12 @@ public:
     /// The entries of the block size menus, ascending. They include the optimal size, which is marked.
     std::vector<BlockOption> blockOptions() const;
     static std::vector<BlockOption> randomBlockOptions();
-    Q_PROPERTY(QStringList blockLabels READ blockLabels NOTIFY optimalBlockChanged)
+    Q_PROPERTY(QList<QString> blockLabels READ blockLabels NOTIFY optimalBlockChanged)
     QStringList blockLabels() const;
     Q_PROPERTY(QList<double> blockValues READ blockValues NOTIFY optimalBlockChanged)
     QList<double> blockValues() const;
     Q_SIGNAL void optimalBlockChanged();
-    Q_PROPERTY(QStringList randomBlockLabels READ randomBlockLabels CONSTANT)
+    Q_PROPERTY(QList<QString> randomBlockLabels READ randomBlockLabels CONSTANT)
     static QStringList randomBlockLabels();
     Q_PROPERTY(QList<double> randomBlockSizes READ randomBlockSizes CONSTANT)
     static QList<double> randomBlockSizes();

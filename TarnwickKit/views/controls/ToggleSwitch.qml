@@ -5,31 +5,36 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// A labelled on/off switch.
-PlainButton {
+/// A labelled on/off switch. What is to be explained stands below its label.
+ToggleButton {
     id: control
 
-    property bool on: false
-
-    signal wanted(on: bool)
+    property string explanation: ""
+    property color textColor: PaletteKey.palette.text
 
     corner: 7
-    leftPadding: ViewMetrics.sidebarInset
-    rightPadding: ViewMetrics.sidebarInset
-    checkable: true
-    checked: on
-    onCheckedChanged: if (checked !== on) wanted(checked)
+    detail: explanation
 
     contentItem: RowLayout {
-        spacing: 8
+        spacing: 16
 
-        PlainText {
-            Layout.fillWidth: true
-            text: control.label
-            font: Typeface.text(13, Font.Medium)
-            color: PaletteKey.palette.text2
-            elide: Text.ElideRight
-            Accessible.ignored: true
+        ColumnLayout {
+            spacing: 2
+
+            PlainText {
+                Layout.fillWidth: true
+                text: control.label
+                font: Typeface.text(13, Font.Medium)
+                color: control.textColor
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
+            Caption {
+                Layout.fillWidth: true
+                visible: text.length > 0
+                text: control.explanation
+                Accessible.ignored: true
+            }
         }
         PaletteSwitch {
             on: control.on

@@ -43,16 +43,9 @@ PlainButton {
             RowLayout {
                 spacing: 8
 
-                PlainText {
-                    Layout.fillWidth: true
-                    Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
-                    Layout.maximumWidth: Layout.preferredWidth
+                RunTitle {
                     text: view.facts.title
-                    horizontalAlignment: Text.AlignLeft
                     font: Typeface.display(15)
-                    color: PaletteKey.palette.text
-                    elide: Text.ElideRight
-                    maximumLineCount: 1
                     Accessible.ignored: true
                 }
                 CompleteBadge {}

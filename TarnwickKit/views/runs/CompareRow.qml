@@ -39,15 +39,14 @@ Item {
     OnDemand {
         active: row.picking
 
-        PlainButton {
+        ToggleButton {
             width: row.width
             height: row.height
             label: row.label
             detail: row.detail
             corner: 12
-            checkable: true
-            checked: row.chosen
-            onCheckedChanged: if (checked !== row.chosen) row.wanted(checked)
+            on: row.chosen
+            onWanted: on => row.wanted(on)
         }
     }
 }

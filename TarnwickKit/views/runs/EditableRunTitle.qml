@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
@@ -12,10 +11,11 @@ Item {
 
     required property runFacts facts
     property bool isEditing: false
+    readonly property real fieldWidth: 320
 
     signal renamed(text: string)
 
-    implicitWidth: isEditing ? 320 : button.implicitWidth
+    implicitWidth: isEditing ? fieldWidth : button.implicitWidth
     implicitHeight: button.implicitHeight
 
     function edit(): void {
@@ -44,16 +44,8 @@ Item {
         contentItem: RowLayout {
             spacing: 6
 
-            PlainText {
-                Layout.fillWidth: true
-                Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
-                Layout.maximumWidth: Layout.preferredWidth
+            RunTitle {
                 text: title.facts.title
-                horizontalAlignment: Text.AlignLeft
-                font: Typeface.display(16)
-                color: PaletteKey.palette.text
-                elide: Text.ElideRight
-                maximumLineCount: 1
                 Accessible.ignored: true
             }
             Symbol {
@@ -67,19 +59,16 @@ Item {
     OnDemand {
         active: title.isEditing
 
-        T.TextField {
-            id: field
-
-            width: Math.min(320, title.width)
+        TextLine {
+            width: Math.min(title.fieldWidth, title.width)
             height: title.height
+            framed: false
             font: Typeface.display(16)
             color: PaletteKey.palette.text
             selectionColor: PaletteKey.palette.tealSoft
             selectedTextColor: PaletteKey.palette.text
-            placeholderText: qsTr("Report title")
-            placeholderTextColor: PaletteKey.palette.text3
-            selectByMouse: true
-            Accessible.name: placeholderText
+            prompt: qsTr("Report title")
+            promptColor: PaletteKey.palette.text3
             Component.onCompleted: {
                 text = title.facts.customTitle; // once: what is typed is not to be taken back
                 forceActiveFocus();
@@ -87,14 +76,6 @@ Item {
             onAccepted: title.commit(text, true)
             onActiveFocusChanged: if (!activeFocus) title.commit(text, false)
             Keys.onEscapePressed: title.commit(title.facts.customTitle, true)
-
-            PlainText {
-                visible: field.text.length === 0
-                text: field.placeholderText
-                font: field.font
-                color: field.placeholderTextColor
-                Accessible.ignored: true
-            }
         }
     }
 }

@@ -18,15 +18,8 @@ CardFrame {
             turnsItself: false
             step: live.beat % 8
         },
-        PlainText {
-            Layout.fillWidth: true
-            Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
-            Layout.maximumWidth: Layout.preferredWidth
+        RunTitle {
             text: pane.volumeName
-            horizontalAlignment: Text.AlignLeft
-            font: Typeface.display(16)
-            color: PaletteKey.palette.text
-            elide: Text.ElideRight
         },
         Chip {
             visible: text.length > 0

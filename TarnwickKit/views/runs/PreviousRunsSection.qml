@@ -18,7 +18,7 @@ Column {
 
     readonly property int rowHeight: 65
     /// How far below the view rows are made before they are scrolled to.
-    readonly property real ahead: Assistance.active ? Infinity : 12 * (rowHeight + spacing)
+    readonly property real ahead: AssistiveTechnology.active ? Infinity : 12 * (rowHeight + spacing)
     /// How many more rows may be made before the next frame. Those in view come with the first frame, however many.
     property real allowance: Infinity
     property bool isWaiting: false
@@ -61,11 +61,8 @@ Column {
         width: section.width
         spacing: 10
 
-        PlainText {
+        HeadingText {
             text: section.analyzer.compareMode ? qsTr("Select runs to compare") : qsTr("Previous runs")
-            font: Typeface.display(14)
-            color: PaletteKey.palette.heading
-            Accessible.role: Accessible.Heading
         }
         Separator {
             Layout.fillWidth: true

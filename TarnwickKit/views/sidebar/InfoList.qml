@@ -7,7 +7,7 @@ import TarnwickKit.views
 Column {
     id: list
 
-    required property var items
+    required property list<infoItem> items
 
     Repeater {
         model: list.items

@@ -19,11 +19,9 @@ RowLayout {
         size: 12
         color: header.isFailing ? "red" : PaletteKey.palette.good
     }
-    PlainText {
+    HeadingText {
         Layout.fillWidth: true
         text: qsTr("S.M.A.R.T.")
-        font: Typeface.display(14)
-        color: PaletteKey.palette.heading
         Accessible.ignored: true
     }
     PlainText {

@@ -10,8 +10,7 @@ RowLayout {
     id: setting
 
     required property string label
-    /// The labels. A QStringList: to the linter, list<string> is another type.
-    required property var options
+    required property list<string> options
     required property int current
     property string value: options[current] ?? ""
 

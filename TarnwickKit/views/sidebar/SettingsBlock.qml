@@ -43,7 +43,10 @@ Column {
     }
     ToggleSwitch {
         width: parent.width
+        leftPadding: ViewMetrics.sidebarInset
+        rightPadding: ViewMetrics.sidebarInset
         topPadding: 2
+        textColor: PaletteKey.palette.text2
         label: qsTr("Bypass cache")
         on: block.analyzer.bypassCache
         onWanted: on => block.analyzer.bypassCache = on

@@ -49,8 +49,8 @@ Rectangle {
                         width: parent.width
                         title: sidebar.analyzer.testTitles[index]
                         figure: sidebar.analyzer.sidebarValues[index]
-                        chosen: sidebar.holds(sidebar.analyzer.selectedTests, modelData)
-                        onWanted: chosen => sidebar.analyzer.setTestSelected(modelData, chosen)
+                        on: sidebar.holds(sidebar.analyzer.selectedTests, modelData)
+                        onWanted: on => sidebar.analyzer.setTestSelected(modelData, on)
                     }
                 }
             }

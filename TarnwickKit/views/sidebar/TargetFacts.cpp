@@ -1,7 +1,6 @@
 #include "TarnwickKit/views/sidebar/TargetFacts.h"
 
 #include "TarnwickKit/model/format/Format.h"
-#include "TarnwickKit/views/runs/RunFacts.h"
 #include "TarnwickKit/views/style/LegibleText.h"
 
 #include <QFile>
@@ -77,13 +76,13 @@ int TargetFacts::volumeKind() const {
     return m_analyzer ? static_cast<int>(m_analyzer->selectedVolumeKind()) : 0;
 }
 
-QVariantList TargetFacts::capabilities() const {
-    QVariantList items;
+QList<InfoItem> TargetFacts::capabilities() const {
+    QList<InfoItem> items;
     if (!hasCapabilities())
         return items;
     const VolumeCapabilities& can = *m_analyzer->capabilities();
     const auto add = [&](const QString& label, const QString& value) {
-        items.append(QVariant::fromValue(InfoItem{label, value}));
+        items.append(InfoItem{label, value});
     };
     add(tr("File system"), can.filesystemType.toUpper());
     add(tr("Format"), letterCase(can.isCaseSensitive));
@@ -130,13 +129,12 @@ bool TargetFacts::isFailing() const {
     return hasHealth() && m_analyzer->smart()->status == DiskSMART::Status::failing;
 }
 
-QVariantList TargetFacts::health() const {
-    QVariantList items;
+QList<InfoItem> TargetFacts::health() const {
+    QList<InfoItem> items;
     if (hasHealth())
         for (const DiskSMART::Attribute& attribute : m_analyzer->smart()->attributes)
-            items.append(
-                QVariant::fromValue(InfoItem{QString::fromStdString(attribute.label),
-                                             QString::fromStdString(attribute.value), attribute.warning}));
+            items.append(InfoItem{QString::fromStdString(attribute.label),
+                                  QString::fromStdString(attribute.value), attribute.warning});
     return items;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TarnwickKit/views/runs/RunFacts.h"
 #include "TarnwickKit/views/window/ModelObserver.h"
 
 #include <QObject>
@@ -39,7 +40,7 @@ class TargetFacts : public QObject {
     Q_PROPERTY(int volumeKind READ volumeKind NOTIFY volumeChanged)
 
     Q_PROPERTY(bool hasCapabilities READ hasCapabilities NOTIFY volumeChanged)
-    Q_PROPERTY(QVariantList capabilities READ capabilities NOTIFY volumeChanged)
+    Q_PROPERTY(QList<TarnwickKit::views::InfoItem> capabilities READ capabilities NOTIFY volumeChanged)
     /// The names of the features that the file system has.
     Q_PROPERTY(QStringList features READ features NOTIFY volumeChanged)
     /// Names the features of which is not known whether the file system has them; "" when all are known.
@@ -47,7 +48,7 @@ class TargetFacts : public QObject {
 
     Q_PROPERTY(bool hasHealth READ hasHealth NOTIFY healthChanged)
     Q_PROPERTY(bool isFailing READ isFailing NOTIFY healthChanged)
-    Q_PROPERTY(QVariantList health READ health NOTIFY healthChanged)
+    Q_PROPERTY(QList<TarnwickKit::views::InfoItem> health READ health NOTIFY healthChanged)
     /// Why the drive's health is not, or not completely, known; "" when it is, or without a drive.
     Q_PROPERTY(QString healthNote READ healthNote NOTIFY healthChanged)
 public:
@@ -61,7 +62,7 @@ public:
     QString volumeLine() const;
     int volumeKind() const;
     bool hasCapabilities() const { return m_analyzer && m_analyzer->capabilities(); }
-    QVariantList capabilities() const;
+    QList<InfoItem> capabilities() const;
     QStringList features() const;
     QStringList unknownFeatures() const;
     QString featuresNote() const;
@@ -69,7 +70,7 @@ public:
 
     bool hasHealth() const;
     bool isFailing() const;
-    QVariantList health() const;
+    QList<InfoItem> health() const;
     QString healthNote() const;
     Q_SIGNAL void healthChanged();
 

@@ -29,10 +29,8 @@ Column {
                 isExpanded: kept.capabilitiesExpanded
                 onToggled: expanded => kept.capabilitiesExpanded = expanded
 
-                header: PlainText {
+                header: HeadingText {
                     text: capabilities.label
-                    font: Typeface.display(14)
-                    color: PaletteKey.palette.heading
                     Accessible.ignored: true
                 }
 

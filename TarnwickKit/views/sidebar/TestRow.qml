@@ -6,14 +6,11 @@ import OndelControls
 import TarnwickKit.views
 
 /// One test: whether it runs, and its figure of the last run.
-PlainButton {
+ToggleButton {
     id: row
 
     required property string title
     required property string figure
-    property bool chosen: false
-
-    signal wanted(chosen: bool)
 
     label: title
     corner: 9
@@ -23,32 +20,25 @@ PlainButton {
     bottomPadding: 9
 
     detail: figure
-    checkable: true
-    checked: chosen
-    onCheckedChanged: if (checked !== chosen) wanted(checked)
 
     background: Card {
-        radius: 9
-        color: row.chosen ? row.PaletteKey.palette.sel : "transparent"
+        radius: row.corner
+        color: row.on ? row.PaletteKey.palette.sel : "transparent"
     }
     contentItem: RowLayout {
         spacing: 11
 
-        Card {
+        TickBox {
             implicitWidth: 18
             implicitHeight: 18
             radius: 6
-            color: row.chosen ? row.PaletteKey.palette.accent : row.PaletteKey.palette.panel
-            outline: row.chosen ? "transparent" : row.PaletteKey.palette.border
+            ticked: row.on
+            activeColor: row.PaletteKey.palette.accent
+            idleColor: row.PaletteKey.palette.panel
+            idleOutline: row.PaletteKey.palette.border
             outlineWidth: 1.5
-
-            Symbol {
-                anchors.centerIn: parent
-                visible: row.chosen
-                name: "checkmark"
-                size: 9
-                color: row.PaletteKey.palette.onAccent
-            }
+            markSize: 9
+            markColor: row.PaletteKey.palette.onAccent
         }
         PlainText {
             Layout.fillWidth: true

@@ -16,6 +16,7 @@ QtObject {
     readonly property int figurePadding: 20
     readonly property int figureMargin: 17
 
+    readonly property int alertWidth: 400
     readonly property int badgeSide: 30
     /// A rate in a row of runs.
     readonly property int statWidth: 104

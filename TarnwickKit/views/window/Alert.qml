@@ -2,12 +2,11 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
-/// A question over the whole window. Escape and the first button leave everything as it is.
-T.Popup {
+/// A question over the whole window. Escape and the first button change nothing.
+BaseSheet {
     id: alert
 
     required property string title
@@ -18,26 +17,13 @@ T.Popup {
 
     signal accepted
 
-    anchors.centerIn: T.Overlay.overlay
-    width: 400
-    modal: true
-    focus: true
+    width: ViewMetrics.alertWidth
     padding: 22
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    closePolicy: T.Popup.CloseOnEscape
+    fill: PaletteKey.palette.panel
+    outline: PaletteKey.palette.border
+    shadowColor: PaletteKey.palette.shadow
     onOpened: cancel.forceActiveFocus(Qt.TabFocusReason)
 
-    T.Overlay.modal: Rectangle {
-        color: Qt.rgba(0, 0, 0, 0.32)
-    }
-    background: Card {
-        radius: Metrics.sheetCorner
-        color: PaletteKey.palette.panel
-        outline: PaletteKey.palette.border
-        shadowColor: PaletteKey.palette.shadow
-        shadowRadius: Metrics.sheetShadow
-        shadowOffset: Metrics.sheetShadowOffset
-    }
     contentItem: ColumnLayout {
         spacing: 10
         Accessible.role: Accessible.AlertMessage

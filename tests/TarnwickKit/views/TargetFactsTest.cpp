@@ -19,12 +19,10 @@ struct Shown {
     QStringList unknown;
 };
 
-QStringList rows(const QVariantList& items) {
+QStringList rows(const QList<InfoItem>& items) {
     QStringList result;
-    for (const QVariant& item : items) {
-        const auto row = item.value<InfoItem>();
+    for (const InfoItem& row : items)
         result << row.label + ": " + row.value + (row.warning ? "!" : "");
-    }
     return result;
 }
 

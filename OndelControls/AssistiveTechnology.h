@@ -4,21 +4,21 @@
 #include <QObject>
 #include <QQmlEngine>
 
-namespace TarnwickKit::views {
+namespace OndelControls {
 
-/// Whether assistive technology reads the window. It cannot scroll, so all content must exist while it does.
-class Assistance : public QObject, private QAccessible::ActivationObserver {
+/// Whether assistive technology reads the windows. It sees only what exists, and cannot scroll to make more.
+class AssistiveTechnology : public QObject, private QAccessible::ActivationObserver {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(bool active READ isActive NOTIFY activeChanged)
 public:
-    explicit Assistance(QObject* parent = nullptr)
+    explicit AssistiveTechnology(QObject* parent = nullptr)
         : QObject(parent) {
         QAccessible::installActivationObserver(this);
     }
-    ~Assistance() override { QAccessible::removeActivationObserver(this); }
-    Q_DISABLE_COPY_MOVE(Assistance)
+    ~AssistiveTechnology() override { QAccessible::removeActivationObserver(this); }
+    Q_DISABLE_COPY_MOVE(AssistiveTechnology)
 
     static bool isActive() { return QAccessible::isActive(); }
     Q_SIGNAL void activeChanged();
@@ -27,4 +27,4 @@ private:
     void accessibilityActiveChanged(bool) override { Q_EMIT activeChanged(); }
 };
 
-} // namespace TarnwickKit::views
+} // namespace OndelControls

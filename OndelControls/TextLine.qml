@@ -4,20 +4,25 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// A field for one line, which tells within itself what it is for while it is empty.
+/// A field for one line of text. While it is empty it shows what it is for.
 T.TextField {
     id: field
 
     required property string prompt
+    property color promptColor: palette.placeholderText
+    /// A field without a frame has the place of the text that it edits.
+    property bool framed: true
 
-    implicitWidth: 200
+    implicitWidth: Metrics.fieldWidth
     implicitHeight: contentHeight + topPadding + bottomPadding
-    leftPadding: 8
-    rightPadding: 8
-    topPadding: 6
-    bottomPadding: 6
-    font.family: Application.font.family
-    font.pixelSize: 13
+    leftPadding: framed ? 8 : 0
+    rightPadding: framed ? 8 : 0
+    topPadding: framed ? 6 : 0
+    bottomPadding: framed ? 6 : 0
+    font: Qt.font({
+        family: Application.font.family,
+        pixelSize: Metrics.textSize
+    })
     color: palette.text
     selectionColor: palette.highlight
     selectedTextColor: palette.highlightedText
@@ -25,6 +30,7 @@ T.TextField {
     Accessible.name: prompt
 
     background: FieldFrame {
+        visible: field.framed
         focused: field.activeFocus
     }
     PlainText {
@@ -33,8 +39,8 @@ T.TextField {
         width: field.width - field.leftPadding - field.rightPadding
         visible: field.length + field.preeditText.length === 0
         text: field.prompt
-        font.pixelSize: 13
-        color: field.palette.placeholderText
+        font: field.font
+        color: field.promptColor
         elide: Text.ElideRight
         Accessible.ignored: true
     }
