@@ -6,7 +6,7 @@
 
 namespace OndelControls {
 
-/// Whether assistive technology reads the windows. It sees only what exists, and cannot scroll to make more.
+/// Whether assistive technology is connected. It reads only items that exist, and cannot scroll to have others created.
 class AssistiveTechnology : public QObject, private QAccessible::ActivationObserver {
     Q_OBJECT
     QML_ELEMENT

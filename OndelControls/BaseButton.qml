@@ -4,12 +4,12 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// A button without looks of its own: what it shows is its content item. It tells assistive technology what it is, answers
-/// to Space and Return, and shows when it has the keyboard's focus.
+/// A button without a look of its own; users set its content item and background. It has an accessible role, name and
+/// action, reacts to Space and Return, and marks the keyboard focus.
 T.AbstractButton {
     id: button
 
-    /// Not the toolkit's `text`, in which an ampersand makes a shortcut.
+    /// Replaces the toolkit's `text`, in which an ampersand defines a shortcut.
     required property string label
     property string hint: ""
     /// What assistive technology reads after the label: a value, an explanation.
@@ -18,7 +18,7 @@ T.AbstractButton {
     property color focusColor: palette.highlight
     property bool dimsWhenInactive: true
     property int cursorShape: Qt.ArrowCursor
-    /// Shows the hint.
+    /// Is created to show the hint.
     property Component tip: null
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -29,7 +29,7 @@ T.AbstractButton {
 
     Accessible.role: checkable ? Accessible.CheckBox : Accessible.Button
     Accessible.name: label
-    // The toolkit has no word for a disabled item on the accessibility tree.
+    // Qt does not report the disabled state to assistive technology.
     Accessible.description: enabled ? detail : qsTr("Not available now")
     Accessible.focusable: enabled
     Accessible.onPressAction: if (button.enabled) button.activate()
@@ -48,7 +48,7 @@ T.AbstractButton {
 
         cursorShape: button.cursorShape
     }
-    // A history has hundreds of buttons, and one of them has the pointer.
+    // A history has hundreds of buttons; only the hovered one needs a tip.
     OnDemand {
         active: pointer.hovered && button.hint.length > 0
         component: button.tip

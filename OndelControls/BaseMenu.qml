@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// A menu that drops from a control. Arrow keys move in it, Return chooses, Escape closes.
+/// A drop-down menu. Arrow keys move in it, Return chooses, Escape closes.
 T.Menu {
     id: menu
 

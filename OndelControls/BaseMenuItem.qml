@@ -5,15 +5,15 @@ import QtQuick.Layouts
 import QtQuick.Templates as T
 import OndelControls
 
-/// A line of a menu.
+/// An entry or a heading of a menu.
 T.MenuItem {
     id: item
 
     property string symbol: ""
-    /// The mark of the choice that holds, in a menu that offers one of several.
+    /// Shows the mark of the current choice, in a menu that offers one of several.
     property bool chosen: false
     property bool isHeading: false
-    /// The keys that do the same.
+    /// The keyboard shortcut to show.
     property string keys: ""
 
     property real leastHeight: 26
@@ -22,7 +22,7 @@ T.MenuItem {
     property color symbolColor: ink
     property color keysColor: ink
     property color highlight: palette.highlight
-    /// As plain texts have it: the toolkit gives popups another one.
+    /// The same as in plain texts; a popup does not inherit it from the window.
     property font textFont: Qt.font({
         family: Application.font.family,
         pixelSize: 13,
@@ -40,7 +40,7 @@ T.MenuItem {
 
     Accessible.role: isHeading ? Accessible.Heading : Accessible.MenuItem
     Accessible.name: text
-    // The toolkit has no word for a disabled item on the accessibility tree.
+    // Qt does not report the disabled state to assistive technology.
     Accessible.description: enabled || isHeading ? keys : qsTr("Not available now")
     Accessible.checked: chosen
     Accessible.onPressAction: if (item.enabled) item.clicked()

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import OndelControls
 
-/// The frame of what is typed into, which shows whether it has the keyboard's focus.
+/// The frame of a text field, which marks the keyboard focus.
 Card {
     required property bool focused
 

@@ -4,10 +4,10 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// Marks the control that the keyboard would act on, just outside its edge.
+/// Marks the control that has the keyboard focus, just outside its edge.
 Card {
     required property T.Control control
-    /// The control's own.
+    /// The corner radius of the control.
     property real corner: Metrics.fieldCorner
 
     x: -Metrics.focusGap

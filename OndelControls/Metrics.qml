@@ -3,15 +3,15 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-/// The measures that controls share. Units: logical pixels, milliseconds, parts of full opacity.
+/// Shared measures of controls. Units: logical pixels, milliseconds, opacity from 0 to 1.
 QtObject {
-    /// The focus mark: its line, and how far outside of the control's edge it reaches.
+    /// The focus mark: its line width, and its distance from the control's edge.
     readonly property int focusLine: 2
     readonly property int focusGap: 3
-    /// Above what a control holds.
+    /// The focus mark's z order, above the control's content.
     readonly property int focusLayer: 10
 
-    /// Sizes of text in what follows the system's style: sheets, panels, menus.
+    /// Text sizes of sheets, panels and menus.
     readonly property int textSize: 13
     readonly property int captionSize: 12
     readonly property int noteSize: 10
@@ -20,7 +20,7 @@ QtObject {
     readonly property int fieldWidth: 200
     readonly property int tipDelay: 700
     readonly property int tipWidth: 320
-    /// How far tips and menus stay away from the window's edges, and from their control.
+    /// Distances of tips and menus: to the window's edges (margin), to their control (gap).
     readonly property int tipMargin: 6
     readonly property int tipGap: 6
     readonly property int menuMargin: 8
@@ -35,10 +35,10 @@ QtObject {
 
     readonly property real pressedOpacity: 0.75
     readonly property real disabledOpacity: 0.5
-    /// Of words on a disabled control.
+    /// Of a disabled control's text.
     readonly property real disabledTextOpacity: 0.45
 
-    /// Depth of what floats above the window: tips, menus, sheets.
+    /// Shadows of tips, menus and sheets.
     readonly property int tipShadow: 9
     readonly property int tipShadowOffset: 4
     readonly property int menuShadow: 18

@@ -2,10 +2,10 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-/// The one item for text. It shows markup as the characters it is made of: a name from outside can load no picture and
-/// follow no link. Assistive technology reads it, unless it is ignored as part of something that has a name.
+/// The one item for text. It shows markup literally, so that a name from outside cannot load a picture or insert a link.
+/// Assistive technology reads it, unless Accessible.ignored is set because an ancestor has the same text as its name.
 PlainTextBase {
-    /// Hides the format of Text, so that setting another one is an error.
+    /// Shadows the property of Text with a read-only one, so that setting another format is an error.
     readonly property int textFormat: Text.PlainText
 
     Accessible.role: Accessible.StaticText

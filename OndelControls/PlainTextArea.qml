@@ -3,9 +3,9 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 
-/// The one item for text of several lines that is edited or selected; plain as PlainText is.
+/// The one item for editable or selectable text of several lines. It shows markup literally, as PlainText does.
 T.TextArea {
-    /// Hides the format of TextEdit, which is this by default, so that setting another one is an error.
+    /// Shadows the property of TextEdit, whose default it has, so that setting another format is an error.
     readonly property int textFormat: TextEdit.PlainText
 
     implicitHeight: contentHeight + topPadding + bottomPadding

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-/// The part of PlainText that sets what PlainText then hides. For PlainText alone.
+/// Sets the text format, which PlainText then makes read-only. Use PlainText instead.
 Text {
     textFormat: Text.PlainText
 }

@@ -8,7 +8,7 @@ import OndelControls
 T.ProgressBar {
     id: bar
 
-    /// The toolkit tells assistive technology no value of a progress bar, so this has to contain the percentage.
+    /// Must contain the percentage: Qt does not report the value of a progress bar to assistive technology.
     required property string label
     readonly property int percent: Math.floor(100 * position)
     property color trackColor: palette.mid

@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// Shows where a page stands, and moves it.
+/// A scroll bar.
 T.ScrollBar {
     id: bar
 

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import OndelControls
 
-/// A hairline of one logical pixel, on whole device pixels.
+/// A line one logical pixel wide, aligned to device pixels.
 Card {
     implicitWidth: 1
     implicitHeight: 1

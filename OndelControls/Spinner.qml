@@ -2,14 +2,14 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-/// Says that something is under way. It steps twelve times a second: a smooth turn would have the whole window
-/// drawn sixty times a second beside a measurement.
+/// Shows that work is in progress. It advances twelve times a second: a smooth rotation would redraw the window sixty
+/// times a second during a measurement.
 Item {
     id: spinner
 
     property color color: "gray"
     property int step: 0
-    /// Otherwise somebody else counts its steps.
+    /// If false, its owner sets `step`.
     property bool turnsItself: true
 
     implicitWidth: 16

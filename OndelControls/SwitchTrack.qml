@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import OndelControls
 
-/// The picture of a switch.
+/// The track and the knob of a switch.
 Card {
     id: track
 

@@ -4,13 +4,13 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// A field for one line of text. While it is empty it shows what it is for.
+/// A text field of one line, with a prompt while it is empty.
 T.TextField {
     id: field
 
     required property string prompt
     property color promptColor: palette.placeholderText
-    /// A field without a frame has the place of the text that it edits.
+    /// A field without a frame has no padding either, to be placed over the text that it edits.
     property bool framed: true
 
     implicitWidth: Metrics.fieldWidth

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import OndelControls
 
-/// The picture of a box to tick.
+/// The box and the mark of a check box.
 Card {
     id: box
 

@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// The words that appear under a control when the pointer rests on it.
+/// A tool tip under its control.
 T.ToolTip {
     id: tip
 
@@ -12,13 +12,13 @@ T.ToolTip {
     property color ink: palette.windowText
     property color outline: palette.mid
     property color shadowColor: "transparent"
-    /// As plain texts have it: the toolkit gives popups another one.
+    /// The same as in plain texts; a popup does not inherit it from the window.
     property font textFont: Qt.font({
         family: Application.font.family,
         pixelSize: 12,
         hintingPreference: Font.PreferNoHinting
     })
-    /// Assistive technology reads it too. It knows a button's hint already.
+    /// Assistive technology reads it. A button's hint needs no reading: it is the button's description.
     property bool spoken: false
 
     delay: Metrics.tipDelay
@@ -30,7 +30,7 @@ T.ToolTip {
     horizontalPadding: 9
     verticalPadding: 5
     closePolicy: T.Popup.NoAutoClose
-    Component.onCompleted: visible = true // not before the delay is known
+    Component.onCompleted: visible = true // only now is the delay set
 
     contentItem: PlainText {
         text: tip.text

@@ -2,9 +2,9 @@ pragma ComponentBehavior: Bound
 
 import QtQuick.Templates as T
 
-/// One thing that a menu offers.
+/// A command of the menu bar.
 T.Action {
-    /// The keys that do the same, as the menu shows them.
+    /// The shortcut as the menu shows it.
     property string keys: shortcut ? String(shortcut) : ""
     property bool beginsGroup: false
 }

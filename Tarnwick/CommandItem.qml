@@ -4,13 +4,13 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A command in its menu. The first one of a group has a rule above it.
+/// The menu item of a command. The first one of a group has a separator above it.
 PopupMenuItem {
     id: item
 
     required property Command command
 
-    // Not as the item's action: that is deaf to assistive technology.
+    // Not through the item's `action`, which ignores the press action of assistive technology.
     text: command.text
     enabled: command.enabled
     onTriggered: command.trigger()

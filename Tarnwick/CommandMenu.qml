@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnwickKit.views
 
-/// A menu of the menu bar. Its items are made when it first opens.
+/// A menu of the menu bar. Its items are created when it first opens.
 PopupMenu {
     id: menu
 

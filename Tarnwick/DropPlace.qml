@@ -4,7 +4,7 @@ import QtQuick
 import TarnwickKit.views
 import Tarnwick
 
-/// Takes folders and run files that are dropped on it, and shows that it would.
+/// Accepts folders and run files that are dropped on it. An outline shows that a drop is possible.
 DropArea {
     id: place
 

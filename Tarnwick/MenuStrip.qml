@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
-/// The menu bar. F10 opens its first menu, the arrow keys go on from there.
+/// The menu bar. F10 opens its first menu; the arrow keys move to the others.
 T.MenuBar {
     id: bar
 
@@ -31,7 +31,7 @@ T.MenuBar {
         horizontalPadding: 8
         verticalPadding: 4
 
-        // The toolkit calls each title a menu bar of its own; its words say better what it is.
+        // Qt gives each title the role of a menu bar. The text inside has the role of a menu item.
         Accessible.ignored: true
 
         contentItem: PlainText {

@@ -5,8 +5,8 @@ import QtQuick.Templates as T
 import OndelControls
 import Tarnwick
 
-/// What shows beside or over the main window. Each is loaded when it is first wanted, so that the window's start does
-/// not wait for any of it.
+/// The secondary windows and the report sheet. Each is created when it is first shown, to keep the start of the main
+/// window fast.
 Item {
     id: others
 

@@ -5,7 +5,7 @@ import OndelAppSupport.views
 import OndelControls
 import TarnwickKit.views
 
-/// The form for problem reports, over the whole window.
+/// The form for problem reports, as a sheet over the main window.
 BaseSheet {
     id: sheet
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// A group of the settings' form: its title, and its rows on a card.
+/// A group of settings: a title, and rows on a card.
 ColumnLayout {
     id: section
 

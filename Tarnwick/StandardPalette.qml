@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnwickKit.views
 
-/// The product's colours under the names by which standard controls ask for them.
+/// The product's colours as the palette of standard controls.
 Palette {
     required property ColorPalette colors
 

@@ -4,7 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnwickKit.views
 
-/// The palette for windows. A window copies the one it is given, so that there is another object for another appearance.
+/// The palettes for windows. A window copies the palette it is given, so each appearance has an object of its own.
 QtObject {
     readonly property Palette light: StandardPalette {
         colors: Appearance.lightPalette

@@ -5,7 +5,7 @@ import OndelAppSupport.views
 import TarnwickKit.views
 import Tarnwick
 
-/// What the menus offer.
+/// The menu bar with all commands.
 MenuStrip {
     id: commands
 
@@ -17,7 +17,7 @@ MenuStrip {
     signal settingsWanted
     signal runWanted
 
-    /// First the runs are picked, then they are compared.
+    /// The first call begins to pick runs, the second compares those picked.
     function compare(): void {
         if (analyzer.compareMode)
             analyzer.beginComparison();

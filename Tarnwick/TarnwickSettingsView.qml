@@ -6,7 +6,7 @@ import OndelAppSupport.views
 import TarnwickKit.views
 import Tarnwick
 
-/// The settings: a form in groups.
+/// The settings form.
 Item {
     id: view
 

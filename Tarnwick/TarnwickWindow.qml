@@ -6,7 +6,7 @@ import OndelControls
 import TarnwickKit.views
 import Tarnwick
 
-/// The one main window.
+/// The main window.
 Window {
     id: window
 

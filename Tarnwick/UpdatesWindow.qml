@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import OndelAppSupport.views
 import Tarnwick
 
-/// Everything about updates, in the main window's colors.
+/// The update window in the main window's colors.
 UpdateWindow {
     palette: StandardPalettes.current
 }

@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import OndelAppSupport.views
 
-/// Which program this is, and who made it of what.
+/// The About panel: name, version, and links to the maker, the support page and the acknowledgments.
 PanelWindow {
     id: panel
 

@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import OndelAppSupport.views
 
-/// A button on the maker's backdrop.
+/// A button on the support banner.
 BaseButton {
     id: button
 

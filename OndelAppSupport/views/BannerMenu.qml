@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import OndelControls
 
-/// The banner's menu of one entry.
+/// The support banner's menu, which has one entry.
 BaseButton {
     id: button
 

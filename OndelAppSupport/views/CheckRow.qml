@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// A box to tick, with its words beside it.
+/// A check box with its label.
 T.CheckBox {
     id: box
 

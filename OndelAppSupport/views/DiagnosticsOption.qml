@@ -4,13 +4,13 @@ import QtQuick
 import OndelControls
 import OndelAppSupport.views
 
-/// Whether the log goes along with a report, and what is in it.
+/// The choice to attach the log to a report, and the way to read it first.
 Column {
     id: option
 
     required property ReportForm form
 
-    /// The preview's file is written and wants to be read.
+    /// The preview was written to this file and should be shown.
     signal previewWritten(path: string)
 
     spacing: 4

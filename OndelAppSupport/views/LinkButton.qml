@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import OndelControls
 
-/// Words that lead somewhere, in the colour of links.
+/// A link.
 BaseButton {
     id: link
 

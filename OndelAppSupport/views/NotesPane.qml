@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// A longer text to be read and copied, but not changed. The arrow keys scroll it.
+/// A read-only text that can be selected and copied. The arrow keys scroll it.
 FocusScope {
     id: pane
 

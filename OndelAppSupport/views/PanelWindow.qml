@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Window
 
-/// A window beside the main one, as large as what it holds. Escape and Ctrl+W close it.
+/// A secondary window of a fixed size. Escape and Ctrl+W close it.
 Window {
     id: panel
 

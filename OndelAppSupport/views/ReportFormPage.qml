@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import OndelAppSupport.views
 
-/// What the user fills in.
+/// The fields of a report.
 ColumnLayout {
     id: page
 
@@ -82,7 +82,7 @@ ColumnLayout {
             Layout.fillWidth: true
             text: page.form.errorText
             font.pixelSize: 12
-            maximumLineCount: 6 // it comes from elsewhere and may be of any length
+            maximumLineCount: 6 // a server writes it, at any length
             elide: Text.ElideRight
             Accessible.role: Accessible.AlertMessage
         }

@@ -5,8 +5,8 @@ import QtQuick.Layouts
 import OndelControls
 import OndelAppSupport.views
 
-/// The sheet in which the user writes a report. Whoever shows it closes it when it is `dismissed`, and makes a new one for
-/// the next report.
+/// The form for a problem report, and the thanks once it is sent. The host closes it on `dismissed` and creates a new one
+/// for the next report.
 FocusScope {
     id: view
 
@@ -25,7 +25,7 @@ FocusScope {
     Keys.onReturnPressed: view.proceed()
     Keys.onEnterPressed: view.proceed()
 
-    /// Shows a file that the user wants to read. A host that shows it in its own way declares this function anew.
+    /// Opens a file for the user to read. A host may replace this function.
     function showDiagnostics(path: string): void {
         AppSupport.openFile(path);
     }

@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// One choice of a few, side by side. The keyboard comes to the one that holds and moves it with the arrows.
+/// A choice of one among a few options, side by side. Tab focuses the chosen option; the arrow keys choose another.
 FocusScope {
     id: picker
 

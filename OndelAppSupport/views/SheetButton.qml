@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import OndelControls
 
-/// A push button of a sheet or a panel. The prominent one is the one that Return presses.
+/// A push button of a sheet or a panel. The prominent one is the default button.
 BaseButton {
     id: button
 

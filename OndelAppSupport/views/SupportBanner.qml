@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import OndelAppSupport.views
 
-/// The note that asks for support. Where there is no room for one row its buttons go below its words.
+/// The note that asks for support. Its buttons move below the text when one row is too narrow.
 Card {
     id: banner
 

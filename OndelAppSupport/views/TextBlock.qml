@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// An editor for a text of several lines. Tab leaves it; Return begins a line, with Control it is `confirmed`.
+/// An editor for several lines of text. Tab moves the focus, Return starts a new line, Ctrl+Return emits `confirmed`.
 FocusScope {
     id: editor
 

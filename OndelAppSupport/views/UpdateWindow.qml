@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import OndelAppSupport.views
 
-/// Everything that is said and asked about updates. It opens and closes by itself, as the updater wants it.
+/// The window for software updates. The state of the updater opens and closes it.
 PanelWindow {
     id: window
 
@@ -26,7 +26,7 @@ PanelWindow {
 
     function takeFocus(): void {
         (primary.visible ? primary : secondary).forceActiveFocus();
-        // An automatic check does not take the keyboard from what the user is typing into.
+        // The result of an automatic check must not take the keyboard focus from another window.
         if (updater.state !== UpdaterController.Available && updater.state !== UpdaterController.Asking)
             comeForward();
     }

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import OndelAppSupport.views
 
-/// What the update window says in each state, and what its two buttons at the end do.
+/// The update window's texts in each state, and the actions of its two buttons.
 QtObject {
     id: words
 

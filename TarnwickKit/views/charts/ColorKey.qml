@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import OndelControls
 
-/// A run's colour and words about it.
+/// A run's colour and a text about the run.
 Item {
     id: key
 

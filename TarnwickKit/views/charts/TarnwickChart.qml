@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnwickKit.views
 
-/// A throughput chart for use outside of the window: it brings its own palette. Points are seconds and decimal megabytes
+/// A throughput chart for use outside of the window, with its own palette. Points are seconds and decimal megabytes
 /// per second.
 ThroughputChart {
     id: chart

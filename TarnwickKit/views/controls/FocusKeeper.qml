@@ -3,15 +3,15 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 
-/// Gives the keyboard back to the control that had it when a menu or a question closes: the toolkit leaves it with
-/// nothing. If that control is gone or good for nothing, the keyboard is `lost`.
+/// Returns the keyboard focus to the control that had it before a menu or an alert opened, which Qt does not do. Emits
+/// `lost` if that control is gone, hidden or disabled.
 Item {
     id: keeper
 
     readonly property Item focusItem: Window.activeFocusItem
     readonly property Item root: Window.contentItem
     readonly property Item popups: T.Overlay.overlay
-    /// The control outside of all popups that has the keyboard or had it last.
+    /// The control outside of all popups that has, or last had, the keyboard focus.
     property Item last: null
 
     signal lost

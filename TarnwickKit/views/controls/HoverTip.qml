@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A tip in the colours of the item it belongs to.
+/// A tip in the colours of its owner.
 Tip {
     required property Item owner
 

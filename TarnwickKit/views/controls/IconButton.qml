@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A small square button that is nothing but its symbol.
+/// A small square button with a symbol.
 PlainButton {
     id: button
 

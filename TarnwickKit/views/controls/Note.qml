@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import TarnwickKit.views
 
-/// A sentence under a button that goes by itself: what has just happened.
+/// A sentence under a button about the result of its action. It disappears by itself.
 HoverTip {
     spoken: true
     delay: 0

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import OndelControls
 import TarnwickKit.views
 
-/// The picture of a switch in the window's colours.
+/// The track and the knob of a switch in the window's colours.
 SwitchTrack {
     activeColor: PaletteKey.palette.accent
     idleColor: PaletteKey.palette.track

@@ -15,7 +15,7 @@ BaseMenu {
 
     delegate: PopupMenuItem {}
 
-    /// The keys that ask for a context menu open it at a row's or a pane's head.
+    /// Opens the menu as a context menu if the event is of one of the keys for that, at the head of a row or a pane.
     function openByKey(event: KeyEvent): void {
         if (event.key !== Qt.Key_Menu && !(event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier))
             return;

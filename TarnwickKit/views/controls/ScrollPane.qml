@@ -5,8 +5,8 @@ import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
-/// A vertical scroll area. What gets the keyboard's focus is brought into view, and the focus is kept in the content. The
-/// keys that move in a page scroll it from wherever the focus is in it.
+/// A vertical scroll area. It scrolls to the control that gets the keyboard focus, and keeps the focus in its content when
+/// that control is deleted. Arrow and page keys, Home and End scroll it wherever the focus is in it.
 Flickable {
     id: pane
 
@@ -21,7 +21,7 @@ Flickable {
     clip: true
     interactive: contentHeight > height
 
-    /// Where the control with the keyboard's focus is in the content; -1 while it is elsewhere.
+    /// The position of the focused control in the content; -1 while the focus is elsewhere.
     property real focusPlace: -1
 
     function goToTop(): void {
@@ -40,7 +40,7 @@ Flickable {
     Connections {
         target: pane.keeper
 
-        // What had the focus is gone, as a deleted row is. Who goes by keyboard goes on from what stands there now.
+        // The focused control is gone, for example a deleted row. The focus moves to the control now in its place.
         function onLost(): void {
             if (pane.focusPlace >= 0)
                 pane.catchFocus();

@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A button that is nothing but its words.
+/// A button without a background: its label only.
 PlainButton {
     id: button
 

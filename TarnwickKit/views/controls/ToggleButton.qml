@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnwickKit.views
 
-/// The base of buttons that show a state which is kept elsewhere. A press asks for the other state.
+/// The base of check boxes and switches. The state is kept elsewhere; a press requests the opposite.
 PlainButton {
     required property bool on
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// A labelled on/off switch. What is to be explained stands below its label.
+/// A labelled on/off switch, with an optional explanation below the label.
 ToggleButton {
     id: control
 

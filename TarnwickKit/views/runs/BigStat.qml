@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// One headline rate with its best and least sample. Units: bytes per second; absent figures are not numbers.
+/// A headline rate with its peak and its lowest sample. Units: bytes per second; NaN when absent.
 ColumnLayout {
     id: stat
 
@@ -16,8 +16,8 @@ ColumnLayout {
     required property real least
 
     spacing: 6
-    Layout.maximumWidth: Infinity // the figures in it would not let it grow
-    Layout.fillHeight: false // one without a third line is centred beside one with it
+    Layout.maximumWidth: Infinity // else the figures' width would limit it
+    Layout.fillHeight: false // centred, so that one without a third line aligns with one that has it
 
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + figure.text + " MB/s" + (extremes.visible ? ", " + extremes.text : "")

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// The run on view, folded to one row.
+/// The current run, collapsed to one row.
 PlainButton {
     id: view
 

@@ -4,8 +4,8 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A row that can be picked while runs are being compared. What it holds is then part of it and does nothing of its own;
-/// at other times it is nothing but what it holds.
+/// A row of the history. In compare mode it is a check box and its content is disabled; otherwise it shows the content
+/// alone.
 Item {
     id: row
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// Runs side by side in the window.
+/// The comparison of runs in the window.
 CardFrame {
     id: pane
 

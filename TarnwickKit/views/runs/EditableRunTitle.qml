@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// A run's title, which a press turns into a field for another one.
+/// A run's title. A press replaces it by a field to edit it.
 Item {
     id: title
 
@@ -70,7 +70,7 @@ Item {
             prompt: qsTr("Report title")
             promptColor: PaletteKey.palette.text3
             Component.onCompleted: {
-                text = title.facts.customTitle; // once: what is typed is not to be taken back
+                text = title.facts.customTitle; // assigned, not bound: a change of the run must not undo what is typed
                 forceActiveFocus();
             }
             onAccepted: title.commit(text, true)

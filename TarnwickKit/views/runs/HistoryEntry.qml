@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A saved run's place in the history: empty and as high as a row until that is made, then a row or the whole pane.
+/// An entry of the history: a placeholder as high as a row until it is made, then a row or the expanded pane.
 Column {
     id: entry
 

@@ -11,10 +11,10 @@ PlainButton {
 
     required property runRecord run
     readonly property runFacts facts: Runs.facts(run)
-    /// Without it the row is part of something else that is pressed as a whole.
+    /// False in compare mode, where the row is part of a check box.
     property bool live: true
-    /// What everything but the words leaves of the row. The words' own width would not do: they change their height
-    /// by it, which is too late once the row is laid out.
+    /// The width that the other items leave for the texts. The texts' actual width comes too late: it is known after the
+    /// layout, and a change of their height would then need another one.
     readonly property real room: ViewMath.roomBeside(availableWidth,
         [dot.implicitWidth, badge.implicitWidth, ViewMetrics.statWidth, ViewMetrics.statWidth, curves.implicitWidth,
          remove.implicitWidth, fold.implicitWidth], line.spacing)
@@ -76,7 +76,7 @@ PlainButton {
             PlainText {
                 Layout.fillWidth: true
                 text: row.facts.title
-                horizontalAlignment: Text.AlignLeft // also of a name that runs the other way
+                horizontalAlignment: Text.AlignLeft // in every script
                 font: Typeface.display(14)
                 color: row.PaletteKey.palette.text
                 elide: Text.ElideRight

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// A run while it goes.
+/// The running benchmark.
 CardFrame {
     id: pane
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// One metric of compared runs; their bars share a scale.
+/// One metric of the compared runs, as bars on a common scale.
 RowLayout {
     id: group
 

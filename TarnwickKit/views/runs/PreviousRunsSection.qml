@@ -5,26 +5,26 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// The saved runs, to open, to delete, or to pick for a comparison.
-// A positioner: a layout goes on asking a row that has just been removed, and finds its memory freed (Qt 6.4).
+/// The saved runs: to expand, to delete, or to pick for a comparison.
+// A positioner, because a layout of Qt 6.4 accesses a removed row after it was freed.
 Column {
     id: section
 
     required property AnalyzerModel analyzer
     required property StoredRuns runs
-    /// What is in view, in the section's coordinates; logical pixels.
+    /// The visible part, in the section's coordinates. Units: logical pixels.
     required property real viewTop
     required property real viewHeight
 
     readonly property int rowHeight: 65
-    /// How far below the view rows are made before they are scrolled to.
+    /// How far below the visible part rows are made in advance. Units: logical pixels.
     readonly property real ahead: AssistiveTechnology.active ? Infinity : 12 * (rowHeight + spacing)
-    /// How many more rows may be made before the next frame. Those in view come with the first frame, however many.
+    /// How many more rows may be made before the next frame. The first frame has no limit.
     property real allowance: Infinity
     property bool isWaiting: false
 
-    /// Makes the rows between two heights, as far as the allowance goes. False when it does not go far enough. An entry
-    /// at 0 has not been positioned yet.
+    /// Makes the rows between two heights. False when the allowance is used up before. An entry at 0 has not been
+    /// positioned yet.
     function makeRows(top: real, bottom: real): bool {
         for (let row = 0; row < entries.count; ++row) {
             const entry = entries.itemAt(row) as HistoryEntry;
@@ -47,7 +47,7 @@ Column {
         (question.object as Alert).open();
     }
 
-    // Rows in view are made at once, the others between frames, and all of them only a few at a time.
+    // Visible rows are made at once, the others between frames, a few at a time.
     onViewTopChanged: makeRowsInView()
     onViewHeightChanged: makeRowsInView()
     onAheadChanged: isWaiting = true

@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// The facts of the volume and the settings that were captured with a run, at the foot of its card.
+/// The volume and the settings at the time of a run, at the foot of its card.
 CardFoot {
     id: strip
 
@@ -21,7 +21,7 @@ CardFoot {
         x: ViewMetrics.figurePadding
         y: 13
         width: strip.width - 2 * x
-        // All that a run can tell is a little wider than an image.
+        // With all facts present, one line needs less than the usual spacing to fit an image.
         spacing: {
             let taken = 0;
             for (let i = 0; i < each.count; ++i)

@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A rate in a row of runs. Units: bytes per second; not a number where there is none.
+/// A rate in a row of runs. Units: bytes per second; NaN when absent.
 Column {
     id: stat
 
@@ -40,7 +40,7 @@ Column {
             id: figure
 
             width: Math.min(implicitWidth, stat.width - unit.width - 3)
-            // Nothing fits before the row is laid out, and each size that is tried costs a font.
+            // Before the row is laid out no size fits, and each size that is tried loads a font.
             fontSizeMode: stat.width > 0 ? Text.HorizontalFit : Text.FixedSize
             minimumPixelSize: 7
             text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)

@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A tinted strip in a card. As the card's last piece it has the card's radius as its own, in the lower corners.
+/// A tinted strip in a card. As the last item of the card it rounds its lower corners by the card's radius.
 Item {
     id: foot
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// The raised card that shows a run: a header row, a hairline, and what belongs under it.
+/// The card of a run: a header row, a separator, and the content.
 Card {
     id: frame
 
@@ -42,7 +42,7 @@ Card {
             color: PaletteKey.palette.borderSoft
         }
     }
-    // Above what reaches to the card's sides.
+    // The outline, above content that reaches the card's edges.
     Card {
         z: 1
         width: frame.width

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// A comparison as a picture to share, with the chart that its pane in the window has.
+/// A comparison as an image to share, with the same chart as its pane in the window.
 ImageCard {
     id: card
 

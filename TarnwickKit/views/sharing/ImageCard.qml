@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A card that is shared as an image: pieces below each other, with a transparent margin around.
+/// A card that is shared as an image: a column of items, with a transparent margin around.
 Item {
     id: view
 
@@ -28,7 +28,7 @@ Item {
 
             width: parent.width
         }
-        // Above what reaches to the card's sides.
+        // The outline, above items that reach the card's edges.
         Card {
             anchors.fill: parent
             radius: view.corner

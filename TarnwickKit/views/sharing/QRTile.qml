@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// A web address for cameras, on white in every palette. Nothing shows where no code can be made of it.
+/// A web address as a QR code, on white in every palette. Hidden when the address is too long for a code.
 Card {
     id: tile
 

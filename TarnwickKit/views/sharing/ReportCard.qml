@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// A finished run as a picture to share, of the same pieces as its pane in the window.
+/// A finished run as an image to share, built of the same items as its pane in the window.
 ImageCard {
     id: card
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// Whose picture a report card is, and where to get one's own.
+/// The foot of a report card: the product, and the address to get it from.
 CardFoot {
     id: footer
 

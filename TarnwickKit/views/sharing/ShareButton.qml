@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// Makes an image when it is pressed, offers what can be done with it, and says that it was done.
+/// Makes an image when pressed, offers a menu of actions with it, and shows their result.
 IconButton {
     id: button
 
@@ -14,7 +14,7 @@ IconButton {
             (picker.object as PopupMenu).open();
         }
         onTold: sentence => {
-            note.active = false; // a new note stands for its whole time
+            note.active = false; // a new note is shown for its whole time
             note.sentence = sentence;
             note.active = true;
         }

@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// What can be done with an image.
+/// The menu of actions with an image.
 PopupMenu {
     id: picker
 

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import TarnwickKit.views
 
-/// What the target's file system is.
+/// The facts of the target's file system.
 InfoList {
     required property TargetFacts target
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// A heading that shows and hides what belongs to it. That need not be there before `isShown`.
+/// A section that a press on its heading expands and collapses. Its content need not exist before `isShown`.
 Column {
     id: section
 
@@ -13,7 +13,7 @@ Column {
     property bool isExpanded: true
     readonly property bool isShown: isExpanded || body.height > 0
     property string detail: ""
-    property bool moves: false // not before somebody asked for it
+    property bool moves: false // only a press is animated
     property alias header: head.data
     default property alias content: holder.data
 

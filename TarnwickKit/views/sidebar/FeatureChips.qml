@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// What the target's file system can do.
+/// The features of the target's file system.
 FlowLayout {
     id: chips
 

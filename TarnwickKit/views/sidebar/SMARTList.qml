@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// The figures of the target's drive, and the way to keep them.
+/// The figures of the target's drive, and a button to export them.
 Column {
     id: list
 

@@ -3,14 +3,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnwickKit.views
 
-/// What is set before a run and what is known of the target.
+/// The sidebar: tests, settings, and the facts of the target.
 Rectangle {
     id: sidebar
 
     required property AnalyzerModel analyzer
     required property TargetFacts target
     required property FocusKeeper keeper
-    /// What always stands at the foot, if anything does.
+    /// Stays at the foot while the rest scrolls; may be empty.
     property alias footer: foot.data
 
     color: PaletteKey.palette.sidebar

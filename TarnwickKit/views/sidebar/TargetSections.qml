@@ -4,14 +4,14 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// What is known of the target: its file system and its drive. Which of the two is open is remembered.
+/// The facts of the target: its file system and its drive. Which sections are expanded is stored.
 Column {
     id: sections
 
     required property AnalyzerModel analyzer
     required property TargetFacts target
 
-    // What has nothing to show, or is folded, does not exist: assistive technology would read it.
+    // Empty and collapsed sections have no items: assistive technology would read them.
     OnDemand {
         active: sections.target.hasCapabilities
 
@@ -79,7 +79,7 @@ Column {
 
                 width: parent.width
                 label: qsTr("S.M.A.R.T.")
-                // The note stands apart. Whoever hears the verdict alone must not take it for one on all disks.
+                // The note is a text of its own. Read alone, the verdict would seem to cover all disks.
                 detail: sections.target.healthNote === "" ? verdict : qsTr("%1. %2").arg(verdict).arg(sections.target.healthNote)
                 isExpanded: kept.healthExpanded
                 onToggled: expanded => kept.healthExpanded = expanded

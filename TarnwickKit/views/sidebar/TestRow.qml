@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// One test: whether it runs, and its figure of the last run.
+/// A test: a check box to select it, and its figure of the last run.
 ToggleButton {
     id: row
 
@@ -49,7 +49,7 @@ ToggleButton {
             Accessible.ignored: true
         }
         PlainText {
-            Layout.leftMargin: 4 - parent.spacing // the least gap, so that long titles stay whole
+            Layout.leftMargin: 4 - parent.spacing // a smaller gap, so that long titles fit
             text: row.figure
             font: Typeface.mono(11)
             color: row.PaletteKey.palette.text3

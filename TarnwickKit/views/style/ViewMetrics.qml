@@ -3,27 +3,27 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-/// The measures that the window's views and the images to share have in common; those of controls are OndelControls's Metrics.
+/// Shared measures of the window's views and of images. Those of controls are in OndelControls's Metrics.
 /// Units: logical pixels.
 QtObject {
-    /// Between the main pane's edge and its cards, and between these.
+    /// The distance between the main pane's edge and its cards, and between cards.
     readonly property int paneMargin: 20
 
     readonly property int cardCorner: 15
-    /// From a card's sides to its header and its chart.
+    /// From a card's sides to its header and chart.
     readonly property int cardPadding: 18
-    /// From a card's sides to its figures and its foot.
+    /// From a card's sides to its figures and foot.
     readonly property int figurePadding: 20
     readonly property int figureMargin: 17
 
     readonly property int alertWidth: 400
     readonly property int badgeSide: 30
-    /// A rate in a row of runs.
+    /// The width of a rate in a row of runs.
     readonly property int statWidth: 104
     readonly property int chartHeight: 200
-    /// A full bar of a comparison.
+    /// The width of a comparison's full bar.
     readonly property int trackWidth: 460
 
-    /// From the sidebar's content to what stands in line with its headings.
+    /// The indent of the sidebar's headings and settings.
     readonly property int sidebarInset: 4
 }

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// Whose card it is: the product's icon, name and web address.
+/// The product's icon, name and web address.
 RowLayout {
     id: brand
 

@@ -5,14 +5,14 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// The whole of the window: the toolbar, the sidebar, and the pane that shows the runs.
+/// The window's content: the toolbar, the sidebar and the main pane.
 Rectangle {
     id: content
 
     required property AnalyzerModel analyzer
     property alias sidebarFooter: sidebar.footer
 
-    /// Starts a run as the toolbar's button does, with its question before the disk is filled.
+    /// Starts a run like the toolbar's button, which asks before it fills the disk.
     function run(): void {
         toolbar.run();
     }
@@ -58,7 +58,7 @@ Rectangle {
                 keeper: keeper
             }
             Separator {
-                z: 1 // at a scale such as 1.5 the pane begins within its second pixel
+                z: 1 // at a scale such as 1.5 the pane would cover its second pixel
                 Layout.fillHeight: true
                 color: PaletteKey.palette.border
             }

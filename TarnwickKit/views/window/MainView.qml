@@ -4,14 +4,14 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// The main pane: what it shows follows from the model's state alone.
+/// The main pane. The model's state alone decides what it shows.
 Rectangle {
     id: main
 
     required property AnalyzerModel analyzer
     required property TargetFacts target
     required property FocusKeeper keeper
-    /// A comparison takes the place of what the phase would show.
+    /// A comparison replaces the phase's pane.
     readonly property bool showsPhase: !analyzer.isComparing
     readonly property bool showsRun: showsPhase && runs.hasCurrentRun
                                      && (analyzer.phase === AnalyzerModel.Idle || analyzer.phase === AnalyzerModel.Done)
@@ -27,7 +27,7 @@ Rectangle {
     Connections {
         target: main.analyzer
 
-        // What was just asked for far down in the history stands above it.
+        // The comparison was started far down in the history and is shown at the top.
         function onComparisonChanged(): void {
             if (main.analyzer.isComparing && main.analyzer.compareMode)
                 pane.goToTop();

@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// Starts a run; while one goes, stops it.
+/// Starts a run, or stops the current one.
 PlainButton {
     id: button
 

@@ -10,7 +10,7 @@ Rectangle {
     required property AnalyzerModel analyzer
     required property TargetFacts target
 
-    /// Does what the run button does to start a run.
+    /// Starts a run like the run button.
     function run(): void {
         runButton.run();
     }

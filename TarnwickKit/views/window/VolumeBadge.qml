@@ -4,7 +4,7 @@ import QtQuick
 import OndelControls
 import TarnwickKit.views
 
-/// The volume's square: its symbol on the colours of how it is attached.
+/// A square with a volume's symbol, in the colours of its connection.
 Card {
     id: badge
 

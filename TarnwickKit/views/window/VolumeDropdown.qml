@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// Names the volume under test and drops the menu to choose another.
+/// Shows the volume under test and opens the menu to choose another.
 PlainButton {
     id: dropdown
 
@@ -22,7 +22,7 @@ PlainButton {
     bottomPadding: 7
     implicitWidth: Math.max(244, implicitContentWidth + leftPadding + rightPadding)
     enabled: !analyzer.isRunning
-    opacity: pressed ? 0.75 : 1 // what is under test is read during a run
+    opacity: pressed ? Metrics.pressedOpacity : 1 // not dimmed while disabled: it is read during a run
     hoverEnabled: true
 
     detail: title.text + ", " + subtitle.text

@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
-/// Where to measure: a mounted volume, or any folder.
+/// The menu of targets: the mounted volumes, and any folder.
 PopupMenu {
     id: menu
 
@@ -16,7 +16,7 @@ PopupMenu {
     parent: button
     y: button.height + Metrics.menuGap
     leastWidth: button.width
-    // Asked anew each time, since volumes come and go.
+    // Listed anew each time, since volumes come and go.
     onAboutToShow: volumes.model = target.mountedVolumes()
 
     PopupMenuItem {
