@@ -17,7 +17,7 @@ constexpr std::size_t mixed(std::size_t hash, std::size_t field) {
     return product ^ (product >> 32);
 }
 
-/// A field has a std::hash, a Qt hash function, or is a range of such fields.
+/// `Field` has a std::hash or a Qt hash function, or is a range of such fields.
 template <class Field>
 std::size_t hashField(const Field& field) {
     if constexpr (requires { std::hash<Field>{}(field); }) {

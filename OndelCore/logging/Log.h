@@ -26,7 +26,7 @@ struct LogOutput {
     const LogScrubber& scrubber;
     const platform::UnifiedLog& unified;
 
-    /// The one of the process.
+    /// The output of the process.
     static const LogOutput& shared();
 };
 
@@ -38,7 +38,7 @@ class Log {
 public:
     using Level = LogLevel;
 
-    /// `output`: null for that of the process.
+    /// `output`: null: the output of the process.
     explicit constexpr Log(LogText category, const LogOutput* output = nullptr)
         : m_category(category)
         , m_output(output) {}

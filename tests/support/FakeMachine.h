@@ -12,8 +12,8 @@
 
 namespace test {
 
-/// A machine of one test's own: a device tree, a device database and a mount table in a temporary folder, for
-/// whatever asks `sources()` instead of the system.
+/// A fake machine for one test: a device tree, a device database and a mount table in a temporary folder,
+/// used through `sources()`.
 class FakeMachine {
 public:
     using Attributes = std::map<std::string, std::string>;
@@ -39,7 +39,7 @@ public:
         std::string options = "rw,relatime";
         std::string superOptions = "rw";
     };
-    /// A row of the mount table that pretends that the real mount which holds `path` is this one.
+    /// Replaces the mount table by one row, for the real mount that holds `path`.
     void pretendMounted(const std::filesystem::path& path, const Row& row);
     void setMountTable(const std::string& text);
 

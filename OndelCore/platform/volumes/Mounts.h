@@ -65,8 +65,8 @@ std::optional<Mount> mountOfPathIn(const std::vector<Mount>& mounts, const std::
 /// if it is none of these.
 std::optional<Mount> mountOfDescriptor(int descriptor, const std::vector<Mount>& mounts);
 
-/// The mount that holds the absolute path `resolved`, by the mount points alone: nothing on the path is
-/// touched, so that a dead server cannot delay the answer. Fails: absent if no mount point is above it.
+/// The mount that holds the absolute path `resolved`, by the mount points alone. The path is not accessed, so
+/// that a dead server cannot delay the answer. Fails: absent if no mount point is above it.
 std::optional<Mount> mountAbove(const std::vector<Mount>& mounts, const std::filesystem::path& resolved);
 
 /// Whether `option` ("ro", "noload") is one of a comma-separated list.

@@ -27,7 +27,7 @@ OndelSMART nvme() {
     return record;
 }
 
-TEST(DiskHealth, WritesTheRowsInTheirOrderInTheUsersLocale) {
+TEST(DiskHealth, FormatsTheRowsInOrderAndInTheUsersLocale) {
     OndelSMART record = nvme();
     record.has_temperature = record.has_percent_used = record.has_spare = record.has_power_on_hours = 1;
     record.has_power_cycles = record.has_nvme_counters = record.has_data_written = record.has_data_read = 1;
@@ -71,7 +71,7 @@ TEST(DiskHealth, WritesTheRowsInTheirOrderInTheUsersLocale) {
     EXPECT_EQ(german[7].value, "18.4 TB") << "terabytes and years have a point in every locale";
 }
 
-TEST(DiskHealth, WritesTheRowsOfAnAtaDrive) {
+TEST(DiskHealth, FormatsTheRowsOfAnAtaDrive) {
     OndelSMART record;
     record.available = record.failing = 1;
     std::strcpy(record.kind, "ATA");
@@ -93,7 +93,7 @@ TEST(DiskHealth, WritesTheRowsOfAnAtaDrive) {
                                       {"Interface CRC errors", "0", false}}));
 }
 
-TEST(DiskHealth, JudgesEachFigureByItsOwnRule) {
+TEST(DiskHealth, WarnsByARuleForEachFigure) {
     using Change = std::function<void(OndelSMART&)>;
     const auto spare = [](int value, int threshold) {
         return [=](OndelSMART& r) { r.has_spare = 1, r.spare = value, r.spare_threshold = threshold; };
@@ -139,7 +139,7 @@ TEST(DiskHealth, JudgesEachFigureByItsOwnRule) {
     }
 }
 
-TEST(DiskHealth, TellsTheWorstOfSeveralDisksAndNamesEach) {
+TEST(DiskHealth, HasTheWorstVerdictOfSeveralDisksAndNamesEach) {
     const auto disk = [](const char* name, const char* kind, bool isFailing) {
         SmartReading reading{.disk = name, .record = {}, .source = std::string("asked ") + name};
         if (!*kind) {
@@ -183,13 +183,13 @@ TEST(DiskHealth, TellsTheWorstOfSeveralDisksAndNamesEach) {
     }
 }
 
-TEST(DiskHealth, IsAbsentWhereNoDeviceIsBehindThePath) {
+TEST(DiskHealth, IsAbsentWithoutADeviceUnderThePath) {
     for (const char* path : {"", "/proc", "/no/such/path", "/proc/self/mountinfo/below", "bytes \xff\n"})
         EXPECT_EQ(DiskHealth::read(path), std::nullopt) << path;
 
     OndelSMART record = nvme();
     EXPECT_EQ(ondel_read_smart("no-such-device", &record), 0);
-    EXPECT_EQ(record, OndelSMART()) << "what the record held before is gone";
+    EXPECT_EQ(record, OndelSMART()) << "the previous content is lost";
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// Drives as a guest machine showed them to both readers: the bytes that root reads, and the answers of
-// UDisks2 2.9.4 and 2.10.1 for the same bytes.
+// Data recorded on a virtual machine: the bytes that root reads from drives, and the answers of UDisks2 2.9.4
+// and 2.10.1 for the same drives.
 
 #include "OndelCore/health/DiskHealth.h"
 #include "OndelCore/platform/FakeDrives.h"
@@ -32,7 +32,7 @@ std::string rowsOf(const DiskSMART& smart) {
     return text + smart.note;
 }
 
-/// One drive on a machine whose user, root or not, reads it the way that is open to him.
+/// One drive, read directly by root and through the service by another user.
 class SameDrive : public testing::Test {
 protected:
     void SetUp() override {
@@ -64,7 +64,7 @@ private:
     test::PrivateBus m_bus;
 };
 
-/// An attribute's raw value and what the service makes of it: name, unit, figure.
+/// An attribute's raw value, and the service's name, unit and figure for it.
 struct AtaFixture {
     uchar number;
     std::uint64_t raw;
@@ -73,7 +73,7 @@ struct AtaFixture {
     qlonglong pretty;
 };
 
-TEST_F(SameDrive, HasTheSameRowsForRootAndForAUserOfUDisks2) {
+TEST_F(SameDrive, HasTheSameRowsForRootAndThroughUDisks2) {
     const std::pair<std::vector<AtaFixture>, const char*> drives[] = {
         {{{1, 0, "raw-read-error-rate", 1, 0},
           {5, 8589934592000, "reallocated-sector-count", 3, 0},
@@ -121,7 +121,7 @@ TEST_F(SameDrive, HasTheSameRowsForRootAndForAUserOfUDisks2) {
     }
 }
 
-TEST_F(SameDrive, LacksOnlyTheHostCommandsForAUserOfUDisks2WhenItIsNvme) {
+TEST_F(SameDrive, LacksOnlyHostCommandsThroughUDisks2IfNvme) {
     SmartPage page{};
     put(page, 0, 5, 1);
     put(page, 1, 314, 2);
@@ -159,8 +159,8 @@ TEST_F(SameDrive, LacksOnlyTheHostCommandsForAUserOfUDisks2WhenItIsNvme) {
     EXPECT_EQ(asUser(u"org.freedesktop.UDisks2.NVMe.Controller"_s, properties, attributes), before + after);
 }
 
-/// Volumes of the guest: the NVMe drive is well, the SATA disk reports that it fails.
-TEST(DisksOfAVolume, TellTheWorstWhateverTheLayers) {
+/// Volumes on a healthy NVMe drive and a failing SATA disk.
+TEST(DisksOfAVolume, GiveTheWorstVerdictThroughAllLayers) {
     test::FakeMachine machine;
     addDisk(machine, "nvme0n1", makedev(259, 0), "nvme");
     addDisk(machine, "sda", disk, "scsi", {{"device/vendor", "ATA"}});

@@ -17,7 +17,7 @@ namespace {
 
 constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
 
-/// Writes a page the way drives do, byte by byte at the standards' offsets.
+/// Writes a page byte by byte at the standard's offsets.
 class PageBuilder {
 public:
     explicit PageBuilder(std::uint8_t filling = 0) { m_page.fill(filling); }
@@ -27,7 +27,7 @@ public:
             m_page.at(offset + index) = static_cast<std::uint8_t>(value);
         return *this;
     }
-    /// An entry of the ATA attribute table; flags, value and worst are noise that must not count.
+    /// An entry of the ATA attribute table; flags, value and worst are noise and must be ignored.
     PageBuilder& attribute(std::size_t row, std::uint8_t number, std::uint64_t raw) {
         const std::size_t offset = 2 + 12 * row;
         return put(offset, number, 1)
@@ -41,7 +41,7 @@ private:
     SmartPage m_page;
 };
 
-/// The fields that are not zero, by name; of those that are 1 the name alone.
+/// The names of nonzero fields, with the value unless it is 1.
 std::string fieldsOf(const OndelSMART& record) {
     std::ostringstream text;
     forEachField(record, [&](std::string_view name, const auto& value) {
@@ -61,8 +61,8 @@ OndelSMART decoded(void (*decode)(const SmartPage&, OndelSMART&), const PageBuil
     return record;
 }
 
-TEST(SmartPages, TakeEveryFieldOfAnNvmeHealthLogFromItsPlace) {
-    // Each counter's high half is set as well and must not leak into the figure.
+TEST(SmartPages, DecodeEveryFieldOfAnNvmeHealthLog) {
+    // The high half of each counter is set too and must be ignored.
     PageBuilder log;
     log.put(0, 0x85, 1).put(1, 311, 2).put(3, 100, 1).put(4, 10, 1).put(5, 255, 1);
     for (std::uint64_t counter = 0; counter < 10; ++counter)
@@ -87,13 +87,14 @@ TEST(SmartPages, TakeEveryFieldOfAnNvmeHealthLogFromItsPlace) {
     EXPECT_DOUBLE_EQ(ones.data_read_tb, 18446744073709551615.0 * 512000.0 / 1e12);
 }
 
-TEST(SmartPages, TakeTheKnownAtaAttributes) {
+TEST(SmartPages, DecodeTheKnownAtaAttributes) {
     constexpr std::uint64_t raw = 0x0c0ffe;
     PageBuilder data;
     std::size_t row = 0;
     for (const int number : {1, 5, 9, 10, 12, 187, 190, 193, 197, 198, 199})
         data.attribute(row++, static_cast<std::uint8_t>(number), raw);
-    data.attribute(29, 194, 0x002600110026); // the last row counts; extremes stand above the temperature
+    data.attribute(29, 194,
+                   0x002600110026); // the last row counts; minimum and maximum are above the temperature
     EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, data)),
               "has_temperature temperature=38 has_power_on_hours power_on_hours=790526 has_power_cycles "
               "power_cycles=790526 has_reallocated reallocated=790526 has_pending pending=790526 "
@@ -102,7 +103,7 @@ TEST(SmartPages, TakeTheKnownAtaAttributes) {
               "spin_retries=790526 has_load_cycles load_cycles=790526 ");
 }
 
-TEST(SmartPages, ReadValuesThatNoDriveCanHaveInFewerBits) {
+TEST(SmartPages, ReadImpossibleValuesInFewerBits) {
     struct Case {
         std::uint8_t number;
         std::uint64_t raw;
@@ -139,7 +140,7 @@ TEST(SmartPages, ReadValuesThatNoDriveCanHaveInFewerBits) {
             << int{each.number} << ": " << each.raw;
 }
 
-TEST(SmartPages, LetTheLaterOfTwoAtaAttributesCount) {
+TEST(SmartPages, UseTheLaterOfTwoAtaAttributes) {
     PageBuilder data;
     data.attribute(0, 9, 100).attribute(3, 9, 7).attribute(4, 0, 5);
     data.attribute(5, 194, 40).attribute(6, 194, 120).attribute(7, 9, 876001);
@@ -153,7 +154,7 @@ TEST(SmartPages, LetTheLaterOfTwoAtaAttributesCount) {
         EXPECT_EQ(decoded(decodeAtaAttributes, PageBuilder().attribute(0, 194, inside)).has_temperature, 1);
 }
 
-TEST(SmartPages, MakeARecordOfWhateverAnswered) {
+TEST(SmartPages, MakeARecordOfEachKindOfAnswer) {
     using namespace platform;
     const auto record = [](auto blocks) { return recordOf({.blocks = std::move(blocks), .source = {}}); };
     EXPECT_EQ(recordOf({}), OndelSMART());
@@ -173,9 +174,9 @@ TEST(SmartPages, MakeARecordOfWhateverAnswered) {
     EXPECT_STREQ(record(partial).kind, "NVMe");
 }
 
-/// Pages of noise, and pages whose attribute numbers are mostly known ones: nothing is read or written out of
-/// place (the sanitizers watch), flags stay flags, and every record can be shown.
-TEST(SmartPages, StandAnyBytes) {
+/// Random pages, and pages with mostly known attribute numbers: no access is out of bounds (with sanitizers),
+/// flags are 0 or 1, and every record can be shown.
+TEST(SmartPages, DecodeAnyBytes) {
     std::mt19937_64 random(20261121);
     constexpr std::array<std::uint8_t, 12> numbers{5, 9, 10, 12, 187, 193, 194, 197, 198, 199, 0, 77};
     for (int round = 0; round < 200000; ++round) {

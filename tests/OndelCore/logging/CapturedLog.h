@@ -23,7 +23,7 @@ inline std::string contentOf(const std::filesystem::path& file) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-/// A Log of category "test" with a store, a file and a journal of its own, for a user of the test's choice.
+/// A Log of category "test" with its own store, file and journal, for a user chosen by the test.
 class CapturedLog {
 public:
     explicit CapturedLog(const OndelCore::platform::UserFacts& user = {})
@@ -36,8 +36,8 @@ public:
     LogStore& store() { return *m_store; }
     std::filesystem::path file() const { return m_folder.path() / "ondel.log"; }
 
-    /// The one line logged since the last call, without stamp, level and category. Store, file and journal
-    /// must hold the same; what they hold otherwise is a test failure.
+    /// The only line logged since the last call, without stamp, level and category. It is a test failure if
+    /// store, file and journal differ.
     std::string takeBody() {
         const std::string line = m_store->snapshot(1 << 30);
         m_store->flush();

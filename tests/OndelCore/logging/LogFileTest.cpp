@@ -28,7 +28,7 @@ void makeFile(const fs::path& file, std::size_t bytes) { std::ofstream(file) << 
 
 } // namespace
 
-TEST(LogFile, HoldsTheLinesSinceItsStart) {
+TEST(LogFile, HasTheLinesSinceItsStart) {
     const test::TemporaryFolder folder;
     const auto store = LogStore::makeForTesting(100);
     store->append(LogLevel::notice, "app", "early");
@@ -53,7 +53,7 @@ TEST(LogFile, HoldsTheLinesSinceItsStart) {
     EXPECT_TRUE(test::contentOf(file).ends_with("  again\n"));
 }
 
-TEST(LogFile, TheBackgroundWriterTicksInTheDefaultFolder) {
+TEST(LogFile, IsWrittenInTheBackgroundToTheDefaultFolder) {
     const auto store = LogStore::makeForTesting(100, {.tick = std::chrono::milliseconds(1)});
     store->startFileLogging(std::nullopt);
     const fs::path file = fs::path(getenv("XDG_STATE_HOME")) / "Ondel" / "ondel.log";
@@ -64,7 +64,7 @@ TEST(LogFile, TheBackgroundWriterTicksInTheDefaultFolder) {
     }
 }
 
-TEST(LogFile, EndsNobodyAtTheUsersSizeLimit) {
+TEST(LogFile, DoesNotEndTheProcessAtTheSizeLimit) {
     const test::TemporaryFolder folder;
     const fs::path file = folder.path() / "ondel.log";
     const auto store = LogStore::makeForTesting(100, {.tick = std::chrono::milliseconds(1)});
@@ -120,7 +120,7 @@ TEST(LogFile, StaysSmallWhereItCannotRotate) {
     EXPECT_TRUE(fs::exists(old / "somebody's"));
 }
 
-TEST(LogFile, RotationDuringWritesLosesNothing) {
+TEST(LogFile, LosesNoLineByRotation) {
     const test::TemporaryFolder folder;
     const auto store = storeWritingTo(folder.path());
     const std::string filling(1000, 'x');
@@ -137,7 +137,7 @@ TEST(LogFile, RotationDuringWritesLosesNothing) {
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1600);
 }
 
-TEST(LogFile, BadFoldersHarmNobody) {
+TEST(LogFile, ToleratesUnusableFolders) {
     const test::TemporaryFolder folder;
     makeFile(folder.path() / "file", 1);
     fs::create_directories(folder.path() / "taken" / "ondel.log");
@@ -157,7 +157,7 @@ TEST(LogFile, BadFoldersHarmNobody) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path() / "taken"), fs::directory_iterator()), 1);
 }
 
-TEST(LogFile, AFullOrReadOnlyDiskLeavesWholeLines) {
+TEST(LogFile, HasWholeLinesOnAFullOrReadOnlyDisk) {
     const test::TemporaryFolder folder;
     if (mount("tmpfs", folder.path().c_str(), "tmpfs", 0, "size=16k") != 0)
         GTEST_SKIP() << "mounting needs root";

@@ -27,34 +27,35 @@ void expectScrubbed(const LogScrubber& scrubber, const std::vector<Case>& cases)
 
 } // namespace
 
-TEST(LogScrubber, ReplacesTheShapesOfPrivateText) {
+TEST(LogScrubber, ReplacesPatternsOfPrivateText) {
     const std::string run31(31, 'k');
-    expectScrubbed(LogScrubber(UserFacts{}),
-                   {{"clean line", "clean line", 0},
-                    {"", "", 0},
-                    {"at /Users/ann and /Users/bob/x y", "at «path» and «path» y", 2},
-                    {"/Users/ann/a\"b", "«path»\"b", 1},
-                    {"/users/ann", "/users/ann", 0},
-                    {"/Users/ /users/ann/x", "/Users/ «path»", 1},
-                    {"/home/ann/x", "«path»", 1},
-                    {"/var/root/x /HOME/ann/y", "«path» «path»", 2},
-                    {"/home/", "/home/", 0},
-                    {"Ann.Example+tag@Mail.Example.ORG!", "«email»!", 1},
-                    {"a@b.c", "a@b.c", 0},
-                    {"a@b.cc-d@e.ff", "«email»«email»", 2},
-                    {"10.0.0.1, 2.40.1.7 and 1.2.3", "«ip», «ip» and 1.2.3", 2},
-                    {"1000.0.0.1", "1000.0.0.1", 0},
-                    {"12:34:56", "12:34:56", 0},
-                    {"at 2001:db8:1:2:3:4:5:6, 1:2:3:4:5", "at «ip», «ip»", 2},
-                    {"1:2:3:4", "1:2:3:4", 0},
-                    {run31, run31, 0},
-                    {run31 + "k", "«secret»", 1},
-                    {"key=" + run31 + "k==", "key=«secret»==", 1}, // no word ends behind the equals signs
-                    {run31 + "k=x", "«secret»x", 1},
-                    {std::string(40, '-'), std::string(40, '-'), 0}});
+    expectScrubbed(
+        LogScrubber(UserFacts{}),
+        {{"clean line", "clean line", 0},
+         {"", "", 0},
+         {"at /Users/ann and /Users/bob/x y", "at «path» and «path» y", 2},
+         {"/Users/ann/a\"b", "«path»\"b", 1},
+         {"/users/ann", "/users/ann", 0},
+         {"/Users/ /users/ann/x", "/Users/ «path»", 1},
+         {"/home/ann/x", "«path»", 1},
+         {"/var/root/x /HOME/ann/y", "«path» «path»", 2},
+         {"/home/", "/home/", 0},
+         {"Ann.Example+tag@Mail.Example.ORG!", "«email»!", 1},
+         {"a@b.c", "a@b.c", 0},
+         {"a@b.cc-d@e.ff", "«email»«email»", 2},
+         {"10.0.0.1, 2.40.1.7 and 1.2.3", "«ip», «ip» and 1.2.3", 2},
+         {"1000.0.0.1", "1000.0.0.1", 0},
+         {"12:34:56", "12:34:56", 0},
+         {"at 2001:db8:1:2:3:4:5:6, 1:2:3:4:5", "at «ip», «ip»", 2},
+         {"1:2:3:4", "1:2:3:4", 0},
+         {run31, run31, 0},
+         {run31 + "k", "«secret»", 1},
+         {"key=" + run31 + "k==", "key=«secret»==", 1}, // there is no word boundary after the equals signs
+         {run31 + "k=x", "«secret»x", 1},
+         {std::string(40, '-'), std::string(40, '-'), 0}});
 }
 
-TEST(LogScrubber, ReplacesTheUserFirst) {
+TEST(LogScrubber, ReplacesNamesOfTheUserFirst) {
     const LogScrubber scrubber(UserFacts{"ann", "ann Example", "bo", "/srv/ann"});
     expectScrubbed(scrubber, {{"/Users/ann/x", "«path»", 2},
                               {"ann ann ann", "«local» «local» «local»", 1},
@@ -67,7 +68,7 @@ TEST(LogScrubber, ReplacesTheUserFirst) {
         {{family + "e\u0301 /root/x", family + "e\u0301 «local»/x", 1}});
 }
 
-// What the rules mean is what a backtracking engine makes of the same patterns, wherever that has the time.
+// A backtracking engine with the same patterns is the reference, where it is fast enough.
 TEST(LogScrubber, AgreesWithABacktrackingEngine) {
     const std::pair<const char*, const char*> rules[] = {
         {R"(/Users/[^/\s]+(/[^\s"']*)?)", "«path»"},
@@ -84,7 +85,7 @@ TEST(LogScrubber, AgreesWithABacktrackingEngine) {
     const LogScrubber scrubber(UserFacts{});
     std::mt19937 random(20260314);
     for (int round = 0; round < 5000; ++round) {
-        // Each trigger holds, so that every pattern gets its turn on every line.
+        // Every line has each trigger, so that every pattern is tried.
         std::string line = "/Users/ /home/ 1.1 " + std::string(32, '-') + ":@ ";
         for (auto length = random() % 24; length > 0; --length)
             line += pieces[random() % std::size(pieces)];

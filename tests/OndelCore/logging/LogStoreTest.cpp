@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// 2026-03-14 09:26:53.250 UTC, which is the tests' time zone.
+/// 2026-03-14 09:26:53.250 UTC, the time zone of the tests.
 constexpr std::chrono::sys_time<std::chrono::milliseconds> afternoon{1773480413250ms};
 
 struct Store {
@@ -67,7 +67,7 @@ TEST(LogStore, KeepsTheNewestLines) {
     EXPECT_EQ(linesOf(log.store->snapshot(1 << 20)), 1u);
 }
 
-TEST(LogStore, SnapshotFitsItsBudgetInWholeLines) {
+TEST(LogStore, SnapshotHasTheWholeLinesThatFit) {
     Store log(8);
     log.append("first");
     log.append("a longer line than the first");
@@ -84,7 +84,7 @@ TEST(LogStore, SnapshotFitsItsBudgetInWholeLines) {
     EXPECT_EQ(log.store->snapshot(-1), "");
 }
 
-TEST(LogStore, FourThreadsLoseAndReorderNothing) {
+TEST(LogStore, KeepsAllLinesOfFourThreadsInOrder) {
     constexpr int perThread = 5000;
     const auto store = LogStore::makeForTesting(4 * perThread);
     std::vector<std::jthread> threads;

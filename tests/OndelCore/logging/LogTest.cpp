@@ -23,7 +23,7 @@ std::string_view logToken(Connection) { return "Internal SSD"; }
 } // namespace
 
 TEST(Log, RendersEachKindOfField) {
-    std::setlocale(LC_NUMERIC, "de_DE.UTF-8"); // durations keep their full stop
+    std::setlocale(LC_NUMERIC, "de_DE.UTF-8"); // durations have a full stop in every locale
     const struct {
         LogField field;
         const char* text;
@@ -51,13 +51,13 @@ TEST(Log, RendersEachKindOfField) {
         const std::string body = captured.takeBody();
         if (text)
             EXPECT_EQ(body, std::string("line ") + text);
-        else // bytes that are no UTF-8 are replaced, and a NUL cuts nothing off
+        else // invalid UTF-8 is replaced, and a NUL does not truncate
             EXPECT_EQ(body, std::string("line bytes=\ufffd\ufffd(\0\ufffd\ufffd\ufffd", 5 + 6 + 6 + 2 + 9));
     }
     std::setlocale(LC_NUMERIC, "C");
 }
 
-TEST(Log, WritesMessageThenFieldsAtTheLevelAndDetailAsked) {
+TEST(Log, WritesMessageAndFieldsAtTheRequestedLevelAndDetail) {
     test::CapturedLog captured;
     captured.log().notice("launched");
     EXPECT_EQ(captured.takeBody(), "launched");
@@ -84,7 +84,7 @@ TEST(Log, WritesMessageThenFieldsAtTheLevelAndDetailAsked) {
     EXPECT_TRUE(captured.takeBody() == "line text=" + dots + " «path» scrubbed=1");
 }
 
-TEST(Log, AnyThreadMayLog) {
+TEST(Log, IsThreadSafe) {
     test::CapturedLog captured({"annika", std::nullopt, std::nullopt, std::nullopt});
     std::vector<std::jthread> threads;
     for (int t = 0; t < 4; ++t)

@@ -1,4 +1,4 @@
-// Compiled by three tests: as CONSTANT it must pass, in the other two ways the compiler must refuse it.
+// Compiled by three tests: CONSTANT must compile, the other two variants must not.
 
 #include "OndelCore/logging/Log.h"
 

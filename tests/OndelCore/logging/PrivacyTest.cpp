@@ -1,6 +1,6 @@
-// 200 made-up lines through every kind of field that takes a text. In the corpus, ⟨…⟩ must never come out,
-// ⟦…⟧ comes out of a token because no rule knows its shape, and ⟪…⟫ comes out of a
-// name alone, as the extension. So the corpus is also the list of what the rules let through.
+// 200 invented lines through every kind of text field. In the corpus, ⟨…⟩ must never appear in the log. ⟦…⟧
+// appears from a token, because no rule matches it. ⟪…⟫ appears only from a name, as its extension. So the
+// corpus also lists what the rules miss.
 
 #include "CapturedLog.h"
 #include "OndelCore/logging/LogScrubber.h"
@@ -76,7 +76,8 @@ const std::map<std::string, OndelCore::platform::UserFacts> users{
     {"root", {"root", "root", "vault-9", "/root"}},
     {"jo", {"jo", "Jo Li", "kite.corp.example", "/home/jo"}}};
 
-/// How many lines of a corpus keep something private, as a `token` or as `classified`. `told`: which.
+/// The number of lines of a corpus that keep private text, as a `token` or as `classified`. `told`: print
+/// them.
 template <typename Scrub>
 int survivors(const char* corpus, const Scrub& scrub, bool told) {
     int count = 0;
@@ -100,10 +101,10 @@ int survivors(const char* corpus, const Scrub& scrub, bool told) {
 
 } // namespace
 
-TEST(Privacy, TheNetForLinuxHoldsWhatTheRulesLetThrough) {
+TEST(Privacy, LinuxRulesCatchWhatTheCommonRulesMiss) {
     const auto byRules = [](const auto& user, std::string& line) { LogScrubber(user).scrubByRules(line); };
     const auto byBoth = [](const auto& user, std::string& line) { LogScrubber(user).scrub(line); };
-    // The second list was written by its own, not for the net.
+    // The second list was written independently of the rules.
     for (const auto& [corpus, least, letThrough] :
          {std::tuple("private-linux-lines.tsv", 190U, 100), {"private-linux-lines-2.tsv", 60U, 30}}) {
         EXPECT_GE(linesOf(corpus).size(), least);
@@ -115,7 +116,7 @@ TEST(Privacy, TheNetForLinuxHoldsWhatTheRulesLetThrough) {
     }
 }
 
-TEST(Privacy, HarmlessLinesStayAsTheyAre) {
+TEST(Privacy, LeavesHarmlessLinesUnchanged) {
     std::ifstream corpus(std::string(CORPORA) + "harmless-lines.txt");
     int count = 0;
     for (std::string line; std::getline(corpus, line); ++count)
@@ -130,7 +131,7 @@ TEST(Privacy, HarmlessLinesStayAsTheyAre) {
     EXPECT_GT(count, 100);
 }
 
-TEST(Privacy, NothingSurvivesButWhatNoRuleKnows) {
+TEST(Privacy, RemovesAllButKnownGaps) {
     std::map<std::string, test::CapturedLog> logs;
     for (const auto& [name, user] : users)
         logs.try_emplace(name, user);
@@ -149,7 +150,7 @@ TEST(Privacy, NothingSurvivesButWhatNoRuleKnows) {
             const std::string body = captured.takeBody();
             const bool showsText = kind < 2;
             expectPieces(body, piecesBetween(marked, hidden), false);
-            if (kind != 1) // quotes tell where a path with blanks ends
+            if (kind != 1) // quotes mark the end of a path with blanks
                 expectPieces(body, piecesBetween(marked, shown), showsText);
             expectPieces(body, piecesBetween(marked, extension), kind == 2);
         }

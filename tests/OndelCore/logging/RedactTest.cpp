@@ -22,11 +22,11 @@ std::string tokenOf(const std::string& value) {
 
 } // namespace
 
-TEST(Redact, PathKeepsShapeAndLosesNames) {
+TEST(Redact, KeepsTheShapeOfPathsWithoutNames) {
     const std::string tooLong(256, 'x');
     const struct {
         std::string path;
-        std::string before, after; // of the token
+        std::string before, after; // before and after the token
     } cases[] = {
         {"/Users/ann/My Files/report.final.pdf", "/1/2/3/«", "».pdf len=36 name=16"},
         {"file.txt", "/«", "».txt len=8 name=8"},
@@ -54,7 +54,7 @@ TEST(Redact, PathKeepsShapeAndLosesNames) {
     EXPECT_FALSE(QUuid::fromString(QString::fromStdString(Redact::salt())).isNull());
 }
 
-TEST(Redact, FailureNamesTheErrorWithoutItsPayload) {
+TEST(Redact, NamesErrorsWithoutTheirPayload) {
     const auto of = [](const auto& error) { return Redact::failure(std::make_exception_ptr(error)); };
     EXPECT_EQ(of(BenchmarkError(BenchmarkError::InsufficientSpace{5, 3})),
               "BenchmarkError.insufficientSpace OndelCore.BenchmarkError/0");

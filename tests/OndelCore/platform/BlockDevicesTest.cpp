@@ -49,12 +49,12 @@ protected:
     test::FakeMachine machine;
 };
 
-TEST_F(BlockStackTest, GoesThroughEachLayerToTheWholeDisks) {
+TEST_F(BlockStackTest, ResolvesEachLayerToTheWholeDisks) {
     EXPECT_EQ(disksUnder(makedev(8, 0)), "sda ");
     EXPECT_EQ(disksUnder(makedev(8, 1)), "sda ");
     EXPECT_EQ(disksUnder(makedev(99, 9)), "");
 
-    // A logical volume on an encrypted mirror of two partitions, as installers make it.
+    // A logical volume on an encrypted mirror of two partitions, a layout that installers make.
     machine.addBlockDevice("virtual/block/md0", makedev(9, 0));
     machine.stack("virtual/block/md0", ata2 + "/sdb1");
     machine.stack("virtual/block/md0", ata1 + "/sda1");
@@ -68,7 +68,7 @@ TEST_F(BlockStackTest, GoesThroughEachLayerToTheWholeDisks) {
     EXPECT_FALSE(stackOf(makedev(259, 0)).isEncrypted);
 }
 
-TEST_F(BlockStackTest, TellsEncryptionFromCryptsetupsOtherLayers) {
+TEST_F(BlockStackTest, DistinguishesEncryptionFromOtherLayersOfCryptsetup) {
     struct Case {
         const char* uuid;
         bool isEncrypted;
@@ -92,7 +92,7 @@ TEST_F(BlockStackTest, TellsEncryptionFromCryptsetupsOtherLayers) {
     }
 }
 
-TEST_F(BlockStackTest, CountsEveryDeviceOfAFileSystemThatHasSeveral) {
+TEST_F(BlockStackTest, IncludesAllDevicesOfAFileSystem) {
     const auto disksOf = [&](const char* type, dev_t device, const char* source) {
         return namesOf(blockStack(mountOf(device, source, type), machine.sources()));
     };
@@ -124,7 +124,7 @@ TEST_F(BlockStackTest, CountsEveryDeviceOfAFileSystemThatHasSeveral) {
     EXPECT_EQ(disksOf("tmpfs", makedev(0, 52), "tmpfs"), "");
 }
 
-TEST_F(BlockStackTest, LeavesTheSuperblockOfASleepingDiskUnread) {
+TEST_F(BlockStackTest, DoesNotReadTheSuperblockOfASleepingDisk) {
     SystemSources sources = machine.sources();
     sources.superblock = [](dev_t) { return DeviceProperties{{"ID_FS_TYPE", "ntfs"}}; };
     EXPECT_EQ(superblockUnlessAsleep(makedev(8, 1), sources).size(), 1U);
@@ -132,7 +132,7 @@ TEST_F(BlockStackTest, LeavesTheSuperblockOfASleepingDiskUnread) {
     EXPECT_EQ(superblockUnlessAsleep(makedev(8, 1), sources).size(), 0U);
 }
 
-TEST_F(BlockStackTest, EndsOnADamagedTree) {
+TEST_F(BlockStackTest, TerminatesOnADamagedTree) {
     addMapping(0, "LVM-a");
     addMapping(1, "LVM-b");
     machine.stack("virtual/block/dm-0", "virtual/block/dm-1");
@@ -148,7 +148,7 @@ TEST_F(BlockStackTest, EndsOnADamagedTree) {
     EXPECT_FALSE(blockDevice(makedev(7, 1), machine.sources().sysfs));
 }
 
-TEST_F(BlockStackTest, NamesTheDeviceBehindThePlaceholders) {
+TEST_F(BlockStackTest, ReplacesPlaceholdersByDeviceNames) {
     machine.addBlockDevice("virtual/block/cciss!c0d0", makedev(104, 0));
     const auto sysfs = machine.sources().sysfs;
     const auto source = [&](const std::string& text, dev_t device) {

@@ -18,7 +18,7 @@ namespace {
 
 enum Verdict : int { asExpected, otherwise, notAllowed };
 
-/// In a view of the file system that only this process has, "/run" holds a device database of one entry.
+/// A private mount namespace in which "/run" has a device database with one entry.
 int readOwnDatabase(const BlockDevice& device) {
     if (unshare(CLONE_NEWNS) != 0 || mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
         mount("tmpfs", "/run", "tmpfs", 0, nullptr) != 0)
@@ -37,7 +37,7 @@ int readOwnDatabase(const BlockDevice& device) {
     return isSound ? asExpected : otherwise;
 }
 
-TEST(DeviceDatabase, GivesItsValuesDecoded) {
+TEST(DeviceDatabase, DecodesItsValues) {
     EXPECT_TRUE(databaseProperties(makedev(4000, 4000)).empty());
     EXPECT_TRUE(superblockProperties(makedev(4000, 4000)).empty());
     std::optional<BlockDevice> device;

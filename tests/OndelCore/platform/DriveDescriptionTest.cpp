@@ -11,7 +11,7 @@ namespace {
 
 using Text = std::optional<std::string>;
 
-/// What is told of one disk with these attributes, and these entries in the device database.
+/// The description of a disk with these attributes and these entries in the device database.
 DriveDescription described(const std::string& place, const test::FakeMachine::Attributes& attributes,
                            const DeviceProperties& database = {}) {
     test::FakeMachine machine;
@@ -28,14 +28,14 @@ DriveDescription drive(const Text& vendor, const Text& model, const Text& bus, c
 
 constexpr std::nullopt_t none = std::nullopt;
 
-TEST(DriveDescription, TellsDisksOnCables) {
+TEST(DriveDescription, DescribesSataUsbAndSasDisks) {
     const std::string sata = "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0/block/sda";
     const test::FakeMachine::Attributes cut{{"device/vendor", "ATA     "},
                                             {"device/model", "Samsung SSD 860 "}};
     EXPECT_EQ(described(sata, cut), drive(none, "Samsung SSD 860 ", "SATA"));
     EXPECT_EQ(described(sata, cut, {{"ID_MODEL", "Samsung SSD 860 EVO 500GB "}, {"ID_BUS", "ata"}}),
               drive(none, "Samsung SSD 860 EVO 500GB ", "SATA", "SATA"));
-    // A bridge that passes ATA commands on makes the database call the disk an ATA one.
+    // Behind a bridge that passes ATA commands the database has the disk as ATA.
     EXPECT_EQ(described("pci0000:00/usb2/2-1/2-1:1.0/host6/target6:0:0/6:0:0:0/block/sdc",
                         {{"device/vendor", "WD      "}, {"device/model", "My Passport 25E2"}},
                         {{"ID_BUS", "ata"}}),
@@ -49,7 +49,7 @@ TEST(DriveDescription, TellsDisksOnCables) {
               drive(none, none, none, "FireWire"));
 }
 
-TEST(DriveDescription, TellsFlashAndMadeUpDisks) {
+TEST(DriveDescription, DescribesFlashAndVirtualDisks) {
     const std::string slot = "pci0000:00/0000:00:07.0/0000:04:00.0/nvme/nvme1/nvme1n1";
     EXPECT_EQ(described(slot, {{"../transport", "pcie"}, {"device/model", "SN730"}}),
               drive(none, "SN730", "NVMe"));
@@ -66,7 +66,7 @@ TEST(DriveDescription, TellsFlashAndMadeUpDisks) {
     EXPECT_EQ(described("virtual/block/loop0", {}), DriveDescription());
 }
 
-TEST(DriveDescription, OfSeveralDisksTellsWhatTheyHaveInCommon) {
+TEST(DriveDescription, HasTheCommonPropertiesOfSeveralDisks) {
     test::FakeMachine machine;
     const auto addDisk = [&](const std::string& name, unsigned minorNumber, const char* model) {
         const std::string place = "pci0000:00/ata" + std::to_string(minorNumber) + "/block/" + name;

@@ -21,10 +21,10 @@ namespace test {
 using namespace OndelCore::platform;
 using Bytes = std::vector<std::uint8_t>;
 
-/// Sense data as a translator answers CK_COND with, around the registers that matter here.
+/// A translator's sense data for CK_COND, with these registers.
 inline Bytes descriptorSense(std::uint8_t status, std::uint8_t count, std::uint8_t lbaMid = 0,
                              std::uint8_t lbaHigh = 0) {
-    // A vendor's descriptor of 4 bytes stands in front, as the order is free.
+    // A vendor-specific descriptor of 4 bytes comes first: the order is free.
     return {0x72, 0x01, 0x00, 0x1d, 0,     0, 0, 18, 0x80,   0x02, 0,       0, 0x09,
             0x0c, 0,    0,    0,    count, 0, 0, 0,  lbaMid, 0,    lbaHigh, 0, status};
 }
@@ -34,26 +34,25 @@ inline Bytes fixedSense(std::uint8_t status, std::uint8_t count, std::uint8_t lb
     return {0xf0, 0, 0x01, 0, status, 0, count, 10, 0, 0, lbaMid, lbaHigh, 0x00, 0x1d, 0, 0, 0, 0};
 }
 
-/// How a drive answers. The defaults are an awake, healthy ATA or NVMe drive.
+/// The answers of a drive. By default it is awake and healthy.
 struct FakeDrive {
     int openError = 0;
-    int commandError = 0; ///< errno of every command once `commandsBeforeError` have been answered
+    int commandError = 0; ///< errno of each command after the first `commandsBeforeError`
     std::size_t commandsBeforeError = 0;
 
     int nvmeStatus = 0;
     Bytes power = descriptorSense(0x50, 0xff, 0, 0);
     Bytes verdict = descriptorSense(0x50, 0, 0x4f, 0xc2);
     int hostStatus = 0; ///< of reading the page
-    int missing = 0;    ///< bytes of the page that do not arrive
+    int missing = 0;    ///< bytes missing at the end of the page
     SmartPage page{};
     Bytes supportedPages{}; ///< answer to the inquiry for product data pages
 
-    std::vector<Bytes> commands{};            ///< what it was sent
-    std::shared_ptr<std::latch> hangsUntil{}; ///< commands wait for it
+    std::vector<Bytes> commands{};            ///< commands received
+    std::shared_ptr<std::latch> hangsUntil{}; ///< commands block until it is released
 };
 
-/// Stands where the kernel would: answers the two kinds of commands for the drives it holds. Threads: one for
-/// each drive.
+/// Replaces the kernel: answers NVMe and SCSI commands for its drives. Threads: one for each drive.
 class FakeDrives : public DriveCalls {
 public:
     std::map<std::string, FakeDrive> drives;
@@ -124,7 +123,7 @@ private:
     std::map<int, std::string> m_names; ///< of the disks that are open, by descriptor
 };
 
-/// A disk of `machine` with the bus or class that its driver belongs to.
+/// Adds a disk to `machine`, with the kernel subsystem of its driver.
 inline void addDisk(FakeMachine& machine, const std::string& name, dev_t number, const std::string& subsystem,
                     const FakeMachine::Attributes& attributes = {}) {
     const auto device = machine.addBlockDevice(name, number, attributes) / "device";
@@ -132,15 +131,14 @@ inline void addDisk(FakeMachine& machine, const std::string& name, dev_t number,
     std::filesystem::create_symlink("/sys/class/" + subsystem, device / "subsystem");
 }
 
-/// Sources that know nothing but this machine and these drives; no second reader is reachable.
+/// Sources of this machine and these drives only, without a service.
 inline SmartSources sourcesOf(const FakeMachine& machine, FakeDrives& drives) {
     return {.system = machine.sources(),
             .calls = {std::shared_ptr<void>(), &drives},
             .serviceBus = "unix:path=" + (machine.folder() / "no-bus").string()};
 }
 
-/// A file system on a device below "/dev", as the mount table lists it where the file system has a number of
-/// its own.
+/// A mount of a device below "/dev" whose file system has an anonymous number.
 inline Mount mountFrom(const std::string& deviceName, const char* type = "ext4") {
     Mount mount;
     mount.type = type;
@@ -148,7 +146,7 @@ inline Mount mountFrom(const std::string& deviceName, const char* type = "ext4")
     return mount;
 }
 
-/// What the one disk under a device answers, or why there is none.
+/// The answer of the only disk under a device, or why there is none.
 inline SmartAnswer answerOf(const std::string& deviceName, const SmartSources& sources) {
     DiskAnswers answers = smartOfMount(mountFrom(deviceName), sources);
     EXPECT_LE(answers.disks.size(), 1U);

@@ -19,7 +19,7 @@ namespace test {
 
 using namespace OndelCore::platform;
 
-/// A message bus of its own with nothing on it that nobody puts there.
+/// A private message bus without services.
 class PrivateBus {
 public:
     PrivateBus() {
@@ -41,7 +41,7 @@ public:
         m_daemon.waitForFinished();
     }
 
-    /// Empty when no bus could be started here.
+    /// Empty if no bus could be started.
     const std::string& address() const { return m_address; }
 
 private:
@@ -68,14 +68,14 @@ inline QDBusArgument& operator<<(QDBusArgument& argument, const UDisksAtaRow& ro
 
 inline const QDBusArgument& operator>>(const QDBusArgument& argument, UDisksAtaRow&) { return argument; }
 
-/// What the service is to answer.
+/// The answers of the service.
 struct UDisksScript {
     UDisksObjects objects{};
     QVariant attributes{};       ///< of SmartGetAttributes; invalid: an error
-    QVariantMap afterUpdate{};   ///< properties of the S.M.A.R.T. interface behind SmartUpdate
+    QVariantMap afterUpdate{};   ///< properties of the S.M.A.R.T. interface after SmartUpdate
     bool refusesUpdate = false;  ///< "it would wake the drive"
     bool isMute = false;         ///< never answers anything
-    QVariant insteadOfObjects{}; ///< valid: what GetManagedObjects answers against its contract
+    QVariant insteadOfObjects{}; ///< valid: a wrong reply of GetManagedObjects
 };
 
 inline QVariant ataTable(const QList<UDisksAtaRow>& rows) {
@@ -100,8 +100,8 @@ inline UDisksObjects oneDrive(qulonglong deviceNumber, const QString& interface,
     return objects;
 }
 
-/// Speaks as org.freedesktop.UDisks2 on a bus, in a thread of its own. Fails: throws std::runtime_error when
-/// the bus refuses it.
+/// Serves org.freedesktop.UDisks2 on a bus, in a thread of its own. Fails: throws std::runtime_error if the
+/// bus refuses the name.
 class FakeUDisks {
 public:
     FakeUDisks(const std::string& address, UDisksScript script)
@@ -124,7 +124,7 @@ public:
         m_thread.wait();
     }
 
-    /// How often a S.M.A.R.T. method came without the two options that spare people and drives.
+    /// The number of S.M.A.R.T. calls without the options `nowakeup` and `auth.no_user_interaction`.
     int carelessCalls() const { return m_service->carelessCalls; }
 
 private:

@@ -12,18 +12,18 @@ using namespace OndelCore::platform;
 
 namespace {
 
-TEST(FileSystemFacts, HaveOneSoundRowPerType) {
+TEST(FileSystemFacts, HaveOneValidRowPerType) {
     std::set<std::string_view> types;
     for (const FileSystemFacts& facts : allFileSystemFacts()) {
         EXPECT_TRUE(types.insert(facts.type).second) << facts.type;
         EXPECT_FALSE(facts.displayName.empty()) << facts.type;
         for (const CapabilityWord& word : {facts.capabilities.format, facts.capabilities.interfaces})
-            EXPECT_EQ(word.claimed & ~word.valid, 0U) << facts.type << " claims what it does not know";
-        EXPECT_EQ(fileSystemTypeName(facts.type), facts.type) << "a row that an alias hides";
+            EXPECT_EQ(word.claimed & ~word.valid, 0U) << facts.type << " claims invalid bits";
+        EXPECT_EQ(fileSystemTypeName(facts.type), facts.type) << "hidden by an alias";
     }
 }
 
-TEST(FileSystemFacts, BringTypesToTheFixedVocabulary) {
+TEST(FileSystemFacts, NormalizeTypeNames) {
     EXPECT_EQ(fileSystemTypeName("nfs4"), "nfs");
     EXPECT_EQ(fileSystemTypeName("smb3"), "cifs");
     EXPECT_EQ(fileSystemTypeName("davfs"), "webdav");
@@ -53,19 +53,20 @@ protected:
     }
 };
 
-TEST_F(OptimalSizeTest, IsWhatTheQueueOfTheWholeDiskTakesBest) {
+TEST_F(OptimalSizeTest, ComesFromTheQueueOfTheWholeDisk) {
     const char* const declared = "queue/optimal_io_size";
     const char* const request = "queue/max_sectors_kb";
     EXPECT_EQ(optimalSize({{declared, "0"}, {request, "1280"}}), 1048576);
     EXPECT_EQ(optimalSize({{declared, "0"}, {request, "4"}}), 65536);
     EXPECT_EQ(optimalSize({{declared, "0"}, {request, "32767"}}), 4194304);
     EXPECT_EQ(optimalSize({{declared, "1572864"}, {request, "512"}}), 1572864); // a RAID's stripe
-    EXPECT_EQ(optimalSize({{declared, "33553920"}, {request, "512"}}), 524288); // a USB bridge's invention
+    EXPECT_EQ(optimalSize({{declared, "33553920"}, {request, "512"}}),
+              524288); // a wrong value of a USB bridge
     EXPECT_EQ(optimalSize({{declared, "-4096"}, {request, "junk"}}), 0);
     EXPECT_EQ(optimalSize({}), 0);
 }
 
-TEST_F(OptimalSizeTest, OfAServerIsItsOwnWordAndOfMemoryNone) {
+TEST_F(OptimalSizeTest, IsTheServersPreferenceAndUnknownForMemory) {
     test::FakeMachine machine;
     struct stat facts{};
     ASSERT_EQ(stat(machine.folder().c_str(), &facts), 0);
@@ -78,7 +79,7 @@ TEST_F(OptimalSizeTest, OfAServerIsItsOwnWordAndOfMemoryNone) {
     EXPECT_EQ(askFileSystem(machine.folder(), machine.sources())->optimalIOSizeBytes, 0);
 }
 
-TEST(FileSystemAnswers, FollowOptionsAndLayers) {
+TEST(FileSystemAnswers, DependOnOptionsAndLayers) {
     test::FakeMachine machine;
     machine.addBlockDevice("virtual/block/dm-0", makedev(253, 0), {{"dm/uuid", "CRYPT-VERITY-00-usr"}});
     const auto words = [&](const test::FakeMachine::Row& row) {
@@ -98,13 +99,13 @@ TEST(FileSystemAnswers, FollowOptionsAndLayers) {
                     .format.has(formatCaseSensitive));
 }
 
-/// What file systems answer, and what trying shows of them: names looked up in the other case, links and
-/// holes made, names of 255 and 256 characters, access lists set and read again. The rows of network file
-/// systems follow from what their drivers do; the others were recorded.
+/// The answers of file systems, and their abilities in trials: looking up names in the other case, making
+/// links and holes, names of 255 and 256 characters, setting and reading access lists. The rows of network
+/// file systems are derived from their drivers; the others were recorded.
 struct Tried {
     const char* what;
     const char *type, *source, *superOptions;
-    std::int64_t nameMax; ///< as pathconf(3) answers
+    std::int64_t nameMax; ///< the result of pathconf(3)
     std::optional<bool> userAttributes, accessLists;
     LetterCase letterCase;
     bool hasCapitals;
@@ -113,8 +114,8 @@ struct Tried {
     std::optional<std::int64_t> mostLinks;
 };
 
-/// Sensitive to case, Preserving it, sYmbolic and Hard links, Sparse files, access Lists, Clones: the letter
-/// where it is there, "-" where it is not, "." where that is not known.
+/// Case-sensitive, case-Preserving, sYmbolic and Hard links, Sparse files, access Lists, cloning (K): the
+/// letter if present, "-" if absent, "." if unknown.
 std::string abilitiesOf(const CapabilityWords& words) {
     const auto answer = [](const CapabilityWord& word, std::uint32_t bit, char letter) {
         return !word.knows(bit) ? '.' : word.has(bit) ? letter : '-';
@@ -128,7 +129,7 @@ std::string abilitiesOf(const CapabilityWords& words) {
             answer(words.interfaces, interfaceClone, 'K')};
 }
 
-TEST(FileSystemAnswers, AreWhatTryingShows) {
+TEST(FileSystemAnswers, AgreeWithTrials) {
     using enum LetterCase;
     const auto none = std::nullopt;
     for (const Tried& tried : {
@@ -174,7 +175,7 @@ TEST(FileSystemAnswers, AreWhatTryingShows) {
         mount.superOptions = tried.superOptions;
         PathFacts told;
         told.maxNameLength = tried.nameMax;
-        told.maxLinkCount = 127; // as pathconf(3) answers where it does not know
+        told.maxLinkCount = 127; // the result of pathconf(3) if it does not know
         told.keepsUserAttributes = tried.userAttributes;
         told.keepsAccessLists = tried.accessLists;
         told.letterCase = tried.letterCase;
@@ -186,7 +187,7 @@ TEST(FileSystemAnswers, AreWhatTryingShows) {
     }
 }
 
-TEST(FileSystemAnswers, ToUnknownTypesAndPaths) {
+TEST(FileSystemAnswers, HandleUnknownTypesAndPaths) {
     test::FakeMachine machine;
     machine.pretendMounted(machine.folder(), {.type = "unheard-of", .device = makedev(8, 0)});
     const auto answers = askFileSystem(machine.folder(), machine.sources());

@@ -26,7 +26,7 @@ std::vector<std::string> visiblePoints(std::vector<Mount> table) {
     return points;
 }
 
-TEST(VisibleMounts, AreThoseThatAPersonExpects) {
+TEST(VisibleMounts, AreTheVolumesThatPeopleExpect) {
     struct Case {
         const char* fixture;
         std::vector<std::string> expected;
@@ -54,7 +54,7 @@ TEST(VisibleMounts, AreThoseThatAPersonExpects) {
     }
 }
 
-TEST(VisibleMounts, EndOnATableThatIsDamaged) {
+TEST(VisibleMounts, TerminateOnADamagedTable) {
     const auto mount = [](std::uint64_t id, std::uint64_t parent, const char* point) {
         Mount one;
         one.id = one.device = id;
@@ -70,7 +70,7 @@ TEST(VisibleMounts, EndOnATableThatIsDamaged) {
               (std::vector<std::string>{"/", "/b"}));
 }
 
-TEST(MountTable, KeepsBytesAndLeavesMalformedLinesOut) {
+TEST(MountTable, KeepsBytesAndSkipsMalformedLines) {
     const test::TemporaryFolder folder;
     const auto table = folder.path() / "mountinfo";
     std::ofstream(table)
@@ -106,7 +106,7 @@ TEST(MountTable, IsReadOnceForAllCopies) {
     EXPECT_EQ(MountTable(file).mounts().size(), 0U);
 }
 
-TEST(MountOfDescriptor, IsThatOfThePath) {
+TEST(MountOfDescriptor, EqualsTheMountOfThePath) {
     const auto all = mounts();
     for (const char* path : {"/proc/self/mountinfo", "/dev", "/"}) {
         const FileDescriptor file(open(path, O_RDONLY | O_CLOEXEC));
@@ -118,7 +118,7 @@ TEST(MountOfDescriptor, IsThatOfThePath) {
     EXPECT_FALSE(mountOfDescriptor(-1, all));
 }
 
-TEST(MountOptions, AreWholeWords) {
+TEST(MountOptions, MatchWholeWords) {
     const std::string options = "rw,nocase_not,upperdir=/a=b,size=,ro";
     EXPECT_TRUE(hasMountOption(options, "ro"));
     EXPECT_FALSE(hasMountOption(options, "nocase"));

@@ -34,7 +34,7 @@ struct RemoveTree : testing::Test {
     const fs::path outside = folder.path() / "outside", tree = folder.path() / "tree";
 };
 
-TEST_F(RemoveTree, TakesWhateverIsInsideAndNothingElse) {
+TEST_F(RemoveTree, RemovesTheContentAndNothingElse) {
     fs::create_directories(tree / "closed" / "inner");
     fs::create_directories(tree / "\xff not UTF-8");
     for (int i = 0; i < 1500; ++i)
@@ -50,7 +50,7 @@ TEST_F(RemoveTree, TakesWhateverIsInsideAndNothingElse) {
     removeTree(tree);
 }
 
-TEST_F(RemoveTree, LeavesWhatIsMountedInsideAlone) {
+TEST_F(RemoveTree, LeavesMountedFileSystemsAlone) {
     const fs::path other = tree / "tmpfs", same = tree / "bind";
     fs::create_directories(other);
     fs::create_directories(same);
@@ -65,7 +65,7 @@ TEST_F(RemoveTree, LeavesWhatIsMountedInsideAlone) {
     EXPECT_EQ(umount(other.c_str()) + umount(same.c_str()), 0);
 }
 
-TEST_F(RemoveTree, TakesAnyDepth) {
+TEST_F(RemoveTree, RemovesAnyDepth) {
     if (!fs::is_directory("/dev/shm"))
         GTEST_SKIP() << "no file system in memory";
     const test::TemporaryFolder memory("/dev/shm");
@@ -75,12 +75,12 @@ TEST_F(RemoveTree, TakesAnyDepth) {
         ASSERT_EQ(mkdirat(inner.get(), "d", 0700), 0);
         inner = FileDescriptor(openat(inner.get(), "d", O_RDONLY | O_DIRECTORY));
     }
-    inner = FileDescriptor(); // it would keep all folders above it in the kernel's memory
+    inner = FileDescriptor(); // an open descriptor keeps all parent folders in memory
     removeTree(memory.path() / "tree");
     EXPECT_FALSE(isThere(memory.path() / "tree"));
 }
 
-TEST_F(RemoveTree, EndsWhereAnOpenFileComesBackUnderAnotherName) {
+TEST_F(RemoveTree, TerminatesIfAnOpenFileIsRenamedByItsRemoval) {
     fs::create_directories(tree / "inner");
     for (const char* name : {"a", "held", "z"})
         std::ofstream(tree / "inner" / name).put('x');
@@ -90,7 +90,7 @@ TEST_F(RemoveTree, EndsWhereAnOpenFileComesBackUnderAnotherName) {
         if (entry != "held" && !entry.starts_with(".fuse_hidden"))
             return unlinkat(parent, name, flags);
         if (++hidden > 100)
-            throw std::bad_alloc(); // it goes on for ever
+            throw std::bad_alloc(); // it does not terminate
         return renameat(parent, name, parent, (".fuse_hidden" + std::to_string(hidden)).c_str());
     });
     EXPECT_LE(hidden, 3);
@@ -99,7 +99,7 @@ TEST_F(RemoveTree, EndsWhereAnOpenFileComesBackUnderAnotherName) {
     EXPECT_FALSE(isThere(tree));
 }
 
-TEST_F(RemoveTree, FollowsItsFolderAndNotTheName) {
+TEST_F(RemoveTree, FollowsARenamedFolder) {
     const FileDescriptor parent = openFolder(folder.path());
     const FileDescriptor opened = openInnerFolder(parent.get(), "tree");
     std::ofstream(tree / "file").put('x');
@@ -109,7 +109,7 @@ TEST_F(RemoveTree, FollowsItsFolderAndNotTheName) {
     EXPECT_FALSE(isThere(outside / "moved"));
     EXPECT_TRUE(isThere(tree));
 
-    // A folder that is moved out while it is walked leads up into somebody else's.
+    // The parent of a folder that is moved out during the walk is another folder.
     fs::create_directories(tree / "a" / "b");
     std::ofstream(tree / "a" / "b" / "last").put('x');
     std::ofstream(tree / "a" / "z").put('x');

@@ -25,7 +25,7 @@ std::string childStates() {
         std::stringstream text;
         text << std::ifstream(entry.path() / "stat").rdbuf();
         const std::string line = text.str();
-        const auto name = line.rfind(") "); // before it stands what the process calls itself
+        const auto name = line.rfind(") "); // the end of the process name
         if (name == std::string::npos)
             continue;
         char state = 0;
@@ -37,7 +37,7 @@ std::string childStates() {
     return states;
 }
 
-TEST(PathFacts, DoNotWaitForAFileSystemThatHangsAndLeaveNoProcess) {
+TEST(PathFacts, NeitherWaitForAHangingFileSystemNorLeaveProcesses) {
     test::DeafFileSystem deaf;
     if (!deaf.problem().empty())
         GTEST_SKIP() << deaf.problem();
@@ -45,19 +45,20 @@ TEST(PathFacts, DoNotWaitForAFileSystemThatHangsAndLeaveNoProcess) {
         return pathFacts(deaf.path() / "x", PathQuestion::place, waiting);
     };
     EXPECT_FALSE(ask({.patience = 24h, .isCancelled = [&deaf] { return deaf.isAsked(); }}));
-    while (childStates() != "D") // it was told to end and cannot
+    while (childStates() != "D") // killed, but unable to end
         poll(nullptr, 0, 1);
     for (int time = 0; time < 3; ++time) {
         EXPECT_FALSE(ask({.patience = 1ms}));
-        EXPECT_EQ(childStates(), "D") << "one that hangs, for all questions";
+        EXPECT_EQ(childStates(), "D") << "one hanging child for all questions";
     }
     deaf.end();
-    EXPECT_EQ(ask({.patience = 24h})->error, ENOTCONN) << "asked anew as soon as the hanging one has ended";
+    EXPECT_EQ(ask({.patience = 24h})->error, ENOTCONN)
+        << "asked again as soon as the hanging child has ended";
     while (!childStates().empty())
         poll(nullptr, 0, 1);
 }
 
-TEST(PathFacts, OfAChildAreThoseOfThisProcess) {
+TEST(PathFacts, AreTheSameThroughAChildProcess) {
     const test::TemporaryFolder folder;
     std::ofstream(folder.path() / "Name") << "x";
     fs::create_symlink(folder.path(), folder.path() / "link");
@@ -88,7 +89,7 @@ TEST(PathFacts, OfAChildAreThoseOfThisProcess) {
     EXPECT_TRUE(both(folder.path()).isFolder);
 }
 
-TEST(PathFacts, KnowWhichPathsMayHang) {
+TEST(MayHang, FollowsLinksToMountsThatMayHang) {
     const test::TemporaryFolder parent;
     const fs::path folder = fs::canonical(parent.path());
     fs::create_directories(folder / "local/below");
@@ -117,7 +118,7 @@ TEST(PathFacts, KnowWhichPathsMayHang) {
         EXPECT_FALSE(mayHang(mounted("/x", type))) << type;
 }
 
-TEST(PathFacts, TellLetterCaseByNamesThatAreThere) {
+TEST(PathFacts, DetectLetterCaseByExistingNames) {
     const test::TemporaryFolder folder;
     const auto letterCase = [](const fs::path& path) {
         return pathFacts(path, PathQuestion::abilities)->letterCase;
@@ -125,10 +126,10 @@ TEST(PathFacts, TellLetterCaseByNamesThatAreThere) {
     const fs::path below = folder.path() / "12";
     fs::create_directory(below);
     std::ofstream(below / "34").close();
-    EXPECT_EQ(letterCase(below), LetterCase::sensitive) << "by a name of a folder above";
+    EXPECT_EQ(letterCase(below), LetterCase::sensitive) << "by a name in a parent folder";
     std::ofstream(below / "Name").close();
     std::ofstream(below / "nAME").close();
-    EXPECT_EQ(letterCase(below), LetterCase::sensitive) << "by two that are one in the other case";
+    EXPECT_EQ(letterCase(below), LetterCase::sensitive) << "by two names that differ in case";
 }
 
 } // namespace

@@ -27,7 +27,7 @@ SmartPage filled(std::uint8_t byte) {
     return page;
 }
 
-TEST(SmartBlocks, AsksAnNvmeDriveForItsHealthLogAndNothingElse) {
+TEST(SmartBlocks, ReadsOnlyTheHealthLogOfAnNvmeDrive) {
     FakeMachine machine;
     addDisk(machine, "nvme0n1", makedev(259, 0), "nvme");
     machine.addBlockDevice("nvme0n1/nvme0n1p2", makedev(259, 2), {{"partition", "1"}});
@@ -49,7 +49,7 @@ TEST(SmartBlocks, AsksAnNvmeDriveForItsHealthLogAndNothingElse) {
     EXPECT_EQ(command.timeout_ms, 20000U);
 }
 
-/// An ATA disk, and what comes of asking it: verdict, page, number of commands that it was sent.
+/// An ATA disk and the expected outcome: verdict, page, number of commands sent.
 struct AtaCase {
     const char* what;
     FakeDrive drive;
@@ -90,7 +90,7 @@ std::string outcomeOf(const SmartAnswer& answer, const FakeDrive& drive) {
     return text + ", " + std::to_string(drive.commands.size());
 }
 
-TEST(SmartBlocks, AsksAnAtaDriveForItsModeThenItsVerdictThenItsFigures) {
+TEST(SmartBlocks, ReadsModeThenVerdictThenFiguresOfAnAtaDrive) {
     const test::Bytes expected[] = {
         {0x85, 0x06, 0x20, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xe5, 0},
         {0x85, 0x06, 0x20, 0, 0xda, 0, 0, 0, 0, 0, 0x4f, 0, 0xc2, 0, 0xb0, 0},
@@ -111,7 +111,7 @@ TEST(SmartBlocks, AsksAnAtaDriveForItsModeThenItsVerdictThenItsFigures) {
     }
 }
 
-TEST(SmartBlocks, SendsNoAtaCommandToWhatDoesNotDeclareToTakeThem) {
+TEST(SmartBlocks, SendsAtaCommandsOnlyToDisksThatDeclareThem) {
     struct Case {
         const char* what;
         FakeMachine::Attributes files;
@@ -156,7 +156,7 @@ std::string told(const DiskAnswers& answers) {
     return text;
 }
 
-TEST(SmartBlocks, AsksEveryDiskUnderAllLayers) {
+TEST(SmartBlocks, ReadsEveryDiskUnderAllLayers) {
     FakeMachine machine;
     const FakeMachine::Attributes ata{{"device/vendor", "ATA"}};
     addDisk(machine, "sda", makedev(8, 0), "scsi", ata);
@@ -212,7 +212,7 @@ TEST(SmartBlocks, AsksEveryDiskUnderAllLayers) {
     EXPECT_EQ(all("dm-2"), "sdb: ATA S.M.A.R.T. of sdc") << "the other path to the drive works";
 }
 
-TEST(SmartBlocks, WaitsForADiskThatHangsNoLongerThanItsPatience) {
+TEST(SmartBlocks, LimitsTheWaitForAHangingDisk) {
     FakeMachine machine;
     addDisk(machine, "nvme0n1", makedev(259, 0), "nvme");
     addDisk(machine, "nvme1n1", makedev(259, 1), "nvme");
@@ -222,16 +222,16 @@ TEST(SmartBlocks, WaitsForADiskThatHangsNoLongerThanItsPatience) {
     drives->drives["nvme0n1"].hangsUntil = gate;
     drives->drives["nvme1n1"];
     SmartSources sources = sourcesOf(machine, *drives);
-    sources.calls = drives; // shared with the thread that hangs
+    sources.calls = drives; // shared with the hanging thread
     sources.patience = std::chrono::seconds(1);
     const std::string answers = told(smartOfMount(mountFrom("nvme0n1", "btrfs"), sources));
     gate->count_down();
     EXPECT_EQ(answers, "nvme0n1: nvme0n1 does not answer | nvme1n1: NVMe health log of nvme1n1");
 }
 
-/// Damaged sense data of every length, in a buffer of exactly that length so that the sanitizers see a byte
-/// too far.
-TEST(SmartBlocks, ReadsSenseDataOfAnyBytes) {
+/// Damaged sense data of every length, in buffers of exactly that length, so that the sanitizers detect reads
+/// beyond the end.
+TEST(SmartBlocks, DecodesDamagedSenseData) {
     std::mt19937_64 random(8589934592);
     std::size_t found = 0;
     for (int round = 0; round < 300000; ++round) {
@@ -248,7 +248,7 @@ TEST(SmartBlocks, ReadsSenseDataOfAnyBytes) {
               ataRegisters(descriptorSense(0x51, 7, 0x4f, 0xc2)));
 }
 
-TEST(SmartBlocks, StandsTheRealMachine) {
+TEST(SmartBlocks, HandlesNamesOfTheRealMachine) {
     for (const char* name : {"", "null", "no-such-device", "../etc/passwd", "loop0"})
         EXPECT_TRUE(answerOf(name, {}).isEmpty()) << name;
 }

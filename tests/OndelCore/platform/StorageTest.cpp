@@ -1,5 +1,5 @@
-// What the storage functions ask of the system. In this program fsync, fstatvfs and statfs are the functions
-// below.
+// The system calls of the storage functions. In this program fsync, fstatvfs and statfs are replaced by the
+// functions below.
 
 #include "OndelCore/platform/storage/Storage.h"
 
@@ -26,10 +26,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What fsync was called for: "folder", or "file of N bytes".
+/// The files that fsync was called for: "folder", or "file of N bytes".
 std::vector<std::string> synced;
 
-/// A file system that counts in fragments of 512 bytes and likes transfers of 4096, of which 2 are root's.
+/// A file system with fragments of 512 bytes, of which 2 are reserved for root, and a preferred transfer of
+/// 4096 bytes.
 template <typename Sizes>
 int answerSmallFragments(Sizes& sizes) {
     sizes = {};
@@ -55,7 +56,7 @@ extern "C" int statfs(const char*, struct statfs* sizes) noexcept { return answe
 
 namespace {
 
-TEST(Storage, FlushesByTheCallThatReachesTheMedium) {
+TEST(Storage, FlushesWithFsync) {
     const test::TemporaryFolder folder;
     const FileDescriptor opened(open(folder.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     synced.clear();
@@ -90,7 +91,7 @@ TEST(ReplaceFile, SyncsTheContentThenTheFolder) {
     EXPECT_EQ(fs::status(file).permissions(), permissions);
 }
 
-TEST(CacheBypass, LeavesOutOneRefusedTransferOnly) {
+TEST(CacheBypass, IsOffForTheRefusedTransferOnly) {
     const test::TemporaryFolder folder;
     const FileDescriptor file(open((folder.path() / "file").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
     CacheBypass bypass(file.get());

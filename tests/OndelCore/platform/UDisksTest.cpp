@@ -38,7 +38,7 @@ QVariantMap nvmeProperties() {
             {u"SmartTemperature"_s, QVariant::fromValue(ushort{311})}};
 }
 
-/// A disk that this process may not ask, on a bus where the service speaks by a script.
+/// A disk without permission for this process, and a scripted service on a private bus.
 class UDisks : public testing::Test {
 protected:
     void SetUp() override {
@@ -71,7 +71,7 @@ private:
     test::FakeDrives m_drives;
 };
 
-TEST_F(UDisks, TellsAnAtaDrivesFiguresInItsRawUnits) {
+TEST_F(UDisks, ConvertsAtaFiguresToRawValues) {
     const QVariant table = test::ataTable({{5, 3, 8},
                                            {9, 2, 3600000LL * 30},
                                            {10, 1, 0},
@@ -81,7 +81,7 @@ TEST_F(UDisks, TellsAnAtaDrivesFiguresInItsRawUnits) {
                                            {194, 4, 311550},
                                            {197, 3, 2},
                                            {199, 9, 5}});
-    // 38.4 °C: 273 K in place of 273.15 K would make 39 of it.
+    // 38.4 °C: with 273 K in place of 273.15 K it would be 39.
     const SmartAnswer answer = ask(scriptOf(ata, ataProperties(), table));
     ASSERT_TRUE(std::holds_alternative<AtaSmartReport>(answer.blocks)) << answer.source;
     const auto& report = std::get<AtaSmartReport>(answer.blocks);
@@ -93,7 +93,7 @@ TEST_F(UDisks, TellsAnAtaDrivesFiguresInItsRawUnits) {
     EXPECT_TRUE(std::holds_alternative<AtaSmartReport>(withoutTable.blocks)) << withoutTable.source;
 }
 
-TEST_F(UDisks, KeepsWhatItReadLastWhenTheDriveSleeps) {
+TEST_F(UDisks, ReportsTheLastFiguresOfASleepingDrive) {
     QVariantMap properties = ataProperties();
     properties[u"SmartFailing"_s] = true;
     properties[u"SmartUpdated"_s] = static_cast<qulonglong>(QDateTime::currentSecsSinceEpoch() - 605);
@@ -107,7 +107,7 @@ TEST_F(UDisks, KeepsWhatItReadLastWhenTheDriveSleeps) {
     EXPECT_EQ(answer.source, "UDisks2 for sda, read 10 min ago");
 }
 
-TEST_F(UDisks, TellsAnNvmeDrivesFigures) {
+TEST_F(UDisks, ConvertsNvmeFigures) {
     QVariantMap properties = nvmeProperties();
     properties[u"SmartUpdated"_s] = qulonglong{0};
     UDisksScript script = scriptOf(nvme, properties,
@@ -135,7 +135,7 @@ TEST_F(UDisks, TellsAnNvmeDrivesFigures) {
     EXPECT_EQ(report.bytesRead, 0U) << "left out while it is 0";
 }
 
-TEST_F(UDisks, GivesNoVerdictThatNobodyGave) {
+TEST_F(UDisks, InventsNoVerdict) {
     const auto with = [](QVariantMap properties, const QString& name, const QVariant& value) {
         value.isValid() ? void(properties[name] = value) : void(properties.remove(name));
         return properties;
@@ -164,7 +164,7 @@ TEST_F(UDisks, GivesNoVerdictThatNobodyGave) {
     }
 }
 
-TEST(UDisksBus, ThatTakesConnectionsAndSaysNothingIsLeftAlone) {
+TEST(UDisksBus, IsNotUsedIfItAcceptsConnectionsAndNeverAnswers) {
     test::FakeMachine machine;
     addDisk(machine, "sda", disk, "scsi", {{"device/vendor", "ATA"}});
     test::FakeDrives drives;
@@ -182,8 +182,8 @@ TEST(UDisksBus, ThatTakesConnectionsAndSaysNothingIsLeftAlone) {
               "sda may only be asked by an administrator, and UDisks2 does not answer");
 }
 
-/// The real service, its state in memory file systems of its own, so that it leaves nothing behind.
-TEST(RealUDisks, AnswersAsItsStandInDoes) {
+/// The real service, with its state in temporary memory file systems.
+TEST(RealUDisks, AnswersLikeTheFakeService) {
     const test::PrivateBus bus;
     const QString daemon = u"/usr/libexec/udisks2/udisksd"_s;
     if (bus.address().empty() || !QFile::exists(daemon))

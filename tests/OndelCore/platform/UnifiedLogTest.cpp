@@ -21,7 +21,7 @@ std::string headOf(char priority) {
 
 } // namespace
 
-TEST(UnifiedLog, SpeaksTheJournalsProtocol) {
+TEST(UnifiedLog, UsesTheJournalsProtocol) {
     test::JournalSocket journal;
     const UnifiedLog log(journal.path());
     const std::pair<UnifiedLogType, char> priorities[] = {{UnifiedLogType::debug, '7'},
@@ -41,7 +41,7 @@ TEST(UnifiedLog, SpeaksTheJournalsProtocol) {
     EXPECT_EQ(journal.take(), headOf('5') + "MESSAGE=" + giant + "\n");
 }
 
-TEST(UnifiedLog, NeverWaitsAndNeedsNoJournal) {
+TEST(UnifiedLog, NeverBlocksAndNeedsNoJournal) {
     {
         const test::JournalSocket deaf;
         const UnifiedLog log(deaf.path());

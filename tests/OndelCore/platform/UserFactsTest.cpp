@@ -14,7 +14,7 @@ using namespace OndelCore::platform;
 
 namespace {
 
-/// Sets a variable of the environment, or takes it away, until the object goes.
+/// Sets or unsets an environment variable for the lifetime of the object.
 class Variable {
 public:
     Variable(const char* name, const char* value)
@@ -33,7 +33,7 @@ private:
 
 } // namespace
 
-TEST(StandardFolders, FollowTheEnvironmentThenTheUserDatabase) {
+TEST(StandardFolders, UseTheEnvironmentThenTheUserDatabase) {
     EXPECT_EQ(homeFolder(), getenv("HOME"));
     EXPECT_EQ(stateHome(), getenv("XDG_STATE_HOME"));
     const passwd* user = getpwuid(geteuid());
@@ -47,7 +47,7 @@ TEST(StandardFolders, FollowTheEnvironmentThenTheUserDatabase) {
     }
 }
 
-TEST(PrivateTemporaryFolder, IsTheSessionsElseOneOfTheUsersOwnThatIsTakenAgain) {
+TEST(PrivateTemporaryFolder, IsInTheSessionsFolderElseReused) {
     namespace fs = std::filesystem;
     const fs::path session = privateTemporaryFolder().value();
     EXPECT_EQ(session.parent_path(), getenv("XDG_RUNTIME_DIR"));
@@ -61,7 +61,7 @@ TEST(PrivateTemporaryFolder, IsTheSessionsElseOneOfTheUsersOwnThatIsTakenAgain) 
     fs::permissions(earlier, fs::perms::group_read, fs::perm_options::add);
     const fs::path another = privateTemporaryFolder().value();
     EXPECT_NE(another, earlier);
-    if (chown(another.c_str(), 65534, 65534) == 0) { // as root alone
+    if (chown(another.c_str(), 65534, 65534) == 0) { // only as root
         EXPECT_NE(privateTemporaryFolder().value(), another);
     }
 }

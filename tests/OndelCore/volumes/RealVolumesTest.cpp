@@ -1,4 +1,4 @@
-// Against file systems made for the purpose on loop devices: what the kernel and the tools really answer.
+// Real file systems on loop devices, and the real answers of the kernel and its tools.
 
 #include "OndelCore/platform/storage/FileDescriptor.h"
 #include "OndelCore/platform/storage/FileTrials.h"
@@ -30,7 +30,7 @@ namespace {
 
 constexpr std::int64_t mebibyte = 1048576;
 
-/// A second mount of what is mounted already. Owner: the object unmounts.
+/// A second mount of a mounted file system. Owner: the destructor unmounts it.
 class Mounted {
 public:
     Mounted(const fs::path& source, const fs::path& point, const char* type, unsigned long flags,
@@ -61,7 +61,7 @@ bool canClone(const fs::path& folder) {
     return ioctl(to.get(), FICLONE, from.get()) == 0;
 }
 
-/// The entries of the real list that lie below `folder`, as mount points.
+/// The mount points below `folder` in the real list.
 std::vector<fs::path> listedBelow(const fs::path& folder) {
     std::vector<fs::path> points;
     for (const MountedVolume& volume : mountedVolumes())
@@ -83,7 +83,7 @@ struct Kind {
 
 class RealVolume : public testing::TestWithParam<Kind> {};
 
-TEST_P(RealVolume, IsToldAsItIs) {
+TEST_P(RealVolume, HasTheFactsOfItsFileSystem) {
     const Kind& kind = GetParam();
     const test::LoopMount disk(kind.type, kind.bytes * mebibyte);
     SKIP_WITHOUT(disk);
@@ -134,7 +134,7 @@ INSTANTIATE_TEST_SUITE_P(Types, RealVolume,
                                          Kind{"tmpfs", "tmpfs", 16, false, false, false}),
                          [](const auto& kind) { return std::string(kind.param.type); });
 
-TEST(RealVolumes, AJournalThatIsNotLoadedIsNotActive) {
+TEST(RealVolumes, HaveNoActiveJournalIfItIsNotLoaded) {
     const test::LoopMount disk("ext4", 64 * mebibyte, "ro,noload");
     SKIP_WITHOUT(disk);
     const auto capabilities = VolumeCapabilities::probe(disk.path());
@@ -143,7 +143,7 @@ TEST(RealVolumes, AJournalThatIsNotLoadedIsNotActive) {
     EXPECT_TRUE(VolumeInfo::load(Location::local(disk.path()))->isReadOnly);
 }
 
-TEST(RealVolumes, SubvolumesAreOneVolumeAtTheShortestPlace) {
+TEST(RealVolumes, ListSubvolumesOnceAtTheShortestMountPoint) {
     const test::LoopMount disk("btrfs", 128 * mebibyte);
     SKIP_WITHOUT(disk);
     if (QProcess::execute("btrfs", {"-q", "subvolume", "create",
@@ -163,7 +163,7 @@ TEST(RealVolumes, SubvolumesAreOneVolumeAtTheShortestPlace) {
     EXPECT_EQ(info->device, device);
 }
 
-TEST(RealVolumes, KeepTheBytesOfAnyName) {
+TEST(RealVolumes, KeepTheBytesOfNames) {
     const test::LoopMount disk("ext4", 64 * mebibyte);
     SKIP_WITHOUT(disk);
     const test::TemporaryFolder elsewhere;
@@ -179,7 +179,7 @@ TEST(RealVolumes, KeepTheBytesOfAnyName) {
     }
 }
 
-TEST(RealVolumes, AreListedWithOneThatNeverAnswers) {
+TEST(RealVolumes, AreListedDespiteOneThatNeverAnswers) {
     const test::DeafFileSystem deaf;
     SKIP_WITHOUT(deaf);
     const auto volumes = mountedVolumes();
@@ -190,7 +190,7 @@ TEST(RealVolumes, AreListedWithOneThatNeverAnswers) {
     EXPECT_FALSE(found->total);
 }
 
-/// File systems that the kernel or a FUSE program serves, whichever there is: the type is the device's.
+/// File systems of the kernel or a FUSE program, whichever is available. The type is that on the device.
 struct Foreign {
     const char* type;
     QStringList format;
@@ -207,8 +207,8 @@ TEST_P(ForeignVolume, HasTheTypeOfItsDevice) {
     EXPECT_EQ(listedBelow(disk.path()), std::vector<fs::path>{disk.path()});
 }
 
-/// Served by a FUSE program, on a loop device and from the image alone.
-TEST(RealVolumes, OfNTFSAreWhatTheirProgramMakesOfThem) {
+/// With a FUSE program, on a loop device and directly from the image.
+TEST(RealVolumes, OfNtfsHaveTheFactsOfTheirFuseProgram) {
     test::LoopMount disk("ntfs", 64 * mebibyte, {}, {"-q", "-F", "-L", "STICK"});
     SKIP_WITHOUT(disk);
     std::ofstream(disk.path() / "Name").close();

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-TEST(Bookmark, FindsItsFolderAndTellsWhenItIsAnother) {
+TEST(Bookmark, FindsItsFolderAndDetectsAReplacement) {
     const test::TemporaryFolder parent;
     for (const std::string name : {"plain", "two words", "two\nlines", "caf\xe9", "12 34\n"}) {
         const fs::path folder = parent.path() / name;
@@ -21,7 +21,7 @@ TEST(Bookmark, FindsItsFolderAndTellsWhenItIsAnother) {
         const BookmarkData data = VolumeAccess::bookmark(folder);
         EXPECT_EQ(VolumeAccess::resolve(data), (ResolvedBookmark{folder, false}));
 
-        // The old folder is kept elsewhere, so that the new one cannot get its inode.
+        // The old folder is kept elsewhere, so that its inode is not reused.
         fs::rename(folder, parent.path() / "elsewhere");
         EXPECT_EQ(VolumeAccess::resolve(data), (ResolvedBookmark{folder, true}));
         fs::create_directory(folder);
@@ -36,7 +36,7 @@ TEST(Bookmark, FindsItsFolderAndTellsWhenItIsAnother) {
     EXPECT_EQ(VolumeAccess::resolve(VolumeAccess::bookmark(".")).url, fs::absolute("."));
 }
 
-TEST(Bookmark, RefusesWhatIsNoFolderAndWhatIsNoBookmark) {
+TEST(Bookmark, RefusesFilesAndInvalidData) {
     const test::TemporaryFolder parent;
     std::ofstream(parent.path() / "file").close();
     for (const fs::path& none : {parent.path() / "none", parent.path() / "file", fs::path()})
@@ -53,7 +53,7 @@ TEST(Bookmark, RefusesWhatIsNoFolderAndWhatIsNoBookmark) {
     EXPECT_THROW(VolumeAccess::resolve(good + '\0' + "x"), std::system_error);
 }
 
-TEST(WithAccess, GivesBackWhatItTookAndNothingElse) {
+TEST(WithAccess, ReleasesOnlyAcquiredAccess) {
     for (const auto& [isGiven, throws] :
          {std::pair{true, false}, {true, true}, {false, false}, {false, true}}) {
         std::string events;

@@ -13,7 +13,7 @@ struct Feature {
     std::uint32_t bit;
 };
 
-// The bits in numbers, so that a wrong constant shows.
+// The bits as numbers, to detect wrong constants.
 const std::vector<Feature> features{
     {&VolumeCapabilities::isCaseSensitive, &CapabilityWords::format, 0x100},
     {&VolumeCapabilities::isCasePreserving, &CapabilityWords::format, 0x200},
@@ -36,7 +36,7 @@ VolumeCapabilities from(const std::optional<CapabilityWords>& words) {
     return VolumeCapabilities::from(answers);
 }
 
-TEST(VolumeCapabilities, AreThereOnlyWhenClaimedAndValidAndKnownOnlyWhenValid) {
+TEST(VolumeCapabilities, NeedAValidClaim) {
     for (const Feature& feature : features) {
         CapabilityWords words;
         (words.*feature.word).claimed = feature.bit;
@@ -53,7 +53,7 @@ TEST(VolumeCapabilities, AreThereOnlyWhenClaimedAndValidAndKnownOnlyWhenValid) {
     }
 }
 
-TEST(VolumeCapabilities, WithoutAnAnswerAssumeCasePreservationOnly) {
+TEST(VolumeCapabilities, AssumeOnlyCasePreservationByDefault) {
     const VolumeCapabilities unknown = from(std::nullopt);
     for (const Feature& feature : features) {
         EXPECT_EQ(bool{unknown.*feature.field}, feature.field == &VolumeCapabilities::isCasePreserving);

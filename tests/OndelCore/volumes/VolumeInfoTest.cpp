@@ -39,7 +39,7 @@ TEST(VolumeInfo, ComputesUsedPurgeableAndFraction) {
     }
 }
 
-TEST(VolumeInfo, DefaultsEachMissingFactByItself) {
+TEST(VolumeInfo, HasADefaultForEachMissingFact) {
     const VolumeInfo empty = VolumeInfo::from({}, std::nullopt);
     VolumeInfo expected;
     expected.name = "Volume";
@@ -62,7 +62,7 @@ TEST(VolumeInfo, DefaultsEachMissingFactByItself) {
     EXPECT_EQ(availableOf(100, std::nullopt), 100);
 }
 
-TEST(VolumeInfo, OfOtherProvidersAndMissingPathsIsAbsent) {
+TEST(VolumeInfo, IsAbsentForOtherProvidersAndMissingPaths) {
     for (const Location& place :
          {Location{.provider = {"cloud"}, .path = "/"}, Location{.provider = {"Local"}, .path = "/"},
           Location::local(""), Location::local("/no/such/path"), Location::local("/proc/self/fd/999"),
@@ -87,7 +87,7 @@ protected:
     test::FakeMachine machine;
 };
 
-TEST_F(AttachmentTest, ComesFromTheDisksUnderTheVolume) {
+TEST_F(AttachmentTest, IsThatOfTheDisksUnderTheVolume) {
     machine.addBlockDevice(usb, makedev(8, 0), {{"removable", "0"}});
     machine.addBlockDevice(std::string(usb) + "/sda1", makedev(8, 1), {{"partition", "1"}});
     machine.addBlockDevice(ata, makedev(8, 16), {{"removable", "0"}});
@@ -103,7 +103,7 @@ TEST_F(AttachmentTest, ComesFromTheDisksUnderTheVolume) {
     EXPECT_TRUE(encrypted.isEncrypted);
     EXPECT_FALSE(encrypted.isInternal);
     EXPECT_EQ(encrypted.device, "/dev/mapper/home");
-    // The last disk of a mirror that hangs outside makes the volume an external one.
+    // One external disk in a mirror makes the volume external.
     machine.addBlockDevice("virtual/block/md0", makedev(9, 0));
     machine.stack("virtual/block/md0", ata);
     EXPECT_TRUE(loaded({.device = makedev(9, 0)}).isInternal);
@@ -111,7 +111,7 @@ TEST_F(AttachmentTest, ComesFromTheDisksUnderTheVolume) {
     EXPECT_FALSE(loaded({.device = makedev(9, 0)}).isInternal);
 }
 
-TEST_F(AttachmentTest, OfWhatHasNoDisk) {
+TEST_F(AttachmentTest, IsKnownForVolumesWithoutDisks) {
     EXPECT_EQ(loaded({.type = "tmpfs", .device = makedev(0, 40), .source = "tmpfs"}).connection(),
               "Internal");
     EXPECT_EQ(loaded({.type = "nfs4", .device = makedev(0, 41), .source = "filer:/x"}).connection(),
@@ -126,11 +126,11 @@ TEST_F(AttachmentTest, OfWhatHasNoDisk) {
     EXPECT_EQ(loaded({.type = "unheard-of"}).format, "unheard-of");
 }
 
-TEST_F(AttachmentTest, NameIsTheLabelThenThePartitionsNameThenTheFolder) {
+TEST_F(AttachmentTest, NamesTheVolumeByLabelThenPartitionThenFolder) {
     const dev_t number = makedev(8, 16);
     machine.addBlockDevice(ata, number);
     const auto name = [&] { return loaded({.device = number}).name; };
-    // Without an entry for the type the mounted file system itself is asked, which is this test's own disk.
+    // Without an entry for the type the mounted file system is asked; here it is the disk of this test.
     machine.setDatabase(number, {{"ID_FS_TYPE", "ext4"}});
     machine.setAttributes(ata, {{"uevent", "DEVNAME=sdb\nPARTNAME=Data partition"}});
     EXPECT_EQ(name(), "Data partition");

@@ -126,7 +126,7 @@ std::optional<BlockDevice> deviceNamed(const std::string& name, const fs::path& 
     return mappingNamed(name, sysfs);
 }
 
-/// Several devices of one file system stand in the mount table as "/dev/sda1:/dev/sdb1".
+/// The mount table lists several devices of one file system as "/dev/sda1:/dev/sdb1".
 std::vector<BlockDevice> devicesNamed(std::string_view source, const fs::path& sysfs) {
     constexpr std::string_view prefix = "/dev/";
     std::vector<BlockDevice> found;
@@ -282,7 +282,7 @@ std::optional<dev_t> deviceOfMount(const Mount& mount) {
         return std::nullopt;
     if (const auto number = blockNumberOfNode(mount.source))
         return number;
-    // Several devices of one file system stand there as "/dev/sda1:/dev/sdb1".
+    // The first of several devices: "/dev/sda1:/dev/sdb1".
     return blockNumberOfNode(mount.source.substr(0, mount.source.find(':')));
 }
 

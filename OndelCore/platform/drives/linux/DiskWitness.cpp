@@ -2,9 +2,6 @@
 
 #include "OndelCore/platform/drives/BlockDevices.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -70,25 +67,12 @@ std::optional<std::int64_t> valueOf(std::string_view text, std::string_view name
     return read.ec == std::errc() && value >= 0 ? std::optional(value) : std::nullopt;
 }
 
-/// The mount that an open file or folder lies in. Fails: absent.
-std::optional<Mount> mountOfOpen(int descriptor) {
-    struct statx facts{};
-    if (statx(descriptor, "", AT_EMPTY_PATH | AT_STATX_DONT_SYNC, STATX_MNT_ID, &facts) != 0 ||
-        (facts.stx_mask & STATX_MNT_ID) == 0)
-        return std::nullopt;
-    const std::vector<Mount> all = mounts();
-    const auto found = std::ranges::find(all, facts.stx_mnt_id, &Mount::id);
-    return found == all.end() ? std::nullopt : std::optional(*found);
-}
-
 } // namespace
 
 std::unique_ptr<DiskWitness> diskWitness(int folder) {
-    const auto mount = mountOfOpen(folder);
     std::vector<std::filesystem::path> folders;
-    if (mount)
-        for (const BlockDevice& disk : blockStack(*mount).wholeDisks)
-            folders.push_back(disk.folder);
+    for (const BlockDevice& disk : blockStackOfDescriptor(folder).wholeDisks)
+        folders.push_back(disk.folder);
     return witnessOf(std::move(folders));
 }
 

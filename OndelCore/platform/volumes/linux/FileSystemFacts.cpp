@@ -15,8 +15,8 @@ constexpr std::uint32_t journal = formatJournal | formatJournalActive;
 constexpr std::uint32_t attributes = interfaceExtendedAttributes | interfaceExtendedSecurity;
 constexpr std::uint32_t copies = interfaceClone | interfaceSnapshot;
 
-/// Every bit but those in `open` is known: what is in `claimed` is there, all else is not. Whether a volume
-/// is sealed is never known from its type.
+/// All bits except those in `open` are valid: those in `claimed` are present, the others absent. Whether a
+/// volume is sealed does not follow from its type.
 constexpr CapabilityWord format(std::uint32_t claimed, std::uint32_t open = 0) {
     return {claimed & ~open, (posix | journal) & ~open};
 }
@@ -34,12 +34,12 @@ using enum FileSystemReach;
 
 constexpr std::int64_t utf16Name = 255;
 
-// What a server decides, or a mount option, or a choice made at formatting, is open here: asking the mounted
-// file system may settle it (CapabilityWords.cpp). Sources: the kernel's Documentation/filesystems and each
+// Bits that depend on a server, a mount option or a choice at formatting are open here: the mounted file
+// system may determine them (CapabilityWords.cpp). Sources: the kernel's Documentation/filesystems and each
 // tool's manual. Links: ext2 EXT2_LINK_MAX, ext3 and ext4 EXT4_LINK_MAX, xfs XFS_MAXLINK, btrfs
 // BTRFS_LINK_MAX, f2fs F2FS_LINK_MAX, jfs JFS_LINK_MAX, nilfs2 NILFS_LINK_MAX, udf UDF_MAX_LINKS, ntfs
-// NTFS_LINK_MAX. Names: where the kernel answers the bytes that the longest name may take in the widest
-// encoding (1530), the characters stand here. How a server treats letter case is the server's affair.
+// NTFS_LINK_MAX. Names: in characters where the kernel reports the bytes of the longest name in the widest
+// encoding (1530). Case rules of network file systems depend on the server.
 constexpr std::array rows = {
     row("ext2", "Ext2", device, format(posix), interfaces(attributes), 32000),
     row("ext3", "Ext3", device, format(posix | journal), interfaces(attributes), 65000),
@@ -98,8 +98,8 @@ constexpr std::array rows = {
     row("ftp", "FTP", network, format(0, names | formatSymbolicLinks), interfaces(0)),
 };
 
-// Types whose FUSE program answers otherwise than the kernel's driver. ntfs-3g tells names apart by case and
-// lowntfs-3g may not; neither refuses a thousandth link.
+// Types whose FUSE program differs from the kernel's driver. ntfs-3g is case-sensitive, lowntfs-3g may not
+// be; neither has the kernel driver's limit on links.
 constexpr std::array programRows = {
     row("ntfs", "NTFS", device, format(links | formatSparseFiles | formatJournal, names),
         interfaces(interfaceExtendedAttributes | interfaceNamedStreams, interfaceExtendedSecurity)),
@@ -146,7 +146,7 @@ std::string fileSystemTypeName(std::string_view kernelType, std::string_view sou
         return std::string(resolveAlias(*onDevice));
     if (kernelType.starts_with("fuseblk."))
         return std::string(resolveAlias("fuse." + std::string(kernelType.substr(8))));
-    // Before mount types had sub-types, FUSE programs put theirs before a '#' into the source.
+    // Old FUSE programs put their type before a '#' in the source, because mount types had no sub-types.
     if (const auto mark = source.find('#'); kernelType == "fuse" && mark != std::string_view::npos)
         return std::string(resolveAlias(source.substr(0, mark)));
     return std::string(resolveAlias(kernelType));

@@ -48,7 +48,7 @@ struct RawFacts {
     bool isFolder = false;
     bool mayWrite = false;
     std::uint64_t mountId = 0;
-    std::array<char, PATH_MAX> resolved{}; ///< empty: not told
+    std::array<char, PATH_MAX> resolved{}; ///< empty: unknown
     Told<struct statfs> sizes;
     std::int64_t preferredTransfer = 0;
     std::array<long, 3> limits{}; ///< name, path, links as pathconf(3) answers
