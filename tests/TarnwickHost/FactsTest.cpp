@@ -1,4 +1,5 @@
 #include "TarnwickHost/HostProcess.h"
+#include "support/DeafFileSystem.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -9,6 +10,7 @@
 #include <sys/mount.h>
 
 #include <algorithm>
+#include <csignal>
 #include <filesystem>
 
 using test::runHost;
@@ -75,19 +77,6 @@ TEST(Facts, StayOnOneLineEachWhateverTheFolderIsCalled) {
     }
 }
 
-TEST(Facts, RefuseWrongCalls) {
-    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"facts"},
-                                                      {"facts", "/", "/"},
-                                                      {"facts", "/no/such/path"},
-                                                      {"facts", ""},
-                                                      {"volumes", "/"},
-                                                      {"volumes", "--yaml"}}) {
-        const auto outcome = runHost(arguments);
-        EXPECT_EQ(outcome.exitStatus, 2);
-        EXPECT_EQ(outcome.output, "");
-    }
-}
-
 TEST(Volumes, ListTheRootOnceInBothForms) {
     const QJsonDocument list = json({"volumes", "--json"});
     ASSERT_TRUE(list.isArray());
@@ -101,6 +90,23 @@ TEST(Volumes, ListTheRootOnceInBothForms) {
     EXPECT_EQ(roots, 1);
     const auto text = runHost({"volumes"}).output;
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), list.array().size() + 1);
+}
+
+TEST(HangingVolume, DoesNotBlockTheEndOfACommand) {
+    const test::DeafFileSystem seen;
+    if (!seen.problem().empty())
+        GTEST_SKIP() << seen.problem();
+    const auto volumes = test::runHost({"volumes"});
+    EXPECT_EQ(volumes.exitStatus, 0) << volumes.errors;
+    EXPECT_NE(volumes.output.find(seen.path().string()), std::string::npos);
+    for (const std::string command : {"facts", "run", "smart-report"})
+        for (const int signal : {SIGTERM, SIGINT}) {
+            const test::DeafFileSystem deaf;
+            test::HostProcess host({.arguments = {command, deaf.path().string()}});
+            deaf.awaitRequest();
+            host.signal(signal);
+            EXPECT_NE(host.wait().exitStatus, 0) << command;
+        }
 }
 
 } // namespace
