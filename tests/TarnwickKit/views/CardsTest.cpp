@@ -5,13 +5,17 @@
 #include "TarnwickKit/views/sharing/PngEncoding.h"
 #include "TarnwickKit/views/sharing/QRCode.h"
 #include "TarnwickKit/views/sharing/ReportImage.h"
+#include "TarnwickKit/views/sharing/SharedImage.h"
 #include "TarnwickKit/views/sharing/ViewPicture.h"
 #include "TarnwickKit/views/style/LegibleText.h"
-#include "support/TemporaryFolder.h"
+#include "tests/TarnwickKit/model/ModelHarness.h"
 #include "tests/TarnwickKit/views/Runs.h"
 
+#include <QClipboard>
 #include <QFile>
+#include <QGuiApplication>
 #include <QImage>
+#include <QMimeData>
 #include <QProcess>
 #include <QQuickItem>
 #include <QStandardPaths>
@@ -313,6 +317,34 @@ TEST(ComparisonChart, HasBarsInTheColorsOfTheRuns) {
         EXPECT_DOUBLE_EQ(bars[i].first, widths[i / 8]) << i;
         EXPECT_EQ(bars[i].second, series.at(static_cast<qsizetype>(run) % series.size()));
     }
+}
+
+QByteArray copied() { return QGuiApplication::clipboard()->mimeData()->data(QStringLiteral("image/png")); }
+
+TEST(SharedImage, HandsOnTheImageThatWasMade) {
+    SharedImage image;
+    int made = 0;
+    int told = 0;
+    QObject::connect(&image, &SharedImage::ready, &image, [&made] { ++made; });
+    QObject::connect(&image, &SharedImage::told, &image, [&told] { ++told; });
+
+    const auto run = fullRun();
+    image.makeReport(run, &Palette::light());
+    image.makeComparison({{run, run}}, &Palette::light()); // ignored, since an image is being made
+    TarnwickKit::model::turnUntil([&] { return made > 0; });
+    image.copy();
+    EXPECT_EQ(told, 1); // what it says depends on the platform: without a display nobody owns a clipboard
+    const QImage report = QImage::fromData(copied(), "PNG");
+    EXPECT_EQ(report.width(), 1616);
+    EXPECT_EQ(report.pixelColor(70, 70), Palette::light().panel);
+
+    image.makeComparison({{run, run}}, &Palette::dark());
+    TarnwickKit::model::turnUntil([&] { return made > 1; });
+    // Another image of the same name does not change what is shared.
+    ASSERT_TRUE(ComparisonImage::render({run}, Palette::light()));
+    image.copy();
+    EXPECT_EQ(QImage::fromData(copied(), "PNG").pixelColor(70, 70), Palette::dark().panel);
+    EXPECT_EQ(made, 2);
 }
 
 } // namespace
