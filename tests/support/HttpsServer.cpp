@@ -12,6 +12,8 @@
 #include <optional>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace test {
 
 namespace {
@@ -25,10 +27,8 @@ public:
     }
 
     QSslConfiguration serverConfiguration(HttpsServer::Certificate which) const {
-        const QString name = QStringLiteral("%1").arg(which == HttpsServer::Certificate::forThisHost
-                                                          ? QStringLiteral("here")
-                                                          : QStringLiteral("elsewhere"));
-        QFile key(path(name + QStringLiteral(".key")));
+        const QString name = which == HttpsServer::Certificate::forThisHost ? u"here"_s : u"elsewhere"_s;
+        QFile key(path(name + u".key"_s));
         if (!key.open(QIODevice::ReadOnly))
             throw std::runtime_error("no key was made");
         QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
@@ -38,14 +38,14 @@ public:
     }
 
     QSslCertificate certificate(const QString& name) const {
-        return QSslCertificate::fromPath(path(name + QStringLiteral(".pem"))).value(0);
+        return QSslCertificate::fromPath(path(name + u".pem"_s)).value(0);
     }
 
 private:
     Authority() {
-        make(QStringLiteral("authority"), {QStringLiteral("-subj"), QStringLiteral("/CN=Test Authority")});
-        sign(QStringLiteral("here"), QStringLiteral("DNS:localhost,IP:127.0.0.1"));
-        sign(QStringLiteral("elsewhere"), QStringLiteral("DNS:elsewhere.example"));
+        make(u"authority"_s, {u"-subj"_s, u"/CN=Test Authority"_s});
+        sign(u"here"_s, u"DNS:localhost,IP:127.0.0.1"_s);
+        sign(u"elsewhere"_s, u"DNS:elsewhere.example"_s);
     }
 
     QString path(const QString& name) const {
@@ -53,23 +53,18 @@ private:
     }
 
     void sign(const QString& name, const QString& hosts) {
-        make(name,
-             {QStringLiteral("-CA"), path(QStringLiteral("authority.pem")), QStringLiteral("-CAkey"),
-              path(QStringLiteral("authority.key")), QStringLiteral("-subj"), QStringLiteral("/CN=test"),
-              QStringLiteral("-addext"), QStringLiteral("subjectAltName=") + hosts, QStringLiteral("-addext"),
-              QStringLiteral("basicConstraints=critical,CA:FALSE")});
+        make(name, {u"-CA"_s, path(u"authority.pem"_s), u"-CAkey"_s, path(u"authority.key"_s), u"-subj"_s,
+                    u"/CN=test"_s, u"-addext"_s, u"subjectAltName="_s + hosts, u"-addext"_s,
+                    u"basicConstraints=critical,CA:FALSE"_s});
     }
 
     void make(const QString& name, const QStringList& how) {
         QProcess openssl;
-        openssl.start(QStringLiteral("openssl"),
-                      QStringList{QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-noenc"),
-                                  QStringLiteral("-days"), QStringLiteral("2"), QStringLiteral("-newkey"),
-                                  QStringLiteral("ec"), QStringLiteral("-pkeyopt"),
-                                  QStringLiteral("ec_paramgen_curve:P-256"), QStringLiteral("-keyout"),
-                                  path(name + QStringLiteral(".key")), QStringLiteral("-out"),
-                                  path(name + QStringLiteral(".pem"))} +
-                          how);
+        const QString request = u"req -x509 -noenc -days 2 -newkey ec -pkeyopt ec_paramgen_curve:P-256"_s;
+        openssl.start(u"openssl"_s, request.split(u' ') +
+                                        QStringList{u"-keyout"_s, path(name + u".key"_s), u"-out"_s,
+                                                    path(name + u".pem"_s)} +
+                                        how);
         if (!openssl.waitForFinished(-1) || openssl.exitCode() != 0)
             throw std::runtime_error("openssl: " + openssl.readAllStandardError().toStdString());
     }
@@ -110,12 +105,10 @@ HttpsServer::HttpsServer(Certificate certificate) {
 }
 
 QUrl HttpsServer::url(const QString& path) const {
-    return QUrl(QStringLiteral("https://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(path));
+    return QUrl(u"https://127.0.0.1:%1%2"_s.arg(m_server.serverPort()).arg(path));
 }
 
-QByteArray HttpsServer::authorities() {
-    return Authority::shared().certificate(QStringLiteral("authority")).toPem();
-}
+QByteArray HttpsServer::authorities() { return Authority::shared().certificate(u"authority"_s).toPem(); }
 
 void HttpsServer::read(QSslSocket* socket) {
     const QByteArray bytes = socket->peek(socket->bytesAvailable());
