@@ -18,6 +18,7 @@
 namespace test {
 
 using namespace OndelCore::platform;
+using namespace Qt::StringLiterals;
 
 /// A private message bus without services.
 class PrivateBus {
@@ -29,9 +30,9 @@ public:
                                         "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow "
                                         "eavesdrop=\"true\"/><allow own=\"*\"/>"
                                         "</policy></busconfig>\n";
-        m_daemon.start(QStringLiteral("dbus-daemon"),
-                       {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
-                        QStringLiteral("--config-file=") + QString::fromStdString(configuration.string())});
+        m_daemon.start(u"dbus-daemon"_s,
+                       {u"--nofork"_s, u"--print-address"_s,
+                        u"--config-file="_s + QString::fromStdString(configuration.string())});
         if (m_daemon.waitForReadyRead())
             m_address = m_daemon.readLine().trimmed().toStdString();
     }
@@ -55,7 +56,7 @@ struct UDisksAtaRow {
     uchar number = 0;
     int unit = 0;
     qlonglong pretty = 0;
-    QString name = QStringLiteral("attribute");
+    QString name = u"attribute"_s;
 };
 
 inline QDBusArgument& operator<<(QDBusArgument& argument, const UDisksAtaRow& row) {
@@ -87,16 +88,14 @@ inline QVariant ataTable(const QList<UDisksAtaRow>& rows) {
 /// The objects of one disk with a drive that has one S.M.A.R.T. interface.
 inline UDisksObjects oneDrive(qulonglong deviceNumber, const QString& interface,
                               const QVariantMap& properties) {
-    const QDBusObjectPath drive(QStringLiteral("/org/freedesktop/UDisks2/drives/ACME"));
-    const QString block = QStringLiteral("org.freedesktop.UDisks2.Block");
+    const QDBusObjectPath drive(u"/org/freedesktop/UDisks2/drives/ACME"_s);
+    const QString block = u"org.freedesktop.UDisks2.Block"_s;
     UDisksObjects objects;
-    objects[QDBusObjectPath(QStringLiteral("/org/freedesktop/UDisks2/block_devices/other"))] = {
-        {block, {{QStringLiteral("DeviceNumber"), deviceNumber + 1}}}};
-    objects[QDBusObjectPath(QStringLiteral("/org/freedesktop/UDisks2/block_devices/disk"))] = {
-        {block,
-         {{QStringLiteral("DeviceNumber"), deviceNumber},
-          {QStringLiteral("Drive"), QVariant::fromValue(drive)}}}};
-    objects[drive] = {{QStringLiteral("org.freedesktop.UDisks2.Drive"), {}}, {interface, properties}};
+    objects[QDBusObjectPath(u"/org/freedesktop/UDisks2/block_devices/other"_s)] = {
+        {block, {{u"DeviceNumber"_s, deviceNumber + 1}}}};
+    objects[QDBusObjectPath(u"/org/freedesktop/UDisks2/block_devices/disk"_s)] = {
+        {block, {{u"DeviceNumber"_s, deviceNumber}, {u"Drive"_s, QVariant::fromValue(drive)}}}};
+    objects[drive] = {{u"org.freedesktop.UDisks2.Drive"_s, {}}, {interface, properties}};
     return objects;
 }
 
@@ -105,16 +104,16 @@ inline UDisksObjects oneDrive(qulonglong deviceNumber, const QString& interface,
 class FakeUDisks {
 public:
     FakeUDisks(const std::string& address, UDisksScript script)
-        : m_name(QStringLiteral("fake-udisks"))
+        : m_name(u"fake-udisks"_s)
         , m_service(std::make_unique<Service>(std::move(script))) {
         qDBusRegisterMetaType<UDisksInterfaces>();
         qDBusRegisterMetaType<UDisksObjects>();
         QDBusConnection connection = QDBusConnection::connectToBus(QString::fromStdString(address), m_name);
-        const bool isRegistered = connection.registerVirtualObject(QStringLiteral("/org/freedesktop/UDisks2"),
+        const bool isRegistered = connection.registerVirtualObject(u"/org/freedesktop/UDisks2"_s,
                                                                    m_service.get(), QDBusConnection::SubPath);
         m_service->moveToThread(&m_thread);
         m_thread.start();
-        if (!isRegistered || !connection.registerService(QStringLiteral("org.freedesktop.UDisks2")))
+        if (!isRegistered || !connection.registerService(u"org.freedesktop.UDisks2"_s))
             throw std::runtime_error("the bus does not take the service");
     }
 
@@ -147,19 +146,18 @@ private:
     private:
         QDBusMessage answer(const QDBusMessage& message) {
             const QString method = message.member();
-            if (method == QLatin1String("GetManagedObjects"))
+            if (method == "GetManagedObjects"_L1)
                 return message.createReply(m_script.insteadOfObjects.isValid()
                                                ? m_script.insteadOfObjects
                                                : QVariant::fromValue(m_script.objects));
-            if (method == QLatin1String("GetAll"))
+            if (method == "GetAll"_L1)
                 return message.createReply(QVariant(
                     m_script.objects[QDBusObjectPath(message.path())][message.arguments().at(0).toString()]));
 
             const auto options = qdbus_cast<QVariantMap>(message.arguments().value(0));
-            if (options != QVariantMap{{QStringLiteral("nowakeup"), true},
-                                       {QStringLiteral("auth.no_user_interaction"), true}})
+            if (options != QVariantMap{{u"nowakeup"_s, true}, {u"auth.no_user_interaction"_s, true}})
                 ++carelessCalls;
-            if (method == QLatin1String("SmartUpdate"))
+            if (method == "SmartUpdate"_L1)
                 return update(message);
             return m_script.attributes.isValid() ? message.createReply(m_script.attributes)
                                                  : refusal(message);
@@ -174,8 +172,7 @@ private:
         }
 
         static QDBusMessage refusal(const QDBusMessage& message) {
-            return message.createErrorReply(QStringLiteral("org.freedesktop.UDisks2.Error.WouldWakeup"),
-                                            QStringLiteral("asleep"));
+            return message.createErrorReply(u"org.freedesktop.UDisks2.Error.WouldWakeup"_s, u"asleep"_s);
         }
 
         UDisksScript m_script;

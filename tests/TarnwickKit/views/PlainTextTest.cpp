@@ -62,26 +62,21 @@ TEST(ViewEngine, ReachesNoNetwork) {
         server.nextPendingConnection()->abort();
     });
     const QByteArray address = "http://127.0.0.1:" + QByteArray::number(server.serverPort());
-    test::Stage stage("Item { id: all; width: 9; height: 9\n"
-                      "  property int answered: 0\n"
-                      "  function ask(): void { const request = new XMLHttpRequest();\n"
-                      "    request.onreadystatechange = () => {\n"
-                      "      if (request.readyState === XMLHttpRequest.DONE) ++all.answered; };\n"
-                      "    request.open('GET', '" +
-                      address +
-                      "/asked'); request.send(); }\n"
-                      "  Text { textFormat: Text.RichText; text: '<img src=\"" +
-                      address +
-                      "/rich.png\">' }\n"
-                      "  Text { text: '<img src=\"" +
-                      address +
-                      "/guessed.png\">' }\n"
-                      "  Repeater { model: ['" +
-                      address +
-                      "/a.png', 'data:image/png;base64,AAAA']\n"
-                      "    Image { required property string modelData; source: modelData\n"
-                      "      onStatusChanged: if (status === Image.Error) ++all.answered } }\n"
-                      "  Component.onCompleted: ask() }");
+    QByteArray qml = R"(Item { id: all; width: 9; height: 9
+        property int answered: 0
+        function ask(): void {
+            const request = new XMLHttpRequest();
+            request.onreadystatechange = () => { if (request.readyState === XMLHttpRequest.DONE) ++all.answered; };
+            request.open('GET', 'ADDRESS/asked');
+            request.send();
+        }
+        Text { textFormat: Text.RichText; text: '<img src="ADDRESS/rich.png">' }
+        Text { text: '<img src="ADDRESS/guessed.png">' }
+        Repeater { model: ['ADDRESS/a.png', 'data:image/png;base64,AAAA']
+            Image { required property string modelData; source: modelData
+                onStatusChanged: if (status === Image.Error) ++all.answered } }
+        Component.onCompleted: ask() })";
+    test::Stage stage(qml.replace("ADDRESS", address));
     while (stage.root().property("answered").toInt() < 3)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     EXPECT_EQ(connections, 0);
