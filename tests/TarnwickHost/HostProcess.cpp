@@ -64,6 +64,9 @@ HostProcess::HostProcess(const HostSetup& setup) {
     if (m_process < 0)
         throw std::system_error(errno, std::generic_category(), "fork");
     if (m_process == 0) {
+        // As a terminal starts it, whatever the tests' own parent ignores (nohup, a job in the background).
+        for (const int number : {SIGHUP, SIGINT, SIGQUIT})
+            std::signal(number, SIG_DFL);
         if (setup.ignoresInterrupt)
             std::signal(SIGINT, SIG_IGN);
         setenv("TERM", "xterm", 1);

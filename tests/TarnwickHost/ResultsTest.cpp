@@ -15,11 +15,14 @@ TEST(ProgressLine, ShowsWhatTheCountsMean) {
     struct Case {
         BenchmarkProgress progress;
         std::string expected;
+        int columns = 79;
     };
     const std::vector<Case> cases{
         {{BenchmarkTest::sequentialWrite, 1 << 30, std::int64_t{2} << 30, 5e8, 2},
          "Sequential write      ########........   50 %     1.0 GiB of 2.0 GiB   500 MB/s"},
         {{BenchmarkTest::sequentialWrite, 1 << 30, 0, 5e8, 2}, "Sequential write     1.0 GiB   500 MB/s"},
+        {{BenchmarkTest::sequentialWrite, 1 << 30, 0, 5e8, 2}, "Sequential write     1.0 GiB   500 MB/s", 39},
+        {{BenchmarkTest::sequentialWrite, 1 << 30, 0, 5e8, 2}, "Sequential write     1.0 GiB", 38},
         {{BenchmarkTest::randomRead, 8192 * 500, 8192 * 10000, 0, 0.5},
          "Random read (8 KiB)   ..................    5 %     500 of 10,000     1.0k IOPS"},
         {{BenchmarkTest::randomWrite, 0, 0, 0, 0}, "Random write (8 KiB)  0 of 0        0 IOPS"},
@@ -27,8 +30,9 @@ TEST(ProgressLine, ShowsWhatTheCountsMean) {
          "File operations       #...................    6 %    256 of 4,000       0 ops/s"},
     };
     for (const Case& each : cases)
-        EXPECT_EQ(progressLine(each.progress, plan, {.columns = 79, .unicode = false}).toStdString(),
-                  each.expected);
+        EXPECT_EQ(
+            progressLine(each.progress, plan, {.columns = each.columns, .unicode = false}).toStdString(),
+            each.expected);
 }
 
 TEST(ProgressLine, FitsEveryWidth) {

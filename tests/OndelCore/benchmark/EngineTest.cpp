@@ -106,6 +106,7 @@ TEST_F(Engine, ReadsAndWritesWholeBlocksAtRandom) {
             return std::ranges::count(system.diary, transfer + offset);
         };
         EXPECT_GT(at(" 4096 @ 0"), 100);
+        EXPECT_GT(at(" 4096 @ 4096"), 100);
         EXPECT_EQ(at(" 4096 @ 0") + at(" 4096 @ 4096"), 514);
     }
     const Lines said{

@@ -2,6 +2,7 @@
 
 #include "FakeSystem.h"
 #include "OndelCore/benchmark/BenchmarkEngine.h"
+#include "OndelCore/benchmark/WorkingFolder.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
 #include "support/LoopMount.h"
 
@@ -83,6 +84,13 @@ TEST(MovedAway, ARunStaysWithAFileSystemThatIsUnmounted) {
     EXPECT_EQ(system.failureOf(wholePlan, volume.path()), "");
     EXPECT_TRUE(fs::is_empty(volume.path()));
     EXPECT_EQ(namesIn(root.get()), std::vector<std::string>());
+}
+
+TEST(WorkingFolder, BelongsToTheUserWhoMeasures) {
+    const test::TemporaryFolder folder;
+    const FileDescriptor opened = openFolder(folder.path());
+    EXPECT_THROW(WorkingFolder(opened.get(), geteuid() + 1), std::system_error);
+    EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
 TEST(DataFile, IsOneFileForTheWholeRun) {
@@ -253,10 +261,13 @@ INSTANTIATE_TEST_SUITE_P(Users, SharedFolder, testing::Values(0, 1001));
 TEST(Confinement, KeepsTheRunsThreadFromWritingElsewhere) {
     const test::TemporaryFolder folder, elsewhere;
     EngineEnvironment system;
-    bool isConfined = false;
+    std::optional<bool> isConfined;
     int read = -1, written = 0;
     system.freeBytes = [](int) { return std::int64_t{1} << 40; };
-    system.confineWrites = [&](int working) { return isConfined = confineWritesOfThisThread(working); };
+    system.confineWrites = [&](int working) {
+        isConfined = confineWritesOfThisThread(working);
+        return *isConfined;
+    };
     const auto listen = [&](const BenchmarkProgress& progress) {
         if (progress.test == BenchmarkTest::fileOps)
             return;
@@ -268,7 +279,8 @@ TEST(Confinement, KeepsTheRunsThreadFromWritingElsewhere) {
     EXPECT_TRUE(result.randomWrite && result.fileOps);
     EXPECT_GE(read, 0);
     EXPECT_TRUE(fs::is_empty(folder.path()));
-    if (!isConfined)
+    ASSERT_TRUE(isConfined.has_value()) << "the run has not asked for it";
+    if (!*isConfined)
         GTEST_SKIP() << "the kernel has no Landlock";
     EXPECT_EQ(written, -1);
     std::ofstream(elsewhere.path() / "file").put('x'); // this thread is as it was
