@@ -53,6 +53,22 @@ TEST(VolumeCapabilities, NeedAValidClaim) {
     }
 }
 
+TEST(VolumeCapabilities, TakeEachLimitFromItsAnswer) {
+    const auto capabilities = VolumeCapabilities::from({.type = "ext4",
+                                                        .blockSizeBytes = 4096,
+                                                        .optimalIOSizeBytes = 1048576,
+                                                        .maxNameLength = 255,
+                                                        .maxPathLength = 4095,
+                                                        .maxLinkCount = 65000,
+                                                        .capabilities = {}});
+    EXPECT_EQ(capabilities.filesystemType, "ext4");
+    EXPECT_EQ(capabilities.blockSize, 4096);
+    EXPECT_EQ(capabilities.optimalIOSize, 1048576);
+    EXPECT_EQ(capabilities.maxNameLength, 255);
+    EXPECT_EQ(capabilities.maxPathLength, 4095);
+    EXPECT_EQ(capabilities.maxLinkCount, 65000);
+}
+
 TEST(VolumeCapabilities, AssumeOnlyCasePreservationByDefault) {
     const VolumeCapabilities unknown = from(std::nullopt);
     for (const Feature& feature : features) {
