@@ -9,6 +9,7 @@ import subprocess
 import sys
 
 import driver
+import saved_runs
 from driver import check
 
 LOG = pathlib.Path(os.environ.get("XDG_STATE_HOME", ""), "Ondel Tarnwick", "ondel.log")
@@ -99,6 +100,13 @@ def goes_by_keyboard(program, folder):
         window.keys("ctrl+Return")
         window.find("Running…", "status bar")
         window.find("Complete", "status bar")
+        window.until("the run made through the cache", lambda: saved_runs.stored()[0]["bypassCache"] is False)
+        window.grab("Volume")  # outside of the panes, which keep the focus of what they hold
+        window.keys("Return")
+        window.find("Mounted volumes")
+        window.keys("Escape")
+        window.gone("Mounted volumes")
+        check(window.until("the focus back in the toolbar", window.focused) == "Volume", "the toolbar's menu does not return the focus")
 
 
 def refuses_what_it_cannot_use(program, folder):
