@@ -25,7 +25,7 @@ T.MenuItem {
     /// The same as in plain texts; a popup does not inherit it from the window.
     property font textFont: Qt.font({
         family: Application.font.family,
-        pixelSize: 13,
+        pixelSize: Metrics.textSize,
         hintingPreference: Font.PreferNoHinting
     })
     property font keysFont: textFont

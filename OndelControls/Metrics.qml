@@ -18,6 +18,14 @@ QtObject {
     readonly property int titleSize: 17
 
     readonly property int fieldWidth: 200
+    /// From a check box's left edge to its label.
+    readonly property int checkIndent: 22
+    /// How far an arrow key scrolls a page, and a text.
+    readonly property int scrollStep: 40
+    readonly property int textScrollStep: 20
+    readonly property int switchTime: 120
+    readonly property int foldTime: 150
+
     readonly property int tipDelay: 700
     readonly property int tipWidth: 320
     /// Distances of tips and menus: to the window's edges (margin), to their control (gap).
@@ -43,6 +51,8 @@ QtObject {
     readonly property int tipShadowOffset: 4
     readonly property int menuShadow: 18
     readonly property int menuShadowOffset: 8
+    readonly property int sheetMargin: 20
+    /// Of the layer between a sheet and the window beneath it.
     readonly property real dimming: 0.32
     readonly property int sheetShadow: 22
     readonly property int sheetShadowOffset: 16

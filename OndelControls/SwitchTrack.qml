@@ -28,7 +28,7 @@ Card {
 
         Behavior on x {
             NumberAnimation {
-                duration: 120
+                duration: Metrics.switchTime
                 easing.type: Easing.InOutQuad
             }
         }

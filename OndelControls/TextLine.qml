@@ -39,7 +39,9 @@ T.TextField {
         width: field.width - field.leftPadding - field.rightPadding
         visible: field.length + field.preeditText.length === 0
         text: field.prompt
-        font: field.font
+        font.family: field.font.family // not its hinting, which is the toolkit's
+        font.pixelSize: field.font.pixelSize
+        font.weight: field.font.weight
         color: field.promptColor
         elide: Text.ElideRight
         Accessible.ignored: true

@@ -15,7 +15,7 @@ T.ToolTip {
     /// The same as in plain texts; a popup does not inherit it from the window.
     property font textFont: Qt.font({
         family: Application.font.family,
-        pixelSize: 12,
+        pixelSize: Metrics.captionSize,
         hintingPreference: Font.PreferNoHinting
     })
     /// Assistive technology reads it. A button's hint needs no reading: it is the button's description.

@@ -5,6 +5,6 @@ import QtQuick.Templates as T
 /// A command of the menu bar.
 T.Action {
     /// The shortcut as the menu shows it.
-    property string keys: shortcut ? String(shortcut) : ""
+    property string keys: ""
     property bool beginsGroup: false
 }

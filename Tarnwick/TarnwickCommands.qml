@@ -17,6 +17,11 @@ MenuStrip {
     signal settingsWanted
     signal runWanted
 
+    /// Shortcuts act only while the main window has the keyboard focus. Newer versions of Qt (6.8) deliver them from its
+    /// secondary windows too, where Ctrl+Q would end the program.
+    function inWindow(keys: string): string {
+        return Window.activeFocusItem ? keys : "";
+    }
     /// The first call begins to pick runs, the second compares those picked.
     function compare(): void {
         if (analyzer.compareMode)
@@ -39,13 +44,15 @@ MenuStrip {
             },
             Command {
                 text: qsTr("Settings…")
-                shortcut: "Ctrl+,"
+                keys: "Ctrl+,"
+                shortcut: commands.inWindow(keys)
                 beginsGroup: true
                 onTriggered: commands.settingsWanted()
             },
             Command {
                 text: qsTr("Quit")
-                shortcut: "Ctrl+Q"
+                keys: "Ctrl+Q"
+                shortcut: commands.inWindow(keys)
                 beginsGroup: true
                 onTriggered: commands.app.terminate()
             }
@@ -56,19 +63,21 @@ MenuStrip {
         commands: [
             Command {
                 text: qsTr("Choose Folder…")
-                shortcut: "Ctrl+O"
+                keys: "Ctrl+O"
+                shortcut: commands.inWindow(keys)
                 enabled: !commands.analyzer.isRunning
                 onTriggered: commands.analyzer.chooseFolder()
             },
             Command {
                 text: qsTr("Open Run File…")
-                shortcut: "Ctrl+Shift+O"
+                keys: "Ctrl+Shift+O"
+                shortcut: commands.inWindow(keys)
                 onTriggered: commands.app.openRunFile()
             },
             Command {
                 text: qsTr("Close")
                 keys: "Ctrl+W"
-                shortcut: commands.Window.activeFocusItem ? keys : "" // newer toolkits hear a menu's keys beside its window too
+                shortcut: commands.inWindow(keys)
                 beginsGroup: true
                 enabled: !commands.app.showReport
                 onTriggered: commands.app.terminate()
@@ -103,7 +112,8 @@ MenuStrip {
         commands: [
             Command {
                 text: qsTr("Tarnwick Help")
-                shortcut: "F1"
+                keys: "F1"
+                shortcut: commands.inWindow(keys)
                 onTriggered: AppSupport.openPage(commands.app.website)
             },
             Command {

@@ -51,7 +51,7 @@ PanelWindow {
         BodyText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: panel.app.name
-            font.pixelSize: 17
+            font.pixelSize: Metrics.titleSize
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
         }

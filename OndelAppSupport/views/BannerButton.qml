@@ -21,7 +21,7 @@ BaseButton {
     }
     contentItem: PlainText {
         text: button.label
-        font.pixelSize: 10
+        font.pixelSize: Metrics.noteSize
         font.weight: button.prominent ? Font.DemiBold : Font.Normal
         color: "white"
         Accessible.ignored: true

@@ -10,7 +10,7 @@ T.CheckBox {
 
     implicitWidth: words.implicitWidth + leftPadding + rightPadding
     implicitHeight: Math.max(indicator.implicitHeight, words.implicitHeight)
-    leftPadding: 22
+    leftPadding: Metrics.checkIndent
     Accessible.name: text
 
     indicator: TickBox {
@@ -22,7 +22,7 @@ T.CheckBox {
         id: words
 
         text: box.text
-        font.pixelSize: 13
+        font.pixelSize: Metrics.textSize
         color: box.palette.windowText
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true

@@ -21,15 +21,15 @@ Column {
         onCheckedChanged: option.form.attachDiagnostics = checked
     }
     BodyText {
-        x: 22
+        x: Metrics.checkIndent
         width: parent.width - x
         secondary: true
-        font.pixelSize: 10
+        font.pixelSize: Metrics.noteSize
         text: qsTr("Recent activity from this session. File names, servers and accounts are replaced with anonymous tokens before anything is written down.")
     }
     LinkButton {
-        x: 22
-        textSize: 10
+        x: Metrics.checkIndent
+        textSize: Metrics.noteSize
         label: qsTr("View…")
         onClicked: {
             const path = option.form.writePreview();

@@ -7,7 +7,7 @@ import OndelControls
 BaseButton {
     id: link
 
-    property real textSize: 12
+    property real textSize: Metrics.captionSize
 
     corner: 1
     cursorShape: Qt.PointingHandCursor

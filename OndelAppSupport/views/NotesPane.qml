@@ -40,14 +40,14 @@ FocusScope {
             focus: true
             activeFocusOnTab: true
             readOnly: true
-            font.pixelSize: 12
+            font.pixelSize: Metrics.captionSize
             font.hintingPreference: Font.PreferNoHinting
             Accessible.role: Accessible.StaticText
             Accessible.name: text
             Accessible.description: pane.label
 
-            Keys.onUpPressed: page.contentY = Math.max(0, page.contentY - 20)
-            Keys.onDownPressed: page.contentY = Math.max(0, Math.min(page.contentHeight - page.height, page.contentY + 20))
+            Keys.onUpPressed: page.contentY = Math.max(0, page.contentY - Metrics.textScrollStep)
+            Keys.onDownPressed: page.contentY = Math.max(0, Math.min(page.contentHeight - page.height, page.contentY + Metrics.textScrollStep))
         }
     }
 }

@@ -57,7 +57,7 @@ ColumnLayout {
         BodyText {
             Layout.fillWidth: true
             secondary: true
-            font.pixelSize: 10
+            font.pixelSize: Metrics.noteSize
             text: qsTr("%1 %2 · %3 · %4 will be attached.")
                 .arg(page.app.name).arg(AppSupport.appVersion).arg(AppSupport.osVersion).arg(AppSupport.hardwareModel)
         }
@@ -81,7 +81,7 @@ ColumnLayout {
         BodyText {
             Layout.fillWidth: true
             text: page.form.errorText
-            font.pixelSize: 12
+            font.pixelSize: Metrics.captionSize
             maximumLineCount: 6 // a server writes it, at any length
             elide: Text.ElideRight
             Accessible.role: Accessible.AlertMessage

@@ -15,7 +15,7 @@ FocusScope {
     signal dismissed
 
     implicitWidth: 470
-    implicitHeight: column.implicitHeight + 40
+    implicitHeight: column.implicitHeight + 2 * Metrics.sheetMargin
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Dialog
@@ -44,9 +44,9 @@ FocusScope {
     ColumnLayout {
         id: column
 
-        x: 20
-        y: 20
-        width: parent.width - 40
+        x: Metrics.sheetMargin
+        y: Metrics.sheetMargin
+        width: parent.width - 2 * x
         spacing: 14
 
         RowLayout {
@@ -61,7 +61,7 @@ FocusScope {
                 id: title
 
                 text: form.sent ? qsTr("Thank You") : qsTr("Report a Problem")
-                font.pixelSize: 17
+                font.pixelSize: Metrics.titleSize
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
             }
@@ -93,14 +93,14 @@ FocusScope {
             BodyText {
                 visible: !form.sent
                 secondary: true
-                font.pixelSize: 10
+                font.pixelSize: Metrics.noteSize
                 wrapMode: Text.NoWrap
                 text: qsTr("Report on the web:")
             }
             LinkButton {
                 visible: !form.sent
                 Layout.leftMargin: -4
-                textSize: 10
+                textSize: Metrics.noteSize
                 label: AppSupport.shown(AppSupport.reportPage)
                 onClicked: AppSupport.openPage(AppSupport.reportPage)
             }

@@ -58,7 +58,7 @@ FocusScope {
                     id: words
 
                     text: segment.text
-                    font.pixelSize: 13
+                    font.pixelSize: Metrics.textSize
                     font.weight: segment.checked ? Font.Medium : Font.Normal
                     color: segment.palette.windowText
                     horizontalAlignment: Text.AlignHCenter

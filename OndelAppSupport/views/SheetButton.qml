@@ -17,7 +17,7 @@ BaseButton {
 
     contentItem: PlainText {
         text: button.label
-        font.pixelSize: 13
+        font.pixelSize: Metrics.textSize
         font.weight: button.prominent ? Font.DemiBold : Font.Medium
         color: button.prominent ? button.palette.highlightedText : button.palette.buttonText
         horizontalAlignment: Text.AlignHCenter

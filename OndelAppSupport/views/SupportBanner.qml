@@ -44,7 +44,7 @@ Card {
 
             width: parent.width
             text: qsTr("%1 is free.").arg(banner.app.shortName)
-            font.pixelSize: 12
+            font.pixelSize: Metrics.captionSize
             font.weight: Font.Medium
             color: "white"
         }
@@ -53,7 +53,7 @@ Card {
 
             width: parent.width
             text: qsTr("If it’s useful to you, your support helps keep it going.")
-            font.pixelSize: 10
+            font.pixelSize: Metrics.noteSize
             color: Qt.rgba(1, 1, 1, 0.78)
         }
     }

@@ -38,7 +38,7 @@ FocusScope {
             topPadding: 5
             bottomPadding: 5
             focus: true
-            font.pixelSize: 13
+            font.pixelSize: Metrics.textSize
             Accessible.name: editor.label
             Accessible.description: editor.prompt
 
@@ -54,7 +54,7 @@ FocusScope {
         width: parent.width - 16
         visible: area.length + area.preeditText.length === 0
         text: editor.prompt
-        font.pixelSize: 10
+        font.pixelSize: Metrics.noteSize
         color: editor.palette.placeholderText
         wrapMode: Text.Wrap
         Accessible.ignored: true

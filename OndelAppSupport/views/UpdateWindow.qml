@@ -13,8 +13,8 @@ PanelWindow {
     readonly property int state: updater.state
 
     title: qsTr("Software Update")
-    wantedWidth: Math.max(520, buttons.implicitWidth + 112)
-    wantedHeight: page.implicitHeight + 40
+    wantedWidth: Math.max(520, buttons.implicitWidth + icon.sourceSize.width + page.spacing + 2 * Metrics.sheetMargin)
+    wantedHeight: page.implicitHeight + 2 * Metrics.sheetMargin
     visible: state !== UpdaterController.Idle
 
     onClosing: close => {
@@ -50,14 +50,16 @@ PanelWindow {
     RowLayout {
         id: page
 
-        x: 20
-        y: 20
-        width: parent.width - 40
+        x: Metrics.sheetMargin
+        y: Metrics.sheetMargin
+        width: parent.width - 2 * x
         spacing: 16
         LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
         LayoutMirroring.childrenInherit: true
 
         Image {
+            id: icon
+
             Layout.alignment: Qt.AlignTop
             source: "qrc:/ondel/Icons/tools.ondel.tarnwick.svg"
             sourceSize.width: 56
@@ -87,7 +89,7 @@ PanelWindow {
                 Layout.fillWidth: true
                 visible: text !== ""
                 text: words.detail
-                font.pixelSize: 12
+                font.pixelSize: Metrics.captionSize
                 Accessible.role: window.state === UpdaterController.Failed ? Accessible.AlertMessage : Accessible.StaticText
             }
             NotesPane {

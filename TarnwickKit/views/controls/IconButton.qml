@@ -13,10 +13,9 @@ PlainButton {
 
     implicitWidth: 30
     implicitHeight: 30
-    corner: 8
 
     background: Card {
-        radius: 8
+        radius: button.corner
         color: PaletteKey.palette.panel2
         outline: PaletteKey.palette.border
     }

@@ -69,12 +69,12 @@ Flickable {
         contentY = Math.max(0, Math.min(contentHeight - height, contentY + distance));
     }
 
-    Keys.onUpPressed: scrollBy(-40)
-    Keys.onDownPressed: scrollBy(40)
+    Keys.onUpPressed: scrollBy(-Metrics.scrollStep)
+    Keys.onDownPressed: scrollBy(Metrics.scrollStep)
     Keys.onPressed: event => {
         const distances = {
-            [Qt.Key_PageUp]: 40 - height,
-            [Qt.Key_PageDown]: height - 40,
+            [Qt.Key_PageUp]: Metrics.scrollStep - height,
+            [Qt.Key_PageDown]: height - Metrics.scrollStep,
             [Qt.Key_Home]: -contentHeight,
             [Qt.Key_End]: contentHeight
         };
@@ -84,8 +84,9 @@ Flickable {
     }
 
     function reveal(): void {
-        const top = focusItem.mapToItem(holder, 0, 0).y - 12;
-        const bottom = top + focusItem.height + 24;
+        const margin = 12;
+        const top = focusItem.mapToItem(holder, 0, 0).y - margin;
+        const bottom = top + focusItem.height + 2 * margin;
         if (top < contentY || focusItem.height > height)
             contentY = Math.max(0, Math.min(top, contentHeight - height));
         else if (bottom > contentY + height)

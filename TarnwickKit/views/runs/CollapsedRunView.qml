@@ -24,7 +24,7 @@ PlainButton {
     bottomPadding: 15
 
     background: Card {
-        radius: 14
+        radius: view.corner
         color: PaletteKey.palette.panel
         outline: Qt.alpha(PaletteKey.palette.accent, 0.35)
         shadowColor: PaletteKey.palette.shadow

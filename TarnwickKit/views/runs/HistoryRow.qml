@@ -33,9 +33,9 @@ PlainButton {
     Accessible.ignored: !live
 
     background: Card {
-        radius: 12
+        radius: row.corner
         color: row.PaletteKey.palette.panel
-        outline: row.hovered ? Qt.alpha(row.PaletteKey.palette.teal, 0.6) : row.PaletteKey.palette.border
+        outline: row.hovered ? Qt.alpha(row.PaletteKey.palette.teal, ViewMetrics.hoverOpacity) : row.PaletteKey.palette.border
     }
     contentItem: RowLayout {
         id: line

@@ -16,7 +16,7 @@ RowLayout {
     spacing: 14
 
     Column {
-        Layout.preferredWidth: 96
+        Layout.preferredWidth: ViewMetrics.metricLabelWidth
         spacing: 1
 
         PlainText {
@@ -69,7 +69,7 @@ RowLayout {
                 }
                 PlainText {
                     anchors.verticalCenter: parent.verticalCenter
-                    width: 60
+                    width: ViewMetrics.barFigureWidth
                     text: line.modelData.text
                     font: Typeface.mono(11)
                     color: PaletteKey.palette.text2

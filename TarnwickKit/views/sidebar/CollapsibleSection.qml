@@ -53,7 +53,7 @@ Column {
 
                 Behavior on rotation {
                     NumberAnimation {
-                        duration: 150
+                        duration: Metrics.foldTime
                         easing.type: Easing.InOutQuad
                     }
                 }
@@ -71,7 +71,7 @@ Column {
             enabled: section.moves
 
             NumberAnimation {
-                duration: 150
+                duration: Metrics.foldTime
                 easing.type: Easing.InOutQuad
             }
         }

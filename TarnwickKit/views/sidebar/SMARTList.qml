@@ -18,6 +18,8 @@ Column {
         items: list.target.health
     }
     PlainButton {
+        id: save
+
         label: qsTr("Export…")
         hint: qsTr("Save these figures as a text file")
         corner: 7
@@ -28,7 +30,7 @@ Column {
         onClicked: list.analyzer.exportSMART()
 
         background: Card {
-            radius: 7
+            radius: save.corner
             color: PaletteKey.palette.panel
             outline: PaletteKey.palette.border
         }
@@ -42,7 +44,7 @@ Column {
                 color: PaletteKey.palette.text2
             }
             PlainText {
-                text: qsTr("Export…")
+                text: save.label
                 font: Typeface.text(12)
                 color: PaletteKey.palette.text2
                 Accessible.ignored: true

@@ -49,7 +49,7 @@ RowLayout {
         }
 
         background: Card {
-            radius: 7
+            radius: button.corner
             color: PaletteKey.palette.panel
             outline: PaletteKey.palette.border
         }

@@ -27,9 +27,9 @@ Rectangle {
         anchors.bottom: inset.top
 
         Column {
-            x: 16
+            x: ViewMetrics.sidebarMargin
             y: 18
-            width: parent.width - 32
+            width: parent.width - 2 * x
             bottomPadding: 22
 
             SidebarHeader {
@@ -79,9 +79,9 @@ Rectangle {
         Item {
             id: foot
 
-            x: 16
+            x: ViewMetrics.sidebarMargin
             y: 14
-            width: parent.width - 32
+            width: parent.width - 2 * x
             height: childrenRect.height
         }
     }

@@ -17,13 +17,21 @@ QtObject {
     readonly property int figureMargin: 17
 
     readonly property int alertWidth: 400
+    readonly property int sidebarWidth: 272
+    /// Of the outline of a hovered row.
+    readonly property real hoverOpacity: 0.6
+
     readonly property int badgeSide: 30
     /// The width of a rate in a row of runs.
     readonly property int statWidth: 104
     readonly property int chartHeight: 200
     /// The width of a comparison's full bar.
     readonly property int trackWidth: 460
+    /// The widths of what stands on a bar's two sides.
+    readonly property int metricLabelWidth: 96
+    readonly property int barFigureWidth: 60
 
+    readonly property int sidebarMargin: 16
     /// The indent of the sidebar's headings and settings.
     readonly property int sidebarInset: 4
 }

@@ -23,7 +23,7 @@ PlainButton {
         Accessible.ignored: true
     }
     background: Card {
-        radius: 8
+        radius: button.corner
         color: button.destructive ? PaletteKey.palette.coralink
                                   : button.prominent ? PaletteKey.palette.accent : PaletteKey.palette.panel2
         outline: button.prominent ? "transparent" : PaletteKey.palette.border

@@ -51,7 +51,7 @@ Rectangle {
             SidebarView {
                 id: sidebar
 
-                Layout.preferredWidth: 272
+                Layout.preferredWidth: ViewMetrics.sidebarWidth
                 Layout.fillHeight: true
                 analyzer: content.analyzer
                 target: target

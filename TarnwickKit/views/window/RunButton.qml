@@ -33,7 +33,7 @@ PlainButton {
     onClicked: stops ? analyzer.cancel() : run()
 
     background: Card {
-        radius: 10
+        radius: button.corner
         color: button.stops ? PaletteKey.palette.text2 : PaletteKey.palette.accent
         shadowColor: button.stops ? "transparent" : PaletteKey.palette.shadow
         shadowRadius: 9

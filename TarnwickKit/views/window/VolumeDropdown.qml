@@ -35,9 +35,9 @@ PlainButton {
     }
 
     background: Card {
-        radius: 10
+        radius: dropdown.corner
         color: PaletteKey.palette.panel
-        outline: dropdown.hovered ? Qt.alpha(PaletteKey.palette.teal, 0.6) : PaletteKey.palette.border
+        outline: dropdown.hovered ? Qt.alpha(PaletteKey.palette.teal, ViewMetrics.hoverOpacity) : PaletteKey.palette.border
         shadowColor: Qt.rgba(0, 0, 0, 0.04)
         shadowRadius: 1
         shadowOffset: 1
