@@ -56,6 +56,20 @@ public:
     bool tryNull();
     /// Skips a value of any type.
     void skip();
+    /// Calls `read`, which must read one value. If it throws JsonError, the value is skipped.
+    /// Fails: false. Malformed text throws all the same.
+    template <typename Read>
+    bool tryRead(Read read) {
+        const std::size_t begin = m_at;
+        try {
+            read();
+            return true;
+        } catch (const JsonError&) {
+            m_at = begin;
+            skip();
+            return false;
+        }
+    }
     /// Requires that only blanks follow.
     void end();
 

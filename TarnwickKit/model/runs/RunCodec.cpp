@@ -1,5 +1,7 @@
 #include "TarnwickKit/model/runs/RunCodec.h"
 
+#include "TarnwickKit/model/runs/EvidenceCodec.h"
+#include "TarnwickKit/model/runs/JsonFields.h"
 #include "TarnwickKit/model/runs/JsonReader.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
 
@@ -21,10 +23,10 @@ const QString dateForm = QStringLiteral("yyyy-MM-ddTHH:mm:ssZ");
 constexpr qsizetype dateLength = 20;
 constexpr qsizetype uuidLength = 36;
 
-template <typename Field>
-inline constexpr bool isOptional = false;
-template <typename Value>
-inline constexpr bool isOptional<std::optional<Value>> = true;
+/// Fields with what was observed, which never make a run unreadable.
+constexpr std::array<std::string_view, 4> observedKeys{"kernel", "version", "evidence", "remarks"};
+
+bool isObserved(std::string_view key) { return std::ranges::find(observedKeys, key) != observedKeys.end(); }
 
 // --- Writing
 
@@ -145,30 +147,28 @@ bool isShowable(const RunRecord& run) {
     return all;
 }
 
+/// Whether an optional field is written and kept: observed texts are plain.
+bool isKept(std::string_view key, const QString& text) { return !isObserved(key) || isPlainText(text); }
+bool isKept(std::string_view, const auto&) { return true; }
+
+template <typename Value>
+void readObserved(JsonReader& json, std::string_view key, std::optional<Value>& field) {
+    if (!json.tryRead([&] { read(json, field); }) || (field && !isKept(key, *field)))
+        field.reset();
+}
+
 RunRecord readRun(JsonReader& json) {
     RunRecord run;
-    std::uint64_t seen = 0;
-    json.object([&](std::string_view key) {
-        bool known = false;
-        int index = 0;
-        visitFields(run, [&](std::string_view name, auto& field) {
-            // The key is invalid after a value has been read.
-            if (!known && name == key) {
-                known = true;
-                seen |= std::uint64_t{1} << index;
-                read(json, field);
+    readFields(
+        json, run,
+        [&](std::string_view key, auto& field) {
+            if constexpr (isOptional<std::remove_cvref_t<decltype(field)>>) {
+                if (isObserved(key))
+                    return readObserved(json, key, field);
             }
-            ++index;
-        });
-        if (!known)
-            json.skip();
-    });
-    int index = 0;
-    visitFields(run, [&](std::string_view name, const auto& field) {
-        if (!isOptional<std::remove_cvref_t<decltype(field)>> && !(seen >> index & 1))
-            throw JsonError(std::string(name) + " is missing");
-        ++index;
-    });
+            read(json, field);
+        },
+        [](const auto& field) { return !isOptional<std::remove_cvref_t<decltype(field)>>; });
     if (!isShowable(run))
         throw JsonError("a figure that cannot be shown");
     return run;
@@ -197,7 +197,7 @@ std::optional<QByteArray> encodeRun(const RunRecord& run) {
     json.beginObject();
     visitFields(run, [&](std::string_view key, const auto& field) {
         if constexpr (isOptional<std::remove_cvref_t<decltype(field)>>) {
-            if (field) {
+            if (field && isKept(key, *field)) {
                 json.key(key);
                 write(json, *field);
             }

@@ -11,7 +11,8 @@
 namespace TarnwickKit::model {
 
 /// The JSON form of runs: one object with a key per field, in the order of the fields. Absent fields have no
-/// key. A reader ignores unknown keys and is strict in everything else.
+/// key. A reader ignores unknown keys and is strict in everything else, but for what was observed during the
+/// run (EvidenceCodec.h): that is absent if it cannot be read.
 ///
 /// Files come from outside. Reading fails on text above `maxRunFileBytes`, on curves of more than
 /// `maxCurvePoints`, and on figures that cannot be shown: negative ones, and those beyond

@@ -2,12 +2,14 @@
 
 #include "OndelCore/Hashing.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/JsonFields.h"
 
 #include <unicode/brkiter.h>
 
 #include <algorithm>
 #include <memory>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 
 namespace TarnwickKit::model {
@@ -42,10 +44,11 @@ double sumOfDurations(const BenchmarkResult& result) {
 
 /// Every n-th point of a curve, so that 80 to 159 remain of 80 or more. Points are picked, not averaged; the
 /// first is always kept, the last may go.
-std::vector<RunSample> thinned(const std::vector<RunSample>& samples) {
+template <typename Sample>
+std::vector<Sample> thinned(const std::vector<Sample>& samples) {
     constexpr std::size_t target = 80;
     const std::size_t step = samples.size() < target ? 1 : samples.size() / target;
-    std::vector<RunSample> kept;
+    std::vector<Sample> kept;
     kept.reserve(samples.size() / step + 1);
     for (std::size_t index = 0; index < samples.size(); index += step)
         kept.push_back(samples[index]);
@@ -119,6 +122,21 @@ void fillPlan(RunRecord& run, const BenchmarkPlan& plan) {
     run.bypassCache = plan.bypassCache;
 }
 
+RunEvidence thinned(RunEvidence evidence) {
+    if (evidence.circumstances)
+        evidence.circumstances->samples = thinned(evidence.circumstances->samples);
+    return evidence;
+}
+
+/// The remarks are made of all that was observed, before the samples are thinned.
+void fillEvidence(RunRecord& run, const BenchmarkPlan& plan, const BenchmarkResult& result) {
+    run.version = QStringLiteral(ONDEL_VERSION);
+    if (result.circumstances)
+        run.kernel = visibleText(QString::fromStdString(result.circumstances->kernel));
+    run.evidence = thinned(RunEvidence::from(result));
+    run.remarks = remarksOn(plan, result);
+}
+
 // --- Titles
 
 constexpr int longestTitle = 60;
@@ -172,6 +190,7 @@ RunRecord RunRecord::from(const BenchmarkResult& result, const std::optional<Vol
     fillResult(run, result);
     fillVolume(run, volume, capabilities, driveIdentity);
     fillPlan(run, plan);
+    fillEvidence(run, plan, result);
     return run;
 }
 
@@ -179,6 +198,8 @@ RunRecord RunRecord::withThinnedCurves() const {
     RunRecord run = *this;
     run.writeSamples = thinned(writeSamples);
     run.readSamples = thinned(readSamples);
+    if (evidence)
+        run.evidence = thinned(*evidence);
     return run;
 }
 
@@ -217,7 +238,10 @@ std::optional<QString> RunRecord::customTitleFrom(const QString& text) {
 std::size_t RunRecord::hash() const {
     std::size_t hash = 0;
     visitFields(*this, [&](std::string_view, const auto& field) {
-        hash = OndelCore::mixed(hash, OndelCore::hashField(field));
+        if constexpr (isOptional<std::remove_cvref_t<decltype(field)>>)
+            hash = OndelCore::mixed(hash, field ? OndelCore::hashField(*field) : 0);
+        else
+            hash = OndelCore::mixed(hash, OndelCore::hashField(field));
     });
     return hash;
 }

@@ -93,9 +93,10 @@ struct RunRecord {
     using IdentityOf = std::function<DriveIdentity(const std::filesystem::path& volumeURL)>;
     static DriveIdentity identityOf(const std::filesystem::path& volumeURL);
 
-    /// The record of a run. `duration`: if absent, the sum of the durations of all tests but the file
-    /// operations; a negative one, from a clock that was set back, becomes 0.
-    /// Threads: any; blocks on asking for the drive's names. Fails: never; what is missing is absent.
+    /// The record of a run, which always has evidence and remarks. `duration`: if absent, the sum of the
+    /// durations of all tests but the file operations; a negative one, from a clock that was set back,
+    /// becomes 0. Threads: any; blocks on asking for the drive's names. Fails: never; what is missing is
+    /// absent.
     static RunRecord from(const OndelCore::benchmark::BenchmarkResult& result,
                           const std::optional<OndelCore::volumes::VolumeInfo>& volume,
                           const std::optional<OndelCore::volumes::VolumeCapabilities>& capabilities,
@@ -103,7 +104,7 @@ struct RunRecord {
                           std::optional<double> duration = std::nullopt,
                           const IdentityOf& driveIdentity = identityOf);
 
-    /// The record with 80 to 159 points left of each curve that had more.
+    /// The record with 80 to 159 points left of each curve that had more, and of the circumstances' samples.
     RunRecord withThinnedCurves() const;
 
     /// What lists call the run: the user's title, else the volume's name, else "Volume".
@@ -123,8 +124,7 @@ struct RunRecord {
 
 /// Calls `visit(key, field)` for each field of a record, in order. A field that is not a std::optional is
 /// required.
-template <typename Record, typename Visit>
-void visitFields(Record& run, Visit visit) {
+void visitFields(IsA<RunRecord> auto& run, auto visit) {
     visit("id", run.id);
     visit("volumeName", run.volumeName);
     visit("connection", run.connection);
@@ -158,6 +158,10 @@ void visitFields(Record& run, Visit visit) {
     visit("deviceProtocol", run.deviceProtocol);
     visit("kind", run.kind);
     visit("customTitle", run.customTitle);
+    visit("kernel", run.kernel);
+    visit("version", run.version);
+    visit("evidence", run.evidence);
+    visit("remarks", run.remarks);
 }
 
 } // namespace TarnwickKit::model

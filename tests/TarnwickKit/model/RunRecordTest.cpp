@@ -1,6 +1,7 @@
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include "SampleRun.h"
+#include "TarnwickKit/model/runs/EvidenceCodec.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
@@ -67,8 +68,16 @@ TEST(RunRecord, HoldsTheFiguresOfARun) {
     plan.readBlockSize = 2;
     plan.randomBlockSize = 3;
     plan.bypassCache = false;
-    const auto run =
+    result.circumstances = fullEvidence(200).circumstances;
+    auto run =
         RunRecord::from(result, volume(true, false), capabilities("ext4"), start, plan, std::nullopt, drive);
+    EXPECT_EQ(run.kernel, "6.1.0-18-amd64");
+    EXPECT_EQ(run.evidence->fileOps, result.fileOps->evidence);
+    EXPECT_EQ(run.evidence->circumstances->samples.size(), 100u);
+    EXPECT_EQ(run.remarks, remarksOn(plan, result));
+    run.version = "1.2.3";
+    run.evidence = RunEvidence();
+    run.remarks.emplace();
     const QByteArray id = run.id.toString(QUuid::WithoutBraces).toUpper().toLatin1();
     EXPECT_EQ(
         encodeRun(run).value().toStdString(),
@@ -80,7 +89,8 @@ TEST(RunRecord, HoldsTheFiguresOfARun) {
             R"({"t":2,"v":998}],"readSamples":[{"t":0,"v":1000}],"fsType":"ext4","optimalIO":131072,)"
             R"("blockSize":4096,"maxName":255,"capacityBytes":1000,"freeBytes":400,"sizeLabel":"5.0 GiB",)"
             R"("writeBlock":1,"readBlock":2,"randomBlock":3,"bypassCache":false,"deviceModel":"ACME Disk",)"
-            R"("deviceProtocol":"NVMe","kind":"internalDrive"})");
+            R"("deviceProtocol":"NVMe","kind":"internalDrive","kernel":"6.1.0-18-amd64","version":"1.2.3",)"
+            R"("evidence":{},"remarks":[]})");
 
     plan.size = BenchmarkSize::fillDisk(1);
     const auto bare = RunRecord::from({}, std::nullopt, std::nullopt, start, plan, -3.0, noDrive);
@@ -89,6 +99,7 @@ TEST(RunRecord, HoldsTheFiguresOfARun) {
     EXPECT_EQ(bare.duration, 0) << "a clock that was set back must not make the record unreadable";
     EXPECT_EQ(bare.writeBps, std::nullopt);
     EXPECT_EQ(bare.capacityBytes, std::nullopt);
+    EXPECT_EQ(bare.evidence, RunEvidence()) << "recorded, though nothing was observed";
     EXPECT_NE(bare.id, run.id);
 }
 
@@ -189,8 +200,11 @@ TEST(RunCodec, ReadsBackWhatItWrites) {
     run.volumeName = "A \"quoted\" \\ \n \u0001 Ä";
     run.writeSamples = {{0, 1.5}, {0.1, 1e22}};
     run.freeBytes = 9223372036854775807;
+    run.evidence->circumstances->samples = fullEvidence(maxCircumstanceSamples).circumstances->samples;
     const QByteArray json = encodeRun(run).value();
     EXPECT_EQ(decodeRun(json), run);
+    EXPECT_EQ(decodeRun(json)->evidence, run.evidence);
+    EXPECT_EQ(decodeRun(json)->remarks, run.remarks);
     EXPECT_EQ(std::hash<RunRecord>()(*decodeRun(json)), std::hash<RunRecord>()(run));
     EXPECT_EQ(decodeRuns("[" + json + "," + json + "]"), (std::vector<RunRecord>{run, run}));
 
@@ -204,6 +218,8 @@ TEST(RunCodec, ReadsBackWhatItWrites) {
 QByteArray replaced(const char* key, const QByteArray& value) {
     RunRecord run = fullRun();
     run.writeSamples = run.readSamples = {};
+    run.evidence.reset();
+    run.remarks.reset();
     const QByteArray json = encodeRun(run).value();
     const qsizetype begin = json.indexOf(QByteArray("\"") + key + "\":");
     qsizetype end = json.indexOf(",\"", begin);
@@ -223,6 +239,7 @@ TEST(RunCodec, IgnoresOnlyUnknownKeysAndAbsentOptions) {
     };
     for (const Case& each : std::initializer_list<Case>{
              {"sizeLabel", {"", "null"}, {"1"}},
+             {"kernel", {"1", "[]", R"("")"}, {"tru", "[1,]"}},
              {"bypassCache", {}, {"1"}},
              {"kind", {}, {"", R"("Network")"}},
              {"id",
@@ -252,6 +269,107 @@ TEST(RunCodec, IgnoresOnlyUnknownKeysAndAbsentOptions) {
         for (const QByteArray& value : each.refused)
             EXPECT_FALSE(decodeRun(replaced(each.key, value))) << each.key << ": " << value.left(60).data();
     }
+}
+
+/// The run in `fullRun` with the JSON `evidence` and `remarks`, as it is read.
+std::optional<RunRecord> observed(const QByteArray& evidence, const QByteArray& remarks = "[]") {
+    RunRecord run = fullRun(0);
+    run.evidence.reset();
+    run.remarks.reset();
+    QByteArray json = encodeRun(run).value();
+    json.chop(1);
+    return decodeRun(json + R"(,"evidence":)" + evidence + R"(,"remarks":)" + remarks + "}");
+}
+
+/// What is wrong is absent with the smallest optional part that it belongs to.
+TEST(RunCodec, LeavesOutEvidenceThatCannotBe) {
+    const QByteArray test = R"({"began":0,"ended":1,"refusedTransfers":0,"longestPause":0,"longPauses":0)";
+    const auto whole = [&](const QByteArray& members) {
+        return observed(R"({"randomRead":)" + test + members + R"(},"statLatency":{}})").value();
+    };
+    EXPECT_EQ(whole(R"(,"later":[{}],"diskReads":{"bytes":1,"requests":2})").evidence->randomRead->diskReads,
+              (Traffic{1, 2}));
+    for (const char* members : {R"(,"diskReads":{"bytes":-1,"requests":2})", R"(,"diskReads":{"bytes":1})",
+                                R"(,"diskReads":7)", R"(,"diskReads":null)"}) {
+        const RunRecord run = whole(members);
+        EXPECT_EQ(run.evidence->randomRead, (TestEvidence{.began = 0, .ended = 1})) << members;
+        EXPECT_FALSE(run.evidence->statLatency);
+    }
+    for (const char* members : {R"(,"began":-1)", R"(,"ended":1e400)", R"(,"isBypassRefused":0)"})
+        EXPECT_EQ(whole(members).evidence, RunEvidence()) << members;
+    for (const QByteArray& evidence :
+         {QByteArray("[]"), QByteArray("1"), QByteArray("null"), QByteArray(R"("x")")}) {
+        ASSERT_TRUE(observed(evidence)) << evidence.toStdString();
+        EXPECT_FALSE(observed(evidence)->evidence) << evidence.toStdString();
+    }
+    EXPECT_FALSE(observed("{\"randomRead\":{]}")) << "damage is no observation";
+
+    const auto circumstances = [](const QByteArray& members) {
+        return observed(R"({"circumstances":{"disks":1)" + members + "}}")->evidence->circumstances;
+    };
+    for (const char* members :
+         {R"(,"maxCelsius":65261)", R"(,"maxCelsius":-40)", R"(,"reach":"orbit")", R"(,"kernel":"a\nb")",
+          R"(,"link":{"kind":"parallel","now":1,"best":2})", R"(,"misalignment":{"offset":1.5})"})
+        EXPECT_EQ(circumstances(members), (OndelCore::platform::Circumstances{.disks = 1})) << members;
+    const auto samples = [&](std::size_t count) {
+        QByteArray list = R"({"elapsed":1})";
+        for (std::size_t index = 1; index < count; ++index)
+            list += R"(,{"elapsed":1})";
+        return circumstances(R"(,"samples":[)" + list + "]");
+    };
+    EXPECT_EQ(samples(maxCircumstanceSamples)->samples.size(), maxCircumstanceSamples);
+    EXPECT_FALSE(samples(maxCircumstanceSamples + 1));
+}
+
+TEST(RunCodec, LeavesOutRemarksThatItDoesNotKnow) {
+    const QByteArray known = R"({"code":"virtualDisk","weight":"note","numbers":[]})";
+    for (const char* other : {
+             R"({"code":"virtuaDisk","weight":"note","numbers":[]})",
+             R"({"code":"virtualDisk","weight":"grave","numbers":[]})",
+             R"({"code":"stalls","weight":"caution","test":"warmUp","numbers":[3,4]})",
+             R"({"code":"stalls","weight":"caution","numbers":[3,4]})",
+             R"({"code":"stalls","weight":"caution","test":"fileOps","numbers":[3]})",
+             R"({"code":"stalls","weight":"caution","test":"fileOps","numbers":[3,-4]})",
+             R"({"code":"fromMemory","weight":"invalid","test":"fileOps","numbers":[1.1]})",
+             R"({"code":"slowLink","weight":"note","numbers":[1,2,3]})",
+             R"({"code":5,"weight":"note","numbers":[]})",
+             R"({"weight":"note","numbers":[]})",
+             R"({"code":"virtualDisk"})",
+             "[]",
+             "null",
+         }) {
+        const auto run = observed("{}", "[" + QByteArray(other) + "," + known + "]");
+        ASSERT_TRUE(run && run->remarks) << other;
+        EXPECT_EQ(run->remarks, (std::vector{Remark{RemarkCode::virtualDisk}})) << other;
+    }
+    const auto later = observed("{}", R"([{"code":"nearlyFull","weight":"note","numbers":[0.04,7],"x":1}])");
+    EXPECT_EQ(later->remarks->at(0).numbers, std::vector{0.04});
+    EXPECT_EQ(observed("{}", "[" + (known + ",").repeated(63) + known + "]")->remarks->size(), maxRemarks);
+    EXPECT_FALSE(observed("{}", "[" + (known + ",").repeated(64) + known + "]")->remarks);
+    EXPECT_FALSE(observed("{}", "{}")->remarks);
+}
+
+/// A run is worth more than what was observed beside it.
+TEST(RunCodec, WritesOnlyWhatItReads) {
+    RunRecord run = fullRun(0);
+    run.kernel = "a\nb";
+    run.version = QString(129, 'x');
+    run.evidence->randomRead->began = std::numeric_limits<double>::quiet_NaN();
+    run.evidence->circumstances->maxCelsius = 65261;
+    run.evidence->circumstances->fileSystemType = "\x1b[2J";
+    run.evidence->circumstances->samples.assign(maxCircumstanceSamples + 1, {.elapsed = -1});
+    run.remarks->front().numbers = {};
+    run.remarks->resize(100, {RemarkCode::virtualDisk});
+    const RunRecord read = decodeRun(encodeRun(run).value()).value();
+    run.kernel.reset();
+    run.version.reset();
+    run.evidence->randomRead.reset();
+    run.evidence->circumstances->maxCelsius.reset();
+    run.evidence->circumstances->fileSystemType.clear();
+    run.evidence->circumstances->samples.clear();
+    run.remarks->erase(run.remarks->begin());
+    run.remarks->resize(63);
+    EXPECT_EQ(read, run);
 }
 
 TEST(RunCodec, RefusesOtherText) {

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "TarnwickKit/model/runs/JsonReader.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+namespace TarnwickKit::model {
+
+template <typename Field>
+inline constexpr bool isOptional = false;
+template <typename Value>
+inline constexpr bool isOptional<std::optional<Value>> = true;
+
+/// Reads an object into the fields that `visitFields` has for `record`. Calls `read(key, field)` for each
+/// member that is one of them, which must read or skip the value; skips the others.
+/// `isRequired(field)`: whether the object must have it. Fails: throws JsonError, as `read` does.
+template <typename Record, typename Read, typename IsRequired>
+void readFields(JsonReader& json, Record& record, Read read, IsRequired isRequired) {
+    std::uint64_t seen = 0; // no record has more fields than this has bits
+    json.object([&](std::string_view key) {
+        bool known = false;
+        int index = 0;
+        visitFields(record, [&](std::string_view name, auto& field) {
+            // The key is invalid after a value has been read.
+            if (!known && name == key) {
+                known = true;
+                seen |= std::uint64_t{1} << index;
+                read(name, field);
+            }
+            ++index;
+        });
+        if (!known)
+            json.skip();
+    });
+    int index = 0;
+    visitFields(record, [&](std::string_view name, const auto& field) {
+        if (isRequired(field) && !(seen >> index & 1))
+            throw JsonError(std::string(name) + " is missing");
+        ++index;
+    });
+}
+
+} // namespace TarnwickKit::model
