@@ -34,6 +34,7 @@ void AnalyzerModel::forwardSignals() {
     forward(m_session, &RunSession::liveTestChanged, &AnalyzerModel::liveTestChanged);
     forward(*this, &AnalyzerModel::randomBlockChanged, &AnalyzerModel::liveTestTitleChanged);
     forward(m_session, &RunSession::liveSamplesChanged, &AnalyzerModel::liveSamplesChanged);
+    forward(m_session, &RunSession::liveTemperaturesChanged, &AnalyzerModel::liveTemperaturesChanged);
     forward(m_session, &RunSession::progressChanged, &AnalyzerModel::progressChanged);
     forward(m_library, &RunLibrary::currentRunChanged, &AnalyzerModel::currentRunChanged);
     forward(m_library, &RunLibrary::currentRunCollapsedChanged, &AnalyzerModel::currentRunCollapsedChanged);
@@ -81,7 +82,7 @@ void AnalyzerModel::select(const std::filesystem::path& folder) {
         return;
     m_target.select(folder);
     setPhase(currentRun() ? Phase::Done : Phase::Idle);
-    m_session.clearLiveSamples();
+    m_session.clearLiveCurves();
 }
 
 void AnalyzerModel::selectVolume(const QUrl& mountPoint) {

@@ -92,6 +92,10 @@ public:
     static constexpr std::size_t maxLiveSamples = RunSession::maxLiveSamples;
     const std::vector<RunSession::Sample>& liveSamples() const { return m_session.liveSamples(); }
     Q_SIGNAL void liveSamplesChanged();
+    const std::vector<RunSession::Temperature>& liveTemperatures() const {
+        return m_session.liveTemperatures();
+    }
+    Q_SIGNAL void liveTemperaturesChanged();
     Q_PROPERTY(double completedBytes READ completedBytesNumber NOTIFY progressChanged)
     std::int64_t completedBytes() const { return m_session.completedBytes(); }
     Q_PROPERTY(double totalBytes READ totalBytesNumber NOTIFY progressChanged)

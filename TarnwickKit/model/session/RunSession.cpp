@@ -10,9 +10,11 @@
 #include <QFutureWatcher>
 #include <QPromise>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <stop_token>
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -23,10 +25,36 @@ using OndelCore::benchmark::BenchmarkProgress;
 using OndelCore::benchmark::BenchmarkResult;
 using OndelCore::benchmark::BenchmarkTest;
 using OndelCore::benchmark::Cancelled;
+using OndelCore::benchmark::Remark;
+using OndelCore::benchmark::RemarkCode;
 using OndelCore::logging::Log;
 using OndelCore::logging::LogField;
 
 namespace {
+
+/// Drops every second sample if there are too many.
+template <typename LiveSample>
+void limit(std::vector<LiveSample>& samples) {
+    if (samples.size() <= RunSession::maxLiveSamples)
+        return;
+    std::size_t kept = 0;
+    for (std::size_t index = 0; index < samples.size(); index += 2)
+        samples[kept++] = samples[index];
+    samples.resize(kept);
+}
+
+/// The codes of a run's remarks, each once: "fromMemory,virtualDisk".
+std::string codes(const std::vector<Remark>& remarks) {
+    std::vector<RemarkCode> named;
+    std::string list;
+    for (const Remark& remark : remarks) {
+        if (std::ranges::find(named, remark.code) != named.end())
+            continue;
+        named.push_back(remark.code);
+        list.append(list.empty() ? "" : ",").append(rawValue(remark.code));
+    }
+    return list;
+}
 
 /// The engine's answer. Fails: throws what the engine threw; Cancelled if there is neither.
 BenchmarkResult answer(QFuture<BenchmarkResult> future) {
@@ -42,11 +70,13 @@ BenchmarkResult answer(QFuture<BenchmarkResult> future) {
 struct RunSession::Changes {
     bool liveTest = false;
     bool liveSamples = false;
+    bool liveTemperatures = false;
     bool progress = false;
 
     Changes& operator|=(const Changes& other) {
         liveTest |= other.liveTest;
         liveSamples |= other.liveSamples;
+        liveTemperatures |= other.liveTemperatures;
         progress |= other.progress;
         return *this;
     }
@@ -61,7 +91,7 @@ struct RunSession::Run {
     VolumeFacts volume; ///< as when the run began; facts that were absent then come in later
     std::stop_source stop;
     bool launched = false; ///< the engine has been called
-    bool hasEnded = false;
+    bool hasEnded = false; ///< the next one may begin
     ProgressStream stream;
     QFutureWatcher<void> sweep;
     QFutureWatcher<BenchmarkResult> engine;
@@ -92,7 +122,7 @@ RunSession::RunSession(const AnalyzerServices& services, AnalyzerTarget& target,
 RunSession::~RunSession() { abandon(); }
 
 void RunSession::abandon() {
-    if (!m_run || m_run->hasEnded)
+    if (!isRunning())
         return;
     m_run->hasEnded = true;
     m_run->stream.cancel();
@@ -106,14 +136,15 @@ void RunSession::abandon() {
 }
 
 void RunSession::start(const BenchmarkPlan& plan) {
-    if (!m_target.folder() || m_isRunning)
+    if (!m_target.folder() || isRunning())
         return;
-    auto run = std::make_shared<Run>(*this, plan);
-    m_isRunning = true;
+    const auto run = std::make_shared<Run>(*this, plan);
+    m_run = run;
     Q_EMIT started();
     reset();
+    if (run->hasEnded) // a receiver has cancelled it
+        return;
     m_runStart = m_services.now();
-    m_run = run;
     logStart();
 
     // The sweep of a run that was cancelled while it waited may end during the next run: it is ignored.
@@ -131,9 +162,11 @@ void RunSession::start(const BenchmarkPlan& plan) {
         launch();
 }
 
+bool RunSession::isRunning() const { return m_run && !m_run->hasEnded; }
+
 void RunSession::reset() {
     setResult(std::nullopt);
-    clearLiveSamples();
+    clearLiveCurves();
     setLiveTest(std::nullopt);
     setProgress(0, 0);
 }
@@ -151,7 +184,7 @@ void RunSession::launch() {
 }
 
 void RunSession::cancel() {
-    if (!m_run || m_run->hasEnded)
+    if (!isRunning())
         return;
     m_run->stop.request_stop();
     if (!m_run->launched)
@@ -183,7 +216,6 @@ void RunSession::engineEnded() {
 /// A receiver of `ended` may begin the next run. This one is held until its own end is complete.
 void RunSession::endRun(const std::function<void()>& settle) {
     const std::shared_ptr<Run> run = m_run;
-    run->hasEnded = true;
     settle();
     run->stream.cancel();
     run->ended.finish();
@@ -197,17 +229,20 @@ void RunSession::finish(const BenchmarkResult& result) {
     m_target.learn(result.tried);
     if (!run->volume.info) // a volume that was just measured answers, if it was asked at all
         m_target.awaitFacts();
-    Q_EMIT recorded(RunRecord::from(result, run->volume.info, run->volume.capabilities, m_runStart, run->plan,
-                                    duration, m_services.driveIdentity));
+    const RunRecord record = RunRecord::from(result, run->volume.info, run->volume.capabilities, m_runStart,
+                                             run->plan, duration, m_services.driveIdentity);
+    Q_EMIT recorded(record);
     logResult(result);
-    m_isRunning = false;
+    if (const std::string remarks = codes(*record.remarks); !remarks.empty())
+        Log::app.notice("benchmark remarks", LogField::token("codes", remarks));
+    run->hasEnded = true;
     Q_EMIT ended(Outcome::finished, {});
     setLiveTest(std::nullopt);
     m_target.refreshSMART();
 }
 
 void RunSession::fail(const std::exception& error) {
-    m_isRunning = false;
+    m_run->hasEnded = true;
     if (dynamic_cast<const Cancelled*>(&error)) {
         Log::app.notice("benchmark cancelled");
         Q_EMIT ended(Outcome::cancelled, {});
@@ -265,6 +300,8 @@ RunSession::Changes RunSession::take(const BenchmarkProgress& progress) {
         m_liveTest = progress.test;
         m_liveSamples.clear();
         changes.liveTest = changes.liveSamples = true;
+        changes.liveTemperatures = !m_liveTemperatures.empty();
+        m_liveTemperatures.clear();
     }
     m_completedBytes = progress.completedBytes;
     m_totalBytes = progress.totalBytes;
@@ -273,13 +310,21 @@ RunSession::Changes RunSession::take(const BenchmarkProgress& progress) {
         m_liveSamples.push_back({progress.elapsed, progress.instantBytesPerSecond});
         changes.liveSamples = true;
     }
-    if (m_liveSamples.size() > maxLiveSamples) {
-        std::size_t kept = 0;
-        for (std::size_t index = 0; index < m_liveSamples.size(); index += 2)
-            m_liveSamples[kept++] = m_liveSamples[index];
-        m_liveSamples.resize(kept);
+    limit(m_liveSamples);
+    if (progress.celsius && isNews({progress.elapsed, *progress.celsius})) {
+        m_liveTemperatures.push_back({progress.elapsed, *progress.celsius});
+        limit(m_liveTemperatures);
+        changes.liveTemperatures = true;
     }
     return changes;
+}
+
+/// Progress comes far more often than sensors are read.
+bool RunSession::isNews(const Temperature& temperature) const {
+    if (m_liveTemperatures.empty())
+        return true;
+    const Temperature& last = m_liveTemperatures.back();
+    return temperature.celsius != last.celsius || temperature.elapsed >= last.elapsed + 1;
 }
 
 void RunSession::announce(const Changes& changes) {
@@ -287,6 +332,8 @@ void RunSession::announce(const Changes& changes) {
         Q_EMIT liveTestChanged();
     if (changes.liveSamples)
         Q_EMIT liveSamplesChanged();
+    if (changes.liveTemperatures)
+        Q_EMIT liveTemperaturesChanged();
     if (changes.progress)
         Q_EMIT progressChanged();
 }
@@ -299,8 +346,9 @@ void RunSession::setResult(std::optional<BenchmarkResult> result) {
     changeProperty(*this, m_result, std::move(result), &RunSession::resultChanged);
 }
 
-void RunSession::clearLiveSamples() {
+void RunSession::clearLiveCurves() {
     changeProperty(*this, m_liveSamples, {}, &RunSession::liveSamplesChanged);
+    changeProperty(*this, m_liveTemperatures, {}, &RunSession::liveTemperaturesChanged);
 }
 
 void RunSession::setProgress(std::int64_t completed, std::int64_t total) {

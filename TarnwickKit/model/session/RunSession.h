@@ -30,6 +30,13 @@ class RunSession : public QObject {
 
 public:
     using Sample = OndelCore::benchmark::ThroughputSample;
+    /// A drive's temperature. Units: seconds since the test's measuring began, degrees Celsius.
+    struct Temperature {
+        double elapsed = 0;
+        double celsius = 0;
+
+        bool operator==(const Temperature&) const = default;
+    };
     static constexpr std::size_t maxLiveSamples = 2000;
 
     enum class Outcome { finished, cancelled, failed };
@@ -65,8 +72,12 @@ public:
     Q_SIGNAL void liveTestChanged();
     /// The samples of the current test. Beyond maxLiveSamples every second one is dropped.
     const std::vector<Sample>& liveSamples() const { return m_liveSamples; }
-    void clearLiveSamples();
     Q_SIGNAL void liveSamplesChanged();
+    /// The temperatures of the hottest drive during the current test: one a second, and each other one.
+    /// Empty without a sensor. Thinned as the samples are.
+    const std::vector<Temperature>& liveTemperatures() const { return m_liveTemperatures; }
+    Q_SIGNAL void liveTemperaturesChanged();
+    void clearLiveCurves();
     /// Progress of the current test, in the counts of BenchmarkProgress.
     std::int64_t completedBytes() const { return m_completedBytes; }
     std::int64_t totalBytes() const { return m_totalBytes; }
@@ -80,10 +91,12 @@ private:
     struct Run;
 
     Changes take(const OndelCore::benchmark::BenchmarkProgress& progress);
+    bool isNews(const Temperature& temperature) const;
     void announce(const Changes& changes);
     void setLiveTest(std::optional<OndelCore::benchmark::BenchmarkTest> test);
     void setProgress(std::int64_t completed, std::int64_t total);
 
+    bool isRunning() const;
     void reset();
     void launch();
     void engineEnded();
@@ -99,12 +112,12 @@ private:
     AnalyzerTarget& m_target;
     /// Kept until the next run begins, so that a late cancel meets an ended run.
     std::shared_ptr<Run> m_run;
-    bool m_isRunning = false;
     QDateTime m_runStart;
 
     std::optional<OndelCore::benchmark::BenchmarkResult> m_result;
     std::optional<OndelCore::benchmark::BenchmarkTest> m_liveTest;
     std::vector<Sample> m_liveSamples;
+    std::vector<Temperature> m_liveTemperatures;
     std::int64_t m_completedBytes = 0;
     std::int64_t m_totalBytes = 0;
 };

@@ -179,6 +179,51 @@ TEST_F(AnalyzerModelRun, ThinsLiveSamples) {
     EXPECT_EQ(model.property("liveTest").toString(), "sequentialRead");
 }
 
+TEST_F(AnalyzerModelRun, KeepsTheTemperaturesOfTheCurrentTest) {
+    using Temperatures = std::vector<RunSession::Temperature>;
+    int changes = 0;
+    QObject::connect(&model, &AnalyzerModel::liveTemperaturesChanged, &model, [&] { ++changes; });
+    const auto apply = [this](double elapsed, std::optional<double> celsius,
+                              BenchmarkTest test = BenchmarkTest::randomRead) {
+        BenchmarkProgress progress = event(test, 0, elapsed);
+        progress.celsius = celsius;
+        model.apply(progress);
+    };
+    apply(0, std::nullopt);
+    EXPECT_EQ(changes, 0) << "without a sensor nothing changes";
+    for (const auto& [elapsed, celsius] :
+         std::initializer_list<std::pair<double, double>>{{0.1, 40}, {0.9, 40}, {1, 41}, {1.5, 41}, {2, 41}})
+        apply(elapsed, celsius);
+    apply(2.5, std::nullopt);
+    EXPECT_EQ(model.liveTemperatures(), (Temperatures{{0.1, 40}, {1, 41}, {2, 41}}));
+    EXPECT_EQ(changes, 3);
+    for (int second = 3; second <= 2000; ++second)
+        apply(second, 41);
+    ASSERT_EQ(model.liveTemperatures().size(), 1001u);
+    EXPECT_EQ(model.liveTemperatures().at(1), (RunSession::Temperature{2, 41}));
+
+    apply(0, 42, BenchmarkTest::randomWrite);
+    EXPECT_EQ(model.liveTemperatures(), (Temperatures{{0, 42}}));
+    model.select(std::filesystem::path("/tmp"));
+    EXPECT_TRUE(model.liveTemperatures().empty());
+}
+
+TEST_F(AnalyzerModelRun, CanBeCancelledAsSoonAsItStarts) {
+    const auto once = QObject::connect(&model, &AnalyzerModel::phaseChanged, &model, [this] {
+        if (model.isRunning())
+            model.cancel();
+    });
+    model.start();
+    EXPECT_FALSE(model.isRunning());
+    EXPECT_TRUE(model.cancelAndWait().isFinished());
+    QObject::disconnect(once);
+    engine.begin(model);
+    EXPECT_EQ(engine.calls.size(), 1u) << "the cancelled run did not reach the engine";
+    engine.last().finish({});
+    turnUntilEnded(model);
+    EXPECT_EQ(model.phase(), Phase::Done);
+}
+
 TEST_F(AnalyzerModelRun, TakesAllEventsInOrderAndAnnouncesBatches) {
     engine.begin(model);
     int announcements = 0;
