@@ -32,6 +32,8 @@ struct BlockStack {
     /// Each once, in the order in which the layers name them. A loop device with its backing file on a memory
     /// or network file system counts as a disk.
     std::vector<BlockDevice> wholeDisks;
+    /// The partitions, mappings and loop devices that lie on them, each before what lies below it.
+    std::vector<BlockDevice> layers;
     bool isEncrypted = false; ///< there is a dm-crypt layer
     bool isSealed = false;    ///< there is a dm-verity layer, which checks each block against a hash tree
 };
@@ -77,7 +79,8 @@ std::optional<dev_t> deviceOfMount(const Mount& mount);
 /// name. Threads: any.
 std::string sourceOfMount(const Mount& mount, const std::filesystem::path& sysfs = "/sys");
 
-/// The first line of an attribute in the device tree. Fails: absent if unreadable.
+/// The first line of an attribute in the device tree. Fails: absent if unreadable, or longer than the kernel
+/// makes an attribute.
 std::optional<std::string> readAttribute(const std::filesystem::path& file);
 
 /// The value of "KEY=value" in a device's `uevent` attribute. Fails: absent.

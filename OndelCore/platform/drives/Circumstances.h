@@ -15,7 +15,7 @@ namespace OndelCore::platform {
 /// What changes while a run goes on.
 struct CircumstanceSample {
     double elapsed = 0;                 ///< seconds since the watch began
-    std::optional<double> celsius{};    ///< of the hottest drive
+    std::optional<double> celsius{};    ///< of the hottest drive; slow sensors are read every 5 or 10 seconds
     std::optional<double> ioPressure{}; ///< share of the time since the last sample in which some task waited
                                         ///< for a disk, 0 to 1 (proc, "pressure/io", "some")
 
@@ -28,8 +28,8 @@ struct DriveLink {
     enum class Kind { pcie, sata, usb };
 
     Kind kind = Kind::pcie;
-    double now = 0;  ///< bits per second, as negotiated
-    double best = 0; ///< what the drive could do
+    double now = 0;  ///< bits per second of the line, all lanes together, as negotiated
+    double best = 0; ///< the same as the drive could do it
 
     bool operator==(const DriveLink&) const = default;
     std::size_t hash() const { return hashFields(kind, now, best); }
@@ -56,7 +56,7 @@ struct Circumstances {
     bool checksumsData = false;
     bool journalsData = false;
     bool isEncrypted = false;
-    /// Whether the file system says that it can move this file's data past the cache (statx(2),
+    /// Whether the file system says that it can move a new file's data past the cache (statx(2),
     /// STATX_DIOALIGN); absent where it does not say.
     std::optional<bool> allowsDirectIo{};
 
@@ -67,8 +67,8 @@ struct Circumstances {
     std::optional<bool> isRotational{};
     std::optional<bool> hasVolatileWriteCache{};
     std::optional<Misalignment> misalignment{};
-    std::optional<DriveLink>
-        link{}; ///< the slowest of those that are slower than their drive; absent without
+    /// The slowest of those that stayed slower than their drive; absent without.
+    std::optional<DriveLink> link{};
 
     bool isOnBattery = false;
     bool hasPowerSaveGovernor = false;
@@ -76,9 +76,11 @@ struct Circumstances {
     std::optional<std::int64_t> capacityBytes{};
     std::optional<std::int64_t> freeBytes{}; ///< when the watch began
 
-    std::optional<double> maxCelsius{};        ///< where the drive begins to slow down
-    std::optional<double> criticalCelsius{};   ///< where it may stop
-    std::vector<CircumstanceSample> samples{}; ///< one each second; every second one is dropped beyond 4096
+    std::optional<double> maxCelsius{};      ///< where the drive begins to slow down
+    std::optional<double> criticalCelsius{}; ///< where it may stop
+    /// One each second. Beyond 4096 every second one is dropped, and from then on twice the time lies
+    /// between.
+    std::vector<CircumstanceSample> samples{};
 
     bool operator==(const Circumstances&) const = default;
     std::size_t hash() const;

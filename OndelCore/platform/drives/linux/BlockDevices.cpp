@@ -4,6 +4,7 @@
 #include <sys/sysmacros.h>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <fstream>
 #include <iterator>
@@ -180,15 +181,20 @@ BlockStack stackUnder(std::vector<BlockDevice> waiting, const SystemSources& sou
     std::set<dev_t> seen;
     std::ranges::reverse(waiting);
     while (!waiting.empty()) {
-        BlockDevice whole = wholeDevice(waiting.back());
+        const BlockDevice device = waiting.back();
+        BlockDevice whole = wholeDevice(device);
         waiting.pop_back();
+        if (device.isPartition && seen.insert(device.number).second)
+            stack.layers.push_back(device);
         if (!seen.insert(whole.number).second)
             continue;
         noteLayer(whole.folder, stack);
-        if (auto below = layerBelow(whole, sources))
+        if (auto below = layerBelow(whole, sources)) {
             waiting.insert(waiting.end(), below->rbegin(), below->rend());
-        else
+            stack.layers.push_back(std::move(whole));
+        } else {
             stack.wholeDisks.push_back(std::move(whole));
+        }
     }
     return stack;
 }
@@ -196,11 +202,16 @@ BlockStack stackUnder(std::vector<BlockDevice> waiting, const SystemSources& sou
 } // namespace
 
 std::optional<std::string> readAttribute(const fs::path& file) {
+    std::array<char, 4096> page{}; // the kernel makes none longer
     std::ifstream stream(file);
-    std::string line;
-    if (!stream || (!std::getline(stream, line) && stream.bad()))
+    if (!stream)
         return std::nullopt;
-    return line;
+    stream.read(page.data(), page.size());
+    const std::string_view text(page.data(), static_cast<std::size_t>(stream.gcount()));
+    const std::size_t end = text.find('\n');
+    if (stream.bad() || (end == std::string_view::npos && text.size() == page.size()))
+        return std::nullopt;
+    return std::string(text.substr(0, end));
 }
 
 std::optional<std::string> readUeventValue(const fs::path& folder, std::string_view key) {

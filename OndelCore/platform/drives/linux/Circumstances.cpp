@@ -10,6 +10,4 @@ std::size_t Circumstances::hash() const {
                       maxCelsius, criticalCelsius, samples);
 }
 
-std::unique_ptr<CircumstanceWatch> watchCircumstances(int) { return nullptr; }
-
 } // namespace OndelCore::platform

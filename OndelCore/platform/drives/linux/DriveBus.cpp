@@ -27,6 +27,19 @@ constexpr std::array pathRules = {
     PathRule{"virtio", "VirtIO", false}, PathRule{"vbd-", "Xen", false},
 };
 
+/// The names that the disks of virtual machines give themselves. NVMe disks have no vendor.
+struct VirtualDisk {
+    std::string_view vendor;
+    std::string_view model;
+};
+constexpr std::array virtualDisks = {
+    VirtualDisk{"", "QEMU "},         VirtualDisk{"", "VMware Virtual "},
+    VirtualDisk{"VMware", "Virtual"}, VirtualDisk{"Msft", "Virtual Disk"},
+    VirtualDisk{"", "VBOX "},         VirtualDisk{"", "ORCL-VBOX-"},
+    VirtualDisk{"Google", "Persist"}, VirtualDisk{"", "nvme_card-pd"},
+    VirtualDisk{"", "Virtual HDD"},   VirtualDisk{"", "Amazon Elastic Block Store"},
+};
+
 bool isNumbered(std::string_view name, std::string_view prefix) {
     return name.size() > prefix.size() && name.starts_with(prefix) &&
            std::isdigit(static_cast<unsigned char>(name[prefix.size()]));
@@ -40,25 +53,8 @@ bool isBehindExternalPort(fs::path folder) {
     return false;
 }
 
-/// The controllers of an NVMe namespace: the parent folder, or, if several may share the namespace, the links
-/// in the folder of their subsystem.
-std::vector<fs::path> nvmeControllers(const fs::path& disk) {
-    std::vector<fs::path> controllers;
-    std::error_code failed;
-    const fs::path above = disk.parent_path();
-    if (fs::exists(above / "transport", failed))
-        controllers.push_back(above);
-    for (fs::directory_iterator entry(above, failed), end; !failed && entry != end; entry.increment(failed)) {
-        std::error_code broken;
-        const fs::path controller = fs::canonical(entry->path(), broken);
-        if (!broken && entry->is_symlink(broken) && isNumbered(entry->path().filename().native(), "nvme"))
-            controllers.push_back(controller);
-    }
-    return controllers;
-}
-
 DriveBus nvmeBus(const BlockDevice& disk) {
-    for (const fs::path& controller : nvmeControllers(disk.folder)) {
+    for (const fs::path& controller : nvmeControllers(disk)) {
         const auto transport = readAttribute(controller / "transport");
         if (transport && transport != "pcie")
             return {"NVMe over Fabrics", true};
@@ -75,6 +71,39 @@ DriveBus cardBus(const BlockDevice& disk) {
 }
 
 } // namespace
+
+std::vector<fs::path> nvmeControllers(const BlockDevice& wholeDisk) {
+    std::vector<fs::path> controllers;
+    if (!isNumbered(wholeDisk.name, "nvme"))
+        return controllers;
+    std::error_code failed;
+    // The folder above is the controller's, or, if several may share the namespace, that of their subsystem
+    // with links to them.
+    const fs::path above = wholeDisk.folder.parent_path();
+    if (fs::exists(above / "transport", failed))
+        controllers.push_back(above);
+    for (fs::directory_iterator entry(above, failed), end; !failed && entry != end; entry.increment(failed)) {
+        std::error_code broken;
+        const fs::path controller = fs::canonical(entry->path(), broken);
+        if (!broken && entry->is_symlink(broken) && isNumbered(entry->path().filename().native(), "nvme"))
+            controllers.push_back(controller);
+    }
+    return controllers;
+}
+
+bool isOfVirtualMachine(const BlockDevice& wholeDisk) {
+    const auto startsWith = [](const std::optional<std::string>& text, std::string_view prefix) {
+        return text && text->starts_with(prefix);
+    };
+    const bool isParavirtual = std::ranges::any_of(wholeDisk.folder, [](const fs::path& part) {
+        return isNumbered(part.native(), "virtio") || isNumbered(part.native(), "vbd-");
+    });
+    const auto vendor = readAttribute(wholeDisk.folder / "device/vendor");
+    const auto model = readAttribute(wholeDisk.folder / "device/model");
+    return isParavirtual || std::ranges::any_of(virtualDisks, [&](const VirtualDisk& row) {
+               return (row.vendor.empty() || startsWith(vendor, row.vendor)) && startsWith(model, row.model);
+           });
+}
 
 bool hasAtaForVendor(const BlockDevice& wholeDisk) {
     const std::string vendor = readAttribute(wholeDisk.folder / "device/vendor").value_or("");

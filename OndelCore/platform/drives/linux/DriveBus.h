@@ -2,8 +2,10 @@
 
 #include "OndelCore/platform/drives/BlockDevices.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace OndelCore::platform {
 
@@ -15,6 +17,13 @@ struct DriveBus {
 
 /// Threads: any. Fails: no name, not external.
 DriveBus busOfDisk(const BlockDevice& wholeDisk);
+
+/// The folders of the controllers of an NVMe disk in the device tree. Threads: any. Fails: none.
+std::vector<std::filesystem::path> nvmeControllers(const BlockDevice& wholeDisk);
+
+/// Whether the disk is one that a virtual machine is given in place of a real one. Threads: any. Fails:
+/// false.
+bool isOfVirtualMachine(const BlockDevice& wholeDisk);
 
 /// Whether the SCSI vendor text is "ATA", which marks an ATA disk behind a translator (SAT-2, 8.1.3).
 /// Threads: any. Fails: false.

@@ -3,6 +3,8 @@
 #include "OndelCore/platform/drives/SmartBlocks.h"
 #include "OndelCore/platform/drives/linux/DriveCalls.h"
 
+#include <optional>
+
 namespace OndelCore::platform {
 
 /// The result of one reader for one disk.
@@ -23,6 +25,10 @@ DriveReply readAtaDrive(const BlockDevice& disk, DriveCalls& calls, const Device
 /// Reads the data that UDisks2 has on a disk. Needs no event loop. Threads: any; blocks. Fails: an empty
 /// answer.
 SmartAnswer readFromUDisks(const BlockDevice& disk, const SmartSources& sources);
+
+/// The temperature that UDisks2 read from a disk within the last minute, as above. Units: degrees Celsius.
+/// Fails: absent.
+std::optional<double> celsiusFromUDisks(const BlockDevice& disk, const SmartSources& sources);
 
 /// The reply if `open` or a command failed with this errno.
 DriveReply unreachable(const BlockDevice& disk, int error);

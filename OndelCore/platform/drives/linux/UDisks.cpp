@@ -40,12 +40,18 @@ std::string ageOf(std::uint64_t readAtSeconds) {
 
 SmartAnswer nothing(std::string reason) { return {.blocks = {}, .source = std::move(reason)}; }
 
+/// The properties of a drive's S.M.A.R.T. interface. On a refusal (a sleeping drive, no permission) the
+/// service keeps its last figures.
+std::optional<QVariantMap> updated(const UDisksBus& bus, const QDBusObjectPath& drive,
+                                   const QString& interface) {
+    bus.ask(drive, interface, QStringLiteral("SmartUpdate"), {});
+    return bus.properties(drive, interface);
+}
+
 SmartAnswer readInterface(const BlockDevice& disk, const UDisksBus& bus, const QDBusObjectPath& drive,
                           const QString& interface) {
     const bool isNvme = interface == nvmeInterface;
-    // On a refusal (a sleeping drive, no permission) the service keeps its last figures.
-    bus.ask(drive, interface, QStringLiteral("SmartUpdate"), {});
-    const std::optional<QVariantMap> properties = bus.properties(drive, interface);
+    const std::optional<QVariantMap> properties = updated(bus, drive, interface);
     if (!properties)
         return nothing("UDisks2 does not answer for " + disk.name);
     const auto readAt = wholeNumber(properties->value(QStringLiteral("SmartUpdated")));
@@ -82,6 +88,27 @@ SmartAnswer readFromUDisks(const BlockDevice& disk, const SmartSources& sources)
         if (interfaces.contains(interface))
             return readInterface(disk, bus, *drive, interface);
     return nothing("UDisks2 has no health figures of " + disk.name);
+}
+
+std::optional<double> celsiusFromUDisks(const BlockDevice& disk, const SmartSources& sources) {
+    if (!busAnswers(sources.serviceBus.empty() ? systemBusAddress() : sources.serviceBus,
+                    sources.serviceLimit))
+        return std::nullopt;
+    const UDisksBus bus(sources.serviceBus, sources.serviceLimit);
+    const UDisksObjects objects = bus.objects().value_or(UDisksObjects());
+    const std::optional<QDBusObjectPath> drive = driveOf(disk, objects);
+    const UDisksInterfaces interfaces = drive ? objects.value(*drive) : UDisksInterfaces();
+    for (const QString& interface : {nvmeInterface, ataInterface}) {
+        if (!interfaces.contains(interface))
+            continue;
+        const QVariantMap properties = updated(bus, *drive, interface).value_or(QVariantMap());
+        const auto readAt = wholeNumber(properties.value(QStringLiteral("SmartUpdated")));
+        const double kelvin = properties.value(QStringLiteral("SmartTemperature")).toDouble();
+        constexpr double freezing = 273.15;
+        if (readAt && *readAt > 0 && ageOf(*readAt).empty() && kelvin > 0)
+            return kelvin - freezing;
+    }
+    return std::nullopt;
 }
 
 } // namespace OndelCore::platform

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "OndelCore/platform/drives/Circumstances.h"
+#include "OndelCore/platform/drives/SmartBlocks.h"
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+
+namespace OndelCore::platform {
+
+/// Where a watch looks: the real system, unless a caller hands in something else.
+struct CircumstanceSources {
+    SmartSources drives{};
+    std::filesystem::path proc = "/proc";
+    std::chrono::milliseconds interval{1000};
+};
+
+/// The watch of `watchCircumstances` with these sources.
+std::unique_ptr<CircumstanceWatch> watchCircumstancesIn(const CircumstanceSources& sources, int folder);
+
+} // namespace OndelCore::platform
