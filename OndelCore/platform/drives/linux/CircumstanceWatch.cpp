@@ -25,7 +25,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t mostSamples = 4096;
 constexpr double noDegrees = std::numeric_limits<double>::quiet_NaN();
 
 /// For this thread, as far as the kernel allows: whatever else wants the processor goes first.
@@ -97,10 +96,12 @@ private:
 struct Shared {
     Shared(const std::vector<BlockDevice>& disks, const CircumstanceSources& sources)
         : looks(disks, sources)
-        , interval(sources.interval) {}
+        , interval(sources.interval)
+        , mostSamples(sources.mostSamples) {}
 
     Looks looks; ///< of the thread, once there is one
     std::chrono::milliseconds interval;
+    std::size_t mostSamples;
     std::atomic<double> celsius = noDegrees;
     static_assert(std::atomic<double>::is_always_lock_free);
 

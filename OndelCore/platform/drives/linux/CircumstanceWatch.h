@@ -4,6 +4,7 @@
 #include "OndelCore/platform/drives/SmartBlocks.h"
 
 #include <chrono>
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 
@@ -14,6 +15,7 @@ struct CircumstanceSources {
     SmartSources drives{};
     std::filesystem::path proc = "/proc";
     std::chrono::milliseconds interval{1000};
+    std::size_t mostSamples = 4096;
 };
 
 /// The watch of `watchCircumstances` with these sources.
