@@ -2,7 +2,7 @@
 Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal needs, which is a session manager and
 notifications from the portal alone. With "desktop_portal.py NUMBER refuses" the portal accepts the request to inhibit suspend
 and then answers that it failed, and there is a login manager. Lines on standard input: a number changes the setting,
-"press" activates the last notification. Lines on standard output: "ready", "awake FLAGS REASON", "asleep",
+"press" activates the last notification, with the token "pressed". Lines on standard output: "ready", "awake FLAGS REASON", "asleep",
 "locked WHAT WHO WHY MODE", "unlocked", "notice TITLE: TEXT", "withdrawn"."""
 
 import os
@@ -144,6 +144,8 @@ class Desktop:
         if not line:
             loop.quit()
         elif line == "press":
+            self.bus.emit_signal(None, "/org/freedesktop/Notifications", NOTICES, "ActivationToken",
+                                 GLib.Variant("(us)", (self.notices, "pressed")))
             self.bus.emit_signal(None, "/org/freedesktop/Notifications", NOTICES, "ActionInvoked",
                                  GLib.Variant("(us)", (self.notices, "default")))
         else:

@@ -144,13 +144,19 @@ def starts_without_a_bus(program, folder):
             check(alone.wait(driver.GUARD_SECONDS) == 0, "without a bus it does not end quietly")
 
 
+def launch_that_ended(source):
+    """What the drag source, as a desktop, hears next of a launch."""
+    told = "ready"
+    while told == "ready":
+        told = select.select([source.stdout], [], [], driver.GUARD_SECONDS)[0] and source.stdout.readline().decode().strip()
+    return told
+
+
 def ends_the_launch_feedback(program, folder, source):
     with child(source, stdout=subprocess.PIPE) as desktop, driver.Window(program) as window:
         mark = 'a desktop\'s "mark"_TIME7'
         check(subprocess.run([program], env=os.environ | {"DESKTOP_STARTUP_ID": mark}).returncode == 0, "a second start does not hand over")
-        told = "ready"
-        while told == "ready":
-            told = select.select([desktop.stdout], [], [], driver.GUARD_SECONDS)[0] and desktop.stdout.readline().decode().strip()
+        told = launch_that_ended(desktop)
         check(told == 'remove: ID="a desktop\'s \\"mark\\"_TIME7"', f"the desktop heard {told}")
         check(window.terminate() == (0, ""), "it does not end quietly")
 
@@ -292,7 +298,7 @@ def desktop_of(*words):
 
 
 def notifies_the_desktop_of_runs(program, folder, source):
-    with desktop_of(2) as desktop, child(source):
+    with desktop_of(2) as desktop, child(source, stdout=subprocess.PIPE) as other:
         told = hears_of(desktop)
         told("ready")
         with driver.Window(program, folder) as window:
@@ -309,6 +315,8 @@ def notifies_the_desktop_of_runs(program, folder, source):
             window.find("Complete", "status bar")
             told("asleep", "notice Benchmark complete: ")
             desktop.stdin.write(b"press\n")
+            heard = launch_that_ended(other)
+            check(heard == 'remove: ID="pressed"', f"a press on the notice: the desktop heard {heard}")
             driver.focus(TITLE)  # without a window manager the program cannot take the focus itself
             told("withdrawn")
             start(window, folder)
