@@ -80,13 +80,13 @@ TEST(WithAccess, ReleasesOnlyAcquiredAccess) {
     EXPECT_TRUE(ran);
 }
 
-TEST(FileUrl, NamesFilesOfThisMachineByteForByte) {
+TEST(FileUrl, KeepsTheBytesOfLocalPaths) {
     const struct {
         std::string url;
         std::optional<std::filesystem::path> path;
     } cases[] = {
         {"file:///tmp/a%20b%C3%A4", "/tmp/a bä"},
-        {"file:///tmp/%ff%5c", "/tmp/\xff\\"}, // no valid UTF-8
+        {"file:///tmp/%ff%5c", "/tmp/\xff\\"}, // invalid UTF-8
         {"file:///tmp/a?b#c", "/tmp/a"},
         {"file://localhost/tmp", "/tmp"},
         {"file://elsewhere.invalid/tmp", std::nullopt},
