@@ -6,7 +6,8 @@
 
 namespace OndelControls {
 
-/// Whether assistive technology is connected. It reads only items that exist, and cannot scroll to have others created.
+/// Whether assistive technology is connected. It reads only items that exist, and cannot scroll to have
+/// others created.
 class AssistiveTechnology : public QObject, private QAccessible::ActivationObserver {
     Q_OBJECT
     QML_ELEMENT
