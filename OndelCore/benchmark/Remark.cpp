@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace OndelCore::benchmark {
 
@@ -57,7 +58,5 @@ std::optional<RemarkWeight> remarkWeight(std::string_view rawValue) {
 }
 
 std::size_t numbersOf(RemarkCode code) { return std::ranges::find(codes, code, &CodeFacts::code)->numbers; }
-
-std::vector<Remark> remarksOn(const BenchmarkPlan&, const BenchmarkResult&) { return {}; }
 
 } // namespace OndelCore::benchmark

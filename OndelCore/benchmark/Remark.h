@@ -56,8 +56,8 @@ std::optional<RemarkWeight> remarkWeight(std::string_view rawValue);
 /// How many numbers a remark of this code has.
 std::size_t numbersOf(RemarkCode code);
 
-/// The remarks that a run's evidence gives reason for, worst first, then in the order of the tests. A remark
-/// needs proof in the evidence; where something is not known there is none.
+/// The remarks that a run's evidence gives reason for: worst first; about the run before its tests, these in
+/// their order. A remark needs proof in the evidence; where something is not known there is none.
 std::vector<Remark> remarksOn(const BenchmarkPlan& plan, const BenchmarkResult& result);
 
 } // namespace OndelCore::benchmark
