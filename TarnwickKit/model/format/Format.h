@@ -52,6 +52,8 @@ public:
     QString rate(double bytesPerSecond) const;
     /// Truncated towards zero: "1,234". Fails: as wholeNumber.
     QString grouped(double value) const;
+    /// Rounded to `digits` decimals, without grouping: "4.2".
+    QString decimals(double value, int digits) const;
     /// "May 1 · 12:34 PM"
     QString shortStamp(const QDateTime& date) const;
     /// "May 1, 2024 · 12:34 PM · 63s". Fails: as wholeNumber, for the duration.
@@ -62,7 +64,6 @@ public:
 private:
     struct Icu;
 
-    QString decimals(double value, int digits) const;
     QString groupedInteger(std::int64_t value) const;
 
     std::optional<QTimeZone> m_zone;
@@ -78,6 +79,7 @@ inline QString mbValue(double bytesPerSecond) { return Formatter::user().mbValue
 inline QString compact(double value) { return Formatter::user().compact(value); }
 inline QString rate(double bytesPerSecond) { return Formatter::user().rate(bytesPerSecond); }
 inline QString grouped(double value) { return Formatter::user().grouped(value); }
+inline QString decimals(double value, int digits) { return Formatter::user().decimals(value, digits); }
 inline QString shortStamp(const QDateTime& date) { return Formatter::user().shortStamp(date); }
 inline QString runStamp(const QDateTime& date, double durationSeconds) {
     return Formatter::user().runStamp(date, durationSeconds);

@@ -1,14 +1,195 @@
 #include "TarnwickKit/model/format/RemarkText.h"
 
+#include "OndelCore/platform/process/SystemCalls.h"
+#include "TarnwickKit/model/format/Format.h"
+
+#include <QStringView>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
 namespace TarnwickKit::model {
 
 using namespace Qt::StringLiterals;
+using OndelCore::benchmark::BenchmarkTest;
 using OndelCore::benchmark::Remark;
+using OndelCore::benchmark::RemarkCode;
 using OndelCore::benchmark::RemarkWeight;
 
-QString remarkSentence(const Remark& remark) { return QString::fromUtf8(rawValue(remark.code)); }
+namespace {
 
-QString remarkAdvice(const Remark&) { return {}; }
+/// A remark with numbers that can be spelled: their count fits, and none is negative or beyond what is real.
+class Spelled {
+public:
+    explicit Spelled(const Remark& remark)
+        : m_remark(remark) {}
+
+    static bool isPossible(const Remark& remark) {
+        constexpr double most = 1e18;
+        return remark.numbers.size() == numbersOf(remark.code) &&
+               std::ranges::all_of(remark.numbers, [](double value) { return value >= 0 && value <= most; });
+    }
+
+    double number(std::size_t index) const { return m_remark.numbers[index]; }
+    bool isWrite() const {
+        return m_remark.test == BenchmarkTest::sequentialWrite || m_remark.test == BenchmarkTest::randomWrite;
+    }
+    bool hasTest() const { return m_remark.test.has_value(); }
+
+    QString size(std::size_t index) const { return Format::bytes(wholeNumber(number(index))); }
+    QString block(std::size_t index) const { return Format::block(wholeNumber(number(index))); }
+    QString rate(std::size_t index) const { return Format::rate(number(index)); }
+    QString count(std::size_t index) const { return Format::grouped(number(index)); }
+    /// Rounded down, so that what is below 90 % never reads as that.
+    QString percent(std::size_t index) const { return Format::grouped(number(index) * 100 + 1e-9) + u" %"_s; }
+    QString celsius(std::size_t index) const { return Format::grouped(std::round(number(index))) + u" °C"_s; }
+    QString seconds(std::size_t index) const { return Format::decimals(number(index), 1) + u" s"_s; }
+    /// Of a link: "480 Mbit/s", "5.0 Gbit/s".
+    QString bitRate(std::size_t index) const {
+        const double bits = number(index);
+        return bits >= 1e9 ? Format::decimals(bits / 1e9, 1) + u" Gbit/s"_s
+                           : Format::decimals(bits / 1e6, 0) + u" Mbit/s"_s;
+    }
+
+private:
+    const Remark& m_remark;
+};
+
+QString fromMemory(const Spelled& remark) {
+    if (!remark.hasTest() || remark.number(0) > 1)
+        return {};
+    return remark.isWrite()
+               ? u"%1 of what was written reached the disk during the test."_s.arg(remark.percent(0))
+               : u"%1 of what was read came from the disk."_s.arg(remark.percent(0));
+}
+
+QString flushFailed(const Spelled& remark) {
+    constexpr double last = 4095; // the kernel has no errno above
+    const double error = remark.number(0);
+    if (error < 1 || error > last || error != std::round(error))
+        return {};
+    const QString text = QString::fromStdString(OndelCore::platform::errorText(static_cast<int>(error)));
+    return remark.hasTest() ? u"What was written could not all be flushed to the disk: %1."_s.arg(text)
+                            : u"The test file could not be flushed to the disk: %1."_s.arg(text);
+}
+
+QString speedFell(const Spelled& remark) {
+    return u"%1 for the first %2, then %3."_s.arg(remark.rate(0), remark.size(2), remark.rate(1));
+}
+
+QString gotHot(const Spelled& remark) {
+    if (remark.number(3) > 1)
+        return {};
+    return u"The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower."_s.arg(
+        remark.celsius(0), remark.seconds(1), remark.celsius(2), remark.percent(3));
+}
+
+QString stalls(const Spelled& remark) {
+    return remark.number(0) == 1
+               ? u"One pause over 1 s: %1."_s.arg(remark.seconds(1))
+               : u"%1 pauses over 1 s, the longest %2."_s.arg(remark.count(0), remark.seconds(1));
+}
+
+QString otherTraffic(const Spelled& remark) {
+    return u"Others moved %1 on the same disk during the test."_s.arg(remark.size(0));
+}
+
+QString slowLink(const Spelled& remark) {
+    constexpr std::array kinds{"PCIe"_L1, "SATA"_L1, "USB"_L1}; // in the order of DriveLink::Kind
+    const double kind = remark.number(2);
+    if (kind != std::floor(kind) || kind >= static_cast<double>(kinds.size()))
+        return {};
+    return u"The drive's %1 link runs at %2; the drive could do %3."_s.arg(
+        kinds.at(static_cast<std::size_t>(kind)), remark.bitRate(0), remark.bitRate(1));
+}
+
+QString misaligned(const Spelled& remark) {
+    return u"The partition begins %1 into a physical block of %2."_s.arg(remark.block(0), remark.block(1));
+}
+
+QString nearlyFull(const Spelled& remark) {
+    return remark.number(0) > 1 ? QString() : u"Only %1 of the volume was free."_s.arg(remark.percent(0));
+}
+
+QString smallTest(const Spelled& remark) {
+    return u"The test's %1 may fit into a cache of %2."_s.arg(remark.size(0), remark.size(1));
+}
+
+QString powerSaving(const Spelled& remark) {
+    if (remark.number(0) == 1)
+        return u"The machine ran on battery."_s;
+    if (remark.number(0) == 2)
+        return u"The processor was set to save power."_s;
+    return remark.number(0) == 3 ? u"The machine ran on battery, its processor set to save power."_s
+                                 : QString();
+}
+
+QString copiesOnWrite(const Spelled& remark) {
+    return remark.number(0) == 1 ? u"The file system writes changes to new places and checksums data."_s
+                                 : u"The file system writes changes to new places."_s;
+}
+
+using Sentence = QString (*)(const Spelled&);
+
+/// A code in words. Without `sentence`, `text` is one whole.
+struct Words {
+    RemarkCode code;
+    Sentence sentence;
+    QStringView text;
+    QStringView advice; ///< empty: there is nothing to do
+};
+
+constexpr std::array words{
+    Words{RemarkCode::fromMemory, fromMemory, u"",
+          u"Switch on Bypass cache. Where it is on, choose a size larger than the machine's memory."},
+    Words{RemarkCode::flushFailed, flushFailed, u"",
+          u"Look at the drive's S.M.A.R.T. status and the system's log before you trust it with data."},
+    Words{RemarkCode::cachedBelow, nullptr,
+          u"Data went through a cache although the system was asked to bypass it.",
+          u"Choose a size larger than the machine's memory, or test the disk below through another file "
+          u"system."},
+    Words{RemarkCode::speedFell, speedFell, u"",
+          u"Expect the lower rate where more than that is moved at once."},
+    Words{RemarkCode::gotHot, gotHot, u"",
+          u"Give the drive more air or a heat sink, and run again once it is cool."},
+    Words{RemarkCode::stalls, stalls, u"",
+          u"Run again. If they come back, look at the drive's S.M.A.R.T. status and its cable."},
+    Words{RemarkCode::otherTraffic, otherTraffic, u"", u"Run again while nothing else uses the disk."},
+    Words{RemarkCode::slowLink, slowLink, u"", u"Try another port, slot or cable."},
+    Words{RemarkCode::misaligned, misaligned, u"",
+          u"Make the partition anew, beginning at a multiple of 1 MiB. That erases it."},
+    Words{RemarkCode::nearlyFull, nearlyFull, u"",
+          u"Free some space: many drives and file systems slow down when full."},
+    Words{RemarkCode::smallTest, smallTest, u"", u"Choose a larger size, and switch on Bypass cache."},
+    Words{RemarkCode::powerSaving, powerSaving, u"", u"Run again on mains power, with power saving off."},
+    Words{RemarkCode::notObservable, nullptr,
+          u"The disk behind this volume cannot be seen, so nothing shows what it did itself.", u""},
+    Words{RemarkCode::inMemory, nullptr, u"This volume keeps its files in memory; no disk was measured.",
+          u"Choose a folder on a disk."},
+    Words{RemarkCode::fileOnDisk, nullptr, u"This volume is a file on another disk.",
+          u"To measure that disk itself, choose a folder on it."},
+    Words{RemarkCode::virtualDisk, nullptr, u"The disk is one of a virtual machine, whose host may cache it.",
+          u""},
+    Words{RemarkCode::compresses, nullptr,
+          u"The file system compresses. The test's data does not, so other files may be faster.", u""},
+    Words{RemarkCode::copiesOnWrite, copiesOnWrite, u"", u""},
+    Words{RemarkCode::journalsData, nullptr, u"The file system writes data twice, to its journal first.",
+          u""},
+};
+
+const Words& wordsOf(RemarkCode code) { return *std::ranges::find(words, code, &Words::code); }
+
+} // namespace
+
+QString remarkSentence(const Remark& remark) {
+    if (!Spelled::isPossible(remark))
+        return {};
+    const Words& found = wordsOf(remark.code);
+    return found.sentence != nullptr ? found.sentence(Spelled(remark)) : found.text.toString();
+}
+
+QString remarkAdvice(const Remark& remark) { return wordsOf(remark.code).advice.toString(); }
 
 QString remarkWeightWord(RemarkWeight weight) {
     switch (weight) {
