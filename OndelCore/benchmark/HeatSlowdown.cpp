@@ -8,7 +8,7 @@ namespace OndelCore::benchmark {
 namespace {
 
 constexpr double coolest = 40;           // degrees Celsius; a lower limit is a sensor's nonsense
-constexpr double hottest = 125;          // a higher one as well
+constexpr double hottest = 125;          // of a reading
 constexpr double margin = 5;             // below the limit, where drives begin to slow down
 constexpr double leastSecondsBeside = 3; // before and after that moment
 constexpr double recentSeconds = 10;
@@ -47,7 +47,7 @@ std::optional<double> fallAfter(double moment, const RateCurve& curve) {
 std::optional<HeatSlowdown> heatSlowdown(const platform::Circumstances& circumstances,
                                          const TestEvidence& evidence, const RateCurve& curve) {
     const auto limit = circumstances.maxCelsius ? circumstances.maxCelsius : circumstances.criticalCelsius;
-    if (!limit || !(*limit >= coolest && *limit < hottest))
+    if (!limit || !(*limit >= coolest))
         return std::nullopt;
     const std::vector<Reading> readings = readingsDuring(circumstances, evidence);
     const auto isHot = [&](const Reading& reading) { return reading.celsius >= *limit - margin; };

@@ -12,7 +12,6 @@ constexpr double leastSecondsBefore = 1;
 constexpr double leastSecondsAfter = 3;
 constexpr double leastShareAfter = 0.2; // of the time: a shorter end may be a dip that goes by
 constexpr double mostOfBefore = 0.7;
-constexpr double mostStrays = 0.1; // share of a level's time on the other level's side
 constexpr double mostSpread = 0.3; // of the fall; within a level. Wandering rates have more
 constexpr double mostTrend = 0.5;  // of the fall; within a level. A ramp's halves have all of it
 
@@ -63,14 +62,6 @@ std::size_t RateCurve::firstFrom(double time) const {
     return interval;
 }
 
-double RateCurve::shareBelow(double limit, std::size_t first, std::size_t end) const {
-    double below = 0;
-    for (std::size_t interval = first; interval < end; ++interval)
-        if (rate(interval, interval + 1) < limit)
-            below += duration(interval, interval + 1);
-    return below / duration(first, end);
-}
-
 double RateCurve::spread(std::size_t first, std::size_t end) const {
     const double middle = rate(first, end);
     double squares = 0;
@@ -97,16 +88,13 @@ std::optional<SpeedFall> speedFall(const RateCurve& curve) {
     if (cut == 0)
         return std::nullopt;
     const SpeedFall fall{curve.rate(0, cut), curve.rate(cut, all), curve.bytes(0, cut)};
-    const double middle = (fall.before + fall.after) / 2;
     const double depth = fall.before - fall.after;
     const bool isDeep = fall.before > 0 && fall.after <= mostOfBefore * fall.before;
-    const bool hasTwoLevels = curve.shareBelow(middle, 0, cut) <= mostStrays &&
-                              1 - curve.shareBelow(middle, cut, all) <= mostStrays;
     const bool isCalm =
         curve.spread(0, cut) <= mostSpread * depth && curve.spread(cut, all) <= mostSpread * depth;
     const bool isLevel = std::abs(curve.trend(0, cut)) <= mostTrend * depth &&
                          std::abs(curve.trend(cut, all)) <= mostTrend * depth;
-    return isDeep && hasTwoLevels && isCalm && isLevel ? std::optional(fall) : std::nullopt;
+    return isDeep && isCalm && isLevel ? std::optional(fall) : std::nullopt;
 }
 
 } // namespace OndelCore::benchmark

@@ -26,8 +26,6 @@ public:
     double duration(std::size_t first, std::size_t end) const { return endOf(end - 1) - beginOf(first); }
     double bytes(std::size_t first, std::size_t end) const { return m_bytes[end] - m_bytes[first]; }
     double rate(std::size_t first, std::size_t end) const { return bytes(first, end) / duration(first, end); }
-    /// The share of their time in which the rate was below `limit`.
-    double shareBelow(double limit, std::size_t first, std::size_t end) const;
     /// The standard deviation of the rate.
     double spread(std::size_t first, std::size_t end) const;
     /// How much the straight line that fits them best rises from their begin to their end; negative: falls.

@@ -140,7 +140,7 @@ Numbers misaligned(const ObservedRun& run) {
 Numbers freeWithin(const ObservedRun& run, double from, double to) {
     const auto& capacity = run.circumstances.capacityBytes;
     const auto& free = run.circumstances.freeBytes;
-    if (!capacity || !free || !run.reaches(FileSystemReach::device) || *free < 0 || *free >= *capacity)
+    if (!capacity || !free || !run.reaches(FileSystemReach::device) || *free >= *capacity)
         return std::nullopt;
     const double share = number(*free) / number(*capacity);
     return when(share >= from && share < to, {share});

@@ -270,7 +270,7 @@ TEST(Remarks, WhoCaches) {
 
 TEST(Remarks, WhatHappenedMeanwhile) {
     const auto fading = [](double t) { return t < 9 ? 1e9 : 6e8 * std::exp((9 - t) / 4); };
-    const auto falling = [](double t) { return t < 3 ? 1e9 : 5e8; };
+    const auto falling = [](double t) { return t < 8 ? 1e9 : 5e8; };
     const auto steady = [](double) { return 1e9; };
     const auto heat = [](double from, double limit, const std::function<double(double)>& rate) {
         return [=](JudgedRun& run) {
@@ -336,7 +336,7 @@ TEST(Remarks, WhatHappenedMeanwhile) {
          },
          ""},
         {"hot long after it became slower", heat(17, 75, falling),
-         "speedFell caution sequentialWrite 1e+09 5e+08 3e+09"},
+         "speedFell caution sequentialWrite 1e+09 5e+08 8e+09"},
         {"hot and as fast as before", heat(10, 75, steady), ""},
         {"the limit is a sensor's nonsense", heat(10, 65261, fading), ""},
     });
