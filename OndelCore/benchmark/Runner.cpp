@@ -184,7 +184,7 @@ BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan
     const WorkingFolder working(parent.get(), *owner);
     try {
         DataFilePlace dataFile(working.descriptor());
-        const auto watch = system.watchCircumstances(parent.get());
+        const auto watch = plan.tests.empty() ? nullptr : system.watchCircumstances(parent.get());
         const ProgressListener withTemperature = [&](BenchmarkProgress now) {
             now.celsius = watch->celsius();
             progress(now);

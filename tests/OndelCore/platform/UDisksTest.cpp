@@ -1,6 +1,8 @@
 #include "OndelCore/platform/FakeDrives.h"
 #include "OndelCore/platform/FakeUDisks.h"
 #include "OndelCore/platform/drives/SmartBlocks.h"
+#include "OndelCore/platform/drives/linux/DriveReaders.h"
+#include "OndelCore/platform/drives/linux/DriveSensors.h"
 
 #include <QDBusServiceWatcher>
 #include <QDateTime>
@@ -48,9 +50,14 @@ protected:
         m_drives.drives["sda"].openError = EACCES;
     }
 
-    SmartAnswer ask(UDisksScript script) {
+    SmartSources sourcesHere() {
         SmartSources sources = sourcesOf(m_machine, m_drives);
         sources.serviceBus = m_bus.address();
+        return sources;
+    }
+
+    SmartAnswer ask(UDisksScript script) {
+        SmartSources sources = sourcesHere();
         sources.serviceLimit = std::chrono::milliseconds(script.isMute ? 50 : 5000);
         const FakeUDisks service(m_bus.address(), std::move(script));
         SmartAnswer answer = answerOf("sda", sources);
@@ -91,6 +98,55 @@ TEST_F(UDisks, ConvertsAtaFiguresToRawValues) {
     EXPECT_EQ(answer.source, "UDisks2 for sda");
     const SmartAnswer withoutTable = ask(scriptOf(ata, ataProperties(), u"no table"_s));
     EXPECT_TRUE(std::holds_alternative<AtaSmartReport>(withoutTable.blocks)) << withoutTable.source;
+}
+
+TEST_F(UDisks, TellsATemperatureOnlyIfItIsFresh) {
+    const auto withTemperature = [](QVariantMap properties, const QVariant& kelvin) {
+        properties[u"SmartTemperature"_s] = kelvin;
+        return properties;
+    };
+    QVariantMap old = ataProperties();
+    old[u"SmartUpdated"_s] = static_cast<qulonglong>(QDateTime::currentSecsSinceEpoch() - 605);
+    const struct {
+        QString interface;
+        QVariantMap properties;
+        std::optional<double> celsius;
+    } cases[] = {
+        {ata, ataProperties(), 310.6 - 273.15},
+        {nvme, nvmeProperties(), 311 - 273.15},
+        {ata, old, {}},
+        {ata, withTemperature(ataProperties(), 0.0), {}}, // the service does not know
+        {ata, withTemperature(ataProperties(), u"310"_s), {}},
+        {ata, withTemperature(ataProperties(), {}), {}},
+        {u"another"_s, ataProperties(), {}},
+    };
+    for (const auto& [interface, properties, celsius] : cases) {
+        SmartSources sources = sourcesHere();
+        UDisksScript script = scriptOf(interface, properties, {});
+        script.refusesUpdate = true;
+        const FakeUDisks service(sources.serviceBus, std::move(script));
+        EXPECT_EQ(celsiusFromUDisks(*blockDevice(disk, sources.system.sysfs), sources), celsius);
+        EXPECT_EQ(service.carelessCalls(), 0);
+    }
+}
+
+TEST_F(UDisks, IsAskedForATemperatureOnAnotherThreadWhereTheKernelShowsNone) {
+    for (const bool isMute : {false, true}) {
+        SmartSources sources = sourcesHere();
+        sources.serviceLimit = std::chrono::milliseconds(isMute ? 50 : 5000);
+        UDisksScript script = scriptOf(ata, ataProperties(), {});
+        script.isMute = isMute;
+        const FakeUDisks service(sources.serviceBus, std::move(script));
+        const BlockDevice place{.number = disk, .name = "sda", .folder = "/ata1/host0/block/sda"};
+        DriveSensors sensors({place}, sources);
+        const auto start = DriveSensors::Clock::now();
+        EXPECT_FALSE(sensors.hottest(start));
+        while (!isMute && !sensors.hottest(start))
+            QThread::msleep(1);
+        QThread::msleep(isMute ? 200 : 0);
+        EXPECT_EQ(sensors.hottest(start).has_value(), !isMute);
+        EXPECT_FALSE(sensors.limits().max);
+    }
 }
 
 TEST_F(UDisks, ReportsTheLastFiguresOfASleepingDrive) {

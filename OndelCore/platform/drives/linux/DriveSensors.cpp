@@ -4,10 +4,15 @@
 #include "OndelCore/platform/drives/linux/DriveReaders.h"
 #include "OndelCore/platform/process/DetachedThread.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <atomic>
 #include <cmath>
+#include <condition_variable>
 #include <limits>
+#include <mutex>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -20,6 +25,7 @@ using namespace std::chrono_literals;
 // A SATA disk finishes what it has queued before it tells its temperature; an NVMe drive does not.
 constexpr std::chrono::seconds sataInterval = 5s;
 constexpr std::chrono::seconds serviceInterval = 10s;
+constexpr std::chrono::milliseconds serviceLimit = 2s;
 
 constexpr double coldest = -20;
 constexpr double hottestOfAll = 150;
@@ -65,6 +71,45 @@ bool mayBeKnownToService(const BlockDevice& disk) {
     return (bus == "NVMe" || bus == "SATA") && !isOfVirtualMachine(disk);
 }
 
+/// Counts the questions to the service that are under way on threads of their own. The bus's library does not
+/// outlive the process's static objects, so the end of the application waits for the last answer.
+class OpenQuestions {
+public:
+    /// Never destroyed: the last thread may still leave it.
+    static OpenQuestions& ofProcess() {
+        static auto* const questions = new OpenQuestions;
+        return *questions;
+    }
+
+    /// Fails: false if there is no application whose end could wait.
+    bool begin() {
+        if (!QCoreApplication::instance() || QCoreApplication::closingDown())
+            return false;
+        const std::scoped_lock guard(m_lock);
+        if (!std::exchange(m_isAwaited, true))
+            qAddPostRoutine([] { ofProcess().awaitNone(); });
+        ++m_count;
+        return true;
+    }
+    void end() {
+        const std::scoped_lock guard(m_lock);
+        --m_count;
+        m_ended.notify_all();
+    }
+
+private:
+    void awaitNone() {
+        std::unique_lock guard(m_lock);
+        m_ended.wait(guard, [this] { return m_count == 0; });
+        m_isAwaited = false;
+    }
+
+    std::mutex m_lock;
+    std::condition_variable m_ended;
+    int m_count = 0;
+    bool m_isAwaited = false;
+};
+
 void raise(std::optional<double>& most, const std::optional<double>& value) {
     if (value)
         most = std::max(most.value_or(*value), *value);
@@ -80,7 +125,7 @@ struct DriveSensors::Sensor {
     std::optional<double> last{};
 };
 
-/// What one disk's service says. Shared with the thread that asks.
+/// What the service says of the disks without a sensor. Shared with the thread that asks.
 struct DriveSensors::Service {
     static constexpr double nothing = std::numeric_limits<double>::quiet_NaN();
 
@@ -90,25 +135,36 @@ struct DriveSensors::Service {
     std::atomic<bool> isBusy = false;
     std::atomic<bool> isUseless = false; ///< it did not know one of them: it is not asked again
 
-    static void ask(const std::shared_ptr<Service>& service, const SmartSources& sources) {
+    void ask(const SmartSources& sources) {
+        std::optional<double> most;
+        for (const BlockDevice& disk : disks)
+            raise(most, isSuspended(disk) ? std::nullopt : celsiusFromUDisks(disk, sources));
+        const bool isSane = most && *most >= coldest && *most <= hottestOfAll;
+        last = isSane ? *most : nothing;
+        isUseless = !most;
+        isBusy = false;
+    }
+
+    static void askElsewhere(const std::shared_ptr<Service>& service, const SmartSources& sources) {
+        service->isUseless = !OpenQuestions::ofProcess().begin();
+        if (service->isUseless)
+            return;
         service->isBusy = true;
         const bool hasThread = runDetached([service, sources] {
-            std::optional<double> most;
-            for (const BlockDevice& disk : service->disks)
-                raise(most, isSuspended(disk) ? std::nullopt : celsiusFromUDisks(disk, sources));
-            const bool isSane = most && *most >= coldest && *most <= hottestOfAll;
-            service->last = isSane ? *most : nothing;
-            service->isUseless = !most;
-            service->isBusy = false;
+            service->ask(sources);
+            OpenQuestions::ofProcess().end();
         });
-        if (!hasThread)
+        if (!hasThread) {
             service->isUseless = true;
+            OpenQuestions::ofProcess().end();
+        }
     }
 };
 
 DriveSensors::DriveSensors(const std::vector<BlockDevice>& wholeDisks, SmartSources sources)
     : m_service(std::make_shared<Service>())
     , m_sources(std::move(sources)) {
+    m_sources.serviceLimit = std::min(m_sources.serviceLimit, serviceLimit);
     for (const BlockDevice& disk : wholeDisks)
         if (auto folder = sensorOf(disk))
             m_sensors.push_back({.disk = disk,
@@ -134,7 +190,7 @@ std::optional<double> DriveSensors::hottest(Clock::time_point now) {
         return most;
     if (now >= m_service->next && !m_service->isBusy) {
         m_service->next = now + serviceInterval;
-        Service::ask(m_service, m_sources);
+        Service::askElsewhere(m_service, m_sources);
     }
     if (const double last = m_service->last; !std::isnan(last))
         raise(most, last);

@@ -103,10 +103,11 @@ std::optional<double> celsiusFromUDisks(const BlockDevice& disk, const SmartSour
             continue;
         const QVariantMap properties = updated(bus, *drive, interface).value_or(QVariantMap());
         const auto readAt = wholeNumber(properties.value(QStringLiteral("SmartUpdated")));
-        const double kelvin = properties.value(QStringLiteral("SmartTemperature")).toDouble();
+        const QVariant kelvin = properties.value(QStringLiteral("SmartTemperature"));
+        const bool isNumber = kelvin.userType() == QMetaType::Double || wholeNumber(kelvin);
         constexpr double freezing = 273.15;
-        if (readAt && *readAt > 0 && ageOf(*readAt).empty() && kelvin > 0)
-            return kelvin - freezing;
+        if (readAt && *readAt > 0 && ageOf(*readAt).empty() && isNumber && kelvin.toDouble() > 0)
+            return kelvin.toDouble() - freezing;
     }
     return std::nullopt;
 }
