@@ -109,7 +109,7 @@ TEST(MachineState, IsAbsentWhereProcTellsNonsense) {
     EXPECT_EQ(all(), none);
     const std::string long5000(5000, '9');
     for (const std::string& bad :
-         {std::string(), long5000, std::string("MemTotal: -5 kB"),
+         {std::string(), long5000, std::string("MemTotal: -5 kB"), std::string("MemTotal: 5 MB"),
           std::string("MemTotal: 99999999999999999999 kB"), std::string("MemTotal: 9223372036854775807 kB\n"),
           std::string("some avg10=0.00 total=\n"), std::string("full total=5\n"),
           std::string("some total=-1\n")}) {
@@ -222,13 +222,11 @@ struct CircumstanceWatchTest : testing::Test {
 TEST_F(CircumstanceWatchTest, TellsHeatAndPressureUntilItEnds) {
     const auto watch = this->watch(std::chrono::milliseconds(5));
     awaitThat([&] { return watch->celsius() == 41.85; });
+    writeTo(temperature(), "42850\n");
+    awaitThat([&] { return watch->celsius() == 42.85; }); // the first look is complete
     writeTo(proc() / "pressure/io", "some avg10=0.00 avg60=0.00 avg300=0.00 total=999999999\n");
     writeTo(temperature(), "70850\n");
     awaitThat([&] { return watch->celsius() == 70.85; });
-    writeTo(temperature(), "65261850\n"); // what a sensor says that is not there
-    awaitThat([&] { return !watch->celsius(); });
-    writeTo(temperature(), "50850\n");
-    awaitThat([&] { return watch->celsius() == 50.85; });
     fs::remove_all(machine.folder() / "sys/devices/pci0000:00"); // pulled out
     awaitThat([&] { return !watch->celsius(); });
 
@@ -239,7 +237,7 @@ TEST_F(CircumstanceWatchTest, TellsHeatAndPressureUntilItEnds) {
     EXPECT_GT(found.capacityBytes.value_or(0), 0);
     EXPECT_EQ(found.maxCelsius, 81.85);
     EXPECT_FALSE(found.criticalCelsius);
-    ASSERT_GE(found.samples.size(), 5U);
+    ASSERT_GE(found.samples.size(), 3U);
     EXPECT_EQ(found.samples.front().celsius, 41.85);
     EXPECT_FALSE(found.samples.front().ioPressure);
     EXPECT_TRUE(std::ranges::is_sorted(found.samples, {}, &CircumstanceSample::elapsed));
