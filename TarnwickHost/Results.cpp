@@ -1,11 +1,16 @@
 #include "TarnwickHost/Results.h"
 
+#include "TarnwickHost/Facts.h"
+#include "TarnwickHost/Remarks.h"
 #include "TarnwickHost/Terminal.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QJsonArray>
 
+#include <optional>
+#include <system_error>
 #include <vector>
 
 using namespace OndelCore::benchmark;
@@ -14,6 +19,9 @@ using namespace TarnwickKit::model;
 namespace TarnwickHost {
 
 namespace {
+
+/// The columns of the table that hold a test's title and figures.
+constexpr std::size_t figureColumns = 5;
 
 QString countRate(double perSecond, const char* unit) { return Format::compact(perSecond) + ' ' + unit; }
 
@@ -24,12 +32,27 @@ TextRow row(const QString& title, const ThroughputResult& result) {
 }
 
 TextRow row(const QString& title, const IOPSResult& result) {
-    return {title, countRate(result.iops(), "IOPS"), Format::rate(result.bytesPerSecond())};
+    TextRow figures{title, countRate(result.iops(), "IOPS"), Format::rate(result.bytesPerSecond())};
+    if (const auto& latency = result.latency)
+        figures.insert(figures.end(), {Format::latency(latency->p99), Format::latency(latency->worst)});
+    return figures;
 }
+
+bool hasLatency(const std::optional<IOPSResult>& result) { return result && result->latency; }
 
 TextRow row(const QString& title, const FileOpsResult& result) {
     const auto rate = [](const FileOpResult& phase) { return countRate(phase.opsPerSecond(), "ops/s"); };
     return {title, rate(result.create), rate(result.stat), rate(result.rename), rate(result.remove)};
+}
+
+/// The drive's names below the table; empty without.
+QString driveLine(const DriveIdentity& drive, int columns) {
+    QStringList names;
+    for (const auto& name : {drive.model, drive.protocolName})
+        if (const auto visible = visibleText(name))
+            names << *visible;
+    const QString line = labelled("Drive  ", names, " · ", columns);
+    return line.isEmpty() ? line : '\n' + line;
 }
 
 QJsonObject sizeJson(const BenchmarkSize& size) {
@@ -53,32 +76,55 @@ QJsonObject planJson(const BenchmarkPlan& plan) {
             {"sampleInterval", plan.sampleInterval}};
 }
 
+/// For a flush that failed: what the system answered.
+void addError(QJsonObject& object, const char* key, const std::optional<std::error_code>& error) {
+    if (error)
+        object.insert(QLatin1String(key), QJsonObject{{"errno", error->value()},
+                                                      {"text", QString::fromStdString(error->message())}});
+}
+
+/// As under "evidence".
+void addLatency(QJsonObject& object, const std::optional<Latency>& latency) {
+    if (!latency)
+        return;
+    const QJsonObject evidence = evidenceJson({.statLatency = latency});
+    if (evidence.contains("statLatency"))
+        object.insert("latency", evidence["statLatency"]);
+}
+
 QJsonObject json(const ThroughputResult& result) {
     QJsonArray samples;
     for (const ThroughputSample& sample : result.samples)
         samples.append(QJsonObject{{"elapsed", sample.elapsed}, {"bytesPerSecond", sample.bytesPerSecond}});
-    return {{"bytesProcessed", qint64{result.bytesProcessed}},
-            {"duration", result.duration},
-            {"blockSize", qint64{result.blockSize}},
-            {"samples", samples},
-            {"bytesPerSecond", result.bytesPerSecond()},
-            {"peakBytesPerSecond", result.peakBytesPerSecond()},
-            {"sustainedBytesPerSecond", result.sustainedBytesPerSecond()},
-            {"observedCacheCliff", result.observedCacheCliff()}};
+    QJsonObject object{{"bytesProcessed", qint64{result.bytesProcessed}},
+                       {"duration", result.duration},
+                       {"blockSize", qint64{result.blockSize}},
+                       {"samples", samples},
+                       {"bytesPerSecond", result.bytesPerSecond()},
+                       {"peakBytesPerSecond", result.peakBytesPerSecond()},
+                       {"sustainedBytesPerSecond", result.sustainedBytesPerSecond()},
+                       {"observedCacheCliff", result.observedCacheCliff()}};
+    addError(object, "flushError", result.flushError);
+    return object;
 }
 
 QJsonObject json(const IOPSResult& result) {
-    return {{"operations", qint64{result.operations}},
-            {"duration", result.duration},
-            {"blockSize", qint64{result.blockSize}},
-            {"iops", result.iops()},
-            {"bytesPerSecond", result.bytesPerSecond()}};
+    QJsonObject object{{"operations", qint64{result.operations}},
+                       {"duration", result.duration},
+                       {"blockSize", qint64{result.blockSize}},
+                       {"iops", result.iops()},
+                       {"bytesPerSecond", result.bytesPerSecond()}};
+    addLatency(object, result.latency);
+    addError(object, "flushError", result.flushError);
+    return object;
 }
 
 QJsonObject json(const FileOpResult& result) {
-    return {{"operations", qint64{result.operations}},
-            {"duration", result.duration},
-            {"opsPerSecond", result.opsPerSecond()}};
+    QJsonObject object{{"operations", qint64{result.operations}},
+                       {"duration", result.duration},
+                       {"opsPerSecond", result.opsPerSecond()}};
+    addLatency(object, result.latency);
+    return object;
 }
 
 QJsonObject json(const FileOpsResult& result) {
@@ -100,36 +146,50 @@ QJsonObject json(const OndelCore::platform::TriedAbilities& tried) {
 
 } // namespace
 
-QString resultTable(const BenchmarkPlan& plan, const BenchmarkResult& result) {
-    const std::int64_t randomBlock = BenchmarkPlan::alignedBlock(plan.randomBlockSize);
-    const auto titleOf = [&](BenchmarkTest test) { return title(test, randomBlock); };
+QString resultTable(const MeasuredRun& run, int columns) {
+    const BenchmarkResult& result = run.result;
+    const std::int64_t randomBlock = BenchmarkPlan::alignedBlock(run.plan.randomBlockSize);
     std::vector<TextRow> rows;
     const auto beginBlock = [&](TextRow header) {
         if (!rows.empty())
             rows.emplace_back();
         rows.push_back(std::move(header));
     };
+    const auto add = [&](BenchmarkTest test, const auto& part) {
+        if (!part)
+            return;
+        TextRow figures = row(title(test, randomBlock), *part);
+        if (isInvalid(run.remarks, test)) {
+            figures.resize(figureColumns);
+            figures.push_back(invalidMark());
+        }
+        rows.push_back(figures);
+    };
     if (result.sequentialWrite || result.sequentialRead)
         beginBlock({"", "Sustained", "Peak", "Lowest", "Overall"});
-    if (result.sequentialWrite)
-        rows.push_back(row(titleOf(BenchmarkTest::sequentialWrite), *result.sequentialWrite));
-    if (result.sequentialRead)
-        rows.push_back(row(titleOf(BenchmarkTest::sequentialRead), *result.sequentialRead));
+    add(BenchmarkTest::sequentialWrite, result.sequentialWrite);
+    add(BenchmarkTest::sequentialRead, result.sequentialRead);
     if (result.randomRead || result.randomWrite)
-        beginBlock({"", "Operations", "Rate"});
-    if (result.randomRead)
-        rows.push_back(row(titleOf(BenchmarkTest::randomRead), *result.randomRead));
-    if (result.randomWrite)
-        rows.push_back(row(titleOf(BenchmarkTest::randomWrite), *result.randomWrite));
-    if (result.fileOps) {
+        beginBlock(hasLatency(result.randomRead) || hasLatency(result.randomWrite)
+                       ? TextRow{"", "Operations", "Rate", "p99", "Worst"}
+                       : TextRow{"", "Operations", "Rate"});
+    add(BenchmarkTest::randomRead, result.randomRead);
+    add(BenchmarkTest::randomWrite, result.randomWrite);
+    if (result.fileOps)
         beginBlock({"", "Create", "Stat", "Rename", "Delete"});
-        rows.push_back(row(titleOf(BenchmarkTest::fileOps), *result.fileOps));
-    }
-    return textColumns(rows, CellsStand::right);
+    add(BenchmarkTest::fileOps, result.fileOps);
+    if (rows.empty())
+        return {};
+    return textColumns(rows, CellsStand::right) + driveLine(run.drive, columns) +
+           remarkList(run.remarks, randomBlock, columns);
 }
 
-QJsonObject resultJson(const BenchmarkPlan& plan, const BenchmarkResult& result) {
-    QJsonObject object{{"plan", planJson(plan)}, {"capabilities", json(result.tried)}};
+QJsonObject resultJson(const MeasuredRun& run) {
+    const BenchmarkResult& result = run.result;
+    QJsonObject object{{"plan", planJson(run.plan)},
+                       {"capabilities", json(result.tried)},
+                       {"evidence", evidenceJson(RunEvidence::from(result))},
+                       {"remarks", remarksJson(run.remarks)}};
     const auto add = [&object](BenchmarkTest test, const auto& part) {
         if (part)
             object.insert(name(test), json(*part));
@@ -139,6 +199,9 @@ QJsonObject resultJson(const BenchmarkPlan& plan, const BenchmarkResult& result)
     add(BenchmarkTest::randomRead, result.randomRead);
     add(BenchmarkTest::randomWrite, result.randomWrite);
     add(BenchmarkTest::fileOps, result.fileOps);
+    addError(object, "preparationFlushError", result.preparationFlushError);
+    if (const QJsonObject drive = driveJson(run.drive); !drive.isEmpty())
+        object.insert("drive", drive);
     return object;
 }
 

@@ -2,20 +2,32 @@
 
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/benchmark/Remark.h"
+#include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <QJsonObject>
 #include <QString>
 
+#include <vector>
+
 namespace TarnwickHost {
 
-/// A run as aligned text for a terminal, in the words and units of the window. Empty for an empty result.
-QString resultTable(const OndelCore::benchmark::BenchmarkPlan& plan,
-                    const OndelCore::benchmark::BenchmarkResult& result);
+/// A finished run with what is known about it.
+struct MeasuredRun {
+    OndelCore::benchmark::BenchmarkPlan plan;
+    OndelCore::benchmark::BenchmarkResult result;
+    std::vector<OndelCore::benchmark::Remark> remarks;
+    TarnwickKit::model::DriveIdentity drive;
+};
+
+/// A run as aligned text for a terminal, in the words and units of the window: the figures, the drive, and
+/// the remarks in lines of at most `columns`. Empty for an empty result.
+QString resultTable(const MeasuredRun& run, int columns);
 
 /// A run as one object: the plan under "plan", each test that ran under its own name with every measured
-/// field, its samples and the figures derived from them, and under "capabilities" what the file system did
-/// when it was tried. A test that did not run has no key. Units: as the fields' own.
-QJsonObject resultJson(const OndelCore::benchmark::BenchmarkPlan& plan,
-                       const OndelCore::benchmark::BenchmarkResult& result);
+/// field, its samples and the figures derived from them, under "capabilities" what the file system did when
+/// it was tried, under "drive" its names, and what was observed under "evidence" and "remarks". A test that
+/// did not run has no key, and a flush has one only if it failed. Units: as the fields' own.
+QJsonObject resultJson(const MeasuredRun& run);
 
 } // namespace TarnwickHost

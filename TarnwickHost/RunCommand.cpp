@@ -9,12 +9,15 @@
 #include "TarnwickHost/Results.h"
 #include "TarnwickHost/RunEventLoop.h"
 #include "TarnwickHost/RunOptions.h"
+#include "TarnwickHost/Terminal.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
+
+#include <unistd.h>
 
 #include <chrono>
 #include <filesystem>
@@ -26,6 +29,7 @@
 using namespace OndelCore::benchmark;
 using namespace OndelCore::volumes;
 using TarnwickKit::model::AnalyzerModel;
+using TarnwickKit::model::DriveInfo;
 
 namespace TarnwickHost {
 
@@ -136,8 +140,8 @@ Files written(const RunOptions& options, const HandOff& handOff, const Benchmark
     return files;
 }
 
-std::string json(const RunOptions& options, const BenchmarkResult& result, const Files& files) {
-    QJsonObject object = resultJson(options.plan, result);
+std::string json(const MeasuredRun& run, const Files& files) {
+    QJsonObject object = resultJson(run);
     const auto insert = [&](const char* key, const std::optional<std::filesystem::path>& file) {
         if (file)
             object.insert(QLatin1String(key), QString::fromStdString(file->string()));
@@ -147,8 +151,8 @@ std::string json(const RunOptions& options, const BenchmarkResult& result, const
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + '\n';
 }
 
-std::string text(const RunOptions& options, const BenchmarkResult& result, const Files& files) {
-    std::string lines = resultTable(options.plan, result).toStdString();
+std::string text(const MeasuredRun& run, const Files& files) {
+    std::string lines = resultTable(run, lineStyle(STDOUT_FILENO).columns).toStdString();
     if (files.run || files.card)
         lines += '\n';
     for (const auto& file : {files.run, files.card})
@@ -175,7 +179,9 @@ int executeRun(const CommandLine& line) {
     }
     complainOfFlushes(options, result);
     const Files files = handOff ? written(options, *handOff, result) : Files();
-    print(options.json ? json(options, result, files) : text(options, result, files));
+    const MeasuredRun run{options.plan, result, remarksOn(options.plan, result),
+                          DriveInfo::identity(options.folder)};
+    print(options.json ? json(run, files) : text(run, files));
     const bool isWhole =
         options.handOff == files.run.has_value() && options.card.has_value() == files.card.has_value();
     return isWhole ? done : failed;

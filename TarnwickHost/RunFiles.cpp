@@ -2,6 +2,8 @@
 
 #include "TarnwickHost/CommandLine.h"
 #include "TarnwickHost/Output.h"
+#include "TarnwickHost/Remarks.h"
+#include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/model/runs/Comparison.h"
@@ -20,6 +22,9 @@
 #include <system_error>
 
 using namespace TarnwickKit::model;
+using OndelCore::benchmark::BenchmarkTest;
+using OndelCore::benchmark::Latency;
+using OndelCore::benchmark::Remark;
 
 namespace TarnwickHost {
 
@@ -44,21 +49,6 @@ constexpr int labelColumns = 14;
 const QString separator = " · ";
 const QString parameterSeparator = "  ·  ";
 
-/// `parts` behind a label, on as many lines as they need.
-QString wrapped(const QString& label, const QStringList& parts, const QString& between, int columns) {
-    const int room = columns - static_cast<int>(label.size());
-    QStringList lines;
-    for (const QString& part : parts) {
-        const QString piece = fitted(part, room);
-        if (!lines.isEmpty() && columnsOf(lines.last()) + between.size() + columnsOf(piece) <= room)
-            lines.last() += between + piece;
-        else
-            lines << piece;
-    }
-    const QString indentation(label.size(), ' ');
-    return lines.isEmpty() ? QString() : label + lines.join('\n' + indentation) + '\n';
-}
-
 QString rate(std::optional<double> bytesPerSecond) {
     return bytesPerSecond ? Format::rate(*bytesPerSecond) : "--";
 }
@@ -74,17 +64,24 @@ QStringList sequential(std::optional<double> sustained, std::optional<double> pe
     return {rate(sustained), "peak " + rate(peak), "lowest " + rate(lowest)};
 }
 
-QStringList random(std::optional<double> iops, std::optional<double> bytesPerSecond) {
+QStringList random(std::optional<double> iops, std::optional<double> bytesPerSecond,
+                   const std::optional<Latency>& latency) {
     if (!iops && !bytesPerSecond)
         return {};
-    return {count(iops, "IOPS"), rate(bytesPerSecond)};
+    const QStringList figures{count(iops, "IOPS"), rate(bytesPerSecond)};
+    return latency ? figures + latencyFigures(*latency) : figures;
 }
 
 QString runText(const RunRecord& run, const QString& number, int columns) {
     const auto row = [columns](const char* label, const QStringList& parts,
                                const QString& between = separator) {
-        return wrapped(QString(label).leftJustified(labelColumns), parts, between, columns);
+        return labelled(QString(label).leftJustified(labelColumns), parts, between, columns);
     };
+    const auto test = [&](const char* label, BenchmarkTest of, const QStringList& figures) {
+        return row(label,
+                   figures.isEmpty() || !run.isInvalid(of) ? figures : figures + QStringList(invalidMark()));
+    };
+    const RunEvidence evidence = run.evidence.value_or(RunEvidence());
     QStringList volume;
     for (const QString& part : {run.volumeName, run.connection, run.deviceModel.value_or(QString()),
                                 run.deviceProtocol.value_or(QString())})
@@ -94,14 +91,19 @@ QString runText(const RunRecord& run, const QString& number, int columns) {
     const QStringList parameters =
         ComparisonChart::parameterSummary(run).split(parameterSeparator, Qt::SkipEmptyParts);
     return number + fitted(run.screenshotTitle(), columns - static_cast<int>(number.size())) + '\n' +
-           wrapped({}, stamp, separator, columns) +
-           row("Write", sequential(run.writeBps, run.writePeakBps, run.writeMinBps)) +
-           row("Read", sequential(run.readBps, run.readPeakBps, run.readMinBps)) +
-           row("Random read", random(run.randomReadIOPS, run.randomReadBps)) +
-           row("Random write", random(run.randomWriteIOPS, run.randomWriteBps)) +
-           row("File ops",
-               run.fileOpsPerSec ? QStringList(count(run.fileOpsPerSec, "ops/s")) : QStringList()) +
-           row("Volume", volume) + row("Parameters", parameters, parameterSeparator);
+           labelled({}, stamp, separator, columns) +
+           test("Write", BenchmarkTest::sequentialWrite,
+                sequential(run.writeBps, run.writePeakBps, run.writeMinBps)) +
+           test("Read", BenchmarkTest::sequentialRead,
+                sequential(run.readBps, run.readPeakBps, run.readMinBps)) +
+           test("Random read", BenchmarkTest::randomRead,
+                random(run.randomReadIOPS, run.randomReadBps, evidence.randomReadLatency)) +
+           test("Random write", BenchmarkTest::randomWrite,
+                random(run.randomWriteIOPS, run.randomWriteBps, evidence.randomWriteLatency)) +
+           test("File ops", BenchmarkTest::fileOps,
+                run.fileOpsPerSec ? QStringList(count(run.fileOpsPerSec, "ops/s")) : QStringList()) +
+           row("Volume", volume) + row("Parameters", parameters, parameterSeparator) +
+           remarkList(run.remarks.value_or(std::vector<Remark>()), run.randomBlock.value_or(0), columns);
 }
 
 /// The bar on a track of `cells`, drawn in halves of a cell where the terminal has them.
@@ -136,7 +138,8 @@ QString comparisonText(const CompareMetric& metric, const std::vector<RunRecord>
                              bar(length, cells, style.unicode) + ' ' +
                              lines[index].text.rightJustified(figureColumns) + "  ";
         const int room = std::max(1, style.columns - static_cast<int>(line.size()));
-        text += line + fitted(runs[index].screenshotTitle(), room) + '\n';
+        const QString mark = lines[index].isInvalid ? invalidMark() + separator : QString();
+        text += line + fitted(mark + runs[index].screenshotTitle(), room) + '\n';
     }
     return text;
 }

@@ -42,8 +42,9 @@ constexpr std::array options{
     Option{"--cached", "", "Let the system cache the data file, as ordinary programs do"},
     Option{"--sample-interval", "S", "Least seconds between two samples (default: 0.02)"},
     Option{"--json", "",
-           "Print one JSON object: the plan, every figure, every sample, and under\n"
-           "\"capabilities\" what the file system did when it was tried"},
+           "Print one JSON object: the plan, every figure, every sample, under\n"
+           "\"capabilities\" what the file system did when it was tried, and under\n"
+           "\"evidence\" and \"remarks\" what was observed and what it says"},
     Option{"--handoff", "",
            "Write a run file for the window and for \"show\", and print its path\n"
            "as the last line; with --json: as \"handoffFile\" in the object"},

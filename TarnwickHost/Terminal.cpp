@@ -9,6 +9,7 @@
 #include <string_view>
 
 using TarnwickKit::model::columnsOf;
+using TarnwickKit::model::fitted;
 using TarnwickKit::model::harmless;
 
 namespace TarnwickHost {
@@ -19,6 +20,20 @@ LineStyle lineStyle(int descriptor) {
     return {.columns = (isKnown ? size.ws_col : 80) - 1,
             // NOLINTNEXTLINE(concurrency-mt-unsafe): nobody changes the locale after main's first lines.
             .unicode = std::string_view(nl_langinfo(CODESET)) == "UTF-8"};
+}
+
+QString labelled(const QString& label, const QStringList& parts, const QString& between, int columns) {
+    const int room = columns - static_cast<int>(label.size());
+    QStringList lines;
+    for (const QString& part : parts) {
+        const QString piece = fitted(part, room);
+        if (!lines.isEmpty() && columnsOf(lines.last()) + between.size() + columnsOf(piece) <= room)
+            lines.last() += between + piece;
+        else
+            lines << piece;
+    }
+    const QString indentation(label.size(), ' ');
+    return lines.isEmpty() ? QString() : label + lines.join('\n' + indentation) + '\n';
 }
 
 QString textColumns(const std::vector<TextRow>& rows, CellsStand stand) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -15,6 +16,10 @@ struct LineStyle {
 /// That of the terminal behind `descriptor`, or of one with 80 columns where none is. Counts one column less
 /// than it has: a character in the last one would wrap the line in some. Needs LC_CTYPE to be the user's.
 LineStyle lineStyle(int descriptor);
+
+/// `parts` behind a label, on as many lines of at most `columns` as they need. Parts that are too long for a
+/// line are cut. Empty without parts.
+QString labelled(const QString& label, const QStringList& parts, const QString& between, int columns);
 
 using TextRow = std::vector<QString>;
 

@@ -1,11 +1,17 @@
-#include "TarnwickHost/Results.h"
-
 #include "TarnwickHost/Progress.h"
+#include "TarnwickHost/Remarks.h"
+#include "TarnwickHost/Results.h"
+#include "TarnwickKit/model/format/RemarkText.h"
+
+#include <QJsonArray>
 
 #include <gtest/gtest.h>
 
 using namespace OndelCore::benchmark;
+using TarnwickHost::MeasuredRun;
 using TarnwickHost::progressLine;
+using TarnwickHost::resultJson;
+using TarnwickHost::resultTable;
 
 namespace {
 
@@ -50,12 +56,13 @@ TEST(Results, ShowEachFigureUnderItsTitle) {
     const ThroughputResult write{
         4'000'000'000, 10, 1048576, {{1, 100e6}, {2, 900e6}, {7, 200e6}, {8, 300e6}, {10, 400e6}}, {}};
     const ThroughputResult read{1'000'000'000, 0.5, 1048576, {{0.5, 2e9}}, {}};
-    BenchmarkResult result;
+    MeasuredRun run;
+    BenchmarkResult& result = run.result;
     result.sequentialWrite = write;
     result.sequentialRead = read;
     result.randomRead = IOPSResult{12000, 1, 4096, {}};
     result.fileOps = FileOpsResult{{100, 1}, {100, 0.5}, {100, 2}, {100, 4}};
-    EXPECT_EQ(TarnwickHost::resultTable(BenchmarkPlan(), result).toStdString(),
+    EXPECT_EQ(resultTable(run, 80).toStdString(),
               R"(                      Sustained       Peak    Lowest    Overall
 Sequential write       300 MB/s   900 MB/s  200 MB/s   400 MB/s
 Sequential read       2.00 GB/s  2.00 GB/s        --  2.00 GB/s
@@ -66,14 +73,67 @@ Random read (4 KiB)  12.0k IOPS    49 MB/s
                          Create       Stat    Rename     Delete
 File operations       100 ops/s  200 ops/s  50 ops/s   25 ops/s
 )");
-    EXPECT_EQ(TarnwickHost::resultTable(BenchmarkPlan(), {}), "");
+    EXPECT_EQ(resultTable({}, 80), "");
 
-    const QJsonObject json = TarnwickHost::resultJson(BenchmarkPlan(), result);
+    const QJsonObject json = resultJson(run);
     EXPECT_EQ(json["sequentialWrite"]["sustainedBytesPerSecond"], 300e6);
     EXPECT_EQ(json["sequentialWrite"]["peakBytesPerSecond"], 900e6);
     EXPECT_EQ(json["fileOps"]["stat"]["opsPerSecond"], 200);
     EXPECT_EQ(json["fileOps"]["rename"]["opsPerSecond"], 50);
     EXPECT_EQ(json["fileOps"]["delete"]["opsPerSecond"], 25);
+    EXPECT_EQ(json["remarks"], QJsonArray());
+    EXPECT_FALSE(json.contains("drive"));
+    EXPECT_FALSE(json["fileOps"].toObject()["stat"].toObject().contains("latency"));
+    EXPECT_FALSE(json["sequentialWrite"].toObject().contains("flushError"));
+}
+
+/// The words of a remark are those of the library.
+std::string listed(const Remark& remark) {
+    return TarnwickHost::remarkList({remark}, 4096, 1000).remove("\nAbout these figures\n").toStdString();
+}
+
+TEST(Results, ShowWhatWasObserved) {
+    MeasuredRun run;
+    run.drive = {"ACME Disk\x1b", "NVMe"};
+    run.result.sequentialRead = ThroughputResult{1'000'000'000, 0.5, 1048576, {{0.5, 2e9}}};
+    run.result.sequentialRead->evidence.diskReads = Traffic{4096, 1};
+    run.result.randomRead = IOPSResult{12000, 1, 4096};
+    run.result.randomRead->latency = Latency{0.0001, 0.00031, 0.001, 0.012};
+    run.result.randomWrite = IOPSResult{12000, 1, 4096};
+    run.result.randomWrite->flushError = std::error_code(5, std::generic_category());
+    run.result.fileOps = FileOpsResult{{100, 1}, {100, 0.5}, {100, 2}, {100, 4}};
+    run.result.fileOps->remove.latency = Latency{1, 2, 3, 4};
+    const Remark note{RemarkCode::virtualDisk, RemarkWeight::note, {}, {}};
+    const Remark invalid{RemarkCode::fromMemory, RemarkWeight::invalid, BenchmarkTest::sequentialRead, {0}};
+    run.remarks = {note, invalid};
+    EXPECT_EQ(resultTable(run, 1000).toStdString(),
+              R"(                      Sustained       Peak     Lowest    Overall
+Sequential read       2.00 GB/s  2.00 GB/s         --  2.00 GB/s  ! Invalid
+
+                     Operations       Rate        p99      Worst
+Random read (4 KiB)  12.0k IOPS    49 MB/s    0.31 ms      12 ms
+Random write (4 KiB) 12.0k IOPS    49 MB/s
+
+                         Create       Stat     Rename     Delete
+File operations       100 ops/s  200 ops/s   50 ops/s   25 ops/s
+
+Drive  ACME Disk� · NVMe
+
+About these figures
+)" + listed(invalid) +
+                  listed(note));
+    EXPECT_TRUE(QString::fromStdString(listed(invalid)).startsWith("! Invalid     Sequential read: "));
+    EXPECT_TRUE(QString::fromStdString(listed(note)).startsWith("Note          "));
+
+    const QJsonObject json = resultJson(run);
+    EXPECT_EQ(json["evidence"]["sequentialRead"]["diskReads"]["bytes"], 4096);
+    EXPECT_EQ(json["randomRead"]["latency"]["p99"], 0.00031);
+    EXPECT_EQ(json["fileOps"]["delete"]["latency"]["worst"], 4);
+    EXPECT_EQ(json["randomWrite"]["flushError"]["errno"], 5);
+    EXPECT_EQ(json["drive"]["protocolName"], "NVMe");
+    EXPECT_EQ(json["remarks"][1]["code"], "fromMemory");
+    EXPECT_EQ(json["remarks"][1]["test"], "sequentialRead");
+    EXPECT_EQ(json["remarks"][1]["text"], TarnwickKit::model::remarkSentence(invalid));
 }
 
 } // namespace

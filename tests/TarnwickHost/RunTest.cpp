@@ -144,7 +144,10 @@ TEST_F(Run, TestsThatWereNotAskedForHaveNoKey) {
                                   "--leave-free", "1152921504606846976", folder});
     ASSERT_EQ(outcome.exitStatus, 0) << outcome.errors;
     const QJsonObject run = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output)).object();
-    EXPECT_EQ(run.keys(), QStringList({"capabilities", "fileOps", "plan"}));
+    QStringList keys = run.keys();
+    keys.removeOne("drive"); // where one is known
+    EXPECT_EQ(keys, QStringList({"capabilities", "evidence", "fileOps", "plan", "remarks"}));
+    EXPECT_TRUE(run["evidence"].toObject().contains("createLatency"));
     const QJsonObject fill{{"fillDisk", QJsonObject{{"leaveFree", qint64{1} << 60}}}};
     EXPECT_EQ(run["plan"]["size"].toObject(), fill);
     EXPECT_EQ(run["plan"]["sampleInterval"].toDouble(), 0.02);
@@ -162,7 +165,7 @@ TEST_F(Run, TableIsAligned) {
     std::vector<std::string> rows;
     for (std::string line; std::getline(lines, line);)
         rows.push_back(line);
-    ASSERT_EQ(rows.size(), 10U) << outcome.output;
+    ASSERT_GE(rows.size(), 10U) << outcome.output;
     EXPECT_EQ(rows[0].size(), rows[1].size());
     EXPECT_EQ(rows[0].size(), rows[2].size());
     EXPECT_EQ(rows[8].size(), rows[9].size());

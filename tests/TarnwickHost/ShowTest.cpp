@@ -35,6 +35,24 @@ TEST(Show, MatchesTheRunsFiguresAndNamesUnreadableFiles) {
     EXPECT_EQ(QString::fromStdString(shown.output).count(line), 2) << shown.output;
 }
 
+TEST(Show, MarksFiguresThatAreNotTheDisks) {
+    using namespace OndelCore::benchmark;
+    RunRecord run;
+    run.readBps = run.randomReadIOPS = run.randomReadBps = 1e9;
+    run.randomBlock = 4096;
+    const QString plain = runTexts({run, run}, {.columns = 79});
+    run.evidence.emplace().randomReadLatency = Latency{0.0001, 0.00031, 0.001, 0.012};
+    run.remarks = {{RemarkCode::fromMemory, RemarkWeight::invalid, BenchmarkTest::sequentialRead, {0}}};
+    const QString text = runTexts({run}, {.columns = 79});
+    EXPECT_TRUE(text.contains("\nRead          1.00 GB/s · peak -- · lowest -- · ! Invalid\n"));
+    EXPECT_TRUE(text.contains(" IOPS · 1.00 GB/s · p99 0.31 ms · worst 12 ms\n")) << text.toStdString();
+    EXPECT_TRUE(text.contains("\n\nAbout these figures\n! Invalid     Sequential read: "));
+    EXPECT_EQ(runTexts({run, run}, {.columns = 79}).count("  ! Invalid · Volume\n"), 2);
+    EXPECT_FALSE(plain.contains("Invalid") || plain.contains("About"));
+    run.remarks->front().test.reset();
+    EXPECT_EQ(runTexts({run}, {.columns = 79}).count("· ! Invalid\n"), 2) << "all figures of the run";
+}
+
 TEST(Show, KeepsAnyTitleOnItsLineAndWithinTheTerminal) {
     std::vector<RunRecord> runs(3);
     runs[0].writeBps = 1;

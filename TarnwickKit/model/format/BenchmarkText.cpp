@@ -51,6 +51,10 @@ QString title(BenchmarkTest test, std::int64_t randomBlock) {
     std::abort();
 }
 
+QStringList latencyFigures(const OndelCore::benchmark::Latency& latency) {
+    return {u"p99 "_s + Format::latency(latency.p99), u"worst "_s + Format::latency(latency.worst)};
+}
+
 std::optional<QString> headline(const BenchmarkResult& result, BenchmarkTest test) {
     const auto show = [](const auto& part, auto&& figure) {
         return part ? std::optional<QString>(figure(*part)) : std::nullopt;

@@ -4,6 +4,7 @@
 #include "OndelCore/benchmark/BenchmarkTest.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <exception>
@@ -17,6 +18,9 @@ QString name(OndelCore::benchmark::BenchmarkTest test);
 /// A test's name for people. `randomBlock`: bytes per random operation, part of the random tests' titles:
 /// "Random read (4 KiB)".
 QString title(OndelCore::benchmark::BenchmarkTest test, std::int64_t randomBlock);
+
+/// The figures of many operations' latency, one text each: "p99 0.31 ms", "worst 12 ms".
+QStringList latencyFigures(const OndelCore::benchmark::Latency& latency);
 
 /// A test's headline figure without its unit; absent if the test did not run.
 std::optional<QString> headline(const OndelCore::benchmark::BenchmarkResult& result,

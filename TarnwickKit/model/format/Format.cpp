@@ -213,6 +213,15 @@ QString Formatter::rate(double bytesPerSecond) const {
                                  : decimals(bytesPerSecond / 1e6, 0) + " MB/s"_L1;
 }
 
+QString Formatter::latency(double seconds) const {
+    const auto spelled = [this](double value, QLatin1StringView unit) {
+        return decimals(value, value < 1 ? 2 : value < 10 ? 1 : 0) + u' ' + unit;
+    };
+    if (seconds >= 1)
+        return spelled(seconds, "s"_L1);
+    return seconds >= 1e-4 ? spelled(seconds * 1e3, "ms"_L1) : spelled(seconds * 1e6, "\xB5s"_L1);
+}
+
 QString Formatter::grouped(double value) const { return groupedInteger(wholeNumber(std::trunc(value))); }
 
 QString Formatter::shortStamp(const QDateTime& date) const {

@@ -50,6 +50,8 @@ public:
     QString compact(double value) const;
     /// "1000 MB/s", "1.00 GB/s".
     QString rate(double bytesPerSecond) const;
+    /// The time of one operation: "81 µs", "0.31 ms", "12 ms", "4.2 s".
+    QString latency(double seconds) const;
     /// Truncated towards zero: "1,234". Fails: as wholeNumber.
     QString grouped(double value) const;
     /// Rounded to `digits` decimals, without grouping: "4.2".
@@ -78,6 +80,7 @@ inline QString bytes(std::int64_t bytes) { return Formatter::user().bytes(bytes)
 inline QString mbValue(double bytesPerSecond) { return Formatter::user().mbValue(bytesPerSecond); }
 inline QString compact(double value) { return Formatter::user().compact(value); }
 inline QString rate(double bytesPerSecond) { return Formatter::user().rate(bytesPerSecond); }
+inline QString latency(double seconds) { return Formatter::user().latency(seconds); }
 inline QString grouped(double value) { return Formatter::user().grouped(value); }
 inline QString decimals(double value, int digits) { return Formatter::user().decimals(value, digits); }
 inline QString shortStamp(const QDateTime& date) { return Formatter::user().shortStamp(date); }

@@ -9,14 +9,16 @@
 namespace TarnwickKit::model {
 
 using namespace Qt::StringLiterals;
+using OndelCore::benchmark::BenchmarkTest;
 
 const std::array<CompareMetric, 5>& CompareMetric::all() {
     static const std::array<CompareMetric, 5> metrics{{
-        {u"Write"_s, u"MB/s"_s, &RunRecord::writeBps, Format::mbValue},
-        {u"Read"_s, u"MB/s"_s, &RunRecord::readBps, Format::mbValue},
-        {u"Random read"_s, u"IOPS"_s, &RunRecord::randomReadIOPS, Format::compact},
-        {u"Random write"_s, u"IOPS"_s, &RunRecord::randomWriteIOPS, Format::compact},
-        {u"File ops"_s, u"ops/s"_s, &RunRecord::fileOpsPerSec, Format::compact},
+        {u"Write"_s, u"MB/s"_s, &RunRecord::writeBps, Format::mbValue, BenchmarkTest::sequentialWrite},
+        {u"Read"_s, u"MB/s"_s, &RunRecord::readBps, Format::mbValue, BenchmarkTest::sequentialRead},
+        {u"Random read"_s, u"IOPS"_s, &RunRecord::randomReadIOPS, Format::compact, BenchmarkTest::randomRead},
+        {u"Random write"_s, u"IOPS"_s, &RunRecord::randomWriteIOPS, Format::compact,
+         BenchmarkTest::randomWrite},
+        {u"File ops"_s, u"ops/s"_s, &RunRecord::fileOpsPerSec, Format::compact, BenchmarkTest::fileOps},
     }};
     return metrics;
 }
@@ -42,7 +44,7 @@ std::vector<Bar> bars(const CompareMetric& metric, const std::vector<RunRecord>&
     std::vector<Bar> lines;
     for (const RunRecord& run : runs) {
         const std::optional<double> value = run.*metric.magnitude;
-        Bar line{std::nullopt, value ? metric.format(*value) : u"--"_s};
+        Bar line{std::nullopt, value ? metric.format(*value) : u"--"_s, value && run.isInvalid(metric.test)};
         if (value && scale > 0)
             line.length = std::max(shortest, *value / scale * trackWidth);
         lines.push_back(line);

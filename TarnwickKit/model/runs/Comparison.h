@@ -16,6 +16,7 @@ struct CompareMetric {
     QString unit;
     std::optional<double> RunRecord::* magnitude; ///< in its raw unit
     QString (*format)(double);
+    OndelCore::benchmark::BenchmarkTest test;
 
     /// All of them, in the order to show them.
     static const std::array<CompareMetric, 5>& all();
@@ -31,6 +32,7 @@ std::vector<CompareMetric> activeMetrics(const std::vector<RunRecord>& runs);
 struct Bar {
     std::optional<double> length; ///< points; absent is an empty track
     QString text;                 ///< "--" where the run has no figure
+    bool isInvalid = false;       ///< the figure is not the disk's
 
     bool operator==(const Bar&) const = default;
 };

@@ -17,6 +17,9 @@ namespace TarnwickKit::model {
 using namespace Qt::StringLiterals;
 using OndelCore::benchmark::BenchmarkPlan;
 using OndelCore::benchmark::BenchmarkResult;
+using OndelCore::benchmark::BenchmarkTest;
+using OndelCore::benchmark::Remark;
+using OndelCore::benchmark::RemarkWeight;
 using OndelCore::benchmark::ThroughputResult;
 using OndelCore::volumes::VolumeCapabilities;
 using OndelCore::volumes::VolumeInfo;
@@ -165,6 +168,12 @@ qsizetype endOfCharacters(const QString& text, int count) {
 bool isNetworkFilesystem(const QString& filesystemType) {
     return std::ranges::find(networkFilesystems, filesystemType.toLower().toStdString()) !=
            networkFilesystems.end();
+}
+
+bool isInvalid(const std::vector<Remark>& remarks, BenchmarkTest test) {
+    return std::ranges::any_of(remarks, [test](const Remark& remark) {
+        return remark.weight == RemarkWeight::invalid && remark.test.value_or(test) == test;
+    });
 }
 
 std::optional<QString> visibleText(const std::optional<QString>& text) {

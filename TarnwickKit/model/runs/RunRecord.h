@@ -35,6 +35,10 @@ bool isNetworkFilesystem(const QString& filesystemType);
 /// which counts as absent.
 std::optional<QString> visibleText(const std::optional<QString>& text);
 
+/// Whether a test's figures are not those of the disk: a remark on the test or on the whole run is invalid.
+bool isInvalid(const std::vector<OndelCore::benchmark::Remark>& remarks,
+               OndelCore::benchmark::BenchmarkTest test);
+
 /// One saved point of a curve.
 struct RunSample {
     double t = 0; ///< seconds since the start of the test
@@ -106,6 +110,11 @@ struct RunRecord {
 
     /// The record with 80 to 159 points left of each curve that had more, and of the circumstances' samples.
     RunRecord withThinnedCurves() const;
+
+    /// Whether a test's figures are known not to be those of the disk.
+    bool isInvalid(OndelCore::benchmark::BenchmarkTest test) const {
+        return remarks && model::isInvalid(*remarks, test);
+    }
 
     /// What lists call the run: the user's title, else the volume's name, else "Volume".
     QString title() const;

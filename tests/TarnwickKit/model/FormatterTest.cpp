@@ -64,6 +64,12 @@ TEST(Formatter, RatesAndCounts) {
         {format.rate(999999999), "1000 MB/s"},
         {format.rate(1000000000), "1.00 GB/s"},
         {format.rate(2345000000), "2.35 GB/s"},
+        {format.latency(0.00000083), "0.83 µs"},
+        {format.latency(0.000081234), "81 µs"},
+        {format.latency(0.00031234), "0.31 ms"},
+        {format.latency(0.0012), "1.2 ms"},
+        {format.latency(0.01234), "12 ms"},
+        {format.latency(4.24), "4.2 s"},
         {format.grouped(1234567.9), "1,234,567"},
         {format.grouped(-1234.9), "-1,234"},
         // The exact value of the double is rounded, as in the C library: 0.15 is below, 0.25 exact.
