@@ -35,19 +35,19 @@ QJsonDocument document(const auto& value) {
 QString invalidMark() { return weightMark(RemarkWeight::invalid); }
 
 QString remarkList(const std::vector<Remark>& remarks, std::int64_t randomBlock, int columns) {
-    if (remarks.empty())
-        return {};
     std::vector<Remark> worstFirst = remarks;
     std::ranges::stable_sort(worstFirst, std::greater(), &Remark::weight);
-    QString list = "\nAbout these figures\n";
+    QString list;
     for (const Remark& remark : worstFirst) {
         QStringList sentences{remarkSentence(remark), remarkAdvice(remark)};
+        if (sentences.front().isEmpty()) // numbers of a file that mean nothing
+            continue;
         if (remark.test)
             sentences.prepend(title(*remark.test, randomBlock) + ':');
         list += labelled(weightMark(remark.weight).leftJustified(weightColumns),
                          sentences.join(' ').split(' ', Qt::SkipEmptyParts), " ", columns);
     }
-    return list;
+    return list.isEmpty() ? list : "\nAbout these figures\n" + list;
 }
 
 QJsonArray remarksJson(const std::vector<Remark>& remarks) {

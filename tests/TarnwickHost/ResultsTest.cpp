@@ -107,15 +107,15 @@ TEST(Results, ShowWhatWasObserved) {
     const Remark invalid{RemarkCode::fromMemory, RemarkWeight::invalid, BenchmarkTest::sequentialRead, {0}};
     run.remarks = {note, invalid};
     EXPECT_EQ(resultTable(run, 1000).toStdString(),
-              R"(                      Sustained       Peak     Lowest    Overall
-Sequential read       2.00 GB/s  2.00 GB/s         --  2.00 GB/s  ! Invalid
+              R"(                       Sustained       Peak    Lowest    Overall
+Sequential read        2.00 GB/s  2.00 GB/s        --  2.00 GB/s  ! Invalid
 
-                     Operations       Rate        p99      Worst
-Random read (4 KiB)  12.0k IOPS    49 MB/s    0.31 ms      12 ms
-Random write (4 KiB) 12.0k IOPS    49 MB/s
+                      Operations       Rate       p99      Worst
+Random read (4 KiB)   12.0k IOPS    49 MB/s   0.31 ms      12 ms
+Random write (4 KiB)  12.0k IOPS    49 MB/s
 
-                         Create       Stat     Rename     Delete
-File operations       100 ops/s  200 ops/s   50 ops/s   25 ops/s
+                          Create       Stat    Rename     Delete
+File operations        100 ops/s  200 ops/s  50 ops/s   25 ops/s
 
 Drive  ACME Disk� · NVMe
 

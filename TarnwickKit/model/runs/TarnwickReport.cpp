@@ -2,9 +2,13 @@
 
 #include "OndelCore/platform/storage/PrivateFolder.h"
 #include "OndelCore/platform/storage/ReplaceFile.h"
+#include "TarnwickKit/model/format/BenchmarkText.h"
+#include "TarnwickKit/model/format/RemarkText.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 
+#include <algorithm>
+#include <functional>
 #include <string>
 
 namespace TarnwickKit::model {
@@ -33,6 +37,28 @@ TarnwickReport TarnwickReport::from(const OndelCore::benchmark::BenchmarkResult&
 std::vector<QPointF> TarnwickReport::writeCurve() const { return curve(run.writeSamples); }
 
 std::vector<QPointF> TarnwickReport::readCurve() const { return curve(run.readSamples); }
+
+std::optional<QString> TarnwickReport::drive() const {
+    QStringList names;
+    for (const auto& name : {run.deviceModel, run.deviceProtocol})
+        if (const auto visible = visibleText(name))
+            names << *visible;
+    return names.isEmpty() ? std::nullopt : std::optional(names.join(QStringLiteral(" · ")));
+}
+
+QStringList TarnwickReport::remarks() const {
+    auto worstFirst = run.remarks.value_or(std::vector<OndelCore::benchmark::Remark>());
+    std::ranges::stable_sort(worstFirst, std::greater(), &OndelCore::benchmark::Remark::weight);
+    QStringList lines;
+    for (const auto& remark : worstFirst) {
+        const QString sentence = remarkSentence(remark);
+        const QString about =
+            remark.test ? title(*remark.test, run.randomBlock.value_or(0)) + ": " : QString();
+        if (!sentence.isEmpty())
+            lines << remarkWeightWord(remark.weight) + QStringLiteral(" · ") + about + sentence;
+    }
+    return lines;
+}
 
 std::optional<fs::path> TarnwickReport::handoffFile() const {
     const auto folder = OndelCore::platform::privateTemporaryFolder();

@@ -3,6 +3,7 @@
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QPointF>
+#include <QStringList>
 
 #include <filesystem>
 #include <optional>
@@ -32,6 +33,10 @@ struct TarnwickReport {
     std::vector<QPointF> writeCurve() const;
     std::vector<QPointF> readCurve() const;
     std::optional<QString> sizeLabel() const { return run.sizeLabel; }
+    /// "ACME Disk · NVMe"; absent if neither name is known.
+    std::optional<QString> drive() const;
+    /// The remarks on the figures, worst first, a line each: "Invalid · Sequential read: 0 % of what …".
+    QStringList remarks() const;
 
     /// Writes a run file for the application to open, into a folder that only this user can enter. Within a
     /// process the same run has the same path. Nothing removes the file. Fails: absent.

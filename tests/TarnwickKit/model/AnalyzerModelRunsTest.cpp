@@ -75,6 +75,7 @@ TEST_F(AnalyzerModelRuns, RecordsAFinishedRun) {
     BenchmarkResult result;
     result.sequentialWrite = ThroughputResult{1000, 1, 4096, {{1, 1234567890}}};
     result.sequentialWrite->flushError = std::make_error_code(std::errc::io_error);
+    result.randomWrite = IOPSResult{1, 1, 4096, std::make_error_code(std::errc::io_error)};
     engine.last().finish(result);
     turnUntilEnded(model);
 
@@ -93,7 +94,10 @@ TEST_F(AnalyzerModelRuns, RecordsAFinishedRun) {
                            "fillDisk=false writeBlock=1048576 bypassCache=true",
                            "notice  app  benchmark finished took=1000.0ms writeMBps=1234 readMBps=0",
                            "error  app  benchmark flush failed after=sequentialWrite "
-                           "error=\"system_error posix=5 (Input/output error)\""}));
+                           "error=\"system_error posix=5 (Input/output error)\"",
+                           "error  app  benchmark flush failed after=randomWrite "
+                           "error=\"system_error posix=5 (Input/output error)\"",
+                           "notice  app  benchmark remarks codes=flushFailed"}));
     complete();
     ASSERT_EQ(model.previousRuns().size(), 1u);
     EXPECT_EQ(model.previousRuns().front().freeBytes, 1000);

@@ -403,6 +403,14 @@ TEST(TarnwickReport, WritesAHandoffFile) {
     EXPECT_EQ(decodeRun(*readRunFile(*path)), report.run);
     EXPECT_EQ(std::filesystem::status(path->parent_path()).permissions(), std::filesystem::perms::owner_all);
 
+    EXPECT_EQ(report.drive(), std::nullopt);
+    EXPECT_EQ(report.remarks().size(), static_cast<qsizetype>(report.run.remarks->size()));
+    const TarnwickReport full{fullRun()};
+    EXPECT_EQ(full.drive(), "ACME Disk 2000 · USB");
+    ASSERT_EQ(full.remarks().size(), 2);
+    EXPECT_TRUE(full.remarks()[0].startsWith("Invalid · Sequential read: "));
+    EXPECT_TRUE(full.remarks()[1].startsWith("Note · "));
+
     TarnwickReport unwritable = report;
     unwritable.run.writeBps = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(unwritable.handoffFile(), std::nullopt);
