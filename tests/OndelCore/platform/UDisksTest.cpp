@@ -117,7 +117,7 @@ TEST_F(UDisks, TellsATemperatureOnlyIfItIsFresh) {
         {ata, old, {}},
         {ata, withTemperature(ataProperties(), 0.0), {}}, // the service does not know
         {ata, withTemperature(ataProperties(), u"310"_s), {}},
-        {ata, withTemperature(ataProperties(), {}), {}},
+        {ata, {{u"SmartUpdated"_s, QDateTime::currentSecsSinceEpoch()}}, {}},
         {u"another"_s, ataProperties(), {}},
     };
     for (const auto& [interface, properties, celsius] : cases) {
