@@ -50,7 +50,7 @@ TEST(Show, MarksFiguresThatAreNotTheDisks) {
     EXPECT_EQ(runTexts({run, run}, {.columns = 79}).count("  ! Invalid · Volume\n"), 2);
     EXPECT_FALSE(plain.contains("Invalid") || plain.contains("About"));
     run.remarks->front().test.reset();
-    EXPECT_EQ(runTexts({run}, {.columns = 79}).count("· ! Invalid\n"), 2) << "all figures of the run";
+    EXPECT_EQ(runTexts({run}, {.columns = 200}).count("· ! Invalid\n"), 2) << "all figures of the run";
 }
 
 TEST(Show, KeepsAnyTitleOnItsLineAndWithinTheTerminal) {
