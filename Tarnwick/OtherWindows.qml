@@ -2,31 +2,37 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import OndelAppSupport.views
 import OndelControls
 import Tarnwick
 
-/// The secondary windows and the report sheet. Each is created when it is first shown, to keep the start of the main
-/// window fast.
+/// The secondary windows and the report sheet. Each is created when it is first shown, and none of them is even
+/// compiled before the main window's first frame, to keep the start fast.
 Item {
     id: others
 
-    required property AppDelegate delegate
+    required property TarnwickWindow window
+    readonly property AppDelegate delegate: window.delegate
     readonly property Item overlay: T.Overlay.overlay
 
-    function showAbout(): void {
-        about.active = true;
-        (about.object as AboutWindow).show();
-    }
-    function showSettings(): void {
-        settings.active = true;
-        (settings.object as SettingsWindow).show();
+    Connections {
+        target: others.window
+
+        function onAboutWanted(): void {
+            about.active = true;
+            (about.object as AboutWindow).show();
+        }
+        function onSettingsWanted(): void {
+            settings.active = true;
+            (settings.object as SettingsWindow).show();
+        }
     }
 
     OnDemand {
         id: about
 
         AboutWindow {
-            transientParent: others.Window.window
+            transientParent: others.window
         }
     }
     OnDemand {
@@ -34,15 +40,17 @@ Item {
 
         SettingsWindow {
             updater: others.delegate.updater
-            transientParent: others.Window.window
+            transientParent: others.window
         }
     }
     OnDemand {
         id: updates
 
+        active: others.delegate.updater.controller.state !== UpdaterController.Idle
+
         UpdatesWindow {
             updater: others.delegate.updater.controller
-            transientParent: others.Window.window
+            transientParent: others.window
         }
     }
     Connections {

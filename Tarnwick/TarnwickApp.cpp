@@ -10,6 +10,8 @@
 #include "Tarnwick/Toolkit.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
 
+#include <QQmlComponent>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTimer>
 
@@ -104,12 +106,24 @@ bool TarnwickApp::declareScenes() {
     m_engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml")));
     if (m_engine.rootObjects().isEmpty())
         return false;
-    // After the first frame: the search of the icon theme takes as long as drawing the window.
     const auto flags = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
+    auto* window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().constFirst());
     QObject::connect(
-        qobject_cast<QQuickWindow*>(m_engine.rootObjects().constFirst()), &QQuickWindow::frameSwapped, qApp,
-        [] { QApplication::setWindowIcon(applicationIcon()); }, flags);
+        window, &QQuickWindow::frameSwapped, window, [this, window] { finishWindow(window); }, flags);
     return true;
+}
+
+/// After the first frame: the views of the other windows and the search of the icon theme take as long as
+/// drawing the window.
+void TarnwickApp::finishWindow(QQuickWindow* window) {
+    QQmlComponent others(&m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/OtherWindows.qml")));
+    QObject* made = others.createWithInitialProperties(
+        {{QStringLiteral("window"), QVariant::fromValue(window)},
+         {QStringLiteral("parent"), QVariant::fromValue(window->contentItem())}});
+    if (!made)
+        qFatal("%s", qPrintable(others.errorString()));
+    made->setParent(window);
+    QApplication::setWindowIcon(applicationIcon());
 }
 
 void TarnwickApp::finishLaunching(const OpenRequest& start) {

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class QQuickWindow;
+
 /// Starts the application: the order of its parts. Threads: main.
 class TarnwickApp {
 public:
@@ -26,6 +28,7 @@ public:
     void finishLaunching(const OndelDesktop::OpenRequest& start);
 
 private:
+    void finishWindow(QQuickWindow* window);
     /// Sets identity and fonts, before the delegate and the views are created.
     static void prepare();
     static std::optional<int> handOver(OndelDesktop::OpenRequests& requests,

@@ -12,6 +12,9 @@ Window {
 
     required property AppDelegate delegate
 
+    signal aboutWanted
+    signal settingsWanted
+
     title: "Ondel Tarnwick"
     width: 1180
     height: 780
@@ -34,8 +37,8 @@ Window {
         width: parent.width
         app: window.delegate
         updater: window.delegate.updater
-        onAboutWanted: others.showAbout()
-        onSettingsWanted: others.showSettings()
+        onAboutWanted: window.aboutWanted()
+        onSettingsWanted: window.settingsWanted()
         onRunWanted: view.run()
     }
     TarnwickView {
@@ -60,11 +63,6 @@ Window {
     }
     DropPlace {
         anchors.fill: parent
-        delegate: window.delegate
-    }
-    OtherWindows {
-        id: others
-
         delegate: window.delegate
     }
 }
