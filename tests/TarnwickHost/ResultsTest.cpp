@@ -1,6 +1,7 @@
+#include "TarnwickHost/Results.h"
+
 #include "TarnwickHost/Progress.h"
 #include "TarnwickHost/Remarks.h"
-#include "TarnwickHost/Results.h"
 #include "TarnwickKit/model/format/RemarkText.h"
 
 #include <QJsonArray>
