@@ -33,6 +33,7 @@ constexpr std::array entries{
     Entry{u"chevron.up.chevron.down", "chevron-expand"},
     Entry{u"circle", "circle"},
     Entry{u"ellipsis", "three-dots"},
+    Entry{u"exclamationmark.octagon.fill", "exclamation-octagon-fill"},
     Entry{u"exclamationmark.triangle.fill", "exclamation-triangle-fill"},
     Entry{u"externaldrive", "usb-drive"},
     Entry{u"externaldrive.connected.to.line.below", "hdd-network"},

@@ -149,6 +149,13 @@ QStringList AnalyzerModel::sidebarValues() const {
     return values;
 }
 
+QList<bool> AnalyzerModel::sidebarMarks() const {
+    QList<bool> marks;
+    for (const BenchmarkTest test : OndelCore::benchmark::allBenchmarkTests)
+        marks.append(sidebarValue(test) && isInvalid(m_session.remarks(), test));
+    return marks;
+}
+
 QString AnalyzerModel::describe(const std::exception& error) { return model::describe(error); }
 
 } // namespace TarnwickKit::model

@@ -117,6 +117,9 @@ public:
     /// The same for all tests in their order, "" where there is none.
     Q_PROPERTY(QStringList sidebarValues READ sidebarValues NOTIFY resultChanged)
     QStringList sidebarValues() const;
+    /// Which of these figures are known not to be the disk's.
+    Q_PROPERTY(QList<bool> sidebarMarks READ sidebarMarks NOTIFY resultChanged)
+    QList<bool> sidebarMarks() const;
     /// The sentence for people about a run that failed.
     static QString describe(const std::exception& error);
 

@@ -165,6 +165,7 @@ void RunSession::start(const BenchmarkPlan& plan) {
 bool RunSession::isRunning() const { return m_run && !m_run->hasEnded; }
 
 void RunSession::reset() {
+    m_remarks.clear();
     setResult(std::nullopt);
     clearLiveCurves();
     setLiveTest(std::nullopt);
@@ -224,6 +225,7 @@ void RunSession::endRun(const std::function<void()>& settle) {
 
 void RunSession::finish(const BenchmarkResult& result) {
     const std::shared_ptr<Run> run = m_run;
+    m_remarks = remarksOn(run->plan, result);
     setResult(result);
     const double duration = secondsSinceStart();
     m_target.learn(result.tried);

@@ -3,6 +3,7 @@
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkProgress.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/benchmark/Remark.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/model/session/AnalyzerServices.h"
 #include "TarnwickKit/model/session/AnalyzerTarget.h"
@@ -66,6 +67,8 @@ public:
     const std::optional<OndelCore::benchmark::BenchmarkResult>& result() const { return m_result; }
     void setResult(std::optional<OndelCore::benchmark::BenchmarkResult> result);
     Q_SIGNAL void resultChanged();
+    /// What its evidence says about it.
+    const std::vector<OndelCore::benchmark::Remark>& remarks() const { return m_remarks; }
 
     /// The test now running. It stays after a run that was cancelled or failed.
     std::optional<OndelCore::benchmark::BenchmarkTest> liveTest() const { return m_liveTest; }
@@ -115,6 +118,7 @@ private:
     QDateTime m_runStart;
 
     std::optional<OndelCore::benchmark::BenchmarkResult> m_result;
+    std::vector<OndelCore::benchmark::Remark> m_remarks;
     std::optional<OndelCore::benchmark::BenchmarkTest> m_liveTest;
     std::vector<Sample> m_liveSamples;
     std::vector<Temperature> m_liveTemperatures;

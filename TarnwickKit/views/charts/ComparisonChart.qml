@@ -54,6 +54,14 @@ Column {
             trackWidth: chart.trackWidth
         }
     }
+    OnDemand {
+        active: chart.runs.hasMarks
+
+        MarkedLine {
+            words: qsTr("Not the disk’s figure")
+            room: chart.room
+        }
+    }
     Separator {
         width: chart.room
         color: PaletteKey.palette.borderSoft

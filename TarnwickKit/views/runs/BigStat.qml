@@ -14,13 +14,14 @@ ColumnLayout {
     required property real value
     required property real peak
     required property real least
+    property bool isMarked: false
 
     spacing: 6
     Layout.maximumWidth: Infinity // else the figures' width would limit it
     Layout.fillHeight: false // centred, so that one without a third line aligns with one that has it
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: label + ": " + figure.text + " MB/s" + (extremes.visible ? ", " + extremes.text : "")
+    Accessible.name: label + ": " + Runs.spoken(figure.text + " MB/s", isMarked) + (extremes.visible ? ", " + extremes.text : "")
 
     RowLayout {
         Layout.leftMargin: ViewMetrics.figurePadding
@@ -53,7 +54,7 @@ ColumnLayout {
         PlainText {
             id: figure
 
-            width: Math.min(implicitWidth, line.width - unit.width - line.spacing)
+            width: Math.min(implicitWidth, line.width - unit.width - line.spacing - (stat.isMarked ? ViewMetrics.markSide + line.spacing : 0))
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 9
             text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)
@@ -69,6 +70,13 @@ ColumnLayout {
             font: Typeface.text(15, Font.Medium)
             color: PaletteKey.palette.text3
             Accessible.ignored: true
+        }
+        OnDemand {
+            active: stat.isMarked
+
+            FigureMark {
+                anchors.verticalCenter: unit.verticalCenter
+            }
         }
     }
     PlainText {

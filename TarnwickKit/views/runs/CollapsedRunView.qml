@@ -67,12 +67,14 @@ PlainButton {
             Layout.preferredWidth: ViewMetrics.statWidth
             label: qsTr("Write")
             value: view.facts.writeBps
+            isMarked: view.facts.isWriteMarked
             dot: PaletteKey.palette.coral
         }
         RunSummaryStat {
             Layout.preferredWidth: ViewMetrics.statWidth
             label: qsTr("Read")
             value: view.facts.readBps
+            isMarked: view.facts.isReadMarked
             dot: PaletteKey.palette.teal
         }
         DualSparkline {

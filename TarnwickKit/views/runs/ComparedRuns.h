@@ -17,11 +17,13 @@ struct ComparedBar {
     QML_VALUE_TYPE(comparedBar)
     Q_PROPERTY(double length MEMBER length CONSTANT)
     Q_PROPERTY(QString text MEMBER text CONSTANT)
+    Q_PROPERTY(bool isMarked MEMBER isMarked CONSTANT)
     Q_PROPERTY(QString sentence MEMBER sentence CONSTANT)
 
 public:
     double length = 0; ///< logical pixels; 0 without a bar
     QString text;
+    bool isMarked = false; ///< the figure is not the disk's
     QString sentence; ///< the same for assistive technology
 
     bool operator==(const ComparedBar&) const = default;
@@ -62,11 +64,14 @@ struct ComparedRuns {
     QML_VALUE_TYPE(comparedRuns)
     Q_PROPERTY(int count READ count CONSTANT)
     Q_PROPERTY(QVariantList entries READ entries CONSTANT)
+    Q_PROPERTY(bool hasMarks READ hasMarks CONSTANT)
 
 public:
     std::vector<model::RunRecord> runs;
 
     int count() const { return static_cast<int>(runs.size()); }
+    /// Whether a figure of any run is not the disk's.
+    bool hasMarks() const;
     /// ComparedRun, one per run.
     QVariantList entries() const;
     /// ComparedMetric, for each metric that at least one run has a figure for. Units: `trackWidth` in logical

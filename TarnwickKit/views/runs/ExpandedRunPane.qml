@@ -12,6 +12,7 @@ CardFrame {
     required property AnalyzerModel analyzer
     required property runRecord run
     readonly property runFacts facts: Runs.facts(run)
+    readonly property list<remarkItem> remarks: Runs.remarks(run)
 
     signal collapse
     signal remove
@@ -78,6 +79,15 @@ CardFrame {
 
         Layout.fillWidth: true
         facts: pane.facts
+        corner: pane.remarks.length > 0 ? 0 : ViewMetrics.cardCorner
+    }
+    OnDemand {
+        active: pane.remarks.length > 0
+
+        RunRemarks {
+            Layout.fillWidth: true
+            remarks: pane.remarks
+        }
     }
 
     Keys.onPressed: event => menu.openByKey(event)

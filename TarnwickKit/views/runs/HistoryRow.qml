@@ -109,12 +109,14 @@ PlainButton {
             Layout.preferredWidth: ViewMetrics.statWidth
             label: qsTr("Write")
             value: row.facts.writeBps
+            isMarked: row.facts.isWriteMarked
             dot: row.PaletteKey.palette.coral
         }
         RunSummaryStat {
             Layout.preferredWidth: ViewMetrics.statWidth
             label: qsTr("Read")
             value: row.facts.readBps
+            isMarked: row.facts.isReadMarked
             dot: row.PaletteKey.palette.teal
         }
         DualSparkline {

@@ -68,12 +68,24 @@ RowLayout {
                     }
                 }
                 PlainText {
+                    id: figure
+
                     anchors.verticalCenter: parent.verticalCenter
                     width: ViewMetrics.barFigureWidth
                     text: line.modelData.text
                     font: Typeface.mono(11)
                     color: PaletteKey.palette.text2
                     Accessible.ignored: true
+
+                    OnDemand {
+                        active: line.modelData.isMarked
+
+                        FigureMark {
+                            anchors.verticalCenter: figure.verticalCenter
+                            anchors.left: figure.left
+                            anchors.leftMargin: figure.contentWidth + 5
+                        }
+                    }
                 }
             }
         }

@@ -5,32 +5,59 @@ import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-RowLayout {
+/// A labelled figure of a run, with what belongs to it in a line below.
+ColumnLayout {
     id: stat
 
     required property string label
     required property string value
+    property bool isMarked: false
+    property string note: ""
 
-    spacing: 8
+    spacing: 1
     Accessible.role: Accessible.StaticText
-    Accessible.name: label + ": " + figure.text
+    Accessible.name: label + ": " + Runs.spoken(figure.text, isMarked) + (note === "" ? "" : ", " + note)
 
-    PlainText {
-        Layout.fillWidth: true
-        Layout.alignment: Qt.AlignBaseline
-        text: stat.label
-        font: Typeface.text(12)
-        color: PaletteKey.palette.text2
-        elide: Text.ElideRight
-        Accessible.ignored: true
+    RowLayout {
+        spacing: 8
+
+        PlainText {
+            Layout.fillWidth: true
+            Layout.alignment: Qt.AlignBaseline
+            text: stat.label
+            font: Typeface.text(12)
+            color: PaletteKey.palette.text2
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        PlainText {
+            id: figure
+
+            Layout.alignment: Qt.AlignBaseline
+            text: stat.value.length > 0 ? stat.value : "--"
+            font: Typeface.mono(12.5)
+            color: PaletteKey.palette.text
+            Accessible.ignored: true
+        }
+        OnDemand {
+            active: stat.isMarked
+
+            FigureMark {
+                Layout.leftMargin: -2
+            }
+        }
     }
-    PlainText {
-        id: figure
+    OnDemand {
+        active: stat.note !== ""
 
-        Layout.alignment: Qt.AlignBaseline
-        text: stat.value.length > 0 ? stat.value : "--"
-        font: Typeface.mono(12.5)
-        color: PaletteKey.palette.text
-        Accessible.ignored: true
+        PlainText {
+            Layout.fillWidth: true
+            text: stat.note
+            horizontalAlignment: Text.AlignRight
+            font: Typeface.mono(10.5)
+            color: stat.PaletteKey.palette.text3
+            elide: Text.ElideLeft
+            Accessible.ignored: true
+        }
     }
 }

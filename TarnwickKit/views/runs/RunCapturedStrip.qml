@@ -53,6 +53,8 @@ CardFoot {
                 }
                 PlainText {
                     anchors.baseline: name.baseline
+                    width: Math.min(implicitWidth, items.width - name.width)
+                    elide: Text.ElideRight
                     text: item.modelData.value
                     font: Typeface.mono(12)
                     color: PaletteKey.palette.text

@@ -1,6 +1,9 @@
 #include "TarnwickKit/views/runs/RunFacts.h"
 
+#include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/RemarkText.h"
+#include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/views/style/LegibleText.h"
 
 #include <QtNumeric>
@@ -8,6 +11,10 @@
 namespace TarnwickKit::views {
 
 using model::RunRecord;
+using OndelCore::benchmark::BenchmarkTest;
+using OndelCore::benchmark::Latency;
+using OndelCore::benchmark::Remark;
+using OndelCore::benchmark::RemarkWeight;
 namespace Format = model::Format;
 
 namespace {
@@ -20,6 +27,7 @@ public:
         if (value)
             m_items.append(QVariant::fromValue(InfoItem{label, *value}));
     }
+    void add(const InfoItem& item) { m_items.append(QVariant::fromValue(item)); }
     QVariantList take() { return std::move(m_items); }
 
 private:
@@ -31,16 +39,56 @@ std::optional<QString> words(const std::optional<Value>& value, Text text) {
     return value ? std::optional(text(*value)) : std::nullopt;
 }
 
+constexpr QLatin1StringView dot(" \xB7 ");
+
+QString latencyLine(const Latency& latency) { return model::latencyFigures(latency).join(dot); }
+
+QString testTitle(BenchmarkTest test, const RunRecord& run) {
+    return model::title(test, run.randomBlock.value_or(usualRandomBlock));
+}
+
+/// Which of the shown figures are not the disk's.
+QString lineOfMarks(const RunRecord& run) {
+    QStringList titles;
+    for (const model::CompareMetric& metric : model::CompareMetric::all())
+        if (run.*metric.magnitude && run.isInvalid(metric.test))
+            titles << testTitle(metric.test, run);
+    if (titles.isEmpty())
+        return {};
+    return (titles.size() == 1 ? Runs::tr("Not the disk’s figure: %1") : Runs::tr("Not the disk’s figures: %1"))
+        .arg(titles.join(QStringLiteral(", ")));
+}
+
+QString symbolOf(RemarkWeight weight) {
+    switch (weight) {
+    case RemarkWeight::invalid:
+        return QStringLiteral("exclamationmark.octagon.fill");
+    case RemarkWeight::caution:
+        return QStringLiteral("exclamationmark.triangle.fill");
+    case RemarkWeight::note:
+        break;
+    }
+    return QStringLiteral("info.circle");
+}
+
 QVariantList minorFigures(const RunRecord& run) {
     const QString block = Format::block(run.randomBlock.value_or(usualRandomBlock));
-    const auto figure = [](const std::optional<double>& value, const QString& unit) {
-        return value ? Format::grouped(*value) + unit : QStringLiteral("--");
+    ItemList items;
+    const auto add = [&](BenchmarkTest test, const QString& label, const std::optional<double>& value,
+                         const QString& unit, std::optional<Latency> model::RunEvidence::* latency) {
+        const bool hasLatency = value && latency && run.evidence && *run.evidence.*latency;
+        items.add(InfoItem{.label = label,
+                           .value = value ? Format::grouped(*value) + unit : QStringLiteral("--"),
+                           .warning = value && run.isInvalid(test),
+                           .note = hasLatency ? latencyLine(*(*run.evidence.*latency)) : QString()});
     };
     const QString iops = QStringLiteral(" IOPS");
-    ItemList items;
-    items.add(Runs::tr("Random %1 read").arg(block), figure(run.randomReadIOPS, iops));
-    items.add(Runs::tr("Random %1 write").arg(block), figure(run.randomWriteIOPS, iops));
-    items.add(Runs::tr("File operations"), figure(run.fileOpsPerSec, QStringLiteral(" /s")));
+    add(BenchmarkTest::randomRead, Runs::tr("Random %1 read").arg(block), run.randomReadIOPS, iops,
+        &model::RunEvidence::randomReadLatency);
+    add(BenchmarkTest::randomWrite, Runs::tr("Random %1 write").arg(block), run.randomWriteIOPS, iops,
+        &model::RunEvidence::randomWriteLatency);
+    add(BenchmarkTest::fileOps, Runs::tr("File operations"), run.fileOpsPerSec, QStringLiteral(" /s"),
+        nullptr);
     return items.take();
 }
 
@@ -61,6 +109,8 @@ void addBlocks(ItemList& items, const RunRecord& run) {
 
 QVariantList capturedFacts(const RunRecord& run) {
     ItemList items;
+    if (const QString drive = driveOf(run); !drive.isEmpty())
+        items.add(Runs::tr("Drive"), drive);
     items.add(Runs::tr("File system"), words(model::visibleText(run.fsType),
                                              [](const QString& type) { return legible(type).toUpper(); }));
     items.add(Runs::tr("Capacity"), words(run.capacityBytes, Format::bytes));
@@ -87,6 +137,37 @@ QString symbolOf(RunRecord::Kind kind) {
 
 } // namespace
 
+QString driveOf(const RunRecord& run, const QString& title) {
+    const std::optional<QString> model = model::visibleText(run.deviceModel);
+    if (!model)
+        return {};
+    QStringList names;
+    for (const auto& name : {model, model::visibleText(run.deviceProtocol)})
+        if (name && *name != title)
+            names << legible(*name);
+    return names.join(dot);
+}
+
+QList<RemarkItem> Runs::remarks(const RunRecord& run) {
+    QList<RemarkItem> items;
+    for (const Remark& remark : run.remarks.value_or(std::vector<Remark>())) {
+        const QString sentence = model::remarkSentence(remark);
+        if (sentence.isEmpty())
+            continue;
+        items << RemarkItem{.weight = static_cast<int>(remark.weight),
+                            .word = model::remarkWeightWord(remark.weight),
+                            .symbol = symbolOf(remark.weight),
+                            .sentence = remark.test ? testTitle(*remark.test, run) + QStringLiteral(": ") + sentence
+                                                    : sentence,
+                            .advice = model::remarkAdvice(remark)};
+    }
+    return items;
+}
+
+QString Runs::spoken(const QString& figure, bool isMarked) {
+    return isMarked ? tr("%1, not the disk’s figure").arg(figure) : figure;
+}
+
 RunFacts RunFacts::of(const RunRecord& run) {
     const bool isNetwork =
         run.kind == RunRecord::Kind::network || (run.fsType && model::isNetworkFilesystem(*run.fsType));
@@ -109,6 +190,9 @@ RunFacts RunFacts::of(const RunRecord& run) {
                     .readBps = orNone(run.readBps),
                     .readPeakBps = orNone(run.readPeakBps),
                     .readMinBps = orNone(run.readMinBps),
+                    .isWriteMarked = run.writeBps && run.isInvalid(BenchmarkTest::sequentialWrite),
+                    .isReadMarked = run.readBps && run.isInvalid(BenchmarkTest::sequentialRead),
+                    .markedLine = lineOfMarks(run),
                     .minor = minorFigures(run),
                     .captured = capturedFacts(run)};
 }

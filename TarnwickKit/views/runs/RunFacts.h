@@ -17,13 +17,35 @@ struct InfoItem {
     Q_PROPERTY(QString label MEMBER label CONSTANT)
     Q_PROPERTY(QString value MEMBER value CONSTANT)
     Q_PROPERTY(bool warning MEMBER warning CONSTANT)
+    Q_PROPERTY(QString note MEMBER note CONSTANT)
 
 public:
     QString label;
     QString value;
-    bool warning = false;
+    bool warning = false; ///< the value is a concern; of a run's figure: it is not the disk's
+    QString note{};       ///< what stands below the value, "" for nothing
 
     bool operator==(const InfoItem&) const = default;
+};
+
+/// A remark on a run's figures, in words.
+struct RemarkItem {
+    Q_GADGET
+    QML_VALUE_TYPE(remarkItem)
+    Q_PROPERTY(int weight MEMBER weight CONSTANT)
+    Q_PROPERTY(QString word MEMBER word CONSTANT)
+    Q_PROPERTY(QString symbol MEMBER symbol CONSTANT)
+    Q_PROPERTY(QString sentence MEMBER sentence CONSTANT)
+    Q_PROPERTY(QString advice MEMBER advice CONSTANT)
+
+public:
+    int weight = 0; ///< OndelCore::benchmark::RemarkWeight
+    QString word;   ///< for the weight
+    QString symbol; ///< for the weight
+    QString sentence;
+    QString advice; ///< "" without one
+
+    bool operator==(const RemarkItem&) const = default;
 };
 
 /// A saved run as the views show it, in words and figures.
@@ -48,6 +70,9 @@ struct RunFacts {
     Q_PROPERTY(double readBps MEMBER readBps CONSTANT)
     Q_PROPERTY(double readPeakBps MEMBER readPeakBps CONSTANT)
     Q_PROPERTY(double readMinBps MEMBER readMinBps CONSTANT)
+    Q_PROPERTY(bool isWriteMarked MEMBER isWriteMarked CONSTANT)
+    Q_PROPERTY(bool isReadMarked MEMBER isReadMarked CONSTANT)
+    Q_PROPERTY(QString markedLine MEMBER markedLine CONSTANT)
     Q_PROPERTY(QVariantList minor MEMBER minor CONSTANT)
     Q_PROPERTY(QVariantList captured MEMBER captured CONSTANT)
 
@@ -71,11 +96,18 @@ public:
     double readBps = 0;
     double readPeakBps = 0;
     double readMinBps = 0;
+    bool isWriteMarked = false; ///< the rate is not the disk's
+    bool isReadMarked = false;
+    QString markedLine;    ///< which figures are not the disk's, in one line; "" if none
     QVariantList minor;    ///< InfoItem: random and file operations
-    QVariantList captured; ///< InfoItem: the volume and the settings at the time
+    QVariantList captured; ///< InfoItem: the drive, the volume and the settings at the time
 
     static RunFacts of(const model::RunRecord& run);
 };
+
+/// The drive that a run measured, "Samsung SSD 990 PRO · NVMe"; without what `title` tells already, and "" where
+/// the model is not known.
+QString driveOf(const model::RunRecord& run, const QString& title = {});
 
 /// Gives QML the facts of a run: `Runs.facts(run)`.
 class Runs : public QObject {
@@ -86,6 +118,12 @@ public:
     Q_INVOKABLE static TarnwickKit::views::RunFacts facts(const TarnwickKit::model::RunRecord& run) {
         return RunFacts::of(run);
     }
+    /// What a run's evidence says about its figures, in the order of the record. A remark with impossible
+    /// numbers says nothing and is left out.
+    Q_INVOKABLE static QList<TarnwickKit::views::RemarkItem>
+    remarks(const TarnwickKit::model::RunRecord& run);
+    /// A figure as assistive technology reads it, with the mark that it may have.
+    Q_INVOKABLE static QString spoken(const QString& figure, bool isMarked);
 };
 
 } // namespace TarnwickKit::views

@@ -21,6 +21,7 @@ RowLayout {
         value: headline.facts.writeBps
         peak: headline.facts.writePeakBps
         least: headline.facts.writeMinBps
+        isMarked: headline.facts.isWriteMarked
     }
     Separator {
         Layout.fillHeight: true
@@ -34,6 +35,7 @@ RowLayout {
         value: headline.facts.readBps
         peak: headline.facts.readPeakBps
         least: headline.facts.readMinBps
+        isMarked: headline.facts.isReadMarked
     }
     Separator {
         Layout.fillHeight: true
@@ -55,6 +57,8 @@ RowLayout {
                 width: 220
                 label: modelData.label
                 value: modelData.value
+                isMarked: modelData.warning
+                note: modelData.note
             }
         }
     }

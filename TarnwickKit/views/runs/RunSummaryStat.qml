@@ -11,10 +11,11 @@ Column {
     required property string label
     required property color dot
     required property real value
+    property bool isMarked: false
 
     spacing: 2
     Accessible.role: Accessible.StaticText
-    Accessible.name: label + ": " + figure.text + " MB/s"
+    Accessible.name: label + ": " + Runs.spoken(figure.text + " MB/s", isMarked)
 
     Row {
         spacing: 6
@@ -39,7 +40,7 @@ Column {
         PlainText {
             id: figure
 
-            width: Math.min(implicitWidth, stat.width - unit.width - 3)
+            width: Math.min(implicitWidth, stat.width - unit.width - 3 - (stat.isMarked ? ViewMetrics.markSide + 3 : 0))
             // Before the row is laid out no size fits, and each size that is tried loads a font.
             fontSizeMode: stat.width > 0 ? Text.HorizontalFit : Text.FixedSize
             minimumPixelSize: 7
@@ -56,6 +57,13 @@ Column {
             font: Typeface.text(11)
             color: stat.PaletteKey.palette.text3
             Accessible.ignored: true
+        }
+        OnDemand {
+            active: stat.isMarked
+
+            FigureMark {
+                anchors.verticalCenter: unit.verticalCenter
+            }
         }
     }
 }

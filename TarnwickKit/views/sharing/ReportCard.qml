@@ -73,6 +73,16 @@ ImageCard {
         width: parent.width
         facts: card.facts
     }
+    OnDemand {
+        active: card.facts.markedLine !== ""
+
+        MarkedLine {
+            leftPadding: ViewMetrics.figurePadding
+            bottomPadding: 14
+            words: card.facts.markedLine
+            room: card.width - 2 * (card.margin + ViewMetrics.figurePadding)
+        }
+    }
     Separator {
         width: parent.width
         color: PaletteKey.palette.borderSoft

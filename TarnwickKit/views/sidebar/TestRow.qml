@@ -11,6 +11,7 @@ ToggleButton {
 
     required property string title
     required property string figure
+    property bool isMarked: false
 
     label: title
     corner: 9
@@ -19,13 +20,15 @@ ToggleButton {
     topPadding: 9
     bottomPadding: 9
 
-    detail: figure
+    detail: Runs.spoken(figure, isMarked)
 
     background: Card {
         radius: row.corner
         color: row.on ? row.PaletteKey.palette.sel : "transparent"
     }
     contentItem: RowLayout {
+        id: line
+
         spacing: 11
 
         TickBox {
@@ -47,6 +50,13 @@ ToggleButton {
             color: row.PaletteKey.palette.text
             elide: Text.ElideRight
             Accessible.ignored: true
+        }
+        OnDemand {
+            active: row.isMarked
+
+            FigureMark {
+                Layout.leftMargin: 4 - line.spacing
+            }
         }
         PlainText {
             Layout.leftMargin: 4 - parent.spacing // a smaller gap, so that long titles fit

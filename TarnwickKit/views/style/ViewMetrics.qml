@@ -25,6 +25,9 @@ QtObject {
     /// The width of a rate in a row of runs.
     readonly property int statWidth: 104
     readonly property int chartHeight: 200
+    /// The side of a mark at a figure, and the width of the word for a remark's weight.
+    readonly property int markSide: 14
+    readonly property int weightWidth: 52
     /// The width of a comparison's full bar.
     readonly property int trackWidth: 460
     /// The widths of what stands on a bar's two sides.

@@ -4,11 +4,14 @@
 
 namespace test {
 
-/// A run on an external drive with all fields but a title of its own, and with figures that read well.
+/// A run on an external drive with all fields but a title of its own, evidence and remarks, and with figures
+/// that read well.
 inline TarnwickKit::model::RunRecord fullRun() {
     TarnwickKit::model::RunRecord run = TarnwickKit::model::fullRun(100);
     run.volumeName = QStringLiteral("Backup");
     run.customTitle = std::nullopt;
+    run.evidence = std::nullopt;
+    run.remarks = std::nullopt;
     run.writeBps = 987e6;
     run.writePeakBps = 1150e6;
     run.writeMinBps = 700e6;
