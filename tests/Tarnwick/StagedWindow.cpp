@@ -5,6 +5,7 @@
 ///   partial  health values of two of three disks
 ///   blind    a target on an unknown volume
 ///   stream   a run that reports 50 jagged samples a second for a minute, without I/O
+///   warm     the same with a drive that warms up from 38 to 71 degrees Celsius
 ///   named    all names of the volume and the drive are TEXT; the run takes a second
 
 #include "OndelAppSupport/AppIdentity.h"
@@ -50,22 +51,25 @@ DiskSMART twoOfThree() {
     return smart;
 }
 
-void stream(int samples, const benchmark::ProgressListener& tell, const std::stop_token& stop) {
+void stream(int samples, bool hasSensor, const benchmark::ProgressListener& tell,
+            const std::stop_token& stop) {
     for (int i = 0; i < samples && !stop.stop_requested(); ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
         const double rate = 2e9 * (1 + 0.4 * std::sin(i * 1.7) + 0.2 * std::sin(i * 0.031));
-        tell({BenchmarkTest::sequentialWrite, i * 10'000'000LL, samples * 10'000'000LL, rate, i * 0.02});
+        tell({BenchmarkTest::sequentialWrite, i * 10'000'000LL, samples * 10'000'000LL, rate, i * 0.02,
+              hasSensor ? std::optional(71 - 33 * std::exp(-i * 0.002)) : std::nullopt});
     }
 }
 
 /// A benchmark that only reports samples.
-auto streamedRun(int samples) {
-    return [samples](auto&&, auto&&, const benchmark::ProgressListener& tell, const std::stop_token& stop) {
+auto streamedRun(int samples, bool hasSensor = false) {
+    return [samples, hasSensor](auto&&, auto&&, const benchmark::ProgressListener& tell,
+                                const std::stop_token& stop) {
         QPromise<benchmark::BenchmarkResult> result;
         auto future = result.future();
-        std::thread([samples, tell, stop, result = std::move(result)]() mutable {
+        std::thread([samples, hasSensor, tell, stop, result = std::move(result)]() mutable {
             result.start();
-            stream(samples, tell, stop);
+            stream(samples, hasSensor, tell, stop);
             result.addResult(benchmark::BenchmarkResult{});
             result.finish();
         }).detach();
@@ -117,8 +121,8 @@ AnalyzerServices machine(std::string_view name, const std::string& text) {
     } else if (name == "blind") {
         services.loadVolume = [](const auto&) { return std::nullopt; };
         services.probeCapabilities = [](const auto&) { return std::nullopt; };
-    } else if (name == "stream") {
-        services.runBenchmark = streamedRun(3000);
+    } else if (name == "stream" || name == "warm") {
+        services.runBenchmark = streamedRun(3000, name == "warm");
     } else if (name == "named") {
         nameEverything(services, text);
     }

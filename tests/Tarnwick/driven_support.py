@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Reports, the support note and the About panel in the real window. Usage: driven_support.py PROGRAM"""
+"""Reports, the support note, the About panel and the page about remarks in the real window. Usage: driven_support.py PROGRAM"""
 
 import os
 import pathlib
@@ -10,6 +10,7 @@ import threading
 import urllib.parse
 
 import driver
+import saved_runs
 from driver import check
 
 
@@ -102,6 +103,17 @@ def tells_about(window, home):
     check(window.until("the notices", lambda: opened(home)).endswith("ThirdPartyNotices.txt"), "the notices")
 
 
+def explains_a_mark(window, home):
+    window.find("Read: 432 MB/s, not the disk’s figure", "label")
+    window.find("Write: 412 MB/s", "label")
+    window.press("Backup", "push button")
+    window.find("Sequential Read: 432 MB/s, not the disk’s figure, peak 513 · min 190", "label")
+    check(any(node.get_name().startswith("Invalid: Sequential read: 1 % of ") for node, _ in window.nodes()), "no remark is read")
+    window.press("What these remarks mean")
+    page = pathlib.Path(window.until("the page", lambda: opened(home)))
+    check(page.name == "figures.md" and page.is_file(), f"opened {page}")
+
+
 def ends_beside_dead_proxy_settings(program, home):
     """Proxy settings may name a script on a server. The wait for it cannot be interrupted."""
     silent = socket.create_server(("127.0.0.1", 0))
@@ -130,10 +142,13 @@ def main():
     tool.write_text(f'#!/bin/sh\nexec echo "$@" >"{home}/xdg-open"\n')
     tool.chmod(0o755)
     proxy = Proxy()
+    remark = {"code": "fromMemory", "weight": "invalid", "test": "sequentialRead", "numbers": [0.01]}
+    saved_runs.lay_down([saved_runs.run(1, remarks=[remark])])
     env = {"PATH": f"{tool.parent}:{os.environ['PATH']}", "https_proxy": proxy.address}
     with driver.Window(program, home, env=env) as window:
         reports(window, proxy, home)
         tells_about(window, home)
+        explains_a_mark(window, home)
         window.press("Support on Ko-fi")
         check(window.until("the page", lambda: opened(home)).endswith("/support"), "the support page's address")
         window.gone("Not Now")

@@ -79,6 +79,16 @@ void ThroughputCanvas::setLabelColor(const QColor& color) {
         Q_EMIT colorsChanged();
 }
 
+void ThroughputCanvas::setTemperatures(const QList<QPointF>& temperatures) {
+    if (take(m_content.temperatures, temperatures))
+        Q_EMIT temperaturesChanged();
+}
+
+void ThroughputCanvas::setTemperatureColor(const QColor& color) {
+    if (take(m_content.temperature, color))
+        Q_EMIT colorsChanged();
+}
+
 /// A live chart that is scrolled back into view is updated by the next sample, a fraction of a second later.
 bool ThroughputCanvas::canWait() const { return isLive() && clipRect().isEmpty(); }
 

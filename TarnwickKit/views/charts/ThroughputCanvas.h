@@ -24,6 +24,9 @@ class ThroughputCanvas : public OndelControls::ImageItem {
     Q_PROPERTY(bool live READ isLive WRITE setLive NOTIFY liveChanged)
     Q_PROPERTY(QColor gridColor READ gridColor WRITE setGridColor NOTIFY colorsChanged)
     Q_PROPERTY(QColor labelColor READ labelColor WRITE setLabelColor NOTIFY colorsChanged)
+    /// Drawn as a thin line on a scale of its own. Units: seconds and degrees Celsius.
+    Q_PROPERTY(QList<QPointF> temperatures READ temperatures WRITE setTemperatures NOTIFY temperaturesChanged)
+    Q_PROPERTY(QColor temperatureColor READ temperatureColor WRITE setTemperatureColor NOTIFY colorsChanged)
     /// While live it changes at most once per second.
     Q_PROPERTY(QString summary READ summary NOTIFY summaryChanged)
 
@@ -38,6 +41,11 @@ public:
     void setGridColor(const QColor& color);
     QColor labelColor() const { return m_content.label; }
     void setLabelColor(const QColor& color);
+    const QList<QPointF>& temperatures() const { return m_content.temperatures; }
+    void setTemperatures(const QList<QPointF>& temperatures);
+    Q_SIGNAL void temperaturesChanged();
+    QColor temperatureColor() const { return m_content.temperature; }
+    void setTemperatureColor(const QColor& color);
     Q_SIGNAL void colorsChanged();
     QString summary() const { return throughputSummary(m_series); }
     Q_SIGNAL void summaryChanged();

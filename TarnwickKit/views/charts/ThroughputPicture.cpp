@@ -32,6 +32,8 @@ QFont fontFor(const QString& text, double room) {
     return font;
 }
 
+QString degrees(double celsius) { return QString::number(celsius) + QStringLiteral(" °C"); }
+
 /// The area's opacity over a row: full at the curve's highest point and above, none at the floor.
 double fade(int row, double highest, double floor) {
     return floor > highest ? std::clamp((floor - (row + 0.5)) / (floor - highest), 0.0, 1.0) : 0;
@@ -71,7 +73,11 @@ QImage ThroughputPicture::paint(const ThroughputContent& content, QSizeF size, d
 
     const int changedFrom = addPoints(content);
     compose(startsAnew ? 0 : changedFrom);
+    if (startsAnew || m_temperaturePoints != content.temperatures)
+        paintTemperatures(content);
     QImage picture = m_picture;
+    if (!m_temperatures.isNull())
+        QPainter(&picture).drawImage(0, 0, m_temperatures);
     if (!content.live)
         *this = {}; // a finished run does not grow, and the coverages of a wide chart take megabytes
     return picture;
@@ -79,7 +85,8 @@ QImage ThroughputPicture::paint(const ThroughputContent& content, QSizeF size, d
 
 /// Whether the content is that of the last picture, or more of it.
 bool ThroughputPicture::continuesLast(const ThroughputContent& content, QSizeF size, double scale) const {
-    if (size != m_size || scale != m_scale || content.grid != m_gridColor || content.label != m_labelColor)
+    if (size != m_size || scale != m_scale || content.grid != m_gridColor || content.label != m_labelColor ||
+        content.temperature != m_temperatureColor)
         return false;
     return std::ranges::equal(content.curves, m_curves, [](const ChartCurve& now, const Drawn& drawn) {
         return now.color == drawn.color && now.fill == drawn.fill && now.unchanged == drawn.count;
@@ -104,6 +111,7 @@ void ThroughputPicture::begin(const ThroughputContent& content, QSizeF size, dou
     m_axes = axes;
     m_gridColor = content.grid;
     m_labelColor = content.label;
+    m_temperatureColor = content.temperature;
 
     const QSize pixels = inPixels(size, scale);
     const ThroughputPlot plot{size, axes};
@@ -157,6 +165,31 @@ void ThroughputPicture::paintGrid(const ThroughputPlot& plot) {
     for (std::size_t i = 0; i < times.size(); ++i)
         drawLabel(painter, seconds(times[i]), {plot.x(times[i]), plot.floor() + 12},
                   static_cast<double>(i) / 2);
+}
+
+/// A degree has the same height in every chart: the grid's lines are 20 degrees apart.
+void ThroughputPicture::paintTemperatures(const ThroughputContent& content) {
+    constexpr double top = 100;
+    m_temperaturePoints = content.temperatures;
+    m_temperatures = {};
+    if (content.temperatures.isEmpty())
+        return;
+    const ThroughputPlot plot{m_size, *m_axes};
+    QPolygonF line;
+    for (const QPointF& point : content.temperatures)
+        line << QPointF(plot.x(std::min(point.x(), m_axes->xTop)),
+                        plot.floor() - std::clamp(point.y() / top, 0.0, 1.0) * plot.height());
+    m_temperatures = QImage(m_picture.size(), m_picture.format());
+    m_temperatures.setDevicePixelRatio(m_scale);
+    m_temperatures.fill(Qt::transparent);
+    QPainter painter(&m_temperatures);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(content.temperature, temperatureWidth));
+    painter.drawPolyline(line);
+    painter.setFont(Typeface::mono(9));
+    const double end = ThroughputPlot::left + plot.width();
+    drawLabel(painter, degrees(top), {end, plot.gridLine(0) + 8}, 1);
+    drawLabel(painter, degrees(0), {end, plot.floor() - 8}, 1);
 }
 
 void ThroughputPicture::compose(int fromColumn) {

@@ -27,7 +27,9 @@ struct ChartCurve {
 /// What a throughput chart shows.
 struct ThroughputContent {
     std::vector<ChartCurve> curves; ///< later ones lie above earlier ones, lines above all areas
+    QList<QPointF> temperatures;    ///< seconds and degrees Celsius
     bool live = false;
+    QColor temperature;
     QColor grid;
     QColor label;
 };
@@ -38,6 +40,7 @@ struct ThroughputContent {
 class ThroughputPicture {
 public:
     static constexpr double lineWidth = 2.2; ///< logical pixels
+    static constexpr double temperatureWidth = 1.2;
 
     /// Units: `size` in logical pixels, `scale` device pixels per logical one.
     QImage paint(const ThroughputContent& content, QSizeF size, double scale);
@@ -59,14 +62,20 @@ private:
     void paintGrid(const ThroughputPlot& plot);
     int addPoints(const ThroughputContent& content);
     void compose(int fromColumn);
+    void paintTemperatures(const ThroughputContent& content);
 
     QSizeF m_size;
     double m_scale = 0;
     QColor m_gridColor;
     QColor m_labelColor;
+    QColor m_temperatureColor;
     std::optional<ThroughputScale> m_axes;
     std::vector<Drawn> m_curves;
     QImage m_grid;
+    /// The temperatures as last painted, and for what. There is one a second, and the curves grow far more
+    /// often.
+    QImage m_temperatures;
+    QList<QPointF> m_temperaturePoints;
     QImage m_picture;
 };
 

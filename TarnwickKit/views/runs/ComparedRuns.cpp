@@ -39,14 +39,14 @@ QVariantList ComparedRuns::metrics(double trackWidth) const {
         ComparedMetric group{.label = metric.label, .unit = metric.unit, .bars = {}};
         const auto bars = ComparisonChart::bars(metric, runs, trackWidth);
         for (std::size_t i = 0; i < bars.size(); ++i)
-            group.bars << QVariant::fromValue(
-                ComparedBar{.length = bars[i].length.value_or(0),
-                            .text = bars[i].text,
-                            .isMarked = bars[i].isInvalid,
-                            .sentence = Runs::spoken(QStringLiteral("%1, %2: %3 %4")
-                                                         .arg(metric.label, legible(runs[i].screenshotTitle()),
-                                                              bars[i].text, metric.unit),
-                                                     bars[i].isInvalid)});
+            group.bars << QVariant::fromValue(ComparedBar{
+                .length = bars[i].length.value_or(0),
+                .text = bars[i].text,
+                .isMarked = bars[i].isInvalid,
+                .sentence = Runs::spoken(
+                    QStringLiteral("%1, %2: %3 %4")
+                        .arg(metric.label, legible(runs[i].screenshotTitle()), bars[i].text, metric.unit),
+                    bars[i].isInvalid)});
         all << QVariant::fromValue(group);
     }
     return all;

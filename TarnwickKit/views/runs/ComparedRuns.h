@@ -24,7 +24,7 @@ public:
     double length = 0; ///< logical pixels; 0 without a bar
     QString text;
     bool isMarked = false; ///< the figure is not the disk's
-    QString sentence; ///< the same for assistive technology
+    QString sentence;      ///< the same for assistive technology
 
     bool operator==(const ComparedBar&) const = default;
 };

@@ -32,6 +32,7 @@ void LiveRun::setAnalyzer(AnalyzerModel* analyzer) {
         const auto note = [this] { m_hasNews = true; };
         connect(analyzer, &AnalyzerModel::liveSamplesChanged, this, note);
         connect(analyzer, &AnalyzerModel::progressChanged, this, note);
+        connect(analyzer, &AnalyzerModel::liveTemperaturesChanged, this, note);
         // Each run and each test announces itself here. It is read at once: the curve of one test must not be
         // seen in the colours of the next.
         connect(analyzer, &AnalyzerModel::liveTestChanged, this, [this] {
@@ -57,6 +58,7 @@ void LiveRun::read() {
     m_completedBytes = m_analyzer ? static_cast<double>(m_analyzer->completedBytes()) : 0;
     m_totalBytes = m_analyzer ? static_cast<double>(m_analyzer->totalBytes()) : 0;
     readPoints();
+    readTemperatures();
     Q_EMIT moved();
 }
 
@@ -79,6 +81,17 @@ void LiveRun::readPoints() {
         m_points.append(tail);
         Q_EMIT grown(tail);
     }
+}
+
+/// There is about one a second.
+void LiveRun::readTemperatures() {
+    QList<QPointF> temperatures;
+    if (m_analyzer)
+        for (const auto& [elapsed, celsius] : m_analyzer->liveTemperatures())
+            temperatures.append({elapsed, celsius});
+    if (temperatures == std::exchange(m_temperatures, temperatures))
+        return;
+    Q_EMIT warmed();
 }
 
 } // namespace TarnwickKit::views

@@ -7,6 +7,7 @@
 #include <QPointF>
 #include <QQmlEngine>
 #include <QTimer>
+#include <QtNumeric>
 
 namespace TarnwickKit::views {
 
@@ -21,6 +22,10 @@ class LiveRun : public QObject {
         TarnwickKit::model::AnalyzerModel* analyzer READ analyzer WRITE setAnalyzer NOTIFY analyzerChanged)
     Q_PROPERTY(double completedBytes READ completedBytes NOTIFY moved)
     Q_PROPERTY(double totalBytes READ totalBytes NOTIFY moved)
+    /// The hottest drive's temperature now; NaN without a sensor. Units: degrees Celsius.
+    Q_PROPERTY(double celsius READ celsius NOTIFY warmed)
+    /// How it went during the running test. Units: seconds and degrees Celsius.
+    Q_PROPERTY(QList<QPointF> temperatures READ temperatures NOTIFY warmed)
     /// Counts up at a constant rate, also while no progress is reported.
     Q_PROPERTY(int beat READ beat NOTIFY beatChanged)
 
@@ -42,6 +47,10 @@ public:
     /// The points are others: another run or test, or the model has thinned its samples.
     Q_SIGNAL void restarted();
 
+    double celsius() const { return m_temperatures.isEmpty() ? qQNaN() : m_temperatures.last().y(); }
+    const QList<QPointF>& temperatures() const { return m_temperatures; }
+    Q_SIGNAL void warmed();
+
     int beat() const { return m_beat; }
     Q_SIGNAL void beatChanged();
 
@@ -49,6 +58,7 @@ private:
     void tick();
     void read();
     void readPoints();
+    void readTemperatures();
 
     ModelObserver m_analyzer;
     QTimer m_clock;
@@ -60,6 +70,7 @@ private:
     double m_totalBytes = 0;
     QList<QPointF> m_points;
     OndelCore::benchmark::ThroughputSample m_lastSample; ///< that of the last point
+    QList<QPointF> m_temperatures;
 };
 
 } // namespace TarnwickKit::views

@@ -50,10 +50,27 @@ CardFrame {
             to: Math.max(1, live.totalBytes)
             value: live.completedBytes
         }
-        PlainText {
-            text: qsTr("%1 of %2").arg(Format.bytes(live.completedBytes)).arg(Format.bytes(live.totalBytes))
-            font: Typeface.mono(11)
-            color: PaletteKey.palette.text3
+        RowLayout {
+            PlainText {
+                Layout.fillWidth: true
+                text: qsTr("%1 of %2").arg(Format.bytes(live.completedBytes)).arg(Format.bytes(live.totalBytes))
+                horizontalAlignment: Text.AlignLeft
+                font: Typeface.mono(11)
+                color: PaletteKey.palette.text3
+            }
+            OnDemand {
+                active: live.temperatures.length > 0
+
+                LegendItem {
+                    id: drive
+
+                    Layout.maximumHeight: 14
+                    color: PaletteKey.palette.text2
+                    label: qsTr("Drive %1 °C").arg(Math.round(live.celsius))
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: drive.label
+                }
+            }
         }
         ThroughputChart {
             id: chart
@@ -63,6 +80,8 @@ CardFrame {
             Layout.fillWidth: true
             Layout.preferredHeight: ViewMetrics.chartHeight
             live: true
+            temperatures: live.temperatures
+            temperatureColor: PaletteKey.palette.text2
 
             LiveSeries {
                 run: live

@@ -55,7 +55,8 @@ QString lineOfMarks(const RunRecord& run) {
             titles << testTitle(metric.test, run);
     if (titles.isEmpty())
         return {};
-    return (titles.size() == 1 ? Runs::tr("Not the disk’s figure: %1") : Runs::tr("Not the disk’s figures: %1"))
+    return (titles.size() == 1 ? Runs::tr("Not the disk’s figure: %1")
+                               : Runs::tr("Not the disk’s figures: %1"))
         .arg(titles.join(QStringLiteral(", ")));
 }
 
@@ -157,8 +158,9 @@ QList<RemarkItem> Runs::remarks(const RunRecord& run) {
         items << RemarkItem{.weight = static_cast<int>(remark.weight),
                             .word = model::remarkWeightWord(remark.weight),
                             .symbol = symbolOf(remark.weight),
-                            .sentence = remark.test ? testTitle(*remark.test, run) + QStringLiteral(": ") + sentence
-                                                    : sentence,
+                            .sentence = remark.test
+                                            ? testTitle(*remark.test, run) + QStringLiteral(": ") + sentence
+                                            : sentence,
                             .advice = model::remarkAdvice(remark)};
     }
     return items;

@@ -105,8 +105,8 @@ public:
     static RunFacts of(const model::RunRecord& run);
 };
 
-/// The drive that a run measured, "Samsung SSD 990 PRO · NVMe"; without what `title` tells already, and "" where
-/// the model is not known.
+/// The drive that a run measured, "Samsung SSD 990 PRO · NVMe"; without what `title` tells already, and ""
+/// where the model is not known.
 QString driveOf(const model::RunRecord& run, const QString& title = {});
 
 /// Gives QML the facts of a run: `Runs.facts(run)`.

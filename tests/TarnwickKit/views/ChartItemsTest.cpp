@@ -100,6 +100,34 @@ TEST(ThroughputChart, DrawsAppendedPointsLikeAWholeCurve) {
     EXPECT_EQ(stage.picture(), whole(points));
 }
 
+TEST(ThroughputChart, DrawsTemperaturesOnAScaleOfTheirOwn) {
+    const auto chart = [](double rate, const QList<QPointF>& temperatures) {
+        return std::make_unique<test::Stage>(
+            "ThroughputChart { width: 300; height: 228; live: true; temperatureColor: 'blue'\n"
+            "ChartSeries { points: [Qt.point(0, " +
+                QByteArray::number(rate) + "), Qt.point(4, 10)] } }",
+            QVariantMap{{"temperatures", QVariant::fromValue(temperatures)}});
+    };
+    const QPoint at60(100, 8 + 80); // the plot begins at 8 and is 200 high
+    EXPECT_FALSE(shows(chart(100, {})->picture(), Qt::blue));
+    for (const double rate : {100.0, 9000.0}) {
+        const QImage image = chart(rate, {{0, 60}, {4, 60}})->picture();
+        const QColor middle = image.pixelColor(at60);
+        EXPECT_GT(middle.blue(), middle.red() + 60) << rate;
+        EXPECT_LT(image.pixelColor(at60 + QPoint(0, 5)).blue(), 60) << rate;
+    }
+    // Nothing is drawn beyond the plot, and what comes with a later sample looks as if it had been there.
+    const QImage beyond = chart(100, {{0, 150}, {2, -30}, {99, 400}})->picture();
+    EXPECT_EQ(beyond.copy(0, 0, 300, 7), chart(100, {})->picture().copy(0, 0, 300, 7));
+    const auto grown = chart(100, {{0, 60}});
+    grown->picture();
+    const QList<QPointF> both{{0, 60}, {4, 80}};
+    grown->root().setProperty("temperatures", QVariant::fromValue(both));
+    EXPECT_EQ(grown->picture(), chart(100, both)->picture());
+    grown->root().setProperty("temperatures", QVariant::fromValue(QList<QPointF>()));
+    EXPECT_EQ(grown->picture(), chart(100, {})->picture());
+}
+
 TEST(ThroughputChart, IsNotPaintedOutOfSight) {
     test::Stage stage(R"(Item { width: 300; height: 100; clip: true
         Item { objectName: "content"; height: 1000

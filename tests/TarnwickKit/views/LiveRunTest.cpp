@@ -72,4 +72,25 @@ TEST(LiveRun, PassesOnOnlyTheNewPoints) {
     EXPECT_EQ(watched.update(), "restarted 1999") << "the first sample is kept when others are dropped";
 }
 
+TEST(LiveRun, PassesOnTheTemperatures) {
+    Watched watched;
+    int warmed = 0;
+    QObject::connect(&watched.run, &LiveRun::warmed, &watched.run, [&warmed] { ++warmed; });
+    watched.measure(BenchmarkTest::sequentialWrite, 0, 50);
+    watched.update();
+    EXPECT_TRUE(std::isnan(watched.run.celsius()));
+    EXPECT_EQ(warmed, 0);
+    for (const double celsius : {40.0, 40.0, 41.5}) {
+        BenchmarkProgress progress{.test = BenchmarkTest::sequentialWrite, .elapsed = 1, .celsius = celsius};
+        watched.model.apply(progress);
+    }
+    watched.update();
+    EXPECT_EQ(watched.run.temperatures(), (QList<QPointF>{{1, 40}, {1, 41.5}}));
+    EXPECT_EQ(watched.run.celsius(), 41.5);
+    watched.measure(BenchmarkTest::sequentialRead, 0, 1);
+    watched.update();
+    EXPECT_TRUE(watched.run.temperatures().isEmpty());
+    EXPECT_EQ(warmed, 2);
+}
+
 } // namespace

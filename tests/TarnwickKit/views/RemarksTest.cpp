@@ -109,10 +109,11 @@ TEST(RunFacts, NameTheDriveOnce) {
 }
 
 TEST(Remarks, AreToldInTheRecordsOrder) {
-    const RunRecord run = runWith({fromMemory(BenchmarkTest::randomRead),
-                                   {RemarkCode::fromMemory, RemarkWeight::invalid, BenchmarkTest::fileOps, {7}},
-                                   {RemarkCode::powerSaving, RemarkWeight::caution, std::nullopt, {1}},
-                                   {RemarkCode::copiesOnWrite, RemarkWeight::note, std::nullopt, {1}}});
+    const RunRecord run =
+        runWith({fromMemory(BenchmarkTest::randomRead),
+                 {RemarkCode::fromMemory, RemarkWeight::invalid, BenchmarkTest::fileOps, {7}},
+                 {RemarkCode::powerSaving, RemarkWeight::caution, std::nullopt, {1}},
+                 {RemarkCode::copiesOnWrite, RemarkWeight::note, std::nullopt, {1}}});
     const QList<RemarkItem> remarks = Runs::remarks(run);
     ASSERT_EQ(remarks.size(), 3) << "the one with an impossible number is left out";
     EXPECT_TRUE(remarks[0].sentence.startsWith("Random read (16 KiB): 25 % of"));
@@ -125,8 +126,8 @@ TEST(Remarks, AreToldInTheRecordsOrder) {
 
 TEST(RunRemarks, FitIntoTheirCard) {
     test::Stage stage("RunRemarks { width: 300 }",
-                      {{"remarks", QVariant::fromValue(Runs::remarks(runWith(
-                                       {64, fromMemory(BenchmarkTest::randomRead)})))}});
+                      {{"remarks", QVariant::fromValue(Runs::remarks(
+                                       runWith({64, fromMemory(BenchmarkTest::randomRead)})))}});
     stage.picture();
     const QStringList all = texts(stage.root());
     EXPECT_EQ(all.count(QStringLiteral("Invalid")), 64);

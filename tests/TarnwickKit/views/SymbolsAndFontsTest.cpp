@@ -24,12 +24,13 @@ int ink(const QImage& image) {
 
 TEST(Symbols, EachHasADrawing) {
     const QStringList names =
-        QStringLiteral("chart.bar.xaxis checkmark checkmark.circle.fill checkmark.seal.fill "
-                       "checkmark.shield.fill chevron.down chevron.right chevron.up chevron.up.chevron.down "
-                       "circle ellipsis exclamationmark.octagon.fill exclamationmark.triangle.fill externaldrive "
-                       "externaldrive.connected.to.line.below folder "
-                       "gauge.with.dots.needle.bottom.50percent heart.fill info.circle internaldrive "
-                       "ladybug pencil play.fill square.and.arrow.up stop.fill trash xmark")
+        QStringLiteral(
+            "chart.bar.xaxis checkmark checkmark.circle.fill checkmark.seal.fill "
+            "checkmark.shield.fill chevron.down chevron.right chevron.up chevron.up.chevron.down "
+            "circle ellipsis exclamationmark.octagon.fill exclamationmark.triangle.fill externaldrive "
+            "externaldrive.connected.to.line.below folder "
+            "gauge.with.dots.needle.bottom.50percent heart.fill info.circle internaldrive "
+            "ladybug pencil play.fill square.and.arrow.up stop.fill trash xmark")
             .split(u' ');
     std::set<QByteArray> drawings;
     for (const QString& symbol : names) {
