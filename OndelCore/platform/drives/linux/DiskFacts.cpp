@@ -32,7 +32,7 @@ std::optional<bool> anyOf(const std::vector<BlockDevice>& disks, Question questi
 
 std::optional<bool> isRotational(const BlockDevice& disk) {
     const auto value = readNumber(disk.folder / "queue/rotational");
-    if ((value != 0 && value != 1) || isFile(disk) || isOfVirtualMachine(disk))
+    if (!value || *value < 0 || *value > 1 || isFile(disk) || isOfVirtualMachine(disk))
         return std::nullopt;
     // The kernel takes a disk for a rotating one until the disk denies it, and USB bridges rarely pass that
     // on.

@@ -86,7 +86,7 @@ std::optional<AtaPort> ataPortOf(const BlockDevice& disk) {
     fs::path folder;
     for (const fs::path& part : disk.folder) {
         folder /= part;
-        const std::string name = part.native();
+        const std::string& name = part.native();
         if (name.size() > 3 && name.starts_with("ata") &&
             name.find_first_not_of("0123456789", 3) == std::string::npos)
             return AtaPort{folder, name.substr(3)};

@@ -68,6 +68,9 @@ std::vector<Mount> mounts(const std::filesystem::path& table) {
 }
 
 struct MountTable::Reading {
+    explicit Reading(std::filesystem::path path)
+        : file(std::move(path)) {}
+
     std::filesystem::path file;
     std::once_flag isRead{};
     std::vector<Mount> mounts{};
