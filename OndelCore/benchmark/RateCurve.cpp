@@ -7,6 +7,7 @@ namespace OndelCore::benchmark {
 
 namespace {
 
+constexpr double step = 0.2 - 1e-6; // seconds; less than the times of its samples may be off by rounding
 constexpr std::size_t leastLevelSamples = 5; // of each level
 constexpr double leastSecondsBefore = 1;
 constexpr double leastSecondsAfter = 3;
@@ -62,12 +63,22 @@ std::size_t RateCurve::firstFrom(double time) const {
     return interval;
 }
 
+std::size_t RateCurve::endOfStep(std::size_t begin, std::size_t end) const {
+    std::size_t next = begin + 1;
+    // What would be left and too short for a step of its own goes with this one.
+    while (next < end && (duration(begin, next) < step || duration(next, end) < step))
+        ++next;
+    return next;
+}
+
 double RateCurve::spread(std::size_t first, std::size_t end) const {
     const double middle = rate(first, end);
     double squares = 0;
-    for (std::size_t interval = first; interval < end; ++interval) {
-        const double distance = rate(interval, interval + 1) - middle;
-        squares += distance * distance * duration(interval, interval + 1);
+    for (std::size_t begin = first; begin < end;) {
+        const std::size_t next = endOfStep(begin, end);
+        const double distance = rate(begin, next) - middle;
+        squares += distance * distance * duration(begin, next);
+        begin = next;
     }
     return std::sqrt(squares / duration(first, end));
 }

@@ -26,12 +26,16 @@ public:
     double duration(std::size_t first, std::size_t end) const { return endOf(end - 1) - beginOf(first); }
     double bytes(std::size_t first, std::size_t end) const { return m_bytes[end] - m_bytes[first]; }
     double rate(std::size_t first, std::size_t end) const { return bytes(first, end) / duration(first, end); }
-    /// The standard deviation of the rate.
+    /// The standard deviation of the rate, of means over a fifth of a second where intervals are shorter:
+    /// disks and throttles take their load in bursts.
     double spread(std::size_t first, std::size_t end) const;
     /// How much the straight line that fits them best rises from their begin to their end; negative: falls.
     double trend(std::size_t first, std::size_t end) const;
 
 private:
+    /// Where a step that begins with the interval `begin` ends, at `end` at the latest.
+    std::size_t endOfStep(std::size_t begin, std::size_t end) const;
+
     std::vector<double> m_ends;
     std::vector<double> m_bytes{0}; ///< moved before each interval, and at last all
 };

@@ -460,6 +460,22 @@ TEST(SpeedFall, TellsBothLevelsAndWhatWentBefore) {
     EXPECT_EQ(told(run), "speedFell caution sequentialWrite 1e+09 3e+08 1e+10");
 }
 
+TEST(SpeedFall, IsSeenThroughBursts) {
+    // A throttle lets a little through at once and then waits.
+    std::vector<ThroughputSample> samples;
+    for (int i = 0; i < 100; ++i) {
+        const double rate = i < 35 ? 2e8 : 5e7;
+        samples.push_back({i * 0.1 + 0.02, 4 * rate});
+        samples.push_back({i * 0.1 + 0.1, 0.25 * rate});
+    }
+    const auto fall = speedFall(RateCurve(samples));
+    ASSERT_TRUE(fall);
+    EXPECT_NEAR(fall->before, 2e8, 1e7);
+    EXPECT_NEAR(fall->after, 5e7, 2e6);
+    EXPECT_NEAR(fall->bytesBefore, 7e8, 2e7);
+    EXPECT_FALSE(speedFall(RateCurve({samples.begin(), samples.begin() + 70})));
+}
+
 TEST(SpeedFall, IsNotSeenInSamplesThatMakeNoSense) {
     auto samples = curve(20, [](double t) { return t < 10 ? 1e9 : 3e8; });
     for (const ThroughputSample nonsense :
