@@ -42,9 +42,10 @@ LoopMount::LoopMount(const std::string& type, std::int64_t bytes, const std::str
         options << "loop";
         m_problem = complaintOf("mkfs." + fileSystem, formatOptions + QStringList{source});
     }
+    // A kernel may know these too; what is meant are the programs, which Debian's users meet.
+    const QString driver = type == "exfat" ? "exfat-fuse" : type == "ntfs" ? "ntfs-3g" : fileSystem;
     if (m_problem.empty())
-        m_problem = complaintOf("mount", {"-t", type == "exfat" ? "exfat-fuse" : fileSystem, "-o",
-                                          options.join(','), source, mountPoint});
+        m_problem = complaintOf("mount", {"-t", driver, "-o", options.join(','), source, mountPoint});
 }
 
 LoopMount::~LoopMount() {
