@@ -104,6 +104,7 @@ def tells_about(window, home):
 
 
 def explains_a_mark(window, home):
+    window.resize(1180, 1200)
     window.find("Read: 432 MB/s, not the disk’s figure", "label")
     window.find("Write: 412 MB/s", "label")
     window.press("Backup", "push button")
@@ -135,7 +136,7 @@ def ends_beside_dead_proxy_settings(program, home):
 
 def main():
     program = pathlib.Path(sys.argv[1])
-    driver.enter_display()
+    driver.enter_display(1400, 1300)
     home = pathlib.Path(os.environ["HOME"])
     tool = home / "bin" / "xdg-open"
     tool.parent.mkdir()

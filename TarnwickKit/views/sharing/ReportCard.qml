@@ -76,11 +76,18 @@ ImageCard {
     OnDemand {
         active: card.facts.markedLine !== ""
 
-        MarkedLine {
-            leftPadding: ViewMetrics.figurePadding
-            bottomPadding: 14
-            words: card.facts.markedLine
-            room: card.width - 2 * (card.margin + ViewMetrics.figurePadding)
+        Column {
+            Separator {
+                width: card.width - 2 * card.margin
+                color: PaletteKey.palette.borderSoft
+            }
+            MarkedLine {
+                leftPadding: ViewMetrics.figurePadding
+                topPadding: 11
+                bottomPadding: 11
+                words: card.facts.markedLine
+                room: card.width - 2 * (card.margin + ViewMetrics.figurePadding)
+            }
         }
     }
     Separator {

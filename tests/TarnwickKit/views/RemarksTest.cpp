@@ -3,6 +3,7 @@
 #include "TarnwickKit/views/runs/ComparedRuns.h"
 #include "TarnwickKit/views/runs/RunFacts.h"
 #include "TarnwickKit/views/sharing/CardView.h"
+#include "tests/TarnwickKit/model/ModelHarness.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 #include "tests/TarnwickKit/views/Runs.h"
 
@@ -134,6 +135,40 @@ TEST(RunRemarks, FitIntoTheirCard) {
     EXPECT_TRUE(all.contains(QStringLiteral("About these figures")));
     EXPECT_GT(stage.root().height(), 64 * 50) << "sentence and advice are wrapped";
     EXPECT_LE(stage.root().childrenRect().right(), 300);
+}
+
+/// The heights of the marks in `item`, from its top.
+QList<double> marksIn(const QQuickItem& item, const QQuickItem& within) {
+    QList<double> heights;
+    if (QByteArrayView(within.metaObject()->className()).startsWith("FigureMark_"))
+        heights << within.mapToItem(&item, QPointF()).y();
+    for (const QQuickItem* child : within.childItems())
+        heights << marksIn(item, *child);
+    return heights;
+}
+
+TEST(SidebarView, MarksTheFiguresOfTheLastRun) {
+    TarnwickKit::model::Engine engine;
+    TarnwickKit::model::AnalyzerModel model(engine.services());
+    model.select(std::filesystem::path("/"));
+    test::Stage stage(
+        "SidebarView { width: 272; height: 700; target: TargetFacts {} keeper: FocusKeeper {} }",
+        {{"analyzer", QVariant::fromValue(&model)}});
+    const auto measured = [&](std::optional<std::error_code> flushError) {
+        engine.begin(model);
+        OndelCore::benchmark::BenchmarkResult result;
+        result.sequentialRead.emplace().bytesProcessed = 1;
+        result.randomWrite.emplace().flushError = flushError;
+        engine.last().finish(result);
+        TarnwickKit::model::turnUntil([&model] { return !model.isRunning(); });
+        stage.picture();
+        return marksIn(stage.root(), stage.root());
+    };
+    EXPECT_EQ(measured(std::nullopt).size(), 0);
+    const QList<double> marks = measured(std::make_error_code(std::errc::io_error));
+    ASSERT_EQ(marks.size(), 1);
+    EXPECT_NEAR(marks[0], 18 + 29 + 3 * 39 + 12, 8) << "the fourth row";
+    EXPECT_EQ(measured(std::nullopt).size(), 0);
 }
 
 TEST(ReportCard, SaysInALineWhatItsMarksMean) {
