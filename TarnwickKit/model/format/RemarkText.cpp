@@ -41,8 +41,12 @@ public:
     QString block(std::size_t index) const { return Format::block(wholeNumber(number(index))); }
     QString rate(std::size_t index) const { return Format::rate(number(index)); }
     QString count(std::size_t index) const { return Format::grouped(number(index)); }
-    /// Rounded down, so that what is below 90 % never reads as that.
     QString percent(std::size_t index) const { return Format::grouped(number(index) * 100 + 1e-9) + u" %"_s; }
+    /// Rounded up, for a share that is at most so much.
+    QString atMost(std::size_t index) const {
+        const double percents = std::ceil(number(index) * 100 - 1e-9);
+        return (percents > 0 ? u"At most "_s : QString()) + Format::grouped(percents) + u" %"_s;
+    }
     QString celsius(std::size_t index) const { return Format::grouped(std::round(number(index))) + u" °C"_s; }
     QString seconds(std::size_t index) const { return Format::decimals(number(index), 1) + u" s"_s; }
     /// Of a link: "480 Mbit/s", "5.0 Gbit/s".
@@ -56,12 +60,13 @@ private:
     const Remark& m_remark;
 };
 
+/// "At most", because the disk's counters hold what others moved as well.
 QString fromMemory(const Spelled& remark) {
     if (!remark.hasTest() || remark.number(0) > 1)
         return {};
     return remark.isWrite()
-               ? u"%1 of what was written reached the disk during the test."_s.arg(remark.percent(0))
-               : u"%1 of what was read came from the disk."_s.arg(remark.percent(0));
+               ? u"%1 of what was written reached the disk during the test."_s.arg(remark.atMost(0))
+               : u"%1 of what was read came from the disk."_s.arg(remark.atMost(0));
 }
 
 QString flushFailed(const Spelled& remark) {
@@ -167,8 +172,8 @@ constexpr std::array words{
           u"The disk behind this volume cannot be seen, so nothing shows what it did itself.", u""},
     Words{RemarkCode::inMemory, nullptr, u"This volume keeps its files in memory; no disk was measured.",
           u"Choose a folder on a disk."},
-    Words{RemarkCode::fileOnDisk, nullptr, u"This volume is a file on another disk.",
-          u"To measure that disk itself, choose a folder on it."},
+    Words{RemarkCode::fileOnDisk, nullptr, u"This volume is a file on another volume.",
+          u"To measure that volume itself, choose a folder on it."},
     Words{RemarkCode::virtualDisk, nullptr, u"The disk is one of a virtual machine, whose host may cache it.",
           u""},
     Words{RemarkCode::compresses, nullptr,
