@@ -12,7 +12,7 @@ CardFrame {
     required property AnalyzerModel analyzer
     required property runRecord run
     readonly property runFacts facts: Runs.facts(run)
-    readonly property list<remarkItem> remarks: Runs.remarks(run)
+    readonly property bool hasRemarks: Runs.hasRemarks(run)
 
     signal collapse
     signal remove
@@ -79,14 +79,14 @@ CardFrame {
 
         Layout.fillWidth: true
         facts: pane.facts
-        corner: pane.remarks.length > 0 ? 0 : ViewMetrics.cardCorner
+        corner: pane.hasRemarks ? 0 : ViewMetrics.cardCorner
     }
     OnDemand {
-        active: pane.remarks.length > 0
+        active: pane.hasRemarks
 
         RunRemarks {
             Layout.fillWidth: true
-            remarks: pane.remarks
+            run: pane.run
         }
     }
 

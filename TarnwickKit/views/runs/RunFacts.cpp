@@ -149,7 +149,7 @@ QString driveOf(const RunRecord& run, const QString& title) {
     return names.join(dot);
 }
 
-QList<RemarkItem> Runs::remarks(const RunRecord& run) {
+QList<RemarkItem> remarkItems(const RunRecord& run) {
     QList<RemarkItem> items;
     for (const Remark& remark : run.remarks.value_or(std::vector<Remark>())) {
         const QString sentence = model::remarkSentence(remark);
@@ -165,6 +165,15 @@ QList<RemarkItem> Runs::remarks(const RunRecord& run) {
     }
     return items;
 }
+
+QVariantList Runs::remarks(const RunRecord& run) {
+    QVariantList items;
+    for (const RemarkItem& item : remarkItems(run))
+        items << QVariant::fromValue(item);
+    return items;
+}
+
+bool Runs::hasRemarks(const RunRecord& run) { return !remarkItems(run).isEmpty(); }
 
 QString Runs::spoken(const QString& figure, bool isMarked) {
     return isMarked ? tr("%1, not the disk’s figure").arg(figure) : figure;

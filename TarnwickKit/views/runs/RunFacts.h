@@ -109,6 +109,10 @@ public:
 /// where the model is not known.
 QString driveOf(const model::RunRecord& run, const QString& title = {});
 
+/// What a run's evidence says about its figures, in the order of the record. A remark with impossible numbers
+/// says nothing and is left out.
+QList<RemarkItem> remarkItems(const model::RunRecord& run);
+
 /// Gives QML the facts of a run: `Runs.facts(run)`.
 class Runs : public QObject {
     Q_OBJECT
@@ -118,10 +122,9 @@ public:
     Q_INVOKABLE static TarnwickKit::views::RunFacts facts(const TarnwickKit::model::RunRecord& run) {
         return RunFacts::of(run);
     }
-    /// What a run's evidence says about its figures, in the order of the record. A remark with impossible
-    /// numbers says nothing and is left out.
-    Q_INVOKABLE static QList<TarnwickKit::views::RemarkItem>
-    remarks(const TarnwickKit::model::RunRecord& run);
+    /// RemarkItem: see remarkItems.
+    Q_INVOKABLE static QVariantList remarks(const TarnwickKit::model::RunRecord& run);
+    Q_INVOKABLE static bool hasRemarks(const TarnwickKit::model::RunRecord& run);
     /// A figure as assistive technology reads it, with the mark that it may have.
     Q_INVOKABLE static QString spoken(const QString& figure, bool isMarked);
 };

@@ -8,7 +8,7 @@ import TarnwickKit.views
 Column {
     id: section
 
-    required property list<remarkItem> remarks
+    required property runRecord run
 
     Separator {
         width: section.width
@@ -53,7 +53,7 @@ Column {
                 }
             }
             Repeater {
-                model: section.remarks
+                model: Runs.remarks(section.run)
 
                 RemarkRow {
                     required property remarkItem modelData

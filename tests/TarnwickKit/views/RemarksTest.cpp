@@ -115,20 +115,19 @@ TEST(Remarks, AreToldInTheRecordsOrder) {
                  {RemarkCode::fromMemory, RemarkWeight::invalid, BenchmarkTest::fileOps, {7}},
                  {RemarkCode::powerSaving, RemarkWeight::caution, std::nullopt, {1}},
                  {RemarkCode::copiesOnWrite, RemarkWeight::note, std::nullopt, {1}}});
-    const QList<RemarkItem> remarks = Runs::remarks(run);
+    const QList<RemarkItem> remarks = remarkItems(run);
     ASSERT_EQ(remarks.size(), 3) << "the one with an impossible number is left out";
     EXPECT_TRUE(remarks[0].sentence.startsWith("Random read (16 KiB): 25 % of"));
     EXPECT_EQ((QStringList{remarks[0].word, remarks[1].word, remarks[2].word}),
               (QStringList{"Invalid", "Caution", "Note"}));
     EXPECT_NE(remarks[0].symbol, remarks[1].symbol);
     EXPECT_NE(remarks[1].symbol, remarks[2].symbol);
-    EXPECT_TRUE(Runs::remarks(test::fullRun()).isEmpty());
+    EXPECT_TRUE(remarkItems(test::fullRun()).isEmpty());
 }
 
 TEST(RunRemarks, FitIntoTheirCard) {
     test::Stage stage("RunRemarks { width: 300 }",
-                      {{"remarks", QVariant::fromValue(Runs::remarks(
-                                       runWith({64, fromMemory(BenchmarkTest::randomRead)})))}});
+                      {{"run", QVariant::fromValue(runWith({64, fromMemory(BenchmarkTest::randomRead)}))}});
     stage.picture();
     const QStringList all = texts(stage.root());
     EXPECT_EQ(all.count(QStringLiteral("Invalid")), 64);
