@@ -117,7 +117,7 @@ TEST(Remarks, AreToldInTheRecordsOrder) {
                  {RemarkCode::copiesOnWrite, RemarkWeight::note, std::nullopt, {1}}});
     const QList<RemarkItem> remarks = remarkItems(run);
     ASSERT_EQ(remarks.size(), 3) << "the one with an impossible number is left out";
-    EXPECT_TRUE(remarks[0].sentence.startsWith("Random read (16 KiB): 25 % of"));
+    EXPECT_TRUE(remarks[0].sentence.startsWith("Random read (16 KiB): At most 25 % of"));
     EXPECT_EQ((QStringList{remarks[0].word, remarks[1].word, remarks[2].word}),
               (QStringList{"Invalid", "Caution", "Note"}));
     EXPECT_NE(remarks[0].symbol, remarks[1].symbol);
