@@ -8,7 +8,8 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 
 set(ONDEL_SANITIZE "" CACHE STRING "Sanitizers to build with, as the compiler's -fsanitize= takes them")
-option(ONDEL_UNITY_BUILD "Compile a room's sources eight at a time, in a quarter of the processor time" ON)
+option(ONDEL_UNITY_BUILD "Compile a room's sources several at a time, in a quarter of the processor time" ON)
+set(ONDEL_UNITY_BATCH 8 CACHE STRING "How many at a time: many for a build from nothing, few for one after a change")
 option(ONDEL_WARNINGS_ARE_ERRORS "Stop the build at a warning, as CI does" OFF)
 
 # The cache is shared by all checkouts on a machine: paths below this one count as relative.

@@ -12,7 +12,7 @@ function(ondel_room name)
   endif()
   target_link_libraries(${target} PUBLIC ${ROOM_LINK} PRIVATE ondel_options ${ROOM_PRIVATE_LINK})
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
-  set_target_properties(${target} PROPERTIES UNITY_BUILD ${ONDEL_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 8)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${ONDEL_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE ${ONDEL_UNITY_BATCH})
 endfunction()
 
 # ondel_test(NAME [THREADS] SOURCES … LINK …): a GoogleTest program that CTest runs once, with its own home and without a
@@ -57,9 +57,13 @@ function(ondel_generated_qml target)
   list(FILTER own EXCLUDE REGEX "^${CMAKE_BINARY_DIR}/")
   list(FILTER own INCLUDE REGEX "\\.cpp$")
   list(REMOVE_ITEM sources ${cached} ${own})
-  ondel_unity_groups(qml 12 ${cached})
+  math(EXPR cached_batch "${ONDEL_UNITY_BATCH} * 3 / 2") # what is made of QML is short
+  ondel_unity_groups(qml ${cached_batch} ${cached})
   if(ONDEL_UNITY_BUILD)
-    ondel_unity_groups(own 8 ${own})
+    set(registrations ${sources}) # they include what the room's own files include
+    list(FILTER registrations INCLUDE REGEX "_qmltyperegistrations\\.cpp$")
+    list(REMOVE_ITEM sources ${registrations})
+    ondel_unity_groups(own ${ONDEL_UNITY_BATCH} ${registrations} ${own})
   endif()
   set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP
     UNITY_BUILD_CODE_BEFORE_INCLUDE [[

@@ -92,7 +92,7 @@ LetterCase caseOfFound(int folder, const Name& name) {
     return hasMixedName ? LetterCase::preserving : LetterCase::ignored;
 }
 
-FolderNames namesInThis(int folder) {
+FolderNames namesInItself(int folder) {
     FolderNames names;
     auto& found = names.letterCase;
     int lookups = 0;
@@ -138,14 +138,14 @@ int replacedByParent(int folder) {
 
 } // namespace
 
-FolderNames namesIn(int folder) {
-    FolderNames found = namesInThis(folder);
+FolderNames letterCaseNames(int folder) {
+    FolderNames found = namesInItself(folder);
     const auto isOpen = [&found] { return found.letterCase == LetterCase::unknown; };
     int current = isOpen() && mountOfFolder(folder) != 0 ? dup(folder) : -1;
     for (int step = 0; current >= 0 && isOpen() && step < mostFolders; ++step) {
         current = replacedByParent(current);
         if (current >= 0)
-            found = namesInThis(current);
+            found = namesInItself(current);
     }
     if (current >= 0)
         close(current);

@@ -12,6 +12,6 @@ struct FolderNames {
 
 /// Examines the names in the folder, then those in its parents on the same mount. Threads: any;
 /// async-signal-safe. Fails: unknown.
-FolderNames namesIn(int folder);
+FolderNames letterCaseNames(int folder);
 
 } // namespace OndelCore::platform

@@ -14,12 +14,12 @@ namespace OndelCore::platform {
 
 namespace {
 
-struct Unref {
+struct MountUnref {
     void operator()(libmnt_table* table) const { mnt_unref_table(table); }
     void operator()(libmnt_iter* iterator) const { mnt_free_iter(iterator); }
 };
-using Table = std::unique_ptr<libmnt_table, Unref>;
-using Iterator = std::unique_ptr<libmnt_iter, Unref>;
+using Table = std::unique_ptr<libmnt_table, MountUnref>;
+using Iterator = std::unique_ptr<libmnt_iter, MountUnref>;
 
 int skipMalformedLine(libmnt_table*, const char*, int) { return 1; }
 

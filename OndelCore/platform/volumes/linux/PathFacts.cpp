@@ -98,7 +98,7 @@ void askFolder(const char* path, RawFacts& facts) {
     const bool isXfs = facts.sizes.isTold && facts.sizes.value.f_type == XFS_SUPER_MAGIC;
     if (isXfs && ioctl(folder, xfsGetGeometry, &geometry) == 0)
         facts.xfsGeometryFlags.tell(geometry.flags);
-    facts.names = namesIn(folder);
+    facts.names = letterCaseNames(folder);
     close(folder);
 }
 
