@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/benchmark/Remark.h"
+#include "OndelCore/benchmark/evidence/Remark.h"
 #include "TarnwickKit/model/runs/RunEvidence.h"
 
 #include <QJsonArray>

@@ -2,7 +2,7 @@
 
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
-#include "OndelCore/benchmark/Remark.h"
+#include "OndelCore/benchmark/evidence/Remark.h"
 #include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <QJsonObject>

@@ -2,7 +2,7 @@
 
 #include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkTest.h"
-#include "OndelCore/benchmark/Evidence.h"
+#include "OndelCore/benchmark/evidence/Evidence.h"
 #include "OndelCore/platform/drives/Circumstances.h"
 #include "OndelCore/platform/storage/FileTrials.h"
 

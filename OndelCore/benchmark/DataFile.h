@@ -1,7 +1,7 @@
 #pragma once
 
-#include "OndelCore/benchmark/Evidence.h"
 #include "OndelCore/benchmark/TestRun.h"
+#include "OndelCore/benchmark/evidence/Evidence.h"
 #include "OndelCore/platform/storage/CacheBypass.h"
 #include "OndelCore/platform/storage/FileDescriptor.h"
 

@@ -2,6 +2,7 @@
 
 #include "OndelCore/platform/drives/Circumstances.h"
 #include "OndelCore/platform/drives/DiskWitness.h"
+#include "OndelCore/platform/process/OperationClock.h"
 #include "OndelCore/platform/process/SystemCalls.h"
 #include "OndelCore/platform/storage/FileTrials.h"
 #include "OndelCore/platform/storage/Storage.h"
@@ -23,8 +24,10 @@ namespace OndelCore::benchmark {
 /// needs. The four transfers answer as the system calls of their names do.
 struct EngineEnvironment {
     std::function<std::int64_t()> monotonicNanoseconds = platform::monotonicNanoseconds;
-    /// For what no rate depends on: latencies, pauses, when a test began.
+    /// For what no rate depends on: when a test began, how long a flush took.
     std::function<std::int64_t()> evidenceClock = platform::monotonicNanoseconds;
+    /// For latencies and pauses. Asked on the thread that measures, once for each operation.
+    std::function<std::int64_t()> operationClock = platform::operationNanoseconds;
     std::function<std::optional<std::int64_t>(int descriptor)> freeBytes = platform::freeBytes;
     std::function<ssize_t(int, void*, std::size_t)> read = ::read;
     std::function<ssize_t(int, const void*, std::size_t)> write = ::write;

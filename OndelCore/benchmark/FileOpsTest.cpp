@@ -1,7 +1,7 @@
 #include "OndelCore/benchmark/FileOpsTest.h"
 
 #include "OndelCore/SaturatingMath.h"
-#include "OndelCore/benchmark/OperationTimer.h"
+#include "OndelCore/benchmark/evidence/OperationTimer.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
 
 #include <fcntl.h>
@@ -52,7 +52,7 @@ public:
         : m_run(run)
         , m_total(saturatingMultiply(4, count))
         , m_start(run.now())
-        , m_timer(run.system.evidenceClock) {}
+        , m_timer(run.system.operationClock) {}
 
     void report() const {
         m_run.progress({BenchmarkTest::fileOps, m_done, m_total, 0, m_run.now() - m_start});

@@ -2,8 +2,8 @@
 
 #include "OndelCore/SaturatingMath.h"
 #include "OndelCore/benchmark/DataFile.h"
-#include "OndelCore/benchmark/OperationTimer.h"
 #include "OndelCore/benchmark/UniformIndexGenerator.h"
+#include "OndelCore/benchmark/evidence/OperationTimer.h"
 #include "OndelCore/platform/process/SystemCalls.h"
 
 #include <fcntl.h>
@@ -37,7 +37,7 @@ IOPSResult measure(const TestRun& run, const RandomTest& kind) {
             {kind.test, saturatingMultiply(operations, block), saturatingMultiply(count, block), 0, elapsed});
     };
 
-    OperationTimer timer(run.system.evidenceClock);
+    OperationTimer timer(run.system.operationClock);
     const double start = run.now();
     timer.begin();
     for (std::int64_t i = 0; i < count; ++i) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "OndelCore/benchmark/BenchmarkResult.h"
-#include "OndelCore/benchmark/OperationTimer.h"
 #include "OndelCore/benchmark/TestRun.h"
+#include "OndelCore/benchmark/evidence/OperationTimer.h"
 
 #include <cstdint>
 #include <utility>

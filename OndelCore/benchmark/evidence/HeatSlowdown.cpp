@@ -1,4 +1,4 @@
-#include "OndelCore/benchmark/HeatSlowdown.h"
+#include "OndelCore/benchmark/evidence/HeatSlowdown.h"
 
 #include <algorithm>
 #include <vector>

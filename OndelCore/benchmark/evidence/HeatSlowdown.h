@@ -1,7 +1,7 @@
 #pragma once
 
-#include "OndelCore/benchmark/Evidence.h"
-#include "OndelCore/benchmark/RateCurve.h"
+#include "OndelCore/benchmark/evidence/Evidence.h"
+#include "OndelCore/benchmark/evidence/RateCurve.h"
 #include "OndelCore/platform/drives/Circumstances.h"
 
 #include <optional>

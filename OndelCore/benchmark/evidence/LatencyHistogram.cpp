@@ -1,4 +1,4 @@
-#include "OndelCore/benchmark/LatencyHistogram.h"
+#include "OndelCore/benchmark/evidence/LatencyHistogram.h"
 
 #include <cmath>
 #include <numeric>

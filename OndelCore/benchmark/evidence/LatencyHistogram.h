@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/benchmark/Evidence.h"
+#include "OndelCore/benchmark/evidence/Evidence.h"
 
 #include <algorithm>
 #include <array>

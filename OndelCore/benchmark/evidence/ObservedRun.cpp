@@ -1,4 +1,4 @@
-#include "OndelCore/benchmark/ObservedRun.h"
+#include "OndelCore/benchmark/evidence/ObservedRun.h"
 
 #include "OndelCore/SaturatingMath.h"
 

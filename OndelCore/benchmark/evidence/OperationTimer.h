@@ -1,7 +1,7 @@
 #pragma once
 
-#include "OndelCore/benchmark/Evidence.h"
-#include "OndelCore/benchmark/LatencyHistogram.h"
+#include "OndelCore/benchmark/evidence/Evidence.h"
+#include "OndelCore/benchmark/evidence/LatencyHistogram.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -32,9 +32,10 @@ private:
 /// Times single operations with one reading of the clock for each. Does not allocate.
 class OperationTimer {
 public:
-    /// `nanoseconds`: the clock; outlives the object.
+    /// `nanoseconds`: the clock; outlives the object. Its first reading, which may take long, is made here.
     explicit OperationTimer(const std::function<std::int64_t()>& nanoseconds)
-        : m_nanoseconds(nanoseconds) {}
+        : m_nanoseconds(nanoseconds)
+        , m_last(nanoseconds()) {}
 
     /// What lies between the end of the last operation and this call belongs to no operation.
     void begin() { m_last = m_nanoseconds(); }
@@ -52,7 +53,7 @@ public:
 
 private:
     const std::function<std::int64_t()>& m_nanoseconds;
-    std::int64_t m_last = 0;
+    std::int64_t m_last;
     LatencyHistogram m_histogram;
     Pauses m_pauses;
 };

@@ -1,4 +1,4 @@
-#include "OndelCore/benchmark/RateCurve.h"
+#include "OndelCore/benchmark/evidence/RateCurve.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "OndelCore/benchmark/Remark.h"
+#include "OndelCore/benchmark/evidence/Remark.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,10 @@
 // The table that turns evidence into remarks. A row needs proof: what is not known gives no remark.
 
 #include "OndelCore/SaturatingMath.h"
-#include "OndelCore/benchmark/HeatSlowdown.h"
-#include "OndelCore/benchmark/ObservedRun.h"
-#include "OndelCore/benchmark/RateCurve.h"
-#include "OndelCore/benchmark/Remark.h"
+#include "OndelCore/benchmark/evidence/HeatSlowdown.h"
+#include "OndelCore/benchmark/evidence/ObservedRun.h"
+#include "OndelCore/benchmark/evidence/RateCurve.h"
+#include "OndelCore/benchmark/evidence/Remark.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,7 +3,7 @@
 #include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
-#include "OndelCore/benchmark/Remark.h"
+#include "OndelCore/benchmark/evidence/Remark.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
 #include "TarnwickKit/model/runs/RunEvidence.h"

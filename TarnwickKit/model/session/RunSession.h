@@ -3,7 +3,7 @@
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkProgress.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
-#include "OndelCore/benchmark/Remark.h"
+#include "OndelCore/benchmark/evidence/Remark.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/model/session/AnalyzerServices.h"
 #include "TarnwickKit/model/session/AnalyzerTarget.h"

@@ -1,7 +1,7 @@
 // What a run observes beside its figures.
 
 #include "FakeSystem.h"
-#include "OndelCore/benchmark/LatencyHistogram.h"
+#include "OndelCore/benchmark/evidence/LatencyHistogram.h"
 
 #include <gtest/gtest.h>
 
@@ -54,6 +54,7 @@ TEST(LatencyHistogram, AgreesWithTheSortedListWithinOnePercent) {
 struct Observed : testing::Test {
     Observed() {
         system.evidenceClock = [this] { return nanoseconds; };
+        system.operationClock = system.evidenceClock;
         system.pread = [this](int file, void* bytes, std::size_t size, off_t offset) {
             nanoseconds += transferTime(++transfers);
             counters.readBytes += static_cast<std::int64_t>(size);

@@ -1,7 +1,7 @@
 // What real file systems let a run observe, and what is said of it.
 
 #include "FakeSystem.h"
-#include "OndelCore/benchmark/Remark.h"
+#include "OndelCore/benchmark/evidence/Remark.h"
 #include "support/LoopMount.h"
 
 #include <gtest/gtest.h>

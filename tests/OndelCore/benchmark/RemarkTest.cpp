@@ -1,8 +1,8 @@
 // What a run's evidence gives reason to remark, and what not.
 
-#include "OndelCore/benchmark/Remark.h"
+#include "OndelCore/benchmark/evidence/Remark.h"
 
-#include "OndelCore/benchmark/RateCurve.h"
+#include "OndelCore/benchmark/evidence/RateCurve.h"
 
 #include <gtest/gtest.h>
 
