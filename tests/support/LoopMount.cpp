@@ -13,6 +13,8 @@ namespace {
 /// What the command complained of; empty when it succeeded.
 std::string complaintOf(const QString& program, const QStringList& arguments) {
     QProcess process;
+    // Keeps Qt from vfork(2): in its child, which shares the memory, the thread sanitizer loses track.
+    process.setChildProcessModifier([] {});
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(program, arguments);
     const bool isDone = process.waitForStarted() && process.waitForFinished(-1);

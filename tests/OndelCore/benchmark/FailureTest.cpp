@@ -10,13 +10,18 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <new>
+#include <set>
+#include <string>
 #include <thread>
+#include <vector>
 
 using namespace OndelCore::benchmark;
 using test::FakeSystem;
@@ -33,14 +38,13 @@ const std::set<BenchmarkTest> everyTest(allBenchmarkTests.begin(), allBenchmarkT
 struct Failure : testing::Test {
     ~Failure() override {
         EXPECT_EQ(test::entriesIn(folder.path()), 0U);
-        // What an earlier run's circumstances were read with may be open a moment longer.
-        for (int i = 0; i < 1000 && test::openDescriptors() > descriptorsBefore; ++i)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        EXPECT_LE(test::openDescriptors(), descriptorsBefore);
+        std::vector<std::string> leaked;
+        std::ranges::set_difference(test::openDescriptors(), descriptorsBefore, std::back_inserter(leaked));
+        EXPECT_EQ(leaked, std::vector<std::string>());
     }
     test::TemporaryFolder folder;
     FakeSystem system;
-    std::size_t descriptorsBefore = test::openDescriptors();
+    std::set<std::string> descriptorsBefore = test::openDescriptors();
 };
 
 template <class Transfer>

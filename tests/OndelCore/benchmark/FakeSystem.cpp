@@ -46,6 +46,7 @@ FakeSystem::FakeSystem() {
     confineWrites = [](int) { return false; }; // so that a test can do its worst from within the run
     tryAbilities = [](int) { return OndelCore::platform::TriedAbilities(); };
     evidenceClock = [] { return 0; };
+    operationClock = evidenceClock;
     watchCircumstances = [](int) { return nullptr; };
     diskWitness = [](int) { return nullptr; };
     trafficOfThisThread = [] { return std::nullopt; };
@@ -58,6 +59,17 @@ BenchmarkResult FakeSystem::run(const BenchmarkPlan& plan, const std::filesystem
                              std::to_string(now.totalBytes), " at ",
                              std::to_string(static_cast<int>(now.elapsed)), " s"));
     });
+}
+
+std::set<std::string> openDescriptors() {
+    std::set<std::string> all;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code gone; // the loop's own descriptor is listed too, and that of another thread may be closed
+        const std::string target = std::filesystem::read_symlink(entry, gone).string();
+        if (!gone && !target.starts_with("/sys/") && !target.starts_with("/proc/"))
+            all.insert(entry.path().filename().string() + " -> " + target);
+    }
+    return all;
 }
 
 BenchmarkResult withoutEvidence(BenchmarkResult result) {

@@ -46,26 +46,26 @@ TEST(RunFacts, MarkTheFiguresThatAreNotTheDisks) {
         const char* line;
     } cases[] = {
         {{}, "-----", ""},
-        {{fromMemory(BenchmarkTest::sequentialRead)}, "-x---", "Not the disk’s figure: Sequential read"},
+        {{fromMemory(BenchmarkTest::sequentialRead)}, "-M---", "Not the disk’s figure: Sequential read"},
         {{fromMemory(BenchmarkTest::sequentialWrite, RemarkWeight::caution)}, "-----", ""},
         {{fromMemory(BenchmarkTest::randomRead), fromMemory(BenchmarkTest::fileOps)},
-         "--x-x",
+         "--M-M",
          "Not the disk’s figures: Random read (16 KiB), File operations"},
         {{{RemarkCode::flushFailed, RemarkWeight::invalid, std::nullopt, {5}}},
-         "xxx-x",
+         "MMM-M",
          "Not the disk’s figures: Sequential write, Sequential read, Random read (16 KiB), File operations"},
     };
     for (const auto& c : cases) {
         RunRecord run = runWith(c.remarks);
         run.randomWriteIOPS = std::nullopt; // what was not measured has no mark
         const RunFacts facts = RunFacts::of(run);
-        QString marks = facts.isWriteMarked ? "x" : "-";
-        marks += facts.isReadMarked ? u'x' : u'-';
+        QString marks = facts.isWriteMarked ? "M" : "-";
+        marks += facts.isReadMarked ? u'M' : u'-';
         for (const QVariant& figure : facts.minor)
-            marks += figure.value<InfoItem>().warning ? u'x' : u'-';
+            marks += figure.value<InfoItem>().warning ? u'M' : u'-';
         EXPECT_EQ(marks, c.marks) << c.line;
         EXPECT_EQ(facts.markedLine, c.line);
-        EXPECT_EQ((ComparedRuns{{test::bareRun(), run}}.hasMarks()), marks.contains(u'x'));
+        EXPECT_EQ((ComparedRuns{{test::bareRun(), run}}.hasMarks()), marks.contains(u'M'));
     }
 }
 
