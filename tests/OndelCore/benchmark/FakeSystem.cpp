@@ -64,7 +64,8 @@ BenchmarkResult FakeSystem::run(const BenchmarkPlan& plan, const std::filesystem
 std::set<std::string> openDescriptors() {
     std::set<std::string> all;
     for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
-        std::error_code gone; // the loop's own descriptor is listed too, and that of another thread may be closed
+        std::error_code
+            gone; // the loop's own descriptor is listed too, and that of another thread may be closed
         const std::string target = std::filesystem::read_symlink(entry, gone).string();
         if (!gone && !target.starts_with("/sys/") && !target.starts_with("/proc/"))
             all.insert(entry.path().filename().string() + " -> " + target);
