@@ -1,53 +1,50 @@
 #include "support/LoopMount.h"
 
-#include <QProcess>
+#include "support/Program.h"
 
 #include <sys/mount.h>
 
 #include <fstream>
+#include <vector>
 
 namespace test {
 
 namespace {
 
 /// What the command complained of; empty when it succeeded.
-std::string complaintOf(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    // Keeps Qt from vfork(2): in its child, which shares the memory, the thread sanitizer loses track.
-    process.setChildProcessModifier([] {});
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(program, arguments);
-    const bool isDone = process.waitForStarted() && process.waitForFinished(-1);
-    if (isDone && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
-        return {};
-    const QString said = isDone ? QString::fromUtf8(process.readAll().trimmed()) : process.errorString();
-    return (program + ": " + said).toStdString();
+std::string complaintOf(const std::vector<std::string>& command) {
+    Program program(command);
+    std::string complaint = command.front() + ":";
+    for (std::string line = program.line(); !line.empty(); line = program.line())
+        complaint += ' ' + line;
+    return program.succeeds() ? "" : complaint;
 }
 
 } // namespace
 
 LoopMount::LoopMount(const std::string& type, std::int64_t bytes, const std::string& mountOptions,
-                     const QStringList& formatOptions, const std::filesystem::path& holder)
+                     const std::vector<std::string>& formatOptions, const std::filesystem::path& holder)
     : m_folder(holder)
     , m_mountPoint(m_folder.path() / "mount") {
     std::filesystem::create_directory(m_mountPoint);
-    const QString fileSystem = QString::fromStdString(type);
-    const QString mountPoint = QString::fromStdString(m_mountPoint.string());
-    QStringList options = QString::fromStdString(mountOptions).split(',', Qt::SkipEmptyParts);
-    QString source = "tmpfs";
+    std::string options = mountOptions.empty() ? "" : mountOptions + ",";
+    std::string source = "tmpfs";
     if (type == "tmpfs") {
-        options << "size=" + QString::number(bytes);
+        options += "size=" + std::to_string(bytes);
     } else {
         std::ofstream(image()).close();
         std::filesystem::resize_file(image(), static_cast<std::uintmax_t>(bytes));
-        source = QString::fromStdString(image().string());
-        options << "loop";
-        m_problem = complaintOf("mkfs." + fileSystem, formatOptions + QStringList{source});
+        source = image().string();
+        options += "loop";
+        std::vector<std::string> format{"mkfs." + type};
+        format.insert(format.end(), formatOptions.begin(), formatOptions.end());
+        format.push_back(source);
+        m_problem = complaintOf(format);
     }
     // A kernel may know these too; what is meant are the programs, which Debian's users meet.
-    const QString driver = type == "exfat" ? "exfat-fuse" : type == "ntfs" ? "ntfs-3g" : fileSystem;
+    const std::string driver = type == "exfat" ? "exfat-fuse" : type == "ntfs" ? "ntfs-3g" : type;
     if (m_problem.empty())
-        m_problem = complaintOf("mount", {"-t", driver, "-o", options.join(','), source, mountPoint});
+        m_problem = complaintOf({"mount", "-t", driver, "-o", options, source, m_mountPoint.string()});
 }
 
 LoopMount::~LoopMount() {

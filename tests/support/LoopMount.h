@@ -2,9 +2,8 @@
 
 #include "support/TemporaryFolder.h"
 
-#include <QStringList>
-
 #include <string>
+#include <vector>
 
 namespace test {
 
@@ -17,7 +16,8 @@ class LoopMount {
 public:
     /// `holder`: the folder for the image; the test program's own temporary folder when empty.
     LoopMount(const std::string& type, std::int64_t bytes, const std::string& mountOptions = {},
-              const QStringList& formatOptions = {"-q"}, const std::filesystem::path& holder = {});
+              const std::vector<std::string>& formatOptions = {"-q"},
+              const std::filesystem::path& holder = {});
     ~LoopMount();
     LoopMount(const LoopMount&) = delete;
     LoopMount& operator=(const LoopMount&) = delete;

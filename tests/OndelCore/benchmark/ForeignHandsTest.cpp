@@ -291,7 +291,8 @@ struct HidingVolume : testing::TestWithParam<const char*> {};
 
 TEST_P(HidingVolume, ASweepEndsWhileALeftFileIsOpen) {
     test::LoopMount volume(GetParam(), 32 << 20, {},
-                           std::string(GetParam()) == "ntfs" ? QStringList{"-q", "-F"} : QStringList{});
+                           std::string(GetParam()) == "ntfs" ? std::vector<std::string>{"-q", "-F"}
+                                                             : std::vector<std::string>{});
     if (!volume.problem().empty())
         GTEST_SKIP() << volume.problem();
     const fs::path left = volume.path() / ".ondel-analyzer-OLD";

@@ -23,7 +23,7 @@ struct RealVolume {
     const char* type;
     std::int64_t bytes;
     const char* mountOptions;
-    QStringList formatOptions;
+    std::vector<std::string> formatOptions;
     std::vector<RemarkCode> present;
     std::vector<RemarkCode> absent;
     /// The tests whose figures are not the disk's.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/platform/drives/linux/UDisksBus.h"
+#include "support/Program.h"
 #include "support/TemporaryFolder.h"
 
 #include <QDBusArgument>
@@ -8,11 +9,11 @@
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusVirtualObject>
-#include <QProcess>
 #include <QThread>
 
 #include <atomic>
 #include <fstream>
+#include <memory>
 #include <stdexcept>
 
 namespace test {
@@ -30,16 +31,11 @@ public:
                                         "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow "
                                         "eavesdrop=\"true\"/><allow own=\"*\"/>"
                                         "</policy></busconfig>\n";
-        m_daemon.start(u"dbus-daemon"_s,
-                       {u"--nofork"_s, u"--print-address"_s,
-                        u"--config-file="_s + QString::fromStdString(configuration.string())});
-        if (m_daemon.waitForReadyRead())
-            m_address = m_daemon.readLine().trimmed().toStdString();
-    }
-
-    ~PrivateBus() {
-        m_daemon.kill();
-        m_daemon.waitForFinished();
+        m_daemon = std::make_unique<Program>(std::vector<std::string>{
+            "dbus-daemon", "--nofork", "--print-address", "--config-file=" + configuration.string()});
+        do
+            m_address = m_daemon->line();
+        while (!m_address.empty() && !m_address.starts_with("unix:")); // what else it says are complaints
     }
 
     /// Empty if no bus could be started.
@@ -47,7 +43,7 @@ public:
 
 private:
     TemporaryFolder m_folder;
-    QProcess m_daemon;
+    std::unique_ptr<Program> m_daemon;
     std::string m_address;
 };
 

@@ -8,6 +8,8 @@
 #include <QDateTime>
 #include <QEventLoop>
 #include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
 
 #include <gtest/gtest.h>
 #include <sys/socket.h>

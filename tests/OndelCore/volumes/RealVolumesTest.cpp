@@ -193,7 +193,7 @@ TEST(RealVolumes, AreListedDespiteOneThatNeverAnswers) {
 /// File systems of the kernel or a FUSE program, whichever is available. The type is that on the device.
 struct Foreign {
     const char* type;
-    QStringList format;
+    std::vector<std::string> format;
 };
 
 class ForeignVolume : public testing::TestWithParam<Foreign> {};
