@@ -257,8 +257,8 @@ TEST(RealUDisks, AnswersLikeTheFakeService) {
     environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, QString::fromStdString(bus.address()));
     service.setProcessEnvironment(environment);
     service.start(u"unshare"_s, {u"--mount"_s, u"sh"_s, u"-ec"_s,
-                                 u"for folder in /run /var/lib/udisks2; do mount -t tmpfs none $folder; done;"
-                                 "mkdir /run/lock; exec "_s +
+                                 u"for folder in /run /var/lib; do mount -t tmpfs none $folder; done;"
+                                 "mkdir /run/lock /var/lib/udisks2; exec "_s +
                                      daemon});
     untilItSpeaksOrEnds.exec();
     if (service.state() == QProcess::NotRunning)
