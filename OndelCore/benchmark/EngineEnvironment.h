@@ -43,6 +43,7 @@ struct EngineEnvironment {
         platform::watchCircumstances;
     /// Made of the target folder, and asked before and after each test.
     std::function<std::unique_ptr<platform::DiskWitness>(int folder)> diskWitness = platform::diskWitness;
+    std::function<std::unique_ptr<platform::DiskWitness>(int folder)> volumeWitness = platform::volumeWitness;
     /// Asked on the thread that measures.
     std::function<std::optional<platform::ThreadTraffic>()> trafficOfThisThread =
         platform::trafficOfThisThread;

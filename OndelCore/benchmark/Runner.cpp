@@ -80,12 +80,27 @@ std::optional<std::int64_t> difference(const std::optional<std::int64_t>& before
     return before && after && *after >= *before ? std::optional(*after - *before) : std::nullopt;
 }
 
+using Counters = std::optional<platform::DiskCounters>;
+
+std::optional<Traffic> readBetween(const Counters& before, const Counters& after) {
+    return before && after
+               ? std::optional(Traffic{after->readBytes - before->readBytes, after->reads - before->reads})
+               : std::nullopt;
+}
+
+std::optional<Traffic> writtenBetween(const Counters& before, const Counters& after) {
+    return before && after ? std::optional(Traffic{after->writtenBytes - before->writtenBytes,
+                                                   after->writes - before->writes})
+                           : std::nullopt;
+}
+
 /// Looks from outside at what the tests of one run do.
 class RunWitness {
 public:
     RunWitness(const EngineEnvironment& system, int volume)
         : m_system(system)
         , m_disks(system.diskWitness(volume))
+        , m_volume(system.volumeWitness(volume))
         , m_start(system.evidenceClock()) {}
 
     /// Makes a test's result, with the evidence of what happened meanwhile.
@@ -97,12 +112,10 @@ public:
         TestEvidence& evidence = result.evidence;
         evidence.began = secondsBetween(m_start, before.time);
         evidence.ended = secondsBetween(m_start, after.time);
-        if (before.disks && after.disks) {
-            evidence.diskReads = Traffic{after.disks->readBytes - before.disks->readBytes,
-                                         after.disks->reads - before.disks->reads};
-            evidence.diskWrites = Traffic{after.disks->writtenBytes - before.disks->writtenBytes,
-                                          after.disks->writes - before.disks->writes};
-        }
+        evidence.diskReads = readBetween(before.disks, after.disks);
+        evidence.diskWrites = writtenBetween(before.disks, after.disks);
+        evidence.volumeReads = readBetween(before.volume, after.volume);
+        evidence.volumeWrites = writtenBetween(before.volume, after.volume);
         if (before.thread && after.thread) {
             evidence.threadReads = difference(before.thread->readBytes, after.thread->readBytes);
             evidence.threadWrites = difference(before.thread->writtenBytes, after.thread->writtenBytes);
@@ -114,15 +127,17 @@ private:
     struct View {
         std::int64_t time;
         std::optional<platform::DiskCounters> disks;
+        std::optional<platform::DiskCounters> volume;
         std::optional<platform::ThreadTraffic> thread;
     };
     View look() {
         return {m_system.evidenceClock(), m_disks ? m_disks->counters() : std::nullopt,
-                m_system.trafficOfThisThread()};
+                m_volume ? m_volume->counters() : std::nullopt, m_system.trafficOfThisThread()};
     }
 
     const EngineEnvironment& m_system;
     std::unique_ptr<platform::DiskWitness> m_disks;
+    std::unique_ptr<platform::DiskWitness> m_volume;
     std::int64_t m_start;
 };
 

@@ -37,6 +37,9 @@ struct TestEvidence {
     /// What all whole disks under the volume delivered and took meanwhile, for whomever.
     std::optional<Traffic> diskReads{};
     std::optional<Traffic> diskWrites{};
+    /// The same of the volume's own device on them, where that is not a whole disk.
+    std::optional<Traffic> volumeReads{};
+    std::optional<Traffic> volumeWrites{};
     /// What the system accounts to the measuring thread alone; 0 where a program serves the file system.
     /// Units: bytes.
     std::optional<std::int64_t> threadReads{};
@@ -54,8 +57,9 @@ struct TestEvidence {
 
     bool operator==(const TestEvidence&) const = default;
     std::size_t hash() const {
-        return hashFields(began, ended, diskReads, diskWrites, threadReads, threadWrites, refusedTransfers,
-                          isBypassRefused, flushDuration, longestPause, longPauses);
+        return hashFields(began, ended, diskReads, diskWrites, volumeReads, volumeWrites, threadReads,
+                          threadWrites, refusedTransfers, isBypassRefused, flushDuration, longestPause,
+                          longPauses);
     }
 };
 

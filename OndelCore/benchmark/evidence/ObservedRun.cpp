@@ -80,12 +80,19 @@ std::optional<std::int64_t> ObservedTransfer::threadBytes(bool own) const {
     return sensible(own == writes ? evidence.threadWrites : evidence.threadReads);
 }
 
+std::optional<std::int64_t> ObservedTransfer::volumeBytes() const {
+    const auto& traffic = writes ? evidence.volumeWrites : evidence.volumeReads;
+    return traffic ? sensible(traffic->bytes) : std::nullopt;
+}
+
 ObservedRun::ObservedRun(const BenchmarkPlan& plan, const BenchmarkResult& result)
     : plan(plan)
     , result(result)
     , circumstances(result.circumstances ? *result.circumstances : nothingKnown)
     , transfers(transfersOf(result))
-    , isWitnessBlind(isBlind(transfers, circumstances.isFileOnDisk)) {}
+    , isWitnessBlind(isBlind(transfers, circumstances.isFileOnDisk))
+    , isVolumeBlind(std::ranges::none_of(
+          transfers, [](const ObservedTransfer& test) { return test.volumeBytes().value_or(0) > 0; })) {}
 
 bool ObservedRun::seesDisks() const {
     return !isWitnessBlind &&
@@ -99,6 +106,8 @@ std::optional<double> ObservedRun::shareAtDisk(const ObservedTransfer& test) con
     std::int64_t seen = *atDisk;
     if (!circumstances.isServedByProgram && accountsForItsTransfers(test))
         seen = std::min(seen, *test.threadBytes(true)); // the rest was others'
+    if (!isVolumeBlind)
+        seen = std::min(seen, test.volumeBytes().value_or(seen)); // the rest was of other volumes
     return std::min(static_cast<double>(seen) / static_cast<double>(test.moved), 1.0);
 }
 

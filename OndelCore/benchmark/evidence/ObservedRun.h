@@ -26,6 +26,8 @@ struct ObservedTransfer {
     /// also where a count makes no sense.
     std::optional<std::int64_t> diskBytes(bool own) const;
     std::optional<std::int64_t> threadBytes(bool own) const;
+    /// What the volume's own device moved in the test's direction.
+    std::optional<std::int64_t> volumeBytes() const;
 };
 
 /// A run as its remarks see it. Refers to the plan and the result that it was made of.
@@ -41,6 +43,8 @@ public:
     /// The disks count nothing although there was something to count: counting is switched off, or they are
     /// not the ones that worked.
     bool isWitnessBlind = false;
+    /// The same of the volume's own device, while the disks did count something.
+    bool isVolumeBlind = false;
 
     bool reaches(platform::FileSystemReach reach) const { return circumstances.reach == reach; }
     bool hasCircumstances() const { return result.circumstances.has_value(); }

@@ -8,7 +8,7 @@
 
 namespace OndelCore::platform {
 
-/// What whole disks did since they were there. Units: bytes and requests.
+/// What block devices did since they were there. Units: bytes and requests.
 struct DiskCounters {
     std::int64_t readBytes = 0;
     std::int64_t reads = 0;
@@ -18,12 +18,12 @@ struct DiskCounters {
     bool operator==(const DiskCounters&) const = default;
 };
 
-/// Reads the counters of all whole disks under a volume, summed up. Threads: one at a time.
+/// Reads the counters of block devices, summed up. Threads: one at a time.
 class DiskWitness {
 public:
     virtual ~DiskWitness() = default;
-    /// Fails: absent when a disk does not tell, is gone, or counted back since the last call: a counter that
-    /// wrapped or another disk of the same number.
+    /// Fails: absent when a device does not tell, is gone, or counted back since the last call: a counter
+    /// that wrapped or another device of the same number.
     virtual std::optional<DiskCounters> counters() = 0;
 };
 
@@ -31,8 +31,12 @@ public:
 /// if there is no disk to be seen (network and memory file systems, most programs' file systems).
 std::unique_ptr<DiskWitness> diskWitness(int folder);
 
-/// The same of the disks with these folders in the device tree.
-std::unique_ptr<DiskWitness> witnessOf(std::vector<std::filesystem::path> diskFolders);
+/// The same of the volume's own device (a partition, a mapping, a loop device), which other volumes on its
+/// disk leave alone. Fails: null where that is a whole disk, or one of several devices.
+std::unique_ptr<DiskWitness> volumeWitness(int folder);
+
+/// The same of the devices with these folders in the device tree.
+std::unique_ptr<DiskWitness> witnessOf(std::vector<std::filesystem::path> deviceFolders);
 
 /// Bytes that the kernel accounts to the calling thread (proc, "thread-self/io": read_bytes, write_bytes).
 struct ThreadTraffic {

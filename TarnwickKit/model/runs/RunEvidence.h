@@ -55,6 +55,8 @@ void visitFields(IsA<OndelCore::benchmark::TestEvidence> auto& test, auto visit)
     visit("ended", test.ended);
     visit("diskReads", test.diskReads);
     visit("diskWrites", test.diskWrites);
+    visit("volumeReads", test.volumeReads);
+    visit("volumeWrites", test.volumeWrites);
     visit("threadReads", test.threadReads);
     visit("threadWrites", test.threadWrites);
     visit("refusedTransfers", test.refusedTransfers);

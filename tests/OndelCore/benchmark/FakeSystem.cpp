@@ -48,7 +48,7 @@ FakeSystem::FakeSystem() {
     evidenceClock = [] { return 0; };
     operationClock = evidenceClock;
     watchCircumstances = [](int) { return nullptr; };
-    diskWitness = [](int) { return nullptr; };
+    diskWitness = volumeWitness = [](int) { return nullptr; };
     trafficOfThisThread = [] { return std::nullopt; };
 }
 

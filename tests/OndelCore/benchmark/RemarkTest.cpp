@@ -161,6 +161,23 @@ TEST(Remarks, WhetherAFigureIsTheDisks) {
         {"half from the cache while another program reads as much",
          [](JudgedRun& run) { run.read().evidence.threadReads = 2 * GiB; },
          "fromMemory invalid sequentialRead 0.4, cachedBelow caution"},
+        {"half from a program's cache while another volume of the disk is read as much",
+         [](JudgedRun& run) {
+             run.volume().isServedByProgram = true;
+             run.setThread(0);
+             for (TestEvidence* each : run.evidence()) {
+                 each->volumeReads = each->diskReads;
+                 each->volumeWrites = each->diskWrites;
+             }
+             run.read().evidence.volumeReads->bytes = 2 * GiB;
+         },
+         "fromMemory invalid sequentialRead 0.4, cachedBelow caution"},
+        {"a volume's device that does not count",
+         [](JudgedRun& run) {
+             for (TestEvidence* each : run.evidence())
+                 each->volumeReads = each->volumeWrites = Traffic{0, 0};
+         },
+         ""},
         {"90 % of it at the disk",
          [](JudgedRun& run) { run.read().evidence.diskReads->bytes = 5 * GiB / 10 * 9 + 1; }, ""},
         {"a write that stays in memory", [](JudgedRun& run) { run.write().evidence.diskWrites->bytes = GiB; },

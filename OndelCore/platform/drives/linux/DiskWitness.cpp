@@ -76,8 +76,20 @@ std::unique_ptr<DiskWitness> diskWitness(int folder) {
     return witnessOf(std::move(folders));
 }
 
-std::unique_ptr<DiskWitness> witnessOf(std::vector<std::filesystem::path> diskFolders) {
-    return diskFolders.empty() ? nullptr : std::make_unique<BlockDeviceWitness>(std::move(diskFolders));
+std::unique_ptr<DiskWitness> volumeWitness(int folder) {
+    const SystemSources system;
+    const auto mount = mountOfDescriptor(folder, system.mountTable.mounts());
+    if (!mount || mountOptionValue(mount->superOptions, "rtdev")) // XFS may keep its data on another device
+        return nullptr;
+    const auto device = blockDevice(mount->device, system.sysfs);
+    const bool isWholeDisk =
+        device && std::ranges::any_of(blockStack(*mount, system).wholeDisks,
+                                      [&](const BlockDevice& disk) { return disk.number == device->number; });
+    return device && !isWholeDisk ? witnessOf({device->folder}) : nullptr;
+}
+
+std::unique_ptr<DiskWitness> witnessOf(std::vector<std::filesystem::path> deviceFolders) {
+    return deviceFolders.empty() ? nullptr : std::make_unique<BlockDeviceWitness>(std::move(deviceFolders));
 }
 
 std::optional<ThreadTraffic> trafficOfThisThread() {
