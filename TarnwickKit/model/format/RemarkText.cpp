@@ -105,7 +105,7 @@ QString slowLink(const Spelled& remark) {
     const double kind = remark.number(2);
     if (kind != std::floor(kind) || kind >= static_cast<double>(kinds.size()))
         return {};
-    return u"The drive's %1 link runs at %2; the drive could do %3."_s.arg(
+    return u"The drive’s %1 link runs at %2; the drive could do %3."_s.arg(
         kinds.at(static_cast<std::size_t>(kind)), remark.bitRate(0), remark.bitRate(1));
 }
 
@@ -118,7 +118,7 @@ QString nearlyFull(const Spelled& remark) {
 }
 
 QString smallTest(const Spelled& remark) {
-    return u"The test's %1 may fit into a cache of %2."_s.arg(remark.size(0), remark.size(1));
+    return u"The test’s %1 may fit into a cache of %2."_s.arg(remark.size(0), remark.size(1));
 }
 
 QString powerSaving(const Spelled& remark) {
@@ -147,19 +147,19 @@ struct Words {
 
 constexpr std::array words{
     Words{RemarkCode::fromMemory, fromMemory, u"",
-          u"Switch on Bypass cache. Where it is on, choose a size larger than the machine's memory."},
+          u"Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory."},
     Words{RemarkCode::flushFailed, flushFailed, u"",
-          u"Look at the drive's S.M.A.R.T. status and the system's log before you trust it with data."},
+          u"Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data."},
     Words{RemarkCode::cachedBelow, nullptr,
           u"Data went through a cache although the system was asked to bypass it.",
-          u"Choose a size larger than the machine's memory, or test the disk below through another file "
+          u"Choose a size larger than the machine’s memory, or test the disk below through another file "
           u"system."},
     Words{RemarkCode::speedFell, speedFell, u"",
           u"Expect the lower rate where more than that is moved at once."},
     Words{RemarkCode::gotHot, gotHot, u"",
           u"Give the drive more air or a heat sink, and run again once it is cool."},
     Words{RemarkCode::stalls, stalls, u"",
-          u"Run again. If they come back, look at the drive's S.M.A.R.T. status and its cable."},
+          u"Run again. If they come back, look at the drive’s S.M.A.R.T. status and its cable."},
     Words{RemarkCode::otherTraffic, otherTraffic, u"", u"Run again while nothing else uses the disk."},
     Words{RemarkCode::slowLink, slowLink, u"", u"Try another port, slot or cable."},
     Words{RemarkCode::misaligned, misaligned, u"",
@@ -177,7 +177,7 @@ constexpr std::array words{
     Words{RemarkCode::virtualDisk, nullptr, u"The disk is one of a virtual machine, whose host may cache it.",
           u""},
     Words{RemarkCode::compresses, nullptr,
-          u"The file system compresses. The test's data does not, so other files may be faster.", u""},
+          u"The file system compresses. The test’s data does not, so other files may be faster.", u""},
     Words{RemarkCode::copiesOnWrite, copiesOnWrite, u"", u""},
     Words{RemarkCode::journalsData, nullptr, u"The file system writes data twice, to its journal first.",
           u""},

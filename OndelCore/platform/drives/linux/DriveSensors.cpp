@@ -4,14 +4,10 @@
 #include "OndelCore/platform/drives/linux/DriveReaders.h"
 #include "OndelCore/platform/process/DetachedThread.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <atomic>
 #include <cmath>
-#include <condition_variable>
 #include <limits>
-#include <mutex>
 #include <utility>
 
 namespace fs = std::filesystem;
@@ -71,45 +67,6 @@ bool mayBeKnownToService(const BlockDevice& disk) {
     return (bus == "NVMe" || bus == "SATA") && !isOfVirtualMachine(disk);
 }
 
-/// Counts the questions to the service that are under way on threads of their own. The bus's library does not
-/// outlive the process's static objects, so the end of the application waits for the last answer.
-class OpenQuestions {
-public:
-    /// Never destroyed: the last thread may still leave it.
-    static OpenQuestions& ofProcess() {
-        static auto* const questions = new OpenQuestions;
-        return *questions;
-    }
-
-    /// Fails: false if there is no application whose end could wait.
-    bool begin() {
-        if (!QCoreApplication::instance() || QCoreApplication::closingDown())
-            return false;
-        const std::scoped_lock guard(m_lock);
-        if (!std::exchange(m_isAwaited, true))
-            qAddPostRoutine([] { ofProcess().awaitNone(); });
-        ++m_count;
-        return true;
-    }
-    void end() {
-        const std::scoped_lock guard(m_lock);
-        --m_count;
-        m_ended.notify_all();
-    }
-
-private:
-    void awaitNone() {
-        std::unique_lock guard(m_lock);
-        m_ended.wait(guard, [this] { return m_count == 0; });
-        m_isAwaited = false;
-    }
-
-    std::mutex m_lock;
-    std::condition_variable m_ended;
-    int m_count = 0;
-    bool m_isAwaited = false;
-};
-
 void raise(std::optional<double>& most, const std::optional<double>& value) {
     if (value)
         most = std::max(most.value_or(*value), *value);
@@ -146,18 +103,9 @@ struct DriveSensors::Service {
     }
 
     static void askElsewhere(const std::shared_ptr<Service>& service, const SmartSources& sources) {
-        service->isUseless = !OpenQuestions::ofProcess().begin();
-        if (service->isUseless)
-            return;
         service->isBusy = true;
-        const bool hasThread = runDetached([service, sources] {
-            service->ask(sources);
-            OpenQuestions::ofProcess().end();
-        });
-        if (!hasThread) {
+        if (!runDetached([service, sources] { service->ask(sources); }))
             service->isUseless = true;
-            OpenQuestions::ofProcess().end();
-        }
     }
 };
 

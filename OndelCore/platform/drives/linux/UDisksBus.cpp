@@ -1,9 +1,12 @@
 #include "OndelCore/platform/drives/linux/UDisksBus.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMessage>
 
 #include <atomic>
+#include <condition_variable>
+#include <mutex>
 
 namespace OndelCore::platform {
 
@@ -17,6 +20,55 @@ QString uniqueName() {
     return QStringLiteral("ondel-udisks-%1").arg(++count);
 }
 
+/// Who uses the bus, on whatever thread.
+class BusUsers {
+public:
+    /// Never destroyed: the last thread may still leave it.
+    static BusUsers& ofProcess() {
+        static auto* const users = new BusUsers;
+        return *users;
+    }
+
+    /// Fails: false once the application ends.
+    bool begin() {
+        const std::scoped_lock guard(m_lock);
+        m_count += m_isClosed ? 0 : 1;
+        return !m_isClosed;
+    }
+    void end() {
+        const std::scoped_lock guard(m_lock);
+        --m_count;
+        m_ended.notify_all();
+    }
+    bool isClosed() {
+        const std::scoped_lock guard(m_lock);
+        return m_isClosed;
+    }
+
+    void open() {
+        const std::scoped_lock guard(m_lock);
+        m_isClosed = false;
+    }
+    /// Waits for the calls that are under way; each has a limit.
+    void close() {
+        std::unique_lock guard(m_lock);
+        m_isClosed = true;
+        m_ended.wait(guard, [this] { return m_count == 0; });
+    }
+
+private:
+    std::mutex m_lock;
+    std::condition_variable m_ended;
+    int m_count = 0;
+    bool m_isClosed = false;
+};
+
+void followApplication() {
+    BusUsers::ofProcess().open();
+    qAddPostRoutine([] { BusUsers::ofProcess().close(); });
+}
+Q_COREAPP_STARTUP_FUNCTION(followApplication)
+
 QDBusConnection connectTo(const std::string& address, const QString& name) {
     return address.empty() ? QDBusConnection::connectToBus(QDBusConnection::SystemBus, name)
                            : QDBusConnection::connectToBus(QString::fromStdString(address), name);
@@ -26,14 +78,23 @@ QDBusConnection connectTo(const std::string& address, const QString& name) {
 
 UDisksBus::UDisksBus(const std::string& address, std::chrono::milliseconds limit)
     : m_name(uniqueName())
-    , m_connection(connectTo(address, m_name))
+    , m_isOpen(BusUsers::ofProcess().begin())
+    , m_connection(m_isOpen ? connectTo(address, m_name) : QDBusConnection(m_name))
     , m_limitMilliseconds(static_cast<int>(limit.count())) {}
 
-UDisksBus::~UDisksBus() { QDBusConnection::disconnectFromBus(m_name); }
+UDisksBus::~UDisksBus() {
+    if (!m_isOpen)
+        return;
+    m_connection = QDBusConnection(QString()); // the last that refers to it
+    QDBusConnection::disconnectFromBus(m_name);
+    BusUsers::ofProcess().end();
+}
 
 std::optional<QVariant> UDisksBus::call(const QDBusObjectPath& object, const QString& interface,
                                         const QString& method, const QVariantList& arguments,
                                         const QString& signature) const {
+    if (BusUsers::ofProcess().isClosed())
+        return std::nullopt;
     QDBusMessage message = QDBusMessage::createMethodCall(service, object.path(), interface, method);
     message.setArguments(arguments);
     const QDBusMessage reply = m_connection.call(message, QDBus::Block, m_limitMilliseconds);

@@ -16,7 +16,8 @@ using UDisksObjects = QMap<QDBusObjectPath, UDisksInterfaces>;
 
 /// A private connection to the bus of UDisks2, for blocking calls. Threads: the one that made it; needs no
 /// event loop. Owner: the destructor closes the connection. Fails: calls return absent or false, also without
-/// a bus.
+/// a bus, and once the application ends: its end waits for the call that is under way, since the bus's
+/// library does not outlive the process's static objects, and threads that are left behind do.
 class UDisksBus {
 public:
     /// `address`: a bus address; empty: the system bus. `limit`: for each call.
@@ -39,6 +40,7 @@ private:
                                  const QString& signature) const;
 
     QString m_name;
+    bool m_isOpen;
     QDBusConnection m_connection;
     int m_limitMilliseconds;
 };
