@@ -22,6 +22,7 @@ namespace {
 constexpr std::int64_t MiB = 1048576;
 constexpr std::int64_t GiB = 1024 * MiB;
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+const std::error_code ioError(5, std::generic_category());
 
 /// Samples ten times a second of the rate that `rate` gives for each time.
 std::vector<ThroughputSample> curve(double seconds, const std::function<double(double)>& rate) {
@@ -55,8 +56,11 @@ struct JudgedRun {
         return {&write().evidence, &read().evidence, &randomRead().evidence, &result.randomWrite->evidence};
     }
     void setDiskReads(std::int64_t bytes) {
-        read().evidence.diskReads->bytes = bytes;
-        randomRead().evidence.diskReads->bytes = bytes;
+        read().evidence.diskReads->bytes = randomRead().evidence.diskReads->bytes = bytes;
+    }
+    void setTraffic(const std::optional<Traffic>& traffic) {
+        for (TestEvidence* each : evidence())
+            each->diskReads = each->diskWrites = traffic;
     }
     void setThread(std::optional<std::int64_t> bytes) {
         for (TestEvidence* each : evidence())
@@ -122,164 +126,97 @@ TEST(Remarks, WhetherAFigureIsTheDisks) {
     const char* bothReads =
         "fromMemory invalid sequentialRead 0, fromMemory invalid randomRead 0, cachedBelow caution";
     expectAll({
-        {"ordinary", [](JudgedRun&) {}, ""},
+        {"ordinary", [](auto&) {}, ""},
         {"a program's cache",
-         [](JudgedRun& run) {
-             run.volume().isServedByProgram = true;
-             run.setThread(0);
-             run.setDiskReads(0);
-         },
-         bothReads},
+         [](auto& r) { r.volume().isServedByProgram = true, r.setThread(0), r.setDiskReads(0); }, bothReads},
         {"a program that reads the disk, while the thread reads a page of a library",
-         [](JudgedRun& run) {
-             run.volume().isServedByProgram = true;
-             run.setThread(128 * 1024);
-         },
-         ""},
+         [](auto& r) { r.volume().isServedByProgram = true, r.setThread(128 * 1024); }, ""},
         {"the same where nobody says that a program serves",
-         [](JudgedRun& run) {
-             run.result.circumstances.reset();
-             run.setThread(4096);
-         },
-         ""},
+         [](auto& r) { r.result.circumstances.reset(), r.setThread(4096); }, ""},
         {"only reads, all from a cache",
-         [](JudgedRun& run) {
-             run.result.sequentialWrite.reset();
-             run.result.randomWrite.reset();
-             for (TestEvidence* each : {&run.read().evidence, &run.randomRead().evidence})
-                 each->diskReads = each->diskWrites = Traffic{0, 0};
-             run.read().evidence.threadReads = run.randomRead().evidence.threadReads = 0;
+         [](auto& r) {
+             r.setThread(0), r.setTraffic(Traffic{0, 0});
+             r.result.sequentialWrite.reset(), r.result.randomWrite.reset();
          },
          bothReads},
         {"a loop file that is cached: the transfers end there",
-         [](JudgedRun& run) {
-             run.volume().isFileOnDisk = run.volume().isCachedFileOnDisk = true;
-             run.setDiskReads(0);
-         },
+         [](auto& r) { r.volume().isFileOnDisk = r.volume().isCachedFileOnDisk = true, r.setDiskReads(0); },
          "fromMemory invalid sequentialRead 0, fromMemory invalid randomRead 0, cachedBelow caution, "
          "fileOnDisk note"},
         {"half from the cache while another program reads as much",
-         [](JudgedRun& run) { run.read().evidence.threadReads = 2 * GiB; },
+         [](auto& r) { r.read().evidence.threadReads = 2 * GiB; },
          "fromMemory invalid sequentialRead 0.4, cachedBelow caution"},
         {"half from a program's cache while another volume of the disk is read as much",
-         [](JudgedRun& run) {
-             run.volume().isServedByProgram = true;
-             run.setThread(0);
-             for (TestEvidence* each : run.evidence()) {
-                 each->volumeReads = each->diskReads;
-                 each->volumeWrites = each->diskWrites;
-             }
-             run.read().evidence.volumeReads->bytes = 2 * GiB;
+         [](auto& r) {
+             r.volume().isServedByProgram = true;
+             r.setThread(0);
+             for (TestEvidence* each : r.evidence())
+                 each->volumeReads = each->diskReads, each->volumeWrites = each->diskWrites;
+             r.read().evidence.volumeReads->bytes = 2 * GiB;
          },
          "fromMemory invalid sequentialRead 0.4, cachedBelow caution"},
         {"a volume's device that does not count",
-         [](JudgedRun& run) {
-             for (TestEvidence* each : run.evidence())
+         [](auto& r) {
+             for (TestEvidence* each : r.evidence())
                  each->volumeReads = each->volumeWrites = Traffic{0, 0};
          },
          ""},
-        {"90 % of it at the disk",
-         [](JudgedRun& run) { run.read().evidence.diskReads->bytes = 5 * GiB / 10 * 9 + 1; }, ""},
-        {"a write that stays in memory", [](JudgedRun& run) { run.write().evidence.diskWrites->bytes = GiB; },
+        {"90 % of it at the disk", [](auto& r) { r.read().evidence.diskReads->bytes = 5 * GiB / 10 * 9 + 1; },
+         ""},
+        {"a write that stays in memory", [](auto& r) { r.write().evidence.diskWrites->bytes = GiB; },
          "fromMemory invalid sequentialWrite 0.2"},
         {"a compressing file system that gets something to compress",
-         [](JudgedRun& run) {
-             run.volume().compresses = true;
-             run.read().evidence.diskReads->bytes = GiB;
-         },
+         [](auto& r) { r.volume().compresses = true, r.read().evidence.diskReads->bytes = GiB; },
          "fromMemory invalid sequentialRead 0.2, compresses note"},
-        {"disks whose counting is switched off",
-         [](JudgedRun& run) {
-             for (TestEvidence* each : run.evidence())
-                 each->diskReads = each->diskWrites = Traffic{0, 0};
-         },
+        {"disks whose counting is switched off", [](auto& r) { r.setTraffic(Traffic{0, 0}); },
          "notObservable note"},
-        {"disks that do not tell",
-         [](JudgedRun& run) {
-             for (TestEvidence* each : run.evidence()) {
-                 each->diskReads.reset();
-                 each->diskWrites.reset();
-             }
-         },
+        {"disks that do not tell", [](auto& r) { r.setTraffic({}); }, ""},
+        {"counts that make no sense", [](auto& r) { r.setDiskReads(-1), r.setThread(-1); }, ""},
+        {"nothing was moved", [](auto& r) { r.randomRead().operations = 0, r.read().bytesProcessed = -5; },
          ""},
-        {"counts that make no sense",
-         [](JudgedRun& run) {
-             run.setDiskReads(-1);
-             run.setThread(-1);
-         },
-         ""},
-        {"nothing was moved",
-         [](JudgedRun& run) {
-             run.randomRead().operations = 0;
-             run.read().bytesProcessed = -5;
-         },
-         ""},
-        {"a flush that failed",
-         [](JudgedRun& run) { run.write().flushError = std::error_code(5, std::generic_category()); },
+        {"a flush that failed", [](auto& r) { r.write().flushError = ioError; },
          "flushFailed invalid sequentialWrite 5"},
-        {"the preparation's flush",
-         [](JudgedRun& run) {
-             run.result.preparationFlushError = std::error_code(5, std::generic_category());
-         },
+        {"the preparation's flush", [](auto& r) { r.result.preparationFlushError = ioError; },
          "flushFailed invalid 5"},
     });
 }
 
 TEST(Remarks, WhoCaches) {
     expectAll({
-        {"the file system says so", [](JudgedRun& run) { run.volume().allowsDirectIo = false; },
+        {"the file system says so", [](auto& r) { r.volume().allowsDirectIo = false; },
          "cachedBelow caution"},
-        {"it does not say", [](JudgedRun& run) { run.volume().allowsDirectIo.reset(); }, ""},
-        {"it refused", [](JudgedRun& run) { run.read().evidence.isBypassRefused = true; },
+        {"it does not say", [](auto& r) { r.volume().allowsDirectIo.reset(); }, ""},
+        {"it refused", [](auto& r) { r.read().evidence.isBypassRefused = true; }, "cachedBelow caution"},
+        {"it refused each transfer", [](auto& r) { r.randomRead().evidence.refusedTransfers = 9999; },
          "cachedBelow caution"},
-        {"it refused each transfer",
-         [](JudgedRun& run) { run.randomRead().evidence.refusedTransfers = 9999; }, "cachedBelow caution"},
-        {"it refused a short last write", [](JudgedRun& run) { run.write().evidence.refusedTransfers = 1; },
-         ""},
-        {"it was not asked",
-         [](JudgedRun& run) {
-             run.plan.bypassCache = false;
-             run.volume().allowsDirectIo = false;
-         },
+        {"it refused a short last write", [](auto& r) { r.write().evidence.refusedTransfers = 1; }, ""},
+        {"it was not asked", [](auto& r) { r.plan.bypassCache = false, r.volume().allowsDirectIo = false; },
          ""},
         {"the file fits into the memory and came from there",
-         [](JudgedRun& run) {
-             run.plan.bypassCache = false;
-             run.read().evidence.diskReads->bytes = 0;
-         },
+         [](auto& r) { r.plan.bypassCache = false, r.read().evidence.diskReads->bytes = 0; },
          "fromMemory invalid sequentialRead 0, smallTest caution 5.37e+09 1.72e+10"},
         {"the file is larger than the memory",
-         [](JudgedRun& run) {
-             run.plan.bypassCache = false;
-             run.volume().memoryBytes = 4 * GiB;
-             run.read().evidence.diskReads->bytes = 4 * GiB;
+         [](auto& r) {
+             r.plan.bypassCache = false, r.volume().memoryBytes = 4 * GiB;
+             r.read().evidence.diskReads->bytes = 4 * GiB;
          },
          "fromMemory invalid sequentialRead 0.8"},
-        {"a file that a drive's cache may hold",
-         [](JudgedRun& run) { run.write().bytesProcessed = 128 * MiB; }, "smallTest note 1.34e+08 2.68e+08"},
-        {"one that is just too large", [](JudgedRun& run) { run.write().bytesProcessed = 256 * MiB; }, ""},
+        {"a file that a drive's cache may hold", [](auto& r) { r.write().bytesProcessed = 128 * MiB; },
+         "smallTest note 1.34e+08 2.68e+08"},
+        {"one that is just too large", [](auto& r) { r.write().bytesProcessed = 256 * MiB; }, ""},
         {"in memory, where a refusal says nothing",
-         [](JudgedRun& run) {
-             run.volume().reach = FileSystemReach::memory;
-             run.read().evidence.isBypassRefused = true;
-             run.setDiskReads(0);
-             run.volume().freeBytes = 1;
+         [](auto& r) {
+             r.volume().reach = FileSystemReach::memory, r.volume().freeBytes = 1;
+             r.read().evidence.isBypassRefused = true, r.setDiskReads(0);
          },
          "inMemory note"},
         {"over the network",
-         [](JudgedRun& run) {
-             run.volume().reach = FileSystemReach::network;
-             run.volume().disks = 0;
-             for (TestEvidence* each : run.evidence()) {
-                 each->diskReads.reset();
-                 each->diskWrites.reset();
-             }
-         },
+         [](auto& r) { r.volume().reach = FileSystemReach::network, r.volume().disks = 0, r.setTraffic({}); },
          "notObservable note"},
         {"file operations alone",
-         [](JudgedRun& run) {
-             run.volume().disks = 0;
-             run.result = {.fileOps = FileOpsResult{}, .circumstances = run.volume()};
+         [](auto& r) {
+             r.volume().disks = 0;
+             r.result = {.fileOps = FileOpsResult{}, .circumstances = r.volume()};
          },
          ""},
     });
@@ -289,69 +226,46 @@ TEST(Remarks, WhatHappenedMeanwhile) {
     const auto fading = [](double t) { return t < 9 ? 1e9 : 6e8 * std::exp((9 - t) / 4); };
     const auto falling = [](double t) { return t < 8 ? 1e9 : 5e8; };
     const auto steady = [](double) { return 1e9; };
-    const auto heat = [](double from, double limit, const std::function<double(double)>& rate) {
+    const auto heat = [](double from, double limit, const std::function<double(double)>& rate,
+                         double to = 99) {
         return [=](JudgedRun& run) {
             run.volume().maxCelsius = limit;
             for (CircumstanceSample& sample : run.volume().samples)
-                sample.celsius = sample.elapsed >= from ? 71 : 60;
+                sample.celsius = sample.elapsed >= from && sample.elapsed <= to ? 71 : 60;
             run.write().samples = curve(20, rate);
         };
     };
     expectAll({
-        {"another program reads", [](JudgedRun& run) { run.read().evidence.diskReads->bytes += GiB; },
+        {"another program reads", [](auto& r) { r.read().evidence.diskReads->bytes += GiB; },
          "otherTraffic caution sequentialRead 1.08e+09"},
         {"another program writes during the random read",
-         [](JudgedRun& run) { run.randomRead().evidence.diskWrites->bytes = 100 * MiB; },
+         [](auto& r) { r.randomRead().evidence.diskWrites->bytes = 100 * MiB; },
          "otherTraffic caution randomRead 1.05e+08"},
-        {"a little of it", [](JudgedRun& run) { run.read().evidence.diskWrites->bytes = 300 * MiB; }, ""},
-        {"two disks",
-         [](JudgedRun& run) {
-             run.read().evidence.diskReads->bytes += GiB;
-             run.volume().disks = 2;
-         },
-         ""},
+        {"a little of it", [](auto& r) { r.read().evidence.diskWrites->bytes = 300 * MiB; }, ""},
+        {"two disks", [](auto& r) { r.read().evidence.diskReads->bytes += GiB, r.volume().disks = 2; }, ""},
         {"data is written twice",
-         [](JudgedRun& run) {
-             run.write().evidence.diskWrites->bytes *= 2;
-             run.volume().journalsData = true;
-         },
+         [](auto& r) { r.write().evidence.diskWrites->bytes *= 2, r.volume().journalsData = true; },
          "journalsData note"},
         {"a program that reads ahead",
-         [](JudgedRun& run) {
-             run.randomRead().evidence.diskReads->bytes *= 32;
-             run.volume().isServedByProgram = true;
-             run.setThread(0);
+         [](auto& r) {
+             r.volume().isServedByProgram = true, r.setThread(0);
+             r.randomRead().evidence.diskReads->bytes *= 32;
          },
          ""},
         {"through the cache",
-         [](JudgedRun& run) {
-             run.plan.bypassCache = false;
-             run.write().evidence.diskReads->bytes = GiB;
-         },
-         ""},
-        {"pauses",
-         [](JudgedRun& run) {
-             run.write().evidence.longPauses = 3;
-             run.write().evidence.longestPause = 4.25;
-         },
+         [](auto& r) { r.plan.bypassCache = false, r.write().evidence.diskReads->bytes = GiB; }, ""},
+        {"pauses", [](auto& r) { r.write().evidence.longPauses = 3, r.write().evidence.longestPause = 4.25; },
          "stalls caution sequentialWrite 3 4.25"},
         {"blocks that take over a second each",
-         [](JudgedRun& run) {
-             run.write().blockSize = 512 * MiB;
-             run.write().evidence.longPauses = 10;
-             run.write().evidence.longestPause = 2.4;
+         [](auto& r) {
+             r.write().evidence.longPauses = 10, r.write().evidence.longestPause = 2.4;
+             r.write().blockSize = 512 * MiB;
          },
          ""},
         {"hot, then slower", heat(10, 75, fading), "gotHot caution sequentialWrite 71 9 75 0.796"},
         {"hot, but far from the limit", heat(10, 85, fading), ""},
         {"hot from the start", heat(0, 75, fading), ""},
-        {"hot for a moment",
-         [&](JudgedRun& run) {
-             heat(10, 75, fading)(run);
-             for (CircumstanceSample& sample : run.volume().samples)
-                 sample.celsius = sample.elapsed > 12 ? 60 : sample.celsius;
-         },
-         ""},
+        {"hot for a moment", heat(10, 75, fading, 12), ""},
         {"hot long after it became slower", heat(17, 75, falling),
          "speedFell caution sequentialWrite 1e+09 5e+08 8e+09"},
         {"hot and as fast as before", heat(10, 75, steady), ""},
@@ -366,42 +280,36 @@ TEST(Remarks, WhatTheVolumeIs) {
             run.write().samples = run.read().samples = curve(20, [=](double) { return rate; });
         };
     };
-    const auto freeShare = [](double share) {
-        return
-            [=](JudgedRun& run) { run.volume().freeBytes = static_cast<std::int64_t>(share * 1000) * GiB; };
+    const auto freeGiB = [](std::int64_t size) {
+        return [=](JudgedRun& run) { run.volume().freeBytes = size * GiB; };
     };
     expectAll({
         {"a link that limits", link(4.8e8, 5e9, 4e7), "slowLink caution 4.8e+08 5e+09 2"},
         {"a slow link and a slower drive", link(3e9, 6e9, 1.5e8), "slowLink note 3e+09 6e+09 2"},
         {"a link that is as fast as the drive", link(5e9, 5e9, 4e8), ""},
         {"a link without an end", link(5e9, std::numeric_limits<double>::infinity(), 4e8), ""},
-        {"misaligned", [](JudgedRun& run) { run.volume().misalignment = Misalignment{3584, 4096}; },
+        {"misaligned", [](auto& r) { r.volume().misalignment = Misalignment{3584, 4096}; },
          "misaligned caution 3.58e+03 4.1e+03"},
-        {"aligned", [](JudgedRun& run) { run.volume().misalignment = Misalignment{4096, 4096}; }, ""},
-        {"full", freeShare(0.04), "nearlyFull caution 0.04"},
-        {"nearly full", freeShare(0.09), "nearlyFull note 0.09"},
-        {"not full", freeShare(0.1), ""},
-        {"less than nothing free", freeShare(-1), ""},
-        {"on battery", [](JudgedRun& run) { run.volume().isOnBattery = true; }, "powerSaving note 1"},
+        {"aligned", [](auto& r) { r.volume().misalignment = Misalignment{4096, 4096}; }, ""},
+        {"full", freeGiB(40), "nearlyFull caution 0.04"},
+        {"nearly full", freeGiB(90), "nearlyFull note 0.09"},
+        {"not full", freeGiB(100), ""},
+        {"less than nothing free", freeGiB(-1000), ""},
+        {"on battery", [](auto& r) { r.volume().isOnBattery = true; }, "powerSaving note 1"},
         {"both ways of saving power",
-         [](JudgedRun& run) { run.volume().isOnBattery = run.volume().hasPowerSaveGovernor = true; },
+         [](auto& r) { r.volume().isOnBattery = r.volume().hasPowerSaveGovernor = true; },
          "powerSaving note 3"},
-        {"a virtual machine", [](JudgedRun& run) { run.volume().isVirtualDisk = true; }, "virtualDisk note"},
-        {"a loop file past the cache", [](JudgedRun& run) { run.volume().isFileOnDisk = true; },
-         "fileOnDisk note"},
+        {"a virtual machine", [](auto& r) { r.volume().isVirtualDisk = true; }, "virtualDisk note"},
+        {"a loop file past the cache", [](auto& r) { r.volume().isFileOnDisk = true; }, "fileOnDisk note"},
         {"copies and compresses",
-         [](JudgedRun& run) {
-             run.volume().copiesOnWrite = run.volume().checksumsData = run.volume().compresses = true;
-         },
+         [](auto& r) { r.volume().copiesOnWrite = r.volume().checksumsData = r.volume().compresses = true; },
          "compresses note, copiesOnWrite note 1"},
-        {"nobody looked", [](JudgedRun& run) { run.result.circumstances.reset(); }, ""},
+        {"nobody looked", [](auto& r) { r.result.circumstances.reset(); }, ""},
         {"the worst first",
-         [](JudgedRun& run) {
-             run.volume().isOnBattery = true;
-             run.volume().misalignment = Misalignment{512, 4096};
-             run.write().evidence.longPauses = 1;
-             run.write().evidence.longestPause = 2;
-             run.read().evidence.diskReads->bytes = 0;
+         [](auto& r) {
+             r.volume().isOnBattery = true, r.volume().misalignment = Misalignment{512, 4096};
+             r.write().evidence.longPauses = 1, r.write().evidence.longestPause = 2;
+             r.read().evidence.diskReads->bytes = 0;
          },
          "fromMemory invalid sequentialRead 0, cachedBelow caution, misaligned caution 512 4.1e+03, "
          "stalls caution sequentialWrite 1 2, powerSaving note 1"},

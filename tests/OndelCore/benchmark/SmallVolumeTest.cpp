@@ -1,13 +1,17 @@
-// Whole runs on real file systems that are small enough to fill.
+// Whole runs on real file systems: when they are full, and what a run observes on them.
 
 #include "FakeSystem.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
+#include "OndelCore/benchmark/evidence/Remark.h"
 #include "OndelCore/platform/storage/OpenFolders.h"
 #include "support/LoopMount.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
+
+#include <algorithm>
+#include <sstream>
 
 using namespace OndelCore::benchmark;
 using test::smallPlan;
@@ -95,5 +99,74 @@ INSTANTIATE_TEST_SUITE_P(FileSystems, SmallVolume,
                          testing::Values(std::pair{"tmpfs", 24LL << 20}, std::pair{"ext4", 32LL << 20},
                                          std::pair{"xfs", 300LL << 20}, std::pair{"btrfs", 128LL << 20}),
                          [](const auto& volume) { return std::string(volume.param.first); });
+
+/// A volume, and the remarks on the run that it must and must never get. What the machine and its load add
+/// ("virtualDisk", "powerSaving") is nobody's here.
+struct RealVolume {
+    const char *name, *type;
+    std::int64_t mebibytes;
+    const char *mountOptions, *formatOptions, *present, *absent; ///< the last two: codes
+    bool readsFromMemory = false;                                ///< and not from the disk
+};
+
+void PrintTo(const RealVolume& volume, std::ostream* out) { *out << volume.name; }
+
+struct RealEvidence : testing::TestWithParam<RealVolume> {};
+
+TEST_P(RealEvidence, SaysWhatIsTrueOfTheVolume) {
+    const auto& [name, type, mebibytes, mountOptions, formatOptions, present, absent, readsFromMemory] =
+        GetParam();
+    // In memory, so that no other program's traffic is seen below the loop device.
+    const test::LoopMount memory("tmpfs", 640 << 20);
+    const test::LoopMount volume(type, mebibytes << 20, mountOptions,
+                                 QString(formatOptions).split(' ', Qt::SkipEmptyParts), memory.path());
+    if (const std::string problem = memory.problem() + volume.problem(); !problem.empty())
+        GTEST_SKIP() << problem;
+    auto plan =
+        smallPlan({sequentialWrite, sequentialRead, randomRead, randomWrite}, BenchmarkSize::fixed(48 << 20));
+    plan.writeBlockSize = plan.readBlockSize = 1 << 20;
+    plan.randomOpCount = 300;
+    plan.bypassCache = true;
+    EngineEnvironment real;
+    real.freeBytes = [](const auto&) { return std::int64_t{1} << 40; }; // it is small
+    std::string said = "\n";                                            // a line "code test" for each
+    for (const Remark& remark :
+         remarksOn(plan, runInFolder(real, plan, volume.path(), CancelFlag(), [](const auto&) {})))
+        said += std::string(rawValue(remark.code)) + ' ' +
+                std::string(remark.test ? rawValue(*remark.test) : "") + '\n';
+    const auto isSaid = [&](const std::string& words) {
+        return said.find('\n' + words) != std::string::npos;
+    };
+    std::istringstream wanted(present), unwanted(absent);
+    for (std::string code; wanted >> code;)
+        EXPECT_TRUE(remarkCode(code) && isSaid(code + " \n")) << code << " in" << said;
+    for (std::string code; unwanted >> code;)
+        EXPECT_TRUE(remarkCode(code) && !isSaid(code + ' ')) << code << " in" << said;
+    for (const char* reading : {"fromMemory sequentialRead", "fromMemory randomRead"})
+        EXPECT_TRUE(!readsFromMemory || isSaid(reading)) << reading << " in" << said;
+}
+
+// The programs behind NTFS and exFAT read and write through the cache of the device, which holds it all.
+INSTANTIATE_TEST_SUITE_P(
+    All, RealEvidence,
+    testing::Values(
+        RealVolume{"tmpfs", "tmpfs", 128, "", "", "inMemory",
+                   "fromMemory flushFailed cachedBelow fileOnDisk notObservable otherTraffic smallTest"},
+        RealVolume{"ntfs", "ntfs", 192, "", "-F -Q -q", "cachedBelow fileOnDisk",
+                   "flushFailed inMemory otherTraffic journalsData", true},
+        RealVolume{"exfat", "exfat", 192, "", "", "cachedBelow fileOnDisk",
+                   "flushFailed inMemory otherTraffic journalsData", true},
+        RealVolume{"ext4", "ext4", 192, "", "-q", "cachedBelow fileOnDisk",
+                   "fromMemory flushFailed inMemory notObservable otherTraffic journalsData compresses "
+                   "copiesOnWrite"},
+        RealVolume{"ext4WithJournalledData", "ext4", 192, "data=journal", "-q",
+                   "cachedBelow fileOnDisk journalsData", "flushFailed inMemory notObservable otherTraffic",
+                   true},
+        RealVolume{"btrfsThatCompresses", "btrfs", 400, "compress=zstd", "-q",
+                   "compresses copiesOnWrite fileOnDisk",
+                   "flushFailed inMemory notObservable otherTraffic journalsData"},
+        RealVolume{"xfs", "xfs", 320, "", "-q", "cachedBelow fileOnDisk",
+                   "fromMemory flushFailed inMemory notObservable otherTraffic compresses journalsData"}),
+    [](const auto& volume) { return std::string(volume.param.name); });
 
 } // namespace

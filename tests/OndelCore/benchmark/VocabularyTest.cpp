@@ -1,6 +1,7 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
+#include "OndelCore/benchmark/BenchmarkTarget.h"
 #include "OndelCore/benchmark/SpeedScale.h"
 
 #include <gtest/gtest.h>
@@ -8,9 +9,11 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <set>
 #include <unordered_set>
 
 using namespace OndelCore::benchmark;
+using OndelCore::platform::Mount;
 
 namespace {
 
@@ -133,6 +136,41 @@ TEST(SpeedScale, PlacesAndJudgesRates) {
     const SpeedScale twins({{"fast", 9}, {"a", 5}, {"b", 5}});
     EXPECT_EQ(twins.verdict(5), "Faster than b, slower than fast");
     EXPECT_EQ(twins.verdict(4), "Slower than a");
+}
+
+TEST(BenchmarkTarget, PicksAFolderThatCanBeWritten) {
+    const auto mounted = [](dev_t device, const char* where) {
+        Mount mount;
+        mount.device = device;
+        mount.mountPoint = where;
+        return mount;
+    };
+    const Mount root = mounted(1, "/"), stick = mounted(2, "/media/stick"),
+                rootAgain = mounted(1, "/mnt/root");
+    struct Case {
+        std::filesystem::path path;
+        std::set<std::filesystem::path> writable;
+        std::optional<Mount> volume;
+        std::filesystem::path picked;
+    };
+    const Case cases[]{
+        {"/media/stick/data", {"/media/stick/data"}, stick, "/media/stick/data"},
+        {"/media/stick/data", {"/media/stick"}, stick, "/media/stick"},
+        {"/media/stick/data", {}, stick, "/media/stick/data"},
+        {"/", {"/"}, root, "/home/ada"},
+        {"/etc", {"/"}, root, "/home/ada"},
+        {"/mnt/root", {}, rootAgain, "/home/ada"},
+        {"/gone", {}, std::nullopt, "/gone"},
+    };
+    for (const Case& each : cases) {
+        const BenchmarkTarget::Lookup system{
+            .isWritable = [&](const std::filesystem::path& path) { return each.writable.contains(path); },
+            .mountOfPath =
+                [&](const std::filesystem::path& path) { return path == "/home/ada" ? root : each.volume; },
+        };
+        EXPECT_EQ(BenchmarkTarget::folder(each.path, "/home/ada", system), each.picked);
+    }
+    EXPECT_EQ(BenchmarkTarget::folder("/", "/home/ada"), "/home/ada");
 }
 
 } // namespace
