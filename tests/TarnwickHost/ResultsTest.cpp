@@ -79,6 +79,8 @@ File operations       100 ops/s  200 ops/s  50 ops/s   25 ops/s
     const QJsonObject json = resultJson(run);
     EXPECT_EQ(json["sequentialWrite"]["sustainedBytesPerSecond"], 300e6);
     EXPECT_EQ(json["sequentialWrite"]["peakBytesPerSecond"], 900e6);
+    EXPECT_EQ(json["sequentialWrite"]["observedCacheCliff"], true);
+    EXPECT_EQ(json["sequentialRead"]["observedCacheCliff"], false);
     EXPECT_EQ(json["fileOps"]["stat"]["opsPerSecond"], 200);
     EXPECT_EQ(json["fileOps"]["rename"]["opsPerSecond"], 50);
     EXPECT_EQ(json["fileOps"]["delete"]["opsPerSecond"], 25);

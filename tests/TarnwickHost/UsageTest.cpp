@@ -10,10 +10,6 @@ using test::runHost;
 
 namespace {
 
-std::string withoutLastBreak(const std::string& text) {
-    return text.empty() ? text : text.substr(0, text.size() - 1);
-}
-
 TEST(Usage, WrongCallsGetOneLineAndStatusTwo) {
     const test::TemporaryFolder folder;
     const std::string there = folder.path();
@@ -75,7 +71,7 @@ TEST(Usage, WrongCallsGetOneLineAndStatusTwo) {
         EXPECT_EQ(outcome.output, "") << wrong.says;
         EXPECT_NE(outcome.errors.find(wrong.says), std::string::npos)
             << wrong.says << " / " << outcome.errors;
-        const std::string line = withoutLastBreak(outcome.errors);
+        const std::string line = outcome.errors.substr(0, outcome.errors.size() - 1); // without its break
         EXPECT_TRUE(std::none_of(line.begin(), line.end(), [](char each) { return each >= 0 && each < 32; }))
             << line;
     }

@@ -18,15 +18,15 @@ inline const std::filesystem::path systemMountTable = "/proc/self/mountinfo";
 /// One entry of the mount table (proc(5), "mountinfo"). Paths and source are decoded bytes, not necessarily
 /// UTF-8.
 struct Mount {
-    std::uint64_t id = 0;       ///< unique among current mounts; may be reused later
-    std::uint64_t parentId = 0; ///< the mount of the parent folder; may be missing from the table
-    dev_t device = 0;           ///< the superblock's device number; anonymous for Btrfs, network, memory
-    std::filesystem::path root; ///< the mounted part of the file system: "/", a subvolume or a bind source
-    std::filesystem::path mountPoint; ///< where it is mounted
-    std::string type;                 ///< the kernel's name of the file system: "ext4", "fuse.sshfs"
-    std::string source;               ///< the device's path, the server's address, or a word such as "tmpfs"
-    std::string options;              ///< of this mount, comma-separated: "rw,nosuid"
-    std::string superOptions;         ///< of the file system, comma-separated
+    std::uint64_t id = 0;         ///< unique among current mounts; may be reused later
+    std::uint64_t parentId = 0;   ///< the mount of the parent folder; may be missing from the table
+    dev_t device = 0;             ///< the superblock's device number; anonymous for Btrfs, network, memory
+    std::filesystem::path root{}; ///< the mounted part of the file system: "/", a subvolume or a bind source
+    std::filesystem::path mountPoint{}; ///< where it is mounted
+    std::string type{};                 ///< the kernel's name of the file system: "ext4", "fuse.sshfs"
+    std::string source{};       ///< the device's path, the server's address, or a word such as "tmpfs"
+    std::string options{};      ///< of this mount, comma-separated: "rw,nosuid"
+    std::string superOptions{}; ///< of the file system, comma-separated
 
     bool operator==(const Mount&) const = default;
 };

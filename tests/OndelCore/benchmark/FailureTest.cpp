@@ -24,6 +24,7 @@
 #include <vector>
 
 using namespace OndelCore::benchmark;
+using test::everyTest;
 using test::FakeSystem;
 using test::smallPlan;
 using enum BenchmarkTest;
@@ -32,8 +33,6 @@ namespace fs = std::filesystem;
 namespace {
 
 thread_local std::size_t allocations = 0;
-
-const std::set<BenchmarkTest> everyTest(allBenchmarkTests.begin(), allBenchmarkTests.end());
 
 struct Failure : testing::Test {
     ~Failure() override {

@@ -48,6 +48,9 @@ inline std::filesystem::path inMemory() {
     return std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : "";
 }
 
+inline const std::set<OndelCore::benchmark::BenchmarkTest>
+    everyTest(OndelCore::benchmark::allBenchmarkTests.begin(), OndelCore::benchmark::allBenchmarkTests.end());
+
 /// A plan of small numbers: these tests alone, blocks of one page, no cache bypass, a sample per transfer.
 OndelCore::benchmark::BenchmarkPlan smallPlan(std::set<OndelCore::benchmark::BenchmarkTest> tests,
                                               OndelCore::benchmark::BenchmarkSize size);

@@ -19,6 +19,7 @@
 
 using namespace OndelCore::benchmark;
 using namespace OndelCore::platform;
+using test::everyTest;
 using test::FakeSystem;
 using test::smallPlan;
 using enum BenchmarkTest;
@@ -26,7 +27,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::set<BenchmarkTest> everyTest(allBenchmarkTests.begin(), allBenchmarkTests.end());
 const BenchmarkPlan wholePlan = smallPlan(everyTest, BenchmarkSize::fixed(65536));
 constexpr auto precious = "what must not be lost";
 

@@ -14,6 +14,7 @@
 #include <sstream>
 
 using namespace OndelCore::benchmark;
+using test::everyTest;
 using test::smallPlan;
 using enum BenchmarkTest;
 
@@ -22,8 +23,6 @@ namespace {
 std::int64_t freeSpaceOf(const std::filesystem::path& folder) {
     return EngineEnvironment().freeBytes(OndelCore::platform::openFolder(folder).get()).value();
 }
-
-const std::set<BenchmarkTest> everyTest(allBenchmarkTests.begin(), allBenchmarkTests.end());
 
 struct SmallVolume : testing::TestWithParam<std::pair<const char*, std::int64_t>> {};
 

@@ -1,11 +1,17 @@
 #include "OndelCore/health/DiskHealth.h"
 
+#include "OndelCore/health/OndelSMARTFields.h"
+#include "OndelCore/health/SmartPages.h"
+#include "OndelCore/health/SmartReader.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <cstring>
 #include <functional>
 #include <limits>
+#include <random>
+#include <sstream>
 
 namespace OndelCore::health {
 
@@ -190,6 +196,192 @@ TEST(DiskHealth, IsAbsentWithoutADeviceUnderThePath) {
     OndelSMART record = nvme();
     EXPECT_EQ(ondel_read_smart("no-such-device", &record), 0);
     EXPECT_EQ(record, OndelSMART()) << "the previous content is lost";
+}
+
+
+/// Writes a page byte by byte at the standard's offsets.
+class PageBuilder {
+public:
+    explicit PageBuilder(std::uint8_t filling = 0) { m_page.fill(filling); }
+
+    PageBuilder& put(std::size_t offset, std::uint64_t value, std::size_t size) {
+        for (std::size_t index = 0; index < size; ++index, value >>= 8U)
+            m_page.at(offset + index) = static_cast<std::uint8_t>(value);
+        return *this;
+    }
+    /// An entry of the ATA attribute table; flags, value and worst are noise and must be ignored.
+    PageBuilder& attribute(std::size_t row, std::uint8_t number, std::uint64_t raw) {
+        const std::size_t offset = 2 + 12 * row;
+        return put(offset, number, 1)
+            .put(offset + 1, 0x64640032, 4)
+            .put(offset + 5, raw, 6)
+            .put(offset + 11, 0xee, 1);
+    }
+    const SmartPage& page() const { return m_page; }
+
+private:
+    SmartPage m_page;
+};
+
+/// The names of nonzero fields, with the value unless it is 1.
+std::string fieldsOf(const OndelSMART& record) {
+    std::ostringstream text;
+    forEachField(record, [&](std::string_view name, const auto& value) {
+        if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(value)>>) {
+            if (value == 1)
+                text << name << ' ';
+            else if (value != 0)
+                text << name << '=' << value << ' ';
+        }
+    });
+    return text.str();
+}
+
+OndelSMART decoded(void (*decode)(const SmartPage&, OndelSMART&), const PageBuilder& builder) {
+    OndelSMART record;
+    decode(builder.page(), record);
+    return record;
+}
+
+TEST(SmartPages, DecodeEveryFieldOfAnNvmeHealthLog) {
+    // The high half of each counter is set too and must be ignored.
+    PageBuilder log;
+    log.put(0, 0x85, 1).put(1, 311, 2).put(3, 100, 1).put(4, 10, 1).put(5, 255, 1);
+    for (std::uint64_t counter = 0; counter < 10; ++counter)
+        log.put(32 + 16 * counter, (1000 + counter) * 1000, 8).put(40 + 16 * counter, largest, 8);
+    EXPECT_EQ(fieldsOf(decoded(decodeNvmeHealth, log)),
+              "failing has_temperature temperature=38 has_percent_used percent_used=255 has_spare spare=100 "
+              "spare_threshold=10 critical_warning=133 has_power_on_hours power_on_hours=1006000 "
+              "has_power_cycles power_cycles=1005000 has_nvme_counters unsafe_shutdowns=1007000 "
+              "media_errors=1008000 error_log_entries=1009000 has_data_written data_written_tb=0.512512 "
+              "has_data_read data_read_tb=0.512 has_host_commands host_read_commands=1002000 "
+              "host_write_commands=1003000 has_busy_minutes busy_minutes=1004000 ");
+
+    const OndelSMART zeros = decoded(decodeNvmeHealth, PageBuilder(0));
+    EXPECT_EQ(zeros.failing, 0);
+    EXPECT_EQ(zeros.has_temperature, 1);
+    EXPECT_EQ(zeros.temperature, -273);
+    const OndelSMART ones = decoded(decodeNvmeHealth, PageBuilder(0xff));
+    EXPECT_EQ(ones.failing, 1);
+    EXPECT_EQ(ones.critical_warning, 255);
+    EXPECT_EQ(ones.temperature, 65535 - 273);
+    EXPECT_EQ(ones.error_log_entries, largest);
+    EXPECT_DOUBLE_EQ(ones.data_read_tb, 18446744073709551615.0 * 512000.0 / 1e12);
+}
+
+TEST(SmartPages, DecodeTheKnownAtaAttributes) {
+    constexpr std::uint64_t raw = 0x0c0ffe;
+    PageBuilder data;
+    std::size_t row = 0;
+    for (const int number : {1, 5, 9, 10, 12, 187, 190, 193, 197, 198, 199})
+        data.attribute(row++, static_cast<std::uint8_t>(number), raw);
+    data.attribute(29, 194,
+                   0x002600110026); // the last row counts; minimum and maximum are above the temperature
+    EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, data)),
+              "has_temperature temperature=38 has_power_on_hours power_on_hours=790526 has_power_cycles "
+              "power_cycles=790526 has_reallocated reallocated=790526 has_pending pending=790526 "
+              "has_uncorrectable uncorrectable=790526 has_reported_uncorrectable "
+              "reported_uncorrectable=790526 has_crc_errors crc_errors=790526 has_spin_retries "
+              "spin_retries=790526 has_load_cycles load_cycles=790526 ");
+}
+
+TEST(SmartPages, ReadImpossibleValuesInFewerBits) {
+    struct Case {
+        std::uint8_t number;
+        std::uint64_t raw;
+        const char* fields;
+    };
+    const Case cases[] = {
+        {5, 1000000, "has_reallocated reallocated=1000000 "},
+        {5, 0x00000000fff8, "has_reallocated reallocated=65528 "},
+        {5, 8589934592000, "has_reallocated "}, // 7D0h in the upper words
+        {5, 0x000100020003, "has_reallocated reallocated=131075 "},
+        {5, 0x000101020003, "has_reallocated reallocated=3 "},
+        {5, 0xffffffffffff, ""},
+        {9, 876000, "has_power_on_hours power_on_hours=876000 "},
+        {9, 876001, ""},
+        {9, 0xd69600000218, "has_power_on_hours power_on_hours=536 "},   // 26933759525 years in 48 bits
+        {9, 0x01a2b300a1b2, "has_power_on_hours power_on_hours=41394 "}, // milliseconds above 24 bits
+        {9, 5256000, ""},                                                // ten years in minutes
+        {9, 0x00010000ffffff, ""},
+        {10, 0x000300000003, "has_spin_retries spin_retries=3 "},
+        {10, 0x0000ffff0000, "has_spin_retries "},
+        {12, 0x0001000004d2, "has_power_cycles power_cycles=1234 "},
+        {12, 0x0000abcd04d2, "has_power_cycles power_cycles=1234 "},
+        {187, 0x0000ffffffff, ""},
+        {193, 0x00000035a4e9, "has_load_cycles load_cycles=3515625 "},
+        {193, 0x0000ff00a4e9, "has_load_cycles load_cycles=42217 "},
+        {197, 4246863874, "has_pending pending=2 "},
+        {198, 0x0000fd220000, "has_uncorrectable "},
+        {199, 0x00000001e240, "has_crc_errors crc_errors=123456 "},
+        {199, 0xffff0001e240, "has_crc_errors crc_errors=123456 "},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, PageBuilder().attribute(0, each.number, each.raw))),
+                  each.fields)
+            << int{each.number} << ": " << each.raw;
+}
+
+TEST(SmartPages, UseTheLaterOfTwoAtaAttributes) {
+    PageBuilder data;
+    data.attribute(0, 9, 100).attribute(3, 9, 7).attribute(4, 0, 5);
+    data.attribute(5, 194, 40).attribute(6, 194, 120).attribute(7, 9, 876001);
+    const OndelSMART record = decoded(decodeAtaAttributes, data);
+    EXPECT_EQ(record.power_on_hours, 7U);
+    EXPECT_EQ(record.temperature, 40) << "a reading that cannot be leaves the earlier one";
+    EXPECT_EQ(fieldsOf(decoded(decodeAtaAttributes, PageBuilder(0xff))), "");
+    for (const std::uint64_t outside : {0U, 120U, 255U, 0x2600U})
+        EXPECT_EQ(decoded(decodeAtaAttributes, PageBuilder().attribute(0, 194, outside)).has_temperature, 0);
+    for (const std::uint64_t inside : {1U, 119U})
+        EXPECT_EQ(decoded(decodeAtaAttributes, PageBuilder().attribute(0, 194, inside)).has_temperature, 1);
+}
+
+TEST(SmartPages, MakeARecordOfEachKindOfAnswer) {
+    using namespace platform;
+    const auto record = [](auto blocks) { return recordOf({.blocks = std::move(blocks), .source = {}}); };
+    EXPECT_EQ(recordOf({}), OndelSMART());
+    EXPECT_EQ(DiskHealth::smart(record(AtaSmart{})), (DiskSMART{DiskSMART::Status::verified, "ATA", {}}));
+    EXPECT_EQ(fieldsOf(record(AtaSmart{.thresholdExceeded = true, .page = {}})), "available failing ");
+    EXPECT_EQ(
+        fieldsOf(record(AtaSmartReport{.thresholdExceeded = false, .attributes = {{194, 41}, {250, 1}}})),
+        "available has_temperature temperature=41 ");
+
+    NvmeSmartReport partial;
+    partial.criticalWarning = 4;
+    partial.sparePercent = 3;
+    partial.mediaErrors = 5;
+    partial.bytesWritten = 2500000000000;
+    EXPECT_EQ(fieldsOf(record(partial)),
+              "available failing critical_warning=4 media_errors=5 has_data_written data_written_tb=2.5 ");
+    EXPECT_STREQ(record(partial).kind, "NVMe");
+}
+
+/// Random pages, and pages with mostly known attribute numbers: no access is out of bounds (with sanitizers),
+/// flags are 0 or 1, and every record can be shown.
+TEST(SmartPages, DecodeAnyBytes) {
+    std::mt19937_64 random(20261121);
+    constexpr std::array<std::uint8_t, 12> numbers{5, 9, 10, 12, 187, 193, 194, 197, 198, 199, 0, 77};
+    for (int round = 0; round < 200000; ++round) {
+        SmartPage page;
+        for (std::size_t offset = 0; offset < page.size(); offset += sizeof(std::uint64_t)) {
+            const std::uint64_t bytes = random();
+            std::memcpy(page.data() + offset, &bytes, sizeof bytes);
+        }
+        if (round % 2)
+            for (std::size_t row = 0; row < 30; ++row)
+                page[2 + 12 * row] = numbers[random() % numbers.size()];
+        OndelSMART record;
+        round % 4 < 2 ? decodeNvmeHealth(page, record) : decodeAtaAttributes(page, record);
+        forEachField(record, [](std::string_view name, const auto& value) {
+            if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(value)>>)
+                if (name.starts_with("has_") || name == "failing") {
+                    ASSERT_TRUE(value == 0 || value == 1) << name;
+                }
+        });
+        if (round % 1000 < 4) {
+            ASSERT_LE(DiskHealth::smart(record).attributes.size(), 22U);
+        }
+    }
 }
 
 } // namespace

@@ -159,38 +159,5 @@ TEST_F(SameDrive, LacksOnlyHostCommandsThroughUDisks2IfNvme) {
     EXPECT_EQ(asUser(u"org.freedesktop.UDisks2.NVMe.Controller"_s, properties, attributes), before + after);
 }
 
-/// Volumes on a healthy NVMe drive and a failing SATA disk.
-TEST(DisksOfAVolume, GiveTheWorstVerdictThroughAllLayers) {
-    test::FakeMachine machine;
-    addDisk(machine, "nvme0n1", makedev(259, 0), "nvme");
-    addDisk(machine, "sda", disk, "scsi", {{"device/vendor", "ATA"}});
-    addDisk(machine, "vda", makedev(254, 0), "virtio");
-    machine.addBlockDevice("md0", makedev(9, 0));
-    machine.stack("md0", "nvme0n1");
-    machine.stack("md0", "sda");
-    machine.addBlockDevice("dm-0", makedev(253, 0),
-                           {{"dm/name", "vault"}, {"dm/uuid", "CRYPT-LUKS2-1-vault"}});
-    machine.stack("dm-0", "md0");
-    machine.addBlockDevice("loop0", makedev(7, 0), {{"loop/backing_file", "/mnt/b/image"}});
-    machine.setMountTable("1 0 9:0 / / rw - ext4 /dev/md0 rw\n"
-                          "28 1 0:24 / /mnt/b rw,relatime - btrfs /dev/nvme0n1 rw,subvolid=5,subvol=/\n");
-    test::FakeDrives drives;
-    drives.drives["sda"].verdict = test::descriptorSense(0x50, 0, 0xf4, 0x2c);
-    drives.drives["nvme0n1"];
-    const auto healthOf = [&](const char* device) {
-        return DiskHealth::smart(readSmart(test::mountFrom(device, "btrfs"), sourcesOf(machine, drives)));
-    };
-    EXPECT_EQ(healthOf("nvme0n1").status, DiskSMART::Status::verified) << "alone";
-    machine.joinBtrfs("0b7c", {"nvme0n1", "sda"});
-    for (const char* device : {"nvme0n1", "md0", "mapper/vault", "loop0"}) {
-        EXPECT_EQ(healthOf(device).status, DiskSMART::Status::failing) << device;
-        EXPECT_EQ(healthOf(device).kind, "NVMe, ATA") << device;
-        EXPECT_EQ(healthOf(device).note, "") << device;
-    }
-    machine.joinBtrfs("0b7c", {"vda"});
-    EXPECT_EQ(healthOf("nvme0n1").note, "2 of 3 disks answered: vda has no S.M.A.R.T. interface");
-    EXPECT_EQ(healthOf("vda").status, DiskSMART::Status::failing);
-}
-
 } // namespace
 } // namespace OndelCore::health

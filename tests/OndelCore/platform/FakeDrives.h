@@ -140,10 +140,7 @@ inline SmartSources sourcesOf(const FakeMachine& machine, FakeDrives& drives) {
 
 /// A mount of a device below "/dev" whose file system has an anonymous number.
 inline Mount mountFrom(const std::string& deviceName, const char* type = "ext4") {
-    Mount mount;
-    mount.type = type;
-    mount.source = "/dev/" + deviceName;
-    return mount;
+    return {.type = type, .source = "/dev/" + deviceName};
 }
 
 /// The answer of the only disk under a device, or why there is none.

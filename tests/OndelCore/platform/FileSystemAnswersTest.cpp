@@ -24,17 +24,18 @@ TEST(FileSystemFacts, HaveOneValidRowPerType) {
 }
 
 TEST(FileSystemFacts, NormalizeTypeNames) {
-    EXPECT_EQ(fileSystemTypeName("nfs4"), "nfs");
-    EXPECT_EQ(fileSystemTypeName("smb3"), "cifs");
-    EXPECT_EQ(fileSystemTypeName("davfs"), "webdav");
-    EXPECT_EQ(fileSystemTypeName("fuse.davfs2"), "webdav");
+    for (const auto& [type, name] : {std::pair("nfs4", "nfs"),
+                                     {"smb3", "cifs"},
+                                     {"davfs", "webdav"},
+                                     {"fuse.davfs2", "webdav"},
+                                     {"", ""}})
+        EXPECT_EQ(fileSystemTypeName(type), name);
     EXPECT_EQ(fileSystemTypeName("fuse", "curlftpfs#ftp://host/"), "ftp");
     EXPECT_EQ(fileSystemTypeName("fuse", "sshfs#me@host:/x"), "fuse.sshfs");
     EXPECT_EQ(fileSystemTypeName("fuseblk", "/dev/sdb1", "exfat"), "exfat");
     EXPECT_EQ(fileSystemTypeName("fuseblk", "/dev/sdb1"), "fuseblk");
     EXPECT_EQ(fileSystemTypeName("fuseblk.ntfs", "/dev/sdb1"), "ntfs");
     EXPECT_EQ(fileSystemTypeName("ext4", "a#b"), "ext4");
-    EXPECT_EQ(fileSystemTypeName(""), "");
     for (const char* type : {"nfs4", "smb3", "fuse.sshfs", "9p", "davfs"})
         EXPECT_TRUE(isNetworkFileSystem(type)) << type;
     for (const char* type : {"ext4", "tmpfs", "overlay", "fuseblk", "", "unheard-of"})
@@ -60,8 +61,7 @@ TEST_F(OptimalSizeTest, ComesFromTheQueueOfTheWholeDisk) {
     EXPECT_EQ(optimalSize({{declared, "0"}, {request, "4"}}), 65536);
     EXPECT_EQ(optimalSize({{declared, "0"}, {request, "32767"}}), 4194304);
     EXPECT_EQ(optimalSize({{declared, "1572864"}, {request, "512"}}), 1572864); // a RAID's stripe
-    EXPECT_EQ(optimalSize({{declared, "33553920"}, {request, "512"}}),
-              524288); // a wrong value of a USB bridge
+    EXPECT_EQ(optimalSize({{declared, "33553920"}, {request, "512"}}), 524288); // a USB bridge's error
     EXPECT_EQ(optimalSize({{declared, "-4096"}, {request, "junk"}}), 0);
     EXPECT_EQ(optimalSize({}), 0);
 }
@@ -168,11 +168,10 @@ TEST(FileSystemAnswers, AgreeWithTrials) {
              Tried{"a program of its own", "fuse.mergerfs", "pool", "rw", 255, true, true, sensitive, true,
                    "CP.....", 255, none},
          }) {
-        Mount mount;
-        mount.device = makedev(0, 99);
-        mount.type = tried.type;
-        mount.source = tried.source;
-        mount.superOptions = tried.superOptions;
+        const Mount mount{.device = makedev(0, 99),
+                          .type = tried.type,
+                          .source = tried.source,
+                          .superOptions = tried.superOptions};
         PathFacts told;
         told.maxNameLength = tried.nameMax;
         told.maxLinkCount = 127; // the result of pathconf(3) if it does not know

@@ -281,20 +281,6 @@ TEST_F(AnalyzerModelRun, WaitsForTheSweep) {
     EXPECT_EQ(swept.phase(), Phase::Done);
 }
 
-TEST(AnalyzerModel, RunsTheRealEngineAndLeavesNothingBehind) {
-    const test::TemporaryFolder folder;
-    std::filesystem::create_directory(folder.path() / ".ondel-analyzer-DEAD");
-    AnalyzerModel model;
-    model.setSelectedTests({BenchmarkTest::fileOps});
-    model.select(folder.path());
-    model.start();
-    turnUntilEnded(model);
-    EXPECT_EQ(model.failureMessage(), "");
-    ASSERT_TRUE(model.result());
-    EXPECT_EQ(model.result()->fileOps->create.operations, 1000);
-    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
-}
-
 TEST_F(AnalyzerModelRun, EndsWithTheModel) {
     std::atomic<bool> cleanedUp = false;
     services.runBenchmark = [&](BenchmarkPlan, std::filesystem::path, auto progress, std::stop_token stop) {

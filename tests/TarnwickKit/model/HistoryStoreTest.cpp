@@ -174,24 +174,6 @@ TEST_F(HistoryStoreTest, AnnouncesChangesOfOthers) {
     EXPECT_EQ(told, QStringList({"runs", "New", "runs"}));
 }
 
-TEST_F(HistoryStoreTest, AddsManyWithOneSave) {
-    int reads = 0;
-    HistoryFile::Access access;
-    access.read = [&](const fs::path& path, std::error_code& error) {
-        ++reads;
-        return readRunFile(path, error);
-    };
-    HistoryStore store(folder.path(), nullptr, access);
-    reads = 0;
-    store.add(fullRun(2));
-    const int readsOfOne = std::exchange(reads, 0);
-    std::vector<RunRecord> runs;
-    for (int count = 0; count < 60; ++count)
-        runs.push_back(fullRun(2));
-    store.add(runs);
-    EXPECT_EQ(reads, readsOfOne);
-}
-
 /// Becomes a user that the user database does not know.
 void beNobody(const fs::path& folder) {
     constexpr uid_t nobody = 54321;

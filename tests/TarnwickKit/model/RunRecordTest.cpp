@@ -30,14 +30,7 @@ DriveIdentity noDrive(const std::filesystem::path&) {
 }
 
 VolumeInfo volume(bool isInternal, bool isRemovable) {
-    VolumeInfo info;
-    info.name = "Data";
-    info.total = 1000;
-    info.available = 400;
-    info.isInternal = isInternal;
-    info.isRemovable = isRemovable;
-    info.volumeURL = "/mnt/data";
-    return info;
+    return {"Data", "", 1000, 400, 0, isInternal, isRemovable, false, false, "/mnt/data", {}};
 }
 
 VolumeCapabilities capabilities(const char* type) {

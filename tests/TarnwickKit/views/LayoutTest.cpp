@@ -1,17 +1,27 @@
-// What places items: arithmetic, the wrapping layout, and objects made on demand.
+// What views are made of: layout, objects made on demand, cards, symbols and fonts.
 
+#include "OndelControls/CardTile.h"
 #include "OndelControls/OnDemand.h"
+#include "OndelControls/SymbolTable.h"
 #include "OndelControls/ViewMath.h"
 #include "TarnwickKit/views/style/FlowLayout.h"
+#include "TarnwickKit/views/style/TarnwickFonts.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
+#include <QBitmap>
 #include <QCoreApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetricsF>
 #include <QPointer>
+#include <QRegion>
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 using namespace TarnwickKit::views;
-using OndelControls::ViewMath;
+using namespace OndelControls;
 
 namespace {
 
@@ -109,6 +119,168 @@ TEST(OnDemand, MakesItsObjectWhileItIsActive) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_TRUE(made.isNull());
     }
+}
+
+CardLook raised() {
+    CardLook look;
+    look.radius = 15;
+    look.color = Qt::white;
+    look.outline = QColor(0xe7, 0xe1, 0xd6);
+    look.shadow = QColor(0x14, 0x3c, 0x5a, 26);
+    look.shadowRadius = 22;
+    look.shadowOffset = 16;
+    return look;
+}
+
+TEST(CardTile, IsSmallHoweverLargeTheCard) {
+    const CardTile small = cardTile(raised(), {400, 300}, 1);
+    const CardTile large = cardTile(raised(), {3000, 1800}, 1);
+    EXPECT_EQ(small.image.cacheKey(), large.image.cacheKey());
+    EXPECT_LT(small.image.width(), 210);
+    EXPECT_EQ(small.outside, QMargins(33, 17, 33, 49));
+}
+
+TEST(CardTile, IsNotStretchedWhereItCannotBe) {
+    EXPECT_EQ(cardTile(raised(), {600, 60}, 1).image.height(), 60 + 17 + 49);
+    CardLook gradient = raised();
+    gradient.endColor = Qt::blue;
+    EXPECT_EQ(cardTile(gradient, {300, 200}, 1).image.width(), 300 + 66);
+}
+
+/// A card assembled from a tile's pieces looks like one that is painted whole.
+TEST(Card, ShowsNoSeams) {
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        test::Stage stage(R"(Item { width: 480; height: 400
+            Card { x: 40; y: 40; width: 400; height: 300; radius: 15; color: "white"; outline: "#e7e1d6"
+                   shadowColor: "#1a143c5a"; shadowRadius: 22; shadowOffset: 16 } })");
+        const QImage image = stage.picture(scale);
+        const auto pixel = [&](double x, double y) {
+            return image.pixelColor(static_cast<int>(x * scale), static_cast<int>(y * scale));
+        };
+        for (double x = 110; x < 370; x += 0.5) {
+            EXPECT_EQ(pixel(x, 341), pixel(240, 341)) << x << " at " << scale; // the shadow below
+            EXPECT_EQ(pixel(x, 40), pixel(240, 40)) << x << " at " << scale;   // the outline above
+        }
+        EXPECT_EQ(pixel(240, 180), QColor(Qt::white));
+        EXPECT_EQ(pixel(40, 180).red(), 0xe7);
+        EXPECT_GT(pixel(240, 350).alpha(), pixel(240, 380).alpha());
+        EXPECT_EQ(pixel(2, 2).alpha(), 0);
+    }
+}
+
+TEST(Card, FollowsItsSizeAndLook) {
+    test::Stage stage("Card { width: 200; height: 100; color: \"red\"; radius: 9 }");
+    EXPECT_EQ(stage.picture().pixelColor(190, 50), QColor(Qt::red));
+    stage.root().setProperty("color", QColor(Qt::blue));
+    EXPECT_EQ(stage.picture().pixelColor(190, 50), QColor(Qt::blue));
+    stage.root().setWidth(30);
+    EXPECT_EQ(stage.picture().pixelColor(20, 50), QColor(Qt::blue));
+    EXPECT_EQ(stage.picture().pixelColor(0, 0).alpha(), 0);
+    stage.root().setWidth(300);
+    EXPECT_EQ(stage.picture().pixelColor(290, 50), QColor(Qt::blue));
+}
+
+/// A card or a symbol looks the same to the pixel wherever its parent is moved.
+TEST(Card, LiesOnWholePixels) {
+    for (const char* piece : {"Card { x: 10; y: 10; width: 20; height: 10; radius: 3; outline: \"red\" }",
+                              "Separator { x: 10; y: 10; width: 20; color: \"red\" }",
+                              "Symbol { x: 10; y: 10; width: 15; height: 15; name: \"stop.fill\" }"})
+        for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+            test::Stage stage("Item { width: 60; height: 60; Item { " + QByteArray(piece) + " } }");
+            const auto shown = [&](double at) {
+                stage.root().childItems().front()->setPosition({at, at});
+                const QImage image = stage.picture(scale);
+                const auto mask = QBitmap::fromImage(image.createAlphaMask());
+                return image.copy(QRegion(mask).boundingRect());
+            };
+            const QImage first = shown(0);
+            ASSERT_GT(first.width(), 10) << piece;
+            for (const double at : {0.2, 1.0 / 3, 0.5, 0.8, 1.0, 7.5})
+                EXPECT_EQ(shown(at), first) << piece << " at " << at << ", " << scale;
+        }
+}
+
+TEST(ContinuousRectangle, KeepsWithinItsFrame) {
+    for (const double radius : {0.0, 3.0, 6.0, 8.0, 9.0, 40.0}) {
+        const QRectF frame(2, 3, 18, 18);
+        const QPainterPath path = continuousRectangle(frame, radius);
+        EXPECT_TRUE(frame.adjusted(-1e-6, -1e-6, 1e-6, 1e-6).contains(path.boundingRect())) << radius;
+        EXPECT_TRUE(path.contains(frame.center()));
+        EXPECT_EQ(path.contains(frame.topLeft() + QPointF(0.2, 0.2)), radius < 1) << radius;
+    }
+}
+
+int ink(const QImage& image) {
+    int sum = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            sum += qAlpha(image.pixel(x, y));
+    return sum;
+}
+
+TEST(Symbols, EachHasADrawing) {
+    const QStringList names =
+        QStringLiteral(
+            "chart.bar.xaxis checkmark checkmark.circle.fill checkmark.seal.fill "
+            "checkmark.shield.fill chevron.down chevron.right chevron.up chevron.up.chevron.down "
+            "circle ellipsis exclamationmark.octagon.fill exclamationmark.triangle.fill externaldrive "
+            "externaldrive.connected.to.line.below folder "
+            "gauge.with.dots.needle.bottom.50percent heart.fill info.circle internaldrive "
+            "ladybug pencil play.fill square.and.arrow.up stop.fill trash xmark")
+            .split(u' ');
+    std::set<QByteArray> drawings;
+    for (const QString& symbol : names) {
+        ASSERT_TRUE(isSymbol(symbol)) << symbol.toStdString();
+        const QImage image = symbolImage(symbol, 32, Qt::red);
+        EXPECT_GT(ink(image), 32 * 255) << symbol.toStdString();
+        drawings.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
+    }
+    EXPECT_EQ(drawings.size(), static_cast<std::size_t>(names.size())); // no two alike
+    EXPECT_FALSE(isSymbol(u"checkmark.circle"));
+    EXPECT_FALSE(isSymbol(u""));
+}
+
+TEST(Symbols, TakeColorOpacityAndWeight) {
+    const auto symbol = QStringLiteral("stop.fill");
+    EXPECT_EQ(symbolImage(symbol, 20, QColor(1, 2, 3)).pixelColor(10, 10), QColor(1, 2, 3));
+    EXPECT_EQ(symbolImage(symbol, 20, QColor(255, 0, 0, 128)).pixelColor(10, 10).alpha(), 128);
+    const auto check = QStringLiteral("checkmark");
+    EXPECT_GT(ink(symbolImage(check, 40, Qt::black, QFont::Bold)),
+              ink(symbolImage(check, 40, Qt::black)) * 5 / 4);
+}
+
+TEST(Symbols, StandInEvenSquares) {
+    for (const double size : {8.0, 9.0, 10.0, 11.0, 12.0, 13.0, 14.0, 15.0, 18.0, 30.0})
+        EXPECT_EQ(symbolBox(size) % 2, 0) << size;
+    EXPECT_EQ(symbolBox(30), 36);
+}
+
+TEST(Fonts, AreTheFamiliesAndWeightsThatTheyAreNamedBy) {
+    EXPECT_EQ(QFontInfo(Typeface::display(16)).family(), QLatin1String("Space Grotesk"));
+    EXPECT_EQ(QFontInfo(Typeface::mono(10.5)).family(), QLatin1String("IBM Plex Mono"));
+    const QString text = QStringLiteral("Sequential Write");
+    double width = 0;
+    for (const int weight : {QFont::Normal, QFont::Medium, QFont::DemiBold}) {
+        const QFont font = Typeface::text(12, weight);
+        EXPECT_EQ(QFontInfo(font).family(), QLatin1String("Figtree"));
+        EXPECT_GT(QFontMetricsF(font).horizontalAdvance(text), width) << weight;
+        width = QFontMetricsF(font).horizontalAdvance(text);
+    }
+}
+
+TEST(Fonts, FiguresHaveOneWidth) {
+    const QFontMetricsF metrics(Typeface::figures(18));
+    for (const QChar digit : QStringLiteral("123456789"))
+        EXPECT_DOUBLE_EQ(metrics.horizontalAdvance(digit), metrics.horizontalAdvance(u'0'))
+            << digit.toLatin1();
+    EXPECT_EQ(metrics.height(), QFontMetricsF(Typeface::display(18)).height());
+    EXPECT_EQ(metrics.horizontalAdvance(u','), QFontMetricsF(Typeface::display(18)).horizontalAdvance(u','));
+}
+
+TEST(Fonts, ASecondRegistrationDoesNothing) {
+    const auto before = QFontDatabase::families();
+    TarnwickFonts::registerFrom(QStringLiteral("/usr/share/fonts/truetype/dejavu"));
+    EXPECT_EQ(QFontDatabase::families(), before);
 }
 
 } // namespace
