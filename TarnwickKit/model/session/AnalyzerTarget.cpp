@@ -167,10 +167,7 @@ void AnalyzerTarget::refreshSMART() {
     if (!m_folder)
         return;
     m_healthQuestion.ask([folder = *m_folder, read = m_services.readHealth] { return read(folder); },
-                         [this, folder = *m_folder](const std::optional<DiskSMART>& smart) {
-                             if (m_folder == folder)
-                                 setSMART(smart);
-                         });
+                         [this](const std::optional<DiskSMART>& smart) { setSMART(smart); });
 }
 
 void AnalyzerTarget::setSMART(std::optional<DiskSMART> smart) {

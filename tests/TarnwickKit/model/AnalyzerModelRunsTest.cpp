@@ -218,6 +218,7 @@ TEST_F(AnalyzerModelRuns, ComparesInTheOrderShown) {
     model.importRuns(files);
     turnUntil([&] { return model.currentRun().has_value(); });
     EXPECT_EQ(HistoryStore(engine.history.path()).runs(), model.history().runs());
+    EXPECT_TRUE(model.canCompare());
     // One run is no comparison, nor is one together with an unknown id.
     model.toggleCompareMode();
     for (const QUuid& id : {runs[0].id, QUuid::createUuid()}) {
@@ -237,6 +238,7 @@ TEST_F(AnalyzerModelRuns, ComparesInTheOrderShown) {
     EXPECT_EQ(model.comparison()->back().customTitle, "New name");
     EXPECT_EQ(model.currentRun()->customTitle, fullRun(2).customTitle);
     model.deleteRun(runs[1].id);
+    EXPECT_FALSE(model.canCompare()) << "one run beside that on view";
     EXPECT_TRUE(model.isComparing()) << "the deleted run was not part of the comparison";
     model.deleteRun(runs[0].id);
     EXPECT_FALSE(model.isComparing());

@@ -3,6 +3,8 @@
 #include "TarnwickKit/views/style/Palette.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
+#include <QScreen>
+
 #include <gtest/gtest.h>
 
 using namespace TarnwickKit::views;
@@ -146,9 +148,14 @@ TEST(ThroughputChart, IsNotPaintedOutOfSight) {
 }
 
 TEST(Symbol, FollowsTheScreensScale) {
-    test::Stage stage("Symbol { width: 20; height: 20; name: \"stop.fill\"; size: 14; color: \"#204060\" }");
+    const QByteArray symbol =
+        "Symbol { width: 20; height: 20; name: \"stop.fill\"; size: 14; color: \"#204060\" }";
+    test::Stage stage(symbol);
     for (const double scale : {1.0, 2.0, 1.5}) {
+        stage.picture(scale);
+        Q_EMIT stage.root().window()->screen()->physicalDotsPerInchChanged(96 * scale); // as on a new screen
         const QImage image = stage.picture(scale);
+        EXPECT_EQ(image, test::Stage(symbol).picture(scale)) << scale;
         EXPECT_EQ(image.pixelColor(image.rect().center()), QColor(0x20, 0x40, 0x60));
         EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
     }
