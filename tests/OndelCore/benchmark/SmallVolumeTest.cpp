@@ -11,6 +11,7 @@
 #include <poll.h>
 
 #include <algorithm>
+#include <iterator>
 #include <sstream>
 
 using namespace OndelCore::benchmark;
@@ -117,8 +118,9 @@ TEST_P(RealEvidence, SaysWhatIsTrueOfTheVolume) {
         GetParam();
     // In memory, so that no other program's traffic is seen below the loop device.
     const test::LoopMount memory("tmpfs", 640 << 20);
+    std::istringstream format(formatOptions);
     const test::LoopMount volume(type, mebibytes << 20, mountOptions,
-                                 QString(formatOptions).split(' ', Qt::SkipEmptyParts), memory.path());
+                                 {std::istream_iterator<std::string>(format), {}}, memory.path());
     if (const std::string problem = memory.problem() + volume.problem(); !problem.empty())
         GTEST_SKIP() << problem;
     auto plan =
