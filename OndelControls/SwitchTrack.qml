@@ -8,6 +8,7 @@ Card {
     id: track
 
     required property bool on
+    property bool moves: true
     property color activeColor: palette.highlight
     property color idleColor: palette.mid
     property color activeKnob: palette.highlightedText
@@ -27,6 +28,8 @@ Card {
         color: track.on ? track.activeKnob : track.idleKnob
 
         Behavior on x {
+            enabled: track.moves
+
             NumberAnimation {
                 duration: Metrics.switchTime
                 easing.type: Easing.InOutQuad

@@ -39,13 +39,13 @@ T.MenuBar {
 
             text: title.text
             font: Typeface.text(13)
-            color: PaletteKey.palette.text2
+            color: title.highlighted ? PaletteKey.palette.onAccent : PaletteKey.palette.text2
             Accessible.role: Accessible.MenuItem
             Accessible.onPressAction: title.triggered()
         }
         background: Card {
             radius: 6
-            color: title.highlighted ? PaletteKey.palette.tealSoft : "transparent"
+            color: title.highlighted ? PaletteKey.palette.accent : "transparent"
         }
     }
     contentItem: Row {

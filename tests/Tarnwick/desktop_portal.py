@@ -1,7 +1,7 @@
 """A fake desktop: its dark (1) or light (2) setting, inhibition of suspend, and notifications.
 Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal needs, which is a session manager and
 notifications from the portal alone. With "desktop_portal.py NUMBER refuses" the portal accepts the request to inhibit suspend
-and then answers that it failed, and there is a login manager. Lines on standard input: a number changes the setting,
+and then answers that it failed, and there is a login manager. Lines on standard input: a number changes the setting, "contrast NUMBER" that of the contrast,
 "press" activates the last notification, with the token "pressed". Lines on standard output: "ready", "awake FLAGS REASON", "asleep",
 "locked WHAT WHO WHY MODE", "unlocked", "notice TITLE: TEXT", "withdrawn"."""
 
@@ -17,7 +17,7 @@ LOGIN = "org.freedesktop.login1"
 SESSION = "org.gnome.SessionManager"
 INTERFACES = Gio.DBusNodeInfo.new_for_xml("""<node>
 <interface name="org.freedesktop.portal.Settings">
-  <method name="Read"><arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="v" direction="out"/></method>
+  <method name="ReadAll"><arg type="as" direction="in"/><arg type="a{sa{sv}}" direction="out"/></method>
   <signal name="SettingChanged"><arg type="s"/><arg type="s"/><arg type="v"/></signal>
 </interface>
 <interface name="org.freedesktop.portal.Inhibit">
@@ -56,6 +56,7 @@ class Desktop:
     def __init__(self, scheme, refuses):
         """Without a scheme it serves a real portal."""
         self.scheme = scheme
+        self.numbers = {KEY: scheme}
         self.refuses = refuses
         self.notices = 0
         self.requests = {}
@@ -92,9 +93,9 @@ class Desktop:
             answer = getattr(self, method)(sender, path, *arguments.unpack())
         invocation.return_value(answer and GLib.Variant.new_tuple(answer))
 
-    def Read(self, _sender, _path, *what):
-        value = GLib.Variant("u", self.scheme if what == (NAMESPACE, KEY) else 0)
-        return GLib.Variant("v", GLib.Variant("v", value))
+    def ReadAll(self, _sender, _path, groups):
+        mine = {NAMESPACE: {key: GLib.Variant("u", value) for key, value in self.numbers.items()} | {"accent-color": GLib.Variant("(ddd)", (1, 0, 0))}}
+        return GLib.Variant("a{sa{sv}}", {name: mine[name] for name in groups if name in mine})
 
     def Inhibit(self, sender, _path, _window, flags, options):
         request = f"{PATH}/request/{sender[1:].replace('.', '_')}/{options['handle_token']}"
@@ -149,9 +150,11 @@ class Desktop:
             self.bus.emit_signal(None, "/org/freedesktop/Notifications", NOTICES, "ActionInvoked",
                                  GLib.Variant("(us)", (self.notices, "default")))
         else:
-            self.scheme = int(line)
+            *other, value = line.split()
+            key = (other or [KEY])[0]
+            self.numbers[key] = int(value)
             self.bus.emit_signal(None, PATH, "org.freedesktop.portal.Settings", "SettingChanged",
-                                 GLib.Variant("(ssv)", (NAMESPACE, KEY, GLib.Variant("u", self.scheme))))
+                                 GLib.Variant("(ssv)", (NAMESPACE, key, GLib.Variant("u", int(value)))))
         return bool(line)
 
 

@@ -5,6 +5,7 @@ import TarnwickKit.views
 
 /// The track and the knob of a switch in the window's colours.
 SwitchTrack {
+    moves: !Appearance.still
     activeColor: PaletteKey.palette.accent
     idleColor: PaletteKey.palette.track
     activeKnob: PaletteKey.palette.onAccent

@@ -11,8 +11,10 @@ BaseMenuItem {
     corner: 6
     textFont: isHeading ? Typeface.text(11, Font.DemiBold) : Typeface.text(13)
     keysFont: Typeface.text(12)
-    ink: isHeading ? PaletteKey.palette.text3 : destructive ? PaletteKey.palette.coralink : PaletteKey.palette.text
-    symbolColor: PaletteKey.palette.text2
-    keysColor: PaletteKey.palette.text3
-    highlight: PaletteKey.palette.tealSoft
+    ink: highlighted ? PaletteKey.palette.onAccent
+        : isHeading ? PaletteKey.palette.text3
+        : destructive ? PaletteKey.palette.coralink : PaletteKey.palette.text
+    symbolColor: highlighted ? ink : PaletteKey.palette.text2
+    keysColor: highlighted ? ink : PaletteKey.palette.text3
+    highlight: PaletteKey.palette.accent
 }

@@ -65,8 +65,8 @@ Item {
             framed: false
             font: Typeface.display(16)
             color: PaletteKey.palette.text
-            selectionColor: PaletteKey.palette.tealSoft
-            selectedTextColor: PaletteKey.palette.text
+            selectionColor: PaletteKey.palette.accent
+            selectedTextColor: PaletteKey.palette.onAccent
             prompt: qsTr("Report title")
             promptColor: PaletteKey.palette.text3
             Component.onCompleted: {

@@ -52,6 +52,8 @@ Column {
                 rotation: section.isExpanded ? 90 : 0
 
                 Behavior on rotation {
+                    enabled: !Appearance.still
+
                     NumberAnimation {
                         duration: Metrics.foldTime
                         easing.type: Easing.InOutQuad
@@ -68,7 +70,7 @@ Column {
         clip: true
 
         Behavior on height {
-            enabled: section.moves
+            enabled: section.moves && !Appearance.still
 
             NumberAnimation {
                 duration: Metrics.foldTime

@@ -17,7 +17,7 @@ namespace TarnwickKit::views {
 /// Fails: never; digits that are not a number give black.
 QColor hex(QStringView digits);
 
-/// All colours of the program. There are two constant instances; a view gets its own through PaletteKey.
+/// All colours of the program. There are four constant instances; a view gets its own through PaletteKey.
 ///
 /// Threads: any. The instances are created at first use and are read-only.
 class Palette final : public QObject {
@@ -59,10 +59,19 @@ class Palette final : public QObject {
     Q_PROPERTY(QColor accent MEMBER accent CONSTANT)
     Q_PROPERTY(QColor onAccent MEMBER onAccent CONSTANT)
     Q_PROPERTY(QList<QColor> series MEMBER series CONSTANT)
+    Q_PROPERTY(QColor onStop READ onStop CONSTANT)
 
 public:
     static const Palette& light();
     static const Palette& dark();
+    /// The same for desktops that ask for high contrast: text of at least 7:1 on its ground, lines and marks
+    /// of at least 4.5:1 (WCAG 2.2, 1.4.6 and 1.4.11).
+    static const Palette& contrastLight();
+    static const Palette& contrastDark();
+    bool hasContrast() const { return this == &contrastLight() || this == &contrastDark(); }
+
+    /// Text and symbols of the button that stops a run, on `text2`.
+    QColor onStop() const { return hasContrast() ? bg : QColor(Qt::white); }
 
     /// The two stops of the gradient behind a volume's symbol.
     std::pair<QColor, QColor> badgeColors(model::RunRecord::Kind kind) const;
@@ -106,7 +115,7 @@ public:
     QList<QColor> series; ///< one colour per compared run
 
 private:
-    enum class Tone { Light, Dark };
+    enum class Tone { Light, Dark, ContrastLight, ContrastDark };
     explicit Palette(Tone tone);
 
     static model::RunRecord::Kind kindOf(int kind) { return static_cast<model::RunRecord::Kind>(kind); }

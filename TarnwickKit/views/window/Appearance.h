@@ -1,45 +1,59 @@
 #pragma once
 
-#include "OndelDesktop/ColorScheme.h"
+#include "OndelDesktop/DesktopAppearance.h"
 #include "TarnwickKit/views/style/Palette.h"
 
 #include <QObject>
 #include <QQmlEngine>
+#include <QSettings>
 
 namespace TarnwickKit::views {
 
-/// Whether the desktop is dark or light, with changes: the portal's setting, else the lightness of the
-/// platform's palette.
+/// How the desktop wants the window to look, with changes: the portal's settings, else the lightness of the
+/// platform's palette. Until the portal answers it is what it was when a window was last open, so that a
+/// window on a dark desktop is dark from its first frame.
 class Appearance final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
 
-    Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
-    /// The palette for it.
-    Q_PROPERTY(TarnwickKit::views::Palette* palette READ palette NOTIFY darkChanged)
-    Q_PROPERTY(TarnwickKit::views::Palette* lightPalette READ lightPalette CONSTANT)
-    Q_PROPERTY(TarnwickKit::views::Palette* darkPalette READ darkPalette CONSTANT)
+    Q_PROPERTY(bool dark READ isDark NOTIFY changed)
+    Q_PROPERTY(bool contrast READ hasContrast NOTIFY changed)
+    /// Nothing moves by itself.
+    Q_PROPERTY(bool still READ isStill NOTIFY changed)
+    Q_PROPERTY(TarnwickKit::views::Palette* palette READ palette NOTIFY changed)
+    /// Those of the current contrast.
+    Q_PROPERTY(TarnwickKit::views::Palette* lightPalette READ lightPalette NOTIFY changed)
+    Q_PROPERTY(TarnwickKit::views::Palette* darkPalette READ darkPalette NOTIFY changed)
 
 public:
     explicit Appearance(QObject* parent = nullptr);
 
     bool isDark() const { return m_dark; }
-    Q_SIGNAL void darkChanged();
+    bool hasContrast() const { return m_desktop.wantsHighContrast; }
+    bool isStill() const { return m_desktop.wantsNoMotion; }
+    Q_SIGNAL void changed();
 
     Palette* palette() const { return m_dark ? darkPalette() : lightPalette(); }
-    static Palette* lightPalette() { return const_cast<Palette*>(&Palette::light()); }
-    static Palette* darkPalette() { return const_cast<Palette*>(&Palette::dark()); }
+    Palette* lightPalette() const { return paletteOf(false, hasContrast()); }
+    Palette* darkPalette() const { return paletteOf(true, hasContrast()); }
+    Q_INVOKABLE static TarnwickKit::views::Palette* paletteOf(bool dark, bool contrast) {
+        // QML has no pointers to const objects. A Palette has no writable property.
+        return const_cast<Palette*>(contrast ? (dark ? &Palette::contrastDark() : &Palette::contrastLight())
+                                             : (dark ? &Palette::dark() : &Palette::light()));
+    }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void remember();
     void decide();
 
-    OndelDesktop::ColorScheme m_scheme = OndelDesktop::ColorScheme::NoPreference;
+    QSettings m_settings;
+    OndelDesktop::DesktopAppearance m_desktop;
     bool m_dark = false;
-    OndelDesktop::ColorSchemeWatch m_watch;
+    OndelDesktop::AppearanceWatch m_watch;
 };
 
 } // namespace TarnwickKit::views

@@ -40,7 +40,7 @@ PlainButton {
         shadowOffset: 5
     }
     contentItem: Row {
-        readonly property color ink: button.stops ? "white" : PaletteKey.palette.onAccent
+        readonly property color ink: button.stops ? PaletteKey.palette.onStop : PaletteKey.palette.onAccent
 
         spacing: button.stops ? 8 : 9
 

@@ -8,6 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <string>
+
 using namespace TarnwickKit::views;
 using Kind = TarnwickKit::model::RunRecord::Kind;
 
@@ -25,11 +29,48 @@ TEST(Palette, ColorsFromDigits) {
         EXPECT_EQ(hex(digits).rgba(), color) << digits.toString().toStdString();
 }
 
-TEST(Palette, EveryFieldIsSetInBoth) {
+const Palette* const all[] = {&Palette::light(), &Palette::dark(), &Palette::contrastLight(),
+                              &Palette::contrastDark()};
+
+/// Relative luminance and contrast ratio: WCAG 2.2.
+double luminance(const QColor& color) {
+    const auto linear = [](float part) {
+        return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+double contrast(const QColor& one, const QColor& other) {
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+TEST(Palette, ContrastOfTextAndMarks) {
+    for (const Palette* p : all) {
+        const bool isHigh = p->hasContrast();
+        for (const QColor& ground : {p->bg, p->body, p->sidebar, p->panel, p->panel2}) {
+            const std::string where = p->text.name().toStdString() + " on " + ground.name().toStdString();
+            for (const QColor& text : {p->text, p->text2, p->heading})
+                EXPECT_GE(contrast(text, ground), isHigh ? 7 : 4.5) << where;
+            EXPECT_GE(contrast(p->accent, ground), 3) << where; // what is highlighted or selected
+            if (!isHigh)
+                continue;
+            for (const QColor& text : {p->text3, p->coralink, p->teal, p->amber, p->good})
+                EXPECT_GE(contrast(text, ground), 7) << text.name().toStdString() << " in " << where;
+            for (const QColor& mark : {p->coral, p->goodDot, p->grid, p->borderSoft})
+                EXPECT_GE(contrast(mark, ground), 4.5) << mark.name().toStdString() << " in " << where;
+            for (const QColor& mark : p->series)
+                EXPECT_GE(contrast(mark, ground), 4.5) << mark.name().toStdString() << " in " << where;
+            EXPECT_GE(contrast(p->onStop(), p->text2), 7) << where;
+        }
+        EXPECT_GE(contrast(p->onAccent, p->accent), 7);
+    }
+}
+
+TEST(Palette, EveryFieldIsSetInAll) {
     const QMetaObject& meta = Palette::staticMetaObject;
     int colors = 0;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
-        for (const Palette* palette : {&Palette::light(), &Palette::dark()}) {
+        for (const Palette* palette : all) {
             const QVariant value = meta.property(i).read(palette);
             if (value.typeId() == QMetaType::QColor) {
                 EXPECT_TRUE(value.value<QColor>().isValid()) << meta.property(i).name();
@@ -38,7 +79,7 @@ TEST(Palette, EveryFieldIsSetInBoth) {
                 EXPECT_EQ(value.value<QList<QColor>>().size(), 7);
             }
         }
-    EXPECT_EQ(colors, 2 * 33);
+    EXPECT_EQ(colors, 4 * 34);
     EXPECT_NEAR(Palette::dark().shadow.alphaF(), 0.55, 0.001);
     EXPECT_EQ(Palette::dark().accent, Palette::light().onAccent);
     EXPECT_NE(Palette::dark().grid, Palette::dark().borderSoft);
