@@ -324,6 +324,7 @@ TEST_F(CountingDisks, ThatTellNonsenseOrCountBackTellNothing) {
     }
     write("sdb", "100 0 160 0 200 0 320 0");
     EXPECT_TRUE(witness->counters());
+    EXPECT_TRUE(witness->counters()) << "nothing was moved";
     write("sdb", "100 0 159 0 200 0 320 0");
     EXPECT_FALSE(witness->counters());
     std::filesystem::remove_all(folder.path() / "sda");

@@ -12,59 +12,42 @@ namespace TarnwickKit::model {
 inline RunEvidence fullEvidence(std::size_t samples = 60) {
     using namespace OndelCore::benchmark;
     using namespace OndelCore::platform;
-    const TestEvidence test{.began = 0.0123456789,
-                            .ended = 12.3456789012,
-                            .diskReads = Traffic{5368709120, 20480},
-                            .diskWrites = Traffic{4096, 1},
-                            .threadReads = 5368709120,
-                            .threadWrites = 0,
-                            .refusedTransfers = 1,
-                            .isBypassRefused = true,
-                            .flushDuration = 0.0312345678,
-                            .longestPause = 1.2345678901,
-                            .longPauses = 2};
+    const Traffic read{5368709120, 20480}, written{4096, 1};
+    const TestEvidence test{0.0123456789, 12.3456789012, read,         written, 5368709120, 0, 1,
+                            true,         0.0312345678,  1.2345678901, 2};
     const Latency latency{0.000081234567, 0.00031234567, 0.00123456789, 0.0123456789};
-    Circumstances found{.kernel = "6.1.0-18-amd64",
-                        .fileSystemType = "ext4",
-                        .reach = FileSystemReach::device,
-                        .isServedByProgram = true,
-                        .compresses = true,
-                        .copiesOnWrite = true,
-                        .checksumsData = true,
-                        .journalsData = true,
-                        .isEncrypted = true,
-                        .allowsDirectIo = false,
-                        .disks = 2,
-                        .isFileOnDisk = true,
-                        .isCachedFileOnDisk = true,
-                        .isVirtualDisk = true,
-                        .isRotational = false,
-                        .hasVolatileWriteCache = true,
-                        .misalignment = Misalignment{512, 4096},
-                        .link = DriveLink{DriveLink::Kind::usb, 480e6, 5e9},
-                        .isOnBattery = true,
-                        .hasPowerSaveGovernor = true,
-                        .memoryBytes = 16777216000,
-                        .capacityBytes = 2000398934016,
-                        .freeBytes = 1200398934016,
-                        .maxCelsius = 84.85,
-                        .criticalCelsius = 89.85};
+    std::vector<CircumstanceSample> all;
     for (std::size_t index = 0; index < samples; ++index)
-        found.samples.push_back({.elapsed = static_cast<double>(index) * 1.000123456,
-                                 .celsius = 30.85 + static_cast<double>(index % 40),
-                                 .ioPressure = static_cast<double>(index % 7) / 7});
-    return {.sequentialWrite = test,
-            .sequentialRead = test,
-            .randomRead = test,
-            .randomWrite = test,
-            .fileOps = test,
-            .randomReadLatency = latency,
-            .randomWriteLatency = latency,
-            .createLatency = latency,
-            .statLatency = latency,
-            .renameLatency = latency,
-            .deleteLatency = latency,
-            .circumstances = found};
+        all.push_back({.elapsed = static_cast<double>(index) * 1.000123456,
+                       .celsius = 30.85 + static_cast<double>(index % 40),
+                       .ioPressure = static_cast<double>(index % 7) / 7});
+    const Circumstances found{.kernel = "6.1.0-18-amd64",
+                              .fileSystemType = "ext4",
+                              .reach = FileSystemReach::device,
+                              .isServedByProgram = true,
+                              .compresses = true,
+                              .copiesOnWrite = true,
+                              .checksumsData = true,
+                              .journalsData = true,
+                              .isEncrypted = true,
+                              .allowsDirectIo = false,
+                              .disks = 2,
+                              .isFileOnDisk = true,
+                              .isCachedFileOnDisk = true,
+                              .isVirtualDisk = true,
+                              .isRotational = false,
+                              .hasVolatileWriteCache = true,
+                              .misalignment = Misalignment{512, 4096},
+                              .link = DriveLink{DriveLink::Kind::usb, 480e6, 5e9},
+                              .isOnBattery = true,
+                              .hasPowerSaveGovernor = true,
+                              .memoryBytes = 16777216000,
+                              .capacityBytes = 2000398934016,
+                              .freeBytes = 1200398934016,
+                              .maxCelsius = 84.85,
+                              .criticalCelsius = 89.85,
+                              .samples = all};
+    return {test, test, test, test, test, latency, latency, latency, latency, latency, latency, found};
 }
 
 /// A run with all 37 fields and curves of `points` points each.

@@ -15,7 +15,9 @@ inline TarnwickKit::model::RunRecord fullRun() {
     run.writeBps = 987e6;
     run.writePeakBps = 1150e6;
     run.writeMinBps = 700e6;
-    run.readBps = run.readPeakBps = run.readMinBps = 1043e6;
+    run.readBps = 1043e6;
+    run.readPeakBps = 1100e6;
+    run.readMinBps = 900e6;
     run.randomReadIOPS = 12345;
     run.randomWriteIOPS = 23456;
     run.fileOpsPerSec = 1999;

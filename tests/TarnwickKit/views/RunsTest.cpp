@@ -11,8 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 using namespace TarnwickKit::views;
 using TarnwickKit::model::AnalyzerModel;
 using TarnwickKit::model::RunRecord;
@@ -25,8 +23,7 @@ TEST(RunFacts, RecogniseANetworkVolumeAlsoByItsFileSystem) {
         Kind recorded;
         const char* fileSystem;
         Kind kind;
-        const char* symbol;
-        const char* connection;
+        const char *symbol, *connection;
     } cases[] = {
         {Kind::internalDrive, "ext4", Kind::internalDrive, "internaldrive", "External"},
         {Kind::external, "ext4", Kind::external, "externaldrive", "External"},
@@ -43,22 +40,6 @@ TEST(RunFacts, RecogniseANetworkVolumeAlsoByItsFileSystem) {
         EXPECT_EQ(facts.connection, c.connection);
         EXPECT_EQ(facts.isNetwork, c.kind == Kind::network);
     }
-}
-
-TEST(RunFacts, KeepEachRateApart) {
-    RunRecord run = test::fullRun();
-    run.writeBps = 1;
-    run.writePeakBps = 2;
-    run.writeMinBps = 3;
-    run.readBps = 4;
-    run.readPeakBps = 5;
-    run.readMinBps = std::nullopt;
-    const RunFacts facts = RunFacts::of(run);
-    EXPECT_EQ((std::vector{facts.writeBps, facts.writePeakBps, facts.writeMinBps, facts.readBps,
-                           facts.readPeakBps}),
-              (std::vector<double>{1, 2, 3, 4, 5}));
-    EXPECT_TRUE(std::isnan(facts.readMinBps));
-    EXPECT_EQ(facts.id, run.id);
 }
 
 /// A model with a history: one run per letter, which determines its id. A capital letter has another title.
