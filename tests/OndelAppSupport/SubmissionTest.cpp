@@ -176,16 +176,6 @@ TEST(Submission, SendsTheSecretToTheServiceAlone) {
     EXPECT_TRUE(another.requests().isEmpty());
 }
 
-TEST(Submission, SendsAnEmptySecretWhenTheBuildHasNone) {
-    HttpsServer server;
-    auto unconfigured = service(server.url());
-    unconfigured.secret.clear();
-    EXPECT_EQ(outcome(BugReporter::submit({}, unconfigured)), refusal(QString(rejected).arg(404)));
-    ASSERT_TRUE(server.requests().value(0).headers.contains("x-ondel-app-secret"));
-    EXPECT_EQ(server.requests().value(0).headers.value("x-ondel-app-secret"), "");
-    EXPECT_EQ(BugReporter::Service::maker().endpoint, BugReporter::endpoint());
-}
-
 namespace {
 
 struct Root {

@@ -158,17 +158,6 @@ TEST(LogFile, HasTheLinesSinceItsStart) {
     EXPECT_TRUE(test::contentOf(file).ends_with("  again\n"));
 }
 
-TEST(LogFile, IsWrittenInTheBackgroundToTheDefaultFolder) {
-    const auto store = LogStore::makeForTesting(100, {.tick = std::chrono::milliseconds(1)});
-    store->startFileLogging(std::nullopt);
-    const fs::path file = fs::path(getenv("XDG_STATE_HOME")) / "Ondel" / "ondel.log";
-    for (const char* body : {"first", "second"}) {
-        store->append(LogLevel::notice, "app", body);
-        while (!test::contentOf(file).ends_with(body + std::string("\n")))
-            std::this_thread::yield();
-    }
-}
-
 TEST(LogFile, DoesNotEndTheProcessAtTheSizeLimit) {
     const test::TemporaryFolder folder;
     const fs::path file = folder.path() / "ondel.log";

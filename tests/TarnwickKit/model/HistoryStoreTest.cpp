@@ -72,13 +72,6 @@ TEST_F(HistoryStoreTest, WritesOnlyOnChanges) {
     EXPECT_EQ(announced, 5);
 }
 
-TEST_F(HistoryStoreTest, KeepsRunsInMemoryWithoutAFolder) {
-    put(file, "");
-    HistoryStore store(file);
-    store.add(fullRun(2));
-    EXPECT_EQ(store.runs().size(), 1u);
-}
-
 /// Two windows change one history that begins with the runs 0 and 1. Each case names what the file then
 /// holds, newest first.
 TEST_F(HistoryStoreTest, MergesChangesOfOtherWindows) {
@@ -156,22 +149,6 @@ TEST_F(HistoryStoreTest, MergesChangesOfOtherWindows) {
         EXPECT_EQ(one.runs(), each.holds) << each.what;
         EXPECT_EQ(other.runs(), each.holds) << each.what;
     }
-}
-
-TEST_F(HistoryStoreTest, AnnouncesChangesOfOthers) {
-    HistoryStore one(folder.path());
-    one.add({fullRun(2), fullRun(2)});
-    HistoryStore other(folder.path());
-    QStringList told;
-    QObject::connect(&one, &HistoryStore::runsChanged, &one, [&] { told << "runs"; });
-    QObject::connect(&one, &HistoryStore::renamedElsewhere, &one,
-                     [&](const QUuid&, const auto& title) { told << title.value_or("none"); });
-    one.refresh();
-    other.setTitle("New", one.runs().front().id);
-    one.refresh();
-    one.save();
-    one.setTitle("Own", one.runs().front().id);
-    EXPECT_EQ(told, QStringList({"runs", "New", "runs"}));
 }
 
 /// Becomes a user that the user database does not know.

@@ -10,7 +10,6 @@
 
 #include <QBitmap>
 #include <QCoreApplication>
-#include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPointer>
@@ -200,16 +199,6 @@ TEST(Card, LiesOnWholePixels) {
         }
 }
 
-TEST(ContinuousRectangle, KeepsWithinItsFrame) {
-    for (const double radius : {0.0, 3.0, 6.0, 8.0, 9.0, 40.0}) {
-        const QRectF frame(2, 3, 18, 18);
-        const QPainterPath path = continuousRectangle(frame, radius);
-        EXPECT_TRUE(frame.adjusted(-1e-6, -1e-6, 1e-6, 1e-6).contains(path.boundingRect())) << radius;
-        EXPECT_TRUE(path.contains(frame.center()));
-        EXPECT_EQ(path.contains(frame.topLeft() + QPointF(0.2, 0.2)), radius < 1) << radius;
-    }
-}
-
 int ink(const QImage& image) {
     int sum = 0;
     for (int y = 0; y < image.height(); ++y)
@@ -275,12 +264,6 @@ TEST(Fonts, FiguresHaveOneWidth) {
             << digit.toLatin1();
     EXPECT_EQ(metrics.height(), QFontMetricsF(Typeface::display(18)).height());
     EXPECT_EQ(metrics.horizontalAdvance(u','), QFontMetricsF(Typeface::display(18)).horizontalAdvance(u','));
-}
-
-TEST(Fonts, ASecondRegistrationDoesNothing) {
-    const auto before = QFontDatabase::families();
-    TarnwickFonts::registerFrom(QStringLiteral("/usr/share/fonts/truetype/dejavu"));
-    EXPECT_EQ(QFontDatabase::families(), before);
 }
 
 } // namespace

@@ -42,16 +42,6 @@ TEST(PlainText, CannotBeMadeToReadMarkup) {
     }
 }
 
-TEST(NotesPane, IsAsHighAsItsTextWithinALimit) {
-    test::Stage stage("import OndelAppSupport.views\nNotesPane { width: 300; label: 'Notes'; text: 'One' }");
-    const double oneLine = stage.root().implicitHeight();
-    EXPECT_GT(oneLine, 24);
-    stage.root().setProperty("text", "One\nTwo");
-    EXPECT_GT(stage.root().implicitHeight(), oneLine + 10);
-    stage.root().setProperty("text", QString(99, u'\n'));
-    EXPECT_EQ(stage.root().implicitHeight(), 200);
-}
-
 /// Qt's own items that load resources named in a text are blocked too.
 TEST(ViewEngine, ReachesNoNetwork) {
     QTcpServer server;
