@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <csignal>
 #include <cstring>
-#include <filesystem>
 #include <limits>
 
 using OndelCore::health::DiskHealth;

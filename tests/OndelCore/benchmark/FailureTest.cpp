@@ -16,12 +16,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <new>
-#include <set>
-#include <string>
 #include <thread>
-#include <vector>
 
 using namespace OndelCore::benchmark;
 using test::everyTest;

@@ -1,13 +1,12 @@
 // Data recorded on a virtual machine: the bytes that root reads from drives, and the answers of UDisks2 2.9.4
 // and 2.10.1 for the same drives.
 
-#include "OndelCore/health/DiskHealth.h"
 #include "OndelCore/platform/FakeDrives.h"
 #include "OndelCore/platform/FakeUDisks.h"
+#include "Rows.h"
 
 #include <QDateTime>
 
-#include <gtest/gtest.h>
 #include <sys/sysmacros.h>
 
 namespace OndelCore::health {
@@ -23,13 +22,6 @@ const qulonglong disk = makedev(8, 0);
 void put(SmartPage& page, std::size_t offset, std::uint64_t value, std::size_t size) {
     for (std::size_t index = 0; index < size; ++index, value >>= 8U)
         page.at(offset + index) = static_cast<std::uint8_t>(value);
-}
-
-std::string rowsOf(const DiskSMART& smart) {
-    std::string text;
-    for (const DiskSMART::Attribute& row : smart.attributes)
-        text += row.label + ' ' + row.value + (row.warning ? " !" : "") + ", ";
-    return text + smart.note;
 }
 
 /// One drive, read directly by root and through the service by another user.

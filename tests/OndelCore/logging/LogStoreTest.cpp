@@ -2,13 +2,10 @@
 
 #include "CapturedLog.h"
 
-#include <gtest/gtest.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <fstream>
-#include <map>
 #include <thread>
 
 using namespace OndelCore::logging;

@@ -7,12 +7,9 @@
 #include <QString>
 #include <QUuid>
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 #include <clocale>
-#include <filesystem>
 #include <future>
 #include <limits>
 #include <thread>

@@ -3,15 +3,10 @@
 // corpus also lists what the rules miss.
 
 #include "CapturedLog.h"
-#include "OndelCore/logging/LogScrubber.h"
 
 #include <QRegularExpression>
 
-#include <gtest/gtest.h>
-
 #include <cstdio>
-#include <fstream>
-#include <map>
 #include <random>
 #include <tuple>
 #include <vector>

@@ -3,7 +3,6 @@
 #include "OndelCore/platform/FakeDrives.h"
 #include "OndelCore/platform/drives/linux/AtaPassThrough.h"
 
-#include <gtest/gtest.h>
 #include <sys/sysmacros.h>
 
 #include <random>

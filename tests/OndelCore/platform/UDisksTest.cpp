@@ -1,6 +1,5 @@
 #include "OndelCore/platform/FakeDrives.h"
 #include "OndelCore/platform/FakeUDisks.h"
-#include "OndelCore/platform/drives/SmartBlocks.h"
 #include "OndelCore/platform/drives/linux/DriveReaders.h"
 #include "OndelCore/platform/drives/linux/DriveSensors.h"
 
@@ -11,7 +10,6 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 
-#include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <sys/sysmacros.h>
 #include <sys/un.h>

@@ -4,8 +4,6 @@
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 
-#include <QTimeZone>
-
 #include <fstream>
 
 namespace TarnwickKit::model {

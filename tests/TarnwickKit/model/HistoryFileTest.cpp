@@ -6,7 +6,6 @@
 #include <sys/wait.h>
 
 #include <csignal>
-#include <random>
 #include <thread>
 
 namespace TarnwickKit::model {

@@ -21,8 +21,6 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-#include <gtest/gtest.h>
-
 using namespace TarnwickKit::views;
 using TarnwickKit::model::RunRecord;
 using test::bareRun;

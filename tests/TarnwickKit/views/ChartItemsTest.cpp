@@ -5,8 +5,6 @@
 
 #include <QScreen>
 
-#include <gtest/gtest.h>
-
 using namespace TarnwickKit::views;
 using TarnwickKit::model::RunRecord;
 

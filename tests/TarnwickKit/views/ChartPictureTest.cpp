@@ -8,8 +8,6 @@
 #include <QPainterPath>
 #include <QRegion>
 
-#include <gtest/gtest.h>
-
 #include <random>
 
 using namespace TarnwickKit::views;

@@ -15,8 +15,6 @@
 #include <QPointer>
 #include <QRegion>
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 using namespace TarnwickKit::views;

@@ -4,8 +4,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-#include <gtest/gtest.h>
-
 namespace {
 
 /// The text format of Qt's own class, also where a subclass hides the property.

@@ -7,8 +7,6 @@
 #include "tests/TarnwickKit/views/Pictures.h"
 #include "tests/TarnwickKit/views/Runs.h"
 
-#include <gtest/gtest.h>
-
 using namespace TarnwickKit::views;
 using OndelCore::benchmark::BenchmarkTest;
 using OndelCore::benchmark::Remark;

@@ -9,8 +9,6 @@
 
 #include <QAbstractItemModelTester>
 
-#include <gtest/gtest.h>
-
 using namespace TarnwickKit::views;
 using TarnwickKit::model::AnalyzerModel;
 using TarnwickKit::model::RunRecord;

@@ -3,8 +3,6 @@
 #include "TarnwickKit/views/runs/RunFacts.h"
 #include "tests/TarnwickKit/model/ModelHarness.h"
 
-#include <gtest/gtest.h>
-
 using namespace TarnwickKit::views;
 using OndelCore::health::DiskSMART;
 using OndelCore::volumes::VolumeCapabilities;
