@@ -33,11 +33,7 @@ TEST_F(UpdaterTest, OpensOnlyVerifiedPackages) {
         {"cut", {200, package.chopped(1), {}, cut}, u"downloaded"_s, signature, size},
         {"silent", {200, package.chopped(1), {}, silence}, u"downloaded"_s, signature, size},
         {"not found", {404, package}, u"downloaded"_s, signature, size},
-        {"redirect to http",
-         {302, "", {{"Location", "http://127.0.0.1/"}}},
-         u"downloaded"_s,
-         signature,
-         size},
+        {"to http", {302, "", {{"Location", "http://127.0.0.1/"}}}, u"downloaded"_s, signature, size},
     };
     server.script("/elsewhere", good);
     for (const Case& c : cases) {

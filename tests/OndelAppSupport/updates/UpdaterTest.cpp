@@ -225,24 +225,6 @@ TEST_F(UpdaterTest, AManualCheckTakesOverAnAutomaticOne) {
     EXPECT_EQ(server.requests().size(), 2);
 }
 
-TEST_F(UpdaterTest, LimitsTheSizeOfHeads) {
-    constexpr qint64 buffered = 16 << 20; // bytes; the sockets' buffers are smaller
-    const QByteArray valid = feed(enclosure(9, anySignature));
-    for (const auto& [status, ending] : {std::pair(200, endlessHead),
-                                         {200, endlessLine},
-                                         {103, endlessInterim},
-                                         {200, endlessTrailers},
-                                         {302, endlessHead}}) {
-        SCOPED_TRACE(testing::Message() << status << ", ending " << static_cast<int>(ending));
-        HttpsServer feeder;
-        feeder.script("/feed", {status, valid, {{"Location", "/feed"}}, ending});
-        configure(feeder.url(u"/feed"_s), publicKey());
-        UpdaterModel model(environment);
-        EXPECT_EQ(checkByHand(model), State::Failed);
-        EXPECT_LT(feeder.sentBytes(), buffered);
-    }
-}
-
 TEST_F(UpdaterTest, StopsReadingAFeed) {
     const QByteArray valid = feed(enclosure(9, anySignature));
     std::stop_source stop;

@@ -100,15 +100,7 @@ std::string FakeSystem::failureOf(const BenchmarkPlan& plan, const std::filesyst
 }
 
 BenchmarkPlan smallPlan(std::set<BenchmarkTest> tests, BenchmarkSize size) {
-    return {.tests = std::move(tests),
-            .size = size,
-            .writeBlockSize = 4096,
-            .readBlockSize = 4096,
-            .randomBlockSize = 4096,
-            .randomOpCount = 3,
-            .fileOpCount = 64,
-            .bypassCache = false,
-            .sampleInterval = 0};
+    return {std::move(tests), size, 4096, 4096, 4096, 3, 64, false, 0};
 }
 
 } // namespace test

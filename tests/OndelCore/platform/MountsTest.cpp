@@ -66,13 +66,7 @@ TEST(VisibleMounts, AreTheVolumesThatPeopleExpect) {
 
 TEST(VisibleMounts, TerminateOnADamagedTable) {
     const auto mount = [](std::uint64_t id, std::uint64_t parent, const char* point) {
-        return Mount{.id = id,
-                     .parentId = parent,
-                     .device = id,
-                     .root = "/",
-                     .mountPoint = point,
-                     .type = "ext4",
-                     .source = "/dev/x"};
+        return Mount{id, parent, id, "/", point, "ext4", "/dev/x", "", ""};
     };
     EXPECT_TRUE(visiblePoints({mount(1, 2, "/a"), mount(2, 1, "/a")}).empty());
     EXPECT_EQ(visiblePoints({mount(3, 3, "/"), mount(4, 99, "/b"), mount(5, 3, "")}),
@@ -89,15 +83,8 @@ TEST(MountTable, KeepsBytesAndSkipsMalformedLines) {
            "22 20 8:2\n";
     const auto found = mounts(table);
     ASSERT_EQ(found.size(), 2U);
-    EXPECT_EQ(found[1], (Mount{.id = 21,
-                               .parentId = 20,
-                               .device = 40,
-                               .root = "/sub vol",
-                               .mountPoint = "/mnt/caf\xe9",
-                               .type = "fuse.sshfs",
-                               .source = "me@host:/x y",
-                               .options = "ro",
-                               .superOptions = "rw,user_id=0"}));
+    EXPECT_EQ(found[1], (Mount{21, 20, 40, "/sub vol", "/mnt/caf\xe9", "fuse.sshfs", "me@host:/x y", "ro",
+                               "rw,user_id=0"}));
     EXPECT_TRUE(mounts(folder.path() / "none").empty());
     std::ofstream(table, std::ios::trunc).close();
     EXPECT_TRUE(mounts(table).empty());

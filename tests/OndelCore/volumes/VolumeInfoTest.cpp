@@ -199,13 +199,7 @@ TEST(VolumeCapabilities, NeedAValidClaim) {
 }
 
 TEST(VolumeCapabilities, TakeEachLimitFromItsAnswer) {
-    const auto capabilities = VolumeCapabilities::from({.type = "ext4",
-                                                        .blockSizeBytes = 4096,
-                                                        .optimalIOSizeBytes = 1048576,
-                                                        .maxNameLength = 255,
-                                                        .maxPathLength = 4095,
-                                                        .maxLinkCount = 65000,
-                                                        .capabilities = {}});
+    const auto capabilities = VolumeCapabilities::from({"ext4", 4096, 1048576, 255, 4095, 65000, {}});
     EXPECT_EQ(capabilities.filesystemType, "ext4");
     EXPECT_EQ(capabilities.blockSize, 4096);
     EXPECT_EQ(capabilities.optimalIOSize, 1048576);

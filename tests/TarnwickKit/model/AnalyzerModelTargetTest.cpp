@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <latch>
+#include <map>
 #include <sstream>
 
 namespace TarnwickKit::model {
@@ -62,20 +63,17 @@ TEST(VolumeFacts, NamesTheConnection) {
         Kind kind;
     };
     const char* network = "externaldrive.connected.to.line.below";
-    for (const Case& each : {
-             Case{false, false, false, "", "--", "externaldrive", Kind::external},
-             Case{true, true, false, "ext4", "Internal", "internaldrive", Kind::internalDrive},
-             Case{true, true, true, "ext4", "Removable", "externaldrive", Kind::external},
-             Case{true, false, true, "ext4", "Removable", "externaldrive", Kind::external},
-             Case{true, false, false, "ext4", "External", "externaldrive", Kind::external},
-             Case{true, true, true, "NFS", "Network", network, Kind::network},
-             Case{false, false, false, "nfs", "Network", "externaldrive", Kind::network},
-         }) {
-        VolumeFacts facts{.info = VolumeInfo(), .capabilities = VolumeCapabilities()};
-        facts.info->isInternal = each.isInternal;
-        facts.info->isRemovable = each.isRemovable;
-        if (!each.isKnown)
-            facts.info.reset();
+    for (const Case& each :
+         {Case{false, false, false, "", "--", "externaldrive", Kind::external},
+          Case{true, true, false, "ext4", "Internal", "internaldrive", Kind::internalDrive},
+          Case{true, true, true, "ext4", "Removable", "externaldrive", Kind::external},
+          Case{true, false, true, "ext4", "Removable", "externaldrive", Kind::external},
+          Case{true, false, false, "ext4", "External", "externaldrive", Kind::external},
+          Case{true, true, true, "NFS", "Network", network, Kind::network},
+          Case{false, false, false, "nfs", "Network", "externaldrive", Kind::network}}) {
+        VolumeFacts facts{.info = {}, .capabilities = VolumeCapabilities()};
+        if (each.isKnown)
+            facts.info = VolumeInfo{"", "", 0, 0, 0, each.isInternal, each.isRemovable, false, false, {}, {}};
         facts.capabilities->filesystemType = each.type;
         EXPECT_EQ(facts.connectionLabel(), each.label);
         EXPECT_EQ(facts.icon(), each.icon) << each.label;
@@ -161,11 +159,9 @@ TEST_F(AnalyzerModelTarget, TakesLateFactsOfAHangingVolume) {
     services.volumePatience = std::chrono::milliseconds(1);
     services.loadVolume = [gate](const OndelCore::volumes::Location& place) {
         gate->wait();
-        VolumeInfo info;
-        info.volumeURL = place.path;
-        return std::optional(info);
+        return std::optional(VolumeInfo{"", "", 0, 0, 0, false, false, false, false, place.path, {}});
     };
-    services.probeCapabilities = [](const auto&) {
+    services.probeCapabilities = [](const auto&) { // which may be asked after the test
         VolumeCapabilities answer;
         answer.optimalIOSize = 65536;
         return std::optional(answer);
@@ -185,24 +181,14 @@ TEST_F(AnalyzerModelTarget, TakesLateFactsOfAHangingVolume) {
 }
 
 TEST_F(AnalyzerModelTarget, RunUsesFactsThatArriveLate) {
-    const auto named = [](const char* name) {
-        VolumeInfo info;
-        info.name = name;
-        info.total = 1000;
-        return std::optional(info);
-    };
-    struct Gates {
-        std::latch old{1}, wakes{1}, late{1};
-    };
-    const auto gates = std::make_shared<Gates>(); // a pending question may outlive the test
-    services.loadVolume = [gates, named](const OndelCore::volumes::Location& place) {
-        if (place.path == "/old")
-            gates->old.wait();
-        if (place.path == "/wakes")
-            gates->wakes.wait();
-        if (place.path == "/late")
-            gates->late.wait();
-        return named(place.path.filename().c_str());
+    const auto gates =
+        std::make_shared<std::map<std::filesystem::path, std::latch>>(); // may outlive the test
+    for (const char* path : {"/old", "/wakes", "/late"})
+        gates->try_emplace(path, 1);
+    services.loadVolume = [gates](const OndelCore::volumes::Location& place) {
+        gates->at(place.path).wait();
+        const QString name = QString::fromStdString(place.path.filename());
+        return std::optional(VolumeInfo{name, "", 1000, 0, 0, false, false, false, false, {}, {}});
     };
     services.volumePatience = std::chrono::milliseconds(1);
     AnalyzerModel model(services);
@@ -214,8 +200,8 @@ TEST_F(AnalyzerModelTarget, RunUsesFactsThatArriveLate) {
     model.select(std::filesystem::path("/old"));
     model.select(std::filesystem::path("/wakes"));
     engine.begin(model);
-    gates->old.count_down();
-    gates->wakes.count_down();
+    gates->at("/old").count_down();
+    gates->at("/wakes").count_down();
     turnUntil([&] { return model.volumeInfo().has_value(); });
     EXPECT_TRUE(model.isRunning());
     EXPECT_EQ(nameAfterRun(), "wakes");
@@ -225,7 +211,7 @@ TEST_F(AnalyzerModelTarget, RunUsesFactsThatArriveLate) {
     EXPECT_FALSE(model.volumeInfo());
     engine.begin(model);
     EXPECT_EQ(nameAfterRun(), "Volume");
-    gates->late.count_down();
+    gates->at("/late").count_down();
     turnUntil([&] { return model.volumeInfo().has_value(); });
     EXPECT_EQ(model.currentRun()->volumeName, "Volume") << "late facts do not change a stored record";
 }

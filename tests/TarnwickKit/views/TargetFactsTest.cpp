@@ -98,27 +98,17 @@ TEST(TargetFacts, ShowEachFigureInItsRow) {
 
 TEST(TargetFacts, TellHealthFromItsAbsence) {
     using Status = DiskSMART::Status;
+    const DiskSMART good{Status::verified, "NVMe", {{"Temperature", "31 °C"}, {"Wear", "99 %", true}}, ""};
+    const DiskSMART bad{Status::failing, "ATA", {{"Power on", "9 h"}}, "One disk is asleep"};
+    const DiskSMART none{Status::notSupported, "", {}, "Not allowed"};
     const struct {
         DiskSMART health;
         bool isThere, isFailing;
-        const char* note;
-        const char* shown;
+        const char *note, *shown;
     } cases[] = {
-        {{Status::verified, "NVMe", {{"Temperature", "31 °C"}, {"Wear", "99 %", true}}},
-         true,
-         false,
-         "",
-         "Temperature: 31 °C; Wear: 99 %!"},
-        {{Status::failing, "ATA", {{"Power on", "9 h"}}, "One disk is asleep"},
-         true,
-         true,
-         "One disk is asleep",
-         "Power on: 9 h"},
-        {{Status::notSupported, "", {}, "Not allowed"},
-         false,
-         false,
-         "No S.M.A.R.T. figures: Not allowed",
-         ""},
+        {good, true, false, "", "Temperature: 31 °C; Wear: 99 %!"},
+        {bad, true, true, "One disk is asleep", "Power on: 9 h"},
+        {none, false, false, "No S.M.A.R.T. figures: Not allowed", ""},
         {{}, false, false, "", ""},
     };
     for (const auto& c : cases) {
