@@ -4,10 +4,7 @@
 
 #include "CapturedLog.h"
 
-#include <QRegularExpression>
-
 #include <cstdio>
-#include <random>
 #include <tuple>
 #include <vector>
 
@@ -214,35 +211,4 @@ TEST(LogScrubber, ReplacesNamesOfTheUserFirst) {
     expectScrubbed(
         LogScrubber(UserFacts{family + "e\u0301", std::nullopt, "", "/root"}), // two characters: too short
         {{family + "e\u0301 /root/x", family + "e\u0301 «local»/x", 1}});
-}
-
-// A backtracking engine with the same patterns is the reference, where it is fast enough.
-TEST(LogScrubber, AgreesWithABacktrackingEngine) {
-    const std::pair<const char*, const char*> rules[] = {
-        {R"(/Users/[^/\s]+(/[^\s"']*)?)", "«path»"},
-        {R"(/(home|var/root)/[^/\s]+(/[^\s"']*)?)", "«path»"},
-        {R"([A-Z0-9._%+-]+@[A-Z0-9.-]+\.[A-Z]{2,})", "«email»"},
-        {R"(\b(\d{1,3}\.){3}\d{1,3}\b)", "«ip»"},
-        {R"(\b(?:[A-F0-9]{1,4}:){4,7}[A-F0-9]{1,4}\b)", "«ip»"},
-        {R"(\b[A-Za-z0-9+/_-]{32,}={0,2}\b)", "«secret»"}};
-    const char* pieces[] = {"/Users/", "/home/", "/var/root/", "@",        ".",
-                            ":",       "10.2",   "a",          "B3",       "é",
-                            " ",       "\"",     "/",          "=",        "-",
-                            "_",       "+",      "0",          ".1",       "f:",
-                            "%",       "x.yz",   "\t",         "abcdefgh", "0123456789ABCDEF"};
-    const LogScrubber scrubber(UserFacts{});
-    std::mt19937 random(20260314);
-    for (int round = 0; round < 5000; ++round) {
-        // Every line has each trigger, so that every pattern is tried.
-        std::string line = "/Users/ /home/ 1.1 " + std::string(32, '-') + ":@ ";
-        for (auto length = random() % 24; length > 0; --length)
-            line += pieces[random() % std::size(pieces)];
-        QString expected = QString::fromStdString(line);
-        for (const auto& [pattern, replacement] : rules)
-            expected.replace(QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption),
-                             replacement);
-        std::string text = line;
-        scrubber.scrubByRules(text);
-        ASSERT_EQ(text, expected.toStdString()) << line;
-    }
 }

@@ -73,8 +73,7 @@ TEST_F(AnalyzerModelRun, ShowsTheResult) {
     result.randomRead = IOPSResult{12345, 1.0, 4096};
     result.randomWrite = IOPSResult{5, 0, 4096};
     result.fileOps = FileOpsResult{{950, 1}, {1, 1}, {1, 1}, {1, 1}};
-    engine.last().finish(result);
-    turnUntilEnded(model);
+    engine.finish(model, result);
     EXPECT_EQ(model.phase(), Phase::Done);
     EXPECT_EQ(model.result(), result);
     EXPECT_FALSE(model.liveTest());
@@ -86,8 +85,7 @@ TEST_F(AnalyzerModelRun, ShowsTheResult) {
     EXPECT_FALSE(model.result());
     EXPECT_EQ(model.liveSamples().size(), 0u);
     EXPECT_EQ(model.totalBytes(), 0);
-    engine.last().finish({});
-    turnUntilEnded(model);
+    engine.finish(model);
     EXPECT_EQ(model.sidebarValues(), QStringList({"", "", "", "", ""}));
 }
 
@@ -156,8 +154,7 @@ TEST_F(AnalyzerModelRun, NextRunMayStartFromTheEndOfOne) {
     engine.last().finish({});
     turnUntil([this] { return engine.calls.size() == 2; });
     EXPECT_TRUE(model.isRunning());
-    engine.last().finish({});
-    turnUntilEnded(model);
+    engine.finish(model);
     EXPECT_EQ(model.phase(), Phase::Done);
 }
 
@@ -219,8 +216,7 @@ TEST_F(AnalyzerModelRun, CanBeCancelledAsSoonAsItStarts) {
     QObject::disconnect(once);
     engine.begin(model);
     EXPECT_EQ(engine.calls.size(), 1u) << "the cancelled run did not reach the engine";
-    engine.last().finish({});
-    turnUntilEnded(model);
+    engine.finish(model);
     EXPECT_EQ(model.phase(), Phase::Done);
 }
 
@@ -239,8 +235,7 @@ TEST_F(AnalyzerModelRun, TakesAllEventsInOrderAndAnnouncesBatches) {
         ASSERT_EQ(model.liveSamples()[index].bytesPerSecond, static_cast<double>(index + 1));
 
     // Events that arrive after the run's end are dropped.
-    engine.last().finish({});
-    turnUntilEnded(model);
+    engine.finish(model);
     engine.last().progress(event(BenchmarkTest::sequentialRead, 1, 1, 1, 1));
     QCoreApplication::processEvents();
     EXPECT_EQ(model.completedBytes(), 1500);
@@ -276,8 +271,7 @@ TEST_F(AnalyzerModelRun, WaitsForTheSweep) {
     gate->count_down();
     turnUntil([this] { return !engine.calls.empty(); });
     EXPECT_EQ(engine.calls.size(), 1u);
-    engine.last().finish({});
-    turnUntilEnded(swept);
+    engine.finish(swept);
     EXPECT_EQ(swept.phase(), Phase::Done);
 }
 

@@ -50,8 +50,7 @@ struct AnalyzerModelRuns : testing::Test {
     }
     QUuid complete() {
         engine.begin(model);
-        engine.last().finish({});
-        turnUntilEnded(model);
+        engine.finish(model);
         return model.currentRun()->id;
     }
     void fail(auto error) {
@@ -74,8 +73,7 @@ TEST_F(AnalyzerModelRuns, RecordsAFinishedRun) {
     result.sequentialWrite = ThroughputResult{1000, 1, 4096, {{1, 1234567890}}};
     result.sequentialWrite->flushError = std::make_error_code(std::errc::io_error);
     result.randomWrite = IOPSResult{1, 1, 4096, std::make_error_code(std::errc::io_error)};
-    engine.last().finish(result);
-    turnUntilEnded(model);
+    engine.finish(model, result);
 
     ASSERT_TRUE(model.currentRun());
     const RunRecord& run = *model.currentRun();

@@ -108,8 +108,7 @@ TEST_F(AnalyzerModelTarget, RunKeepsTheChosenBlock) {
     engine.begin(model);
     BenchmarkResult result;
     result.tried.sparseFiles = true;
-    engine.last().finish(result);
-    turnUntilEnded(model);
+    engine.finish(model, result);
     EXPECT_TRUE(model.capabilities()->supportsSparseFiles);
     EXPECT_EQ(model.writeBlock(), 4096);
 }
@@ -193,8 +192,7 @@ TEST_F(AnalyzerModelTarget, RunUsesFactsThatArriveLate) {
     services.volumePatience = std::chrono::milliseconds(1);
     AnalyzerModel model(services);
     const auto nameAfterRun = [&] {
-        engine.last().finish({});
-        turnUntilEnded(model);
+        engine.finish(model);
         return model.currentRun()->volumeName;
     };
     model.select(std::filesystem::path("/old"));

@@ -44,6 +44,8 @@ struct Engine {
 
     /// Starts the model's next run and waits until the engine is called.
     void begin(AnalyzerModel& model);
+    /// Ends it, and waits until the model has taken the result.
+    void finish(const AnalyzerModel& model, const BenchmarkResult& result = {});
 
     AnalyzerServices services() {
         AnalyzerServices services;
@@ -74,6 +76,11 @@ inline void turnUntil(const std::function<bool()>& done) {
 
 inline void turnUntilEnded(const AnalyzerModel& model) {
     turnUntil([&] { return !model.isRunning(); });
+}
+
+inline void Engine::finish(const AnalyzerModel& model, const BenchmarkResult& result) {
+    last().finish(result);
+    turnUntilEnded(model);
 }
 
 inline void Engine::begin(AnalyzerModel& model) {

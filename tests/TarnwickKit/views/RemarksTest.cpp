@@ -156,8 +156,7 @@ TEST(SidebarView, MarksTheFiguresOfTheLastRun) {
         OndelCore::benchmark::BenchmarkResult result;
         result.sequentialRead.emplace().bytesProcessed = 1;
         result.randomWrite.emplace().flushError = flushError;
-        engine.last().finish(result);
-        TarnwickKit::model::turnUntil([&model] { return !model.isRunning(); });
+        engine.finish(model, result);
         stage.picture();
         return marksIn(stage.root(), stage.root());
     };
