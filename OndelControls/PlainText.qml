@@ -9,5 +9,5 @@ PlainTextBase {
     readonly property int textFormat: Text.PlainText
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: text
+    Accessible.name: Accessible.ignored ? "" : text // every change of a name is announced
 }

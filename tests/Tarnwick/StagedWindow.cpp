@@ -6,6 +6,7 @@
 ///   blind    a target on an unknown volume
 ///   stream   a run that reports 50 jagged samples a second for a minute, without I/O
 ///   warm     the same with a drive that warms up from 38 to 71 degrees Celsius
+///   five     the same for all five tests, six seconds each
 ///   named    all names of the volume and the drive are TEXT; the run takes a second
 
 #include "OndelAppSupport/AppIdentity.h"
@@ -20,6 +21,7 @@
 
 #include <chrono>
 #include <cmath>
+#include <functional>
 #include <string_view>
 #include <thread>
 
@@ -61,20 +63,50 @@ void stream(int samples, bool hasSensor, const benchmark::ProgressListener& tell
     }
 }
 
+/// The events of a test without rates, spread over six seconds.
+void count(BenchmarkTest test, std::int64_t operations, std::int64_t step, std::int64_t unit,
+           const benchmark::ProgressListener& tell, const std::stop_token& stop) {
+    for (std::int64_t done = 0; done <= operations && !stop.stop_requested(); done += step) {
+        const double share = static_cast<double>(done) / static_cast<double>(operations);
+        tell({test, done * unit, operations * unit, 0, 6 * (share + 0.02 * std::sin(9 * share))});
+        std::this_thread::sleep_for(std::chrono::milliseconds(6000 * step / operations));
+    }
+}
+
+void allTests(const benchmark::ProgressListener& tell, const std::stop_token& stop) {
+    stream(300, false, tell, stop);
+    stream(
+        300, false,
+        [&tell](benchmark::BenchmarkProgress progress) {
+            progress.test = BenchmarkTest::sequentialRead;
+            tell(progress);
+        },
+        stop);
+    count(BenchmarkTest::randomRead, 10000, 500, 4096, tell, stop);
+    count(BenchmarkTest::randomWrite, 10000, 500, 4096, tell, stop);
+    count(BenchmarkTest::fileOps, 4000, 250, 1, tell, stop);
+}
+
 /// A benchmark that only reports samples.
-auto streamedRun(int samples, bool hasSensor = false) {
-    return [samples, hasSensor](auto&&, auto&&, const benchmark::ProgressListener& tell,
-                                const std::stop_token& stop) {
+auto runOf(std::function<void(const benchmark::ProgressListener&, const std::stop_token&)> events) {
+    return [events = std::move(events)](auto&&, auto&&, const benchmark::ProgressListener& tell,
+                                        const std::stop_token& stop) {
         QPromise<benchmark::BenchmarkResult> result;
         auto future = result.future();
-        std::thread([samples, hasSensor, tell, stop, result = std::move(result)]() mutable {
+        std::thread([events, tell, stop, result = std::move(result)]() mutable {
             result.start();
-            stream(samples, hasSensor, tell, stop);
+            events(tell, stop);
             result.addResult(benchmark::BenchmarkResult{});
             result.finish();
         }).detach();
         return future;
     };
+}
+
+auto streamedRun(int samples, bool hasSensor = false) {
+    return runOf([samples, hasSensor](const benchmark::ProgressListener& tell, const std::stop_token& stop) {
+        stream(samples, hasSensor, tell, stop);
+    });
 }
 
 /// Names of labels and file systems are arbitrary.
@@ -123,6 +155,8 @@ AnalyzerServices machine(std::string_view name, const std::string& text) {
         services.probeCapabilities = [](const auto&) { return std::nullopt; };
     } else if (name == "stream" || name == "warm") {
         services.runBenchmark = streamedRun(3000, name == "warm");
+    } else if (name == "five") {
+        services.runBenchmark = runOf(allTests);
     } else if (name == "named") {
         nameEverything(services, text);
     }

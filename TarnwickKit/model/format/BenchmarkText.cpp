@@ -36,19 +36,43 @@ struct CauseInWords {
 QString name(BenchmarkTest test) { return QString::fromLatin1(rawValue(test)); }
 
 QString title(BenchmarkTest test, std::int64_t randomBlock) {
+    const bool isRandom = test == BenchmarkTest::randomRead || test == BenchmarkTest::randomWrite;
+    return isRandom ? u"%1 (%2)"_s.arg(shortTitle(test), Format::block(randomBlock)) : shortTitle(test);
+}
+
+QString shortTitle(BenchmarkTest test) {
     switch (test) {
     case BenchmarkTest::sequentialWrite:
         return u"Sequential write"_s;
     case BenchmarkTest::sequentialRead:
         return u"Sequential read"_s;
     case BenchmarkTest::randomRead:
-        return u"Random read (%1)"_s.arg(Format::block(randomBlock));
+        return u"Random read"_s;
     case BenchmarkTest::randomWrite:
-        return u"Random write (%1)"_s.arg(Format::block(randomBlock));
+        return u"Random write"_s;
     case BenchmarkTest::fileOps:
         return u"File operations"_s;
     }
     std::abort();
+}
+
+QString rateUnit(BenchmarkTest test) {
+    switch (test) {
+    case BenchmarkTest::sequentialWrite:
+    case BenchmarkTest::sequentialRead:
+        return u"MB/s"_s;
+    case BenchmarkTest::randomRead:
+    case BenchmarkTest::randomWrite:
+        return u"IOPS"_s;
+    case BenchmarkTest::fileOps:
+        return u"files/s"_s;
+    }
+    std::abort();
+}
+
+QString rateFigure(BenchmarkTest test, double rate) {
+    const bool isOfBytes = test == BenchmarkTest::sequentialWrite || test == BenchmarkTest::sequentialRead;
+    return isOfBytes ? Format::mbValue(rate) : Format::grouped(rate);
 }
 
 QStringList latencyFigures(const OndelCore::benchmark::Latency& latency) {

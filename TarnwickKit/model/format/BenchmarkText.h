@@ -18,6 +18,13 @@ QString name(OndelCore::benchmark::BenchmarkTest test);
 /// A test's name for people. `randomBlock`: bytes per random operation, part of the random tests' titles:
 /// "Random read (4 KiB)".
 QString title(OndelCore::benchmark::BenchmarkTest test, std::int64_t randomBlock);
+/// The same where there is little room: "Random read".
+QString shortTitle(OndelCore::benchmark::BenchmarkTest test);
+
+/// The unit of a test's rate: "MB/s", "IOPS", "files/s".
+QString rateUnit(OndelCore::benchmark::BenchmarkTest test);
+/// A test's rate as a figure without its unit. `rate`: bytes or operations per second.
+QString rateFigure(OndelCore::benchmark::BenchmarkTest test, double rate);
 
 /// The figures of many operations' latency, one text each: "p99 0.31 ms", "worst 12 ms".
 QStringList latencyFigures(const OndelCore::benchmark::Latency& latency);

@@ -100,6 +100,7 @@ public:
     std::int64_t completedBytes() const { return m_session.completedBytes(); }
     Q_PROPERTY(double totalBytes READ totalBytesNumber NOTIFY progressChanged)
     std::int64_t totalBytes() const { return m_session.totalBytes(); }
+    const LiveProgress& liveProgress() const { return m_session.liveProgress(); }
     Q_SIGNAL void progressChanged();
     const std::optional<OndelCore::benchmark::BenchmarkResult>& result() const { return m_session.result(); }
     Q_SIGNAL void resultChanged();

@@ -140,6 +140,7 @@ void RunSession::start(const BenchmarkPlan& plan) {
         return;
     const auto run = std::make_shared<Run>(*this, plan);
     m_run = run;
+    m_progress.begin(plan, fillBytes());
     Q_EMIT started();
     reset();
     if (run->hasEnded) // a receiver has cancelled it
@@ -170,6 +171,13 @@ void RunSession::reset() {
     clearLiveCurves();
     setLiveTest(std::nullopt);
     setProgress(0, 0);
+}
+
+/// About how much a run that fills the disk will write.
+std::optional<std::int64_t> RunSession::fillBytes() const {
+    const auto* fillDisk = m_run->plan.size.asFillDisk();
+    const auto& info = m_run->volume.info;
+    return fillDisk && info ? std::optional(info->rawAvailable - fillDisk->leaveFree) : std::nullopt;
 }
 
 void RunSession::launch() {
@@ -298,6 +306,7 @@ void RunSession::apply(const BenchmarkProgress& progress) { announce(take(progre
 
 RunSession::Changes RunSession::take(const BenchmarkProgress& progress) {
     Changes changes;
+    m_progress.take(progress, m_liveSamples);
     if (m_liveTest != progress.test) {
         m_liveTest = progress.test;
         m_liveSamples.clear();

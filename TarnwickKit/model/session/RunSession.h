@@ -7,6 +7,7 @@
 #include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/model/session/AnalyzerServices.h"
 #include "TarnwickKit/model/session/AnalyzerTarget.h"
+#include "TarnwickKit/model/session/LiveProgress.h"
 
 #include <QDateTime>
 #include <QFuture>
@@ -84,6 +85,8 @@ public:
     /// Progress of the current test, in the counts of BenchmarkProgress.
     std::int64_t completedBytes() const { return m_completedBytes; }
     std::int64_t totalBytes() const { return m_totalBytes; }
+    /// The same and more, of the whole run.
+    const LiveProgress& liveProgress() const { return m_progress; }
     Q_SIGNAL void progressChanged();
 
     /// Takes one progress event.
@@ -101,6 +104,7 @@ private:
 
     bool isRunning() const;
     void reset();
+    std::optional<std::int64_t> fillBytes() const;
     void launch();
     void engineEnded();
     void endRun(const std::function<void()>& settle);
@@ -124,6 +128,7 @@ private:
     std::vector<Temperature> m_liveTemperatures;
     std::int64_t m_completedBytes = 0;
     std::int64_t m_totalBytes = 0;
+    LiveProgress m_progress;
 };
 
 } // namespace TarnwickKit::model

@@ -28,10 +28,12 @@ class ChartSeries : public QObject {
 
     /// The curve's name in the chart's text summary.
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY changed)
+    /// That of the points' rates, in the same summary.
+    Q_PROPERTY(QString unit READ unit WRITE setUnit NOTIFY changed)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
     /// The area's colour at the curve's highest point.
     Q_PROPERTY(QColor fill READ fill WRITE setFill NOTIFY changed)
-    /// Units: seconds and decimal megabytes per second.
+    /// Units: seconds, and decimal megabytes per second unless there is another unit.
     Q_PROPERTY(QList<QPointF> points READ points WRITE setPoints NOTIFY changed)
 
 public:
@@ -39,6 +41,8 @@ public:
 
     const QString& name() const { return m_name; }
     void setName(const QString& name) { set(m_name, name); }
+    const QString& unit() const { return m_unit; }
+    void setUnit(const QString& unit) { set(m_unit, unit); }
     const QColor& color() const { return m_curve.color; }
     void setColor(const QColor& color) { set(m_curve.color, color); }
     const QColor& fill() const { return m_curve.fill; }
@@ -62,6 +66,7 @@ private:
     }
 
     QString m_name;
+    QString m_unit = QStringLiteral("MB/s");
     ChartCurve m_curve;
 };
 

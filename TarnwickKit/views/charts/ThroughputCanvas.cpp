@@ -18,9 +18,9 @@ QString throughputSummary(const QList<ChartSeries*>& series) {
         if (points.isEmpty())
             continue;
         const auto [lowest, highest] = std::ranges::minmax(points, {}, &QPointF::y);
-        sentences << words("%1: %2 to %3 MB/s over %4, last %5 MB/s.")
+        sentences << words("%1: %2 to %3 %6 over %4, last %5 %6.")
                          .arg(one->name(), rate(lowest.y()), rate(highest.y()), seconds(points.last().x()),
-                              rate(points.last().y()));
+                              rate(points.last().y()), one->unit());
     }
     return sentences.isEmpty() ? words("No measurements yet.") : sentences.join(QLatin1Char(' '));
 }

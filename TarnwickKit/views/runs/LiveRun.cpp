@@ -1,25 +1,64 @@
 #include "TarnwickKit/views/runs/LiveRun.h"
 
+#include "TarnwickKit/model/format/BenchmarkText.h"
+#include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/views/charts/ChartSeries.h"
 
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <span>
 #include <utility>
 
 namespace TarnwickKit::views {
 
 using model::AnalyzerModel;
+using model::LiveProgress;
+using OndelCore::benchmark::BenchmarkTest;
 using OndelCore::benchmark::ThroughputSample;
+
+namespace Format = model::Format;
 
 namespace {
 
 constexpr std::chrono::milliseconds pace(40);
 constexpr int ticksPerBeat = 2;
+constexpr int ticksPerTelling = 13; ///< a little more than half a second
+constexpr int tellingsPerSpeaking = 2;
+
+LiveTest itemOf(const LiveProgress::Test& test) {
+    LiveTest item{.title = model::shortTitle(test.test), .figure = {}, .sentence = {}};
+    item.isDone = test.stage == LiveProgress::Stage::done;
+    item.isRunning = test.stage == LiveProgress::Stage::running;
+    if (item.isDone && test.result > 0)
+        item.figure = model::rateFigure(test.test, test.result) + u' ' + model::rateUnit(test.test);
+    const QString state = item.isDone      ? LiveRun::tr("done")
+                          : item.isRunning ? LiveRun::tr("running")
+                                           : LiveRun::tr("to come");
+    item.sentence = item.figure.isEmpty() ? LiveRun::tr("%1: %2").arg(item.title, state)
+                                          : LiveRun::tr("%1: %2, %3").arg(item.title, state, item.figure);
+    return item;
+}
 
 } // namespace
 
+QString timeLeftText(double left, bool isOfRun) {
+    const auto minutes = static_cast<int>(std::lround(left / 60));
+    QString time;
+    if (left <= 5)
+        time = LiveRun::tr("A few seconds");
+    else if (left <= 95)
+        time = LiveRun::tr("About %1 s").arg(5 * static_cast<int>(std::ceil(left / 5)));
+    else if (minutes < 100)
+        time = LiveRun::tr("About %1 min").arg(minutes);
+    else
+        time = LiveRun::tr("About %1 h").arg(static_cast<int>(std::lround(left / 3600)));
+    return (isOfRun ? LiveRun::tr("%1 left") : LiveRun::tr("%1 left of this test")).arg(time);
+}
+
 LiveRun::LiveRun(QObject* parent)
     : QObject(parent) {
+    m_time.start();
     m_clock.setInterval(pace);
     connect(&m_clock, &QTimer::timeout, this, &LiveRun::tick);
     m_clock.start();
@@ -28,27 +67,37 @@ LiveRun::LiveRun(QObject* parent)
 void LiveRun::setAnalyzer(AnalyzerModel* analyzer) {
     if (!turnTo(m_analyzer, analyzer, this))
         return;
+    // Each run and each test announces itself. It is read at once: the curve of one test must not be seen in
+    // the colours of the next.
+    const auto readOther = [this] {
+        m_isOther = true;
+        if (!m_countsRun)
+            m_countdown.reset();
+        read();
+        listTests();
+        tell();
+        speak();
+    };
     if (analyzer) {
         const auto note = [this] { m_hasNews = true; };
         connect(analyzer, &AnalyzerModel::liveSamplesChanged, this, note);
         connect(analyzer, &AnalyzerModel::progressChanged, this, note);
         connect(analyzer, &AnalyzerModel::liveTemperaturesChanged, this, note);
-        // Each run and each test announces itself here. It is read at once: the curve of one test must not be
-        // seen in the colours of the next.
-        connect(analyzer, &AnalyzerModel::liveTestChanged, this, [this] {
-            m_isOther = true;
-            read();
-        });
+        connect(analyzer, &AnalyzerModel::liveTestChanged, this, readOther);
     }
     Q_EMIT analyzerChanged();
-    m_isOther = true;
-    read();
+    readOther();
 }
 
 void LiveRun::tick() {
     if (std::exchange(m_hasNews, false))
         read();
-    if (++m_ticks % ticksPerBeat != 0)
+    ++m_ticks;
+    if (m_ticks % ticksPerTelling == 0)
+        tell();
+    if (m_ticks % (ticksPerTelling * tellingsPerSpeaking) == 0)
+        speak();
+    if (m_ticks % ticksPerBeat != 0)
         return;
     ++m_beat;
     Q_EMIT beatChanged();
@@ -57,8 +106,12 @@ void LiveRun::tick() {
 void LiveRun::read() {
     m_completedBytes = m_analyzer ? static_cast<double>(m_analyzer->completedBytes()) : 0;
     m_totalBytes = m_analyzer ? static_cast<double>(m_analyzer->totalBytes()) : 0;
-    readPoints();
+    if (m_analyzer && !m_analyzer->liveProgress().points().empty())
+        readOperations();
+    else
+        readPoints();
     readTemperatures();
+    readTimeLeft();
     Q_EMIT moved();
 }
 
@@ -83,6 +136,17 @@ void LiveRun::readPoints() {
     }
 }
 
+/// The curve of a test whose events tell no rates. It has few points.
+void LiveRun::readOperations() {
+    m_isOther = false;
+    QList<QPointF> points;
+    for (const auto& [elapsed, rate] : m_analyzer->liveProgress().points())
+        points.append({elapsed, rate});
+    if (points == std::exchange(m_points, points))
+        return;
+    Q_EMIT restarted();
+}
+
 /// There is about one a second.
 void LiveRun::readTemperatures() {
     QList<QPointF> temperatures;
@@ -92,6 +156,60 @@ void LiveRun::readTemperatures() {
     if (temperatures == std::exchange(m_temperatures, temperatures))
         return;
     Q_EMIT warmed();
+}
+
+void LiveRun::readTimeLeft() {
+    const auto left = m_analyzer ? m_analyzer->liveProgress().timeLeft() : std::nullopt;
+    if (!left)
+        return; // it counts on
+    if (left->isOfRun != m_countsRun)
+        m_countdown.reset();
+    m_countsRun = left->isOfRun;
+    m_countdown.note(static_cast<double>(m_time.elapsed()) / 1000, left->seconds);
+}
+
+void LiveRun::tell() {
+    const auto test = m_analyzer ? m_analyzer->liveTest() : std::nullopt;
+    const auto rate = test ? m_analyzer->liveProgress().rate() : std::nullopt;
+    m_figure = rate ? model::rateFigure(*test, *rate) : QString();
+    m_unit = test ? model::rateUnit(*test) : QString();
+    m_share = m_totalBytes > 0 ? std::clamp(m_completedBytes / m_totalBytes, 0.0, 1.0) : 0;
+    const auto amount = [&](auto&& show) {
+        return tr("%1 of %2").arg(show(m_completedBytes), show(m_totalBytes));
+    };
+    if (test == BenchmarkTest::fileOps)
+        m_amount = tr("%1 operations").arg(amount(Format::grouped));
+    else
+        m_amount = amount([](double bytes) { return Format::bytes(static_cast<std::int64_t>(bytes)); });
+    tellRun();
+    Q_EMIT told();
+}
+
+void LiveRun::tellRun() {
+    const auto fraction = m_analyzer ? m_analyzer->liveProgress().fraction() : std::nullopt;
+    QStringList parts;
+    if (m_analyzer && !m_analyzer->liveTest())
+        parts << tr("Preparing…"); // the data file may take minutes
+    else if (fraction)
+        parts << tr("%1 %").arg(static_cast<int>(100 * *fraction));
+    if (const auto left = m_countdown.left(static_cast<double>(m_time.elapsed()) / 1000))
+        parts << timeLeftText(*left, m_countsRun);
+    m_runLine = parts.join(QStringLiteral(" · "));
+}
+
+void LiveRun::speak() {
+    m_spokenPercent = static_cast<int>(100 * m_share);
+    Q_EMIT spoken();
+}
+
+void LiveRun::listTests() {
+    QList<LiveTest> tests;
+    if (m_analyzer)
+        for (const LiveProgress::Test& test : m_analyzer->liveProgress().tests())
+            tests.append(itemOf(test));
+    if (tests == std::exchange(m_tests, tests))
+        return;
+    Q_EMIT testsChanged();
 }
 
 } // namespace TarnwickKit::views

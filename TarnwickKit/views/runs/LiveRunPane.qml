@@ -27,6 +27,9 @@ CardFrame {
         },
         Item {
             Layout.fillWidth: true
+        },
+        LiveFigure {
+            run: live
         }
     ]
 
@@ -44,7 +47,8 @@ CardFrame {
 
         ProgressTrack {
             Layout.fillWidth: true
-            label: qsTr("%1: %2 %").arg(pane.analyzer.liveTestTitle).arg(percent)
+            label: pane.analyzer.liveTestTitle ? qsTr("%1: %2 %").arg(pane.analyzer.liveTestTitle).arg(live.spokenPercent) : live.runLine
+            Accessible.description: live.figure ? qsTr("%1 %2, %3").arg(live.figure).arg(live.unit).arg(live.amount) : live.amount
             trackColor: PaletteKey.palette.track
             fillColor: PaletteKey.palette.accent
             to: Math.max(1, live.totalBytes)
@@ -53,10 +57,11 @@ CardFrame {
         RowLayout {
             PlainText {
                 Layout.fillWidth: true
-                text: qsTr("%1 of %2").arg(Format.bytes(live.completedBytes)).arg(Format.bytes(live.totalBytes))
+                text: live.amount
                 horizontalAlignment: Text.AlignLeft
                 font: Typeface.mono(11)
                 color: PaletteKey.palette.text3
+                Accessible.ignored: true // the bar's description has it
             }
             OnDemand {
                 active: live.temperatures.length > 0
@@ -86,9 +91,14 @@ CardFrame {
             LiveSeries {
                 run: live
                 name: pane.analyzer.liveTestTitle
+                unit: live.unit
                 color: chart.reads ? chart.PaletteKey.palette.teal : chart.PaletteKey.palette.coral
                 fill: chart.reads ? chart.PaletteKey.palette.readFill : chart.PaletteKey.palette.writeFill
             }
         }
+    }
+    LiveTests {
+        Layout.fillWidth: true
+        run: live
     }
 }

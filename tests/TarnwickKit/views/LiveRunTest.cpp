@@ -19,6 +19,7 @@ struct Watched {
     LiveSeries series;
     QStringList heard; ///< "restarted", or the number of appended points
     int moves = 0;
+    int tellings = 0;
 
     Watched() {
         run.setAnalyzer(&model);
@@ -27,6 +28,7 @@ struct Watched {
         QObject::connect(&run, &LiveRun::grown, &run,
                          [this](const QList<QPointF>& tail) { heard << QString::number(tail.size()); });
         QObject::connect(&run, &LiveRun::moved, &run, [this] { ++moves; });
+        QObject::connect(&run, &LiveRun::told, &run, [this] { ++tellings; });
     }
 
     void measure(BenchmarkTest test, int first, int end) {
@@ -91,6 +93,60 @@ TEST(LiveRun, PassesOnTheTemperatures) {
     watched.update();
     EXPECT_TRUE(watched.run.temperatures().isEmpty());
     EXPECT_EQ(warmed, 2);
+}
+
+TEST(LiveRun, TellsEachTestInItsOwnUnit) {
+    struct Case {
+        BenchmarkTest test;
+        std::int64_t unit; ///< bytes per operation
+        const char* figure;
+        const char* unitText;
+        const char* amount;
+    };
+    Watched watched;
+    watched.model.select(std::filesystem::path("/"));
+    watched.model.setSelectedTests(
+        {BenchmarkTest::sequentialRead, BenchmarkTest::randomWrite, BenchmarkTest::fileOps});
+    watched.engine.begin(watched.model);
+    const auto text = [&](const char* property) {
+        return watched.run.property(property).toString().toStdString();
+    };
+    EXPECT_EQ(text("runLine"), "Preparing…");
+    for (const Case& one :
+         {Case{BenchmarkTest::sequentialRead, 1'000'000, "1,000", "MB/s", "953.7 MiB of 3.7 GiB"},
+          Case{BenchmarkTest::randomWrite, 4096, "1,000", "IOPS", "3.9 MiB of 15.6 MiB"},
+          Case{BenchmarkTest::fileOps, 1, "1,000", "files/s", "1,000 of 4,000 operations"}}) {
+        for (const double elapsed : {0.0, 0.5, 1.0})
+            watched.model.apply({one.test, static_cast<std::int64_t>(elapsed * 1000) * one.unit,
+                                 4000 * one.unit, one.unit == 1'000'000 ? 1e9 : 0, elapsed});
+        const int before = watched.tellings;
+        turnUntil([&] { return watched.tellings > before; });
+        EXPECT_EQ(text("figure"), one.figure) << one.unitText;
+        EXPECT_EQ(text("unit"), one.unitText);
+        EXPECT_EQ(text("amount"), one.amount);
+        EXPECT_EQ(watched.run.property("share").toDouble(), 0.25);
+        EXPECT_EQ(watched.run.points(), (QList<QPointF>{{0, 1000}, {0.5, 1000}, {1, 1000}}));
+    }
+    QStringList sentences;
+    for (const LiveTest& test : watched.run.property("tests").value<QList<LiveTest>>())
+        sentences << test.sentence;
+    EXPECT_EQ(sentences, (QStringList{"Sequential read: done, 1,000 MB/s", "Random write: done, 1,000 IOPS",
+                                      "File operations: running"}));
+    watched.engine.last().finish({}); // the model waits for it
+}
+
+TEST(LiveRun, RoundsTheTimeLeft) {
+    for (const auto& [left, text] : {std::pair<double, const char*>{0, "A few seconds left"},
+                                     {5, "A few seconds left"},
+                                     {5.1, "About 10 s left"},
+                                     {95, "About 95 s left"},
+                                     {96, "About 2 min left"},
+                                     {151, "About 3 min left"},
+                                     {5969, "About 99 min left"},
+                                     {5971, "About 2 h left"},
+                                     {36000, "About 10 h left"}})
+        EXPECT_EQ(timeLeftText(left, true).toStdString(), text) << left;
+    EXPECT_EQ(timeLeftText(20, false), "About 20 s left of this test");
 }
 
 } // namespace
