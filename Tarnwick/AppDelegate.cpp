@@ -5,6 +5,7 @@
 #include "OndelCore/platform/process/TerminationRequest.h"
 #include "OndelDesktop/StartupNotice.h"
 #include "Tarnwick/OpenUrls.h"
+#include "Tarnwick/Product.h"
 #include "TarnwickKit/model/session/AnswerLater.h"
 
 #include <QDesktopServices>
@@ -28,6 +29,7 @@ AppDelegate::AppDelegate()
     : m_updater(updaterEnvironment())
     , m_notifier(m_model, [this](const std::string& token) { comeToFront(token); }) {
     m_model.setDialogs(&m_dialogs);
+    connect(&m_notifier, &RunNotifier::percentChanged, this, &AppDelegate::windowTitleChanged);
     connect(&m_end, &QFutureWatcher<void>::finished, this, [] { QCoreApplication::exit(0); });
 
     auto* notifier =
@@ -54,6 +56,12 @@ OndelAppSupport::UpdaterEnvironment AppDelegate::updaterEnvironment() {
     environment.openPackage = [](const QUrl& package) { return QDesktopServices::openUrl(package); };
     environment.isBusy = [this] { return m_model.isRunning(); };
     return environment;
+}
+
+QString AppDelegate::windowTitle() const {
+    const QString name = QString::fromLatin1(product::name);
+    const auto percent = m_notifier.percent();
+    return percent ? tr("%1 % – %2").arg(*percent).arg(name) : name;
 }
 
 QUrl AppDelegate::website() { return OndelAppSupport::AppIdentity::current().website; }

@@ -29,6 +29,8 @@ class AppDelegate : public QObject {
     QML_UNCREATABLE("The application owns the only one.")
     Q_PROPERTY(TarnwickKit::model::AnalyzerModel* model READ model CONSTANT)
     Q_PROPERTY(OndelAppSupport::UpdaterModel* updater READ updater CONSTANT)
+    /// The product's name, and before it during a run how much of it is done.
+    Q_PROPERTY(QString windowTitle READ windowTitle NOTIFY windowTitleChanged)
     /// The product's page.
     Q_PROPERTY(QUrl website READ website CONSTANT)
     /// Whether the sheet for problem reports is shown.
@@ -40,6 +42,8 @@ public:
 
     TarnwickKit::model::AnalyzerModel* model() { return &m_model; }
     OndelAppSupport::UpdaterModel* updater() { return &m_updater; }
+    QString windowTitle() const;
+    Q_SIGNAL void windowTitleChanged();
     static QUrl website();
     bool showReport() const { return m_showReport; }
     void setShowReport(bool show);

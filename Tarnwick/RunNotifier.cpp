@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QWindow>
 
+#include <chrono>
 #include <utility>
 
 using TarnwickKit::model::AnalyzerModel;
@@ -16,7 +17,10 @@ namespace Format = TarnwickKit::model::Format;
 
 RunNotifier::RunNotifier(AnalyzerModel& model, std::function<void(const std::string&)> comeToFront)
     : m_model(model)
-    , m_notice(product::id, product::name, std::move(comeToFront)) {
+    , m_notice(product::id, product::name, std::move(comeToFront))
+    , m_launcher(product::id) {
+    m_clock.setInterval(std::chrono::seconds(1));
+    connect(&m_clock, &QTimer::timeout, this, &RunNotifier::updatePercent);
     connect(&model, &AnalyzerModel::phaseChanged, this, &RunNotifier::phaseChanged);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
         if (window)
@@ -28,11 +32,24 @@ void RunNotifier::phaseChanged() {
     if (m_model.isRunning()) {
         m_notice.withdraw();
         m_awake.emplace(product::name, tr("A benchmark is running").toStdString());
+        m_clock.start();
+        updatePercent();
     } else if (m_awake) {
         m_awake.reset();
+        m_clock.stop();
+        updatePercent();
         if (!QGuiApplication::focusWindow())
             showResult();
     }
+}
+
+void RunNotifier::updatePercent() {
+    const auto fraction = m_model.isRunning() ? m_model.liveProgress().fraction() : std::nullopt;
+    const auto percent = fraction ? std::optional(static_cast<int>(100 * *fraction)) : std::nullopt;
+    if (percent == std::exchange(m_percent, percent))
+        return;
+    m_launcher.show(percent);
+    Q_EMIT percentChanged();
 }
 
 /// A run that the user has stopped needs no notice.

@@ -1,17 +1,19 @@
 #pragma once
 
 #include "OndelDesktop/DesktopNotice.h"
+#include "OndelDesktop/LauncherProgress.h"
 #include "OndelDesktop/StayAwake.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
 #include <string>
 
-/// Keeps the machine awake during a run, and shows its result as a notification while no window has the
-/// focus. Threads: main.
+/// Keeps the machine awake during a run, tells how far it is, and shows its result as a notification while no
+/// window has the focus. Threads: main.
 class RunNotifier : public QObject {
     Q_OBJECT
 public:
@@ -19,11 +21,20 @@ public:
     RunNotifier(TarnwickKit::model::AnalyzerModel& model,
                 std::function<void(const std::string& activationToken)> comeToFront);
 
+    /// How much of the run is done, as its icon on the desktop shows it; it changes once per second at most.
+    /// Absent outside a run, and while that is not known. Units: percent.
+    std::optional<int> percent() const { return m_percent; }
+    Q_SIGNAL void percentChanged();
+
 private:
     void phaseChanged();
+    void updatePercent();
     void showResult();
 
     TarnwickKit::model::AnalyzerModel& m_model;
     OndelDesktop::DesktopNotice m_notice;
     std::optional<OndelDesktop::StayAwake> m_awake;
+    OndelDesktop::LauncherProgress m_launcher;
+    QTimer m_clock;
+    std::optional<int> m_percent;
 };

@@ -95,6 +95,8 @@ MenuStrip {
             },
             Command {
                 text: qsTr("Stop")
+                keys: "Ctrl+." // Escape too, where nothing else has a use for it
+                shortcut: commands.inWindow(keys)
                 enabled: commands.analyzer.isRunning
                 onTriggered: commands.analyzer.cancel()
             },

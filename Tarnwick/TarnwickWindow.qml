@@ -15,7 +15,7 @@ Window {
     signal aboutWanted
     signal settingsWanted
 
-    title: "Ondel Tarnwick"
+    title: delegate.windowTitle
     width: 1180
     height: 780
     minimumWidth: view.leastWidth
@@ -60,6 +60,13 @@ Window {
     MenuKey {
         window: window
         onTapped: commands.openFirst()
+    }
+    EscapeKey {
+        window: window
+        onPressed: {
+            if (window.delegate.model.isRunning)
+                window.delegate.model.cancel();
+        }
     }
     DropPlace {
         anchors.fill: parent

@@ -297,6 +297,20 @@ def desktop_of(*words):
                  stdout=subprocess.PIPE)
 
 
+def icon_progress(window):
+    """A list of what a task bar hears from now on: whether there is progress, and its share."""
+    from gi.repository import Gio
+    heard = []
+
+    def hear(_bus, _sender, _path, _interface, _signal, update):
+        entry, told = update.unpack()
+        check(entry == f"application://{NAME}.desktop", f"progress of {entry}")
+        heard.append((told["progress-visible"], told["progress"]))
+    window.bus = Gio.bus_get_sync(Gio.BusType.SESSION)  # it lasts as long as somebody has it
+    window.bus.signal_subscribe(None, "com.canonical.Unity.LauncherEntry", "Update", None, None, Gio.DBusSignalFlags.NONE, hear)
+    return heard
+
+
 def notifies_the_desktop_of_runs(program, folder, source):
     with desktop_of(2) as desktop, child(source, stdout=subprocess.PIPE) as other:
         told = hears_of(desktop)
@@ -306,10 +320,13 @@ def notifies_the_desktop_of_runs(program, folder, source):
             choose_small_size(window)
             for test in TESTS[1:]:
                 window.press(test)
+            icon = icon_progress(window)
             start(window, folder)
             told("awake 12 A benchmark is running")
+            window.until("progress on the icon", lambda: [shown for shown, share in icon if shown and 0 <= share < 1])
             window.press("Stop")
             told("asleep")
+            window.until("the end of it", lambda: not icon[-1][0])
             start(window, folder)
             told("awake")
             window.find("Complete", "status bar")

@@ -7,6 +7,7 @@ import re
 import signal
 import subprocess
 import sys
+import time
 
 import driver
 import saved_runs
@@ -45,8 +46,10 @@ def runs_to_the_end(program, folder):
         check(not window.enabled("Volume"), "the volume can be changed during a run")
         window.until("progress", lambda: 0 < (window.progress(TESTS[0]) or 0) <= 100)
         window.find("Throughput over time", "chart")
+        check(re.fullmatch("[0-9]+ % – Ondel Tarnwick", title := driver.display.title(window.id())), f"the title in a run: {title}")
 
         window.find("Complete", "status bar")
+        window.until("the title without a figure", lambda: driver.windows("^Ondel Tarnwick$"))
         for name in TESTS:
             figure = window.find(name, "check box").get_description()
             check(re.fullmatch(r"[1-9][0-9,]*|[0-9.]+k", figure), f"{name} shows {figure!r}")
@@ -80,6 +83,33 @@ def ends_cleanly_in_a_run(program, folder):
         nothing_left(folder)
         last = LOG.read_text().splitlines()[-1]
         check(last.endswith("  benchmark cancelled"), f"the log's last line: {last}")
+
+
+def stops_by_keyboard(program, folder):
+    with driver.Window(program, folder) as window:
+        for key in "Escape", "ctrl+period":
+            start(window, folder)
+            window.press("Help", "menu item")
+            window.press("Report a Problem…", "menu item")
+            window.find("Report a Problem", "heading")
+            window.keys("Escape")
+            window.gone("Report a Problem", "heading")
+            window.find("Running…", "status bar")
+            window.keys(key)
+            window.find("Ready", "status bar")
+            nothing_left(folder)
+
+
+def names_change_seldom_in_a_run(program, _folder):
+    """Assistive technology reads each of them aloud."""
+    staged = pathlib.Path(program).parent / "staged-window"
+    with driver.Window(staged, "stream") as window:
+        window.press("Run Benchmark")
+        window.until("some progress", lambda: (window.progress(TESTS[0]) or 0) > 5)
+        heard, since = window.listen(), time.monotonic()
+        window.until("more progress", lambda: (window.progress(TESTS[0]) or 0) > 20)
+        seconds = time.monotonic() - since
+        check(0 < len(heard) <= 2 * seconds, f"{len(heard)} names in {seconds:.1f} s: {heard}")
 
 
 def goes_by_keyboard(program, folder):
@@ -141,8 +171,8 @@ if __name__ == "__main__":
     driver.enter_display()
     program, _source, *only = sys.argv[1:]
     with driver.fast_folder() as name:
-        for case in (runs_to_the_end, ends_cleanly_in_a_run, goes_by_keyboard, refuses_what_it_cannot_use,
-                     tells_why_health_is_missing):
+        for case in (runs_to_the_end, ends_cleanly_in_a_run, stops_by_keyboard, names_change_seldom_in_a_run,
+                     goes_by_keyboard, refuses_what_it_cannot_use, tells_why_health_is_missing):
             if only and case.__name__ not in only:
                 continue
             print(case.__name__.replace("_", " "), flush=True)

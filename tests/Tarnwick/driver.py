@@ -18,7 +18,7 @@ from displays import X11, display  # noqa: F401
 SKIP = 77
 GUARD_SECONDS = float(os.environ.get("ONDEL_GUARD_SECONDS", 40))  # not a test of speed: catches what never happens
 ACCESSIBILITY = {"org.a11y.Bus": "/usr/libexec/at-spi-bus-launcher"}
-MAIN = "^Ondel Tarnwick$"  # the title of the main window
+MAIN = "^([0-9]+ % – )?Ondel Tarnwick$"  # the title of the main window
 
 
 def bus_configuration(folder, services):
