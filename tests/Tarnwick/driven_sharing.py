@@ -37,7 +37,12 @@ def compares_and_shares(program, home, folder):
             window.press(name, "check box")
         window.press("Compare 2")
         window.find("Comparing 2 runs")
-        window.find("Write, NVMe Server: 104 MB/s")
+        window.find("Write, NVMe Server: 104 MB/s, reference")
+        window.find("Write, Samsung SSD 990 PRO: 6,400 MB/s, +6,042 %")
+        window.press("Differences from")
+        window.press(next(node.get_name() for node, _ in window.nodes() if node.get_name().startswith("Samsung SSD 990 PRO · ")
+                          and driver.role_of(node) == "menu item"))
+        window.find("Write, NVMe Server: 104 MB/s, −98 %")
         check(window.look("Ready to benchmark") is None, "a comparison does not replace the pane")
 
         share(window, "Copy Image")

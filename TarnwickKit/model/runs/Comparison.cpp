@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cmath>
 
 namespace TarnwickKit::model {
 
@@ -21,6 +22,16 @@ const std::array<CompareMetric, 5>& CompareMetric::all() {
         {u"File ops"_s, u"ops/s"_s, &RunRecord::fileOpsPerSec, Format::compact, BenchmarkTest::fileOps},
     }};
     return metrics;
+}
+
+bool areOfOneVolume(const RunRecord& one, const RunRecord& other) {
+    const auto agree = [](const auto& left, const auto& right) { return !left || !right || left == right; };
+    const auto areClose = [](std::optional<std::int64_t> left, std::optional<std::int64_t> right) {
+        return !left || !right ||
+               std::abs(double(*left) - double(*right)) <= 0.1 * double(std::max(*left, *right));
+    };
+    return one.volumeName == other.volumeName && agree(one.deviceModel, other.deviceModel) &&
+           agree(one.fsType, other.fsType) && areClose(one.capacityBytes, other.capacityBytes);
 }
 
 namespace ComparisonChart {
@@ -50,6 +61,34 @@ std::vector<Bar> bars(const CompareMetric& metric, const std::vector<RunRecord>&
         lines.push_back(line);
     }
     return lines;
+}
+
+std::vector<std::optional<double>> differences(const CompareMetric& metric,
+                                               const std::vector<RunRecord>& runs, std::size_t reference) {
+    std::vector<std::optional<double>> shares(runs.size());
+    const auto figure = [&metric](const RunRecord& run) {
+        return run.isInvalid(metric.test) ? std::nullopt : run.*metric.magnitude;
+    };
+    const std::optional<double> base = reference < runs.size() ? figure(runs[reference]) : std::nullopt;
+    if (!base || !(*base > 0))
+        return shares;
+    for (std::size_t index = 0; index < runs.size(); ++index)
+        if (const auto value = figure(runs[index]); value && index != reference)
+            shares[index] = *value / *base - 1;
+    return shares;
+}
+
+QString differenceText(double share) {
+    constexpr double most = 99; // beyond it a percentage says nothing
+    const double percent = std::abs(std::clamp(share, -most, most)) * 100;
+    const QString sign = share < 0 ? u"−"_s : u"+"_s;
+    const QString unit = u" %"_s;
+    if (share > most)
+        return u"> +"_s + Format::grouped(percent) + unit;
+    if (percent < 0.05)
+        return u"0"_s + unit;
+    return sign + (percent < 9.95 ? Format::decimals(percent, 1) : Format::grouped(std::round(percent))) +
+           unit;
 }
 
 QString parameterSummary(const RunRecord& run) {

@@ -22,6 +22,11 @@ struct CompareMetric {
     static const std::array<CompareMetric, 5>& all();
 };
 
+/// Whether two runs measured the same volume, as far as their records tell: the name is equal, and so are the
+/// drive's model, the file system and, but for a tenth, the capacity where both know them. The capacity of
+/// some file systems varies with what they hold.
+bool areOfOneVolume(const RunRecord& one, const RunRecord& other);
+
 /// What a comparison of runs shows; the views draw it.
 namespace ComparisonChart {
 
@@ -39,6 +44,14 @@ struct Bar {
 /// A metric's bars, one per run. The largest figure fills the track, and no bar is shorter than 3 points.
 /// Units: `trackWidth` in points.
 std::vector<Bar> bars(const CompareMetric& metric, const std::vector<RunRecord>& runs, double trackWidth);
+
+/// How far each run's figure lies from that of the run at `reference`, as a share of the latter: 0.25 is a
+/// quarter above it. Absent for the reference itself, where one of the two is missing or is not the disk's,
+/// and where the reference's is not above 0.
+std::vector<std::optional<double>> differences(const CompareMetric& metric,
+                                               const std::vector<RunRecord>& runs, std::size_t reference);
+/// "+25 %", "−3.2 %", "0 %"; one decimal below ten percent. Beyond a factor of a hundred: "> +9,900 %".
+QString differenceText(double share);
 
 /// The run's volume and settings in one line; empty if none is known.
 QString parameterSummary(const RunRecord& run);

@@ -43,6 +43,8 @@ void AnalyzerModel::forwardSignals() {
     forward(m_comparison, &RunComparison::modeChanged, &AnalyzerModel::compareModeChanged);
     forward(m_comparison, &RunComparison::selectionChanged, &AnalyzerModel::compareSelectionChanged);
     forward(m_comparison, &RunComparison::runsChanged, &AnalyzerModel::comparisonChanged);
+    forward(m_comparison, &RunComparison::began, &AnalyzerModel::comparisonBegan);
+    forward(m_comparison, &RunComparison::referenceChanged, &AnalyzerModel::comparisonReferenceChanged);
 }
 
 void AnalyzerModel::connectParts() {

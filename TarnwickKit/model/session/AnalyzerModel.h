@@ -171,8 +171,20 @@ public:
     const std::optional<std::vector<RunRecord>>& comparison() const { return m_comparison.runs(); }
     bool isComparing() const { return comparison().has_value(); }
     Q_INVOKABLE void beginComparison() { m_comparison.begin(); }
+    /// Whether there is an earlier run of the same volume; changes with canCompare.
+    Q_INVOKABLE bool hasLastOfVolume(const QUuid& id) const {
+        return m_comparison.lastOfVolume(id).has_value();
+    }
+    Q_INVOKABLE void compareWithLast(const QUuid& id) { m_comparison.beginWithLast(id); }
+    Q_SIGNAL void comparisonBegan();
     Q_INVOKABLE void endComparison() { m_comparison.end(); }
     Q_SIGNAL void comparisonChanged();
+    /// The index of the compared run that differences are relative to.
+    Q_PROPERTY(int comparisonReference READ comparisonReference WRITE setComparisonReference NOTIFY
+                   comparisonReferenceChanged)
+    int comparisonReference() const { return static_cast<int>(m_comparison.reference()); }
+    void setComparisonReference(int index) { m_comparison.setReference(static_cast<std::size_t>(index)); }
+    Q_SIGNAL void comparisonReferenceChanged();
 
 private:
     // The properties' views of the 64-bit numbers.

@@ -1,5 +1,6 @@
 #include "TarnwickKit/model/session/RunComparison.h"
 
+#include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/model/session/PropertyChange.h"
 
 #include <algorithm>
@@ -15,13 +16,6 @@ RunComparison::RunComparison(RunLibrary& library, QObject* parent)
     connect(&library, &RunLibrary::renamed, this, &RunComparison::showTitle);
     connect(&library, &RunLibrary::cleared, this, &RunComparison::reset);
     connect(&library, &RunLibrary::importShown, this, &RunComparison::end);
-}
-
-bool RunComparison::canCompare() const {
-    const auto& stored = m_library.history().runs();
-    const auto& current = m_library.currentRun();
-    const bool isStored = current && std::ranges::find(stored, current->id, &RunRecord::id) != stored.end();
-    return stored.size() >= (isStored ? 3U : 2U);
 }
 
 void RunComparison::setMode(bool mode) { changeProperty(*this, m_mode, mode, &RunComparison::modeChanged); }
@@ -56,11 +50,40 @@ void RunComparison::setRuns(std::optional<std::vector<RunRecord>> runs) {
 void RunComparison::begin() {
     std::vector<RunRecord> runs = comparableRuns();
     std::erase_if(runs, [this](const RunRecord& run) { return !m_selection.contains(run.id); });
-    if (runs.size() < 2)
+    if (runs.size() >= 2)
+        open(std::move(runs));
+}
+
+std::optional<RunRecord> RunComparison::lastOfVolume(const QUuid& id) const {
+    const std::vector<RunRecord> runs = comparableRuns();
+    const auto run = std::ranges::find(runs, id, &RunRecord::id);
+    if (run == runs.end())
+        return std::nullopt;
+    const auto last = std::find_if(std::next(run), runs.end(),
+                                   [&](const RunRecord& other) { return areOfOneVolume(*run, other); });
+    return last == runs.end() ? std::nullopt : std::optional(*last);
+}
+
+void RunComparison::beginWithLast(const QUuid& id) {
+    const auto last = lastOfVolume(id);
+    if (!last)
         return;
+    const std::vector<RunRecord> runs = comparableRuns();
+    open({*std::ranges::find(runs, id, &RunRecord::id), *last});
+}
+
+void RunComparison::open(std::vector<RunRecord> runs) {
+    const std::size_t oldest = runs.size() - 1;
     setRuns(std::move(runs));
+    setReference(oldest);
     setMode(false);
     clearSelection();
+    Q_EMIT began();
+}
+
+void RunComparison::setReference(std::size_t index) {
+    if (m_runs && index < m_runs->size())
+        changeProperty(*this, m_reference, index, &RunComparison::referenceChanged);
 }
 
 void RunComparison::reset() {

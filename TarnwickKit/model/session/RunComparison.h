@@ -12,7 +12,7 @@
 
 namespace TarnwickKit::model {
 
-/// Picking stored runs, and comparing them.
+/// Picking runs, and comparing them.
 /// Threads: the one that makes it. Owner: the caller keeps `library` alive.
 class RunComparison : public QObject {
     Q_OBJECT
@@ -24,8 +24,8 @@ public:
     bool mode() const { return m_mode; }
     void toggleMode();
     Q_SIGNAL void modeChanged();
-    /// There are at least two previous runs.
-    bool canCompare() const;
+    /// There are at least two runs to pick from.
+    bool canCompare() const { return comparableRuns().size() >= 2; }
 
     const std::set<QUuid>& selection() const { return m_selection; }
     void toggleSelection(const QUuid& id);
@@ -37,10 +37,22 @@ public:
     const std::optional<std::vector<RunRecord>>& runs() const { return m_runs; }
     /// Compares the selected runs, in the order of comparableRuns. Does nothing with fewer than two.
     void begin();
+    /// The last run of the same volume before a run, in the order of comparableRuns.
+    std::optional<RunRecord> lastOfVolume(const QUuid& id) const;
+    /// Compares a run with that one, which becomes the reference. Does nothing without one.
+    void beginWithLast(const QUuid& id);
+    Q_SIGNAL void began();
     void end() { setRuns(std::nullopt); }
     Q_SIGNAL void runsChanged();
 
+    /// The index of the run that differences are relative to. The oldest one, until another is chosen.
+    std::size_t reference() const { return m_reference; }
+    /// Does nothing for an index beyond the runs.
+    void setReference(std::size_t index);
+    Q_SIGNAL void referenceChanged();
+
 private:
+    void open(std::vector<RunRecord> runs);
     void setMode(bool mode);
     void setRuns(std::optional<std::vector<RunRecord>> runs);
     void clearSelection();
@@ -53,6 +65,7 @@ private:
     bool m_mode = false;
     std::set<QUuid> m_selection;
     std::optional<std::vector<RunRecord>> m_runs;
+    std::size_t m_reference = 0;
 };
 
 } // namespace TarnwickKit::model

@@ -11,6 +11,8 @@ Column {
     required property comparedRuns runs
     /// The width of a full bar.
     required property real trackWidth
+    /// The run that differences are relative to; -1 for no differences.
+    property int reference: -1
     readonly property real room: width - leftPadding - rightPadding
 
     spacing: 18
@@ -45,13 +47,14 @@ Column {
         }
     }
     Repeater {
-        model: chart.runs.metrics(chart.trackWidth)
+        model: chart.runs.metrics(chart.trackWidth, chart.reference)
 
         MetricGroup {
             required property comparedMetric modelData
 
             metric: modelData
             trackWidth: chart.trackWidth
+            showsDifferences: chart.reference >= 0
         }
     }
     OnDemand {

@@ -34,6 +34,8 @@ public:
     explicit ThroughputCanvas(QQuickItem* parent = nullptr);
 
     QQmlListProperty<ChartSeries> seriesList();
+    /// Owner: the caller keeps `series`; its end removes it.
+    void add(ChartSeries* series);
     bool isLive() const { return m_content.live; }
     void setLive(bool live);
     Q_SIGNAL void liveChanged();
@@ -55,7 +57,6 @@ protected:
     bool canWait() const override;
 
 private:
-    void add(ChartSeries* series);
     void seriesChanged();
 
     QList<ChartSeries*> m_series;

@@ -7,10 +7,12 @@ import TarnwickKit.views
 ThroughputCanvas {
     id: chart
 
+    property string title: qsTr("Throughput over time")
+
     gridColor: PaletteKey.palette.grid
     labelColor: PaletteKey.palette.text3
 
     Accessible.role: Accessible.Chart
-    Accessible.name: qsTr("Throughput over time")
+    Accessible.name: chart.title
     Accessible.description: chart.summary
 }

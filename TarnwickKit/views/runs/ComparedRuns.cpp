@@ -17,9 +17,10 @@ QVariantList ComparedRuns::entries() const {
         const QString title = run.screenshotTitle();
         const QString drive = driveOf(run, title);
         const QString dot = QStringLiteral(" · ");
+        const QString name = keptApart(legible(title)) + dot + model::Format::shortStamp(run.date);
         all << QVariant::fromValue(
-            ComparedRun{.legend = keptApart(legible(title)) + dot + model::Format::shortStamp(run.date) +
-                                  (drive.isEmpty() ? drive : dot + keptApart(drive)),
+            ComparedRun{.legend = name + (drive.isEmpty() ? drive : dot + keptApart(drive)),
+                        .name = name,
                         .parameters = legible(ComparisonChart::parameterSummary(run))});
     }
     return all;
@@ -33,20 +34,40 @@ bool ComparedRuns::hasMarks() const {
     });
 }
 
-QVariantList ComparedRuns::metrics(double trackWidth) const {
+QStringList ComparedRuns::names() const {
+    QStringList names;
+    for (const QVariant& entry : entries())
+        names << entry.value<ComparedRun>().name;
+    return names;
+}
+
+bool ComparedRuns::hasCurves(std::vector<model::RunSample> model::RunRecord::* curve) const {
+    return std::ranges::any_of(runs,
+                               [curve](const model::RunRecord& run) { return (run.*curve).size() >= 2; });
+}
+
+QVariantList ComparedRuns::metrics(double trackWidth, int reference) const {
+    const auto base = static_cast<std::size_t>(reference); // -1 becomes an index beyond all runs
     QVariantList all;
     for (const model::CompareMetric& metric : ComparisonChart::activeMetrics(runs)) {
         ComparedMetric group{.label = metric.label, .unit = metric.unit, .bars = {}};
         const auto bars = ComparisonChart::bars(metric, runs, trackWidth);
-        for (std::size_t i = 0; i < bars.size(); ++i)
+        const auto differences = ComparisonChart::differences(metric, runs, base);
+        for (std::size_t i = 0; i < bars.size(); ++i) {
+            const QString difference = i == base        ? Runs::tr("reference")
+                                       : differences[i] ? ComparisonChart::differenceText(*differences[i])
+                                                        : QString();
+            const QString figure = Runs::spoken(
+                QStringLiteral("%1, %2: %3 %4")
+                    .arg(metric.label, legible(runs[i].screenshotTitle()), bars[i].text, metric.unit),
+                bars[i].isInvalid);
             group.bars << QVariant::fromValue(ComparedBar{
                 .length = bars[i].length.value_or(0),
                 .text = bars[i].text,
                 .isMarked = bars[i].isInvalid,
-                .sentence = Runs::spoken(
-                    QStringLiteral("%1, %2: %3 %4")
-                        .arg(metric.label, legible(runs[i].screenshotTitle()), bars[i].text, metric.unit),
-                    bars[i].isInvalid)});
+                .difference = difference,
+                .sentence = difference.isEmpty() ? figure : figure + QStringLiteral(", ") + difference});
+        }
         all << QVariant::fromValue(group);
     }
     return all;

@@ -9,7 +9,10 @@ import TarnwickKit.views
 CardFrame {
     id: pane
 
+    required property AnalyzerModel analyzer
     required property comparedRuns runs
+    /// What stands beside a bar: the metric's name, the figures, and the gaps.
+    readonly property real beside: 234 + 9 + ViewMetrics.differenceWidth
 
     signal close
 
@@ -42,10 +45,24 @@ CardFrame {
         }
     ]
 
+    SettingMenu {
+        Layout.fillWidth: false
+        Layout.leftMargin: ViewMetrics.figurePadding - ViewMetrics.sidebarInset
+        Layout.topMargin: 14
+        widestValue: pane.width - 200
+        label: qsTr("Differences from")
+        options: pane.runs.names
+        current: pane.analyzer.comparisonReference
+        onChosen: index => pane.analyzer.comparisonReference = index
+    }
     ComparisonChart {
         Layout.fillWidth: true
         runs: pane.runs
-        // As wide as on the image, but in a narrow window as wide as there is room beside its words and figures.
-        trackWidth: Math.max(60, Math.min(ViewMetrics.trackWidth, pane.width - 234))
+        reference: pane.analyzer.comparisonReference
+        trackWidth: Math.max(60, pane.width - pane.beside)
+    }
+    ComparedCurves {
+        Layout.fillWidth: true
+        runs: pane.runs
     }
 }

@@ -11,6 +11,9 @@ PlainButton {
 
     required property runRecord run
     readonly property runFacts facts: Runs.facts(run)
+    /// What else there is to say of the run.
+    property string note: ""
+    readonly property string origin: note === "" ? facts.connection : facts.connection + " · " + note
     /// False in compare mode, where the row is part of a check box.
     property bool live: true
     /// The width that the other items leave for the texts. The texts' actual width comes too late: it is known after the
@@ -22,7 +25,7 @@ PlainButton {
     signal remove
 
     label: facts.title
-    detail: facts.shortStamp + " · " + facts.connection
+    detail: facts.shortStamp + " · " + origin
     corner: 12
     leftPadding: 16
     rightPadding: 16
@@ -87,7 +90,7 @@ PlainButton {
                 readonly property bool fits: whole.width <= row.room
 
                 Layout.fillWidth: true
-                text: fits ? whole.text : row.facts.shortStamp + "\n" + row.facts.connection
+                text: fits ? whole.text : row.facts.shortStamp + "\n" + row.origin
                 horizontalAlignment: Text.AlignLeft
                 font: Typeface.mono(10.5)
                 color: row.PaletteKey.palette.text3

@@ -11,6 +11,7 @@ RowLayout {
 
     required property comparedMetric metric
     required property real trackWidth
+    property bool showsDifferences: false
     readonly property list<color> series: PaletteKey.palette.series
 
     spacing: 14
@@ -85,6 +86,20 @@ RowLayout {
                             anchors.left: figure.left
                             anchors.leftMargin: figure.contentWidth + 5
                         }
+                    }
+                }
+                OnDemand {
+                    active: group.showsDifferences
+
+                    PlainText {
+                        anchors.verticalCenter: parent?.verticalCenter
+                        width: ViewMetrics.differenceWidth
+                        text: line.modelData.difference
+                        font: Typeface.mono(11)
+                        color: line.PaletteKey.palette.text2
+                        horizontalAlignment: Text.AlignRight
+                        elide: Text.ElideRight
+                        Accessible.ignored: true
                     }
                 }
             }

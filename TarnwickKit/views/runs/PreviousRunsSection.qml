@@ -75,7 +75,7 @@ Column {
                 spacing: head.spacing
 
                 TextButton {
-                    visible: section.runs.count >= 2
+                    visible: section.analyzer.canCompare
                     label: qsTr("Compare")
                     onClicked: section.analyzer.toggleCompareMode()
                 }
@@ -106,6 +106,27 @@ Column {
         }
     }
 
+    OnDemand {
+        active: section.analyzer.compareMode && section.runs.hasCurrentRun
+
+        CompareRow {
+            width: section.width
+            label: current.label
+            detail: current.detail
+            picking: true
+            chosen: section.runs.isCurrentRunPicked
+            onWanted: section.analyzer.toggleCompareSelection(current.facts.id)
+
+            HistoryRow {
+                id: current
+
+                width: parent.width
+                run: section.runs.currentRun
+                note: qsTr("current run")
+                live: false
+            }
+        }
+    }
     Repeater {
         id: entries
 

@@ -16,7 +16,10 @@ void StoredRuns::setAnalyzer(AnalyzerModel* analyzer) {
         connect(m_analyzer, &AnalyzerModel::currentRunChanged, this, &StoredRuns::currentRunChanged);
         connect(m_analyzer, &AnalyzerModel::comparisonChanged, this, &StoredRuns::comparisonChanged);
         connect(m_analyzer, &AnalyzerModel::expandedRunIDsChanged, this, [this] { announce(ExpandedRole); });
-        connect(m_analyzer, &AnalyzerModel::compareSelectionChanged, this, [this] { announce(PickedRole); });
+        connect(m_analyzer, &AnalyzerModel::compareSelectionChanged, this, [this] {
+            announce(PickedRole);
+            Q_EMIT currentRunPickedChanged();
+        });
     }
     refresh();
     Q_EMIT analyzerChanged();

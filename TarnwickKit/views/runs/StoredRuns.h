@@ -23,6 +23,7 @@ class StoredRuns : public QAbstractListModel {
     /// The run in the main pane; empty without one.
     Q_PROPERTY(TarnwickKit::model::RunRecord currentRun READ currentRun NOTIFY currentRunChanged)
     Q_PROPERTY(bool hasCurrentRun READ hasCurrentRun NOTIFY currentRunChanged)
+    Q_PROPERTY(bool isCurrentRunPicked READ isCurrentRunPicked NOTIFY currentRunPickedChanged)
     /// The compared runs; none without a comparison.
     Q_PROPERTY(TarnwickKit::views::ComparedRuns comparison READ comparison NOTIFY comparisonChanged)
 public:
@@ -41,6 +42,10 @@ public:
         return hasCurrentRun() ? *m_analyzer->currentRun() : model::RunRecord{};
     }
     Q_SIGNAL void currentRunChanged();
+    bool isCurrentRunPicked() const {
+        return hasCurrentRun() && m_analyzer->compareSelection().contains(m_analyzer->currentRun()->id);
+    }
+    Q_SIGNAL void currentRunPickedChanged();
     ComparedRuns comparison() const {
         return m_analyzer && m_analyzer->comparison() ? ComparedRuns{*m_analyzer->comparison()}
                                                       : ComparedRuns{};

@@ -17,38 +17,10 @@ Column {
         width: parent.width
         items: list.target.health
     }
-    PlainButton {
-        id: save
-
+    SmallButton {
         label: qsTr("Export…")
         hint: qsTr("Save these figures as a text file")
-        corner: 7
-        leftPadding: 10
-        rightPadding: 10
-        topPadding: 5
-        bottomPadding: 5
+        symbol: "square.and.arrow.up"
         onClicked: list.analyzer.exportSMART()
-
-        background: Card {
-            radius: save.corner
-            color: PaletteKey.palette.panel
-            outline: PaletteKey.palette.border
-        }
-        contentItem: Row {
-            spacing: 5
-
-            Symbol {
-                anchors.verticalCenter: parent.verticalCenter
-                name: "square.and.arrow.up"
-                size: 12
-                color: PaletteKey.palette.text2
-            }
-            PlainText {
-                text: save.label
-                font: Typeface.text(12)
-                color: PaletteKey.palette.text2
-                Accessible.ignored: true
-            }
-        }
     }
 }

@@ -13,6 +13,7 @@ RowLayout {
     required property list<string> options
     required property int current
     property string value: options[current] ?? ""
+    property real widestValue: Infinity
 
     signal chosen(index: int)
 
@@ -57,7 +58,9 @@ RowLayout {
             spacing: 5
 
             PlainText {
+                width: Math.min(implicitWidth, setting.widestValue)
                 text: setting.value
+                elide: Text.ElideMiddle
                 font: Typeface.mono(11.5)
                 color: PaletteKey.palette.text
                 Accessible.ignored: true

@@ -33,6 +33,7 @@ QtObject {
     /// The widths of what stands on a bar's two sides.
     readonly property int metricLabelWidth: 96
     readonly property int barFigureWidth: 60
+    readonly property int differenceWidth: 72
 
     readonly property int sidebarMargin: 16
     /// The indent of the sidebar's headings and settings.

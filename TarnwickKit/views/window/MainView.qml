@@ -28,9 +28,8 @@ Rectangle {
         target: main.analyzer
 
         // The comparison was started far down in the history and is shown at the top.
-        function onComparisonChanged(): void {
-            if (main.analyzer.isComparing && main.analyzer.compareMode)
-                pane.goToTop();
+        function onComparisonBegan(): void {
+            pane.goToTop();
         }
     }
     ScrollPane {
@@ -54,6 +53,7 @@ Rectangle {
 
                 ComparisonPane {
                     width: column.width
+                    analyzer: main.analyzer
                     runs: runs.comparison
                     onClose: main.analyzer.endComparison()
                 }

@@ -248,6 +248,37 @@ TEST_F(AnalyzerModelRuns, ComparesInTheOrderShown) {
     EXPECT_EQ(model.compareSelectionCount(), 0);
 }
 
+TEST_F(AnalyzerModelRuns, ComparesARunWithTheLastOfItsVolume) {
+    RunRecord runs[] = {fullRun(2), fullRun(2), fullRun(2), fullRun(2)};
+    runs[2].volumeName = "Another";
+    int began = 0;
+    QObject::connect(&model, &AnalyzerModel::comparisonBegan, &model, [&] { ++began; });
+    importRun(runs[0]);
+    EXPECT_FALSE(model.canCompare()) << "a run is not compared with itself";
+    EXPECT_FALSE(model.hasLastOfVolume(runs[0].id));
+    for (const RunRecord& run : {runs[1], runs[2], runs[3]})
+        importRun(run);
+    EXPECT_TRUE(model.canCompare());
+    EXPECT_FALSE(model.hasLastOfVolume(runs[2].id));
+    EXPECT_FALSE(model.hasLastOfVolume(QUuid::createUuid()));
+    model.compareWithLast(runs[2].id);
+    EXPECT_FALSE(model.isComparing());
+
+    model.compareWithLast(runs[3].id);
+    EXPECT_EQ(model.comparison(), (std::vector{runs[3], runs[1]}));
+    EXPECT_EQ(model.comparisonReference(), 1) << "the older one";
+    model.compareWithLast(runs[1].id);
+    EXPECT_EQ(model.comparison(), (std::vector{runs[1], runs[0]}));
+    EXPECT_EQ(began, 2);
+    for (const int beyond : {2, -1})
+        model.setComparisonReference(beyond);
+    EXPECT_EQ(model.comparisonReference(), 1);
+    model.setComparisonReference(0);
+    model.renameRun(runs[0].id, "Title");
+    EXPECT_EQ(model.comparisonReference(), 0) << "a new title does not begin another comparison";
+    EXPECT_EQ(began, 2);
+}
+
 TEST_F(AnalyzerModelRuns, DeletingARunDropsItEverywhere) {
     const QUuid older = complete();
     const QUuid newer = complete();
