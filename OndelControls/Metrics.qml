@@ -17,6 +17,8 @@ QtObject {
     readonly property int noteSize: 10
     readonly property int titleSize: 17
 
+    /// Of the area to press of a control.
+    readonly property int leastTarget: 24
     readonly property int fieldWidth: 200
     /// From a check box's left edge to its label.
     readonly property int checkIndent: 22

@@ -106,6 +106,13 @@ MenuStrip {
                 enabled: commands.analyzer.compareMode ? commands.analyzer.compareSelectionCount >= 2
                                                        : commands.analyzer.canCompare
                 onTriggered: commands.compare()
+            },
+            Command {
+                text: qsTr("Undo Delete")
+                keys: "Ctrl+Z"
+                shortcut: commands.inWindow(keys)
+                enabled: commands.analyzer.undoableRuns > 0
+                onTriggered: commands.analyzer.undoDeletion()
             }
         ]
     }

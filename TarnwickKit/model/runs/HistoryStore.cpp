@@ -96,6 +96,28 @@ void HistoryStore::clear() {
     announce();
 }
 
+std::optional<HistoryStore::Place> HistoryStore::placeOf(const QUuid& id) const {
+    const auto found = std::ranges::find(m_runs, id, &RunRecord::id);
+    if (found == m_runs.end())
+        return std::nullopt;
+    const auto next = std::next(found);
+    return Place{*found, next == m_runs.end() ? QUuid() : next->id};
+}
+
+/// The last deleted run first: the run behind an earlier one may have been deleted after it.
+void HistoryStore::restore(const std::vector<Place>& deleted) {
+    for (auto place = deleted.rbegin(); place != deleted.rend(); ++place) {
+        const QUuid& id = place->run.id;
+        if (std::ranges::find(m_runs, id, &RunRecord::id) != m_runs.end())
+            continue;
+        m_runs.insert(std::ranges::find(m_runs, place->next, &RunRecord::id), place->run);
+        m_changes.added.insert(id);
+        m_changes.deleted.erase(id);
+    }
+    write(std::max(limit, m_runs.size()));
+    announce();
+}
+
 void HistoryStore::save() {
     if (write())
         announce();
@@ -107,8 +129,8 @@ void HistoryStore::refresh() {
         announce();
 }
 
-bool HistoryStore::write() {
-    auto runs = m_file ? m_file->update(m_runs, m_changes, limit) : std::nullopt;
+bool HistoryStore::write(std::size_t most) {
+    auto runs = m_file ? m_file->update(m_runs, m_changes, most) : std::nullopt;
     if (!runs)
         return false;
     m_changes = {};

@@ -55,6 +55,16 @@ public:
     /// Deletes all runs. The file then holds an empty array, except for runs that others have added since
     /// this store last read it.
     void clear();
+    /// A run, and the one behind it in the list; null behind the last.
+    struct Place {
+        RunRecord run;
+        QUuid next;
+    };
+    /// The stored run with that id; absent if there is none.
+    std::optional<Place> placeOf(const QUuid& id) const;
+    /// Brings back deleted runs, in the order of their deletion, with one save. A run that is stored stays as
+    /// it is. More than `limit` runs are kept if there were more.
+    void restore(const std::vector<Place>& deleted);
     void save();
     /// Takes in what others have changed. Cheap if there is nothing.
     void refresh();
@@ -63,7 +73,7 @@ private:
     void forget(const QUuid& id);
     void announce();
     bool take(std::vector<RunRecord> runs);
-    bool write();
+    bool write(std::size_t most = limit);
 
     std::optional<HistoryFile> m_file;
     std::vector<RunRecord> m_runs;

@@ -40,6 +40,7 @@ void AnalyzerModel::forwardSignals() {
     forward(m_library, &RunLibrary::currentRunCollapsedChanged, &AnalyzerModel::currentRunCollapsedChanged);
     forward(m_library, &RunLibrary::previousRunsChanged, &AnalyzerModel::previousRunsChanged);
     forward(m_library, &RunLibrary::expandedRunIDsChanged, &AnalyzerModel::expandedRunIDsChanged);
+    forward(m_library, &RunLibrary::undoableRunsChanged, &AnalyzerModel::undoableRunsChanged);
     forward(m_comparison, &RunComparison::modeChanged, &AnalyzerModel::compareModeChanged);
     forward(m_comparison, &RunComparison::selectionChanged, &AnalyzerModel::compareSelectionChanged);
     forward(m_comparison, &RunComparison::runsChanged, &AnalyzerModel::comparisonChanged);
@@ -59,6 +60,7 @@ void AnalyzerModel::connectParts() {
         if (!currentRun() && m_phase == Phase::Done)
             setPhase(Phase::Idle);
     });
+    connect(&m_library, &RunLibrary::shownAgain, this, [this] { setPhase(Phase::Done); });
     connect(&m_library, &RunLibrary::importShown, this, [this] {
         m_session.setResult(std::nullopt);
         setPhase(Phase::Done);

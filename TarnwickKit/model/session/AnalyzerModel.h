@@ -146,6 +146,10 @@ public:
     Q_INVOKABLE void deleteRun(const QUuid& id) { m_library.deleteRun(id); }
     Q_INVOKABLE void renameRun(const QUuid& id, const QString& text) { m_library.renameRun(id, text); }
     Q_INVOKABLE void clearHistory() { m_library.clear(); }
+    Q_PROPERTY(int undoableRuns READ undoableRuns NOTIFY undoableRunsChanged)
+    int undoableRuns() const { return static_cast<int>(m_library.undoableRuns()); }
+    Q_INVOKABLE void undoDeletion() { m_library.undoDeletion(); }
+    Q_SIGNAL void undoableRunsChanged();
     /// Stores the run of a file and, unless there is a run under way, shows it.
     /// Fails: false, with a line in the log and nothing changed.
     bool importRun(const std::filesystem::path& file) { return m_library.importRun(file); }

@@ -19,6 +19,9 @@ RunLibrary::RunLibrary(const std::optional<std::filesystem::path>& historyFolder
     connect(&m_history, &HistoryStore::runsChanged, this, &RunLibrary::forgetMissingRuns);
     connect(&m_history, &HistoryStore::renamedElsewhere, this, &RunLibrary::showTitle);
     connect(this, &RunLibrary::currentRunChanged, this, &RunLibrary::previousRunsChanged);
+    m_undoClock.setSingleShot(true);
+    m_undoClock.setInterval(undoTime);
+    connect(&m_undoClock, &QTimer::timeout, this, &RunLibrary::forgetDeleted);
 }
 
 void RunLibrary::setCurrentRun(std::optional<RunRecord> run) {
@@ -55,11 +58,57 @@ void RunLibrary::setRunExpanded(const QUuid& id, bool expanded) {
 }
 
 void RunLibrary::deleteRun(const QUuid& id) {
+    keepForUndo({id});
     m_history.deleteRun(id);
     setRunExpanded(id, false);
     Q_EMIT deleted(id);
     if (m_currentRun && m_currentRun->id == id)
         setCurrentRun(std::nullopt);
+}
+
+void RunLibrary::keepForUndo(const std::vector<QUuid>& ids) {
+    const std::size_t before = undoableRuns();
+    for (const QUuid& id : ids) {
+        if (const auto place = m_history.placeOf(id))
+            m_deleted.stored.push_back(*place);
+        if (m_expandedRunIDs.contains(id))
+            m_deleted.expanded.insert(id);
+        if (m_currentRun && m_currentRun->id == id)
+            m_deleted.shown = m_currentRun;
+    }
+    m_undoClock.start();
+    if (undoableRuns() != before)
+        Q_EMIT undoableRunsChanged();
+}
+
+void RunLibrary::forgetDeleted() {
+    m_undoClock.stop();
+    m_deleted = {};
+    Q_EMIT undoableRunsChanged();
+}
+
+std::size_t RunLibrary::undoableRuns() const {
+    const bool isStored =
+        m_deleted.shown && std::ranges::any_of(m_deleted.stored, [this](const HistoryStore::Place& place) {
+            return place.run.id == m_deleted.shown->id;
+        });
+    return m_deleted.stored.size() + (m_deleted.shown && !isStored ? 1 : 0);
+}
+
+void RunLibrary::undoDeletion() {
+    if (undoableRuns() == 0)
+        return;
+    const Deleted deleted = m_deleted;
+    forgetDeleted();
+    // Before its row is: a run that is shown has none.
+    const bool showsAgain = deleted.shown && !m_currentRun && m_showsImports;
+    if (showsAgain)
+        setCurrentRun(deleted.shown);
+    m_expandedRunIDs.insert(deleted.expanded.begin(), deleted.expanded.end());
+    m_history.restore(deleted.stored);
+    Q_EMIT expandedRunIDsChanged();
+    if (showsAgain)
+        Q_EMIT shownAgain();
 }
 
 void RunLibrary::renameRun(const QUuid& id, const QString& text) {
@@ -78,6 +127,11 @@ void RunLibrary::showTitle(const QUuid& id, const std::optional<QString>& title)
 }
 
 void RunLibrary::clear() {
+    std::vector<QUuid> ids;
+    std::ranges::transform(m_history.runs(), std::back_inserter(ids), &RunRecord::id);
+    if (m_currentRun && !m_history.placeOf(m_currentRun->id))
+        ids.push_back(m_currentRun->id);
+    keepForUndo(ids);
     m_history.clear();
     changeProperty(*this, m_expandedRunIDs, {}, &RunLibrary::expandedRunIDsChanged);
     Q_EMIT cleared();

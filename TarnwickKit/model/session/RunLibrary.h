@@ -6,8 +6,10 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <QUuid>
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <set>
@@ -56,6 +58,18 @@ public:
     void clear();
     Q_SIGNAL void cleared();
 
+    /// How long deleted runs can be brought back.
+    static constexpr std::chrono::seconds undoTime{8};
+    /// The number of deleted runs that can be brought back: all since the first deletion, until there was
+    /// none for that long.
+    std::size_t undoableRuns() const;
+    Q_SIGNAL void undoableRunsChanged();
+    /// Brings them back to their places. The run that was shown is shown again, unless there is another one
+    /// or a benchmark is running.
+    void undoDeletion();
+    /// A run is shown again.
+    Q_SIGNAL void shownAgain();
+
     /// See AnalyzerModel.
     bool importRun(const std::filesystem::path& file);
     void importRuns(const std::vector<std::filesystem::path>& files);
@@ -65,12 +79,23 @@ public:
     Q_SIGNAL void importShown();
 
 private:
+    /// What was deleted and can be brought back.
+    struct Deleted {
+        std::vector<HistoryStore::Place> stored; ///< in the order of deletion
+        std::set<QUuid> expanded;
+        std::optional<RunRecord> shown;
+    };
+
     void importWaitingRuns();
     void takeImported(const ImportedRuns& imported);
     void forgetMissingRuns();
+    void keepForUndo(const std::vector<QUuid>& ids);
+    void forgetDeleted();
     void showTitle(const QUuid& id, const std::optional<QString>& title);
 
     HistoryStore m_history;
+    Deleted m_deleted;
+    QTimer m_undoClock{this};
     std::optional<RunRecord> m_currentRun;
     bool m_currentRunCollapsed = false;
     std::set<QUuid> m_expandedRunIDs;

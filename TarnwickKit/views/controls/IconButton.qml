@@ -11,6 +11,8 @@ PlainButton {
     property alias symbol: glyph.name
     property alias symbolSize: glyph.size
 
+    hint: label
+    detail: hint === label ? "" : hint
     implicitWidth: 30
     implicitHeight: 30
 

@@ -1,10 +1,12 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
-/// A button without a background: its label only.
+/// A button without a background: its label only. The area to press is larger than the label, and extends over the
+/// gaps to what stands beside it.
 PlainButton {
     id: button
 
@@ -12,6 +14,12 @@ PlainButton {
     property color textColor: PaletteKey.palette.text3
 
     corner: 4
+    horizontalPadding: Math.max(0, (Metrics.leastTarget - implicitContentWidth) / 2)
+    verticalPadding: Math.max(0, (Metrics.leastTarget - implicitContentHeight) / 2)
+    Layout.leftMargin: -leftPadding
+    Layout.rightMargin: -rightPadding
+    Layout.topMargin: -topPadding
+    Layout.bottomMargin: -bottomPadding
 
     contentItem: PlainText {
         text: button.label

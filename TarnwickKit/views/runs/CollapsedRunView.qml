@@ -9,9 +9,12 @@ import TarnwickKit.views
 PlainButton {
     id: view
 
+    required property AnalyzerModel analyzer
     required property runRecord run
     readonly property runFacts facts: Runs.facts(run)
 
+    signal rename
+    signal share
     signal remove
 
     label: facts.title
@@ -89,19 +92,16 @@ PlainButton {
         }
     }
 
-    Keys.onPressed: event => menu.openByKey(event)
+    Keys.onPressed: event => actions.take(event)
 
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        onTapped: point => menu.popup(point.position.x, point.position.y)
-    }
-    PopupMenu {
-        id: menu
+    RunActions {
+        id: actions
 
-        PopupMenuItem {
-            text: qsTr("Delete Run")
-            destructive: true
-            onTriggered: view.remove()
-        }
+        analyzer: view.analyzer
+        run: view.run
+        facts: view.facts
+        onRename: view.rename()
+        onShare: view.share()
+        onRemove: view.remove()
     }
 }

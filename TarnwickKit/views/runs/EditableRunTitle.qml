@@ -16,7 +16,7 @@ Item {
     signal renamed(text: string)
 
     implicitWidth: isEditing ? fieldWidth : button.implicitWidth
-    implicitHeight: button.implicitHeight
+    implicitHeight: button.implicitContentHeight
 
     function edit(): void {
         isEditing = true;
@@ -34,6 +34,8 @@ Item {
     PlainButton {
         id: button
 
+        y: -verticalPadding
+        verticalPadding: Math.max(0, (Metrics.leastTarget - implicitContentHeight) / 2)
         width: Math.min(implicitWidth, title.width)
         visible: !title.isEditing
         label: title.facts.title

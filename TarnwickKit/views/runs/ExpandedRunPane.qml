@@ -19,6 +19,13 @@ CardFrame {
     signal collapse
     signal remove
 
+    function rename(): void {
+        title.edit();
+    }
+    function share(): void {
+        picture.clicked();
+    }
+
     header: [
         StatusDot {
             color: PaletteKey.palette.goodDot
@@ -42,7 +49,7 @@ CardFrame {
             color: PaletteKey.palette.text3
         },
         ShareButton {
-            id: share
+            id: picture
 
             hint: qsTr("Share a report image")
             onClicked: image.makeReport(pane.run, pane.PaletteKey.palette)
@@ -103,27 +110,15 @@ CardFrame {
         }
     }
 
-    Keys.onPressed: event => menu.openByKey(event)
+    Keys.onPressed: event => actions.take(event)
+    data: RunActions {
+        id: actions
 
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        onTapped: point => menu.popup(point.position.x, point.position.y)
-    }
-    PopupMenu {
-        id: menu
-
-        PopupMenuItem {
-            text: qsTr("Rename Report…")
-            onTriggered: title.edit()
-        }
-        PopupMenuItem {
-            text: qsTr("Share Report Image…")
-            onTriggered: share.clicked()
-        }
-        PopupMenuItem {
-            text: qsTr("Delete Run")
-            destructive: true
-            onTriggered: pane.remove()
-        }
+        analyzer: pane.analyzer
+        run: pane.run
+        facts: pane.facts
+        onRename: pane.rename()
+        onShare: pane.share()
+        onRemove: pane.remove()
     }
 }

@@ -16,6 +16,11 @@ Column {
     readonly property bool isOpen: expanded && !analyzer.compareMode
     property bool isMade: false
 
+    function expand(): ExpandedRunPane {
+        analyzer.setRunExpanded(Runs.facts(run).id, true);
+        return open.object as ExpandedRunPane;
+    }
+
     height: isMade ? implicitHeight : rowHeight
 
     OnDemand {
@@ -33,14 +38,19 @@ Column {
                 id: row
 
                 width: parent.width
+                analyzer: entry.analyzer
                 run: entry.run
                 live: !entry.analyzer.compareMode
+                onRename: entry.expand().rename()
+                onShare: entry.expand().share()
                 onClicked: entry.analyzer.setRunExpanded(facts.id, true)
                 onRemove: entry.analyzer.deleteRun(facts.id)
             }
         }
     }
     OnDemand {
+        id: open
+
         active: entry.isMade && entry.isOpen
 
         ExpandedRunPane {

@@ -9,6 +9,7 @@ import TarnwickKit.views
 PlainButton {
     id: row
 
+    required property AnalyzerModel analyzer
     required property runRecord run
     readonly property runFacts facts: Runs.facts(run)
     /// What else there is to say of the run.
@@ -20,8 +21,10 @@ PlainButton {
     /// layout, and a change of their height would then need another one.
     readonly property real room: ViewMath.roomBeside(availableWidth,
         [dot.implicitWidth, badge.implicitWidth, ViewMetrics.statWidth, ViewMetrics.statWidth, curves.implicitWidth,
-         remove.implicitWidth, fold.implicitWidth], line.spacing)
+         remove.implicitContentWidth, fold.implicitWidth], line.spacing)
 
+    signal rename
+    signal share
     signal remove
 
     label: facts.title
@@ -132,6 +135,8 @@ PlainButton {
         PlainButton {
             id: remove
 
+            Layout.margins: -padding
+            padding: (Metrics.leastTarget - implicitContentWidth) / 2
             label: qsTr("Delete %1").arg(row.facts.title)
             hint: qsTr("Delete this run")
             corner: 4
@@ -152,5 +157,18 @@ PlainButton {
             size: 11
             color: row.PaletteKey.palette.text3
         }
+    }
+
+    Keys.onPressed: event => actions.take(event)
+
+    RunActions {
+        id: actions
+
+        analyzer: row.analyzer
+        run: row.run
+        facts: row.facts
+        onRename: row.rename()
+        onShare: row.share()
+        onRemove: row.remove()
     }
 }

@@ -121,6 +121,7 @@ Column {
                 id: current
 
                 width: parent.width
+                analyzer: section.analyzer
                 run: section.runs.currentRun
                 note: qsTr("current run")
                 live: false

@@ -4,8 +4,11 @@
 #include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/model/format/RemarkText.h"
 #include "TarnwickKit/model/runs/Comparison.h"
+#include "TarnwickKit/model/runs/FiguresText.h"
 #include "TarnwickKit/views/style/LegibleText.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QtNumeric>
 
 namespace TarnwickKit::views {
@@ -174,6 +177,12 @@ QVariantList Runs::remarks(const RunRecord& run) {
 }
 
 bool Runs::hasRemarks(const RunRecord& run) { return !remarkItems(run).isEmpty(); }
+
+QString Runs::copyFigures(const RunRecord& run) {
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->setText(model::figuresText(run));
+    return clipboard->ownsClipboard() ? tr("Figures copied") : tr("The figures couldn't be copied.");
+}
 
 QString Runs::spoken(const QString& figure, bool isMarked) {
     return isMarked ? tr("%1, not the disk’s figure").arg(figure) : figure;

@@ -125,6 +125,8 @@ public:
     /// RemarkItem: see remarkItems.
     Q_INVOKABLE static QVariantList remarks(const TarnwickKit::model::RunRecord& run);
     Q_INVOKABLE static bool hasRemarks(const TarnwickKit::model::RunRecord& run);
+    /// Copies the figures as tab-separated text. Answers a sentence about the outcome.
+    Q_INVOKABLE static QString copyFigures(const TarnwickKit::model::RunRecord& run);
     /// A figure as assistive technology reads it, with the mark that it may have.
     Q_INVOKABLE static QString spoken(const QString& figure, bool isMarked);
 };

@@ -29,7 +29,7 @@ Column {
 
             Item {
                 width: parent.width
-                height: Math.max(title.height, link.height)
+                height: Math.max(title.height, link.implicitContentHeight)
 
                 PlainText {
                     id: title

@@ -17,6 +17,11 @@ Rectangle {
                                      && (analyzer.phase === AnalyzerModel.Idle || analyzer.phase === AnalyzerModel.Done)
     readonly property bool showsIdle: showsPhase && !runs.hasCurrentRun && analyzer.phase === AnalyzerModel.Idle
 
+    function expand(): ExpandedRunPane {
+        analyzer.currentRunCollapsed = false;
+        return shown.object as ExpandedRunPane;
+    }
+
     color: PaletteKey.palette.body
 
     StoredRuns {
@@ -84,6 +89,8 @@ Rectangle {
                 }
             }
             OnDemand {
+                id: shown
+
                 active: main.showsRun && !main.analyzer.currentRunCollapsed
 
                 ExpandedRunPane {
@@ -99,8 +106,11 @@ Rectangle {
 
                 CollapsedRunView {
                     width: column.width
+                    analyzer: main.analyzer
                     run: runs.currentRun
                     onClicked: main.analyzer.currentRunCollapsed = false
+                    onRename: main.expand().rename()
+                    onShare: main.expand().share()
                     onRemove: main.analyzer.deleteRun(facts.id)
                 }
             }
@@ -112,6 +122,16 @@ Rectangle {
                 analyzer: main.analyzer
                 runs: runs
             }
+        }
+    }
+    OnDemand {
+        active: main.analyzer.undoableRuns > 0
+
+        UndoNote {
+            anchors.horizontalCenter: parent?.horizontalCenter
+            anchors.bottom: parent?.bottom
+            anchors.bottomMargin: ViewMetrics.paneMargin
+            analyzer: main.analyzer
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "ModelHarness.h"
 #include "OndelCore/logging/LogStore.h"
 #include "SampleRun.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 
@@ -310,6 +311,65 @@ TEST_F(AnalyzerModelRuns, DeletingARunDropsItEverywhere) {
     EXPECT_FALSE(model.compareMode());
     EXPECT_TRUE(model.compareSelection().empty());
     EXPECT_EQ(readRunFile(model.history().url().value()), "[]");
+}
+
+TEST_F(AnalyzerModelRuns, BringsDeletedRunsBackToTheirPlaces) {
+    std::vector<RunRecord> runs;
+    for (int count = 0; count < 60; ++count) // more than are kept when one is added
+        runs.push_back(fullRun(1));
+    std::ofstream(model.history().url().value()) << [&] {
+        std::string all;
+        for (const RunRecord& run : runs)
+            all += (all.empty() ? "[" : ",") + encodeRun(run)->toStdString();
+        return all + "]";
+    }();
+    model.history().refresh();
+    const auto stored = [&] { return HistoryStore(engine.history.path()).runs(); };
+    ASSERT_EQ(stored().size(), 60u);
+    model.setRunExpanded(runs[1].id, true);
+    for (const std::size_t index : {1U, 0U, 2U, 59U})
+        model.deleteRun(runs[index].id);
+    model.deleteRun(runs[2].id); // once more
+    EXPECT_EQ(model.undoableRuns(), 4);
+    model.undoDeletion();
+    EXPECT_EQ(model.undoableRuns(), 0);
+    EXPECT_EQ(model.history().runs(), runs);
+    EXPECT_EQ(stored(), runs);
+    EXPECT_TRUE(model.expandedRunIDs().contains(runs[1].id));
+    model.undoDeletion();
+    EXPECT_EQ(stored(), runs);
+
+    // A run that is shown is shown again, and what was added meanwhile stays at the top.
+    const QUuid shown = complete();
+    model.clearHistory();
+    EXPECT_EQ(model.phase(), Phase::Idle);
+    const RunRecord newer = fullRun(1);
+    model.history().add(newer);
+    model.undoDeletion();
+    EXPECT_EQ(model.phase(), Phase::Done);
+    EXPECT_EQ(model.currentRun()->id, shown);
+    EXPECT_EQ(stored().at(0).id, newer.id);
+    EXPECT_EQ(stored().at(1).id, shown);
+    EXPECT_EQ(stored().size(), 51u);
+
+    // During a run it comes back to the list alone.
+    model.deleteRun(shown);
+    engine.begin(model);
+    model.undoDeletion();
+    EXPECT_TRUE(model.isRunning());
+    EXPECT_FALSE(model.currentRun());
+    EXPECT_EQ(stored().at(1).id, shown);
+    fail(Cancelled());
+
+    RunLibrary library(engine.history.path());
+    library.deleteRun(shown);
+    EXPECT_EQ(library.undoableRuns(), 1u);
+    auto* clock = library.findChild<QTimer*>();
+    EXPECT_EQ(clock->intervalAsDuration(), std::chrono::seconds(8));
+    QMetaObject::invokeMethod(clock, "timeout");
+    EXPECT_EQ(library.undoableRuns(), 0u);
+    library.undoDeletion();
+    EXPECT_FALSE(library.contains(shown));
 }
 
 } // namespace

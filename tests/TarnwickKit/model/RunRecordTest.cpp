@@ -2,6 +2,7 @@
 
 #include "SampleRun.h"
 #include "TarnwickKit/model/runs/EvidenceCodec.h"
+#include "TarnwickKit/model/runs/FiguresText.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
@@ -407,6 +408,20 @@ TEST(TarnwickReport, WritesAHandoffFile) {
     TarnwickReport unwritable = report;
     unwritable.run.writeBps = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(unwritable.handoffFile(), std::nullopt);
+}
+
+TEST(FiguresText, HasALineForEachFigure) {
+    RunRecord run = fullRun(2);
+    run.customTitle = "=A1\tB\n C";
+    run.readPeakBps = std::nullopt;
+    QStringList lines = figuresText(run).split('\n');
+    EXPECT_TRUE(lines.takeFirst().startsWith("Run: =A1 B C · May 1, 2024 · "));
+    EXPECT_EQ(lines, QStringList({"Sequential write\t512.3\tMB/s", "Sequential write, peak\t712.3\tMB/s",
+                                  "Sequential write, lowest\t112.3\tMB/s",
+                                  "Sequential read\t2512.3\tMB/s\tnot the disk’s figure",
+                                  "Sequential read, lowest\t1512.3\tMB/s\tnot the disk’s figure",
+                                  "Random read (4 KiB)\t12508\tIOPS", "Random write (4 KiB)\t10067\tIOPS",
+                                  "File operations\t20346\tops/s", ""}));
 }
 
 } // namespace

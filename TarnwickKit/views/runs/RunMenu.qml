@@ -1,0 +1,44 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnwickKit.views
+
+/// The context menu of a run.
+PopupMenu {
+    id: menu
+
+    /// There is an earlier run of the same volume.
+    required property bool hasLast
+
+    signal rename
+    signal share
+    signal copy
+    signal compare
+    signal remove
+
+    PopupMenuItem {
+        text: qsTr("Rename Report…")
+        keys: "F2"
+        onTriggered: menu.rename()
+    }
+    PopupMenuItem {
+        text: qsTr("Share Report Image…")
+        onTriggered: menu.share()
+    }
+    PopupMenuItem {
+        text: qsTr("Copy Figures")
+        keys: "Ctrl+C"
+        onTriggered: menu.copy()
+    }
+    PopupMenuItem {
+        text: qsTr("Compare with Last Run of This Volume")
+        enabled: menu.hasLast
+        onTriggered: menu.compare()
+    }
+    PopupMenuItem {
+        text: qsTr("Delete Run")
+        keys: "Del"
+        destructive: true
+        onTriggered: menu.remove()
+    }
+}
