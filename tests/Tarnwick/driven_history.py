@@ -2,6 +2,7 @@
 """The stored runs across starts of the program. Usage: driven_history.py PROGRAM"""
 
 import pathlib
+import re
 import sys
 
 import driver
@@ -57,6 +58,11 @@ def finds_opens_and_deletes(program):
         window.grab("First run")
         window.keys("Return")
         window.find("Throughput over time", "chart")
+        window.grab("Throughput over time", "chart")
+        window.keys("Right", "Escape", "Left")
+        window.until("the last rate told",
+                     lambda: re.match(r"[\d.]+s: ", window.find("Throughput over time", "chart").get_description()))
+        window.grab("First run", "push button")
         check(window.until("the focus", window.focused) == "First run", "the focus left the run that was opened")
         window.context_menu("First run")
         window.press("Rename Report…")

@@ -14,6 +14,7 @@ Item {
     property alias font: words.font
     property alias elide: words.elide
     property alias wrapMode: words.wrapMode
+    property bool spoken: true
 
     implicitWidth: side + 7 + words.implicitWidth
     implicitHeight: Math.max(side, words.height)
@@ -33,5 +34,7 @@ Item {
         anchors.right: parent.right
         anchors.leftMargin: key.side + 7
         color: key.textColor
+        Accessible.name: key.spoken ? text : ""
+        Accessible.ignored: !key.spoken
     }
 }

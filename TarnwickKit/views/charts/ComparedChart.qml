@@ -33,6 +33,8 @@ Column {
         width: view.width - 2 * x
         height: ViewMetrics.chartHeight
         title: view.title
+        axisUnit: "MB/s"
+        readable: true
     }
     ComparedSeries {
         chart: chart

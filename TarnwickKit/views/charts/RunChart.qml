@@ -10,6 +10,8 @@ ColumnLayout {
     id: view
 
     required property runRecord run
+    /// In the window: with a crosshair, the unit, marks, and a line that explains them. An image has the curves alone.
+    property bool isExplained: false
 
     spacing: 0
 
@@ -42,7 +44,10 @@ ColumnLayout {
         Layout.preferredHeight: ViewMetrics.chartHeight
         Layout.leftMargin: ViewMetrics.cardPadding
         Layout.rightMargin: ViewMetrics.cardPadding
-        Layout.bottomMargin: ViewMetrics.cardPadding
+        Layout.bottomMargin: view.isExplained ? 8 : ViewMetrics.cardPadding
+        axisUnit: view.isExplained ? "MB/s" : ""
+        marked: view.isExplained
+        readable: view.isExplained
 
         RunSeries {
             name: qsTr("Read")
@@ -57,6 +62,20 @@ ColumnLayout {
             curve: RunSeries.Write
             color: PaletteKey.palette.coral
             fill: PaletteKey.palette.writeFill
+        }
+    }
+    OnDemand {
+        active: view.isExplained
+
+        PlainText {
+            Layout.fillWidth: true
+            Layout.leftMargin: ViewMetrics.cardPadding
+            Layout.rightMargin: ViewMetrics.cardPadding
+            Layout.bottomMargin: 14
+            text: qsTr("Shaded: the last third of each test, whose median is the sustained rate. Triangles: peak and lowest rate.")
+            font: Typeface.text(11)
+            color: view.PaletteKey.palette.text2
+            wrapMode: Text.Wrap
         }
     }
 }

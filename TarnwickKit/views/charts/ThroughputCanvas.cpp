@@ -79,6 +79,28 @@ void ThroughputCanvas::setLabelColor(const QColor& color) {
         Q_EMIT colorsChanged();
 }
 
+void ThroughputCanvas::setAxisUnit(const QString& unit) {
+    if (take(m_content.axisUnit, unit))
+        Q_EMIT marksChanged();
+}
+
+void ThroughputCanvas::setMarked(bool marked) {
+    if (take(m_content.marked, marked))
+        Q_EMIT marksChanged();
+}
+
+void ThroughputCanvas::setGroundColor(const QColor& color) {
+    if (take(m_content.ground, color))
+        Q_EMIT colorsChanged();
+}
+
+ThroughputPlot ThroughputCanvas::plot() const {
+    std::optional<QPointF> largest;
+    for (const ChartSeries* series : m_series)
+        largest = largestOf(series->points(), 0, largest);
+    return {size(), ThroughputScale(largest, isLive())};
+}
+
 void ThroughputCanvas::setTemperatures(const QList<QPointF>& temperatures) {
     if (take(m_content.temperatures, temperatures))
         Q_EMIT temperaturesChanged();

@@ -24,6 +24,13 @@ class ThroughputCanvas : public OndelControls::ImageItem {
     Q_PROPERTY(bool live READ isLive WRITE setLive NOTIFY liveChanged)
     Q_PROPERTY(QColor gridColor READ gridColor WRITE setGridColor NOTIFY colorsChanged)
     Q_PROPERTY(QColor labelColor READ labelColor WRITE setLabelColor NOTIFY colorsChanged)
+    /// The unit of the rates, written at their axis unless it is empty.
+    Q_PROPERTY(QString axisUnit READ axisUnit WRITE setAxisUnit NOTIFY marksChanged)
+    /// Shades the part of each curve that its sustained rate is taken from, and marks its peak and its lowest
+    /// point. For charts that are not live.
+    Q_PROPERTY(bool marked READ isMarked WRITE setMarked NOTIFY marksChanged)
+    /// Of the marks' outline.
+    Q_PROPERTY(QColor groundColor READ groundColor WRITE setGroundColor NOTIFY colorsChanged)
     /// Drawn as a thin line on a scale of its own. Units: seconds and degrees Celsius.
     Q_PROPERTY(QList<QPointF> temperatures READ temperatures WRITE setTemperatures NOTIFY temperaturesChanged)
     Q_PROPERTY(QColor temperatureColor READ temperatureColor WRITE setTemperatureColor NOTIFY colorsChanged)
@@ -36,6 +43,8 @@ public:
     QQmlListProperty<ChartSeries> seriesList();
     /// Owner: the caller keeps `series`; its end removes it.
     void add(ChartSeries* series);
+    const QList<ChartSeries*>& series() const { return m_series; }
+    ThroughputPlot plot() const;
     bool isLive() const { return m_content.live; }
     void setLive(bool live);
     Q_SIGNAL void liveChanged();
@@ -46,6 +55,13 @@ public:
     const QList<QPointF>& temperatures() const { return m_content.temperatures; }
     void setTemperatures(const QList<QPointF>& temperatures);
     Q_SIGNAL void temperaturesChanged();
+    const QString& axisUnit() const { return m_content.axisUnit; }
+    void setAxisUnit(const QString& unit);
+    bool isMarked() const { return m_content.marked; }
+    void setMarked(bool marked);
+    Q_SIGNAL void marksChanged();
+    QColor groundColor() const { return m_content.ground; }
+    void setGroundColor(const QColor& color);
     QColor temperatureColor() const { return m_content.temperature; }
     void setTemperatureColor(const QColor& color);
     Q_SIGNAL void colorsChanged();

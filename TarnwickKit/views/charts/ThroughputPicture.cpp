@@ -1,5 +1,6 @@
 #include "TarnwickKit/views/charts/ThroughputPicture.h"
 
+#include "TarnwickKit/views/charts/CurveReading.h"
 #include "TarnwickKit/views/charts/PixelBlend.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
 
@@ -60,6 +61,28 @@ void blendArea(QImage& picture, const CurveRaster& raster, const QColor& fill, d
     }
 }
 
+/// Triangles above the highest and below the lowest point of each curve.
+void paintExtremes(QImage& picture, const ThroughputContent& content, const ThroughputPlot& plot) {
+    constexpr double half = 4; // of a side
+    constexpr double gap = 3;
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const ChartCurve& curve : content.curves) {
+        const auto extremes = CurveExtremes::of(curve.points);
+        if (!extremes)
+            continue;
+        painter.setPen(QPen(content.ground, 1));
+        painter.setBrush(curve.color);
+        const auto triangle = [&](QPointF point, double up) {
+            const QPointF tip = plot.map(point) - QPointF(0, gap * up);
+            painter.drawPolygon(QPolygonF{tip, tip + QPointF(-half, -1.5 * half * up),
+                                          tip + QPointF(half, -1.5 * half * up)});
+        };
+        triangle(extremes->highest, 1);
+        triangle(extremes->lowest, -1);
+    }
+}
+
 } // namespace
 
 QImage ThroughputPicture::paint(const ThroughputContent& content, QSizeF size, double scale) {
@@ -78,6 +101,8 @@ QImage ThroughputPicture::paint(const ThroughputContent& content, QSizeF size, d
     QImage picture = m_picture;
     if (!m_temperatures.isNull())
         QPainter(&picture).drawImage(0, 0, m_temperatures);
+    if (content.marked && !content.live)
+        paintExtremes(picture, content, {m_size, *m_axes});
     if (!content.live)
         *this = {}; // a finished run does not grow, and the coverages of a wide chart take megabytes
     return picture;
@@ -86,7 +111,7 @@ QImage ThroughputPicture::paint(const ThroughputContent& content, QSizeF size, d
 /// Whether the content is that of the last picture, or more of it.
 bool ThroughputPicture::continuesLast(const ThroughputContent& content, QSizeF size, double scale) const {
     if (size != m_size || scale != m_scale || content.grid != m_gridColor || content.label != m_labelColor ||
-        content.temperature != m_temperatureColor)
+        content.temperature != m_temperatureColor || content.axisUnit != m_axisUnit)
         return false;
     return std::ranges::equal(content.curves, m_curves, [](const ChartCurve& now, const Drawn& drawn) {
         return now.color == drawn.color && now.fill == drawn.fill && now.unchanged == drawn.count;
@@ -112,12 +137,15 @@ void ThroughputPicture::begin(const ThroughputContent& content, QSizeF size, dou
     m_gridColor = content.grid;
     m_labelColor = content.label;
     m_temperatureColor = content.temperature;
+    m_axisUnit = content.axisUnit;
 
     const QSize pixels = inPixels(size, scale);
     const ThroughputPlot plot{size, axes};
     m_grid = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
     m_grid.fill(Qt::transparent);
     m_grid.setDevicePixelRatio(scale);
+    if (content.marked && !content.live)
+        paintSustainedParts(content, plot);
     paintGrid(plot);
     m_picture = m_grid.copy();
     for (std::size_t i = 0; i < m_curves.size(); ++i) {
@@ -161,10 +189,31 @@ void ThroughputPicture::paintGrid(const ThroughputPlot& plot) {
         drawLabel(painter, QString::number(labels[static_cast<std::size_t>(i)]), {labelEnd, y}, 1);
     }
     painter.setFont(Typeface::mono(9));
+    if (!m_axisUnit.isEmpty())
+        drawLabel(painter, m_axisUnit, {labelEnd, plot.gridLine(0) + 11}, 1);
     const auto times = plot.scale.xLabels();
     for (std::size_t i = 0; i < times.size(); ++i)
         drawLabel(painter, seconds(times[i]), {plot.x(times[i]), plot.floor() + 12},
                   static_cast<double>(i) / 2);
+}
+
+/// A shade over the plot's height, and a line below the floor that tells whose it is.
+void ThroughputPicture::paintSustainedParts(const ThroughputContent& content, const ThroughputPlot& plot) {
+    constexpr double lineHeight = 2;
+    QPainter painter(&m_grid);
+    double line = plot.floor() + 1.5;
+    for (const ChartCurve& curve : content.curves) {
+        const auto part = SustainedPart::of(curve.points);
+        if (!part)
+            continue;
+        QColor shade = curve.color;
+        shade.setAlphaF(0.08f);
+        const double left = plot.x(part->from);
+        const double width = plot.x(part->to) - left;
+        painter.fillRect(QRectF(left, ThroughputPlot::top, width, plot.height()), shade);
+        painter.fillRect(QRectF(left, line, width, lineHeight), curve.color);
+        line += lineHeight + 1;
+    }
 }
 
 /// A degree has the same height in every chart: the grid's lines are 20 degrees apart.

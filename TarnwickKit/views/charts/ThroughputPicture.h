@@ -32,6 +32,9 @@ struct ThroughputContent {
     QColor temperature;
     QColor grid;
     QColor label;
+    QString axisUnit;    ///< below the largest label of the rates; none if empty
+    bool marked = false; ///< sustained parts, peaks and lowest points; not for live charts
+    QColor ground;       ///< around the marks
 };
 
 /// Paints throughput charts. Points appended to a live chart cost only their own drawing.
@@ -60,6 +63,7 @@ private:
     std::optional<QPointF> updateLargest(const ThroughputContent& content);
     void begin(const ThroughputContent& content, QSizeF size, double scale, const ThroughputScale& axes);
     void paintGrid(const ThroughputPlot& plot);
+    void paintSustainedParts(const ThroughputContent& content, const ThroughputPlot& plot);
     int addPoints(const ThroughputContent& content);
     void compose(int fromColumn);
     void paintTemperatures(const ThroughputContent& content);
@@ -69,6 +73,7 @@ private:
     QColor m_gridColor;
     QColor m_labelColor;
     QColor m_temperatureColor;
+    QString m_axisUnit;
     std::optional<ThroughputScale> m_axes;
     std::vector<Drawn> m_curves;
     QImage m_grid;

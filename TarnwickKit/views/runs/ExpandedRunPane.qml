@@ -88,6 +88,7 @@ CardFrame {
     RunChart {
         Layout.fillWidth: true
         run: pane.run
+        isExplained: true
     }
     Separator {
         Layout.fillWidth: true

@@ -159,16 +159,23 @@ PlainButton {
         }
     }
 
-    Keys.onPressed: event => actions.take(event)
+    onHoveredChanged: actions.active = true
+    Keys.onPressed: event => {
+        actions.active = true;
+        (actions.object as RunActions).take(event);
+    }
 
-    RunActions {
+    // A history has fifty rows, and few are acted on.
+    OnDemand {
         id: actions
 
-        analyzer: row.analyzer
-        run: row.run
-        facts: row.facts
-        onRename: row.rename()
-        onShare: row.share()
-        onRemove: row.remove()
+        RunActions {
+            analyzer: row.analyzer
+            run: row.run
+            facts: row.facts
+            onRename: row.rename()
+            onShare: row.share()
+            onRemove: row.remove()
+        }
     }
 }

@@ -1,4 +1,7 @@
 #include "TarnwickKit/model/runs/RunRecord.h"
+#include "TarnwickKit/views/charts/ChartCursor.h"
+#include "TarnwickKit/views/charts/ComparedSeries.h"
+#include "TarnwickKit/views/charts/CurveReading.h"
 #include "TarnwickKit/views/charts/ThroughputCanvas.h"
 #include "TarnwickKit/views/style/Palette.h"
 #include "tests/TarnwickKit/views/Pictures.h"
@@ -38,6 +41,106 @@ TEST(RunChart, ShowsBothCurvesOfItsRun) {
     EXPECT_EQ(chart->height(), 200);
     EXPECT_EQ(chart->summary(), QStringLiteral("Read: 520 to 900 MB/s over 3.8s, last 520 MB/s. "
                                                "Write: 400 to 419 MB/s over 1.9s, last 419 MB/s."));
+}
+
+TEST(CurveReading, AnswersWhatIsDrawn) {
+    const QList<QPointF> curve{{1, 10}, {2, 30}, {4, 20}};
+    const QList<QPointF> odd{{2, 7}, {2, 9}, {0, 1}}; // of a file
+    const struct {
+        QList<QPointF> points;
+        double time;
+        std::optional<double> rate;
+    } cases[] = {{curve, 1, 10},   {curve, 1.5, 20}, {curve, 3, 25}, {curve, 4, 20},    {curve, 0.9, {}},
+                 {curve, 4.1, {}}, {odd, 2, 9},      {odd, 1, 5},    {{{1, 5}}, 1, {}}, {{}, 0, {}}};
+    for (const auto& c : cases)
+        EXPECT_EQ(rateAt(c.points, c.time), c.rate) << c.time;
+
+    EXPECT_EQ(SustainedPart::of(curve), (SustainedPart{4 * 2.0 / 3, 4}));
+    EXPECT_EQ(SustainedPart::of({{0, 1}, {0, 2}}), std::nullopt);
+    EXPECT_EQ(CurveExtremes::of({{1, 5}, {2, 9}, {3, 9}, {4, 2}, {5, 2}}), (CurveExtremes{{2, 9}, {4, 2}}));
+    EXPECT_EQ(CurveExtremes::of({{1, 5}, {2, 5}}), std::nullopt);
+
+    const ChartTimes times({curve, {{5, 1}, {2, 1}, {3, 1}}, {{100, 1}}});
+    const struct {
+        double time;
+        double nearest, after, before;
+    } steps[] = {{-9, 1, 1, 1}, {1, 1, 2, 1}, {2.6, 3, 3, 2}, {2.4, 2, 3, 2}, {5, 5, 5, 4}, {99, 5, 5, 5}};
+    for (const auto& [time, nearest, after, before] : steps) {
+        EXPECT_EQ(times.nearest(time), nearest) << time;
+        EXPECT_EQ(times.stepped(time, 1), after) << time;
+        EXPECT_EQ(times.stepped(time, -1), before) << time;
+    }
+    EXPECT_EQ(ChartTimes(QList<QList<QPointF>>()).stepped(1, 1), std::nullopt);
+}
+
+TEST(ChartCursor, MovesByPointerAndByPoint) {
+    test::Stage stage("RunChart { width: 500; height: 270; isExplained: true }",
+                      {{"run", QVariant::fromValue(run())}});
+    stage.picture();
+    auto* chart = stage.root().findChild<ThroughputCanvas*>();
+    ChartCursor cursor;
+    cursor.setChart(chart);
+    EXPECT_FALSE(cursor.isActive());
+    EXPECT_TRUE(cursor.values().isEmpty());
+    const auto after = [&cursor](auto move) {
+        move();
+        return cursor.sentence();
+    };
+    // Writing has a point each tenth of a second and ends at 1.9 s, reading each other tenth until 3.8 s.
+    EXPECT_EQ(after([&] { cursor.step(1); }), "0s: Read: 900 MB/s, Write: 400 MB/s");
+    EXPECT_EQ(after([&] { cursor.step(1); }), "0.10s: Read: 890 MB/s, Write: 401 MB/s");
+    EXPECT_EQ(after([&] { cursor.skip(1); }), "3.8s: Read: 520 MB/s");
+    EXPECT_EQ(after([&] { cursor.step(-1); }), "3.6s: Read: 540 MB/s");
+    EXPECT_EQ(after([&] { cursor.skip(-0.5); }), "1.7s: Read: 730 MB/s, Write: 417 MB/s");
+    EXPECT_EQ(after([&] { cursor.moveTo(chart->plot().x(0.29)); }), "0.30s: Read: 870 MB/s, Write: 403 MB/s");
+    EXPECT_DOUBLE_EQ(cursor.x(), chart->plot().x(0.3));
+    cursor.leave();
+    EXPECT_EQ(after([&] { cursor.step(-1); }), "3.8s: Read: 520 MB/s");
+}
+
+TEST(RunChart, IsMarkedInTheWindowAlone) {
+    const auto picture = [](bool isExplained) {
+        test::Stage stage("ThroughputChart { width: 500; height: 200; objectName: \"chart\"\n"
+                          "RunSeries { color: 'red'; curve: RunSeries.Write } }",
+                          {{"marked", isExplained}});
+        stage.root().findChild<RunSeries*>()->setRun(run());
+        return stage.picture();
+    };
+    const QImage plain = picture(false), marked = picture(true);
+    const QPoint first(43, 150), last(490, 150), below(490, 181);
+    EXPECT_EQ(marked.pixelColor(first), plain.pixelColor(first));
+    EXPECT_NE(marked.pixelColor(last), plain.pixelColor(last)) << "the last third is shaded";
+    EXPECT_EQ(marked.pixelColor(below + QPoint(0, 1)), QColor(Qt::red));
+    EXPECT_NE(plain.pixelColor(below + QPoint(0, 1)), QColor(Qt::red));
+    // Above the highest point, which is the last one, and below the lowest, the first one.
+    const QPoint peak(492, int(8 + 172 * (1 - 419.0 / 500)) - 6),
+        lowest(42, int(8 + 172 * (1 - 400.0 / 500)) + 6);
+    for (const QPoint& place : {peak, lowest}) {
+        EXPECT_EQ(marked.pixelColor(place), QColor(Qt::red));
+        EXPECT_NE(plain.pixelColor(place), QColor(Qt::red));
+    }
+}
+
+TEST(ComparedSeries, LaysTheRunsCurvesOverEachOther) {
+    test::Stage stage("ThroughputChart { width: 500; height: 200 }");
+    auto* chart = qobject_cast<ThroughputCanvas*>(&stage.root());
+    RunRecord other = run();
+    for (auto& sample : other.writeSamples)
+        sample.v /= 2;
+    {
+        ComparedSeries compared;
+        compared.setProperty("chart", QVariant::fromValue(chart));
+        compared.setProperty("colors", QVariant::fromValue(QList<QColor>{Qt::red, Qt::blue}));
+        compared.setProperty("runs", QVariant::fromValue(ComparedRuns{{run(), other, run()}}));
+        ASSERT_EQ(chart->series().size(), 3);
+        EXPECT_EQ(chart->series()[1]->points().last(), QPointF(1.9, 209.5));
+        EXPECT_EQ(chart->series()[2]->color(), Qt::red) << "the colours begin anew";
+        const QImage image = stage.picture();
+        EXPECT_TRUE(shows(image, Qt::red) && shows(image, Qt::blue));
+        compared.setProperty("curve", static_cast<int>(RunSeries::Read));
+        EXPECT_EQ(chart->series()[0]->points().last(), QPointF(3.8, 520));
+    }
+    EXPECT_TRUE(chart->series().isEmpty());
 }
 
 TEST(DualSparkline, ShowsWriteAboveRead) {
