@@ -28,7 +28,7 @@ ThroughputContent content() {
     ChartCurve curve{line, fill, {}};
     for (int i = 0; i < count; ++i)
         curve.points.append({i * 0.02, rate(random)});
-    return {{curve}, {}, true, {}, QColor(0xeb, 0xe5, 0xda), QColor(0x65, 0x6c, 0x79)};
+    return {{curve}, {}, true, {}, QColor(0xeb, 0xe5, 0xda), QColor(0x65, 0x6c, 0x79), {}, {}};
 }
 
 double scaleOf(const benchmark::State& state) { return static_cast<double>(state.range(0)) / 100; }

@@ -1,7 +1,6 @@
-#include "OndelCore/platform/process/UserFacts.h"
-
 #include "OndelCore/platform/process/StandardFolders.h"
 #include "OndelCore/platform/process/UnifiedLog.h"
+#include "OndelCore/platform/process/UserFacts.h"
 #include "OndelCore/platform/storage/PrivateFolder.h"
 #include "support/JournalSocket.h"
 

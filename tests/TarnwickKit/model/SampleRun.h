@@ -13,8 +13,8 @@ inline RunEvidence fullEvidence(std::size_t samples = 60) {
     using namespace OndelCore::benchmark;
     using namespace OndelCore::platform;
     const Traffic read{5368709120, 20480}, written{4096, 1};
-    const TestEvidence test{0.0123456789, 12.3456789012, read,         written, 5368709120, 0, 1,
-                            true,         0.0312345678,  1.2345678901, 2};
+    const TestEvidence test{0.0123456789, 12.3456789012, read, written, read, written, 5368709120, 0, 1, true,
+                            0.0312345678, 1.2345678901,  2};
     const Latency latency{0.000081234567, 0.00031234567, 0.00123456789, 0.0123456789};
     std::vector<CircumstanceSample> all;
     for (std::size_t index = 0; index < samples; ++index)
