@@ -50,7 +50,7 @@ Item {
 
             Caption {
                 Layout.fillWidth: true
-                text: qsTr("Tarnwick is free, and made by one developer. Support covers the Apple developer program, hosting, and the time it takes to keep it going.")
+                text: qsTr("Tarnwick is free, and made by one developer. Support covers hosting and the time it takes to keep it going.")
             }
             AlertButton {
                 label: qsTr("Support on Ko-fi…")

@@ -30,7 +30,7 @@ BenchmarkError::BenchmarkError(Cause cause)
     , m_what(std::visit(Wording{}, m_cause)) {}
 
 BenchmarkError ioError(std::string_view prefix, int error) {
-    return BenchmarkError(BenchmarkError::Io{std::string(prefix) + platform::errorText(error)});
+    return BenchmarkError(BenchmarkError::Io{std::string(prefix) + platform::errorText(error), error});
 }
 
 ErrorName BenchmarkError::errorName() const noexcept {

@@ -21,10 +21,12 @@ public:
         bool operator==(const InsufficientSpace&) const = default;
         std::size_t hash() const { return hashFields(needed, available); }
     };
-    /// `text`: a prefix that names the failed call ("write: "), then the system's wording.
+    /// `text`: a prefix that names the failed call ("write: "), then the system's wording of `error`, which
+    /// is 0 where it is not known.
     struct Io {
         std::string text;
-        bool operator==(const Io&) const = default;
+        int error = 0;
+        bool operator==(const Io& other) const { return text == other.text; }
         std::size_t hash() const { return hashFields(text); }
     };
     struct NotWritable {

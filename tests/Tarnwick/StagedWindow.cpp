@@ -58,7 +58,7 @@ void stream(int samples, bool hasSensor, const benchmark::ProgressListener& tell
     for (int i = 0; i < samples && !stop.stop_requested(); ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
         const double rate = 2e9 * (1 + 0.4 * std::sin(i * 1.7) + 0.2 * std::sin(i * 0.031));
-        tell({BenchmarkTest::sequentialWrite, i * 10'000'000LL, samples * 10'000'000LL, rate, i * 0.02,
+        tell({BenchmarkTest::sequentialWrite, i * 40'000'000LL, samples * 40'000'000LL, rate, i * 0.02,
               hasSensor ? std::optional(71 - 33 * std::exp(-i * 0.002)) : std::nullopt});
     }
 }

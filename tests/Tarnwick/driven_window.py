@@ -4,6 +4,7 @@
 import os
 import pathlib
 import re
+import shutil
 import signal
 import subprocess
 import sys
@@ -100,6 +101,16 @@ def stops_by_keyboard(program, folder):
             nothing_left(folder)
 
 
+def says_why_a_run_failed(program, folder):
+    with driver.Window(program, folder) as window:
+        window.press("Run Benchmark")
+        working = window.until("the working folder", lambda: list(folder.glob(".ondel-analyzer-*/data.bin")))[0].parent
+        shutil.rmtree(working)
+        window.find("Failed", "status bar")
+        told = window.find("I/O error: open(read): No such file or directory").get_description()
+        check(told == "The folder was removed or its volume unplugged during the run.", f"the second line: {told}")
+
+
 def names_change_seldom_in_a_run(program, _folder):
     """Assistive technology reads each of them aloud."""
     staged = pathlib.Path(program).parent / "staged-window"
@@ -171,7 +182,7 @@ if __name__ == "__main__":
     driver.enter_display()
     program, _source, *only = sys.argv[1:]
     with driver.fast_folder() as name:
-        for case in (runs_to_the_end, ends_cleanly_in_a_run, stops_by_keyboard, names_change_seldom_in_a_run,
+        for case in (runs_to_the_end, ends_cleanly_in_a_run, stops_by_keyboard, says_why_a_run_failed, names_change_seldom_in_a_run,
                      goes_by_keyboard, refuses_what_it_cannot_use, tells_why_health_is_missing):
             if only and case.__name__ not in only:
                 continue

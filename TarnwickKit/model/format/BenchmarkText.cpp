@@ -3,6 +3,7 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickKit/model/format/Format.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <system_error>
 
@@ -30,6 +31,18 @@ struct CauseInWords {
         return u"The test file is too small for the random block size."_s;
     }
 };
+
+/// The number of the system's error behind a failed run; 0 where there is none.
+int systemError(const std::exception& error) {
+    if (const auto* known = dynamic_cast<const BenchmarkError*>(&error)) {
+        const auto* io = std::get_if<BenchmarkError::Io>(&known->cause());
+        return io ? io->error : 0;
+    }
+    const auto* system = dynamic_cast<const std::system_error*>(&error);
+    const bool isOfSystem = system && (system->code().category() == std::generic_category() ||
+                                       system->code().category() == std::system_category());
+    return isOfSystem ? system->code().value() : 0;
+}
 
 } // namespace
 
@@ -107,6 +120,40 @@ QString describe(const std::exception& error) {
     if (const auto* system = dynamic_cast<const std::system_error*>(&error))
         return QString::fromStdString(system->code().message());
     return QString::fromUtf8(error.what());
+}
+
+QString explain(const std::exception& error) {
+    switch (systemError(error)) {
+    case ENOENT:
+    case ENOTDIR:
+    case ESTALE:
+        return u"The folder was removed or its volume unplugged during the run."_s;
+    case ENODEV:
+    case ENXIO:
+    case ENOTCONN:
+    case EHOSTDOWN:
+    case ETIMEDOUT:
+        return u"The volume was unplugged, or its server is gone."_s;
+    case EIO:
+        return u"The drive reported an error, or was unplugged during the run."_s;
+    case EROFS:
+        return u"The volume can only be read: systems switch to that when they find an error on it."_s;
+    case ENOSPC:
+    case EDQUOT:
+        return u"The volume became full during the run, or your share of it is used up."_s;
+    case EFBIG:
+        return u"The file system, or a limit of this session, does not allow files of this size."_s;
+    case EACCES:
+    case EPERM:
+        return u"The permissions of the folder changed during the run, or the system forbids this there."_s;
+    case ENOMEM:
+        return u"There is not enough memory for blocks of this size."_s;
+    case EMFILE:
+    case ENFILE:
+        return u"Too many files are open at the moment; close some programs and try again."_s;
+    default:
+        return {};
+    }
 }
 
 } // namespace TarnwickKit::model

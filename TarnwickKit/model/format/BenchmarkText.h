@@ -35,5 +35,8 @@ std::optional<QString> headline(const OndelCore::benchmark::BenchmarkResult& res
 
 /// An error as a sentence for people.
 QString describe(const std::exception& error);
+/// What an error of the system probably means for a run, as a sentence for people; "" where `describe` says
+/// all that there is to say.
+QString explain(const std::exception& error);
 
 } // namespace TarnwickKit::model

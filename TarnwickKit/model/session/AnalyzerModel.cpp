@@ -115,22 +115,22 @@ void AnalyzerModel::runStarted() {
     m_library.setCurrentRun(std::nullopt);
 }
 
-void AnalyzerModel::runEnded(RunSession::Outcome outcome, const QString& failureMessage) {
+void AnalyzerModel::runEnded(RunSession::Outcome outcome, const RunFailure& failure) {
     switch (outcome) {
     case RunSession::Outcome::finished:
         return setPhase(Phase::Done);
     case RunSession::Outcome::cancelled:
         return setPhase(Phase::Idle);
     case RunSession::Outcome::failed:
-        return setPhase(Phase::Failed, failureMessage);
+        return setPhase(Phase::Failed, failure);
     }
 }
 
-void AnalyzerModel::setPhase(Phase phase, const QString& failureMessage) {
-    if (m_phase == phase && m_failureMessage == failureMessage)
+void AnalyzerModel::setPhase(Phase phase, const RunFailure& failure) {
+    if (m_phase == phase && m_failure == failure)
         return;
     m_phase = phase;
-    m_failureMessage = failureMessage;
+    m_failure = failure;
     m_library.setShowsImports(!isRunning());
     Q_EMIT phaseChanged();
     announceCanRun();

@@ -73,7 +73,10 @@ public:
     Phase phase() const { return m_phase; }
     /// One sentence for people; empty unless `phase` is Failed.
     Q_PROPERTY(QString failureMessage READ failureMessage NOTIFY phaseChanged)
-    const QString& failureMessage() const { return m_failureMessage; }
+    const QString& failureMessage() const { return m_failure.message; }
+    /// A second sentence, in plainer words; "" without one.
+    Q_PROPERTY(QString failureExplanation READ failureExplanation NOTIFY phaseChanged)
+    const QString& failureExplanation() const { return m_failure.explanation; }
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY phaseChanged)
     bool isRunning() const { return m_phase == Phase::Running; }
     Q_SIGNAL void phaseChanged();
@@ -198,8 +201,8 @@ private:
     void forwardSignals();
     void connectParts();
     void runStarted();
-    void runEnded(RunSession::Outcome outcome, const QString& failureMessage);
-    void setPhase(Phase phase, const QString& failureMessage = {});
+    void runEnded(RunSession::Outcome outcome, const RunFailure& failure);
+    void setPhase(Phase phase, const RunFailure& failure = {});
     void announceCanRun();
 
     const AnalyzerServices m_services;
@@ -209,7 +212,7 @@ private:
     RunSession m_session{m_services, m_target};
 
     Phase m_phase = Phase::Idle;
-    QString m_failureMessage;
+    RunFailure m_failure;
     bool m_couldRun = false;
 };
 

@@ -258,7 +258,7 @@ void RunSession::fail(const std::exception& error) {
         Q_EMIT ended(Outcome::cancelled, {});
     } else {
         Log::app.error("benchmark failed", LogField::failure(error));
-        Q_EMIT ended(Outcome::failed, describe(error));
+        Q_EMIT ended(Outcome::failed, {describe(error), explain(error)});
     }
 }
 

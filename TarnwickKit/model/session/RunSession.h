@@ -23,6 +23,14 @@
 
 namespace TarnwickKit::model {
 
+/// Why a run failed, in words.
+struct RunFailure {
+    QString message;     ///< one sentence for people
+    QString explanation; ///< a second one in plainer words; "" without one
+
+    bool operator==(const RunFailure&) const = default;
+};
+
 /// The benchmark run: starting it, the live figures, cancelling, and the record of a finished one.
 /// Threads: the one that makes it, which runs an event loop.
 /// Owner: a run. The destructor ends a run and waits until the engine has cleaned up. The caller keeps
@@ -60,9 +68,8 @@ public:
 
     /// The record of a run that is about to end as finished.
     Q_SIGNAL void recorded(const TarnwickKit::model::RunRecord& record);
-    /// `failureMessage`: one sentence for people, empty unless the run failed. The next run may begin from
-    /// here.
-    Q_SIGNAL void ended(Outcome outcome, const QString& failureMessage);
+    /// `failure`: empty unless the run failed. The next run may begin from here.
+    Q_SIGNAL void ended(Outcome outcome, const TarnwickKit::model::RunFailure& failure);
 
     /// What the last finished run brought.
     const std::optional<OndelCore::benchmark::BenchmarkResult>& result() const { return m_result; }

@@ -9,12 +9,15 @@ Card {
     id: banner
 
     required property string message
+    /// A second line, in plainer words; "" without one.
+    property string explanation: ""
 
     implicitHeight: row.implicitHeight + 28
     radius: 12
     color: Qt.alpha(PaletteKey.palette.amber, 0.12)
     Accessible.role: Accessible.AlertMessage
     Accessible.name: message
+    Accessible.description: explanation
 
     RowLayout {
         id: row
@@ -29,13 +32,26 @@ Card {
             size: 13
             color: PaletteKey.palette.amber
         }
-        PlainText {
-            Layout.fillWidth: true
-            text: banner.message
-            font: Typeface.text(13)
-            color: PaletteKey.palette.text
-            wrapMode: Text.Wrap
-            Accessible.ignored: true
+        ColumnLayout {
+            spacing: 4
+
+            PlainText {
+                Layout.fillWidth: true
+                text: banner.message
+                font: Typeface.text(13)
+                color: PaletteKey.palette.text
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
+            PlainText {
+                Layout.fillWidth: true
+                visible: text.length > 0
+                text: banner.explanation
+                font: Typeface.text(13)
+                color: PaletteKey.palette.text2
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
         }
     }
 }

@@ -86,6 +86,7 @@ Rectangle {
                 FailureBanner {
                     width: column.width
                     message: main.analyzer.failureMessage
+                    explanation: main.analyzer.failureExplanation
                 }
             }
             OnDemand {

@@ -92,10 +92,11 @@ TEST_F(AnalyzerModelRun, ShowsTheResult) {
 TEST_F(AnalyzerModelRun, FailureStaysUntilTheNextSelection) {
     engine.begin(model);
     send(event(BenchmarkTest::sequentialRead, 5e6, 0.1, 10, 20));
-    engine.last().fail(BenchmarkError(BenchmarkError::Io{"read: %1 %2"}));
+    engine.last().fail(BenchmarkError(BenchmarkError::Io{"read: %1 %2", ESTALE}));
     turnUntilEnded(model);
     EXPECT_EQ(model.phase(), Phase::Failed);
     EXPECT_EQ(model.failureMessage(), "I/O error: read: %1 %2");
+    EXPECT_EQ(model.failureExplanation(), "The folder was removed or its volume unplugged during the run.");
     EXPECT_EQ(model.liveTest(), BenchmarkTest::sequentialRead);
     EXPECT_EQ(model.completedBytes(), 10);
     EXPECT_FALSE(model.result());
@@ -104,6 +105,7 @@ TEST_F(AnalyzerModelRun, FailureStaysUntilTheNextSelection) {
     model.select(std::filesystem::path("/"));
     EXPECT_EQ(model.phase(), Phase::Idle);
     EXPECT_EQ(model.failureMessage(), "");
+    EXPECT_EQ(model.failureExplanation(), "");
     EXPECT_EQ(model.liveSamples().size(), 0u);
     EXPECT_EQ(model.completedBytes(), 10);
     EXPECT_EQ(AnalyzerModel::describe(BenchmarkError(BenchmarkError::InsufficientSpace{5368709120, 1023})),
@@ -119,6 +121,7 @@ TEST_F(AnalyzerModelRun, EngineThatCannotStartFailsTheRun) {
     unlucky.start();
     turnUntilEnded(unlucky);
     EXPECT_EQ(unlucky.failureMessage(), "Resource temporarily unavailable");
+    EXPECT_EQ(unlucky.failureExplanation(), "");
 }
 
 TEST_F(AnalyzerModelRun, CancelWaitsForTheEngine) {
