@@ -23,6 +23,14 @@ namespace {
 /// On X11 the launch feedback lasts until the desktop is told that the start is complete.
 bool hasLaunchFeedback() { return QGuiApplication::platformName() == QLatin1String("xcb"); }
 
+std::vector<std::string> encodedUrls(const QList<QUrl>& urls) {
+    std::vector<std::string> encoded;
+    encoded.reserve(static_cast<std::size_t>(urls.size()));
+    for (const QUrl& url : urls)
+        encoded.push_back(url.toEncoded().toStdString());
+    return encoded;
+}
+
 } // namespace
 
 AppDelegate::AppDelegate()
@@ -113,6 +121,8 @@ void AppDelegate::openNext() {
     TarnwickKit::model::answerLater(
         this, [urls = m_toOpen.front().urls] { return OpenUrls::from(urls); },
         [this](const OpenUrls& sorted) {
+            if (!sorted.ignored.empty())
+                m_model.refuse(sorted.ignoredNames(m_toOpen.front().urls));
             if (!sorted.isEmpty())
                 open(sorted, m_toOpen.front().activationToken);
             m_toOpen.pop_front();
@@ -129,12 +139,24 @@ void AppDelegate::open(const OpenUrls& sorted, const std::string& activationToke
     comeToFront(activationToken);
 }
 
-void AppDelegate::drop(const QList<QUrl>& urls) {
-    std::vector<std::string> encoded;
-    encoded.reserve(static_cast<std::size_t>(urls.size()));
-    for (const QUrl& url : urls)
-        encoded.push_back(url.toEncoded().toStdString());
-    open(encoded);
+void AppDelegate::drop(const QList<QUrl>& urls) { open(encodedUrls(urls)); }
+
+void AppDelegate::consider(const QList<QUrl>& urls) {
+    setDragWelcome(false);
+    const auto asked = ++m_consideredDrags;
+    if (urls.isEmpty())
+        return;
+    TarnwickKit::model::answerLater(
+        this, [encoded = encodedUrls(urls)] { return !OpenUrls::from(encoded).isEmpty(); },
+        [this, asked](bool isWelcome) {
+            if (asked == m_consideredDrags)
+                setDragWelcome(isWelcome);
+        });
+}
+
+void AppDelegate::setDragWelcome(bool welcome) {
+    if (std::exchange(m_isDragWelcome, welcome) != welcome)
+        Q_EMIT isDragWelcomeChanged();
 }
 
 void AppDelegate::openRunFile() {

@@ -35,6 +35,8 @@ class AppDelegate : public QObject {
     Q_PROPERTY(QUrl website READ website CONSTANT)
     /// Whether the sheet for problem reports is shown.
     Q_PROPERTY(bool showReport READ showReport WRITE setShowReport NOTIFY showReportChanged)
+    /// Whether something of what is dragged over the window could be opened.
+    Q_PROPERTY(bool isDragWelcome READ isDragWelcome NOTIFY isDragWelcomeChanged)
 public:
     enum class TerminateReply { Now, Later };
 
@@ -66,11 +68,17 @@ public:
     Q_SIGNAL void terminating();
 
     /// Opens a list of URLs: the first folder becomes the target unless a run is under way, run files are
-    /// added to the history, anything else is ignored. The window comes to the front if there was a folder or
-    /// a run file. All of it happens later, from the event loop, because file systems may be slow.
+    /// added to the history, of anything else the window tells that it is not opened. The window comes to the
+    /// front if there was a folder or a run file. All of it happens later, from the event loop, because file
+    /// systems may be slow.
     void open(const std::vector<std::string>& urls, const std::string& activationToken = {});
     /// The same for URLs dropped on the window.
     Q_INVOKABLE void drop(const QList<QUrl>& urls);
+    /// URLs are being dragged over the window. Whether they are welcome is known a moment later, because file
+    /// systems may be slow. No URLs: the drag has ended.
+    Q_INVOKABLE void consider(const QList<QUrl>& urls);
+    bool isDragWelcome() const { return m_isDragWelcome; }
+    Q_SIGNAL void isDragWelcomeChanged();
     /// Adds run files that the user chooses in a dialog.
     Q_INVOKABLE void openRunFile();
 
@@ -85,6 +93,7 @@ private:
     bool answer(const OndelDesktop::OpenRequest& request);
     void open(const OpenUrls& sorted, const std::string& activationToken);
     void openNext();
+    void setDragWelcome(bool welcome);
     void endOfSession();
 
     TarnwickKit::views::Dialogs m_dialogs;
@@ -97,4 +106,6 @@ private:
     bool m_terminating = false;
     QPointer<QWindow> m_window;
     std::deque<OndelDesktop::OpenRequest> m_toOpen;
+    bool m_isDragWelcome = false;
+    unsigned m_consideredDrags = 0;
 };

@@ -44,3 +44,13 @@ OpenUrls OpenUrls::from(const std::vector<std::string>& urls) {
     }
     return sorted;
 }
+
+std::vector<std::string> OpenUrls::ignoredNames(const std::vector<std::string>& urls) const {
+    std::vector<std::string> names;
+    for (const std::size_t place : ignored) {
+        const auto path = OndelCore::volumes::localPath(urls[place]);
+        const fs::path last = path && !path->has_filename() ? path->parent_path() : path.value_or("");
+        names.push_back(last.has_filename() ? last.filename().string() : urls[place]);
+    }
+    return names;
+}

@@ -17,5 +17,8 @@ struct OpenUrls {
     /// extension decides on run files, and anything else counts as a folder.
     static OpenUrls from(const std::vector<std::string>& urls);
 
+    /// Names for people of those that are ignored: the last parts of paths, else the URLs.
+    std::vector<std::string> ignoredNames(const std::vector<std::string>& urls) const;
+
     bool isEmpty() const { return !folder && runs.empty(); }
 };

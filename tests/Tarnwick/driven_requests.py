@@ -181,6 +181,7 @@ def opens_what_it_is_given(program, folder):
                    url + "/2.tarnwickrun%00", "x" * 100000, url + "/missing.tarnwickrun", url + "/broken.tarnwickrun"]
         check(opens(*garbage), "garbage is refused")
         shows_run(window, 1)
+        window.find("“missing.tarnwickrun” and 1 more are damaged or not Tarnwick runs.")
         check(opens(*garbage, f"file://localhost{folder}/2.tarnwickrun".replace(" ", "%20")), "a run among garbage is refused")
         shows_run(window, 2)
         check(call("ActivateAction", "choose-folder", "[]") and not call("ActivateAction", "nonsense", "[]"), "actions")
@@ -215,7 +216,10 @@ def leaves_nothing_without_a_display(program, folder):
 
 
 def takes_what_is_dropped(program, folder, source):
-    def drop(after, *urls):
+    def edge(window):
+        return subprocess.run(["import", "-window", window.id(), "-crop", "1x1+0+400", "rgb:-"], capture_output=True, check=True).stdout
+
+    def drop(over, after, *urls):
         with child(source, *urls, stdout=subprocess.PIPE) as drag:
             while drag.stdout.readline() != b"ready\n":
                 pass
@@ -224,6 +228,7 @@ def takes_what_is_dropped(program, folder, source):
             while not select.select([drag.stdout], [], [], 0.05)[0] or drag.stdout.readline() != b"accepted\n":
                 x = x - 20 if x > 600 else 1200
                 subprocess.run(["xdotool", "mousemove", str(x), "400"], check=True)
+            over()
             subprocess.run(["xdotool", "mouseup", "1"], check=True)
             while drag.stdout.readline() != b"taken\n":
                 pass
@@ -231,8 +236,15 @@ def takes_what_is_dropped(program, folder, source):
 
     with driver.Window(program) as window:
         window.find("Choose a volume to begin")
-        drop(lambda: window.find("Choose a volume to begin"), "http://example.org/", "file:///etc/hostname", "file:///nowhere/", "mailto:x")
-        drop(lambda: shows_run(window, 4), folder.as_uri(), run_file(folder, 4).as_uri())
+        window.settled()
+        plain = edge(window)
+        drop(lambda: check(edge(window) == plain, "files that cannot be opened light up the window"),
+             lambda: window.find("“http://example.org/” and 3 more are not folders or run files that can be opened."),
+             "http://example.org/", "file:///etc/hostname", "file:///nowhere/", "mailto:x")
+        window.find("Choose a volume to begin")
+        drop(lambda: window.until("the window lit up", lambda: edge(window) != plain),
+             lambda: shows_run(window, 4), folder.as_uri(), run_file(folder, 4).as_uri())
+        window.until("the window as before", lambda: edge(window) == plain)
         check(window.enabled("Run Benchmark"), "the dropped folder is not the target")
 
 

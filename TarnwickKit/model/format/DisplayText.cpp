@@ -7,6 +7,8 @@
 
 namespace TarnwickKit::model {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char32_t mark = QChar::ReplacementCharacter;
@@ -82,6 +84,18 @@ QString fitted(const QString& text, int columns) {
             endBeforeMark = line.size();
     }
     return isCut ? line.left(endBeforeMark) + QChar(0x2026) : line;
+}
+
+QString refusal(const std::vector<std::string>& names, bool isRun) {
+    constexpr int nameColumns = 40;
+    const QString first =
+        QChar(0x201C) + fitted(QString::fromStdString(names.front()), nameColumns) + QChar(0x201D);
+    if (names.size() == 1)
+        return first + (isRun ? u" is damaged or not a Tarnwick run."_s
+                              : u" is not a folder or a run file that can be opened."_s);
+    return first + u" and %1 more "_s.arg(names.size() - 1) +
+           (isRun ? u"are damaged or not Tarnwick runs."_s
+                  : u"are not folders or run files that can be opened."_s);
 }
 
 std::string quoted(std::string_view typed) {

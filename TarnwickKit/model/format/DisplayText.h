@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace TarnwickKit::model {
 
@@ -18,6 +19,10 @@ int columnsOf(const QString& text);
 /// The harmless form of `text` in at most `columns` columns (1 or more). It is cut with an ellipsis between
 /// two characters as people see them (UAX #29). A letter with too many accents becomes one mark.
 QString fitted(const QString& text, int columns);
+
+/// One sentence about files that could not be opened. `names`: one or more, of any bytes. `isRun`: they are
+/// named like runs.
+QString refusal(const std::vector<std::string>& names, bool isRun);
 
 /// What a person typed, in quotes and on one line: its harmless form, with marks for invalid UTF-8, and cut
 /// if it is very long.

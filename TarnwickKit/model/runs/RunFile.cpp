@@ -48,7 +48,7 @@ ImportedRuns ImportedRuns::from(const std::vector<std::filesystem::path>& files)
             patience -= std::chrono::duration_cast<Milliseconds>(Clock::now() - begin);
         const auto run = answers ? decodedFile(file) : std::nullopt;
         if (!run) {
-            ++imported.unreadable;
+            imported.unreadable.push_back(file);
             continue;
         }
         imported.append({.runs = {*run}, .last = run, .readable = 1});
@@ -65,7 +65,7 @@ void ImportedRuns::append(ImportedRuns later) {
     if (later.last)
         last = std::move(later.last);
     readable += later.readable;
-    unreadable += later.unreadable;
+    unreadable.insert(unreadable.end(), later.unreadable.begin(), later.unreadable.end());
 }
 
 } // namespace TarnwickKit::model

@@ -27,10 +27,10 @@ struct ImportedRuns {
     std::vector<RunRecord> runs; ///< in the files' order; at most as many as a history keeps
     std::optional<RunRecord> last;
     std::size_t readable = 0;
-    std::size_t unreadable = 0;
+    std::vector<std::filesystem::path> unreadable{};
 
     /// Reads the files one by one. Threads: any; blocks on the file system. Files that do not answer take ten
-    /// seconds together, and a tenth of a second each after that. Fails: unreadable files are counted.
+    /// seconds together, and a tenth of a second each after that. Fails: unreadable files are listed.
     static ImportedRuns from(const std::vector<std::filesystem::path>& files);
 
     /// Adds the runs of later files.

@@ -2,12 +2,14 @@
 
 #include "OndelCore/volumes/FileUrl.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
+#include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/session/PropertyChange.h"
 
 #include <QFile>
 #include <QPointer>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace TarnwickKit::model {
@@ -61,6 +63,16 @@ void AnalyzerModel::connectParts() {
             setPhase(Phase::Idle);
     });
     connect(&m_library, &RunLibrary::shownAgain, this, [this] { setPhase(Phase::Done); });
+    connect(&m_library, &RunLibrary::unreadable, this, [this](const auto& files) {
+        std::vector<std::string> names;
+        for (const std::filesystem::path& file : files)
+            names.push_back(file.filename());
+        tellRefusal(model::refusal(names, true));
+    });
+    constexpr std::chrono::seconds readingTime(8);
+    m_refusalClock.setInterval(readingTime);
+    m_refusalClock.setSingleShot(true);
+    connect(&m_refusalClock, &QTimer::timeout, this, [this] { tellRefusal({}); });
     connect(&m_library, &RunLibrary::importShown, this, [this] {
         m_session.setResult(std::nullopt);
         setPhase(Phase::Done);
@@ -134,6 +146,15 @@ void AnalyzerModel::setPhase(Phase phase, const RunFailure& failure) {
     m_library.setShowsImports(!isRunning());
     Q_EMIT phaseChanged();
     announceCanRun();
+}
+
+void AnalyzerModel::refuse(const std::vector<std::string>& names) {
+    tellRefusal(model::refusal(names, false));
+}
+
+void AnalyzerModel::tellRefusal(const QString& sentence) {
+    m_refusalClock.start();
+    changeProperty(*this, m_refusal, sentence, &AnalyzerModel::refusalChanged);
 }
 
 QString AnalyzerModel::liveTestName() const { return liveTest() ? name(*liveTest()) : QString(); }

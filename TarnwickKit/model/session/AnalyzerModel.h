@@ -7,6 +7,7 @@
 #include "TarnwickKit/model/session/RunLibrary.h"
 #include "TarnwickKit/model/session/RunSession.h"
 
+#include <QTimer>
 #include <QUrl>
 
 namespace TarnwickKit::model {
@@ -160,6 +161,13 @@ public:
     /// The files are read on another thread, and stored later from the event loop.
     void importRuns(const std::vector<std::filesystem::path>& files) { m_library.importRuns(files); }
 
+    /// One sentence about what has just been asked for and cannot be opened; "" some seconds later.
+    Q_PROPERTY(QString refusal READ refusal NOTIFY refusalChanged)
+    const QString& refusal() const { return m_refusal; }
+    /// Tells of things that are neither folders nor runs. `names`: one or more.
+    void refuse(const std::vector<std::string>& names);
+    Q_SIGNAL void refusalChanged();
+
     // --- Comparison: see RunComparison
 
     Q_PROPERTY(bool compareMode READ compareMode NOTIFY compareModeChanged)
@@ -204,6 +212,7 @@ private:
     void runEnded(RunSession::Outcome outcome, const RunFailure& failure);
     void setPhase(Phase phase, const RunFailure& failure = {});
     void announceCanRun();
+    void tellRefusal(const QString& sentence);
 
     const AnalyzerServices m_services;
     AnalyzerTarget m_target{m_services};
@@ -214,6 +223,8 @@ private:
     Phase m_phase = Phase::Idle;
     RunFailure m_failure;
     bool m_couldRun = false;
+    QString m_refusal;
+    QTimer m_refusalClock;
 };
 
 } // namespace TarnwickKit::model

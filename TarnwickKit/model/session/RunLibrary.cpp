@@ -172,8 +172,10 @@ void RunLibrary::takeImported(const ImportedRuns& imported) {
     const bool isShown = m_showsImports;
     for (std::size_t run = 0; run < imported.readable; ++run)
         Log::app.notice("run imported", LogField::bool_("shown", isShown));
-    for (std::size_t run = 0; run < imported.unreadable; ++run)
+    for (std::size_t run = 0; run < imported.unreadable.size(); ++run)
         Log::app.error("run from another app couldn't be read");
+    if (!imported.unreadable.empty())
+        Q_EMIT unreadable(imported.unreadable);
     if (!isShown || !imported.last)
         return;
     setCurrentRun(imported.last);

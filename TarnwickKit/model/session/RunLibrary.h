@@ -75,6 +75,8 @@ public:
     void importRuns(const std::vector<std::filesystem::path>& files);
     /// Whether imported runs are shown, besides being stored.
     void setShowsImports(bool shows) { m_showsImports = shows; }
+    /// Files turned out to be no runs.
+    Q_SIGNAL void unreadable(const std::vector<std::filesystem::path>& files);
     /// An imported run is shown.
     Q_SIGNAL void importShown();
 

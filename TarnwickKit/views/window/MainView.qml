@@ -126,6 +126,8 @@ Rectangle {
         }
     }
     OnDemand {
+        id: undo
+
         active: main.analyzer.undoableRuns > 0
 
         UndoNote {
@@ -133,6 +135,17 @@ Rectangle {
             anchors.bottom: parent?.bottom
             anchors.bottomMargin: ViewMetrics.paneMargin
             analyzer: main.analyzer
+        }
+    }
+    OnDemand {
+        active: main.analyzer.refusal.length > 0
+
+        QuietLine {
+            anchors.horizontalCenter: parent?.horizontalCenter
+            anchors.bottom: parent?.bottom
+            anchors.bottomMargin: ViewMetrics.paneMargin * (undo.active ? 4 : 1) // above the note
+            greatestWidth: main.width - 2 * ViewMetrics.paneMargin
+            sentence: main.analyzer.refusal
         }
     }
 }

@@ -180,6 +180,10 @@ TEST_F(AnalyzerModelRuns, ImportsManyFilesWithOneSave) {
     EXPECT_EQ(HistoryStore(engine.history.path()).runs(), model.history().runs());
     EXPECT_EQ(logged().count("notice  app  run imported shown=true"), 120);
     EXPECT_EQ(logged().count("error  app  run from another app couldn't be read"), 1);
+    EXPECT_EQ(model.refusal(), "“missing” is damaged or not a Tarnwick run.");
+    model.refuse({"two\nlines\xff", "x"});
+    EXPECT_EQ(model.refusal(),
+              "“two\uFFFDlines\uFFFD” and 1 more are not folders or run files that can be opened.");
 }
 
 TEST_F(AnalyzerModelRuns, DropsRunsThatAnotherWindowDeleted) {
