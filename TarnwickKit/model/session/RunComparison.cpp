@@ -36,10 +36,20 @@ void RunComparison::clearSelection() {
     changeProperty(*this, m_selection, {}, &RunComparison::selectionChanged);
 }
 
+std::vector<const RunRecord*> RunComparison::listed() const {
+    std::vector<const RunRecord*> runs;
+    const auto& current = m_library.currentRun();
+    if (current)
+        runs.push_back(&*current);
+    for (const RunRecord& run : m_library.history().runs())
+        if (!current || run.id != current->id)
+            runs.push_back(&run);
+    return runs;
+}
+
 std::vector<RunRecord> RunComparison::comparableRuns() const {
-    std::vector<RunRecord> runs = m_library.previousRuns();
-    if (m_library.currentRun())
-        runs.insert(runs.begin(), *m_library.currentRun());
+    std::vector<RunRecord> runs;
+    std::ranges::transform(listed(), std::back_inserter(runs), [](const RunRecord* run) { return *run; });
     return runs;
 }
 
@@ -55,21 +65,20 @@ void RunComparison::begin() {
 }
 
 std::optional<RunRecord> RunComparison::lastOfVolume(const QUuid& id) const {
-    const std::vector<RunRecord> runs = comparableRuns();
+    const auto runs = listed();
     const auto run = std::ranges::find(runs, id, &RunRecord::id);
     if (run == runs.end())
         return std::nullopt;
     const auto last = std::find_if(std::next(run), runs.end(),
-                                   [&](const RunRecord& other) { return areOfOneVolume(*run, other); });
-    return last == runs.end() ? std::nullopt : std::optional(*last);
+                                   [&](const RunRecord* other) { return areOfOneVolume(**run, *other); });
+    return last == runs.end() ? std::nullopt : std::optional(**last);
 }
 
 void RunComparison::beginWithLast(const QUuid& id) {
     const auto last = lastOfVolume(id);
-    if (!last)
-        return;
-    const std::vector<RunRecord> runs = comparableRuns();
-    open({*std::ranges::find(runs, id, &RunRecord::id), *last});
+    const auto runs = listed();
+    if (last)
+        open({**std::ranges::find(runs, id, &RunRecord::id), *last});
 }
 
 void RunComparison::open(std::vector<RunRecord> runs) {

@@ -25,7 +25,7 @@ public:
     void toggleMode();
     Q_SIGNAL void modeChanged();
     /// There are at least two runs to pick from.
-    bool canCompare() const { return comparableRuns().size() >= 2; }
+    bool canCompare() const { return listed().size() >= 2; }
 
     const std::set<QUuid>& selection() const { return m_selection; }
     void toggleSelection(const QUuid& id);
@@ -52,6 +52,8 @@ public:
     Q_SIGNAL void referenceChanged();
 
 private:
+    /// Those of comparableRuns; valid until a run changes.
+    std::vector<const RunRecord*> listed() const;
     void open(std::vector<RunRecord> runs);
     void setMode(bool mode);
     void setRuns(std::optional<std::vector<RunRecord>> runs);

@@ -32,9 +32,9 @@ struct ThroughputContent {
     QColor temperature;
     QColor grid;
     QColor label;
-    QString axisUnit;    ///< below the largest label of the rates; none if empty
+    QString axisUnit{};  ///< below the largest label of the rates; none if empty
     bool marked = false; ///< sustained parts, peaks and lowest points; not for live charts
-    QColor ground;       ///< around the marks
+    QColor ground{};     ///< around the marks
 };
 
 /// Paints throughput charts. Points appended to a live chart cost only their own drawing.
