@@ -125,27 +125,26 @@ Rectangle {
             }
         }
     }
-    OnDemand {
-        id: undo
+    Column {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: ViewMetrics.paneMargin
+        spacing: ViewMetrics.paneMargin / 2
 
-        active: main.analyzer.undoableRuns > 0
+        OnDemand {
+            active: main.analyzer.refusal.length > 0
 
-        UndoNote {
-            anchors.horizontalCenter: parent?.horizontalCenter
-            anchors.bottom: parent?.bottom
-            anchors.bottomMargin: ViewMetrics.paneMargin
-            analyzer: main.analyzer
+            QuietLine {
+                greatestWidth: main.width - 2 * ViewMetrics.paneMargin
+                sentence: main.analyzer.refusal
+            }
         }
-    }
-    OnDemand {
-        active: main.analyzer.refusal.length > 0
+        OnDemand {
+            active: main.analyzer.undoableRuns > 0
 
-        QuietLine {
-            anchors.horizontalCenter: parent?.horizontalCenter
-            anchors.bottom: parent?.bottom
-            anchors.bottomMargin: ViewMetrics.paneMargin * (undo.active ? 4 : 1) // above the note
-            greatestWidth: main.width - 2 * ViewMetrics.paneMargin
-            sentence: main.analyzer.refusal
+            UndoNote {
+                analyzer: main.analyzer
+            }
         }
     }
 }

@@ -9,6 +9,7 @@
 #include "TarnwickKit/views/sharing/ViewPicture.h"
 #include "TarnwickKit/views/style/LegibleText.h"
 #include "tests/TarnwickKit/model/ModelHarness.h"
+#include "tests/TarnwickKit/views/Pictures.h"
 #include "tests/TarnwickKit/views/Runs.h"
 
 #include <QClipboard>
@@ -69,30 +70,12 @@ void expectCard(const ImageFile& file, const Palette& palette) {
     }
 }
 
-/// All items of a card in reading order.
-QList<const QQuickItem*> itemsOf(const QQuickItem& item) {
-    QList<const QQuickItem*> all{&item};
-    const auto children = item.childItems();
-    for (const QQuickItem* child : children)
-        if (child->isVisible())
-            all << itemsOf(*child);
-    return all;
-}
-
-QStringList texts(const QQuickItem& card) {
-    QStringList all;
-    for (const QQuickItem* item : itemsOf(card))
-        if (item->inherits("QQuickText"))
-            all << item->property("text").toString();
-    return all;
-}
-
 QStringList cardTexts(const RunRecord& run) {
     const auto card = newCard(QStringLiteral("ReportCard"),
                               {{QStringLiteral("run"), QVariant::fromValue(run)},
                                {QStringLiteral("link"), QStringLiteral("example.org")}},
                               Palette::light());
-    return texts(*card);
+    return test::texts(*card);
 }
 
 TEST(ReportImage, IsACardWithACodeThatCamerasRead) {
@@ -276,14 +259,14 @@ TEST(ComparisonChart, HasBarsInTheColorsOfTheRuns) {
                               {{QStringLiteral("runs"), QVariant::fromValue(ComparedRuns{eightRuns()})},
                                {QStringLiteral("link"), QString()}},
                               Palette::dark());
-    QString all = texts(*card).join(u'\n');
+    QString all = test::texts(*card).join(u'\n');
     EXPECT_TRUE(all.contains(
         QStringLiteral("Random read\nIOPS\n--\n--\n--\n5\n--\n--\n--\n--\nRandom write\nIOPS\n0\n0")));
     EXPECT_TRUE(all.contains(QStringLiteral("8 benchmarks compared")));
     EXPECT_FALSE(all.contains(QStringLiteral("File ops")));
 
     std::vector<std::pair<double, QColor>> bars; // of a height no other card has, one in each track
-    for (const QQuickItem* item : itemsOf(*card))
+    for (const QQuickItem* item : test::itemsOf(*card))
         if (const auto* track = qobject_cast<const OndelControls::Card*>(item);
             track && track->height() == 15 && track->color() == Palette::dark().track) {
             ASSERT_EQ(track->width(), 460);

@@ -30,6 +30,25 @@ inline double distance(const QImage& a, const QImage& b) {
     return std::sqrt(sum / (4.0 * a.width() * a.height()));
 }
 
+/// The item and all visible ones in it, in reading order.
+inline QList<const QQuickItem*> itemsOf(const QQuickItem& item) {
+    QList<const QQuickItem*> all{&item};
+    const auto children = item.childItems();
+    for (const QQuickItem* child : children)
+        if (child->isVisible())
+            all << itemsOf(*child);
+    return all;
+}
+
+/// What is written in it.
+inline QStringList texts(const QQuickItem& card) {
+    QStringList all;
+    for (const QQuickItem* item : itemsOf(card))
+        if (item->inherits("QQuickText"))
+            all << item->property("text").toString();
+    return all;
+}
+
 /// Draws a piece of QML off screen, as often as asked.
 class Stage {
 public:
