@@ -19,11 +19,6 @@ def rows(window):
             if node.get_description() == "Delete this run" and window.shows(node, "SHOWING")]
 
 
-def quietly(window):
-    ended = window.terminate()
-    check(ended == (0, ""), f"ended with {ended}")
-
-
 def measures_and_names(program, folder):
     with driver.Window(program, folder) as window:
         window.until("the saved runs", lambda: rows(window) == SAVED)
@@ -49,7 +44,7 @@ def measures_and_names(program, folder):
         window.find("Delete Run", "menu item")
         window.keys("Escape")
         window.gone("Delete Run", "menu item")
-        quietly(window)
+        window.quits()
 
 
 def finds_opens_and_deletes(program):
@@ -90,7 +85,7 @@ def finds_opens_and_deletes(program):
         window.press("Delete Run", "menu item")
         window.until("its end", lambda: rows(window) == ["First run", "Old drive", "media"])
         window.gone("Run deleted")
-        quietly(window)
+        window.quits()
 
 
 def compares_and_clears(program):
@@ -117,7 +112,7 @@ def compares_and_clears(program):
         window.press("Clear")
         window.press("Delete All")
         window.gone("Previous runs")
-        quietly(window)
+        window.quits()
 
 
 if __name__ == "__main__":

@@ -104,8 +104,6 @@ if __name__ == "__main__":
     program, source, *only = sys.argv[1:]
     with driver.fast_folder() as name, desktop_of("behind") as desktop:
         check(desktop.stdout.readline() == b"ready\n", "the fake desktop did not start")
-        for case in (follows_the_colour_scheme, keeps_the_machine_awake_and_gives_notice, opens_through_the_file_dialog, sends_by_email):
-            if only and case.__name__ not in only:
-                continue
-            print(case.__name__.replace("_", " "), flush=True)
+        cases = (follows_the_colour_scheme, keeps_the_machine_awake_and_gives_notice, opens_through_the_file_dialog, sends_by_email)
+        for case in driver.chosen(cases, only):
             case(program, pathlib.Path(name), desktop)

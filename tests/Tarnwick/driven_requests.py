@@ -108,13 +108,13 @@ def many_runs_come_in_one_go(program, folder):
         status, words = ended(program, "no \x1b[31m folder")
         check(status == 0 and "'no \N{REPLACEMENT CHARACTER}[31m folder'" in words, f"it says {words!r}")
         window.settled()  # Qt warns about an end during an animation
-        check(window.terminate() == (0, ""), "it does not end quietly")
+        window.quits()
     with driver.Window(program, *files[:120]) as window:
         shows_run(window, 119)
         shows_all_rows(window)
         check(stored()[0] == "Run 119" and len(stored()) == 50, f"stored from the start: {stored()}")
         window.settled()  # Qt warns about an end during an animation
-        check(window.terminate() == (0, ""), "it does not end quietly")
+        window.quits()
 
 
 def waits_for_a_stopped_process(program, folder):
@@ -127,7 +127,7 @@ def waits_for_a_stopped_process(program, folder):
         check(len(driver.windows(TITLE)) == 1, f"windows: {driver.windows(TITLE)}")
         first.process.send_signal(signal.SIGCONT)
         first.find("Ready to benchmark")
-        check(first.terminate() == (0, ""), "the first does not end quietly")
+        first.quits()
 
 
 def starts_without_a_bus(program, folder):
@@ -158,7 +158,7 @@ def ends_the_launch_feedback(program, folder, source):
         check(subprocess.run([program], env=os.environ | {"DESKTOP_STARTUP_ID": mark}).returncode == 0, "a second start does not hand over")
         told = launch_that_ended(desktop)
         check(told == 'remove: ID="a desktop\'s \\"mark\\"_TIME7"', f"the desktop heard {told}")
-        check(window.terminate() == (0, ""), "it does not end quietly")
+        window.quits()
 
 
 def opens_what_it_is_given(program, folder):
@@ -200,7 +200,7 @@ def opens_what_it_is_given(program, folder):
         window.find("Ready", "status bar")
         shows_run(window, 3)
         nothing_left(work)
-        check(window.terminate() == (0, ""), "it does not end quietly")
+        window.quits()
 
 
 def leaves_nothing_without_a_display(program, folder):
@@ -292,7 +292,7 @@ def goes_by_menu(program, folder):
         summary = window.find("Summary — a one-line description")
         check(window.atspi.Text.get_text(summary, 0, -1) == "kept", "the typed text is lost")
         window.keys("Escape")
-        check(window.terminate() == (0, ""), "it does not end quietly")
+        window.quits()
 
 
 def hears_of(desktop):
@@ -350,7 +350,7 @@ def notifies_the_desktop_of_runs(program, folder, source):
             told("withdrawn")
             start(window, folder)
             told("awake")
-            check(window.terminate() == (0, ""), "it does not end quietly")
+            window.quits()
             told("asleep")
 
 
@@ -366,7 +366,7 @@ def stays_awake_when_the_portal_refuses(program, folder):
             window.press("Stop")
             told("unlocked")
             window.find("Ready", "status bar")
-            check(window.terminate() == (0, ""), "it does not end quietly")
+            window.quits()
 
 
 WAYS_TO_OPEN = dict(zip(("preparation", *TESTS), (os.O_WRONLY, os.O_WRONLY, os.O_RDONLY, os.O_RDONLY, os.O_RDWR)))
@@ -423,12 +423,10 @@ ONLY_ON_X11 = (starts_without_a_bus, ends_the_launch_feedback, notifies_the_desk
 if __name__ == "__main__":
     driver.enter_display()
     program, source, *only = sys.argv[1:]
-    for case in (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_a_stopped_process,
+    cases = (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_a_stopped_process,
                  starts_without_a_bus, opens_what_it_is_given, goes_by_menu,
                  ends_the_launch_feedback, notifies_the_desktop_of_runs, stays_awake_when_the_portal_refuses, ends_in_every_phase,
-                 leaves_nothing_without_a_display, takes_what_is_dropped):
-        if (only and case.__name__ not in only) or (case in ONLY_ON_X11 and not isinstance(driver.display, driver.X11)):
-            continue
-        print(case.__name__.replace("_", " "), flush=True)
+                 leaves_nothing_without_a_display, takes_what_is_dropped)
+    for case in driver.chosen(cases, only, [] if isinstance(driver.display, driver.X11) else ONLY_ON_X11):
         with driver.fast_folder() as name:
             case(program, pathlib.Path(name), *([source] if "source" in case.__code__.co_varnames else []))

@@ -3,7 +3,6 @@
 
 import os
 import pathlib
-import signal
 import subprocess
 import sys
 
@@ -75,7 +74,7 @@ def compares_and_shares(program, home, folder):
         share(window, "Copy Image")
         window.find("Image copied")
         check((where / "Ondel Tarnwick — SD card.png").exists(), "no report image")
-        check(window.terminate() == (0, ""), "it does not end quietly")
+        window.quits()
 
 
 def draws_alike_in_both_renderers(program, home, folder):
@@ -90,7 +89,7 @@ def draws_alike_in_both_renderers(program, home, folder):
         compared = subprocess.run(["compare", "-metric", "RMSE", home / "software.png", image, "null:"], capture_output=True, text=True)
         difference = float(compared.stderr.split("(")[1].rstrip(")"))
         check(0 < difference < 0.02, f"they differ by {compared.stderr}")
-        check(window.terminate() == (0, ""), "it does not end quietly")
+        window.quits()
 
 
 def says_what_cannot_be_done(program, home, _folder):
@@ -112,7 +111,7 @@ def says_what_cannot_be_done(program, home, _folder):
         window.press("Share")
         window.settled()
         check(window.look("Copy Image", "menu item") is None, "a menu without an image")
-        check(window.end(signal.SIGTERM) == (0, ""), "it does not end quietly")
+        window.quits()
 
 
 if __name__ == "__main__":
@@ -126,8 +125,5 @@ if __name__ == "__main__":
         script.chmod(0o755)
     saved_runs.lay_down([saved_runs.run(i) for i in range(4)])
     with driver.fast_folder() as name:
-        for case in (compares_and_shares, draws_alike_in_both_renderers, says_what_cannot_be_done):
-            if only and case.__name__ not in only:
-                continue
-            print(case.__name__.replace("_", " "), flush=True)
+        for case in driver.chosen((compares_and_shares, draws_alike_in_both_renderers, says_what_cannot_be_done), only):
             case(program, home, pathlib.Path(name))

@@ -104,6 +104,14 @@ def check(holds, what):
         raise Failure(what)
 
 
+def chosen(cases, names, left_out=()):
+    """The cases with these names, or all. Says which one begins."""
+    for case in cases:
+        if (not names or case.__name__ in names) and case not in left_out:
+            print(case.__name__.replace("_", " "), flush=True)
+            yield case
+
+
 def appearing(title):
     """Waits for a visible window with that title."""
     end = time.monotonic() + GUARD_SECONDS
@@ -319,6 +327,11 @@ class Window:
 
     def terminate(self):
         return self.end(signal.SIGTERM)
+
+    def quits(self):
+        """Ends it as the end of a session does. It must end in order and without a word."""
+        ended = self.terminate()
+        check(ended == (0, ""), f"it ends with {ended}")
 
     def tree(self):
         lines = []

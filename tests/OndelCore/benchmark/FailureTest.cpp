@@ -53,37 +53,8 @@ auto failingAt(int call, int error, Transfer transfer) {
     };
 }
 
-TEST_F(Failure, AFailingTransferEndsTheRunWithItsName) {
-    const auto plan = [](BenchmarkTest test) { return smallPlan({test}, BenchmarkSize::fixed(8 * 4096)); };
-    struct Case {
-        BenchmarkPlan plan;
-        std::function<void(FakeSystem&)> bend;
-        std::string text;
-    };
-    const Case cases[]{
-        {plan(sequentialWrite), [](auto& s) { s.write = failingAt(3, EIO, s.write); },
-         "write: Input/output error"},
-        {plan(sequentialWrite), [](auto& s) { s.write = failingAt(3, ENOSPC, s.write); },
-         "write: No space left on device"},
-        {plan(sequentialRead), [](auto& s) { s.write = failingAt(3, EIO, s.write); },
-         "write(prepare): Input/output error"},
-        {plan(sequentialRead), [](auto& s) { s.read = failingAt(3, EIO, s.read); },
-         "read: Input/output error"},
-        {plan(randomRead), [](auto& s) { s.pread = failingAt(3, EIO, s.pread); },
-         "pread: Input/output error"},
-        {plan(randomWrite), [](auto& s) { s.pwrite = failingAt(3, EROFS, s.pwrite); },
-         "pwrite: Read-only file system"},
-        {smallPlan({randomRead}, BenchmarkSize::fixed(4095)), [](auto&) {},
-         "file too small for a random block"},
-    };
-    for (const Case& each : cases) {
-        FakeSystem bent;
-        each.bend(bent);
-        EXPECT_EQ(bent.failureOf(each.plan, folder.path()), each.text);
-    }
-}
-
-TEST_F(Failure, AFolderThatVanishesIsNoticedAtTheNextName) {
+/// A transfer that fails, and a folder that vanishes before the next name in it is used.
+TEST_F(Failure, EndsTheRunWithTheNameOfTheCall) {
     const auto vanish = [this] {
         for (const auto& entry : fs::directory_iterator(folder.path()))
             fs::remove_all(entry);
@@ -97,18 +68,25 @@ TEST_F(Failure, AFolderThatVanishesIsNoticedAtTheNextName) {
     const auto atFileOp = [&](std::int64_t steps) {
         return [&, steps](FakeSystem& bent) {
             bent.onProgress = [&, steps](const auto& now) {
-                if (now.completedBytes == steps)
-                    vanish();
+                now.completedBytes == steps ? vanish() : void();
             };
         };
     };
-    struct Case {
+    const std::string missing = "No such file or directory";
+    const struct {
         BenchmarkTest test;
         std::function<void(FakeSystem&)> bend;
         std::string text;
-    };
-    const std::string missing = "No such file or directory";
-    const Case cases[]{
+    } cases[]{
+        {sequentialWrite, [](auto& s) { s.write = failingAt(3, EIO, s.write); }, "write: Input/output error"},
+        {sequentialWrite, [](auto& s) { s.write = failingAt(3, ENOSPC, s.write); },
+         "write: No space left on device"},
+        {sequentialRead, [](auto& s) { s.write = failingAt(3, EIO, s.write); },
+         "write(prepare): Input/output error"},
+        {sequentialRead, [](auto& s) { s.read = failingAt(3, EIO, s.read); }, "read: Input/output error"},
+        {randomRead, [](auto& s) { s.pread = failingAt(3, EIO, s.pread); }, "pread: Input/output error"},
+        {randomWrite, [](auto& s) { s.pwrite = failingAt(3, EROFS, s.pwrite); },
+         "pwrite: Read-only file system"},
         {sequentialWrite, beforeFirstOpen, "open(write): " + missing},
         {sequentialRead, beforeFirstOpen, "open(prepare): " + missing},
         {sequentialRead, afterTheFile, "open(read): " + missing},
@@ -117,13 +95,15 @@ TEST_F(Failure, AFolderThatVanishesIsNoticedAtTheNextName) {
         {fileOps, atFileOp(256), "rename: " + missing}, // the phase of lstat complains of nothing
         {fileOps, atFileOp(768), "unlink: " + missing},
     };
-    for (const Case& each : cases) {
+    for (const auto& [test, bend, text] : cases) {
         FakeSystem bent;
-        each.bend(bent);
-        auto plan = smallPlan({each.test}, BenchmarkSize::fixed(8192));
+        bend(bent);
+        auto plan = smallPlan({test}, BenchmarkSize::fixed(8 * 4096));
         plan.fileOpCount = 256;
-        EXPECT_EQ(bent.failureOf(plan, folder.path()), each.text);
+        EXPECT_EQ(bent.failureOf(plan, folder.path()), text);
     }
+    EXPECT_EQ(system.failureOf(smallPlan({randomRead}, BenchmarkSize::fixed(4095)), folder.path()),
+              "file too small for a random block");
 }
 
 TEST_F(Failure, CancelTakesEffectBeforeTheNextCall) {
