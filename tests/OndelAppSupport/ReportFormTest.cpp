@@ -13,18 +13,12 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 
 using namespace OndelAppSupport;
 using OndelCore::logging::LogStore;
 using OndelCore::logging::Redact;
 
 namespace {
-
-QString content(const std::filesystem::path& file) {
-    std::ifstream stream(file);
-    return QString::fromStdString({std::istreambuf_iterator<char>(stream), {}});
-}
 
 /// A form with a service whose answers the test chooses.
 struct Desk {
@@ -82,7 +76,7 @@ TEST(ReportForm, RequiresThreeAndFiveCharacters) {
 TEST(ReportForm, SendsWhatThePreviewShows) {
     Desk desk;
     const QString file = desk.form.writePreview();
-    EXPECT_EQ(content(file.toStdString()), "snapshot 1");
+    EXPECT_EQ(test::contentOf(file.toStdString()), "snapshot 1");
     desk.form.setAttachDiagnostics(true);
     desk.form.send();
     desk.finish(ReportError(ReportError::Network()));
@@ -207,7 +201,7 @@ TEST(Diagnostics, AreWrittenToAPrivateFile) {
     ASSERT_TRUE(file);
     EXPECT_EQ(file->filename(), "Ondel Tarnwick Diagnostics.txt");
     EXPECT_EQ(fs::status(*file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-    EXPECT_EQ(content(*file), "Größe");
+    EXPECT_EQ(test::contentOf(*file), "Größe");
 
     const test::TemporaryFolder folder;
     fs::create_directories(folder.path() / "Ondel Tarnwick Diagnostics.txt" / "in the way");

@@ -9,8 +9,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 
 namespace fs = std::filesystem;
@@ -18,11 +16,6 @@ namespace fs = std::filesystem;
 namespace test {
 
 namespace {
-
-std::string contents(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 void put(int descriptor, const fs::path& file) {
     const int opened = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
@@ -114,8 +107,8 @@ HostOutcome HostProcess::wait() {
     waitpid(m_process, &status, 0);
     m_process = -1;
     return {.exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-            .output = contents(m_files.path() / "output"),
-            .errors = m_terminal >= 0 ? m_shown : contents(m_files.path() / "errors")};
+            .output = contentOf(m_files.path() / "output"),
+            .errors = m_terminal >= 0 ? m_shown : contentOf(m_files.path() / "errors")};
 }
 
 HostOutcome runHost(std::vector<std::string> arguments, Output output) {

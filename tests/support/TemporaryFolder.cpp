@@ -2,7 +2,8 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <string>
+#include <fstream>
+#include <iterator>
 #include <system_error>
 
 namespace fs = std::filesystem;
@@ -19,6 +20,11 @@ TemporaryFolder::TemporaryFolder(const fs::path& parent) {
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;
     fs::remove_all(m_path, ignored);
+}
+
+std::string contentOf(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 } // namespace test

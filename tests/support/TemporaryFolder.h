@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace test {
 
@@ -19,5 +20,8 @@ public:
 private:
     std::filesystem::path m_path;
 };
+
+/// All bytes of a file; none if it cannot be read.
+std::string contentOf(const std::filesystem::path& file);
 
 } // namespace test

@@ -281,6 +281,7 @@ TEST_F(Observed, LatenciesAndPausesOfSingleOperations) {
     const auto random = system.run(plan, folder.path()).randomRead.value();
     EXPECT_NEAR(random.latency->p50, 1e-6, 1e-8);
     EXPECT_NEAR(random.latency->p99, 90e-6, 1e-6);
+    EXPECT_NEAR(random.latency->p999, 90e-6, 1e-6);
     EXPECT_DOUBLE_EQ(random.latency->worst, 3);
     EXPECT_DOUBLE_EQ(random.evidence.longestPause, 3);
     EXPECT_EQ(random.evidence.longPauses, 1);

@@ -15,10 +15,10 @@
 #include <unistd.h>
 
 #include <fstream>
-#include <sstream>
 
 using namespace OndelCore::benchmark;
 using namespace OndelCore::platform;
+using test::contentOf;
 using test::everyTest;
 using test::FakeSystem;
 using test::smallPlan;
@@ -29,12 +29,6 @@ namespace {
 
 const BenchmarkPlan wholePlan = smallPlan(everyTest, BenchmarkSize::fixed(65536));
 constexpr auto precious = "what must not be lost";
-
-std::string contentOf(const fs::path& file) {
-    std::ostringstream content;
-    content << std::ifstream(file).rdbuf();
-    return content.str();
-}
 
 fs::path workingFolderIn(const fs::path& folder) {
     for (const auto& entry : fs::directory_iterator(folder))

@@ -10,18 +10,12 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <string>
 
 namespace test {
 
 using namespace OndelCore::logging;
-
-inline std::string contentOf(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 /// A Log of category "test" with its own store, file and journal, for a user chosen by the test.
 class CapturedLog {

@@ -2,10 +2,8 @@
 
 #include <QTimeZone>
 
-#include <fstream>
 #include <latch>
 #include <map>
-#include <sstream>
 
 namespace TarnwickKit::model {
 
@@ -260,9 +258,7 @@ TEST_F(AnalyzerModelTarget, ExportsTheHealth) {
     EXPECT_EQ(dialogs.asked, QStringList("S.M.A.R.T. ACME 2026-03-14.txt"));
     dialogs.answer = file("report.txt");
     model.exportSMART();
-    std::stringstream written;
-    written << std::ifstream(*dialogs.answer).rdbuf();
-    EXPECT_NE(written.str().find("Power on"), std::string::npos);
+    EXPECT_NE(test::contentOf(*dialogs.answer).find("Power on"), std::string::npos);
     dialogs.asked.clear();
     dialogs.answer = file("no such folder/report.txt");
     model.exportSMART();

@@ -29,11 +29,6 @@ using test::fullRun;
 
 namespace {
 
-QByteArray content(const std::filesystem::path& path) {
-    QFile file(QString::fromStdString(path.string()));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// The text that a QR reader decodes from a picture.
 QString scanned(const std::filesystem::path& picture) {
     QProcess reader;
@@ -88,11 +83,12 @@ TEST(ReportImage, IsACardWithACodeThatCamerasRead) {
             const ImageFile file = ReportImage::render(run, *palette);
             expectCard(file, *palette);
             ASSERT_TRUE(file);
-            const QByteArray bytes = content(*file);
+            const QByteArray bytes = QByteArray::fromStdString(test::contentOf(*file));
             const auto later = ReportImage::renderLater(run, *palette).result();
             ASSERT_TRUE(later);
             EXPECT_EQ(later->path, *file) << "replaces the one before";
-            EXPECT_EQ(content(*file), bytes) << "the same run gives the same bytes";
+            EXPECT_EQ(QByteArray::fromStdString(test::contentOf(*file)), bytes)
+                << "the same run gives the same bytes";
             EXPECT_EQ(later->bytes, bytes);
         }
     EXPECT_EQ(link(), OndelAppSupport::AppIdentity::tarnwick().website.toString());
