@@ -118,6 +118,15 @@ TEST(Submission, HandlesEveryAnswer) {
     EXPECT_EQ(elsewhere.connections(), 0);
 }
 
+TEST(Submission, SendsAnEmptySecretWhenTheBuildHasNone) {
+    HttpsServer server;
+    auto unconfigured = service(server.url());
+    unconfigured.secret.clear();
+    EXPECT_EQ(outcome(BugReporter::submit({}, unconfigured)), refusal(QString(rejected).arg(404)));
+    ASSERT_TRUE(server.requests().value(0).headers.contains("x-ondel-app-secret"));
+    EXPECT_EQ(server.requests().value(0).headers.value("x-ondel-app-secret"), "");
+}
+
 TEST(Submission, ReportsTheSystemsErrorWithoutAnAnswer) {
     for (const HttpsServer::Answer& answer :
          {HttpsServer::Answer{0, {}, {}, Ending::cut}, {500, "{\"error\": \"cut", {}, Ending::cut}}) {

@@ -19,6 +19,8 @@
 
 #include <algorithm>
 #include <fstream>
+#include <string>
+#include <vector>
 
 using namespace OndelCore::volumes;
 using OndelCore::platform::FileDescriptor;
@@ -156,6 +158,27 @@ TEST(RealVolumes, AreListedDespiteOneThatNeverAnswers) {
     EXPECT_EQ(found->format, "SSHFS");
     EXPECT_FALSE(found->total);
 }
+
+/// File systems of the kernel or a FUSE program, whichever is available. The type is that on the device.
+struct Foreign {
+    const char* type;
+    std::vector<std::string> format;
+};
+
+class ForeignVolume : public testing::TestWithParam<Foreign> {};
+
+TEST_P(ForeignVolume, HasTheTypeOfItsDevice) {
+    const test::LoopMount disk(GetParam().type, 64 * mebibyte, {}, GetParam().format);
+    SKIP_WITHOUT(disk);
+    EXPECT_EQ(VolumeInfo::load(Location::local(disk.path()))->name, "STICK");
+    EXPECT_EQ(VolumeCapabilities::probe(disk.path())->filesystemType, GetParam().type);
+    EXPECT_FALSE(VolumeCapabilities::probe(disk.path())->supportsCloning);
+    EXPECT_EQ(listedBelow(disk.path()), std::vector<fs::path>{disk.path()});
+}
+
+INSTANTIATE_TEST_SUITE_P(Types, ForeignVolume,
+                         testing::Values(Foreign{"vfat", {"-n", "STICK"}}, Foreign{"exfat", {"-L", "STICK"}}),
+                         [](const auto& kind) { return std::string(kind.param.type); });
 
 /// With a FUSE program, on a loop device and directly from the image.
 TEST(RealVolumes, OfNtfsHaveTheFactsOfTheirFuseProgram) {
