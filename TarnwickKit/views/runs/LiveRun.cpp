@@ -25,6 +25,9 @@ constexpr std::chrono::milliseconds pace(40);
 constexpr int ticksPerBeat = 2;
 constexpr int ticksPerTelling = 13; ///< a little more than half a second
 constexpr int tellingsPerSpeaking = 2;
+/// A sequential test that tells nothing for so long stands still. Other tests tell of every few hundredth
+/// operation, which may take seconds.
+constexpr int ticksOfStandstill = 40;
 
 LiveTest itemOf(const LiveProgress::Test& test) {
     LiveTest item{.title = model::shortTitle(test.test), .figure = {}, .sentence = {}};
@@ -90,6 +93,7 @@ void LiveRun::setAnalyzer(AnalyzerModel* analyzer) {
 }
 
 void LiveRun::tick() {
+    ++m_stillTicks;
     if (std::exchange(m_hasNews, false))
         read();
     ++m_ticks;
@@ -104,6 +108,7 @@ void LiveRun::tick() {
 }
 
 void LiveRun::read() {
+    m_stillTicks = 0;
     m_completedBytes = m_analyzer ? static_cast<double>(m_analyzer->completedBytes()) : 0;
     m_totalBytes = m_analyzer ? static_cast<double>(m_analyzer->totalBytes()) : 0;
     if (m_analyzer && !m_analyzer->liveProgress().points().empty())
@@ -170,10 +175,9 @@ void LiveRun::readTimeLeft() {
 
 void LiveRun::tell() {
     const auto test = m_analyzer ? m_analyzer->liveTest() : std::nullopt;
-    const auto rate = test ? m_analyzer->liveProgress().rate() : std::nullopt;
-    m_figure = rate ? model::rateFigure(*test, *rate) : QString();
     m_unit = test ? model::rateUnit(*test) : QString();
     m_share = m_totalBytes > 0 ? std::clamp(m_completedBytes / m_totalBytes, 0.0, 1.0) : 0;
+    m_figure = test ? rateNow(*test) : QString();
     const auto amount = [&](auto&& show) {
         return tr("%1 of %2").arg(show(m_completedBytes), show(m_totalBytes));
     };
@@ -183,6 +187,18 @@ void LiveRun::tell() {
         m_amount = amount([](double bytes) { return Format::bytes(static_cast<std::int64_t>(bytes)); });
     tellRun();
     Q_EMIT told();
+}
+
+/// At the end of its file a test flushes; at which rate is not known.
+QString LiveRun::rateNow(BenchmarkTest test) const {
+    auto rate = m_analyzer->liveProgress().rate();
+    const bool isSequential = test == BenchmarkTest::sequentialWrite || test == BenchmarkTest::sequentialRead;
+    if (isSequential && m_stillTicks > ticksOfStandstill) {
+        if (m_share >= 1)
+            return {};
+        rate = 0;
+    }
+    return rate ? model::rateFigure(test, *rate) : QString();
 }
 
 void LiveRun::tellRun() {

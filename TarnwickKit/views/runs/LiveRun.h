@@ -106,6 +106,7 @@ private:
     void readTemperatures();
     void readTimeLeft();
     void tell();
+    QString rateNow(OndelCore::benchmark::BenchmarkTest test) const;
     void tellRun();
     void speak();
     void listTests();
@@ -115,6 +116,7 @@ private:
     QElapsedTimer m_time;
     int m_ticks = 0;
     int m_beat = 0;
+    int m_stillTicks = 0; ///< since the last news
     bool m_hasNews = false;
     bool m_isOther = false; ///< the samples are of another run or test than the points
     double m_completedBytes = 0;

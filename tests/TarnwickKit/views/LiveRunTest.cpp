@@ -135,6 +135,18 @@ TEST(LiveRun, TellsEachTestInItsOwnUnit) {
     watched.engine.last().finish({}); // the model waits for it
 }
 
+TEST(LiveRun, TellsAStandstill) {
+    Watched watched;
+    for (const std::int64_t done : {50, 100}) {
+        for (const double elapsed : {0.5, 1.0})
+            watched.model.apply(
+                {BenchmarkTest::sequentialWrite, done * 1'000'000, 100'000'000, 1e8, elapsed});
+        const int before = watched.tellings;
+        turnUntil([&] { return watched.tellings >= before + 5; });
+        EXPECT_EQ(watched.run.property("figure").toString(), done == 50 ? "0" : "");
+    }
+}
+
 TEST(LiveRun, RoundsTheTimeLeft) {
     for (const auto& [left, text] : {std::pair<double, const char*>{0, "A few seconds left"},
                                      {5, "A few seconds left"},
