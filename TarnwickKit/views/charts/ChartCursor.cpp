@@ -32,7 +32,7 @@ QVariantList ChartCursor::values() const {
         if (const auto rate = rateAt(series->points(), *m_time))
             values << QVariant::fromValue(ChartValue{
                 .text = QStringLiteral("%1: %2 %3")
-                            .arg(series->name(), model::Format::mbValue(*rate * 1e6), m_chart->axisUnit()),
+                            .arg(series->name(), model::Format::mbValue(*rate * 1e6), series->unit()),
                 .color = series->color(),
                 .y = plot.map({*m_time, *rate}).y()});
     return values;

@@ -58,7 +58,6 @@ Item {
                 text: reading.cursor.time
                 font: Typeface.mono(11)
                 color: reading.PaletteKey.palette.text2
-                Accessible.name: "" // else each move would be announced
                 Accessible.ignored: true
             }
             Repeater {

@@ -34,7 +34,6 @@ Item {
         anchors.right: parent.right
         anchors.leftMargin: key.side + 7
         color: key.textColor
-        Accessible.name: key.spoken ? text : ""
         Accessible.ignored: !key.spoken
     }
 }

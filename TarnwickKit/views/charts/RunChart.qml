@@ -44,12 +44,14 @@ ColumnLayout {
         Layout.preferredHeight: ViewMetrics.chartHeight
         Layout.leftMargin: ViewMetrics.cardPadding
         Layout.rightMargin: ViewMetrics.cardPadding
-        Layout.bottomMargin: view.isExplained ? 8 : ViewMetrics.cardPadding
+        Layout.bottomMargin: explanation.active ? 8 : ViewMetrics.cardPadding
         axisUnit: view.isExplained ? "MB/s" : ""
         marked: view.isExplained
         readable: view.isExplained
 
         RunSeries {
+            id: reading
+
             name: qsTr("Read")
             run: view.run
             curve: RunSeries.Read
@@ -57,6 +59,8 @@ ColumnLayout {
             fill: PaletteKey.palette.readFill
         }
         RunSeries {
+            id: writing
+
             name: qsTr("Write")
             run: view.run
             curve: RunSeries.Write
@@ -65,7 +69,9 @@ ColumnLayout {
         }
     }
     OnDemand {
-        active: view.isExplained
+        id: explanation
+
+        active: view.isExplained && (reading.points.length > 1 || writing.points.length > 1)
 
         PlainText {
             Layout.fillWidth: true

@@ -188,9 +188,9 @@ void ThroughputPicture::paintGrid(const ThroughputPlot& plot) {
         painter.setPen(m_labelColor);
         drawLabel(painter, QString::number(labels[static_cast<std::size_t>(i)]), {labelEnd, y}, 1);
     }
+    painter.setFont(fontFor(m_axisUnit, labelEnd));
+    drawLabel(painter, m_axisUnit, {labelEnd, plot.gridLine(0) + 11}, 1);
     painter.setFont(Typeface::mono(9));
-    if (!m_axisUnit.isEmpty())
-        drawLabel(painter, m_axisUnit, {labelEnd, plot.gridLine(0) + 11}, 1);
     const auto times = plot.scale.xLabels();
     for (std::size_t i = 0; i < times.size(); ++i)
         drawLabel(painter, seconds(times[i]), {plot.x(times[i]), plot.floor() + 12},

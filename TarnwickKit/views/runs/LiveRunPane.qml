@@ -85,6 +85,8 @@ CardFrame {
             Layout.fillWidth: true
             Layout.preferredHeight: ViewMetrics.chartHeight
             live: true
+            axisUnit: live.unit
+            readable: true
             temperatures: live.temperatures
             temperatureColor: PaletteKey.palette.text2
 
