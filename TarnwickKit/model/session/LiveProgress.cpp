@@ -184,8 +184,9 @@ std::optional<double> LiveProgress::computeFraction() const {
         all += weight;
         if (test.stage == Stage::done)
             done += weight;
-        else if (test.stage == Stage::running && *amount > 0)
-            done += weight * std::clamp(m_done / *amount, 0.0, 1.0);
+        else if (const double total = m_total > 0 ? m_total : *amount;
+                 test.stage == Stage::running && total > 0)
+            done += weight * std::clamp(m_done / total, 0.0, 1.0);
     }
     return all > 0 ? std::optional(done / all) : std::nullopt;
 }
