@@ -65,6 +65,7 @@ void AnalyzerModel::connectParts() {
     connect(&m_library, &RunLibrary::shownAgain, this, [this] { setPhase(Phase::Done); });
     connect(&m_library, &RunLibrary::unreadable, this, [this](const auto& files) {
         std::vector<std::string> names;
+        names.reserve(files.size());
         for (const std::filesystem::path& file : files)
             names.push_back(file.filename());
         tellRefusal(model::refusal(names, true));

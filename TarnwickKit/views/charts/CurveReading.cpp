@@ -24,8 +24,7 @@ ChartTimes::ChartTimes(const QList<QList<QPointF>>& curves) {
             for (const QPointF& point : points)
                 m_times << point.x();
     std::ranges::sort(m_times);
-    const auto repeated = std::ranges::unique(m_times);
-    m_times.erase(repeated.begin(), repeated.end());
+    m_times.erase(std::unique(m_times.begin(), m_times.end()), m_times.end());
 }
 
 std::optional<double> ChartTimes::nearest(double time) const {
