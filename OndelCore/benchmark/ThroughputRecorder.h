@@ -26,7 +26,7 @@ public:
     /// Call after each transfer. `moved`: bytes moved so far.
     void transferred(std::int64_t moved) {
         const double now = m_run.now();
-        m_pauses.add(now - std::exchange(m_lastTransfer, now));
+        m_pauses.add(static_cast<std::int64_t>((now - std::exchange(m_lastTransfer, now)) * 1e9));
         if (!(now - m_lastTime < m_run.plan.sampleInterval) && now > m_lastTime) // no time, no rate
             takeSample(moved, now);
     }

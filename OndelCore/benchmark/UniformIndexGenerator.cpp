@@ -1,14 +1,18 @@
 #include "OndelCore/benchmark/UniformIndexGenerator.h"
 
-#include <array>
-
 namespace OndelCore::benchmark {
 
-UniformIndexGenerator::UniformIndexGenerator(const std::function<void(void*, std::size_t)>& fillRandom) {
-    std::array<std::uint32_t, 16> seed{};
-    fillRandom(seed.data(), sizeof seed);
-    std::seed_seq sequence(seed.begin(), seed.end());
-    m_bits.seed(sequence);
+namespace {
+
+std::uint64_t startFrom(const std::function<void(void*, std::size_t)>& fillRandom) {
+    std::uint64_t start = 0;
+    fillRandom(&start, sizeof start);
+    return start;
 }
+
+} // namespace
+
+UniformIndexGenerator::UniformIndexGenerator(const std::function<void(void*, std::size_t)>& fillRandom)
+    : m_bits(startFrom(fillRandom)) {}
 
 } // namespace OndelCore::benchmark

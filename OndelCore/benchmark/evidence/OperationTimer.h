@@ -14,18 +14,19 @@ namespace OndelCore::benchmark {
 /// The longest time that a test stood still, and how often it stood for over a second.
 class Pauses {
 public:
-    /// Units: seconds.
-    void add(double duration) {
+    /// Units: nanoseconds.
+    void add(std::int64_t duration) {
+        constexpr std::int64_t second = 1'000'000'000;
         m_longest = std::max(m_longest, duration);
-        m_long += duration > 1 ? 1 : 0;
+        m_long += duration > second ? 1 : 0;
     }
     void tell(TestEvidence& evidence) const {
-        evidence.longestPause = m_longest;
+        evidence.longestPause = static_cast<double>(m_longest) * 1e-9;
         evidence.longPauses = m_long;
     }
 
 private:
-    double m_longest = 0;
+    std::int64_t m_longest = 0;
     std::int64_t m_long = 0;
 };
 
@@ -43,7 +44,7 @@ public:
         const std::int64_t now = m_nanoseconds();
         const std::int64_t duration = now - std::exchange(m_last, now);
         m_histogram.add(duration);
-        m_pauses.add(static_cast<double>(duration) * 1e-9);
+        m_pauses.add(duration);
     }
 
     std::optional<Latency> latency() const { return m_histogram.latency(); }
