@@ -1,10 +1,11 @@
-#include "Tarnwick/MenuKey.h"
+#include "Tarnwick/WindowKeys.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 
 #include <utility>
 
-void MenuKey::setWindow(QWindow* window) {
+void WindowKey::setWindow(QWindow* window) {
     if (m_window == window)
         return;
     if (m_window)
@@ -33,4 +34,17 @@ bool MenuKey::eventFilter(QObject* watched, QEvent* event) {
         break;
     }
     return QObject::eventFilter(watched, event);
+}
+
+/// The window gets the key first, from here: it says by the event whether one of its items has taken it.
+bool EscapeKey::eventFilter(QObject* watched, QEvent* event) {
+    if (m_isPassingOn || event->type() != QEvent::KeyPress ||
+        static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
+        return QObject::eventFilter(watched, event);
+    m_isPassingOn = true;
+    QCoreApplication::sendEvent(watched, event);
+    m_isPassingOn = false;
+    if (!event->isAccepted())
+        Q_EMIT pressed();
+    return true;
 }
