@@ -46,7 +46,7 @@ QList<Row> header(const DiskSMART& smart, const std::optional<QString>& drive, c
     return rows << Row{u"Date"_s, date} << Row{u"Status"_s, isFailing ? u"Failing"_s : u"Verified"_s};
 }
 
-QList<Row> figures(const DiskSMART& smart) {
+QList<Row> healthRows(const DiskSMART& smart) {
     QList<Row> rows;
     for (const DiskSMART::Attribute& attribute : smart.attributes)
         rows << Row{QString::fromStdString(attribute.label), QString::fromStdString(attribute.value),
@@ -71,7 +71,7 @@ QString SMARTReport::text(const DiskSMART& smart, const std::optional<QString>& 
                           const Formatter& formatter) {
     QStringList lines{u"Ondel Tarnwick S.M.A.R.T. report"_s, QString()};
     lines << aligned(header(smart, drive, formatter.dateAndTime(date))) << QString()
-          << aligned(figures(smart));
+          << aligned(healthRows(smart));
     return lines.join(u'\n') + u'\n';
 }
 
