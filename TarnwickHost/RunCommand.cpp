@@ -1,7 +1,6 @@
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "OndelCore/volumes/VolumeCapabilities.h"
-#include "OndelCore/volumes/VolumeInfo.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickHost/Card.h"
 #include "TarnwickHost/Command.h"
 #include "TarnwickHost/Output.h"
@@ -41,8 +40,8 @@ public:
     /// Blocks on asking for the volume that holds `folder`. Fails: never, what is not told is absent.
     explicit HandOff(const std::filesystem::path& folder,
                      const OndelCore::platform::SystemSources& sources = {})
-        : m_volume(VolumeInfo::load(Location::local(folder), sources))
-        , m_capabilities(VolumeCapabilities::probe(Location::local(folder), sources)) {}
+        : m_volume(OndelCore::volumes::loadVolumeInfo(Location::local(folder), sources))
+        , m_capabilities(OndelCore::volumes::probeCapabilities(Location::local(folder), sources)) {}
 
     /// Writes the run file. Fails: absent.
     std::optional<std::filesystem::path> write(const BenchmarkPlan& plan,
