@@ -3,6 +3,7 @@
 #include "OndelCore/health/DiskHealth.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
 #include "OndelCore/volumes/VolumeQuestions.h"
+#include "TarnwickKit/model/session/DriveInfo.h"
 
 namespace TarnwickKit::model {
 
