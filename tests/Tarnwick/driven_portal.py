@@ -15,7 +15,6 @@ from driven_window import choose_small_size, start, TESTS
 PROGRAMS = {"org.freedesktop.portal.Desktop": "/usr/libexec/xdg-desktop-portal",
             "org.freedesktop.impl.portal.desktop.gtk": "/usr/libexec/xdg-desktop-portal-gtk",
             "org.freedesktop.impl.portal.PermissionStore": "/usr/libexec/xdg-permission-store"}
-PORTAL = {"QT_QPA_PLATFORMTHEME": "xdgdesktopportal"}
 MAIL = """[Desktop Entry]
 Type=Application
 Name=Mail
@@ -37,7 +36,7 @@ def scheme(name):
 
 def follows_the_colour_scheme(program, _folder, _desktop):
     scheme("prefer-dark")
-    with driver.Window(program, env=PORTAL) as window:
+    with driver.Window(program) as window:
         window.until("the dark window", lambda: brightness(window) < 0.4)
         scheme("prefer-light")
         window.until("the light window", lambda: brightness(window) > 0.6)
@@ -46,7 +45,7 @@ def follows_the_colour_scheme(program, _folder, _desktop):
 
 def keeps_the_machine_awake_and_gives_notice(program, folder, desktop):
     told = hears_of(desktop)
-    with child(source, stdout=subprocess.DEVNULL), driver.Window(program, folder, env=PORTAL) as window:
+    with child(source, stdout=subprocess.DEVNULL), driver.Window(program, folder) as window:
         driver.focus("Drag from here")  # a window with the focus gives no notice
         choose_small_size(window)
         for test in TESTS[1:]:
@@ -60,7 +59,7 @@ def keeps_the_machine_awake_and_gives_notice(program, folder, desktop):
 
 
 def opens_through_the_file_dialog(program, folder, _desktop):
-    with driver.Window(program, env=PORTAL) as window:
+    with driver.Window(program) as window:
         window.find("Choose a volume to begin")
         window.keys("ctrl+shift+o")
         dialog = "^Open$"
@@ -86,7 +85,7 @@ def sends_by_email(program, _folder, _desktop):
     (entries / "mail.desktop").write_text(MAIL.format(program=mail))
     subprocess.run(["update-desktop-database", entries], check=True)
     saved_runs.lay_down([saved_runs.run(3)])
-    with driver.Window(program, env=PORTAL) as window:
+    with driver.Window(program) as window:
         window.press("SD card")
         window.press("Share")
         window.press("Send by Email…", "menu item")
