@@ -97,6 +97,7 @@ void AppDelegate::terminate() {
     if (std::exchange(m_terminating, true))
         return;
     Q_EMIT terminating();
+    m_dialogs.close();
     if (applicationShouldTerminate() == TerminateReply::Now)
         QCoreApplication::exit(0);
 }
