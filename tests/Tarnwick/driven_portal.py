@@ -94,6 +94,19 @@ def sends_by_email(program, _folder, _desktop):
         window.terminate()
 
 
+def is_one_program_for_assistive_technology(program, _folder, _desktop):
+    """GTK, which Qt's theme for this desktop starts, would make it two."""
+    with driver.Window(program) as window:
+        window.find("Choose a volume to begin")
+        maps = pathlib.Path(f"/proc/{window.process.pid}/maps").read_text()
+        check("/libqgtk3.so" in maps, "Qt's theme for GTK is not loaded")
+        tree = window.atspi.get_desktop(0)
+        programs = [tree.get_child_at_index(i) for i in range(tree.get_child_count())]
+        names = [one.get_name() for one in programs if one.get_process_id() == window.process.pid]
+        check(names == ["Ondel Tarnwick"], f"its entries on the accessibility bus: {names}")
+        window.terminate()
+
+
 if __name__ == "__main__":
     if missing := [program for program in PROGRAMS.values() if not os.path.exists(program)]:
         print("skipped, not installed:", ", ".join(missing))
@@ -103,6 +116,7 @@ if __name__ == "__main__":
     program, source, *only = sys.argv[1:]
     with driver.fast_folder() as name, desktop_of("behind") as desktop:
         check(desktop.stdout.readline() == b"ready\n", "the fake desktop did not start")
-        cases = (follows_the_colour_scheme, keeps_the_machine_awake_and_gives_notice, opens_through_the_file_dialog, sends_by_email)
+        cases = (follows_the_colour_scheme, keeps_the_machine_awake_and_gives_notice, opens_through_the_file_dialog, sends_by_email,
+                 is_one_program_for_assistive_technology)
         for case in driver.chosen(cases, only):
             case(program, pathlib.Path(name), desktop)

@@ -325,6 +325,19 @@ def icon_progress(window):
     return heard
 
 
+def asks_for_attention_behind_others(program, folder, source):
+    with driver.Window(program) as window:
+        window.keys("F10")
+        window.find("Settings…", "menu item")
+        with child(source, stdout=subprocess.DEVNULL):
+            driver.focus("Drag from here")
+            window.gone("Settings…", "menu item")  # a menu would cover the other window
+            check(subprocess.run([program]).returncode == 0, "a second start does not hand over")
+            if not isinstance(driver.display, driver.X11):  # there it takes a window manager
+                window.until("the mark of a window that wants attention", lambda: driver.display.node(window.id())["urgent"])
+        window.quits()
+
+
 def notifies_the_desktop_of_runs(program, folder, source):
     with desktop_of(2) as desktop, child(source, stdout=subprocess.PIPE) as other:
         told = hears_of(desktop)
@@ -507,7 +520,8 @@ if __name__ == "__main__":
     program, source, *only = sys.argv[1:]
     cases = (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_a_stopped_process,
                  starts_without_a_bus, opens_what_it_is_given, goes_by_menu,
-                 ends_the_launch_feedback, notifies_the_desktop_of_runs, stays_awake_when_the_portal_refuses, asks_the_desktop_for_files, ends_in_every_phase,
+                 ends_the_launch_feedback, asks_for_attention_behind_others, notifies_the_desktop_of_runs,
+                 stays_awake_when_the_portal_refuses, asks_the_desktop_for_files, ends_in_every_phase,
                  leaves_nothing_without_a_display, takes_what_is_dropped)
     for case in driver.chosen(cases, only, [] if isinstance(driver.display, driver.X11) else ONLY_ON_X11):
         with driver.fast_folder() as name:
