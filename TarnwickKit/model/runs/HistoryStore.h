@@ -43,6 +43,9 @@ public:
         return m_file ? std::optional(m_file->path()) : std::nullopt;
     }
 
+    /// Whether the file holds all that was changed here.
+    bool isSaved() const { return m_file && m_changes == HistoryChanges(); }
+
     /// Puts a run at the top and drops the last ones beyond `limit`, whatever their dates. Does nothing if a
     /// run with that id is stored.
     void add(const RunRecord& run) { add(std::vector{run}); }
