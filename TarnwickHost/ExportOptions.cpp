@@ -75,12 +75,17 @@ OutputFile::OutputFile(std::string_view path, bool isForced)
         throw UsageError(quoted(path) + why);
 }
 
-bool OutputFile::write(std::string_view content) const {
+bool OutputFile::write(const std::optional<QByteArray>& content) const {
+    if (!content) {
+        complain("A figure of this run is beyond what a file can hold.");
+        return false;
+    }
     constexpr fs::perms ordinary = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read |
                                    fs::perms::group_write | fs::perms::others_read | fs::perms::others_write;
     using OndelCore::platform::Lasting;
-    const std::error_code error = OndelCore::platform::replaceFile(
-        m_path, content, ordinary, Lasting::onMedium, [this] { return whyKept(m_path, m_isForced).empty(); });
+    const std::error_code error =
+        OndelCore::platform::replaceFile(m_path, content->toStdString(), ordinary, Lasting::onMedium,
+                                         [this] { return whyKept(m_path, m_isForced).empty(); });
     if (error == std::errc::operation_canceled)
         complain(quoted(std::string_view(m_path.native())) + whyKept(m_path, m_isForced));
     else if (error)

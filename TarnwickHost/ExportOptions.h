@@ -3,6 +3,8 @@
 #include "TarnwickHost/CommandLine.h"
 #include "TarnwickKit/model/runs/RunExport.h"
 
+#include <QByteArray>
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -31,9 +33,9 @@ public:
     /// Fails: throws UsageError, also for an existing file that is to be kept.
     OutputFile(std::string_view path, bool isForced);
 
-    /// Writes it whole or not at all, with the permissions of an ordinary file. Fails: with a line on
-    /// standard error.
-    bool write(std::string_view content) const;
+    /// Writes it whole or not at all, with the permissions of an ordinary file. `content`: absent is what has
+    /// no form in a file. Fails: with a line on standard error.
+    bool write(const std::optional<QByteArray>& content) const;
 
 private:
     std::filesystem::path m_path;

@@ -111,13 +111,13 @@ int exportRuns(const CommandLine& line, const Runs& runs) {
     if (!asked && name.extension() == "." + std::string(TarnwickFile::runExtension)) {
         if (runs.size() != 1)
             throw UsageError("a run file holds one run, not " + std::to_string(runs.size()));
-        return file->write(encodeRun(runs.front()).value_or(QByteArray()).toStdString()) ? done : failed;
+        return file->write(encodeRun(runs.front())) ? done : failed;
     }
     const auto form = asked ? asked : formByName(name);
     if (!form)
         throw UsageError("--format is needed where the FILE's name does not end in .tarnwickrun, .csv, "
                          ".json, .md or .txt");
-    return file->write(exported(runs, *form).toStdString()) ? done : failed;
+    return file->write(exported(runs, *form)) ? done : failed;
 }
 
 int deleteRuns(const CommandLine& line, HistoryStore& history, Words words) {

@@ -140,7 +140,7 @@ Files temporaryFiles(const RunOptions& options, const RunRecord& record) {
 Files written(const RunOptions& options, const RunRecord& record) {
     Files files = temporaryFiles(options, record);
     if (options.output)
-        files.isWhole &= options.output->write(encodeRun(record).value_or(QByteArray()).toStdString());
+        files.isWhole &= options.output->write(encodeRun(record));
     if (options.keep) {
         HistoryStore history;
         history.add(record);
@@ -173,6 +173,13 @@ std::string text(const MeasuredRun& run, const Files& files) {
     return lines;
 }
 
+/// Records hold no negative sizes of blocks; the engine makes a page of them.
+BenchmarkPlan recordable(BenchmarkPlan plan) {
+    for (std::int64_t* block : {&plan.writeBlockSize, &plan.readBlockSize, &plan.randomBlockSize})
+        *block = *block < 0 ? BenchmarkPlan::alignedBlock(*block) : *block;
+    return plan;
+}
+
 int executeRun(const CommandLine& line) {
     const RunOptions options = runOptions(line);
     requireStandardOutput();
@@ -192,7 +199,7 @@ int executeRun(const CommandLine& line) {
     }
     complainOfFlushes(options, result);
     const RunRecord record =
-        TarnwickReport::from(result, place.volume, place.capabilities, date, options.plan).run;
+        TarnwickReport::from(result, place.volume, place.capabilities, date, recordable(options.plan)).run;
     const Files files = written(options, record);
     const MeasuredRun run{options.plan,
                           result,

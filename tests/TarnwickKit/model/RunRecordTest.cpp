@@ -8,6 +8,10 @@
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -398,6 +402,38 @@ TEST(RunCodec, TellsWhyItRefuses) {
     EXPECT_EQ(requireRuns("\n[" + run + "," + run + "]").size(), 2u);
     EXPECT_EQ(requireRuns(replaced("fsType", R"("x","formatVersion":1)")).size(), 1u);
     EXPECT_EQ(decodeRun(replaced("volumeName", R"("\ufeffA")"))->volumeName, QString(QChar(0xFEFF)) + "A");
+}
+
+/// The keys of an object in the published schema.
+QStringList schemaKeys(const QJsonObject& part) { return part["properties"].toObject().keys(); }
+
+template <typename Part>
+QStringList fieldKeys(const QStringList& more = {}) {
+    QStringList keys = more;
+    const Part part;
+    visitFields(part, [&keys](std::string_view key, const auto&) { keys << QString::fromLatin1(key); });
+    keys.sort();
+    return keys;
+}
+
+TEST(RunCodec, HasADescriptionOfEachKey) {
+    using namespace OndelCore::platform;
+    QFile file(ONDEL_DOCS "/run-file.schema.json");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject parts = schema["$defs"].toObject();
+    const auto keys = [&parts](const char* name) {
+        return schemaKeys(parts[QLatin1String(name)].toObject());
+    };
+    EXPECT_EQ(schemaKeys(schema), fieldKeys<RunRecord>({"formatVersion"}));
+    EXPECT_EQ(keys("evidence"), fieldKeys<RunEvidence>());
+    EXPECT_EQ(keys("testEvidence"), fieldKeys<TestEvidence>());
+    EXPECT_EQ(keys("traffic"), fieldKeys<Traffic>());
+    EXPECT_EQ(keys("latency"), fieldKeys<Latency>());
+    EXPECT_EQ(keys("circumstances"), fieldKeys<Circumstances>());
+    EXPECT_EQ(keys("circumstanceSample"), fieldKeys<CircumstanceSample>());
+    EXPECT_EQ(keys("driveLink"), fieldKeys<DriveLink>());
+    EXPECT_EQ(keys("misalignment"), fieldKeys<Misalignment>());
 }
 
 TEST(RunCodec, RefusesOtherText) {
