@@ -187,7 +187,7 @@ std::vector<TextRow> driveRows(const DriveIdentity& drive) {
     return {{"Model", drive.model.value_or("--")}, {"Attached by", drive.protocolName.value_or("--")}};
 }
 
-QJsonObject healthJson(const DiskHealth::Reading& reading) {
+QJsonObject healthJson(const HealthReading& reading) {
     QJsonObject object{{"source", QString::fromStdString(reading.source)}};
     if (!reading.smart)
         return object;
@@ -206,7 +206,7 @@ QJsonObject healthJson(const DiskHealth::Reading& reading) {
     return object;
 }
 
-std::vector<TextRow> healthRows(const DiskHealth::Reading& reading) {
+std::vector<TextRow> healthRows(const HealthReading& reading) {
     std::vector<TextRow> rows{{"Source", QString::fromStdString(reading.source)}};
     if (!reading.smart || !reading.smart->isSupported())
         return rows;

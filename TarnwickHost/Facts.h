@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/health/DiskHealth.h"
+#include "OndelCore/health/HealthReading.h"
 #include "OndelCore/volumes/MountedVolumes.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
@@ -31,9 +31,9 @@ std::vector<TextRow> driveRows(const TarnwickKit::model::DriveIdentity& drive);
 /// For programs: the source, and where a device was asked the health by its fields with the raw record, or of
 /// several disks with the list of their sources and records. A count above 2^63-1 loses its last digits,
 /// since JSON numbers are read as doubles.
-QJsonObject healthJson(const OndelCore::health::DiskHealth::Reading& reading);
+QJsonObject healthJson(const OndelCore::health::HealthReading& reading);
 
 /// For people: where the figures come from or why there are none, the verdict, the figures.
-std::vector<TextRow> healthRows(const OndelCore::health::DiskHealth::Reading& reading);
+std::vector<TextRow> healthRows(const OndelCore::health::HealthReading& reading);
 
 } // namespace TarnwickHost

@@ -6,7 +6,6 @@
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
-#include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <QJsonObject>
 #include <QString>

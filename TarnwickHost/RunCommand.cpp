@@ -1,7 +1,6 @@
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "OndelCore/volumes/VolumeCapabilities.h"
-#include "OndelCore/volumes/VolumeInfo.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickHost/Card.h"
 #include "TarnwickHost/Command.h"
 #include "TarnwickHost/Output.h"
@@ -44,8 +43,8 @@ namespace {
 RunPlace placeOf(const std::filesystem::path& folder) {
     const OndelCore::platform::SystemSources sources;
     return {.folder = std::filesystem::absolute(folder),
-            .volume = VolumeInfo::load(Location::local(folder), sources),
-            .capabilities = VolumeCapabilities::probe(Location::local(folder), sources)};
+            .volume = loadVolumeInfo(Location::local(folder), sources),
+            .capabilities = probeCapabilities(Location::local(folder), sources)};
 }
 
 /// Removes what killed runs left in the folder. Waits for files in use a second only: another run can take

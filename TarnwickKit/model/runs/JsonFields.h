@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TarnwickKit/model/runs/JsonReader.h"
+#include "TarnwickKit/model/runs/RunFields.h"
 
 #include <cstdint>
 #include <optional>

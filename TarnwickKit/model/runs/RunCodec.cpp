@@ -4,6 +4,7 @@
 #include "TarnwickKit/model/runs/JsonFields.h"
 #include "TarnwickKit/model/runs/JsonReader.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
+#include "TarnwickKit/model/runs/RunFields.h"
 
 #include <algorithm>
 #include <array>

@@ -6,6 +6,7 @@
 #include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
+#include "TarnwickKit/model/runs/RunFields.h"
 #include "TarnwickKit/model/runs/RunText.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 

@@ -5,6 +5,7 @@
 #include "TarnwickKit/model/runs/FiguresText.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunExport.h"
+#include "TarnwickKit/model/runs/RunFields.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 
