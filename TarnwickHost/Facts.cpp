@@ -46,11 +46,6 @@ QString answerText(Capability capability) {
     return capability.isKnown() ? yesOrNo(bool{capability}) : QString("not known");
 }
 
-/// Percent-encoded by byte, so that names that are not valid UTF-8 are kept.
-QString urlText(const std::filesystem::path& path) {
-    return "file://" + QString::fromLatin1(QByteArray::fromStdString(path.native()).toPercentEncoding("/"));
-}
-
 void add(QJsonObject& object, const char* name, const std::optional<QString>& text) {
     if (text)
         object.insert(QLatin1String(name), *text);
@@ -105,6 +100,10 @@ QJsonArray disksJson(const std::vector<SmartReading>& disks) {
 }
 
 } // namespace
+
+QString urlText(const std::filesystem::path& path) {
+    return "file://" + QString::fromLatin1(QByteArray::fromStdString(path.native()).toPercentEncoding("/"));
+}
 
 QJsonObject volumeJson(const VolumeInfo& volume) {
     QJsonObject object{{"name", volume.name},

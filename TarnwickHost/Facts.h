@@ -9,12 +9,15 @@
 
 #include <QJsonObject>
 
+#include <filesystem>
 #include <vector>
 
 namespace TarnwickHost {
 
 /// The records for programs: every field by its name, absent ones left out. Bytes of a path that are no UTF-8
 /// become marks, since JSON cannot hold them.
+/// A path as a file URL, byte by byte.
+QString urlText(const std::filesystem::path& path);
 QJsonObject volumeJson(const OndelCore::volumes::VolumeInfo& volume);
 QJsonObject capabilitiesJson(const OndelCore::volumes::VolumeCapabilities& capabilities);
 QJsonObject driveJson(const TarnwickKit::model::DriveIdentity& drive);

@@ -77,18 +77,20 @@ QString text(const Facts& facts) {
 int executeFacts(const CommandLine& line) {
     const SystemSources sources;
     const Facts facts = factsOf(folderIn(line, sources.mountTable), sources);
-    print(line.has("--json") ? QJsonDocument(json(facts)).toJson(QJsonDocument::Compact).toStdString() + '\n'
-                             : text(facts).toStdString());
+    if (line.has("--json"))
+        print(QJsonDocument(json(facts)));
+    else
+        print(text(facts).toStdString());
     return done;
 }
 
 constexpr std::array volumesOptions{Option{"--json", "", "Print the list as one JSON array"}};
 
-std::string json(const std::vector<MountedVolume>& volumes) {
+QJsonDocument json(const std::vector<MountedVolume>& volumes) {
     QJsonArray array;
     for (const MountedVolume& volume : volumes)
         array.append(mountedVolumeJson(volume));
-    return QJsonDocument(array).toJson(QJsonDocument::Compact).toStdString() + '\n';
+    return QJsonDocument(array);
 }
 
 std::string text(const std::vector<MountedVolume>& volumes) {
@@ -104,7 +106,10 @@ int executeVolumes(const CommandLine& line) {
     if (!line.operands().empty())
         throw UsageError("volumes takes no operand");
     const auto volumes = mountedVolumes();
-    print(line.has("--json") ? json(volumes) : text(volumes));
+    if (line.has("--json"))
+        print(json(volumes));
+    else
+        print(text(volumes));
     return done;
 }
 

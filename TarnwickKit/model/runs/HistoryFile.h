@@ -22,6 +22,8 @@ struct HistoryChanges {
     std::set<QUuid> added;
     std::set<QUuid> deleted;
     std::set<QUuid> renamed;
+
+    bool operator==(const HistoryChanges&) const = default;
 };
 
 /// What tests replace.

@@ -66,6 +66,8 @@ std::optional<fs::path> HistoryStore::url() const {
     return m_mirror->file ? std::optional(m_mirror->file->path()) : std::nullopt;
 }
 
+bool HistoryStore::isSaved() const { return m_mirror->file && m_mirror->changes == HistoryChanges(); }
+
 void HistoryStore::add(const std::vector<RunRecord>& runs) {
     bool hasNew = false;
     for (const RunRecord& run : runs) {

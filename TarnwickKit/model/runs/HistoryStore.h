@@ -48,6 +48,9 @@ public:
     /// The file; absent if the list is kept in memory only.
     std::optional<std::filesystem::path> url() const;
 
+    /// Whether the file holds all that was changed here.
+    bool isSaved() const;
+
     /// Puts a run at the top and drops the last ones beyond `limit`, whatever their dates. Does nothing if a
     /// run with that id is stored.
     void add(const RunRecord& run) { add(std::vector{run}); }
