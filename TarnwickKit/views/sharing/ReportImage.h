@@ -2,7 +2,7 @@
 
 #include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
-#include "TarnwickKit/model/runs/TarnwickReport.h"
+#include "TarnwickKit/views/TarnwickViews.h"
 #include "TarnwickKit/views/style/Palette.h"
 
 #include <QByteArray>
@@ -16,9 +16,6 @@
 class QQuickItem;
 
 namespace TarnwickKit::views {
-
-/// Where an image was written; absent on failure.
-using ImageFile = std::optional<std::filesystem::path>;
 
 /// An image that was written, and the bytes of its file.
 struct SharedPng {
@@ -61,9 +58,5 @@ ImageFile render(const std::vector<model::RunRecord>& runs, const Palette& palet
 SharedPngLater renderLater(const std::vector<model::RunRecord>& runs, const Palette& palette);
 
 } // namespace ComparisonImage
-
-/// The report image of a host application's run. It needs a QGuiApplication, but neither window nor display;
-/// the fonts are registered by the first call. Threads: main. Fails: absent.
-ONDEL_PUBLIC ImageFile reportImage(const model::TarnwickReport& report, bool dark);
 
 } // namespace TarnwickKit::views

@@ -7,6 +7,7 @@
 #include "TarnwickKit/views/sharing/CardView.h"
 #include "TarnwickKit/views/style/FlowLayout.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
+#include "TarnwickKit/views/style/Typeface.h"
 #include "TarnwickKit/views/window/Appearance.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
