@@ -58,6 +58,9 @@ Window {
             }
         }
     }
+    WindowPlace {
+        window: window
+    }
     MenuKey {
         id: menuKey
 
