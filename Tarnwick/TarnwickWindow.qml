@@ -19,7 +19,7 @@ Window {
     width: 1180
     height: 780
     minimumWidth: view.leastWidth
-    minimumHeight: commands.height + view.leastHeight
+    minimumHeight: view.leastHeight
     visible: true
     color: view.color
     palette: StandardPalettes.current

@@ -18,6 +18,11 @@ Item {
     Accessible.name: label + ": " + value
     Accessible.description: warning ? qsTr("Warning") : ""
 
+    CutTip {
+        owner: row
+        text: row.Accessible.name
+        isCut: name.truncated || figure.truncated
+    }
     RowLayout {
         id: line
 
@@ -26,6 +31,8 @@ Item {
         spacing: 8
 
         PlainText {
+            id: name
+
             Layout.fillWidth: true
             Layout.minimumWidth: 40
             Layout.alignment: Qt.AlignBaseline
@@ -36,6 +43,8 @@ Item {
             Accessible.ignored: true
         }
         PlainText {
+            id: figure
+
             Layout.maximumWidth: row.width - 48
             Layout.alignment: Qt.AlignBaseline
             text: row.value
