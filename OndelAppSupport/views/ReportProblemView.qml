@@ -14,7 +14,7 @@ FocusScope {
 
     signal dismissed
 
-    implicitWidth: 470
+    implicitWidth: Metrics.scaled(470)
     implicitHeight: column.implicitHeight + 2 * Metrics.sheetMargin
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true

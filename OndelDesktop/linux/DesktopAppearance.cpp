@@ -7,6 +7,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
+#include <algorithm>
 #include <utility>
 
 namespace OndelDesktop {
@@ -33,6 +34,12 @@ ColorScheme schemeOf(const QVariant& value) {
     }
 }
 
+std::optional<double> scaleOf(const QVariant& value) {
+    bool isNumber = false;
+    const double scale = value.toDouble(&isNumber);
+    return isNumber && scale > 0 ? std::optional(std::clamp(scale, 0.5, 3.0)) : std::nullopt;
+}
+
 /// The first group is the portal's own. Not every desktop passes on its contrast in it, and none its
 /// animations.
 struct Setting {
@@ -49,6 +56,8 @@ constexpr Setting settingTable[] = {
      [](DesktopAppearance& all, const QVariant& value) { all.wantsNoMotion = value.toUInt() == 1; }},
     {"org.gnome.desktop.interface", "enable-animations",
      [](DesktopAppearance& all, const QVariant& value) { all.wantsNoMotion = !value.toBool(); }},
+    {"org.gnome.desktop.interface", "text-scaling-factor",
+     [](DesktopAppearance& all, const QVariant& value) { all.textScale = scaleOf(value); }},
     {"org.kde.kdeglobals.KDE", "AnimationDurationFactor",
      [](DesktopAppearance& all, const QVariant& value) {
          bool isNumber = false;
@@ -94,6 +103,8 @@ AppearanceWatch::Listener::Listener(std::function<void(const DesktopAppearance&)
         this->changed(current);
         return;
     }
+    // Without it no signal arrives, unless some plugin of the toolkit registers it by chance.
+    qRegisterMetaType<QDBusVariant>();
     QObject::connect(&settings, &Settings::SettingChanged, &settings,
                      [this](const QString& group, const QString& key, const QDBusVariant& value) {
                          if (OndelDesktop::take(current, group, key, value.variant()))

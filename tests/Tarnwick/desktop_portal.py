@@ -1,7 +1,7 @@
 """A fake desktop: its dark (1) or light (2) setting, inhibition of suspend, and notifications.
 Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal needs, which is a session manager and
 notifications from the portal alone. With "desktop_portal.py NUMBER refuses" the portal accepts the request to inhibit suspend
-and then answers that it failed, and there is a login manager. Lines on standard input: a number changes the setting, "contrast NUMBER" that of the contrast,
+and then answers that it failed, and there is a login manager. Lines on standard input: a number changes the setting, "contrast NUMBER" that of the contrast, "text NUMBER" that of the text scale,
 "press" activates the last notification, with the token "pressed". Lines on standard output: "ready", "awake FLAGS REASON", "asleep",
 "locked WHAT WHO WHY MODE", "unlocked", "notice TITLE: TEXT", "withdrawn"."""
 
@@ -11,6 +11,7 @@ import sys
 from gi.repository import Gio, GLib
 
 NAMESPACE, KEY = "org.freedesktop.appearance", "color-scheme"
+TEXT = "org.gnome.desktop.interface", "text-scaling-factor"
 PATH = "/org/freedesktop/portal/desktop"
 NOTICES = "org.freedesktop.Notifications"
 LOGIN = "org.freedesktop.login1"
@@ -57,6 +58,7 @@ class Desktop:
         """Without a scheme it serves a real portal."""
         self.scheme = scheme
         self.numbers = {KEY: scheme}
+        self.text = None
         self.refuses = refuses
         self.notices = 0
         self.requests = {}
@@ -95,6 +97,8 @@ class Desktop:
 
     def ReadAll(self, _sender, _path, groups):
         mine = {NAMESPACE: {key: GLib.Variant("u", value) for key, value in self.numbers.items()} | {"accent-color": GLib.Variant("(ddd)", (1, 0, 0))}}
+        if self.text:
+            mine[TEXT[0]] = {TEXT[1]: GLib.Variant("d", self.text)}
         return GLib.Variant("a{sa{sv}}", {name: mine[name] for name in groups if name in mine})
 
     def Inhibit(self, sender, _path, _window, flags, options):
@@ -140,6 +144,15 @@ class Desktop:
     def CloseNotification(self, _sender, _path, _notice):
         tell("withdrawn")
 
+    def change(self, key, value):
+        if key == "text":
+            self.text = float(value)
+            setting = (*TEXT, GLib.Variant("d", self.text))
+        else:
+            self.numbers[key] = int(value)
+            setting = (NAMESPACE, key, GLib.Variant("u", int(value)))
+        self.bus.emit_signal(None, PATH, "org.freedesktop.portal.Settings", "SettingChanged", GLib.Variant("(ssv)", setting))
+
     def command(self, source, _condition):
         line = source.readline().strip()
         if not line:
@@ -151,10 +164,7 @@ class Desktop:
                                  GLib.Variant("(us)", (self.notices, "default")))
         else:
             *other, value = line.split()
-            key = (other or [KEY])[0]
-            self.numbers[key] = int(value)
-            self.bus.emit_signal(None, PATH, "org.freedesktop.portal.Settings", "SettingChanged",
-                                 GLib.Variant("(ssv)", (NAMESPACE, key, GLib.Variant("u", int(value)))))
+            self.change((other or [KEY])[0], value)
         return bool(line)
 
 

@@ -12,7 +12,7 @@ CardFrame {
     required property AnalyzerModel analyzer
     required property comparedRuns runs
     /// What stands beside a bar: the metric's name, the figures, and the gaps.
-    readonly property real beside: 234 + 9 + ViewMetrics.differenceWidth
+    readonly property real beside: ViewMetrics.metricLabelWidth + ViewMetrics.barFigureWidth + ViewMetrics.differenceWidth + 87
 
     signal close
 

@@ -69,7 +69,7 @@ CardFrame {
                 LegendItem {
                     id: drive
 
-                    Layout.maximumHeight: 14
+                    Layout.maximumHeight: Metrics.scaled(14)
                     color: PaletteKey.palette.text2
                     label: qsTr("Drive %1 °C").arg(Math.round(live.celsius))
                     Accessible.role: Accessible.StaticText

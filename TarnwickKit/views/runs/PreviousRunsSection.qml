@@ -16,7 +16,7 @@ Column {
     required property real viewTop
     required property real viewHeight
 
-    readonly property int rowHeight: 65
+    readonly property int rowHeight: 26 + Metrics.scaled(39)
     /// How far below the visible part rows are made in advance. Units: logical pixels.
     readonly property real ahead: AssistiveTechnology.active ? Infinity : 12 * (rowHeight + spacing)
     /// How many more rows may be made before the next frame. The first frame has no limit.

@@ -54,7 +54,7 @@ RowLayout {
             MiniStat {
                 required property infoItem modelData
 
-                width: 220
+                width: Metrics.scaled(220)
                 label: modelData.label
                 value: modelData.value
                 isMarked: modelData.warning

@@ -7,13 +7,13 @@
 
 namespace TarnwickKit::views {
 
-/// The fonts of the window: `font: Typeface.mono(11.5)`.
+/// The fonts, in sizes as drawn. Views use Typeface.qml, which applies the desktop's text scale.
 ///
 /// Units: sizes are in logical pixels; Qt draws text in whole ones, so a half is rounded up. Weights are
 /// those of QML's Font type.
 class Typeface final : public QObject {
     Q_OBJECT
-    QML_ELEMENT
+    QML_NAMED_ELEMENT(DrawnTypeface)
     QML_SINGLETON
 
 public:

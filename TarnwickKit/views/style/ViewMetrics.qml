@@ -2,6 +2,7 @@ pragma Singleton
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 
 /// Shared measures of the window's views and of images. Those of controls are in OndelControls's Metrics.
 /// Units: logical pixels.
@@ -16,24 +17,24 @@ QtObject {
     readonly property int figurePadding: 20
     readonly property int figureMargin: 17
 
-    readonly property int alertWidth: 400
-    readonly property int sidebarWidth: 272
+    readonly property int alertWidth: Metrics.scaled(400)
+    readonly property int sidebarWidth: 32 + Metrics.scaled(240)
     /// Of the outline of a hovered row.
     readonly property real hoverOpacity: 0.6
 
     readonly property int badgeSide: 30
     /// The width of a rate in a row of runs.
-    readonly property int statWidth: 104
+    readonly property int statWidth: Metrics.scaled(104)
     readonly property int chartHeight: 200
     /// The side of a mark at a figure, and the width of the word for a remark's weight.
     readonly property int markSide: 14
-    readonly property int weightWidth: 52
+    readonly property int weightWidth: Metrics.scaled(52)
     /// The width of a comparison's full bar.
     readonly property int trackWidth: 460
     /// The widths of what stands on a bar's two sides.
-    readonly property int metricLabelWidth: 96
-    readonly property int barFigureWidth: 60
-    readonly property int differenceWidth: 72
+    readonly property int metricLabelWidth: Metrics.scaled(96)
+    readonly property int barFigureWidth: Metrics.scaled(60)
+    readonly property int differenceWidth: Metrics.scaled(72)
 
     readonly property int sidebarMargin: 16
     /// The indent of the sidebar's headings and settings.

@@ -22,6 +22,11 @@ Rectangle {
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
+    Binding {
+        target: Metrics
+        property: "textScale"
+        value: Appearance.textScale
+    }
     FocusKeeper {
         id: keeper
     }

@@ -20,7 +20,7 @@ PlainButton {
     rightPadding: 12
     topPadding: 7
     bottomPadding: 7
-    implicitWidth: Math.max(244, implicitContentWidth + leftPadding + rightPadding)
+    implicitWidth: Math.max(Metrics.scaled(244), implicitContentWidth + leftPadding + rightPadding)
     enabled: !analyzer.isRunning
     opacity: pressed ? Metrics.pressedOpacity : 1 // not dimmed while disabled: it is read during a run
     hoverEnabled: true

@@ -4,8 +4,10 @@
 #include "OndelControls/OnDemand.h"
 #include "OndelControls/SymbolTable.h"
 #include "OndelControls/ViewMath.h"
+#include "TarnwickKit/views/sharing/CardView.h"
 #include "TarnwickKit/views/style/FlowLayout.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
+#include "TarnwickKit/views/window/Appearance.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
 #include <QBitmap>
@@ -253,6 +255,41 @@ TEST(Fonts, AreTheFamiliesAndWeightsThatTheyAreNamedBy) {
         EXPECT_GT(QFontMetricsF(font).horizontalAdvance(text), width) << weight;
         width = QFontMetricsF(font).horizontalAdvance(text);
     }
+}
+
+TEST(Fonts, TextScaleIsAppliedOnce) {
+    struct Case {
+        ScreenScale screen;
+        std::optional<double> wanted;
+        double scale;
+    };
+    constexpr bool onX11 = true;
+    const Case cases[] = {
+        {{}, std::nullopt, 1},
+        {{}, 1.5, 1.5},
+        {{onX11, 1, 1}, 1.5, 1.5},   // nothing has told X11's resolution
+        {{onX11, 1.5, 1}, 1.5, 1},   // the toolkit has enlarged everything by it
+        {{onX11, 1, 1.5}, 1.5, 1.5}, // the toolkit was told not to
+        {{onX11, 1, 1.25}, std::nullopt, 1.25},
+        {{onX11, 2, 1}, 1.25, 1},
+        {{!onX11, 2, 1}, 1.25, 1.25}, // a compositor's scale contains no text scale
+    };
+    for (const auto& [screen, wanted, scale] : cases)
+        EXPECT_DOUBLE_EQ(textScaleOn(screen, wanted), scale) << screen.applied << ' ' << wanted.value_or(0);
+}
+
+TEST(Fonts, TextScaleReachesViewsAndLeavesImages) {
+    test::Stage stage(R"(Item { property font seen: Typeface.mono(10)
+                                function grow(scale: real) { Metrics.textScale = scale } })");
+    const auto pixels = [&] { return stage.root().property("seen").value<QFont>().pixelSize(); };
+    EXPECT_EQ(pixels(), 10);
+    QMetaObject::invokeMethod(&stage.root(), "grow", Q_ARG(double, 1.5));
+    EXPECT_EQ(pixels(), 15);
+    const auto card = newCard(QStringLiteral("ReportFooter"),
+                              {{QStringLiteral("link"), QStringLiteral("a.b")}}, Palette::light());
+    ASSERT_TRUE(card);
+    for (const QQuickItem* item : test::itemsOf(*card))
+        EXPECT_LE(item->property("font").value<QFont>().pixelSize(), 15); // -1 without one
 }
 
 TEST(Fonts, FiguresHaveOneWidth) {
