@@ -40,6 +40,7 @@ Window {
         onAboutWanted: window.aboutWanted()
         onSettingsWanted: window.settingsWanted()
         onRunWanted: view.run()
+        showsLetters: menuKey.isHeld
     }
     TarnwickView {
         id: view
@@ -58,6 +59,8 @@ Window {
         }
     }
     MenuKey {
+        id: menuKey
+
         window: window
         onTapped: commands.openFirst()
     }

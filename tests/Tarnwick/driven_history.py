@@ -72,9 +72,12 @@ def finds_opens_and_deletes(program):
         window.find("Figures copied")
         window.keys("F2")
         window.find("Report title", "text")
+        badge = window.find("Complete", "label").get_extents(window.atspi.CoordType.SCREEN)
         window.type("Second")
         window.keys("Return")
         window.until("the title", lambda: window.focused() == "Second")
+        moved = window.find("Complete", "label").get_extents(window.atspi.CoordType.SCREEN).x - badge.x
+        check(abs(moved) < 20, f"the badge moves by {moved} pixels when the title is edited")
         window.keys("Delete")
         window.find("Run deleted")
         window.until("its end", lambda: rows(window) == ["First run", "Old drive", "media"])

@@ -149,6 +149,35 @@ def goes_by_keyboard(program, folder):
         check(window.until("the focus back in the toolbar", window.focused) == "Volume", "the toolbar's menu does not return the focus")
 
 
+def tells_states_and_opens_menus_by_letter(program, folder):
+    def held(name, role=None):
+        node = window.find(name, role)
+        return {state for state in ("EXPANDABLE", "EXPANDED", "COLLAPSED", "CHECKED") if window.shows(node, state)}
+
+    with driver.Window(program, folder) as window:
+        section = "Volume Capabilities", "push button"
+        window.settled()
+        check(held(*section) == {"EXPANDABLE", "EXPANDED"}, f"an open section is told as {held(*section)}")
+        window.press(*section)
+        window.until("the closed section", lambda: held(*section) == {"EXPANDABLE", "COLLAPSED"})
+        window.press(*section)
+        window.press("Size")
+        window.settled()  # the toolkit sets states of its own after some milliseconds
+        check([held(size) for size in ("1 GiB", "5 GiB")] == [set(), {"CHECKED"}], "the ticked size is not told")
+        window.keys("Return")
+        window.gone("64 GiB")
+        window.press("Size")
+        check(held("5 GiB") == {"CHECKED"}, "the size that was chosen again is not told")
+        window.keys("Escape")
+        window.gone("64 GiB")
+        for key, command in (("alt+r", "Undo Delete"), ("alt+f", "Choose Folder…")):
+            window.keys(key)
+            window.find(command, "menu item")
+            window.keys("Escape")
+            window.gone(command, "menu item")
+        window.quits()
+
+
 def refuses_what_it_cannot_use(program, folder):
     with driver.Window(program, folder / "missing") as window:
         window.find("Choose a volume to begin")
@@ -182,7 +211,7 @@ if __name__ == "__main__":
     program, _source, *only = sys.argv[1:]
     with driver.fast_folder() as name:
         cases = (runs_to_the_end, ends_cleanly_in_a_run, stops_by_keyboard, says_why_a_run_failed, names_change_seldom_in_a_run,
-                 goes_by_keyboard, refuses_what_it_cannot_use, tells_why_health_is_missing)
+                 goes_by_keyboard, tells_states_and_opens_menus_by_letter, refuses_what_it_cannot_use, tells_why_health_is_missing)
         for case in driver.chosen(cases, only):
             case(program, pathlib.Path(name))
             nothing_left(pathlib.Path(name))

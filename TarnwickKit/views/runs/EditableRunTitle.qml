@@ -12,10 +12,13 @@ Item {
     required property runFacts facts
     property bool isEditing: false
     readonly property real fieldWidth: 320
+    /// What the field may take. It lies over what stands beside the title, which stays where it is.
+    property real room: fieldWidth
 
     signal renamed(text: string)
 
-    implicitWidth: isEditing ? fieldWidth : button.implicitWidth
+    z: isEditing ? 1 : 0
+    implicitWidth: button.implicitWidth
     implicitHeight: button.implicitContentHeight
 
     function edit(): void {
@@ -28,7 +31,7 @@ Item {
         if (draft !== facts.customTitle)
             renamed(draft);
         if (backToTitle)
-            button.forceActiveFocus(Qt.OtherFocusReason);
+            button.forceActiveFocus(Qt.TabFocusReason); // shows the focus mark
     }
 
     PlainButton {
@@ -62,9 +65,10 @@ Item {
         active: title.isEditing
 
         TextLine {
-            width: Math.min(title.fieldWidth, title.width)
-            height: title.height
-            framed: false
+            x: -leftPadding // the text stays where the title was
+            leftPadding: 5
+            y: Math.round((title.height - height) / 2)
+            width: Math.min(title.fieldWidth, title.room)
             font: Typeface.display(16)
             color: PaletteKey.palette.text
             selectionColor: PaletteKey.palette.accent

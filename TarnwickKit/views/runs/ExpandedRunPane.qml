@@ -37,13 +37,18 @@ CardFrame {
             Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
             Layout.maximumWidth: Layout.preferredWidth
             facts: pane.facts
+            room: Math.max(width, stamp.x - x - 12)
             onRenamed: text => pane.analyzer.renameRun(pane.facts.id, text)
         },
-        CompleteBadge {},
+        CompleteBadge {
+            opacity: title.isEditing ? 0 : 1
+        },
         Item {
             Layout.fillWidth: true
         },
         PlainText {
+            id: stamp
+
             text: pane.facts.stamp
             font: Typeface.mono(11.5)
             color: PaletteKey.palette.text3
