@@ -22,6 +22,7 @@ ColumnLayout {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + Runs.spoken(figure.text + " MB/s", isMarked) + (extremes.visible ? ", " + extremes.text : "")
+    Accessible.description: Words.sustained
 
     RowLayout {
         Layout.leftMargin: ViewMetrics.figurePadding
@@ -92,5 +93,16 @@ ColumnLayout {
         font: Typeface.mono(11)
         color: PaletteKey.palette.text3
         Accessible.ignored: true
+    }
+    HoverHandler {
+        id: pointer
+    }
+    OnDemand {
+        active: pointer.hovered
+
+        HoverTip {
+            owner: stat
+            text: Words.sustained
+        }
     }
 }

@@ -59,6 +59,7 @@ RowLayout {
                 value: modelData.value
                 isMarked: modelData.warning
                 note: modelData.note
+                explanation: Words.ofTest(modelData.test)
             }
         }
     }
