@@ -67,7 +67,8 @@ void composeByPortal(const FileDescriptor& attachment, const QString& subject, c
                            QVariant::fromValue(Descriptors{QDBusUnixFileDescriptor(attachment.get())})}});
     QObject::connect(request, &PortalRequest::answered, request,
                      [request, failed](PortalRequest::Outcome outcome) {
-                         if (outcome == PortalRequest::Outcome::failed)
+                         using Outcome = PortalRequest::Outcome;
+                         if (outcome == Outcome::failed || outcome == Outcome::ended)
                              failed();
                          request->deleteLater();
                      });

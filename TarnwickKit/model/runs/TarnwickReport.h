@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QPointF>
@@ -14,7 +15,7 @@ namespace TarnwickKit::model {
 /// A finished run for a host application. Its image comes from the views: reportImage.
 /// Units: as RunRecord, except for the curves: x in seconds, y in megabytes per second.
 /// Threads: any.
-struct TarnwickReport {
+struct ONDEL_PUBLIC TarnwickReport {
     RunRecord run;
 
     /// The record's duration is the sum of the tests' durations.

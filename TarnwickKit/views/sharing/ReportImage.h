@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 #include "TarnwickKit/views/style/Palette.h"
@@ -63,6 +64,6 @@ SharedPngLater renderLater(const std::vector<model::RunRecord>& runs, const Pale
 
 /// The report image of a host application's run. It needs a QGuiApplication, but neither window nor display;
 /// the fonts are registered by the first call. Threads: main. Fails: absent.
-ImageFile reportImage(const model::TarnwickReport& report, bool dark);
+ONDEL_PUBLIC ImageFile reportImage(const model::TarnwickReport& report, bool dark);
 
 } // namespace TarnwickKit::views

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <QFont>
 #include <QObject>
 #include <QQmlEngine>
@@ -34,7 +36,7 @@ namespace TarnwickFonts {
 /// the system's font.
 ///
 /// Threads: the main thread, before the first view is built.
-void registerFrom(const QString& bundle = QStringLiteral(":/tarnwick"));
+ONDEL_PUBLIC void registerFrom(const QString& bundle = QStringLiteral(":/tarnwick"));
 
 /// The application's font. It turns hinting off for every text: hinted glyphs lose their serifs when a view
 /// is rendered at another scale than the screen's.
