@@ -22,6 +22,7 @@ ColumnLayout {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + Runs.spoken(figure.text + " MB/s", isMarked) + (extremes.visible ? ", " + whole.text : "")
+    Accessible.description: Words.sustained
 
     RowLayout {
         Layout.leftMargin: ViewMetrics.figurePadding
@@ -99,6 +100,17 @@ ColumnLayout {
 
             text: extremes.visible ? qsTr("peak %1 · min %2").arg(Format.mbValue(stat.peak)).arg(Format.mbValue(stat.least)) : ""
             font: Typeface.mono(11)
+        }
+    }
+    HoverHandler {
+        id: pointer
+    }
+    OnDemand {
+        active: pointer.hovered
+
+        HoverTip {
+            owner: stat
+            text: Words.sustained
         }
     }
 }

@@ -69,6 +69,7 @@ GridLayout {
                 value: modelData.value
                 isMarked: modelData.warning
                 note: modelData.note
+                explanation: Words.ofTest(modelData.test)
             }
         }
     }

@@ -42,10 +42,20 @@ Item {
             elide: Text.ElideRight
             Accessible.ignored: true
         }
+        OnDemand {
+            active: row.warning
+
+            Symbol {
+                Layout.rightMargin: -3
+                name: "exclamationmark.triangle.fill"
+                size: 10
+                color: row.PaletteKey.palette.warning
+            }
+        }
         PlainText {
             id: figure
 
-            Layout.maximumWidth: row.width - 48
+            Layout.maximumWidth: row.width - 48 - (row.warning ? 17 : 0)
             Layout.alignment: Qt.AlignBaseline
             text: row.value
             font: Typeface.mono(11.5)

@@ -53,6 +53,9 @@ Column {
         bottomPadding: Math.max(0, Metrics.leastTarget - implicitContentHeight - topPadding)
         textColor: PaletteKey.palette.text2
         label: qsTr("Bypass cache")
+        hint: Words.bypassCache
+        detail: hint
+        explains: true
         on: block.analyzer.bypassCache
         onWanted: on => block.analyzer.bypassCache = on
     }

@@ -65,6 +65,7 @@ Rectangle {
                         width: parent.width
                         title: sidebar.analyzer.testTitles[index]
                         figure: sidebar.analyzer.sidebarValues[index]
+                        explanation: Words.ofTest(modelData)
                         isMarked: sidebar.analyzer.sidebarMarks[index]
                         on: sidebar.holds(sidebar.analyzer.selectedTests, modelData)
                         onWanted: on => sidebar.analyzer.setTestSelected(modelData, on)
