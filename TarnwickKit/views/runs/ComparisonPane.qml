@@ -35,6 +35,7 @@ CardFrame {
             Accessible.role: Accessible.Heading
         },
         ShareButton {
+            runs: pane.runs
             hint: qsTr("Share a comparison image")
             onClicked: image.makeComparison(pane.runs, pane.PaletteKey.palette)
         },

@@ -51,6 +51,7 @@ CardFrame {
         ShareButton {
             id: picture
 
+            runs: Runs.alone(pane.run)
             hint: qsTr("Share a report image")
             onClicked: image.makeReport(pane.run, pane.PaletteKey.palette)
         },

@@ -24,8 +24,6 @@ using model::RunRecord;
 
 namespace {
 
-constexpr std::string_view extension = ".png";
-
 const auto titlePrefix = QStringLiteral("Ondel Tarnwick — ");
 const auto comparisonName = QStringLiteral("Ondel Tarnwick — Comparison");
 constexpr qsizetype longestFileName = 255; // bytes; NAME_MAX of every file system in use
@@ -72,16 +70,15 @@ std::optional<SharedPng> written(QImage image, const QString& baseName) {
 
 } // namespace
 
-std::string ReportImage::fileName(const QString& baseName) {
+std::string ReportImage::fileName(const QString& baseName, std::string_view ending) {
     QString name = baseName;
     for (QChar& character : name)
         if (character == u'/' || disturbsLine(character))
             character = u'-';
     if (name.startsWith(u'.'))
         name[0] = u'-';
-    const std::string stem =
-        cut(name, longestFileName - static_cast<qsizetype>(extension.size())).toStdString();
-    return (stem.empty() ? "-" : stem) + std::string(extension);
+    const std::string stem = cut(name, longestFileName - static_cast<qsizetype>(ending.size())).toStdString();
+    return (stem.empty() ? "-" : stem) + std::string(ending);
 }
 
 ImageFile ReportImage::png(QQuickItem& view, const QString& baseName) {

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class QQuickItem;
@@ -47,8 +48,8 @@ SharedPngLater pngLater(QQuickItem* view, const QString& baseName);
 
 /// The file name for a title. Characters that would lead to another folder, hide the file, break a line or
 /// change the reading direction are replaced. The name is cut at 255 bytes, between characters as people
-/// count them.
-std::string fileName(const QString& baseName);
+/// count them, in front of the ending.
+std::string fileName(const QString& baseName, std::string_view ending = ".png");
 
 } // namespace ReportImage
 

@@ -75,6 +75,19 @@ void Dialogs::askForImageFile(const QString& proposedName, const Chosen& chosen)
     show(dialog);
 }
 
+void Dialogs::askForExportFile(const QString& proposedName, const QString& kind, const Chosen& chosen) {
+    const QString ending = proposedName.section(QLatin1Char('.'), -1);
+    QFileDialog* dialog = newFileDialog(chosen);
+    dialog->setWindowTitle(QFileDialog::tr("Save As"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setNameFilter(QStringLiteral("%1 (*.%2)").arg(kind, ending));
+    dialog->setDefaultSuffix(ending);
+    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog->selectFile(proposedName);
+    show(dialog);
+}
+
 void Dialogs::askForRunFiles(std::function<void(const std::vector<fs::path>&)> chosen) {
     auto* dialog = new QFileDialog;
     dialog->setWindowTitle(QFileDialog::tr("Open"));
