@@ -19,7 +19,7 @@ Window {
     width: 1180
     height: 780
     minimumWidth: view.leastWidth
-    minimumHeight: commands.height + view.leastHeight
+    minimumHeight: view.leastHeight
     visible: true
     color: view.color
     palette: StandardPalettes.current
@@ -40,6 +40,7 @@ Window {
         onAboutWanted: window.aboutWanted()
         onSettingsWanted: window.settingsWanted()
         onRunWanted: view.run()
+        showsLetters: menuKey.isHeld
     }
     TarnwickView {
         id: view
@@ -57,7 +58,12 @@ Window {
             }
         }
     }
+    WindowPlace {
+        window: window
+    }
     MenuKey {
+        id: menuKey
+
         window: window
         onTapped: commands.openFirst()
     }

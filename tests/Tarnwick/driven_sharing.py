@@ -46,6 +46,8 @@ def compares_and_shares(program, home, folder):
         window.find("Write, NVMe Server: 104 MB/s, −98 %")
         check(window.look("Ready to benchmark") is None, "a comparison does not replace the pane")
 
+        window.press("Show in Folder", "push button")
+        window.until("the folder under test", lambda: called(home, "xdg-open") == str(folder))
         share(window, "Copy Image")
         window.find("Image copied")
         share(window, "Show in Folder")

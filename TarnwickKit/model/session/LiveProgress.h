@@ -109,7 +109,7 @@ private:
 /// seconds, then a countdown. Only estimates that agree on something clearly else correct it.
 ///
 /// Units: seconds; `now` on one clock that never goes back.
-class SteadyCountdown {
+class ONDEL_KIT SteadyCountdown {
 public:
     void reset() { *this = {}; }
     /// An estimate of the time left.

@@ -20,12 +20,14 @@ struct InfoItem {
     Q_PROPERTY(QString value MEMBER value CONSTANT)
     Q_PROPERTY(bool warning MEMBER warning CONSTANT)
     Q_PROPERTY(QString note MEMBER note CONSTANT)
+    Q_PROPERTY(QString test MEMBER test CONSTANT)
 
 public:
     QString label;
     QString value;
     bool warning = false; ///< the value is a concern; of a run's figure: it is not the disk's
     QString note{};       ///< what stands below the value, "" for nothing
+    QString test{};       ///< the raw value of the test whose figure it is, "" for other values
 
     bool operator==(const InfoItem&) const = default;
 };

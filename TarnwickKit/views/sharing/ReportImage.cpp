@@ -8,7 +8,6 @@
 #include "TarnwickKit/views/sharing/PngEncoding.h"
 #include "TarnwickKit/views/sharing/ViewPicture.h"
 #include "TarnwickKit/views/style/LegibleText.h"
-#include "TarnwickKit/views/style/TarnwickFonts.h"
 
 #include <QPromise>
 #include <QQuickItem>
@@ -115,11 +114,6 @@ ImageFile ComparisonImage::render(const std::vector<RunRecord>& runs, const Pale
 SharedPngLater ComparisonImage::renderLater(const std::vector<RunRecord>& runs, const Palette& palette) {
     const auto card = comparisonCard(runs, palette);
     return ReportImage::pngLater(card.get(), comparisonName);
-}
-
-ImageFile reportImage(const model::TarnwickReport& report, bool dark) {
-    TarnwickFonts::registerFrom();
-    return ReportImage::render(report.run, dark ? Palette::dark() : Palette::light());
 }
 
 } // namespace TarnwickKit::views

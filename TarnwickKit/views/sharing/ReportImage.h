@@ -1,7 +1,8 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
-#include "TarnwickKit/model/runs/TarnwickReport.h"
+#include "TarnwickKit/views/TarnwickViews.h"
 #include "TarnwickKit/views/style/Palette.h"
 
 #include <QByteArray>
@@ -16,9 +17,6 @@
 class QQuickItem;
 
 namespace TarnwickKit::views {
-
-/// Where an image was written; absent on failure.
-using ImageFile = std::optional<std::filesystem::path>;
 
 /// An image that was written, and the bytes of its file.
 struct SharedPng {
@@ -61,9 +59,5 @@ ImageFile render(const std::vector<model::RunRecord>& runs, const Palette& palet
 SharedPngLater renderLater(const std::vector<model::RunRecord>& runs, const Palette& palette);
 
 } // namespace ComparisonImage
-
-/// The report image of a host application's run. It needs a QGuiApplication, but neither window nor display;
-/// the fonts are registered by the first call. Threads: main. Fails: absent.
-ImageFile reportImage(const model::TarnwickReport& report, bool dark);
 
 } // namespace TarnwickKit::views
