@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/logging/Log.h"
+#include "OndelCore/logging/LogOutput.h"
 
 #include <filesystem>
 #include <optional>

@@ -20,6 +20,8 @@ T.AbstractButton {
     property int cursorShape: Qt.ArrowCursor
     /// Is created to show the hint.
     property Component tip: null
+    /// The hint is shown to the keyboard's user too; else it only names what the button shows as a symbol.
+    property bool explains: false
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -50,7 +52,7 @@ T.AbstractButton {
     }
     // A history has hundreds of buttons; only the hovered one needs a tip.
     OnDemand {
-        active: pointer.hovered && button.hint.length > 0
+        active: button.hint.length > 0 && (pointer.hovered || button.explains && button.visualFocus)
         component: button.tip
     }
     OnDemand {

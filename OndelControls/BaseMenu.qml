@@ -4,10 +4,11 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// A drop-down menu. Arrow keys move in it, Return chooses, Escape closes.
+/// A drop-down menu. Arrow keys move in it, Return chooses, Escape closes, and so does another program that comes forward.
 T.Menu {
     id: menu
 
+    readonly property bool isInFront: Application.state === Qt.ApplicationActive
     property real leastWidth: 0
     property real corner: Metrics.menuCorner
     property color fill: palette.window
@@ -20,6 +21,11 @@ T.Menu {
     padding: Metrics.menuPadding
     overlap: 1
     cascade: false
+
+    onIsInFrontChanged: {
+        if (!isInFront)
+            dismiss();
+    }
 
     contentItem: ListView {
         implicitWidth: {

@@ -36,13 +36,15 @@ T.MenuItem {
     verticalPadding: isHeading ? 3 : 5
     hoverEnabled: true
     enabled: !isHeading
+    // The toolkit reports this to assistive technology, and changes it with every press.
+    checked: chosen
+    onCheckedChanged: if (checked !== chosen) checked = Qt.binding(() => item.chosen)
     opacity: enabled || isHeading ? 1 : Metrics.disabledTextOpacity
 
     Accessible.role: isHeading ? Accessible.Heading : Accessible.MenuItem
     Accessible.name: text
     // Qt does not report the disabled state to assistive technology.
     Accessible.description: enabled || isHeading ? keys : qsTr("Not available now")
-    Accessible.checked: chosen
     Accessible.onPressAction: if (item.enabled) item.clicked()
 
     contentItem: RowLayout {

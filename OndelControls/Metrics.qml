@@ -5,6 +5,14 @@ import QtQuick
 
 /// Shared measures of controls. Units: logical pixels, milliseconds, opacity from 0 to 1.
 QtObject {
+    /// How much larger than drawn the desktop wants text. A window sets it; images that are shared stay at 1.
+    property real textScale: 1
+
+    /// A text's size, or the measure of something that has to hold text.
+    function scaled(size: real): int {
+        return Math.round(size * textScale);
+    }
+
     /// The focus mark: its line width, and its distance from the control's edge.
     readonly property int focusLine: 2
     readonly property int focusGap: 3
@@ -12,14 +20,14 @@ QtObject {
     readonly property int focusLayer: 10
 
     /// Text sizes of sheets, panels and menus.
-    readonly property int textSize: 13
-    readonly property int captionSize: 12
-    readonly property int noteSize: 10
-    readonly property int titleSize: 17
+    readonly property int textSize: scaled(13)
+    readonly property int captionSize: scaled(12)
+    readonly property int noteSize: scaled(10)
+    readonly property int titleSize: scaled(17)
 
     /// Of the area to press of a control.
     readonly property int leastTarget: 24
-    readonly property int fieldWidth: 200
+    readonly property int fieldWidth: scaled(200)
     /// From a check box's left edge to its label.
     readonly property int checkIndent: 22
     /// How far an arrow key scrolls a page, and a text.
@@ -29,7 +37,7 @@ QtObject {
     readonly property int foldTime: 150
 
     readonly property int tipDelay: 700
-    readonly property int tipWidth: 320
+    readonly property int tipWidth: scaled(320)
     /// Distances of tips and menus: to the window's edges (margin), to their control (gap).
     readonly property int tipMargin: 6
     readonly property int tipGap: 6

@@ -10,15 +10,13 @@ T.TextField {
 
     required property string prompt
     property color promptColor: palette.placeholderText
-    /// A field without a frame has no padding either, to be placed over the text that it edits.
-    property bool framed: true
 
     implicitWidth: Metrics.fieldWidth
     implicitHeight: contentHeight + topPadding + bottomPadding
-    leftPadding: framed ? 8 : 0
-    rightPadding: framed ? 8 : 0
-    topPadding: framed ? 6 : 0
-    bottomPadding: framed ? 6 : 0
+    leftPadding: 8
+    rightPadding: 8
+    topPadding: 6
+    bottomPadding: 6
     font: Qt.font({
         family: Application.font.family,
         pixelSize: Metrics.textSize
@@ -30,7 +28,6 @@ T.TextField {
     Accessible.name: prompt
 
     background: FieldFrame {
-        visible: field.framed
         focused: field.activeFocus
     }
     PlainText {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <string_view>
 
 namespace OndelCore {
@@ -17,7 +19,7 @@ inline constexpr std::string_view posixErrorDomain = "POSIX";
 
 /// Base class, beside std::exception, of errors that may reach a log. C++ cannot reflect on the type and case
 /// of an error, and what() may hold a path.
-class NamedError {
+class ONDEL_PUBLIC NamedError {
 public:
     virtual ErrorName errorName() const noexcept = 0;
 

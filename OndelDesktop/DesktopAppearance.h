@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace OndelDesktop {
 
@@ -11,7 +12,8 @@ enum class ColorScheme { NoPreference, Dark, Light };
 struct DesktopAppearance {
     ColorScheme scheme = ColorScheme::NoPreference;
     bool wantsHighContrast = false;
-    bool wantsNoMotion = false; ///< nothing should move by itself
+    bool wantsNoMotion = false;      ///< nothing should move by itself
+    std::optional<double> textScale; ///< how much larger than usual texts should be
 
     bool operator==(const DesktopAppearance&) const = default;
 };

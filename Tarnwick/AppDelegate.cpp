@@ -4,6 +4,7 @@
 #include "OndelAppSupport/LaunchLog.h"
 #include "OndelCore/platform/process/TerminationRequest.h"
 #include "OndelDesktop/StartupNotice.h"
+#include "OndelDesktop/WindowAttention.h"
 #include "Tarnwick/OpenUrls.h"
 #include "Tarnwick/Product.h"
 #include "TarnwickKit/model/session/AnswerLater.h"
@@ -12,13 +13,18 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QSocketNotifier>
+#include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace fs = std::filesystem;
 namespace platform = OndelCore::platform;
 
 namespace {
+
+/// Desktops move the focus at once, or not at all.
+constexpr std::chrono::milliseconds focusPatience = std::chrono::seconds(1);
 
 /// On X11 the launch feedback lasts until the desktop is told that the start is complete.
 bool hasLaunchFeedback() { return QGuiApplication::platformName() == QLatin1String("xcb"); }
@@ -97,6 +103,7 @@ void AppDelegate::terminate() {
     if (std::exchange(m_terminating, true))
         return;
     Q_EMIT terminating();
+    m_dialogs.close();
     if (applicationShouldTerminate() == TerminateReply::Now)
         QCoreApplication::exit(0);
 }
@@ -167,6 +174,11 @@ bool AppDelegate::take(const OndelDesktop::OpenRequest& request) {
     const bool isTaken = answer(request);
     if (hasLaunchFeedback())
         OndelDesktop::completeStartup(request.activationToken); // also if no window comes to the front
+    if (isTaken && m_window)
+        QTimer::singleShot(focusPatience, m_window, [window = m_window.get()] {
+            if (!window->isActive())
+                OndelDesktop::askForAttention(window, product::id);
+        });
     return isTaken;
 }
 

@@ -5,11 +5,18 @@ import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
-/// The menu bar. F10 opens its first menu; the arrow keys move to the others.
+/// The menu bar. F10 opens its first menu, Alt and a title's marked letter its menu; the arrow keys move to the others.
 T.MenuBar {
     id: bar
 
+    /// Underlines the letters that open menus together with Alt.
+    property bool showsLetters: false
+
+    /// Does nothing while a menu is open, as at the end of Alt and a letter.
     function openFirst(): void {
+        for (let i = 0; i < count; ++i)
+            if (menuAt(i).visible)
+                return;
         (itemAt(0) as T.MenuBarItem).triggered();
     }
 
@@ -26,10 +33,10 @@ T.MenuBar {
     delegate: T.MenuBarItem {
         id: title
 
-        implicitWidth: words.implicitWidth + leftPadding + rightPadding
-        implicitHeight: words.implicitHeight + topPadding + bottomPadding
-        horizontalPadding: 8
-        verticalPadding: 4
+        readonly property int letter: text.indexOf("&")
+
+        implicitWidth: words.implicitWidth
+        implicitHeight: words.implicitHeight
 
         // Qt gives each title the role of a menu bar. The text inside has the role of a menu item.
         Accessible.ignored: true
@@ -37,11 +44,40 @@ T.MenuBar {
         contentItem: PlainText {
             id: words
 
-            text: title.text
+            text: title.text.replace("&", "")
+            leftPadding: 8
+            rightPadding: 8
+            topPadding: 4
+            bottomPadding: 4
             font: Typeface.text(13)
             color: title.highlighted ? PaletteKey.palette.onAccent : PaletteKey.palette.text2
             Accessible.role: Accessible.MenuItem
             Accessible.onPressAction: title.triggered()
+
+            OnDemand {
+                active: bar.showsLetters && title.letter >= 0
+
+                Rectangle {
+                    x: words.leftPadding + before.advanceWidth
+                    y: words.baselineOffset + 2
+                    width: marked.advanceWidth
+                    height: 1
+                    color: words.color
+
+                    TextMetrics {
+                        id: before
+
+                        font: words.font
+                        text: words.text.slice(0, title.letter)
+                    }
+                    TextMetrics {
+                        id: marked
+
+                        font: words.font
+                        text: words.text.charAt(title.letter)
+                    }
+                }
+            }
         }
         background: Card {
             radius: 6

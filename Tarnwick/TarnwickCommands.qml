@@ -31,7 +31,7 @@ MenuStrip {
     }
 
     CommandMenu {
-        title: qsTr("Tarnwick")
+        title: qsTr("&Tarnwick")
         commands: [
             Command {
                 text: qsTr("About Ondel Tarnwick")
@@ -59,7 +59,7 @@ MenuStrip {
         ]
     }
     CommandMenu {
-        title: qsTr("File")
+        title: qsTr("&File")
         commands: [
             Command {
                 text: qsTr("Choose Folder…")
@@ -85,7 +85,7 @@ MenuStrip {
         ]
     }
     CommandMenu {
-        title: qsTr("Run")
+        title: qsTr("&Run")
         commands: [
             Command {
                 text: qsTr("Run Benchmark")
@@ -116,8 +116,11 @@ MenuStrip {
             }
         ]
     }
+    HistoryCommands {
+        analyzer: commands.analyzer
+    }
     CommandMenu {
-        title: qsTr("Help")
+        title: qsTr("&Help")
         commands: [
             Command {
                 text: qsTr("Tarnwick Help")

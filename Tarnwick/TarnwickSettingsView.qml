@@ -13,7 +13,7 @@ Item {
     required property UpdaterModel updater
     required property SupportNudges support
 
-    implicitWidth: 440
+    implicitWidth: Metrics.scaled(440)
     implicitHeight: form.implicitHeight + 40
 
     ColumnLayout {

@@ -22,7 +22,7 @@ Window {
     width: 1180
     height: 780
     minimumWidth: view.leastWidth
-    minimumHeight: commands.height + view.leastHeight
+    minimumHeight: view.leastHeight
     visible: true
     flags: Qt.Window | (WindowFrames.areOurs ? Qt.FramelessWindowHint : 0)
     color: view.color
@@ -45,6 +45,7 @@ Window {
         onAboutWanted: window.aboutWanted()
         onSettingsWanted: window.settingsWanted()
         onRunWanted: view.run()
+        showsLetters: menuKey.isHeld
     }
     TarnwickView {
         id: view
@@ -62,7 +63,12 @@ Window {
             }
         }
     }
+    WindowPlace {
+        window: window
+    }
     MenuKey {
+        id: menuKey
+
         window: window
         onTapped: commands.openFirst()
     }

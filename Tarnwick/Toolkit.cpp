@@ -45,6 +45,18 @@ void chooseRenderer() {
         qputenv("QSG_DISTANCEFIELD_ANTIALIASING", "gray"); // avoids coloured fringes in images of text
 }
 
+/// Qt's theme for GNOME and Xfce starts GTK, which puts the program on the accessibility bus a second time,
+/// as one without a window. Only while Qt starts, because programs that this one starts have need of it.
+Toolkit withoutSecondBridge(int& argc, char** argv) {
+    const bool isSetByUser = qEnvironmentVariableIsSet("NO_AT_BRIDGE");
+    if (!isSetByUser)
+        qputenv("NO_AT_BRIDGE", "1");
+    Toolkit application(new QApplication(argc, argv));
+    if (!isSetByUser)
+        qunsetenv("NO_AT_BRIDGE");
+    return application;
+}
+
 } // namespace
 
 void EndOfToolkit::operator()(QApplication* application) const {
@@ -60,7 +72,7 @@ void EndOfToolkit::operator()(QApplication* application) const {
 Toolkit startToolkit(int& argc, char** argv) {
     chooseRenderer();
     defaultHandler = qInstallMessageHandler(explainMissingDisplay);
-    Toolkit application(new QApplication(argc, argv));
+    Toolkit application = withoutSecondBridge(argc, argv);
     qInstallMessageHandler(OndelCore::platform::isStandardErrorLogged() ? warnWithoutNames : defaultHandler);
     application->setApplicationName(QString::fromLatin1(product::name));
     // Together with the application name: the name of the settings file.

@@ -16,12 +16,19 @@ void WindowKey::setWindow(QWindow* window) {
     Q_EMIT windowChanged();
 }
 
+void MenuKey::setHeld(bool held) {
+    if (std::exchange(m_isHeld, held) != held)
+        Q_EMIT isHeldChanged();
+}
+
 bool MenuKey::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::KeyPress:
         m_isAlone = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt;
+        setHeld(m_isAlone);
         break;
     case QEvent::KeyRelease:
+        setHeld(false);
         if (std::exchange(m_isAlone, false) && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt)
             Q_EMIT tapped();
         break;
@@ -29,6 +36,7 @@ bool MenuKey::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Wheel:
     case QEvent::FocusOut: // the window manager has used the key
         m_isAlone = false;
+        setHeld(false);
         break;
     default:
         break;

@@ -25,15 +25,21 @@ private:
 class MenuKey : public WindowKey {
     Q_OBJECT
     QML_ELEMENT
+    Q_PROPERTY(bool isHeld READ isHeld NOTIFY isHeldChanged)
 public:
     using WindowKey::WindowKey;
+    bool isHeld() const { return m_isHeld; }
+    Q_SIGNAL void isHeldChanged();
     Q_SIGNAL void tapped();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void setHeld(bool held);
+
     bool m_isAlone = false;
+    bool m_isHeld = false;
 };
 
 /// Detects a press of Escape that nothing in the window has a use for, as an open menu or a text field has.

@@ -29,8 +29,8 @@ void explainFailure(QtMsgType type, const QMessageLogContext&, const QString& me
 }
 
 int draw(const CommandLine& line) {
-    const auto runs = readRuns(line.operands());
-    if (runs.empty() || runs.size() != line.operands().size())
+    const auto [runs, isWhole] = readRuns(line.operands());
+    if (runs.empty() || !isWhole)
         return failed;
     const bool isDark = line.has("--dark");
     views::TarnwickFonts::registerFrom();

@@ -24,6 +24,7 @@ struct Command {
 
 extern const Command runCommand;
 extern const Command showCommand;
+extern const Command historyCommand;
 extern const Command cardCommand;
 extern const Command factsCommand;
 extern const Command volumesCommand;

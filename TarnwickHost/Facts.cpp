@@ -46,11 +46,6 @@ QString answerText(Capability capability) {
     return capability.isKnown() ? yesOrNo(bool{capability}) : QString("not known");
 }
 
-/// Percent-encoded by byte, so that names that are not valid UTF-8 are kept.
-QString urlText(const std::filesystem::path& path) {
-    return "file://" + QString::fromLatin1(QByteArray::fromStdString(path.native()).toPercentEncoding("/"));
-}
-
 void add(QJsonObject& object, const char* name, const std::optional<QString>& text) {
     if (text)
         object.insert(QLatin1String(name), *text);
@@ -105,6 +100,10 @@ QJsonArray disksJson(const std::vector<SmartReading>& disks) {
 }
 
 } // namespace
+
+QString urlText(const std::filesystem::path& path) {
+    return "file://" + QString::fromLatin1(QByteArray::fromStdString(path.native()).toPercentEncoding("/"));
+}
 
 QJsonObject volumeJson(const VolumeInfo& volume) {
     QJsonObject object{{"name", volume.name},
@@ -188,7 +187,7 @@ std::vector<TextRow> driveRows(const DriveIdentity& drive) {
     return {{"Model", drive.model.value_or("--")}, {"Attached by", drive.protocolName.value_or("--")}};
 }
 
-QJsonObject healthJson(const DiskHealth::Reading& reading) {
+QJsonObject healthJson(const HealthReading& reading) {
     QJsonObject object{{"source", QString::fromStdString(reading.source)}};
     if (!reading.smart)
         return object;
@@ -207,7 +206,7 @@ QJsonObject healthJson(const DiskHealth::Reading& reading) {
     return object;
 }
 
-std::vector<TextRow> healthRows(const DiskHealth::Reading& reading) {
+std::vector<TextRow> healthRows(const HealthReading& reading) {
     std::vector<TextRow> rows{{"Source", QString::fromStdString(reading.source)}};
     if (!reading.smart || !reading.smart->isSupported())
         return rows;

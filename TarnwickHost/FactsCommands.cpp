@@ -1,5 +1,5 @@
-#include "OndelCore/health/DiskHealth.h"
-#include "OndelCore/volumes/VolumeInfo.h"
+#include "OndelCore/health/HealthReading.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickHost/Command.h"
 #include "TarnwickHost/Facts.h"
 #include "TarnwickHost/Output.h"
@@ -16,7 +16,8 @@
 #include <filesystem>
 
 using namespace OndelCore::volumes;
-using OndelCore::health::DiskHealth;
+using OndelCore::health::HealthReading;
+using OndelCore::health::readHealth;
 using OndelCore::platform::SystemSources;
 using TarnwickKit::model::DriveIdentity;
 using TarnwickKit::model::DriveInfo;
@@ -33,14 +34,14 @@ struct Facts {
     std::optional<VolumeInfo> volume;
     std::optional<VolumeCapabilities> capabilities;
     DriveIdentity drive;
-    DiskHealth::Reading health;
+    HealthReading health;
 };
 
 Facts factsOf(const std::filesystem::path& folder, const SystemSources& sources) {
-    Facts facts{.volume = VolumeInfo::load(Location::local(folder), sources),
-                .capabilities = VolumeCapabilities::probe(Location::local(folder), sources),
+    Facts facts{.volume = OndelCore::volumes::loadVolumeInfo(Location::local(folder), sources),
+                .capabilities = OndelCore::volumes::probeCapabilities(Location::local(folder), sources),
                 .drive = {},
-                .health = DiskHealth::readInDetail(folder, sources)};
+                .health = readHealth(folder, sources)};
     if (facts.volume && facts.volume->volumeURL)
         facts.drive = DriveInfo::identity(*facts.volume->volumeURL, sources);
     return facts;
@@ -76,18 +77,20 @@ QString text(const Facts& facts) {
 int executeFacts(const CommandLine& line) {
     const SystemSources sources;
     const Facts facts = factsOf(folderIn(line, sources.mountTable), sources);
-    print(line.has("--json") ? QJsonDocument(json(facts)).toJson(QJsonDocument::Compact).toStdString() + '\n'
-                             : text(facts).toStdString());
+    if (line.has("--json"))
+        print(QJsonDocument(json(facts)));
+    else
+        print(text(facts).toStdString());
     return done;
 }
 
 constexpr std::array volumesOptions{Option{"--json", "", "Print the list as one JSON array"}};
 
-std::string json(const std::vector<MountedVolume>& volumes) {
+QJsonDocument json(const std::vector<MountedVolume>& volumes) {
     QJsonArray array;
     for (const MountedVolume& volume : volumes)
         array.append(mountedVolumeJson(volume));
-    return QJsonDocument(array).toJson(QJsonDocument::Compact).toStdString() + '\n';
+    return QJsonDocument(array);
 }
 
 std::string text(const std::vector<MountedVolume>& volumes) {
@@ -103,12 +106,16 @@ int executeVolumes(const CommandLine& line) {
     if (!line.operands().empty())
         throw UsageError("volumes takes no operand");
     const auto volumes = mountedVolumes();
-    print(line.has("--json") ? json(volumes) : text(volumes));
+    if (line.has("--json"))
+        print(json(volumes));
+    else
+        print(text(volumes));
     return done;
 }
 
 std::optional<QString> driveName(const std::filesystem::path& folder, const SystemSources& sources) {
-    const std::optional<VolumeInfo> volume = VolumeInfo::load(Location::local(folder), sources);
+    const std::optional<VolumeInfo> volume =
+        OndelCore::volumes::loadVolumeInfo(Location::local(folder), sources);
     if (!volume || !volume->volumeURL)
         return std::nullopt;
     return DriveInfo::identity(*volume->volumeURL, sources).model;
@@ -117,7 +124,7 @@ std::optional<QString> driveName(const std::filesystem::path& folder, const Syst
 int executeSmartReport(const CommandLine& line) {
     const SystemSources sources;
     const std::filesystem::path folder = folderIn(line, sources.mountTable);
-    const DiskHealth::Reading reading = DiskHealth::readInDetail(folder, sources);
+    const HealthReading reading = readHealth(folder, sources);
     if (!reading.smart || !reading.smart->isSupported()) {
         complain("no S.M.A.R.T. figures: " + reading.source);
         return failed;

@@ -1,5 +1,9 @@
 #include "TarnwickHost/Output.h"
 
+#include "TarnwickKit/model/format/DisplayText.h"
+
+#include <QJsonDocument>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -32,6 +36,10 @@ void print(std::string_view utf8) {
         if (written > 0)
             utf8.remove_prefix(static_cast<std::size_t>(written));
     }
+}
+
+void print(const QJsonDocument& json) {
+    print(TarnwickKit::model::harmlessJson(json.toJson(QJsonDocument::Compact)).toStdString() + '\n');
 }
 
 void requireStandardOutput() {

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+class QJsonDocument;
+
 namespace TarnwickHost {
 
 /// Opens /dev/null in place of each standard descriptor that is closed. Otherwise a file opened later would
@@ -11,6 +13,9 @@ void occupyStandardDescriptors();
 /// Writes all of `utf8` to standard output.
 /// Fails: throws std::system_error if not all of it could be written, as into a closed pipe.
 void print(std::string_view utf8);
+
+/// Prints JSON on one line. Characters that would steer a terminal are escapes in it. Fails: as print.
+void print(const QJsonDocument& json);
 
 /// Fails as print does if standard output cannot be written to. Call before a long measurement.
 void requireStandardOutput();

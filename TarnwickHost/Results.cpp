@@ -2,12 +2,14 @@
 
 #include "TarnwickHost/Facts.h"
 #include "TarnwickHost/Remarks.h"
-#include "TarnwickHost/Terminal.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
+#include "TarnwickKit/model/runs/RunText.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
 #include <optional>
 #include <system_error>
@@ -104,6 +106,8 @@ QJsonObject json(const ThroughputResult& result) {
                        {"peakBytesPerSecond", result.peakBytesPerSecond()},
                        {"sustainedBytesPerSecond", result.sustainedBytesPerSecond()},
                        {"observedCacheCliff", result.observedCacheCliff()}};
+    if (const auto lowest = result.lowestBytesPerSecond())
+        object.insert("lowestBytesPerSecond", *lowest);
     addError(object, "flushError", result.flushError);
     return object;
 }
@@ -142,6 +146,24 @@ QJsonObject json(const OndelCore::platform::TriedAbilities& tried) {
     if (tried.cloning)
         object.insert("supportsCloning", *tried.cloning);
     return object;
+}
+
+/// When, where and with what, by the keys of a run file and of "facts".
+void addOrigin(QJsonObject& object, const MeasuredRun& run) {
+    object.insert("formatVersion", qint64{runFormatVersion});
+    object.insert("folder", QString::fromStdString(run.place.folder.string()));
+    object.insert("folderURL", urlText(run.place.folder));
+    if (run.place.volume)
+        object.insert("volume", volumeJson(*run.place.volume));
+    if (run.place.capabilities)
+        object.insert("fileSystem", capabilitiesJson(*run.place.capabilities));
+    if (const QJsonObject drive = driveJson(run.drive); !drive.isEmpty())
+        object.insert("drive", drive);
+    const auto record = run.record ? encodeRun(*run.record) : std::nullopt;
+    const QJsonObject stored = QJsonDocument::fromJson(record.value_or(QByteArray())).object();
+    for (const char* key : {"id", "date", "duration", "connection", "kind", "kernel", "version"})
+        if (const QJsonValue value = stored[QLatin1String(key)]; !value.isUndefined())
+            object.insert(QLatin1String(key), value);
 }
 
 } // namespace
@@ -200,8 +222,7 @@ QJsonObject resultJson(const MeasuredRun& run) {
     add(BenchmarkTest::randomWrite, result.randomWrite);
     add(BenchmarkTest::fileOps, result.fileOps);
     addError(object, "preparationFlushError", result.preparationFlushError);
-    if (const QJsonObject drive = driveJson(run.drive); !drive.isEmpty())
-        object.insert("drive", drive);
+    addOrigin(object, run);
     return object;
 }
 

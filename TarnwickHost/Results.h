@@ -3,14 +3,25 @@
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
 #include "OndelCore/benchmark/evidence/Remark.h"
-#include "TarnwickKit/model/session/DriveInfo.h"
+#include "OndelCore/volumes/VolumeCapabilities.h"
+#include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QJsonObject>
 #include <QString>
 
+#include <filesystem>
+#include <optional>
 #include <vector>
 
 namespace TarnwickHost {
+
+/// Where a run was measured, and what was told of it before. What is not told is absent.
+struct RunPlace {
+    std::filesystem::path folder;
+    std::optional<OndelCore::volumes::VolumeInfo> volume;
+    std::optional<OndelCore::volumes::VolumeCapabilities> capabilities;
+};
 
 /// A finished run with what is known about it.
 struct MeasuredRun {
@@ -18,6 +29,8 @@ struct MeasuredRun {
     OndelCore::benchmark::BenchmarkResult result;
     std::vector<OndelCore::benchmark::Remark> remarks;
     TarnwickKit::model::DriveIdentity drive;
+    RunPlace place;
+    std::optional<TarnwickKit::model::RunRecord> record;
 };
 
 /// A run as aligned text for a terminal, in the words and units of the window: the figures, the drive, and
@@ -26,8 +39,9 @@ QString resultTable(const MeasuredRun& run, int columns);
 
 /// A run as one object: the plan under "plan", each test that ran under its own name with every measured
 /// field, its samples and the figures derived from them, under "capabilities" what the file system did when
-/// it was tried, under "drive" its names, and what was observed under "evidence" and "remarks". A test that
-/// did not run has no key, and a flush has one only if it failed. Units: as the fields' own.
+/// it was tried, under "folder", "volume", "fileSystem" and "drive" where, and what was observed under
+/// "evidence" and "remarks". A test that did not run has no key, and a flush has one only if it failed.
+/// docs/run-output.schema.json describes it. Units: as the fields' own.
 QJsonObject resultJson(const MeasuredRun& run);
 
 } // namespace TarnwickHost

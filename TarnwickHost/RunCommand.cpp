@@ -1,7 +1,6 @@
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "OndelCore/volumes/VolumeCapabilities.h"
-#include "OndelCore/volumes/VolumeInfo.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickHost/Card.h"
 #include "TarnwickHost/Command.h"
 #include "TarnwickHost/Output.h"
@@ -11,6 +10,8 @@
 #include "TarnwickHost/RunOptions.h"
 #include "TarnwickHost/Terminal.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
+#include "TarnwickKit/model/runs/HistoryStore.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
@@ -29,33 +30,22 @@
 using namespace OndelCore::benchmark;
 using namespace OndelCore::volumes;
 using TarnwickKit::model::AnalyzerModel;
-using TarnwickKit::model::DriveInfo;
+using TarnwickKit::model::HistoryStore;
+using TarnwickKit::model::RunRecord;
+using TarnwickKit::model::TarnwickReport;
 
 namespace TarnwickHost {
 
 namespace {
 
-/// Facts for the run file as they were before the run. Make it before the run starts.
-class HandOff {
-public:
-    /// Blocks on asking for the volume that holds `folder`. Fails: never, what is not told is absent.
-    explicit HandOff(const std::filesystem::path& folder,
-                     const OndelCore::platform::SystemSources& sources = {})
-        : m_volume(VolumeInfo::load(Location::local(folder), sources))
-        , m_capabilities(VolumeCapabilities::probe(Location::local(folder), sources)) {}
-
-    /// Writes the run file. Fails: absent.
-    std::optional<std::filesystem::path> write(const BenchmarkPlan& plan,
-                                               const BenchmarkResult& result) const {
-        return TarnwickKit::model::TarnwickReport::from(result, m_volume, m_capabilities, m_date, plan)
-            .handoffFile();
-    }
-
-private:
-    std::optional<VolumeInfo> m_volume;
-    std::optional<VolumeCapabilities> m_capabilities;
-    QDateTime m_date = QDateTime::currentDateTimeUtc();
-};
+/// What is told of a place. Blocks on asking for the volume that holds it. Fails: never, what is not told is
+/// absent.
+RunPlace placeOf(const std::filesystem::path& folder) {
+    const OndelCore::platform::SystemSources sources;
+    return {.folder = std::filesystem::absolute(folder),
+            .volume = loadVolumeInfo(Location::local(folder), sources),
+            .capabilities = probeCapabilities(Location::local(folder), sources)};
+}
 
 /// Removes what killed runs left in the folder. Waits for files in use a second only: another run can take
 /// hours.
@@ -114,14 +104,18 @@ BenchmarkResult measured(const RunOptions& options) {
 struct Files {
     std::optional<std::filesystem::path> run;
     std::optional<std::filesystem::path> card;
+    bool isWhole = true; ///< all that was asked for is written
 };
 
-/// Writes the files that `options` ask for. One that cannot be written is absent, with a line on standard
-/// error.
-Files written(const RunOptions& options, const HandOff& handOff, const BenchmarkResult& result) {
-    Files files{.run = handOff.write(options.plan, result), .card = std::nullopt};
+/// Writes the temporary files that `options` ask for. One that cannot be written is absent, with a line on
+/// standard error.
+Files temporaryFiles(const RunOptions& options, const RunRecord& record) {
+    if (!options.handOff && !options.card)
+        return {};
+    Files files{.run = TarnwickReport{record}.handoffFile(), .card = std::nullopt};
     if (!files.run) {
         complain("The run file could not be written to your temporary folder.");
+        files.isWhole = false;
         return files;
     }
     if (options.card) {
@@ -131,6 +125,7 @@ Files written(const RunOptions& options, const HandOff& handOff, const Benchmark
         const CardAnswer answer = drawCard(arguments);
         if (answer.status == done)
             files.card = answer.output.substr(0, answer.output.find('\n'));
+        files.isWhole = files.card.has_value();
     }
     if (!options.handOff) {
         std::error_code ignored;
@@ -140,7 +135,23 @@ Files written(const RunOptions& options, const HandOff& handOff, const Benchmark
     return files;
 }
 
-std::string json(const MeasuredRun& run, const Files& files) {
+/// Writes the run wherever `options` ask for it.
+Files written(const RunOptions& options, const RunRecord& record) {
+    Files files = temporaryFiles(options, record);
+    if (options.output)
+        files.isWhole &= options.output->write(encodeRun(record));
+    if (options.keep) {
+        HistoryStore history;
+        history.add(record);
+        if (!history.isSaved()) {
+            complain("The run could not be added to the history.");
+            files.isWhole = false;
+        }
+    }
+    return files;
+}
+
+QJsonDocument json(const MeasuredRun& run, const Files& files) {
     QJsonObject object = resultJson(run);
     const auto insert = [&](const char* key, const std::optional<std::filesystem::path>& file) {
         if (file)
@@ -148,7 +159,7 @@ std::string json(const MeasuredRun& run, const Files& files) {
     };
     insert("handoffFile", files.run);
     insert("cardFile", files.card);
-    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + '\n';
+    return QJsonDocument(object);
 }
 
 std::string text(const MeasuredRun& run, const Files& files) {
@@ -161,15 +172,23 @@ std::string text(const MeasuredRun& run, const Files& files) {
     return lines;
 }
 
+/// Records hold no negative sizes of blocks; the engine makes a page of them.
+BenchmarkPlan recordable(BenchmarkPlan plan) {
+    for (std::int64_t* block : {&plan.writeBlockSize, &plan.readBlockSize, &plan.randomBlockSize})
+        *block = *block < 0 ? BenchmarkPlan::alignedBlock(*block) : *block;
+    return plan;
+}
+
 int executeRun(const CommandLine& line) {
     const RunOptions options = runOptions(line);
     requireStandardOutput();
     BenchmarkResult result;
-    std::optional<HandOff> handOff;
+    RunPlace place;
+    QDateTime date;
     try {
         sweep(options.folder);
-        if (options.handOff || options.card)
-            handOff.emplace(options.folder);
+        place = placeOf(options.folder);
+        date = QDateTime::currentDateTimeUtc();
         result = measured(options);
     } catch (const Cancelled&) {
         return interrupted;
@@ -178,13 +197,20 @@ int executeRun(const CommandLine& line) {
         return failed;
     }
     complainOfFlushes(options, result);
-    const Files files = handOff ? written(options, *handOff, result) : Files();
-    const MeasuredRun run{options.plan, result, remarksOn(options.plan, result),
-                          DriveInfo::identity(options.folder)};
-    print(options.json ? json(run, files) : text(run, files));
-    const bool isWhole =
-        options.handOff == files.run.has_value() && options.card.has_value() == files.card.has_value();
-    return isWhole ? done : failed;
+    const RunRecord record =
+        TarnwickReport::from(result, place.volume, place.capabilities, date, recordable(options.plan)).run;
+    const Files files = written(options, record);
+    const MeasuredRun run{options.plan,
+                          result,
+                          record.remarks.value_or(std::vector<Remark>()),
+                          {record.deviceModel, record.deviceProtocol},
+                          place,
+                          record};
+    if (options.json)
+        print(json(run, files));
+    else
+        print(text(run, files));
+    return files.isWhole ? done : failed;
 }
 
 } // namespace
@@ -201,8 +227,11 @@ blocks of the sequential tests: the window takes the "Optimal transfer" that "fa
 Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start; files that are still in use stay, after a second's wait.
 
-A run file and a picture stay until your session ends, or until the system empties its temporary folder. When one
-cannot be written, the figures are printed all the same and the run counts as failed.
+The files of --handoff and --card stay until your session ends, or until the system empties its temporary folder.
+--output replaces an existing file only if it is empty or holds runs (a run file, or what "show --format" and
+"history export" write as json or csv); with --force any other file too. A window that is open shows a run that
+--keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
+and the run counts as failed.
 
 Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.
 )",

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "TarnwickHost/Terminal.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
-
-#include <QString>
 
 #include <span>
 #include <string_view>
@@ -11,13 +8,13 @@
 
 namespace TarnwickHost {
 
-/// The runs in the files named by `paths`, in that order. Fails: a file that holds none gets a line on
-/// standard error and is left out.
-std::vector<TarnwickKit::model::RunRecord> readRuns(std::span<const std::string_view> paths);
+struct ReadRuns {
+    std::vector<TarnwickKit::model::RunRecord> runs;
+    bool isWhole = true; ///< every file could be read
+};
 
-/// Stored runs as text for a terminal: each with its title, date, figures, volume and settings, numbered when
-/// there are several, and then their comparison as bars. No line is wider than `style.columns`, which counts
-/// as 24 below that; what does not fit goes on below or is cut. Empty for no runs.
-QString runTexts(const std::vector<TarnwickKit::model::RunRecord>& runs, LineStyle style);
+/// The runs in the files named by `paths`, in that order: of a run file its run, of a history all. "-" is
+/// standard input, read to its end. Fails: a file without runs gets a line with the reason on standard error.
+ReadRuns readRuns(std::span<const std::string_view> paths);
 
 } // namespace TarnwickHost

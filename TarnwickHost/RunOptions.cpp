@@ -42,9 +42,12 @@ constexpr std::array options{
     Option{"--cached", "", "Let the system cache the data file, as ordinary programs do"},
     Option{"--sample-interval", "S", "Least seconds between two samples (default: 0.02)"},
     Option{"--json", "",
-           "Print one JSON object: the plan, every figure, every sample, under\n"
-           "\"capabilities\" what the file system did when it was tried, and under\n"
-           "\"evidence\" and \"remarks\" what was observed and what it says"},
+           "Print one JSON object: the plan, every figure, every sample, date,\n"
+           "folder, volume, file system, drive, kernel, and under \"evidence\" and\n"
+           "\"remarks\" what was observed and what it says"},
+    Option{"--output", "FILE", "Write a run file there, for the window, for \"show\" and for others"},
+    forceOption,
+    Option{"--keep", "", "Add the run to the window's history"},
     Option{"--handoff", "",
            "Write a run file for the window and for \"show\", and print its path\n"
            "as the last line; with --json: as \"handoffFile\" in the object"},
@@ -143,6 +146,8 @@ RunOptions runOptions(const CommandLine& line) {
     run.folder = parsedFolder(line);
     run.json = line.has("--json");
     run.handOff = line.has("--handoff");
+    run.output = outputFile(line);
+    run.keep = line.has("--keep");
     run.card = parsedCard(line);
     return run;
 }

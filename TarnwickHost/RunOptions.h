@@ -2,6 +2,7 @@
 
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "TarnwickHost/CommandLine.h"
+#include "TarnwickHost/ExportOptions.h"
 
 #include <filesystem>
 #include <optional>
@@ -16,8 +17,10 @@ struct RunOptions {
     OndelCore::benchmark::BenchmarkPlan plan;
     std::filesystem::path folder; ///< the bytes as given
     bool json = false;
-    bool handOff = false;           ///< write a run file
-    std::optional<CardColors> card; ///< draw a picture
+    bool handOff = false;             ///< write a run file into the temporary folder
+    std::optional<OutputFile> output; ///< write a run file there
+    bool keep = false;                ///< add it to the window's history
+    std::optional<CardColors> card;   ///< draw a picture
 };
 
 /// The options that "run" knows, for its parser and its --help.

@@ -1,21 +1,24 @@
 #include "TarnwickHost/Command.h"
+#include "TarnwickHost/ExportOptions.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/RunFiles.h"
 
-#include <unistd.h>
-
-using namespace TarnwickKit::model;
+#include <array>
 
 namespace TarnwickHost {
 
 namespace {
 
+constexpr std::array showOptions{formatOption};
+
 int executeShow(const CommandLine& line) {
     if (line.operands().empty())
         throw UsageError("a FILE to show is missing");
-    const std::vector<RunRecord> runs = readRuns(line.operands());
-    print(runTexts(runs, lineStyle(STDOUT_FILENO)).toStdString());
-    return runs.size() == line.operands().size() ? done : failed;
+    const auto form = exportForm(line);
+    const auto [runs, isWhole] = readRuns(line.operands());
+    if (!runs.empty() || isWhole)
+        printRuns(runs, form);
+    return isWhole ? done : failed;
 }
 
 } // namespace
@@ -23,10 +26,14 @@ int executeShow(const CommandLine& line) {
 const Command showCommand{.name = "show",
                           .operands = "FILE…",
                           .summary = "Show runs from their run files, and several side by side",
-                          .options = {},
+                          .options = showOptions,
                           .notes = R"(
-A run file is what "run --handoff" writes, for one run. With several, bars compare their figures: the largest of
-each kind fills its track, and "--" stands where a run has none. Lines fit the terminal, or 80 columns.
+A run file is what "run --handoff" and "run --output" write, for one run. The window's history (history.json) and
+the output of "show --format json" have several. "-" is standard input.
+
+As text, bars compare the figures of several runs: the largest of each kind fills its track, and "--" stands where a
+run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
+plain numbers for spreadsheets and scripts. JSON is a list of run files' contents.
 
 A file that cannot be shown gets a line on standard error, and the others are shown.
 

@@ -19,7 +19,7 @@ namespace {
 constexpr std::string_view program = "tarnwick-host";
 
 /// In the order in which --help lists them.
-constexpr std::array commands{&runCommand,   &showCommand,    &cardCommand,
+constexpr std::array commands{&runCommand,   &showCommand,    &historyCommand,    &cardCommand,
                               &factsCommand, &volumesCommand, &smartReportCommand};
 
 /// Two columns: the words on the left, what they mean on the right.

@@ -11,7 +11,7 @@ PanelWindow {
     property appIdentity app: AppSupport.app
 
     title: qsTr("About %1").arg(app.name)
-    wantedWidth: Math.max(300, column.implicitWidth + 48)
+    wantedWidth: Math.max(Metrics.scaled(300), column.implicitWidth + 48)
     wantedHeight: column.implicitHeight + 48
 
     component Credit: Row {
@@ -24,12 +24,12 @@ PanelWindow {
         PlainText {
             visible: !credit.first
             text: " · "
-            font.pixelSize: 11
+            font.pixelSize: Metrics.scaled(11)
             color: panel.palette.placeholderText
             Accessible.ignored: true
         }
         LinkButton {
-            textSize: 11
+            textSize: Metrics.scaled(11)
             label: credit.text
             onClicked: AppSupport.openPage(credit.address)
         }
@@ -59,7 +59,7 @@ PanelWindow {
             anchors.horizontalCenter: parent.horizontalCenter
             bottomPadding: 6
             text: qsTr("Version %1").arg(AppSupport.appVersion)
-            font.pixelSize: 11
+            font.pixelSize: Metrics.scaled(11)
         }
         Row {
             anchors.horizontalCenter: parent.horizontalCenter

@@ -9,9 +9,13 @@ BaseButton {
     id: button
 
     property bool prominent: false
+    /// How far the area to press extends over the button's upper and lower edge.
+    readonly property real reach: Math.max(0, (Metrics.leastTarget - implicitContentHeight) / 2 - (prominent ? 5 : 4))
 
     horizontalPadding: 10
-    verticalPadding: prominent ? 5 : 4
+    verticalPadding: (prominent ? 5 : 4) + reach
+    topInset: reach
+    bottomInset: reach
     corner: Metrics.fieldCorner
     focusColor: "white"
 

@@ -11,8 +11,8 @@ BaseButton {
 
     signal chosen
 
-    implicitWidth: 22
-    implicitHeight: 22
+    implicitWidth: Metrics.leastTarget
+    implicitHeight: Metrics.leastTarget
     label: qsTr("More")
     hint: menu.visible ? "" : label
     detail: ""

@@ -15,7 +15,7 @@ FocusScope {
     signal chosen(index: int)
 
     implicitWidth: row.implicitWidth + 4
-    implicitHeight: 26
+    implicitHeight: Metrics.scaled(26)
     Accessible.role: Accessible.Grouping
     Accessible.name: label
     Keys.onLeftPressed: step(LayoutMirroring.enabled ? 1 : -1)

@@ -11,8 +11,9 @@ Card {
     property SupportNudges nudges: AppSupport.nudges
     property appIdentity app: AppSupport.app
     readonly property bool fitsOneRow: width >= 24 + heart.width + 8 + Math.max(free.implicitWidth, plea.implicitWidth) + 12 + buttons.width
+    readonly property real shownHeight: ask.height - 2 * ask.reach
 
-    implicitHeight: 24 + (fitsOneRow ? Math.max(words.height, buttons.height) : words.height + 10 + buttons.height)
+    implicitHeight: 24 + (fitsOneRow ? Math.max(words.height, shownHeight) : words.height + 10 + shownHeight)
     radius: 10
     color: LayoutMirroring.enabled ? OndelBrand.navy : OndelBrand.blue
     endColor: LayoutMirroring.enabled ? OndelBrand.blue : OndelBrand.navy
@@ -64,10 +65,12 @@ Card {
         anchors.leftMargin: 12
         anchors.right: banner.fitsOneRow ? parent.right : undefined
         anchors.rightMargin: 12
-        y: banner.fitsOneRow ? Math.round((parent.height - height) / 2) : words.y + words.height + 10
+        y: banner.fitsOneRow ? Math.round((parent.height - height) / 2) : words.y + words.height + 10 - (height - banner.shownHeight) / 2
         spacing: 6
 
         BannerButton {
+            id: ask
+
             anchors.verticalCenter: parent.verticalCenter
             prominent: true
             label: qsTr("Support on Ko-fi")

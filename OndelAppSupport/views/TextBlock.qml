@@ -15,7 +15,7 @@ FocusScope {
     signal confirmed
 
     implicitWidth: 200
-    implicitHeight: 116
+    implicitHeight: Metrics.scaled(116)
 
     FieldFrame {
         anchors.fill: parent

@@ -13,7 +13,7 @@ PanelWindow {
     readonly property int state: updater.state
 
     title: qsTr("Software Update")
-    wantedWidth: Math.max(520, buttons.implicitWidth + icon.sourceSize.width + page.spacing + 2 * Metrics.sheetMargin)
+    wantedWidth: Math.max(Metrics.scaled(520), buttons.implicitWidth + icon.sourceSize.width + page.spacing + 2 * Metrics.sheetMargin)
     wantedHeight: page.implicitHeight + 2 * Metrics.sheetMargin
     visible: state !== UpdaterController.Idle
 
@@ -81,7 +81,7 @@ PanelWindow {
             BodyText {
                 Layout.fillWidth: true
                 text: words.heading
-                font.pixelSize: 14
+                font.pixelSize: Metrics.scaled(14)
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
             }

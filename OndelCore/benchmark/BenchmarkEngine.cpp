@@ -37,6 +37,11 @@ QFuture<BenchmarkResult> BenchmarkEngine::run(BenchmarkPlan plan, std::filesyste
         std::move(stop));
 }
 
+BenchmarkResult BenchmarkEngine::measure(const BenchmarkPlan& plan, const std::filesystem::path& folder,
+                                         const Progress& progress, std::stop_token stop) const {
+    return run(plan, folder, progress, std::move(stop)).takeResult();
+}
+
 void BenchmarkEngine::cleanupOrphans(const std::filesystem::path& folder) {
     WorkingFolder::removeOrphansIn(folder);
 }

@@ -1,15 +1,17 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkProgress.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
-
-#include <QFuture>
 
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <stop_token>
+
+template <typename Value>
+class QFuture;
 
 namespace OndelCore::benchmark {
 
@@ -17,12 +19,19 @@ namespace OndelCore::benchmark {
 ///
 /// Everything is written into a hidden working folder inside `folder`, which is removed whatever happens. A
 /// run returns everything it was asked for, or an error; never a part. The engine keeps no state between
-/// runs.
-class BenchmarkEngine {
+/// runs. Runs in several folders may go on at once, and each slows the others.
+class ONDEL_PUBLIC BenchmarkEngine {
 public:
     using Progress = ProgressListener;
 
-    /// Starts a run and returns at once.
+    /// Runs, and returns when the working folder is gone. Takes nothing but the standard library to call.
+    ///
+    /// `progress`, `stop` and failures: as `run`; what its future throws is thrown here. Threads: any;
+    /// blocks for the whole run, and `progress` is called on another thread.
+    BenchmarkResult measure(const BenchmarkPlan& plan, const std::filesystem::path& folder,
+                            const Progress& progress = {}, std::stop_token stop = {}) const;
+
+    /// Starts a run and returns at once. Callers include <QFuture>.
     ///
     /// `progress` is called on the worker from inside the measured loops: its time counts against the rate,
     /// so it must return quickly and never wait for the interface. That thread may write nothing but the

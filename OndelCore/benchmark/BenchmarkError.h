@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/Hashing.h"
 #include "OndelCore/NamedError.h"
 
@@ -12,7 +13,7 @@
 namespace OndelCore::benchmark {
 
 /// Why a run failed. The texts for people are the model's; `what` is for logs and debuggers.
-class BenchmarkError : public std::exception, public NamedError {
+class ONDEL_PUBLIC BenchmarkError : public std::exception, public NamedError {
 public:
     /// Units: bytes.
     struct InsufficientSpace {
@@ -57,7 +58,7 @@ private:
 BenchmarkError ioError(std::string_view prefix, int error);
 
 /// The run was told to stop. Nothing of it is left and there is no partial result.
-class Cancelled : public std::exception, public NamedError {
+class ONDEL_PUBLIC Cancelled : public std::exception, public NamedError {
 public:
     const char* what() const noexcept override { return "cancelled"; }
     ErrorName errorName() const noexcept override { return {"Cancelled", {}, "OndelCore.Cancelled", 1}; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkTest.h"
 
@@ -13,7 +14,7 @@
 namespace OndelCore::benchmark {
 
 /// How large the data file becomes. Units: bytes.
-class BenchmarkSize {
+class ONDEL_PUBLIC BenchmarkSize {
 public:
     /// The data file is to hold exactly `bytes`.
     struct Fixed {
@@ -58,7 +59,7 @@ struct BenchmarkSize::Preset {
 };
 
 /// What a run is asked to do. Any block sizes are accepted: they become whole pages by `alignedBlock`.
-struct BenchmarkPlan {
+struct ONDEL_PUBLIC BenchmarkPlan {
     /// Every transfer is a multiple of this. Units: bytes.
     static constexpr std::int64_t page = 4096;
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkTest.h"
 #include "OndelCore/benchmark/evidence/Evidence.h"
 #include "OndelCore/platform/drives/Circumstances.h"
-#include "OndelCore/platform/storage/FileTrials.h"
+#include "OndelCore/platform/storage/TriedAbilities.h"
 
 #include <cstdint>
 #include <optional>
@@ -23,7 +24,7 @@ struct ThroughputSample {
 };
 
 /// A sequential test as measured, with the figures derived from it.
-struct ThroughputResult {
+struct ONDEL_PUBLIC ThroughputResult {
     std::int64_t bytesProcessed = 0; ///< what the system calls really moved
     double duration = 0;        ///< seconds; for the write with its closing flush, which lies in no sample
     std::int64_t blockSize = 0; ///< bytes per call, as used
@@ -51,7 +52,7 @@ struct ThroughputResult {
 };
 
 /// A random test as measured, one operation outstanding at a time.
-struct IOPSResult {
+struct ONDEL_PUBLIC IOPSResult {
     std::int64_t operations = 0;
     double duration = 0;                         ///< seconds; for writes with the closing flush
     std::int64_t blockSize = 0;                  ///< bytes per operation, as used
@@ -69,7 +70,7 @@ struct IOPSResult {
 };
 
 /// One phase of the file-operations test.
-struct FileOpResult {
+struct ONDEL_PUBLIC FileOpResult {
     std::int64_t operations = 0;
     double duration = 0;              ///< seconds
     std::optional<Latency> latency{}; ///< of each operation
@@ -100,7 +101,7 @@ struct FlushFailure {
 };
 
 /// What a run brought; a test that was not asked for is absent.
-struct BenchmarkResult {
+struct ONDEL_PUBLIC BenchmarkResult {
     std::optional<ThroughputResult> sequentialWrite{};
     std::optional<ThroughputResult> sequentialRead{};
     std::optional<IOPSResult> randomRead{};

@@ -1,21 +1,26 @@
 #include "OndelCore/benchmark/BenchmarkTarget.h"
 
+#include "OndelCore/benchmark/TargetLookup.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
 
 namespace fs = std::filesystem;
 
 namespace OndelCore::benchmark {
 
-bool BenchmarkTarget::mayWrite(const fs::path& path) {
+namespace {
+
+bool mayWrite(const fs::path& path) {
     const auto facts = platform::pathFacts(path);
     return facts && facts->mayWrite;
 }
 
+} // namespace
+
 fs::path BenchmarkTarget::folder(const fs::path& path, const fs::path& home) {
-    return folder(path, home, Lookup{});
+    return targetFolder(path, home, {.isWritable = mayWrite});
 }
 
-fs::path BenchmarkTarget::folder(const fs::path& path, const fs::path& home, const Lookup& system) {
+fs::path targetFolder(const fs::path& path, const fs::path& home, const TargetLookup& system) {
     if (path != "/" && system.isWritable(path))
         return path;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <array>
 #include <optional>
 #include <string_view>
@@ -14,9 +16,9 @@ inline constexpr std::array allBenchmarkTests{BenchmarkTest::sequentialWrite, Be
                                               BenchmarkTest::fileOps};
 
 /// The case's name ("sequentialWrite"), for files and command lines.
-std::string_view rawValue(BenchmarkTest test);
+ONDEL_PUBLIC std::string_view rawValue(BenchmarkTest test);
 
 /// The test with exactly this raw value (case-sensitive), or absent.
-std::optional<BenchmarkTest> benchmarkTest(std::string_view rawValue);
+ONDEL_PUBLIC std::optional<BenchmarkTest> benchmarkTest(std::string_view rawValue);
 
 } // namespace OndelCore::benchmark

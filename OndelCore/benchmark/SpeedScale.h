@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/Hashing.h"
 
 #include <optional>
@@ -9,7 +10,7 @@
 namespace OndelCore::benchmark {
 
 /// Places a measured rate among familiar speeds, on a logarithmic scale. Units: bytes per second throughout.
-class SpeedScale {
+class ONDEL_PUBLIC SpeedScale {
 public:
     struct Reference {
         std::string label;

@@ -1,6 +1,6 @@
 #include "OndelCore/health/DiskHealth.h"
 
-#include "OndelCore/health/SmartReader.h"
+#include "OndelCore/health/HealthReading.h"
 #include "OndelCore/platform/process/LocaleNumbers.h"
 
 #include <string.h>
@@ -134,29 +134,28 @@ std::string addCount(std::size_t answered, std::size_t disks, DiskSMART& all) {
 
 } // namespace
 
-DiskHealth::Reading DiskHealth::readInDetail(const std::filesystem::path& mountPath,
-                                             const platform::SystemSources& sources) {
+HealthReading readHealth(const std::filesystem::path& mountPath, const platform::SystemSources& sources) {
     const auto mount = platform::mountOfPathIn(sources.mountTable.mounts(), mountPath, sources.patience);
     if (!mount || !platform::sourceOfMount(*mount, sources.sysfs).starts_with("/dev/"))
         return {.smart = std::nullopt, .disks = {}, .source = "no device is behind this path"};
     SmartReadings readings = readSmart(*mount, {.system = sources});
-    DiskSMART health = smart(readings);
+    DiskSMART health = smartOf(readings);
     return {
         .smart = std::move(health), .disks = std::move(readings.disks), .source = std::move(readings.source)};
 }
 
 std::optional<DiskSMART> DiskHealth::read(const std::filesystem::path& mountPath) {
-    return readInDetail(mountPath).smart;
+    return readHealth(mountPath).smart;
 }
 
-DiskSMART DiskHealth::smart(const SmartReadings& readings) {
+DiskSMART smartOf(const SmartReadings& readings) {
     DiskSMART all;
     std::size_t answered = 0;
     std::string silent;
     for (const SmartReading& reading : readings.disks) {
         if (reading.record.available) {
             ++answered;
-            addVerdict(smart(reading.record), reading, readings.disks.size() == 1, all);
+            addVerdict(DiskHealth::smart(reading.record), reading, readings.disks.size() == 1, all);
         } else {
             silent += (silent.empty() ? "" : "; ") + reading.source;
         }

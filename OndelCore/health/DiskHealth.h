@@ -1,18 +1,17 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/health/DiskSMART.h"
 #include "OndelCore/health/OndelSMART.h"
-#include "OndelCore/health/SmartReader.h"
 
 #include <filesystem>
 #include <optional>
-#include <string>
 
 namespace OndelCore::health {
 
 /// The presentation of a drive's health: which figures are shown, their order and units, and which are a
 /// concern. Threads: any; the functions keep no state.
-class DiskHealth {
+class ONDEL_PUBLIC DiskHealth {
 public:
     DiskHealth() = delete;
 
@@ -22,20 +21,6 @@ public:
     /// `notSupported`: there is a device, and no disk under it gave health data. Threads: not the one of the
     /// interface: it blocks on the drives as `ondel_read_smart` does. Fails: never; see above.
     static std::optional<DiskSMART> read(const std::filesystem::path& mountPath);
-
-    /// The result of `read` with its sources.
-    struct Reading {
-        std::optional<DiskSMART> smart;
-        std::vector<SmartReading> disks;
-        /// One line of text: which reader answered ("NVMe health log of nvme0n1"), or why none did.
-        std::string source;
-    };
-    static Reading readInDetail(const std::filesystem::path& mountPath,
-                                const platform::SystemSources& sources = {});
-
-    /// The worst verdict of all disks, and the rows of all. With several disks each row names its disk. Disks
-    /// without an answer are counted in a row and in `note`.
-    static DiskSMART smart(const SmartReadings& readings);
 
     /// The rows and the verdict for a record whose `available` is 1. Grouped numbers follow the user's
     /// locale.

@@ -2,7 +2,6 @@
 
 #include "OndelCore/health/SmartPages.h"
 
-#include <cassert>
 #include <optional>
 #include <string_view>
 
@@ -93,8 +92,11 @@ SmartReadings readSmart(const platform::Mount& mount, const platform::SmartSourc
 }
 
 std::int32_t ondel_read_smart(const char* deviceName, OndelSMART* record) {
-    assert(deviceName && record);
+    if (!record)
+        return 0;
     *record = {};
+    if (!deviceName)
+        return 0;
     const platform::BlockStack stack = platform::blockStackNamed("/dev/" + std::string(deviceName));
     for (const auto& [disk, answer] : platform::smartOfDisks(stack)) {
         const OndelSMART found = recordOf(answer);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/health/OndelSMART.h"
 #include "OndelCore/platform/drives/SmartBlocks.h"
 

@@ -1,5 +1,6 @@
 #include "OndelCore/logging/Log.h"
 
+#include "OndelCore/logging/LogOutput.h"
 #include "OndelCore/logging/LogScrubber.h"
 #include "OndelCore/logging/LogStore.h"
 #include "OndelCore/logging/Redact.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/logging/LogField.h"
 #include "OndelCore/logging/LogLevel.h"
 #include "OndelCore/logging/LogText.h"
@@ -11,34 +12,19 @@
 #include <string_view>
 #include <utility>
 
-namespace OndelCore::platform {
-class UnifiedLog;
-}
-
 namespace OndelCore::logging {
 
-class LogScrubber;
-class LogStore;
-
-/// The destinations of log lines, and their scrubber. Owner: the maker; must outlive the Log that uses it.
-struct LogOutput {
-    LogStore& store;
-    const LogScrubber& scrubber;
-    const platform::UnifiedLog& unified;
-
-    /// The output of the process.
-    static const LogOutput& shared();
-};
+struct LogOutput;
 
 /// The interface for logging: `Log::app.notice("run imported", LogField::bool_("shown", true));` The message
 /// is a constant. Variable parts are LogFields, which know how they may be shown. Each line is redacted and
 /// scrubbed before it reaches the system's log or the store. Threads: any; never blocks on a disk or on the
 /// system's log. Fails: never, and never throws.
-class Log {
+class ONDEL_PUBLIC Log {
 public:
     using Level = LogLevel;
 
-    /// `output`: null: the output of the process.
+    /// `output`: of this project alone; null: the output of the process.
     explicit constexpr Log(LogText category, const LogOutput* output = nullptr)
         : m_category(category)
         , m_output(output) {}

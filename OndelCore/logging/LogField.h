@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/logging/LogText.h"
 
 #include <concepts>
@@ -16,7 +17,7 @@ class QString;
 namespace OndelCore::logging {
 
 /// A run-time text for a field. Invalid UTF-8 is accepted and repaired when the line is rendered.
-class LogValue {
+class ONDEL_PUBLIC LogValue {
 public:
     // NOLINTBEGIN(google-explicit-constructor): every kind of text converts.
     LogValue(const char* text)
@@ -51,7 +52,7 @@ concept LogToken = HasLogToken<T> || HasTextRawValue<T>;
 
 /// A variable part of a log line. The factory function determines how it is shown. (`int` and `bool` are
 /// keywords, hence the underscores.)
-class LogField {
+class ONDEL_PUBLIC LogField {
 public:
     /// A plain count: key=123
     static LogField int_(LogText key, std::int64_t value) { return {Kind::integer, key, value}; }

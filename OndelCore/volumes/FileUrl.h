@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <QUrl>
 
 #include <filesystem>
@@ -11,10 +13,10 @@ namespace OndelCore::volumes {
 
 /// The path of a file URL of this machine, as bytes: file names need not be UTF-8. Fails: absent for other
 /// URLs, including files of another host.
-std::optional<std::filesystem::path> localPath(std::string_view url);
-std::optional<std::filesystem::path> localPath(const QUrl& url);
+ONDEL_PUBLIC std::optional<std::filesystem::path> localPath(std::string_view url);
+ONDEL_PUBLIC std::optional<std::filesystem::path> localPath(const QUrl& url);
 
 /// The URL of an absolute path.
-std::string fileUrl(const std::filesystem::path& path);
+ONDEL_PUBLIC std::string fileUrl(const std::filesystem::path& path);
 
 } // namespace OndelCore::volumes

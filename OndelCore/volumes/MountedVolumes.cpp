@@ -4,6 +4,7 @@
 #include "OndelCore/platform/volumes/PathFacts.h"
 #include "OndelCore/platform/volumes/VisibleMounts.h"
 #include "OndelCore/platform/volumes/VolumeResources.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
 
 namespace OndelCore::volumes {
 
@@ -22,8 +23,12 @@ MountedVolume describe(const platform::Mount& mount, const platform::VolumeResou
 
 } // namespace
 
-std::vector<MountedVolume> mountedVolumes(const platform::SystemSources& sources,
-                                          std::chrono::milliseconds patience) {
+std::vector<MountedVolume> mountedVolumes(std::chrono::milliseconds patience) {
+    return mountedVolumesIn({}, patience);
+}
+
+std::vector<MountedVolume> mountedVolumesIn(const platform::SystemSources& sources,
+                                            std::chrono::milliseconds patience) {
     const auto mounts = platform::visibleMounts(sources.mountTable.mounts());
     std::vector<MountedVolume> volumes;
     volumes.reserve(mounts.size());

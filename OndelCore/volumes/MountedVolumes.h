@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/platform/drives/SystemSources.h"
+#include "OndelCore/Export.h"
 
 #include <QString>
 
@@ -27,8 +27,7 @@ struct MountedVolume {
 
 /// The mounted volumes that people expect to see, in the order of the mount table. Threads: any; blocks for
 /// up to `patience` on servers. A volume that does not answer is listed without a size. Fails: an empty list.
-std::vector<MountedVolume>
-mountedVolumes(const platform::SystemSources& sources = {},
-               std::chrono::milliseconds patience = std::chrono::milliseconds(500));
+ONDEL_PUBLIC std::vector<MountedVolume>
+mountedVolumes(std::chrono::milliseconds patience = std::chrono::milliseconds(500));
 
 } // namespace OndelCore::volumes

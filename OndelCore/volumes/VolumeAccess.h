@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <sys/types.h>
 
 #include <filesystem>
@@ -32,7 +34,7 @@ struct FolderAccess {
 };
 
 /// Questions about access to a folder. Threads: any; the functions keep no state.
-class VolumeAccess {
+class ONDEL_PUBLIC VolumeAccess {
 public:
     VolumeAccess() = delete;
 

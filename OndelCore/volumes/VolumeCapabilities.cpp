@@ -1,5 +1,7 @@
 #include "OndelCore/volumes/VolumeCapabilities.h"
 
+#include "OndelCore/volumes/VolumeQuestions.h"
+
 #include <array>
 
 namespace OndelCore::volumes {
@@ -33,18 +35,20 @@ constexpr std::array features = {
 
 } // namespace
 
-std::optional<VolumeCapabilities> VolumeCapabilities::probe(const Location& location,
-                                                            const SystemSources& sources) {
-    return location.isLocal() ? probe(location.path, sources) : std::nullopt;
+std::optional<VolumeCapabilities> VolumeCapabilities::probe(const Location& location) {
+    return probeCapabilities(location, {});
 }
 
-std::optional<VolumeCapabilities> VolumeCapabilities::probe(const std::filesystem::path& path,
-                                                            const SystemSources& sources) {
-    const auto answers = askFileSystem(path, sources);
-    return answers ? std::optional(from(*answers)) : std::nullopt;
+std::optional<VolumeCapabilities> VolumeCapabilities::probe(const std::filesystem::path& path) {
+    return probe(Location::local(path));
 }
 
-VolumeCapabilities VolumeCapabilities::from(const FileSystemAnswers& answers) {
+std::optional<VolumeCapabilities> probeCapabilities(const Location& location, const SystemSources& sources) {
+    const auto answers = location.isLocal() ? askFileSystem(location.path, sources) : std::nullopt;
+    return answers ? std::optional(capabilitiesOf(*answers)) : std::nullopt;
+}
+
+VolumeCapabilities capabilitiesOf(const FileSystemAnswers& answers) {
     VolumeCapabilities capabilities;
     capabilities.filesystemType = QString::fromStdString(answers.type);
     capabilities.maxNameLength = answers.maxNameLength;

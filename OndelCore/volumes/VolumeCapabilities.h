@@ -1,9 +1,8 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/Hashing.h"
-#include "OndelCore/platform/drives/SystemSources.h"
-#include "OndelCore/platform/storage/FileTrials.h"
-#include "OndelCore/platform/volumes/FileSystemAnswers.h"
+#include "OndelCore/platform/storage/TriedAbilities.h"
 #include "OndelCore/volumes/Location.h"
 
 #include <QString>
@@ -43,7 +42,7 @@ private:
 
 /// The abilities of the file system of a path. A feature is present only if it is claimed and the claim is
 /// valid; without a valid claim it is unknown. Threads: any.
-struct VolumeCapabilities {
+struct ONDEL_PUBLIC VolumeCapabilities {
     QString filesystemType; ///< "ext4", "nfs", "cifs"
     std::optional<std::int64_t> maxNameLength;
     std::optional<std::int64_t> maxPathLength;
@@ -65,12 +64,8 @@ struct VolumeCapabilities {
     std::int64_t optimalIOSize = 0; ///< bytes; 0: unknown
 
     /// Fails: absent for a provider other than the local one, and for a path that cannot be asked.
-    static std::optional<VolumeCapabilities> probe(const Location& location,
-                                                   const platform::SystemSources& sources = {});
-    static std::optional<VolumeCapabilities> probe(const std::filesystem::path& path,
-                                                   const platform::SystemSources& sources = {});
-    /// Makes the record from the file system's answers.
-    static VolumeCapabilities from(const platform::FileSystemAnswers& answers);
+    static std::optional<VolumeCapabilities> probe(const Location& location);
+    static std::optional<VolumeCapabilities> probe(const std::filesystem::path& path);
     /// Replaces claims by the results of trials.
     void learn(const platform::TriedAbilities& tried);
 

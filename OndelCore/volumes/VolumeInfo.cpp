@@ -1,6 +1,7 @@
 #include "OndelCore/volumes/VolumeInfo.h"
 
 #include "OndelCore/SaturatingMath.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
 
 #include <algorithm>
 
@@ -36,14 +37,16 @@ QString VolumeInfo::connection() const {
     return isInternal ? QStringLiteral("Internal") : QStringLiteral("External");
 }
 
-std::optional<VolumeInfo> VolumeInfo::load(const Location& location, const platform::SystemSources& sources) {
+std::optional<VolumeInfo> VolumeInfo::load(const Location& location) { return loadVolumeInfo(location, {}); }
+
+std::optional<VolumeInfo> loadVolumeInfo(const Location& location, const platform::SystemSources& sources) {
     if (!location.isLocal())
         return std::nullopt;
     const auto resources = platform::volumeResources(location.path, sources);
-    return resources ? std::optional(from(*resources, resources->mountedFrom)) : std::nullopt;
+    return resources ? std::optional(volumeInfoOf(*resources, resources->mountedFrom)) : std::nullopt;
 }
 
-VolumeInfo VolumeInfo::from(const platform::VolumeResources& resources, std::optional<std::string> device) {
+VolumeInfo volumeInfoOf(const platform::VolumeResources& resources, std::optional<std::string> device) {
     VolumeInfo info;
     info.name = textOr(resources.name, "Volume");
     info.format = textOr(resources.format, "--");

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "OndelCore/platform/drives/SystemSources.h"
-#include "OndelCore/platform/volumes/VolumeResources.h"
+#include "OndelCore/Export.h"
 #include "OndelCore/volumes/Location.h"
 
 #include <QString>
@@ -14,7 +13,7 @@
 namespace OndelCore::volumes {
 
 /// Facts of the mounted volume that holds a path, at the time of loading. Units: bytes. Threads: any.
-struct VolumeInfo {
+struct ONDEL_PUBLIC VolumeInfo {
     QString name;
     QString format; ///< for people: "Ext4", "exFAT"
     std::int64_t total = 0;
@@ -35,10 +34,7 @@ struct VolumeInfo {
 
     /// Fails: absent for providers other than the local one and if the volume does not answer. Single missing
     /// facts have their defaults.
-    static std::optional<VolumeInfo> load(const Location& location,
-                                          const platform::SystemSources& sources = {});
-    /// Makes the record from the system's answers, with defaults for missing ones.
-    static VolumeInfo from(const platform::VolumeResources& resources, std::optional<std::string> device);
+    static std::optional<VolumeInfo> load(const Location& location);
 
     bool operator==(const VolumeInfo&) const = default;
 };

@@ -2,6 +2,7 @@
 // states its own.
 
 #include "OndelCore/logging/Log.h"
+#include "OndelCore/logging/LogOutput.h"
 #include "OndelCore/logging/LogScrubber.h"
 #include "OndelCore/logging/LogStore.h"
 #include "OndelCore/logging/Redact.h"

@@ -5,6 +5,7 @@
 #include "TarnwickKit/model/runs/JsonWriter.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
+#include "TarnwickKit/model/session/AnalyzerServices.h"
 #include "TarnwickKit/model/session/ProgressStream.h"
 
 #include <QCoreApplication>

@@ -4,6 +4,7 @@
 #include "OndelCore/volumes/MountedVolumes.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <benchmark/benchmark.h>
@@ -86,7 +87,7 @@ void containerHost(benchmark::State& state) {
     }
     const auto sources = table.sources();
     for (auto _ : state)
-        benchmark::DoNotOptimize(mountedVolumes(sources));
+        benchmark::DoNotOptimize(mountedVolumesIn(sources));
 }
 BENCHMARK(containerHost)->Unit(benchmark::kMillisecond);
 
@@ -97,7 +98,7 @@ void everyMountAVolume(benchmark::State& state) {
         table.add(line(id, "8:" + std::to_string(id), "/mnt/none/" + std::to_string(id), "ext4 /dev/sdx rw"));
     const auto sources = table.sources();
     for (auto _ : state)
-        benchmark::DoNotOptimize(mountedVolumes(sources));
+        benchmark::DoNotOptimize(mountedVolumesIn(sources));
 }
 BENCHMARK(everyMountAVolume)->Unit(benchmark::kMillisecond);
 
@@ -109,7 +110,7 @@ void deepStack(benchmark::State& state) {
                   " / /mnt/none rw - ext4 /dev/sdx rw");
     const auto sources = table.sources();
     for (auto _ : state)
-        benchmark::DoNotOptimize(mountedVolumes(sources));
+        benchmark::DoNotOptimize(mountedVolumesIn(sources));
 }
 BENCHMARK(deepStack)->Unit(benchmark::kMillisecond);
 

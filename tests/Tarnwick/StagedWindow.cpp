@@ -12,6 +12,7 @@
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelControls/ViewEngine.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
+#include "TarnwickKit/model/session/AnalyzerServices.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
 
 #include <QApplication>

@@ -1,16 +1,22 @@
 """A fake desktop: its dark (1) or light (2) setting, inhibition of suspend, and notifications.
 Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal needs, which is a session manager and
 notifications from the portal alone. With "desktop_portal.py NUMBER refuses" the portal accepts the request to inhibit suspend
-and then answers that it failed, and there is a login manager. Lines on standard input: a number changes the setting, "contrast NUMBER" that of the contrast,
-"press" activates the last notification, with the token "pressed". Lines on standard output: "ready", "awake FLAGS REASON", "asleep",
-"locked WHAT WHO WHY MODE", "unlocked", "notice TITLE: TEXT", "withdrawn"."""
+and then answers that it failed, and there is a login manager. With "desktop_portal.py NUMBER files" it has file dialogs that nobody
+sees, and tells of each one "asked JSON": method, parent, title and options. Lines on standard input: a number changes the setting,
+"contrast NUMBER" that of the contrast, "text NUMBER" that of the text scale,
+"press" activates the last notification, with the token "pressed"; of the last file dialog "answer CODE JSON" is the answer,
+"stranger CODE JSON" one of another program (both are followed by "said"), "nonsense" one of other types; "vanish" ends the portal.
+Lines on standard output: "ready", "awake FLAGS REASON", "asleep", "locked WHAT WHO WHY MODE", "unlocked", "notice TITLE: TEXT",
+"withdrawn", "asked JSON", "closed"."""
 
+import json
 import os
 import sys
 
 from gi.repository import Gio, GLib
 
 NAMESPACE, KEY = "org.freedesktop.appearance", "color-scheme"
+TEXT = "org.gnome.desktop.interface", "text-scaling-factor"
 PATH = "/org/freedesktop/portal/desktop"
 NOTICES = "org.freedesktop.Notifications"
 LOGIN = "org.freedesktop.login1"
@@ -22,6 +28,12 @@ INTERFACES = Gio.DBusNodeInfo.new_for_xml("""<node>
 </interface>
 <interface name="org.freedesktop.portal.Inhibit">
   <method name="Inhibit"><arg type="s" direction="in"/><arg type="u" direction="in"/><arg type="a{sv}" direction="in"/>
+    <arg type="o" direction="out"/></method>
+</interface>
+<interface name="org.freedesktop.portal.FileChooser">
+  <method name="OpenFile"><arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="a{sv}" direction="in"/>
+    <arg type="o" direction="out"/></method>
+  <method name="SaveFile"><arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="a{sv}" direction="in"/>
     <arg type="o" direction="out"/></method>
 </interface>
 <interface name="org.freedesktop.portal.Request">
@@ -53,10 +65,11 @@ def tell(*words):
 
 
 class Desktop:
-    def __init__(self, scheme, refuses):
+    def __init__(self, scheme, refuses, has_files):
         """Without a scheme it serves a real portal."""
         self.scheme = scheme
         self.numbers = {KEY: scheme}
+        self.text = None
         self.refuses = refuses
         self.notices = 0
         self.requests = {}
@@ -64,7 +77,7 @@ class Desktop:
         if scheme is None:
             self.serve("/org/gnome/SessionManager", SESSION)
         else:
-            for name in ("Settings", "Inhibit"):
+            for name in ("Settings", "Inhibit", *["FileChooser"] * has_files):
                 self.serve(PATH, f"org.freedesktop.portal.{name}")
         self.serve("/org/freedesktop/Notifications", NOTICES)
         own = Gio.bus_own_name_on_connection
@@ -95,19 +108,40 @@ class Desktop:
 
     def ReadAll(self, _sender, _path, groups):
         mine = {NAMESPACE: {key: GLib.Variant("u", value) for key, value in self.numbers.items()} | {"accent-color": GLib.Variant("(ddd)", (1, 0, 0))}}
+        if self.text:
+            mine[TEXT[0]] = {TEXT[1]: GLib.Variant("d", self.text)}
         return GLib.Variant("a{sa{sv}}", {name: mine[name] for name in groups if name in mine})
 
+    def request(self, sender, options, end):
+        """A new request's path. `end` is told when it is closed."""
+        path = f"{PATH}/request/{sender[1:].replace('.', '_')}/{options['handle_token']}"
+        self.requests[path] = (self.serve(path, "org.freedesktop.portal.Request"), end)
+        return path
+
+    def answer(self, request, response, bus=None):
+        (bus or self.bus).emit_signal(None, request, "org.freedesktop.portal.Request", "Response", response)
+
+    def ask(self, method, sender, parent, title, options):
+        self.dialog = self.request(sender, options, "closed")
+        tell("asked", json.dumps({"method": method, "parent": parent, "title": title} | options))
+        return GLib.Variant("o", self.dialog)
+
+    def OpenFile(self, sender, _path, *words):
+        return self.ask("OpenFile", sender, *words)
+
+    def SaveFile(self, sender, _path, *words):
+        return self.ask("SaveFile", sender, *words)
+
     def Inhibit(self, sender, _path, _window, flags, options):
-        request = f"{PATH}/request/{sender[1:].replace('.', '_')}/{options['handle_token']}"
-        self.requests[request] = self.serve(request, "org.freedesktop.portal.Request")
+        request = self.request(sender, options, "asleep")
         tell("awake", flags, options["reason"])
         if self.refuses:
             GLib.idle_add(self.refuse, request)
         return GLib.Variant("o", request)
 
     def refuse(self, request):
-        self.bus.emit_signal(None, request, "org.freedesktop.portal.Request", "Response", GLib.Variant("(ua{sv})", (2, {})))
-        self.bus.unregister_object(self.requests.pop(request))
+        self.answer(request, GLib.Variant("(ua{sv})", (2, {})))
+        self.bus.unregister_object(self.requests.pop(request)[0])
 
     def lock(self, invocation, *words):
         """The lock holds until its other end is closed."""
@@ -118,8 +152,9 @@ class Desktop:
         invocation.return_value_with_unix_fd_list(GLib.Variant("(h)", (0,)), descriptors)
 
     def Close(self, _sender, path):
-        self.bus.unregister_object(self.requests.pop(path))
-        tell("asleep")
+        served, end = self.requests.pop(path)
+        self.bus.unregister_object(served)
+        tell(end)
 
     def session(self, method, *what):
         if method == "Uninhibit":
@@ -140,6 +175,15 @@ class Desktop:
     def CloseNotification(self, _sender, _path, _notice):
         tell("withdrawn")
 
+    def change(self, key, value):
+        if key == "text":
+            self.text = float(value)
+            setting = (*TEXT, GLib.Variant("d", self.text))
+        else:
+            self.numbers[key] = int(value)
+            setting = (NAMESPACE, key, GLib.Variant("u", int(value)))
+        self.bus.emit_signal(None, PATH, "org.freedesktop.portal.Settings", "SettingChanged", GLib.Variant("(ssv)", setting))
+
     def command(self, source, _condition):
         line = source.readline().strip()
         if not line:
@@ -149,16 +193,29 @@ class Desktop:
                                  GLib.Variant("(us)", (self.notices, "pressed")))
             self.bus.emit_signal(None, "/org/freedesktop/Notifications", NOTICES, "ActionInvoked",
                                  GLib.Variant("(us)", (self.notices, "default")))
+        elif line == "vanish":
+            loop.quit()
+        elif line == "nonsense":
+            self.answer(self.dialog, GLib.Variant("(s)", ("0",)))
+        elif line.startswith(("answer", "stranger")):
+            who, code, uris = line.split(" ", 2)
+            uris = json.loads(uris)
+            kind = "as" if isinstance(uris, list) else "s"
+            address = Gio.dbus_address_get_for_bus_sync(Gio.BusType.SESSION)
+            self.other = Gio.DBusConnection.new_for_address_sync(
+                address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
+            self.answer(self.dialog, GLib.Variant("(ua{sv})", (int(code), {"uris": GLib.Variant(kind, uris)})),
+                        self.other if who == "stranger" else self.bus)
+            self.other.flush_sync()
+            self.bus.flush_sync()
+            tell("said")
         else:
             *other, value = line.split()
-            key = (other or [KEY])[0]
-            self.numbers[key] = int(value)
-            self.bus.emit_signal(None, PATH, "org.freedesktop.portal.Settings", "SettingChanged",
-                                 GLib.Variant("(ssv)", (NAMESPACE, key, GLib.Variant("u", int(value)))))
+            self.change((other or [KEY])[0], value)
         return bool(line)
 
 
 loop = GLib.MainLoop()
-desktop = Desktop(None if sys.argv[1] == "behind" else int(sys.argv[1]), "refuses" in sys.argv[2:])
+desktop = Desktop(None if sys.argv[1] == "behind" else int(sys.argv[1]), "refuses" in sys.argv[2:], "files" in sys.argv[2:])
 GLib.io_add_watch(sys.stdin, GLib.IO_IN | GLib.IO_HUP, desktop.command)
 loop.run()

@@ -5,6 +5,7 @@ import contextlib
 import json
 import os
 import pathlib
+import re
 import resource
 import select
 import signal
@@ -296,11 +297,12 @@ def goes_by_menu(program, folder):
 
 
 def hears_of(desktop):
-    """A function that checks the beginnings of the desktop's next lines."""
+    """A function that checks the beginnings of the desktop's next lines, and returns the last."""
     def told(*lines):
         for line in lines:
             heard = select.select([desktop.stdout], [], [], driver.GUARD_SECONDS)[0] and desktop.stdout.readline().decode().strip()
             check(heard and heard.startswith(line), f"the desktop heard {heard!r}, not {line!r}")
+        return heard
     return told
 
 
@@ -321,6 +323,19 @@ def icon_progress(window):
     window.bus = Gio.bus_get_sync(Gio.BusType.SESSION)  # it lasts as long as somebody has it
     window.bus.signal_subscribe(None, "com.canonical.Unity.LauncherEntry", "Update", None, None, Gio.DBusSignalFlags.NONE, hear)
     return heard
+
+
+def asks_for_attention_behind_others(program, folder, source):
+    with driver.Window(program) as window:
+        window.keys("F10")
+        window.find("Settings…", "menu item")
+        with child(source, stdout=subprocess.DEVNULL):
+            driver.focus("Drag from here")
+            window.gone("Settings…", "menu item")  # a menu would cover the other window
+            check(subprocess.run([program]).returncode == 0, "a second start does not hand over")
+            if not isinstance(driver.display, driver.X11):  # there it takes a window manager
+                window.until("the mark of a window that wants attention", lambda: driver.display.node(window.id())["urgent"])
+        window.quits()
 
 
 def notifies_the_desktop_of_runs(program, folder, source):
@@ -366,6 +381,110 @@ def stays_awake_when_the_portal_refuses(program, folder):
             window.press("Stop")
             told("unlocked")
             window.find("Ready", "status bar")
+            window.quits()
+
+
+def asks_the_desktop_for_files(program, folder):
+    """By its portal, with the window as parent, and by Qt's dialog where the portal fails."""
+    (work := folder / "work 100% ü").mkdir()
+    runs = [run_file(folder, index) for index in range(2)]
+    with desktop_of(2, "files") as desktop, driver.Window(program, folder) as window:
+        told = hears_of(desktop)
+        told("ready")
+        window.find("Ready to benchmark")
+        window.settled()
+        parent = f"x11:{int(window.id()):x}$" if isinstance(driver.display, driver.X11) else "wayland:.+"
+
+        def asked(keys, **wanted):
+            """Presses the keys, and waits for the desktop's dialog."""
+            window.keys(keys)
+            question = json.loads(told("asked").removeprefix("asked "))
+            check(re.match(parent, question["parent"]) and question["modal"] is False, f"the dialog's parent in {question}")
+            check(wanted.items() <= question.items(), f"asked {question}, not {wanted}")
+
+        def folder_asked(at):
+            asked("ctrl+o", method="OpenFile", directory=True, accept_label="Select", current_folder=[*os.fsencode(at), 0],
+                  title="Choose a folder on the volume to test (a temporary working folder is written there and removed).")
+
+        def answer(who, code, *uris):
+            desktop.stdin.write(f"{who} {code} {json.dumps(uris)}\n".encode())
+            told("said")
+            call("ActivateAction", "nonsense", "[]")  # it is handled after the answer
+
+        def falls_back():
+            driver.focus("Choose a folder")
+            window.find("Choose a folder on the volume to test (a temporary working folder is written there and removed).", "label")
+            driver.display.press("Escape")
+            window.until("the end of the dialog", lambda: not driver.windows("Choose a folder"))
+
+        folder_asked(folder)
+        answer("stranger", 0, "file:///usr")
+        answer("answer", 0, "http://x/", "file://elsewhere/tmp", "file:///tmp%00", "%", "file:///" + "x" * 100000, work.as_uri())
+        folder_asked(work)
+        answer("answer", 0, "smb://server/share")
+        folder_asked(work)
+        answer("answer", 1)
+        folder_asked(work)
+        answer("answer", 2)  # nobody has seen a dialog that ends at once
+        falls_back()
+        folder_asked(work)
+        desktop.stdin.write(b"nonsense\n")
+        told("closed")
+        falls_back()
+
+        folder_asked(work)
+        window.press("Help", "menu item")  # the window is alive
+        window.find("Report a Problem…", "menu item")
+        window.keys("Escape")
+        time.sleep(0.5)
+        answer("answer", 2)  # some desktops answer so when the dialog's window is closed
+        asked("ctrl+shift+o", method="OpenFile", multiple=True, title="Open", filters=[["Tarnwick runs", [[0, "*.tarnwickrun"]]]])
+        check(not driver.windows("Choose a folder"), "a dismissed dialog comes back")
+        answer("answer", 0, *[f"file:///{index}" for index in range(500)], *[run.as_uri() for run in runs])
+        shows_run(window, 1)
+
+        window.press("Share")
+        window.press("Save As…", "menu item")
+        question = json.loads(told("asked").removeprefix("asked "))
+        check(question["method"] == "SaveFile" and question["current_name"].endswith(".png"), f"asked {question}")
+        answer("answer", 0, (folder / "kept.png").as_uri())
+        window.find("Saved as “kept.png”")
+        folder_asked(work)
+        window.keys("ctrl+o")
+        told("closed", "asked")
+        desktop.stdin.write(b"vanish\n")
+        falls_back()
+    with desktop_of(2, "files") as desktop, driver.Window(program, folder) as window:
+        told = hears_of(desktop)
+        told("ready")
+        window.find("Ready to benchmark")
+        window.keys("ctrl+o")
+        told("asked")
+        window.quits()
+        told("closed")
+
+
+def follows_the_theme_without_a_portal(program, folder):
+    """By its name, which the settings service of an X11 desktop tells."""
+    def theme(name):
+        (folder / "settings").write_text(f'Gtk/EnableAnimations 1\nNet/IconThemeName "dark"\nNet/ThemeName "{name}"\nXft/DPI 98304\n')
+
+    def ground():
+        return max(driver.display.pixels(window.id())[:3])
+
+    theme("Adwaita-dark")
+    with child("xsettingsd", "-c", folder / "settings", stderr=subprocess.DEVNULL) as service, driver.Window(program) as window:
+        window.until("a dark window", lambda: ground() < 100)
+        theme("Adwaita")
+        service.send_signal(signal.SIGHUP)
+        window.until("a light window", lambda: ground() > 200)
+        theme("HighContrastInverse")
+        service.send_signal(signal.SIGHUP)
+        window.until("a window of high contrast", lambda: ground() == 0)
+        service.kill()
+        window.until("the light window back", lambda: ground() > 200)
+        with child("xsettingsd", "-c", folder / "settings", stderr=subprocess.DEVNULL):
+            window.until("the settings of a new service", lambda: ground() == 0)
             window.quits()
 
 
@@ -417,7 +536,7 @@ def ends_in_every_phase(program, folder):
 
 
 # They test X11 itself, or need the drag source or limits that do not work on other displays.
-ONLY_ON_X11 = (starts_without_a_bus, ends_the_launch_feedback, notifies_the_desktop_of_runs,
+ONLY_ON_X11 = (starts_without_a_bus, ends_the_launch_feedback, notifies_the_desktop_of_runs, follows_the_theme_without_a_portal,
                leaves_nothing_without_a_display, takes_what_is_dropped)
 
 if __name__ == "__main__":
@@ -425,7 +544,9 @@ if __name__ == "__main__":
     program, source, *only = sys.argv[1:]
     cases = (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_a_stopped_process,
                  starts_without_a_bus, opens_what_it_is_given, goes_by_menu,
-                 ends_the_launch_feedback, notifies_the_desktop_of_runs, stays_awake_when_the_portal_refuses, ends_in_every_phase,
+                 ends_the_launch_feedback, asks_for_attention_behind_others, notifies_the_desktop_of_runs,
+                 stays_awake_when_the_portal_refuses, asks_the_desktop_for_files,
+                 follows_the_theme_without_a_portal, ends_in_every_phase,
                  leaves_nothing_without_a_display, takes_what_is_dropped)
     for case in driver.chosen(cases, only, [] if isinstance(driver.display, driver.X11) else ONLY_ON_X11):
         with driver.fast_folder() as name:

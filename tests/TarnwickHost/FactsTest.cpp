@@ -1,5 +1,6 @@
 #include "TarnwickHost/Facts.h"
 
+#include "OndelCore/health/DiskHealth.h"
 #include "TarnwickHost/HostProcess.h"
 #include "support/DeafFileSystem.h"
 

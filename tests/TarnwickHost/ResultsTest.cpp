@@ -1,8 +1,8 @@
 #include "TarnwickHost/Results.h"
 
 #include "TarnwickHost/Progress.h"
-#include "TarnwickHost/Remarks.h"
 #include "TarnwickKit/model/format/RemarkText.h"
+#include "TarnwickKit/model/runs/RunText.h"
 
 #include <QJsonArray>
 
@@ -79,6 +79,8 @@ File operations       100 ops/s  200 ops/s  50 ops/s   25 ops/s
     const QJsonObject json = resultJson(run);
     EXPECT_EQ(json["sequentialWrite"]["sustainedBytesPerSecond"], 300e6);
     EXPECT_EQ(json["sequentialWrite"]["peakBytesPerSecond"], 900e6);
+    EXPECT_EQ(json["sequentialWrite"]["lowestBytesPerSecond"], 200e6);
+    EXPECT_FALSE(json["sequentialRead"].toObject().contains("lowestBytesPerSecond"));
     EXPECT_EQ(json["sequentialWrite"]["observedCacheCliff"], true);
     EXPECT_EQ(json["sequentialRead"]["observedCacheCliff"], false);
     EXPECT_EQ(json["fileOps"]["stat"]["opsPerSecond"], 200);
@@ -92,7 +94,9 @@ File operations       100 ops/s  200 ops/s  50 ops/s   25 ops/s
 
 /// The words of a remark are those of the library.
 std::string listed(const Remark& remark) {
-    return TarnwickHost::remarkList({remark}, 4096, 1000).remove("\nAbout these figures\n").toStdString();
+    return TarnwickKit::model::remarkList({remark}, 4096, 1000)
+        .remove("\nAbout these figures\n")
+        .toStdString();
 }
 
 TEST(Results, ShowWhatWasObserved) {

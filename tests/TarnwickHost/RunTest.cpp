@@ -107,7 +107,10 @@ TEST_F(Run, TestsThatWereNotAskedForHaveNoKey) {
     const QJsonObject run = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output)).object();
     QStringList keys = run.keys();
     keys.removeOne("drive"); // where one is known
-    EXPECT_EQ(keys, QStringList({"capabilities", "evidence", "fileOps", "plan", "remarks"}));
+    EXPECT_EQ(keys, QStringList({"capabilities", "connection", "date", "duration", "evidence", "fileOps",
+                                 "fileSystem", "folder", "folderURL", "formatVersion", "id", "kernel", "kind",
+                                 "plan", "remarks", "version", "volume"}));
+    EXPECT_TRUE(run["folderURL"].toString().endsWith("/a%20b%FF%0A"));
     EXPECT_TRUE(run["evidence"].toObject().contains("createLatency"));
     const QJsonObject fill{{"fillDisk", QJsonObject{{"leaveFree", qint64{1} << 60}}}};
     EXPECT_EQ(run["plan"]["size"].toObject(), fill);

@@ -1,7 +1,7 @@
 #include "TarnwickHost/HostProcess.h"
-#include "TarnwickHost/RunFiles.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/RunText.h"
 
 #include <QFile>
 #include <QImage>
@@ -17,7 +17,6 @@
 #include <fstream>
 
 using namespace TarnwickKit::model;
-using namespace TarnwickHost;
 using test::runHost;
 namespace fs = std::filesystem;
 
@@ -36,6 +35,7 @@ TEST(Show, MatchesTheRunsFiguresAndNamesUnreadableFiles) {
     std::filesystem::remove(file);
     EXPECT_EQ(shown.exitStatus, 1);
     EXPECT_EQ(std::ranges::count(shown.errors, '\n'), 3) << shown.errors;
+    EXPECT_NE(shown.errors.find(" is not a run file: more text stands behind the end\n"), std::string::npos);
     EXPECT_EQ(shown.errors.find('\x1b'), std::string::npos);
     const QJsonValue write = figures["sequentialWrite"];
     const QString line = "\nWrite         " + Format::rate(write["sustainedBytesPerSecond"].toDouble()) +

@@ -64,6 +64,18 @@ TEST(Usage, WrongCallsGetOneLineAndStatusTwo) {
         {{"run", "--sample-interval", "-0.1", there}, "not '-0.1'"},
         {{"run", "--tests", "sequentialwrite", there}, "there is no test 'sequentialwrite'"},
         {{"run", "--tests", "fileOps,", there}, "there is no test ''"},
+        {{"run", "--output", file, there}, "exists and holds no runs"},
+        {{"run", "--output", there, there}, "is a folder"},
+        {{"run", "--output", "/dev/full", "--force", there}, "is not a regular file"},
+        {{"run", "--output", "-", there}, "needs the name of a file"},
+        {{"run", "--output", there + "/none/x", there}, "No such file or directory"},
+        {{"show", "--format", "pdf", file}, "not 'pdf'"},
+        {{"history", "forget"}, "not 'forget'"},
+        {{"history", "delete"}, "needs either RUNs or --all"},
+        {{"history", "delete", "--all", "0123"}, "needs either RUNs or --all"},
+        {{"history", "export"}, "needs --output FILE"},
+        {{"history", "export", "--output", there + "/x.doc"}, "--format is needed"},
+        {{"history", "export", "--output", there + "/x.tarnwickrun"}, "a run file holds one run, not 0"},
     };
     for (const Case& wrong : cases) {
         const auto outcome = runHost(wrong.arguments);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
@@ -49,15 +50,15 @@ struct Remark {
 };
 
 /// The stable names of codes and weights ("fromMemory", "invalid"), for files, logs and scripts.
-std::string_view rawValue(RemarkCode code);
-std::string_view rawValue(RemarkWeight weight);
-std::optional<RemarkCode> remarkCode(std::string_view rawValue);
-std::optional<RemarkWeight> remarkWeight(std::string_view rawValue);
+ONDEL_PUBLIC std::string_view rawValue(RemarkCode code);
+ONDEL_PUBLIC std::string_view rawValue(RemarkWeight weight);
+ONDEL_PUBLIC std::optional<RemarkCode> remarkCode(std::string_view rawValue);
+ONDEL_PUBLIC std::optional<RemarkWeight> remarkWeight(std::string_view rawValue);
 /// How many numbers a remark of this code has.
-std::size_t numbersOf(RemarkCode code);
+ONDEL_PUBLIC std::size_t numbersOf(RemarkCode code);
 
 /// The remarks that a run's evidence gives reason for: worst first; about the run before its tests, these in
 /// their order. A remark needs proof in the evidence; where something is not known there is none.
-std::vector<Remark> remarksOn(const BenchmarkPlan& plan, const BenchmarkResult& result);
+ONDEL_PUBLIC std::vector<Remark> remarksOn(const BenchmarkPlan& plan, const BenchmarkResult& result);
 
 } // namespace OndelCore::benchmark

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/Hashing.h"
-#include "OndelCore/platform/volumes/FileSystemFacts.h"
+#include "OndelCore/platform/volumes/FileSystemReach.h"
 
 #include <cstdint>
-#include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -46,7 +45,7 @@ struct Misalignment {
 
 /// What a figure of a volume depends on besides its disk. A flag is set when it was seen to be so; what the
 /// system does not tell is absent or not set. Units: bytes, degrees Celsius.
-struct Circumstances {
+struct ONDEL_PUBLIC Circumstances {
     std::string kernel{};         ///< its release: "6.1.0-18-amd64"
     std::string fileSystemType{}; ///< "ext4"
     std::optional<FileSystemReach> reach{};
@@ -85,20 +84,5 @@ struct Circumstances {
     bool operator==(const Circumstances&) const = default;
     std::size_t hash() const;
 };
-
-/// Looks at a volume's circumstances while it is measured: once at the start, then once a second on a thread
-/// of its own with the lowest priority, until it is asked to end.
-class CircumstanceWatch {
-public:
-    virtual ~CircumstanceWatch() = default;
-    /// The last temperature. Threads: any; does not block.
-    virtual std::optional<double> celsius() const = 0;
-    /// Ends the watch. Call once. Threads: the one that made it.
-    virtual Circumstances finish() = 0;
-};
-
-/// `folder`: open, on the volume; needed until the function returns. Fails: never; what cannot be told is
-/// absent. Without a thread only the first look is there.
-std::unique_ptr<CircumstanceWatch> watchCircumstances(int folder);
 
 } // namespace OndelCore::platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/platform/drives/SystemSources.h"
 
 #include <filesystem>
@@ -20,7 +21,7 @@ struct DriveDescription {
 
 /// Describes the disk under the volume at `volumeRoot`. Of several disks only what they have in common is
 /// set. Threads: any. Fails: absent if there is no disk under the volume.
-std::optional<DriveDescription> describeDrive(const std::filesystem::path& volumeRoot,
-                                              const SystemSources& sources = {});
+ONDEL_KIT std::optional<DriveDescription> describeDrive(const std::filesystem::path& volumeRoot,
+                                                        const SystemSources& sources = {});
 
 } // namespace OndelCore::platform

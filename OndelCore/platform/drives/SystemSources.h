@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/platform/volumes/Mounts.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
 
@@ -24,14 +25,14 @@ using DevicePropertySource = std::function<DeviceProperties(dev_t)>;
 std::optional<std::string> propertyIn(const DeviceProperties& properties, std::string_view name);
 
 /// The properties of a block device in the device database (udev). Threads: any. Fails: no entries.
-DeviceProperties databaseProperties(dev_t device);
+ONDEL_KIT DeviceProperties databaseProperties(dev_t device);
 
 /// ID_FS_LABEL and ID_FS_TYPE from the superblock on the device. Requires the permission to read the device.
 /// Threads: any. Fails: no entries.
-DeviceProperties superblockProperties(dev_t device);
+ONDEL_KIT DeviceProperties superblockProperties(dev_t device);
 
 /// The same from an image file. Threads: any. Fails: no entries, also if it is no regular file.
-DeviceProperties imageProperties(const std::filesystem::path& image);
+ONDEL_KIT DeviceProperties imageProperties(const std::filesystem::path& image);
 
 /// The sources of facts about volumes and drives: by default the real system; tests replace them. Questions
 /// with the same sources share one reading of the mount table, so make new ones for each reading of a

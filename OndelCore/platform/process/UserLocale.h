@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <string>
 
 namespace OndelCore::platform {
@@ -7,7 +9,7 @@ namespace OndelCore::platform {
 /// The user's locales for numbers and for dates, by ICU's names ("de_DE").
 ///
 /// The two may differ, such as English texts with a decimal comma.
-struct UserLocale {
+struct ONDEL_PUBLIC UserLocale {
     std::string numbers = "en_US";
     std::string dates = "en_US";
 
@@ -20,6 +22,6 @@ struct UserLocale {
 
 /// ICU's name for a POSIX locale: "de_DE.UTF-8@euro" is "de_DE". "C", "POSIX", an empty and an invalid name
 /// give "en_US", the language of the interface.
-std::string icuLocaleName(const std::string& posixName);
+ONDEL_PUBLIC std::string icuLocaleName(const std::string& posixName);
 
 } // namespace OndelCore::platform

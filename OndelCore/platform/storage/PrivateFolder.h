@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <filesystem>
 #include <optional>
 
@@ -9,6 +11,6 @@ namespace OndelCore::platform {
 /// processes of the user share it. It lasts as long as the session; where the session has no folder, until
 /// the system empties its temporary folder. A new one is made then. Threads: any. Fails: absent if none can
 /// be made.
-std::optional<std::filesystem::path> privateTemporaryFolder();
+ONDEL_KIT std::optional<std::filesystem::path> privateTemporaryFolder();
 
 } // namespace OndelCore::platform

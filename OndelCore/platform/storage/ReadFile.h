@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <cstddef>
 #include <filesystem>
 #include <optional>
@@ -12,11 +14,11 @@ namespace OndelCore::platform {
 /// never end, is refused, also if it replaces the file at the last moment. Threads: any; blocks on the file
 /// system. Fails: absent, also for a file of more than `most` bytes and for one whose length changes
 /// meanwhile.
-std::optional<std::string> readRegularFile(const std::filesystem::path& path, std::size_t most);
+ONDEL_KIT std::optional<std::string> readRegularFile(const std::filesystem::path& path, std::size_t most);
 
 /// The same; `error` says why there is no content: std::errc::not_supported for what is no regular file,
 /// file_too_large, resource_unavailable_try_again for a length that changes, else the system's own.
-std::optional<std::string> readRegularFile(const std::filesystem::path& path, std::size_t most,
-                                           std::error_code& error);
+ONDEL_KIT std::optional<std::string> readRegularFile(const std::filesystem::path& path, std::size_t most,
+                                                     std::error_code& error);
 
 } // namespace OndelCore::platform

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <filesystem>
 #include <functional>
 #include <string_view>
@@ -16,12 +18,12 @@ enum class Lasting { onMedium, untilPowerLoss };
 /// less. A symbolic link at `path` is replaced, not followed. `permissions` are those of a new file, before
 /// the process's mask. `isStillWanted`: asked just before the exchange. Threads: any. Fails: the system's
 /// error, or operation_canceled if it is no longer wanted; the old file stays then. Success is no error.
-std::error_code replaceFile(const std::filesystem::path& path, std::string_view content,
-                            std::filesystem::perms permissions, Lasting lasting = Lasting::onMedium,
-                            const std::function<bool()>& isStillWanted = {});
+ONDEL_KIT std::error_code replaceFile(const std::filesystem::path& path, std::string_view content,
+                                      std::filesystem::perms permissions, Lasting lasting = Lasting::onMedium,
+                                      const std::function<bool()>& isStillWanted = {});
 
 /// Removes the temporary files older than a minute that processes killed inside `replaceFile` left in
 /// `folder`. Threads: any. Fails: silently.
-void removeReplacementLeftovers(const std::filesystem::path& folder);
+ONDEL_KIT void removeReplacementLeftovers(const std::filesystem::path& folder);
 
 } // namespace OndelCore::platform

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/platform/volumes/FileSystemReach.h"
+
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -48,14 +50,6 @@ struct CapabilityWords {
     CapabilityWord format;
     CapabilityWord interfaces;
     bool operator==(const CapabilityWords&) const = default;
-};
-
-/// Where a file system of a type keeps its data.
-enum class FileSystemReach {
-    device,  ///< on a block device or a pool of them
-    memory,  ///< in memory, lost at power-off
-    layered, ///< on other file systems of this machine
-    network, ///< on another machine, or on the host of this virtual machine
 };
 
 /// Facts that hold for all file systems of a type.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <sys/types.h>
 
 #include <chrono>
@@ -37,7 +39,7 @@ std::vector<Mount> mounts(const std::filesystem::path& table = systemMountTable)
 
 /// One reading of a mount table. Copies share it, so that all questions to one table agree and the file is
 /// read once. Threads: any.
-class MountTable {
+class ONDEL_KIT MountTable {
 public:
     /// The file is read at the first call of `mounts`.
     explicit MountTable(std::filesystem::path file);

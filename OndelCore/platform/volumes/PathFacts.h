@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/platform/process/ChildQuestion.h"
 #include "OndelCore/platform/volumes/Mounts.h"
 
@@ -60,11 +61,11 @@ struct PathFacts {
 
 /// Asks directly on local file systems, and through a child process where the path may hang. Threads: any.
 /// Fails: absent without an answer in time; `error` is set if the look-up fails.
-std::optional<PathFacts> pathFacts(const std::filesystem::path& path, PathQuestion question,
-                                   const std::vector<Mount>& mounts, const Waiting& waiting);
-std::optional<PathFacts> pathFacts(const std::filesystem::path& path,
-                                   PathQuestion question = PathQuestion::place,
-                                   const Waiting& waiting = {.patience = defaultPatience});
+ONDEL_KIT std::optional<PathFacts> pathFacts(const std::filesystem::path& path, PathQuestion question,
+                                             const std::vector<Mount>& mounts, const Waiting& waiting);
+ONDEL_KIT std::optional<PathFacts> pathFacts(const std::filesystem::path& path,
+                                             PathQuestion question = PathQuestion::place,
+                                             const Waiting& waiting = {.patience = defaultPatience});
 
 /// The capacities of these mounts, asked in parallel. Units: bytes. Fails: each is absent by itself.
 std::vector<std::optional<std::int64_t>> totalSizes(const std::vector<Mount>& mounts, const Waiting& waiting);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
 #include "OndelCore/benchmark/BenchmarkTest.h"
 
@@ -13,30 +14,30 @@
 namespace TarnwickKit::model {
 
 /// A test's raw value.
-QString name(OndelCore::benchmark::BenchmarkTest test);
+ONDEL_PUBLIC QString name(OndelCore::benchmark::BenchmarkTest test);
 
 /// A test's name for people. `randomBlock`: bytes per random operation, part of the random tests' titles:
 /// "Random read (4 KiB)".
-QString title(OndelCore::benchmark::BenchmarkTest test, std::int64_t randomBlock);
+ONDEL_PUBLIC QString title(OndelCore::benchmark::BenchmarkTest test, std::int64_t randomBlock);
 /// The same where there is little room: "Random read".
-QString shortTitle(OndelCore::benchmark::BenchmarkTest test);
+ONDEL_PUBLIC QString shortTitle(OndelCore::benchmark::BenchmarkTest test);
 
 /// The unit of a test's rate: "MB/s", "IOPS", "files/s".
-QString rateUnit(OndelCore::benchmark::BenchmarkTest test);
+ONDEL_PUBLIC QString rateUnit(OndelCore::benchmark::BenchmarkTest test);
 /// A test's rate as a figure without its unit. `rate`: bytes or operations per second.
-QString rateFigure(OndelCore::benchmark::BenchmarkTest test, double rate);
+ONDEL_PUBLIC QString rateFigure(OndelCore::benchmark::BenchmarkTest test, double rate);
 
 /// The figures of many operations' latency, one text each: "p99 0.31 ms", "worst 12 ms".
-QStringList latencyFigures(const OndelCore::benchmark::Latency& latency);
+ONDEL_PUBLIC QStringList latencyFigures(const OndelCore::benchmark::Latency& latency);
 
 /// A test's headline figure without its unit; absent if the test did not run.
-std::optional<QString> headline(const OndelCore::benchmark::BenchmarkResult& result,
-                                OndelCore::benchmark::BenchmarkTest test);
+ONDEL_PUBLIC std::optional<QString> headline(const OndelCore::benchmark::BenchmarkResult& result,
+                                             OndelCore::benchmark::BenchmarkTest test);
 
 /// An error as a sentence for people.
-QString describe(const std::exception& error);
+ONDEL_PUBLIC QString describe(const std::exception& error);
 /// What an error of the system probably means for a run, as a sentence for people; "" where `describe` says
 /// all that there is to say.
-QString explain(const std::exception& error);
+ONDEL_PUBLIC QString explain(const std::exception& error);
 
 } // namespace TarnwickKit::model

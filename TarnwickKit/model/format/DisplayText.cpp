@@ -55,6 +55,20 @@ QString harmless(const QString& text) {
     return shown;
 }
 
+QByteArray harmlessJson(const QByteArray& json) {
+    constexpr char32_t firstBeyondAscii = 0x7F; // below it JSON's own blanks, and escapes already
+    QString safe;
+    for (const char32_t character : QString::fromUtf8(json).toUcs4()) {
+        const auto units = QChar::fromUcs4(character);
+        if (character < firstBeyondAscii || isHarmless(character))
+            safe += units;
+        else
+            for (const QChar unit : QStringView(units))
+                safe += u"\\u%1"_s.arg(ushort{unit.unicode()}, 4, 16, QChar(u'0'));
+    }
+    return safe.toUtf8();
+}
+
 int columnsOf(const QString& text) {
     int columns = 0;
     for (const char32_t character : text.toUcs4())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <string>
@@ -11,6 +12,9 @@ namespace TarnwickKit::model {
 /// `text` without characters that a terminal would interpret: control characters, line breaks, invisible
 /// direction marks and lone surrogates become replacement characters.
 QString harmless(const QString& text);
+
+/// JSON with the same meaning, in UTF-8, whose texts hold such characters as escapes only.
+QByteArray harmlessJson(const QByteArray& json);
 
 /// The number of columns that a terminal needs for `text` at most: wide characters take two, combining ones
 /// none (UAX #11). Some terminals draw joined emoji narrower.

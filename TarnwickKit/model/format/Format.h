@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/platform/process/UserLocale.h"
 
 #include <QDateTime>
@@ -16,7 +17,7 @@ using OndelCore::platform::UserLocale;
 
 /// A double as an integer, without its fraction. Fails: a value that is not finite or does not fit is a
 /// programming fault and stops the process.
-std::int64_t wholeNumber(double value);
+ONDEL_PUBLIC std::int64_t wholeNumber(double value);
 
 /// Turns figures into the texts that people read, in one locale and time zone. Every figure on the screen,
 /// in an image and in the terminal passes through here.
@@ -29,7 +30,7 @@ std::int64_t wholeNumber(double value);
 /// Polish) becomes U+00A0, so that no line breaks inside a number.
 ///
 /// Threads: any.
-class Formatter {
+class ONDEL_PUBLIC Formatter {
 public:
     /// `zone`: absent is the machine's own, read again for each stamp.
     explicit Formatter(const UserLocale& locale, std::optional<QTimeZone> zone = std::nullopt);

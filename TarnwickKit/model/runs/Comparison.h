@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QString>
@@ -11,7 +12,7 @@
 namespace TarnwickKit::model {
 
 /// One figure by which runs are compared.
-struct CompareMetric {
+struct ONDEL_PUBLIC CompareMetric {
     QString label;
     QString unit;
     std::optional<double> RunRecord::* magnitude; ///< in its raw unit
@@ -25,13 +26,13 @@ struct CompareMetric {
 /// Whether two runs measured the same volume, as far as their records tell: the name is equal, and so are the
 /// drive's model, the file system and, but for a tenth, the capacity where both know them. The capacity of
 /// some file systems varies with what they hold.
-bool areOfOneVolume(const RunRecord& one, const RunRecord& other);
+ONDEL_PUBLIC bool areOfOneVolume(const RunRecord& one, const RunRecord& other);
 
 /// What a comparison of runs shows; the views draw it.
 namespace ComparisonChart {
 
 /// The metrics for which at least one run has a figure.
-std::vector<CompareMetric> activeMetrics(const std::vector<RunRecord>& runs);
+ONDEL_PUBLIC std::vector<CompareMetric> activeMetrics(const std::vector<RunRecord>& runs);
 
 /// One run's line in a metric's group.
 struct Bar {
@@ -43,18 +44,19 @@ struct Bar {
 };
 /// A metric's bars, one per run. The largest figure fills the track, and no bar is shorter than 3 points.
 /// Units: `trackWidth` in points.
-std::vector<Bar> bars(const CompareMetric& metric, const std::vector<RunRecord>& runs, double trackWidth);
+ONDEL_PUBLIC std::vector<Bar> bars(const CompareMetric& metric, const std::vector<RunRecord>& runs,
+                                   double trackWidth);
 
 /// How far each run's figure lies from that of the run at `reference`, as a share of the latter: 0.25 is a
 /// quarter above it. Absent for the reference itself, where one of the two is missing or is not the disk's,
 /// and where the reference's is not above 0.
-std::vector<std::optional<double>> differences(const CompareMetric& metric,
-                                               const std::vector<RunRecord>& runs, std::size_t reference);
+ONDEL_PUBLIC std::vector<std::optional<double>>
+differences(const CompareMetric& metric, const std::vector<RunRecord>& runs, std::size_t reference);
 /// "+25 %", "−3.2 %", "0 %"; one decimal below ten percent. Beyond a factor of a hundred: "> +9,900 %".
-QString differenceText(double share);
+ONDEL_PUBLIC QString differenceText(double share);
 
 /// The run's volume and settings in one line; empty if none is known.
-QString parameterSummary(const RunRecord& run);
+ONDEL_PUBLIC QString parameterSummary(const RunRecord& run);
 
 } // namespace ComparisonChart
 

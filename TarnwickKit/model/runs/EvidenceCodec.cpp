@@ -2,6 +2,7 @@
 
 #include "TarnwickKit/model/runs/JsonFields.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
+#include "TarnwickKit/model/runs/RunFields.h"
 
 #include <algorithm>
 #include <array>

@@ -6,6 +6,7 @@
 #include "OndelCore/platform/storage/ReplaceFile.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
+#include "TarnwickKit/model/runs/RunFields.h"
 
 #include <QByteArray>
 #include <QDateTime>

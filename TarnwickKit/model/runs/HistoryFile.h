@@ -22,6 +22,16 @@ struct HistoryChanges {
     std::set<QUuid> added;
     std::set<QUuid> deleted;
     std::set<QUuid> renamed;
+
+    bool operator==(const HistoryChanges&) const = default;
+};
+
+/// What tests replace.
+struct HistoryAccess {
+    /// As readRunFile.
+    std::function<std::optional<std::string>(const std::filesystem::path&, std::error_code&)> read =
+        [](const std::filesystem::path& path, std::error_code& error) { return readRunFile(path, error); };
+    std::chrono::milliseconds lockPatience{500};
 };
 
 /// The file of a history: a JSON array of runs, newest first. Several programs may write it, and none loses
@@ -45,15 +55,7 @@ class HistoryFile {
 public:
     using Runs = std::vector<RunRecord>;
 
-    /// What tests replace.
-    struct Access {
-        /// As readRunFile.
-        std::function<std::optional<std::string>(const std::filesystem::path&, std::error_code&)> read =
-            [](const std::filesystem::path& path, std::error_code& error) {
-                return readRunFile(path, error);
-            };
-        std::chrono::milliseconds lockPatience{500};
-    };
+    using Access = HistoryAccess;
 
     HistoryFile(std::filesystem::path path, Access access);
 

@@ -3,6 +3,7 @@
 #include "OndelCore/logging/Log.h"
 #include "OndelCore/platform/process/StandardFolders.h"
 #include "OndelCore/platform/storage/PrivateFolder.h"
+#include "TarnwickKit/model/runs/HistoryFile.h"
 
 #include <algorithm>
 #include <utility>
@@ -32,9 +33,20 @@ std::optional<fs::path> defaultFolder() {
 
 } // namespace
 
+/// What the list and its file have to do with each other.
+struct HistoryStore::Mirror {
+    std::optional<HistoryFile> file;
+    HistoryChanges changes;
+    std::vector<QUuid> renamedElsewhere;
+};
+
+HistoryStore::HistoryStore(const std::optional<fs::path>& directory, QObject* parent)
+    : HistoryStore(directory, parent, {}) {}
+
 HistoryStore::HistoryStore(const std::optional<fs::path>& directory, QObject* parent,
-                           HistoryFile::Access access)
-    : QObject(parent) {
+                           const HistoryAccess& access)
+    : QObject(parent)
+    , m_mirror(std::make_unique<Mirror>()) {
     const auto folder = directory ? directory : defaultFolder();
     if (!folder) {
         Log::app.error("no folder for the history, runs are not kept");
@@ -42,11 +54,19 @@ HistoryStore::HistoryStore(const std::optional<fs::path>& directory, QObject* pa
     }
     std::error_code ignored;
     fs::create_directories(*folder, ignored);
-    m_file.emplace(*folder / fileName, std::move(access));
-    m_file->removeLeftovers();
-    if (auto runs = m_file->look({}, {}, limit))
+    m_mirror->file.emplace(*folder / fileName, access);
+    m_mirror->file->removeLeftovers();
+    if (auto runs = m_mirror->file->look({}, {}, limit))
         m_runs = std::move(*runs);
 }
+
+HistoryStore::~HistoryStore() = default;
+
+std::optional<fs::path> HistoryStore::url() const {
+    return m_mirror->file ? std::optional(m_mirror->file->path()) : std::nullopt;
+}
+
+bool HistoryStore::isSaved() const { return m_mirror->file && m_mirror->changes == HistoryChanges(); }
 
 void HistoryStore::add(const std::vector<RunRecord>& runs) {
     bool hasNew = false;
@@ -56,8 +76,8 @@ void HistoryStore::add(const std::vector<RunRecord>& runs) {
         m_runs.insert(m_runs.begin(), run);
         if (m_runs.size() > limit)
             m_runs.resize(limit);
-        m_changes.added.insert(run.id);
-        m_changes.deleted.erase(run.id);
+        m_mirror->changes.added.insert(run.id);
+        m_mirror->changes.deleted.erase(run.id);
         hasNew = true;
     }
     if (!hasNew)
@@ -67,9 +87,9 @@ void HistoryStore::add(const std::vector<RunRecord>& runs) {
 }
 
 void HistoryStore::forget(const QUuid& id) {
-    m_changes.deleted.insert(id);
-    m_changes.added.erase(id);
-    m_changes.renamed.erase(id);
+    m_mirror->changes.deleted.insert(id);
+    m_mirror->changes.added.erase(id);
+    m_mirror->changes.renamed.erase(id);
 }
 
 void HistoryStore::deleteRun(const QUuid& id) {
@@ -84,7 +104,7 @@ void HistoryStore::setTitle(const std::optional<QString>& title, const QUuid& id
     if (found == m_runs.end())
         return;
     found->customTitle = title;
-    m_changes.renamed.insert(id);
+    m_mirror->changes.renamed.insert(id);
     write();
     announce();
 }
@@ -111,8 +131,8 @@ void HistoryStore::restore(const std::vector<Place>& deleted) {
         if (std::ranges::find(m_runs, id, &RunRecord::id) != m_runs.end())
             continue;
         m_runs.insert(std::ranges::find(m_runs, place->next, &RunRecord::id), place->run);
-        m_changes.added.insert(id);
-        m_changes.deleted.erase(id);
+        m_mirror->changes.added.insert(id);
+        m_mirror->changes.deleted.erase(id);
     }
     write(std::max(limit, m_runs.size()));
     announce();
@@ -124,16 +144,16 @@ void HistoryStore::save() {
 }
 
 void HistoryStore::refresh() {
-    auto runs = m_file ? m_file->look(m_runs, m_changes, limit) : std::nullopt;
+    auto runs = m_mirror->file ? m_mirror->file->look(m_runs, m_mirror->changes, limit) : std::nullopt;
     if (runs && take(std::move(*runs)))
         announce();
 }
 
 bool HistoryStore::write(std::size_t most) {
-    auto runs = m_file ? m_file->update(m_runs, m_changes, most) : std::nullopt;
+    auto runs = m_mirror->file ? m_mirror->file->update(m_runs, m_mirror->changes, most) : std::nullopt;
     if (!runs)
         return false;
-    m_changes = {};
+    m_mirror->changes = {};
     return take(std::move(*runs));
 }
 
@@ -143,14 +163,14 @@ bool HistoryStore::take(std::vector<RunRecord> runs) {
     for (const RunRecord& before : std::exchange(m_runs, std::move(runs))) {
         const auto now = std::ranges::find(m_runs, before.id, &RunRecord::id);
         if (now != m_runs.end() && now->customTitle != before.customTitle)
-            m_renamedElsewhere.push_back(before.id);
+            m_mirror->renamedElsewhere.push_back(before.id);
     }
     return true;
 }
 
 void HistoryStore::announce() {
     Q_EMIT runsChanged();
-    for (const QUuid& id : std::exchange(m_renamedElsewhere, {})) {
+    for (const QUuid& id : std::exchange(m_mirror->renamedElsewhere, {})) {
         const auto run = std::ranges::find(m_runs, id, &RunRecord::id);
         if (run != m_runs.end())
             Q_EMIT renamedElsewhere(id, run->customTitle);

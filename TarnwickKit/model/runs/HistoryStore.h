@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TarnwickKit/model/runs/HistoryFile.h"
+#include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QObject>
@@ -9,10 +9,13 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace TarnwickKit::model {
+
+struct HistoryAccess;
 
 /// The list of past runs, newest first, mirrored to one file that other programs may also write (see
 /// HistoryFile). The file is read when the store is made. Each save and each `refresh` takes in what others
@@ -20,7 +23,7 @@ namespace TarnwickKit::model {
 ///
 /// Threads: the one that makes it. Fails: silently. Runs that cannot be written stay in memory until a save
 /// succeeds.
-class HistoryStore : public QObject {
+class ONDEL_PUBLIC HistoryStore : public QObject {
     Q_OBJECT
 
 public:
@@ -30,7 +33,11 @@ public:
     /// damaged file the readable runs are taken. Fails: for a user without any folder the list is kept in
     /// memory only, with a line in the log.
     explicit HistoryStore(const std::optional<std::filesystem::path>& directory = std::nullopt,
-                          QObject* parent = nullptr, HistoryFile::Access access = {});
+                          QObject* parent = nullptr);
+    /// For the tests of this project.
+    HistoryStore(const std::optional<std::filesystem::path>& directory, QObject* parent,
+                 const HistoryAccess& access);
+    ~HistoryStore() override;
 
     /// More than `limit` only if the file held more.
     const std::vector<RunRecord>& runs() const { return m_runs; }
@@ -39,9 +46,10 @@ public:
     Q_SIGNAL void renamedElsewhere(const QUuid& id, const std::optional<QString>& title);
 
     /// The file; absent if the list is kept in memory only.
-    std::optional<std::filesystem::path> url() const {
-        return m_file ? std::optional(m_file->path()) : std::nullopt;
-    }
+    std::optional<std::filesystem::path> url() const;
+
+    /// Whether the file holds all that was changed here.
+    bool isSaved() const;
 
     /// Puts a run at the top and drops the last ones beyond `limit`, whatever their dates. Does nothing if a
     /// run with that id is stored.
@@ -75,10 +83,10 @@ private:
     bool take(std::vector<RunRecord> runs);
     bool write(std::size_t most = limit);
 
-    std::optional<HistoryFile> m_file;
+    struct Mirror;
+
     std::vector<RunRecord> m_runs;
-    HistoryChanges m_changes;
-    std::vector<QUuid> m_renamedElsewhere;
+    std::unique_ptr<Mirror> m_mirror;
 };
 
 } // namespace TarnwickKit::model

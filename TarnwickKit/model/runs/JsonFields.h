@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TarnwickKit/model/runs/JsonReader.h"
+#include "TarnwickKit/model/runs/RunFields.h"
 
 #include <cstdint>
 #include <optional>
@@ -16,10 +17,11 @@ template <typename Value>
 inline constexpr bool isOptional<std::optional<Value>> = true;
 
 /// Reads an object into the fields that `visitFields` has for `record`. Calls `read(key, field)` for each
-/// member that is one of them, which must read or skip the value; skips the others.
-/// `isRequired(field)`: whether the object must have it. Fails: throws JsonError, as `read` does.
-template <typename Record, typename Read, typename IsRequired>
-void readFields(JsonReader& json, Record& record, Read read, IsRequired isRequired) {
+/// member that is one of them, which must read or skip the value; `other(key)` for the others.
+/// `isRequired(field)`: whether the object must have it. Fails: throws JsonError with the key, as `read`
+/// does.
+template <typename Record, typename Read, typename IsRequired, typename Other>
+void readFields(JsonReader& json, Record& record, Read read, IsRequired isRequired, Other other) {
     std::uint64_t seen = 0; // no record has more fields than this has bits
     json.object([&](std::string_view key) {
         bool known = false;
@@ -29,12 +31,16 @@ void readFields(JsonReader& json, Record& record, Read read, IsRequired isRequir
             if (!known && name == key) {
                 known = true;
                 seen |= std::uint64_t{1} << index;
-                read(name, field);
+                try {
+                    read(name, field);
+                } catch (const JsonError& error) {
+                    throw JsonError(std::string(name) + ": " + error.what());
+                }
             }
             ++index;
         });
         if (!known)
-            json.skip();
+            other(key);
     });
     int index = 0;
     visitFields(record, [&](std::string_view name, const auto& field) {
@@ -42,6 +48,12 @@ void readFields(JsonReader& json, Record& record, Read read, IsRequired isRequir
             throw JsonError(std::string(name) + " is missing");
         ++index;
     });
+}
+
+/// The same, and skips all other members.
+template <typename Record, typename Read, typename IsRequired>
+void readFields(JsonReader& json, Record& record, Read read, IsRequired isRequired) {
+    readFields(json, record, read, isRequired, [&json](std::string_view) { json.skip(); });
 }
 
 } // namespace TarnwickKit::model

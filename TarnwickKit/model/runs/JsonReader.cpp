@@ -2,6 +2,8 @@
 
 #include <QLatin1StringView>
 #include <QLocale>
+#include <QStringDecoder>
+#include <QStringView>
 #include <QUtf8StringView>
 
 #include <charconv>
@@ -13,18 +15,34 @@ namespace {
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
+/// What a character of JSON's grammar stands for, in words.
+std::string nameOf(char character) {
+    switch (character) {
+    case '{':
+        return "an object";
+    case '[':
+        return "a list";
+    case '"':
+        return "a text";
+    case ',':
+        return "a comma";
+    default:
+        return "a colon";
+    }
+}
+
 } // namespace
 
 JsonReader::JsonReader(std::string_view text)
     : m_text(text) {
     if (!QUtf8StringView(text.data(), static_cast<qsizetype>(text.size())).isValidUtf8())
-        throw JsonError("not UTF-8");
+        throw JsonError("the text is not UTF-8");
 }
 
 JsonReader::Nesting::Nesting(JsonReader& reader, char opening)
     : m_reader(reader) {
     if (reader.m_depth == maxDepth)
-        throw JsonError("nested too deeply");
+        throw JsonError("values are nested too deeply");
     reader.expect(opening);
     ++reader.m_depth;
 }
@@ -42,7 +60,7 @@ char JsonReader::peek() {
 
 void JsonReader::expect(char character) {
     if (peek() != character || m_at == m_text.size())
-        throw JsonError(std::string("expected ") + character);
+        throw JsonError(nameOf(character) + " was expected");
     ++m_at;
 }
 
@@ -72,11 +90,11 @@ std::string_view JsonReader::rawString() {
     const auto plainEnd = [this] {
         while (m_at < m_text.size() && m_text[m_at] != '"' && m_text[m_at] != '\\') {
             if (static_cast<unsigned char>(m_text[m_at]) < 0x20)
-                throw JsonError("control character in a string");
+                throw JsonError("a control character stands in a text");
             ++m_at;
         }
         if (m_at == m_text.size())
-            throw JsonError("string without end");
+            throw JsonError("a text has no end");
         return m_at;
     };
     if (m_text[plainEnd()] == '"')
@@ -102,18 +120,18 @@ void JsonReader::appendEscape() {
         return;
     }
     if (mark != 'u')
-        throw JsonError("unknown escape");
+        throw JsonError("an escape is unknown");
     char32_t character = hexCodeUnit();
     if (character >= 0xD800 && character < 0xDC00 && m_text.substr(m_at).starts_with("\\u")) {
         m_at += 2;
         const char32_t low = hexCodeUnit();
         if (low < 0xDC00 || low > 0xDFFF)
-            throw JsonError("half of a surrogate pair");
+            throw JsonError("half of a surrogate pair stands alone");
         character = 0x10000 + ((character - 0xD800) << 10) + (low - 0xDC00);
     } else if (character >= 0xD800 && character < 0xE000) {
-        throw JsonError("half of a surrogate pair");
+        throw JsonError("half of a surrogate pair stands alone");
     }
-    m_unescaped += QString::fromUcs4(&character, 1).toStdString();
+    m_unescaped += QStringView(QChar::fromUcs4(character)).toUtf8().toStdString();
 }
 
 char32_t JsonReader::hexCodeUnit() {
@@ -121,7 +139,7 @@ char32_t JsonReader::hexCodeUnit() {
     std::uint32_t value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
     if (digits.size() != 4 || error != std::errc() || end != digits.data() + 4)
-        throw JsonError("four hexadecimal digits expected");
+        throw JsonError("four hexadecimal digits were expected");
     m_at += 4;
     return value;
 }
@@ -138,7 +156,7 @@ std::string_view JsonReader::numberToken() {
         while (m_at < m_text.size() && isDigit(m_text[m_at]))
             ++m_at;
         if (m_at == from)
-            throw JsonError("digit expected");
+            throw JsonError("a number was expected");
     };
     if (is("-"))
         ++m_at;
@@ -161,7 +179,9 @@ std::string_view JsonReader::numberToken() {
 
 QString JsonReader::string() {
     const std::string_view raw = rawString();
-    return QString::fromUtf8(raw);
+    // QString::fromUtf8 would drop a U+FEFF at the beginning as a mark of the byte order.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(QByteArrayView(raw));
 }
 
 double JsonReader::number() {
@@ -172,7 +192,7 @@ double JsonReader::number() {
         return value;
     // The C++ library reports overflow and underflow alike; Qt returns infinity or zero.
     if (!std::isfinite(QLocale::c().toDouble(QLatin1StringView(token.data(), end))))
-        throw JsonError("number out of range");
+        throw JsonError("a number is out of range");
     return 0;
 }
 
@@ -182,7 +202,7 @@ std::int64_t JsonReader::integer() {
     std::int64_t value = 0;
     const auto [end, error] = std::from_chars(token.data(), token.data() + token.size(), value);
     if (error != std::errc())
-        throw JsonError("integer out of range");
+        throw JsonError("a whole number is out of range");
     if (end == token.data() + token.size())
         return value;
 
@@ -190,7 +210,7 @@ std::int64_t JsonReader::integer() {
     const double spelledOut = number();
     constexpr double limit = 9223372036854775808.0;
     if (spelledOut != std::trunc(spelledOut) || spelledOut < -limit || spelledOut >= limit)
-        throw JsonError("not an integer");
+        throw JsonError("a whole number was expected");
     return static_cast<std::int64_t>(spelledOut);
 }
 
@@ -199,7 +219,7 @@ bool JsonReader::boolean() {
         return true;
     if (tryWord("false"))
         return false;
-    throw JsonError("true or false expected");
+    throw JsonError("true or false was expected");
 }
 
 bool JsonReader::tryNull() { return tryWord("null"); }
@@ -219,7 +239,7 @@ void JsonReader::skip() {
         return;
     case 'n':
         if (!tryNull())
-            throw JsonError("null expected");
+            throw JsonError("null was expected");
         return;
     default:
         numberToken();
@@ -229,7 +249,7 @@ void JsonReader::skip() {
 void JsonReader::end() {
     peek();
     if (m_at != m_text.size())
-        throw JsonError("text behind the value");
+        throw JsonError("more text stands behind the end");
 }
 
 } // namespace TarnwickKit::model

@@ -10,7 +10,8 @@
 
 namespace TarnwickKit::model {
 
-/// The text is not JSON (RFC 8259, in UTF-8), or a value is not of the requested type.
+/// The text is not JSON (RFC 8259, in UTF-8), or a value is not of the requested type. `what` tells people
+/// which value and why: "sizeLabel: a text was expected". It holds nothing of the text itself.
 class JsonError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

@@ -4,6 +4,7 @@
 #include "TarnwickKit/model/runs/JsonFields.h"
 #include "TarnwickKit/model/runs/JsonReader.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
+#include "TarnwickKit/model/runs/RunFields.h"
 
 #include <algorithm>
 #include <array>
@@ -66,14 +67,14 @@ void read(JsonReader& json, QUuid& value) {
     // QUuid accepts other forms, and returns the null UUID for malformed ones.
     value = text.size() == uuidLength ? QUuid::fromString(text) : QUuid();
     if (value.toString(QUuid::WithoutBraces).compare(text, Qt::CaseInsensitive) != 0)
-        throw JsonError("malformed UUID");
+        throw JsonError("a UUID was expected");
 }
 
 void read(JsonReader& json, QDateTime& value) {
     const QString text = json.string();
     value = QDateTime::fromString(text, Qt::ISODate);
     if (text.size() != dateLength || !value.isValid() || value.toUTC().toString(dateForm) != text)
-        throw JsonError("date in another form");
+        throw JsonError("a date as in 2024-05-01T12:34:56Z was expected");
     value = value.toUTC();
 }
 
@@ -81,7 +82,7 @@ void read(JsonReader& json, RunRecord::Kind& value) {
     const std::string raw = json.string().toStdString();
     const auto* found = std::ranges::find(kinds, raw, [](const auto& kind) { return kind.second; });
     if (found == kinds.end())
-        throw JsonError("unknown kind");
+        throw JsonError("internalDrive, external or network was expected");
     value = found->first;
 }
 
@@ -89,7 +90,7 @@ void read(JsonReader& json, std::vector<RunSample>& samples) {
     samples.clear();
     json.array([&] {
         if (samples.size() == maxCurvePoints)
-            throw JsonError("curve too long");
+            throw JsonError("the curve has too many points");
         std::optional<double> t;
         std::optional<double> v;
         json.object([&](std::string_view key) {
@@ -101,7 +102,7 @@ void read(JsonReader& json, std::vector<RunSample>& samples) {
                 json.skip();
         });
         if (!t || !v)
-            throw JsonError("point without t or v");
+            throw JsonError("a point has no t or no v");
         samples.push_back({*t, *v});
     });
 }
@@ -141,10 +142,14 @@ bool isShowable(std::string_view, const Value&) {
     return true;
 }
 
-bool isShowable(const RunRecord& run) {
-    bool all = true;
-    visitFields(run, [&](std::string_view key, const auto& field) { all = all && isShowable(key, field); });
-    return all;
+/// The key of the first field that cannot be shown; empty if all can.
+std::string_view unshowableKey(const RunRecord& run) {
+    std::string_view first;
+    visitFields(run, [&](std::string_view key, const auto& field) {
+        if (first.empty() && !isShowable(key, field))
+            first = key;
+    });
+    return first;
 }
 
 /// Whether an optional field is written and kept: observed texts are plain.
@@ -155,6 +160,14 @@ template <typename Value>
 void readObserved(JsonReader& json, std::string_view key, std::optional<Value>& field) {
     if (!json.tryRead([&] { read(json, field); }) || (field && !isKept(key, *field)))
         field.reset();
+}
+
+/// Skips an unknown member. Fails: throws JsonError where the file says that it is to be read in another way.
+void readUnknown(JsonReader& json, std::string_view key) {
+    if (key != "formatVersion")
+        json.skip();
+    else if (json.integer() != runFormatVersion)
+        throw JsonError("formatVersion: a newer program is needed to read this");
 }
 
 RunRecord readRun(JsonReader& json) {
@@ -168,30 +181,48 @@ RunRecord readRun(JsonReader& json) {
             }
             read(json, field);
         },
-        [](const auto& field) { return !isOptional<std::remove_cvref_t<decltype(field)>>; });
-    if (!isShowable(run))
-        throw JsonError("a figure that cannot be shown");
+        [](const auto& field) { return !isOptional<std::remove_cvref_t<decltype(field)>>; },
+        [&json](std::string_view key) { readUnknown(json, key); });
+    if (const std::string_view key = unshowableKey(run); !key.empty())
+        throw JsonError(std::string(key) + ": this cannot be shown");
     return run;
 }
 
 template <typename Read>
-auto decode(QByteArrayView text, Read read) -> std::optional<decltype(read(std::declval<JsonReader&>()))> {
+auto parsed(QByteArrayView text, Read read) {
     if (static_cast<std::size_t>(text.size()) > maxRunFileBytes)
-        return std::nullopt;
+        throw JsonError("the text is too long");
+    JsonReader json({text.data(), static_cast<std::size_t>(text.size())});
+    auto value = read(json);
+    json.end();
+    return value;
+}
+
+template <typename Read>
+auto decode(QByteArrayView text, Read read) -> std::optional<decltype(read(std::declval<JsonReader&>()))> {
     try {
-        JsonReader json({text.data(), static_cast<std::size_t>(text.size())});
-        auto value = read(json);
-        json.end();
-        return value;
+        return parsed(text, read);
     } catch (const JsonError&) {
         return std::nullopt;
     }
 }
 
+std::vector<RunRecord> readRuns(JsonReader& json) {
+    std::vector<RunRecord> runs;
+    json.array([&] {
+        try {
+            runs.push_back(readRun(json));
+        } catch (const JsonError& error) {
+            throw JsonError("run " + std::to_string(runs.size() + 1) + ": " + error.what());
+        }
+    });
+    return runs;
+}
+
 } // namespace
 
 std::optional<QByteArray> encodeRun(const RunRecord& run) {
-    if (!isShowable(run))
+    if (!unshowableKey(run).empty())
         return std::nullopt;
     JsonWriter json;
     json.beginObject();
@@ -210,16 +241,12 @@ std::optional<QByteArray> encodeRun(const RunRecord& run) {
     return json.json();
 }
 
-std::optional<RunRecord> decodeRun(QByteArrayView text) {
-    return decode(text, [](JsonReader& json) { return readRun(json); });
-}
+std::optional<RunRecord> decodeRun(QByteArrayView text) { return decode(text, readRun); }
 
-std::optional<std::vector<RunRecord>> decodeRuns(QByteArrayView text) {
-    return decode(text, [](JsonReader& json) {
-        std::vector<RunRecord> runs;
-        json.array([&] { runs.push_back(readRun(json)); });
-        return runs;
-    });
+std::optional<std::vector<RunRecord>> decodeRuns(QByteArrayView text) { return decode(text, readRuns); }
+
+std::vector<RunRecord> requireRuns(QByteArrayView text) {
+    return text.trimmed().startsWith('[') ? parsed(text, readRuns) : std::vector{parsed(text, readRun)};
 }
 
 /// Tries every '{' as the beginning of a run, because damage can hide where the run before it ends. Objects

@@ -24,10 +24,16 @@ inline constexpr std::size_t maxCurvePoints = 100000;
 /// up.
 inline constexpr double largestShownFigure = 9.0e18;
 
+/// The promise of docs/run-file.md: keys are added and never change. A file that must be read in another way
+/// would say so under "formatVersion"; without that key it is of this version.
+inline constexpr std::int64_t runFormatVersion = 1;
+
 std::optional<QByteArray> encodeRun(const RunRecord& run);
 std::optional<RunRecord> decodeRun(QByteArrayView json);
 /// An array of runs.
 std::optional<std::vector<RunRecord>> decodeRuns(QByteArrayView json);
+/// A run, or the runs of an array. Fails: throws JsonError, which says for people which value cannot be read.
+std::vector<RunRecord> requireRuns(QByteArrayView json);
 /// The readable runs of a damaged array, in order. Invalid UTF-8 becomes replacement characters. Fails:
 /// empty.
 std::vector<RunRecord> recoverRuns(QByteArrayView json);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <cstddef>
@@ -23,7 +24,7 @@ std::optional<std::string> readRunFile(const std::filesystem::path& path);
 std::optional<std::string> readRunFile(const std::filesystem::path& path, std::error_code& error);
 
 /// The runs of a list of run files.
-struct ImportedRuns {
+struct ONDEL_PUBLIC ImportedRuns {
     std::vector<RunRecord> runs; ///< in the files' order; at most as many as a history keeps
     std::optional<RunRecord> last;
     std::size_t readable = 0;

@@ -3,6 +3,8 @@
 #include "OndelCore/Hashing.h"
 #include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/model/runs/JsonFields.h"
+#include "TarnwickKit/model/runs/RunFields.h"
+#include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <unicode/brkiter.h>
 

@@ -1,13 +1,14 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/Hashing.h"
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
 #include "OndelCore/benchmark/evidence/Remark.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickKit/model/runs/DriveIdentity.h"
 #include "TarnwickKit/model/runs/RunEvidence.h"
-#include "TarnwickKit/model/session/DriveInfo.h"
 
 #include <QDateTime>
 #include <QMetaType>
@@ -29,15 +30,15 @@ namespace TarnwickKit::model {
 inline constexpr std::array<std::string_view, 6> networkFilesystems{"smbfs",  "nfs",  "afpfs",
                                                                     "webdav", "cifs", "ftp"};
 /// Whether a type, in any case, is among them.
-bool isNetworkFilesystem(const QString& filesystemType);
+ONDEL_PUBLIC bool isNetworkFilesystem(const QString& filesystemType);
 
 /// A text with a visible character. A record from elsewhere may hold a text of blanks and control characters,
 /// which counts as absent.
-std::optional<QString> visibleText(const std::optional<QString>& text);
+ONDEL_PUBLIC std::optional<QString> visibleText(const std::optional<QString>& text);
 
 /// Whether a test's figures are not those of the disk: a remark on the test or on the whole run is invalid.
-bool isInvalid(const std::vector<OndelCore::benchmark::Remark>& remarks,
-               OndelCore::benchmark::BenchmarkTest test);
+ONDEL_PUBLIC bool isInvalid(const std::vector<OndelCore::benchmark::Remark>& remarks,
+                            OndelCore::benchmark::BenchmarkTest test);
 
 /// One saved point of a curve.
 struct RunSample {
@@ -51,7 +52,7 @@ struct RunSample {
 /// The lasting form of a finished run: headline figures, thinned curves, facts of the volume at the time, and
 /// settings. The history keeps it, panes and images show it, run files carry it. `id` alone identifies a run.
 /// Units: rates in bytes per second, sizes in bytes, times in seconds.
-struct RunRecord {
+struct ONDEL_PUBLIC RunRecord {
     /// How the volume was attached.
     enum class Kind { internalDrive, external, network };
 
@@ -130,48 +131,6 @@ struct RunRecord {
     bool operator==(const RunRecord&) const = default;
     std::size_t hash() const;
 };
-
-/// Calls `visit(key, field)` for each field of a record, in order. A field that is not a std::optional is
-/// required.
-void visitFields(IsA<RunRecord> auto& run, auto visit) {
-    visit("id", run.id);
-    visit("volumeName", run.volumeName);
-    visit("connection", run.connection);
-    visit("date", run.date);
-    visit("duration", run.duration);
-    visit("writeBps", run.writeBps);
-    visit("writePeakBps", run.writePeakBps);
-    visit("writeMinBps", run.writeMinBps);
-    visit("readBps", run.readBps);
-    visit("readPeakBps", run.readPeakBps);
-    visit("readMinBps", run.readMinBps);
-    visit("randomReadBps", run.randomReadBps);
-    visit("randomWriteBps", run.randomWriteBps);
-    visit("randomReadIOPS", run.randomReadIOPS);
-    visit("randomWriteIOPS", run.randomWriteIOPS);
-    visit("fileOpsPerSec", run.fileOpsPerSec);
-    visit("writeSamples", run.writeSamples);
-    visit("readSamples", run.readSamples);
-    visit("fsType", run.fsType);
-    visit("optimalIO", run.optimalIO);
-    visit("blockSize", run.blockSize);
-    visit("maxName", run.maxName);
-    visit("capacityBytes", run.capacityBytes);
-    visit("freeBytes", run.freeBytes);
-    visit("sizeLabel", run.sizeLabel);
-    visit("writeBlock", run.writeBlock);
-    visit("readBlock", run.readBlock);
-    visit("randomBlock", run.randomBlock);
-    visit("bypassCache", run.bypassCache);
-    visit("deviceModel", run.deviceModel);
-    visit("deviceProtocol", run.deviceProtocol);
-    visit("kind", run.kind);
-    visit("customTitle", run.customTitle);
-    visit("kernel", run.kernel);
-    visit("version", run.version);
-    visit("evidence", run.evidence);
-    visit("remarks", run.remarks);
-}
 
 } // namespace TarnwickKit::model
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QPointF>
 #include <QStringList>
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <vector>
@@ -14,7 +16,7 @@ namespace TarnwickKit::model {
 /// A finished run for a host application. Its image comes from the views: reportImage.
 /// Units: as RunRecord, except for the curves: x in seconds, y in megabytes per second.
 /// Threads: any.
-struct TarnwickReport {
+struct ONDEL_PUBLIC TarnwickReport {
     RunRecord run;
 
     /// The record's duration is the sum of the tests' durations.
@@ -41,6 +43,11 @@ struct TarnwickReport {
     /// Writes a run file for the application to open, into a folder that only this user can enter. Within a
     /// process the same run has the same path. Nothing removes the file. Fails: absent.
     std::optional<std::filesystem::path> handoffFile() const;
+
+    /// Writes that file and has the application open it: by the session bus, which starts the application if
+    /// it does not run, else by the desktop's own opener. Threads: any; needs no event loop; blocks until the
+    /// application has taken the file, for `patience` at most. Fails: false, nobody took it; the file stays.
+    bool openInApplication(std::chrono::milliseconds patience = std::chrono::seconds(10)) const;
 };
 
 } // namespace TarnwickKit::model

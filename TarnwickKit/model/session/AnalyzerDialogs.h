@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <QString>
 
 #include <filesystem>
@@ -10,7 +12,7 @@ namespace TarnwickKit::model {
 
 /// The model's questions to people, asked by the views in dialogs. A dialog may return immediately and call
 /// back later. It does not call back if it is dismissed.
-class AnalyzerDialogs {
+class ONDEL_PUBLIC AnalyzerDialogs {
 public:
     using Chosen = std::function<void(const std::filesystem::path&)>;
 

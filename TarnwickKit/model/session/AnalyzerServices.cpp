@@ -2,13 +2,13 @@
 
 #include "OndelCore/health/DiskHealth.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
+#include "TarnwickKit/model/session/DriveInfo.h"
 
 namespace TarnwickKit::model {
 
 using OndelCore::benchmark::BenchmarkEngine;
 using OndelCore::volumes::Location;
-using OndelCore::volumes::VolumeCapabilities;
-using OndelCore::volumes::VolumeInfo;
 
 namespace {
 
@@ -36,10 +36,10 @@ AnalyzerServices AnalyzerServices::real() {
             BenchmarkEngine::cleanupOrphans(folder);
     };
     services.loadVolume = [](const Location& location) {
-        return VolumeInfo::load(location, waitingFor(latePatience));
+        return OndelCore::volumes::loadVolumeInfo(location, waitingFor(latePatience));
     };
     services.probeCapabilities = [](const Location& location) {
-        return VolumeCapabilities::probe(location, waitingFor(latePatience));
+        return OndelCore::volumes::probeCapabilities(location, waitingFor(latePatience));
     };
     services.readHealth = [](const std::filesystem::path& path) {
         return OndelCore::health::DiskHealth::read(path);

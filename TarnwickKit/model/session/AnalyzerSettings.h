@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkTest.h"
 
@@ -21,7 +22,7 @@ namespace TarnwickKit::model {
 ///
 /// Properties carry what a declarative view can bind to: a test is its raw value ("sequentialWrite"), and
 /// bytes are doubles (exact to 2^53). The getters beside them carry the real types.
-class AnalyzerSettings : public QObject {
+class ONDEL_PUBLIC AnalyzerSettings : public QObject {
     Q_OBJECT
 
 public:

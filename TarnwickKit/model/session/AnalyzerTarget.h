@@ -1,13 +1,13 @@
 #pragma once
 
 #include "OndelCore/health/DiskSMART.h"
-#include "OndelCore/volumes/MountedVolumes.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/model/session/AnalyzerDialogs.h"
 #include "TarnwickKit/model/session/AnalyzerServices.h"
 #include "TarnwickKit/model/session/AnswerLater.h"
+#include "TarnwickKit/model/session/VolumeMenuItem.h"
 
 #include <QFuture>
 #include <QObject>
@@ -33,18 +33,6 @@ struct VolumeFacts {
     RunRecord::Kind kind() const;
     /// The block size that suits the file system. Units: bytes.
     std::optional<std::int64_t> suitableBlock() const;
-};
-
-/// One entry of the volume menu.
-struct VolumeMenuItem {
-    std::filesystem::path url; ///< the mount point, which identifies the entry
-    QString name;
-    QString systemImage; ///< a symbol's name
-    QString detail;      ///< "Ext4 · 1.8 TiB", or what of it is known
-
-    static VolumeMenuItem from(const OndelCore::volumes::MountedVolume& volume);
-
-    bool operator==(const VolumeMenuItem&) const = default;
 };
 
 /// The folder under test, and what is known of its volume and drive.

@@ -2,6 +2,7 @@
 
 #include "OndelCore/platform/drives/DriveDescription.h"
 #include "OndelCore/platform/drives/SystemSources.h"
+#include "TarnwickKit/model/runs/DriveIdentity.h"
 
 #include <QString>
 
@@ -10,16 +11,8 @@
 
 namespace TarnwickKit::model {
 
-/// What a drive is called and how it is attached. Absent: the drive does not tell.
-struct DriveIdentity {
-    std::optional<QString> model;
-    std::optional<QString> protocolName;
-
-    bool operator==(const DriveIdentity&) const = default;
-};
-
 /// Names for the hardware behind a volume. Threads: any; the functions keep no state.
-class DriveInfo {
+class ONDEL_KIT DriveInfo {
 public:
     DriveInfo() = delete;
 

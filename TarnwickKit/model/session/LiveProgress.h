@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkProgress.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
@@ -20,11 +21,19 @@ struct RatePoint {
     bool operator==(const RatePoint&) const = default;
 };
 
+/// A drive's temperature. Units: seconds since the test's measuring began, degrees Celsius.
+struct TemperaturePoint {
+    double elapsed = 0;
+    double celsius = 0;
+
+    bool operator==(const TemperaturePoint&) const = default;
+};
+
 /// What a run's progress events tell about the running test and the whole run. A test's amount counts bytes
 /// in the sequential tests, else operations.
 ///
 /// Threads: one at a time.
-class LiveProgress {
+class ONDEL_PUBLIC LiveProgress {
 public:
     using BenchmarkTest = OndelCore::benchmark::BenchmarkTest;
 
@@ -100,7 +109,7 @@ private:
 /// seconds, then a countdown. Only estimates that agree on something clearly else correct it.
 ///
 /// Units: seconds; `now` on one clock that never goes back.
-class SteadyCountdown {
+class ONDEL_KIT SteadyCountdown {
 public:
     void reset() { *this = {}; }
     /// An estimate of the time left.

@@ -40,13 +40,7 @@ class RunSession : public QObject {
 
 public:
     using Sample = OndelCore::benchmark::ThroughputSample;
-    /// A drive's temperature. Units: seconds since the test's measuring began, degrees Celsius.
-    struct Temperature {
-        double elapsed = 0;
-        double celsius = 0;
-
-        bool operator==(const Temperature&) const = default;
-    };
+    using Temperature = TemperaturePoint;
     static constexpr std::size_t maxLiveSamples = 2000;
 
     enum class Outcome { finished, cancelled, failed };

@@ -89,6 +89,11 @@ void ThroughputCanvas::setMarked(bool marked) {
         Q_EMIT marksChanged();
 }
 
+void ThroughputCanvas::setTextScale(double scale) {
+    if (take(m_content.textScale, scale))
+        Q_EMIT marksChanged();
+}
+
 void ThroughputCanvas::setGroundColor(const QColor& color) {
     if (take(m_content.ground, color))
         Q_EMIT colorsChanged();

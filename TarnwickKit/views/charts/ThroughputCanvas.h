@@ -31,6 +31,8 @@ class ThroughputCanvas : public OndelControls::ImageItem {
     Q_PROPERTY(bool marked READ isMarked WRITE setMarked NOTIFY marksChanged)
     /// Of the marks' outline.
     Q_PROPERTY(QColor groundColor READ groundColor WRITE setGroundColor NOTIFY colorsChanged)
+    /// How much larger than drawn the axes' labels are.
+    Q_PROPERTY(double textScale READ textScale WRITE setTextScale NOTIFY marksChanged)
     /// Drawn as a thin line on a scale of its own. Units: seconds and degrees Celsius.
     Q_PROPERTY(QList<QPointF> temperatures READ temperatures WRITE setTemperatures NOTIFY temperaturesChanged)
     Q_PROPERTY(QColor temperatureColor READ temperatureColor WRITE setTemperatureColor NOTIFY colorsChanged)
@@ -59,6 +61,8 @@ public:
     void setAxisUnit(const QString& unit);
     bool isMarked() const { return m_content.marked; }
     void setMarked(bool marked);
+    double textScale() const { return m_content.textScale; }
+    void setTextScale(double scale);
     Q_SIGNAL void marksChanged();
     QColor groundColor() const { return m_content.ground; }
     void setGroundColor(const QColor& color);

@@ -16,6 +16,7 @@ ThroughputCanvas {
     gridColor: PaletteKey.palette.grid
     labelColor: PaletteKey.palette.text3
     groundColor: PaletteKey.palette.panel
+    textScale: Metrics.textScale
     activeFocusOnTab: readable
 
     Accessible.role: Accessible.Chart

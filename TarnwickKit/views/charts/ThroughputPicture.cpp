@@ -2,7 +2,7 @@
 
 #include "TarnwickKit/views/charts/CurveReading.h"
 #include "TarnwickKit/views/charts/PixelBlend.h"
-#include "TarnwickKit/views/style/TarnwickFonts.h"
+#include "TarnwickKit/views/style/Typeface.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -25,9 +25,12 @@ void drawLabel(QPainter& painter, const QString& text, QPointF place, double anc
     painter.drawText(QPointF(left, place.y() + (metrics.ascent() - metrics.descent()) / 2), text);
 }
 
-/// The font of the axes, made smaller until `text` is no wider than `room`.
-QFont fontFor(const QString& text, double room) {
-    QFont font = Typeface::mono(9);
+/// The font of the axes. Larger than this, it would not fit beside and below the plot.
+QFont axisFont(double textScale) { return Typeface::mono(std::min(9 * textScale, 15.0)); }
+
+/// The same, made smaller until `text` is no wider than `room`.
+QFont fontFor(const QString& text, double room, double textScale) {
+    QFont font = axisFont(textScale);
     while (font.pixelSize() > 1 && QFontMetricsF(font).horizontalAdvance(text) > room)
         font.setPixelSize(font.pixelSize() - 1);
     return font;
@@ -111,7 +114,8 @@ QImage ThroughputPicture::paint(const ThroughputContent& content, QSizeF size, d
 /// Whether the content is that of the last picture, or more of it.
 bool ThroughputPicture::continuesLast(const ThroughputContent& content, QSizeF size, double scale) const {
     if (size != m_size || scale != m_scale || content.grid != m_gridColor || content.label != m_labelColor ||
-        content.temperature != m_temperatureColor || content.axisUnit != m_axisUnit)
+        content.temperature != m_temperatureColor || content.axisUnit != m_axisUnit ||
+        content.textScale != m_textScale)
         return false;
     return std::ranges::equal(content.curves, m_curves, [](const ChartCurve& now, const Drawn& drawn) {
         return now.color == drawn.color && now.fill == drawn.fill && now.unchanged == drawn.count;
@@ -138,6 +142,7 @@ void ThroughputPicture::begin(const ThroughputContent& content, QSizeF size, dou
     m_labelColor = content.label;
     m_temperatureColor = content.temperature;
     m_axisUnit = content.axisUnit;
+    m_textScale = content.textScale;
 
     const QSize pixels = inPixels(size, scale);
     const ThroughputPlot plot{size, axes};
@@ -179,7 +184,7 @@ void ThroughputPicture::paintGrid(const ThroughputPlot& plot) {
     QPainter painter(&m_grid);
     const auto labels = plot.scale.yLabels();
     // A rate read from a file may be of any size. The first label is the largest and decides the font of all.
-    painter.setFont(fontFor(QString::number(labels.front()), labelEnd));
+    painter.setFont(fontFor(QString::number(labels.front()), labelEnd, m_textScale));
     for (int i = 0; i <= ThroughputScale::intervals; ++i) {
         const double y = plot.gridLine(i);
         // Aligned to whole pixels, otherwise some lines are sharp and others blurred over two rows.
@@ -188,9 +193,9 @@ void ThroughputPicture::paintGrid(const ThroughputPlot& plot) {
         painter.setPen(m_labelColor);
         drawLabel(painter, QString::number(labels[static_cast<std::size_t>(i)]), {labelEnd, y}, 1);
     }
-    painter.setFont(fontFor(m_axisUnit, labelEnd));
-    drawLabel(painter, m_axisUnit, {labelEnd, plot.gridLine(0) + 11}, 1);
-    painter.setFont(Typeface::mono(9));
+    painter.setFont(fontFor(m_axisUnit, labelEnd, m_textScale));
+    drawLabel(painter, m_axisUnit, {labelEnd, plot.gridLine(0) + 11 * m_textScale}, 1);
+    painter.setFont(axisFont(m_textScale));
     const auto times = plot.scale.xLabels();
     for (std::size_t i = 0; i < times.size(); ++i)
         drawLabel(painter, seconds(times[i]), {plot.x(times[i]), plot.floor() + 12},
@@ -235,10 +240,10 @@ void ThroughputPicture::paintTemperatures(const ThroughputContent& content) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(content.temperature, temperatureWidth));
     painter.drawPolyline(line);
-    painter.setFont(Typeface::mono(9));
+    painter.setFont(axisFont(m_textScale));
     const double end = ThroughputPlot::left + plot.width();
-    drawLabel(painter, degrees(top), {end, plot.gridLine(0) + 8}, 1);
-    drawLabel(painter, degrees(0), {end, plot.floor() - 8}, 1);
+    drawLabel(painter, degrees(top), {end, plot.gridLine(0) + 8 * m_textScale}, 1);
+    drawLabel(painter, degrees(0), {end, plot.floor() - 8 * m_textScale}, 1);
 }
 
 void ThroughputPicture::compose(int fromColumn) {

@@ -32,9 +32,10 @@ struct ThroughputContent {
     QColor temperature;
     QColor grid;
     QColor label;
-    QString axisUnit{};  ///< below the largest label of the rates; none if empty
-    bool marked = false; ///< sustained parts, peaks and lowest points; not for live charts
-    QColor ground{};     ///< around the marks
+    QString axisUnit{};   ///< below the largest label of the rates; none if empty
+    bool marked = false;  ///< sustained parts, peaks and lowest points; not for live charts
+    QColor ground{};      ///< around the marks
+    double textScale = 1; ///< of the axes' labels
 };
 
 /// Paints throughput charts. Points appended to a live chart cost only their own drawing.
@@ -74,6 +75,7 @@ private:
     QColor m_labelColor;
     QColor m_temperatureColor;
     QString m_axisUnit;
+    double m_textScale = 1;
     std::optional<ThroughputScale> m_axes;
     std::vector<Drawn> m_curves;
     QImage m_grid;

@@ -12,10 +12,15 @@ Item {
     required property runFacts facts
     property bool isEditing: false
     readonly property real fieldWidth: 320
+    /// What the field may take. It lies over what stands beside the title, which stays where it is.
+    property real room: fieldWidth
+
+    readonly property string advice: qsTr("Rename this report. The name also appears on images you share.")
 
     signal renamed(text: string)
 
-    implicitWidth: isEditing ? fieldWidth : button.implicitWidth
+    z: isEditing ? 1 : 0
+    implicitWidth: button.implicitWidth
     implicitHeight: button.implicitContentHeight
 
     function edit(): void {
@@ -28,7 +33,7 @@ Item {
         if (draft !== facts.customTitle)
             renamed(draft);
         if (backToTitle)
-            button.forceActiveFocus(Qt.OtherFocusReason);
+            button.forceActiveFocus(Qt.TabFocusReason); // shows the focus mark
     }
 
     PlainButton {
@@ -39,7 +44,8 @@ Item {
         width: Math.min(implicitWidth, title.width)
         visible: !title.isEditing
         label: title.facts.title
-        hint: qsTr("Rename this report. The name also appears on images you share.")
+        hint: words.truncated ? title.facts.title + "\n" + title.advice : title.advice
+        detail: title.advice
         corner: 4
         onClicked: title.edit()
 
@@ -47,6 +53,8 @@ Item {
             spacing: 6
 
             RunTitle {
+                id: words
+
                 text: title.facts.title
                 Accessible.ignored: true
             }
@@ -54,7 +62,7 @@ Item {
                 name: "pencil"
                 size: 11
                 color: PaletteKey.palette.text3
-                opacity: button.hovered || button.visualFocus ? 1 : 0
+                visible: button.hovered || button.visualFocus
             }
         }
     }
@@ -62,9 +70,10 @@ Item {
         active: title.isEditing
 
         TextLine {
-            width: Math.min(title.fieldWidth, title.width)
-            height: title.height
-            framed: false
+            x: -leftPadding // the text stays where the title was
+            leftPadding: 5
+            y: Math.round((title.height - height) / 2)
+            width: Math.min(title.fieldWidth, title.room)
             font: Typeface.display(16)
             color: PaletteKey.palette.text
             selectionColor: PaletteKey.palette.accent

@@ -13,10 +13,12 @@ ColumnLayout {
     required property string value
     property bool isMarked: false
     property string note: ""
+    property string explanation: ""
 
     spacing: 1
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + Runs.spoken(figure.text, isMarked) + (note === "" ? "" : ", " + note)
+    Accessible.description: explanation
 
     RowLayout {
         spacing: 8
@@ -58,6 +60,17 @@ ColumnLayout {
             color: stat.PaletteKey.palette.text3
             elide: Text.ElideLeft
             Accessible.ignored: true
+        }
+    }
+    HoverHandler {
+        id: pointer
+    }
+    OnDemand {
+        active: pointer.hovered && stat.explanation !== ""
+
+        HoverTip {
+            owner: stat
+            text: stat.explanation
         }
     }
 }

@@ -20,7 +20,7 @@ Row {
         height: ViewMetrics.markSide
         name: row.remark.symbol
         size: 12
-        color: [row.PaletteKey.palette.text3, row.PaletteKey.palette.amber, row.PaletteKey.palette.coralink][row.remark.weight]
+        color: [row.PaletteKey.palette.text3, row.PaletteKey.palette.warning, row.PaletteKey.palette.coralink][row.remark.weight]
     }
     PlainText {
         id: word

@@ -84,7 +84,8 @@ QVariantList minorFigures(const RunRecord& run) {
         items.add(InfoItem{.label = label,
                            .value = value ? Format::grouped(*value) + unit : QStringLiteral("--"),
                            .warning = value && run.isInvalid(test),
-                           .note = hasLatency ? latencyLine(*(*run.evidence.*latency)) : QString()});
+                           .note = hasLatency ? latencyLine(*(*run.evidence.*latency)) : QString(),
+                           .test = model::name(test)});
     };
     const QString iops = QStringLiteral(" IOPS");
     add(BenchmarkTest::randomRead, Runs::tr("Random %1 read").arg(block), run.randomReadIOPS, iops,
@@ -168,6 +169,8 @@ QList<RemarkItem> remarkItems(const RunRecord& run) {
     }
     return items;
 }
+
+ComparedRuns Runs::history(const model::AnalyzerModel* analyzer) { return {analyzer->history().runs()}; }
 
 QVariantList Runs::remarks(const RunRecord& run) {
     QVariantList items;

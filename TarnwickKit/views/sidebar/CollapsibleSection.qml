@@ -28,8 +28,7 @@ Column {
         rightPadding: ViewMetrics.sidebarInset
         topPadding: 6
         bottomPadding: section.isExpanded ? 11 : 0
-        Accessible.checkable: true
-        Accessible.checked: section.isExpanded
+        Disclosure.expanded: section.isExpanded
         onClicked: {
             section.moves = true;
             section.toggled(!section.isExpanded);

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import TarnwickKit.views
 
 Column {
@@ -9,6 +10,7 @@ Column {
     required property AnalyzerModel analyzer
 
     spacing: 9
+    bottomPadding: -bypass.bottomPadding
 
     SettingMenu {
         width: parent.width
@@ -42,12 +44,18 @@ Column {
         onPicked: size => block.analyzer.randomBlock = size
     }
     ToggleSwitch {
+        id: bypass
+
         width: parent.width
         leftPadding: ViewMetrics.sidebarInset
         rightPadding: ViewMetrics.sidebarInset
         topPadding: 2
+        bottomPadding: Math.max(0, Metrics.leastTarget - implicitContentHeight - topPadding)
         textColor: PaletteKey.palette.text2
         label: qsTr("Bypass cache")
+        hint: Words.bypassCache
+        detail: hint
+        explains: true
         on: block.analyzer.bypassCache
         onWanted: on => block.analyzer.bypassCache = on
     }

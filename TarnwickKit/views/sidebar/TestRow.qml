@@ -11,6 +11,7 @@ ToggleButton {
 
     required property string title
     required property string figure
+    required property string explanation
     property bool isMarked: false
 
     label: title
@@ -20,7 +21,9 @@ ToggleButton {
     topPadding: 9
     bottomPadding: 9
 
-    detail: Runs.spoken(figure, isMarked)
+    hint: explanation
+    explains: true
+    detail: figure === "" ? explanation : qsTr("%1. %2").arg(Runs.spoken(figure, isMarked)).arg(explanation)
 
     background: Card {
         radius: row.corner

@@ -60,6 +60,7 @@ class Palette final : public QObject {
     Q_PROPERTY(QColor onAccent MEMBER onAccent CONSTANT)
     Q_PROPERTY(QList<QColor> series MEMBER series CONSTANT)
     Q_PROPERTY(QColor onStop READ onStop CONSTANT)
+    Q_PROPERTY(QColor warning READ warning CONSTANT)
 
 public:
     static const Palette& light();
@@ -72,6 +73,10 @@ public:
 
     /// Text and symbols of the button that stops a run, on `text2`.
     QColor onStop() const { return hasContrast() ? bg : QColor(Qt::white); }
+
+    /// Symbols that tell a warning besides the colour of its text. `amber` is too pale for them on light
+    /// grounds.
+    QColor warning() const { return this == &light() ? QColor::fromRgb(0x9a5f12) : amber; }
 
     /// The two stops of the gradient behind a volume's symbol.
     std::pair<QColor, QColor> badgeColors(model::RunRecord::Kind kind) const;

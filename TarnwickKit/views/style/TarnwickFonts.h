@@ -1,31 +1,11 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <QFont>
-#include <QObject>
-#include <QQmlEngine>
 #include <QString>
 
 namespace TarnwickKit::views {
-
-/// The fonts of the window: `font: Typeface.mono(11.5)`.
-///
-/// Units: sizes are in logical pixels; Qt draws text in whole ones, so a half is rounded up. Weights are
-/// those of QML's Font type.
-class Typeface final : public QObject {
-    Q_OBJECT
-    QML_ELEMENT
-    QML_SINGLETON
-
-public:
-    /// Space Grotesk: headings, titles, big numbers, the run button.
-    Q_INVOKABLE static QFont display(double size, int weight = QFont::DemiBold);
-    /// The same with digits of equal width, for figures that change or stand below each other.
-    Q_INVOKABLE static QFont figures(double size, int weight = QFont::DemiBold);
-    /// Figtree: labels, rows, descriptions.
-    Q_INVOKABLE static QFont text(double size, int weight = QFont::Normal);
-    /// IBM Plex Mono: numbers, units, time stamps, axis labels. `spacing` is added between letters.
-    Q_INVOKABLE static QFont mono(double size, double spacing = 0);
-};
 
 namespace TarnwickFonts {
 
@@ -34,7 +14,7 @@ namespace TarnwickFonts {
 /// the system's font.
 ///
 /// Threads: the main thread, before the first view is built.
-void registerFrom(const QString& bundle = QStringLiteral(":/tarnwick"));
+ONDEL_PUBLIC void registerFrom(const QString& bundle = QStringLiteral(":/tarnwick"));
 
 /// The application's font. It turns hinting off for every text: hinted glyphs lose their serifs when a view
 /// is rendered at another scale than the screen's.

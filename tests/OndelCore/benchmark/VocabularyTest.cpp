@@ -2,6 +2,7 @@
 #include "OndelCore/benchmark/BenchmarkResult.h"
 #include "OndelCore/benchmark/BenchmarkTarget.h"
 #include "OndelCore/benchmark/SpeedScale.h"
+#include "OndelCore/benchmark/TargetLookup.h"
 
 #include <gtest/gtest.h>
 
@@ -104,12 +105,12 @@ TEST(BenchmarkTarget, PicksAFolderThatCanBeWritten) {
                        {"/mnt/root", {}, rootAgain, "/home/ada"},
                        {"/gone", {}, std::nullopt, "/gone"}};
     for (const Case& each : cases) {
-        const BenchmarkTarget::Lookup system{
+        const TargetLookup system{
             .isWritable = [&](const std::filesystem::path& path) { return each.writable.contains(path); },
             .mountOfPath =
                 [&](const std::filesystem::path& path) { return path == "/home/ada" ? root : each.volume; },
         };
-        EXPECT_EQ(BenchmarkTarget::folder(each.path, "/home/ada", system), each.picked);
+        EXPECT_EQ(targetFolder(each.path, "/home/ada", system), each.picked);
     }
     EXPECT_EQ(BenchmarkTarget::folder("/", "/home/ada"), "/home/ada");
 }

@@ -1,5 +1,6 @@
 #include "OndelCore/health/DiskHealth.h"
 
+#include "OndelCore/health/HealthReading.h"
 #include "OndelCore/health/OndelSMARTFields.h"
 #include "OndelCore/health/SmartPages.h"
 #include "OndelCore/health/SmartReader.h"
@@ -172,7 +173,7 @@ TEST(DiskHealth, HasTheWorstVerdictOfSeveralDisksAndNamesEach) {
         {{silent, bad, good}, Status::failing, "ATA, NVMe", twoOfThree + sdb + sda + asleep},
     };
     for (const auto& [disks, status, kind, rows] : cases) {
-        const DiskSMART smart = DiskHealth::smart(SmartReadings{.disks = disks, .source = "why"});
+        const DiskSMART smart = smartOf(SmartReadings{.disks = disks, .source = "why"});
         EXPECT_EQ(smart.status, status) << disks.size();
         EXPECT_EQ(smart.kind, kind);
         EXPECT_EQ(rowsOf(smart), rows);
@@ -368,7 +369,7 @@ protected:
         test::FakeDrives drives;
         addDisk(machine, "sda", disk, subsystem, {{"device/vendor", "ATA"}});
         drives.drives["sda"].page = page;
-        return rowsOf(DiskHealth::smart(readSmart(test::mountFrom("sda"), sourcesOf(machine, drives))));
+        return rowsOf(smartOf(readSmart(test::mountFrom("sda"), sourcesOf(machine, drives))));
     }
     std::string asUser(const QString& interface, const QVariantMap& properties, const QVariant& attributes) {
         test::FakeMachine machine;
@@ -381,7 +382,7 @@ protected:
         const test::FakeUDisks service(m_bus.address(), std::move(script));
         SmartSources sources = sourcesOf(machine, drives);
         sources.serviceBus = m_bus.address();
-        return rowsOf(DiskHealth::smart(readSmart(test::mountFrom("sda"), sources)));
+        return rowsOf(smartOf(readSmart(test::mountFrom("sda"), sources)));
     }
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/logging/Log.h"
+#include "OndelCore/logging/LogOutput.h"
 #include "OndelCore/logging/LogScrubber.h"
 #include "OndelCore/logging/LogStore.h"
 #include "OndelCore/platform/process/UnifiedLog.h"

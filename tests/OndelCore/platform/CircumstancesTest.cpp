@@ -1,6 +1,6 @@
 #include "OndelCore/platform/drives/Circumstances.h"
 
-#include "OndelCore/platform/drives/linux/CircumstanceWatch.h"
+#include "OndelCore/platform/drives/linux/CircumstanceSources.h"
 #include "OndelCore/platform/drives/linux/FileSystemState.h"
 #include "OndelCore/platform/drives/linux/MachineState.h"
 #include "OndelCore/platform/storage/FileDescriptor.h"

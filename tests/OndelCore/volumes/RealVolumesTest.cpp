@@ -5,6 +5,7 @@
 #include "OndelCore/volumes/MountedVolumes.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
 #include "OndelCore/volumes/VolumeInfo.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
 #include "support/DeafFileSystem.h"
 #include "support/LoopMount.h"
 
@@ -88,7 +89,7 @@ TEST_P(RealVolume, HasTheFactsOfItsFileSystem) {
         ADD_FAILURE() << "a disk that may sleep was read for what its file system knows";
         return OndelCore::platform::DeviceProperties();
     };
-    EXPECT_EQ(VolumeInfo::load(Location::local(disk.path()), noDatabase)->name, "mount");
+    EXPECT_EQ(loadVolumeInfo(Location::local(disk.path()), noDatabase)->name, "mount");
     const bool isLabelled = setLabel(disk.path(), "Lab disk 7");
     const fs::path below = disk.path() / "folder";
     fs::create_directory(below);

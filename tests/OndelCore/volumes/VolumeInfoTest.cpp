@@ -3,6 +3,7 @@
 #include "OndelCore/volumes/FileUrl.h"
 #include "OndelCore/volumes/VolumeAccess.h"
 #include "OndelCore/volumes/VolumeCapabilities.h"
+#include "OndelCore/volumes/VolumeQuestions.h"
 #include "support/FakeMachine.h"
 #include "support/TemporaryFolder.h"
 
@@ -47,7 +48,7 @@ TEST(VolumeInfo, ComputesUsedPurgeableAndFraction) {
 }
 
 TEST(VolumeInfo, HasADefaultForEachMissingFact) {
-    const VolumeInfo empty = VolumeInfo::from({}, std::nullopt);
+    const VolumeInfo empty = volumeInfoOf({}, std::nullopt);
     VolumeInfo expected;
     expected.name = "Volume";
     expected.format = "--";
@@ -55,13 +56,13 @@ TEST(VolumeInfo, HasADefaultForEachMissingFact) {
     VolumeResources blank;
     blank.name = " \t";
     blank.format = "";
-    EXPECT_EQ(VolumeInfo::from(blank, std::nullopt), expected);
+    EXPECT_EQ(volumeInfoOf(blank, std::nullopt), expected);
 
     const auto availableOf = [](std::optional<std::int64_t> raw, std::optional<std::int64_t> important) {
         VolumeResources resources;
         resources.available = raw;
         resources.availableForImportantUsage = important;
-        return VolumeInfo::from(resources, std::nullopt).available;
+        return volumeInfoOf(resources, std::nullopt).available;
     };
     EXPECT_EQ(availableOf(100, 60), 100);
     EXPECT_EQ(availableOf(100, 160), 160);
@@ -89,7 +90,7 @@ protected:
 
     VolumeInfo loaded(const test::FakeMachine::Row& row) {
         machine.pretendMounted(machine.folder(), row);
-        return VolumeInfo::load(Location::local(machine.folder()), machine.sources()).value();
+        return loadVolumeInfo(Location::local(machine.folder()), machine.sources()).value();
     }
     test::FakeMachine machine;
 };
@@ -178,7 +179,7 @@ const std::vector<Feature> features{
 VolumeCapabilities from(const std::optional<CapabilityWords>& words) {
     FileSystemAnswers answers;
     answers.capabilities = words;
-    return VolumeCapabilities::from(answers);
+    return capabilitiesOf(answers);
 }
 
 TEST(VolumeCapabilities, NeedAValidClaim) {
@@ -199,7 +200,7 @@ TEST(VolumeCapabilities, NeedAValidClaim) {
 }
 
 TEST(VolumeCapabilities, TakeEachLimitFromItsAnswer) {
-    const auto capabilities = VolumeCapabilities::from({"ext4", 4096, 1048576, 255, 4095, 65000, {}});
+    const auto capabilities = capabilitiesOf({"ext4", 4096, 1048576, 255, 4095, 65000, {}});
     EXPECT_EQ(capabilities.filesystemType, "ext4");
     EXPECT_EQ(capabilities.blockSize, 4096);
     EXPECT_EQ(capabilities.optimalIOSize, 1048576);

@@ -1,5 +1,6 @@
 #include "ModelHarness.h"
 #include "TarnwickKit/model/session/ProgressStream.h"
+#include "TarnwickKit/model/session/RunSession.h"
 
 #include <latch>
 #include <optional>

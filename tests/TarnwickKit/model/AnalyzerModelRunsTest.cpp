@@ -4,6 +4,9 @@
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
+#include "TarnwickKit/model/session/RunLibrary.h"
+
+#include <QTimer>
 
 #include <fstream>
 

@@ -1,4 +1,5 @@
 #include "ModelHarness.h"
+#include "TarnwickKit/model/session/AnalyzerTarget.h"
 
 #include <QTimeZone>
 

@@ -2,6 +2,7 @@
 
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
+#include "TarnwickKit/model/session/AnalyzerServices.h"
 #include "support/TemporaryFolder.h"
 
 #include <QCoreApplication>

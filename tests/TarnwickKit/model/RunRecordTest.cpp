@@ -4,8 +4,14 @@
 #include "TarnwickKit/model/runs/EvidenceCodec.h"
 #include "TarnwickKit/model/runs/FiguresText.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
+#include "TarnwickKit/model/runs/RunExport.h"
+#include "TarnwickKit/model/runs/RunFields.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <gtest/gtest.h>
 
@@ -190,6 +196,7 @@ TEST(RunRecord, LimitsTitlesByCharacters) {
 TEST(RunCodec, ReadsBackWhatItWrites) {
     RunRecord run = fullRun();
     run.volumeName = "A \"quoted\" \\ \n \u0001 Ä";
+    run.customTitle = QString(2, QChar(0xFEFF)) + "marked";
     run.writeSamples = {{0, 1.5}, {0.1, 1e22}};
     run.freeBytes = 9223372036854775807;
     run.evidence->circumstances->samples = fullEvidence(maxCircumstanceSamples).circumstances->samples;
@@ -367,6 +374,69 @@ TEST(RunCodec, WritesOnlyWhatItReads) {
     EXPECT_EQ(read, run);
 }
 
+TEST(RunCodec, TellsWhyItRefuses) {
+    struct Case {
+        QByteArray json;
+        const char* reason;
+    };
+    const QByteArray run = encodeRun(fullRun(0)).value();
+    for (const Case& each : {
+             Case{replaced("sizeLabel", "1"), "sizeLabel: a text was expected"},
+             Case{replaced("bypassCache", "1"), "bypassCache: true or false was expected"},
+             Case{replaced("maxName", R"("255")"), "maxName: a number was expected"},
+             Case{replaced("date", R"("May 1")"), "date: a date as in 2024-05-01T12:34:56Z was expected"},
+             Case{replaced("duration", "-1"), "duration: this cannot be shown"},
+             Case{replaced("kind", ""), "kind is missing"},
+             Case{replaced("fsType", R"("x","formatVersion":2)"),
+                  "formatVersion: a newer program is needed to read this"},
+             Case{" [" + run + "," + replaced("id", "1") + "]", "run 2: id: a text was expected"},
+             Case{"PNG", "an object was expected"},
+             Case{run + "x", "more text stands behind the end"},
+         }) {
+        try {
+            requireRuns(each.json);
+            ADD_FAILURE() << each.reason;
+        } catch (const JsonError& error) {
+            EXPECT_STREQ(error.what(), each.reason);
+        }
+    }
+    EXPECT_EQ(requireRuns("\n[" + run + "," + run + "]").size(), 2u);
+    EXPECT_EQ(requireRuns(replaced("fsType", R"("x","formatVersion":1)")).size(), 1u);
+    EXPECT_EQ(decodeRun(replaced("volumeName", R"("\ufeffA")"))->volumeName, QString(QChar(0xFEFF)) + "A");
+}
+
+/// The keys of an object in the published schema.
+QStringList schemaKeys(const QJsonObject& part) { return part["properties"].toObject().keys(); }
+
+template <typename Part>
+QStringList fieldKeys(const QStringList& more = {}) {
+    QStringList keys = more;
+    const Part part;
+    visitFields(part, [&keys](std::string_view key, const auto&) { keys << QString::fromLatin1(key); });
+    keys.sort();
+    return keys;
+}
+
+TEST(RunCodec, HasADescriptionOfEachKey) {
+    using namespace OndelCore::platform;
+    QFile file(ONDEL_DOCS "/run-file.schema.json");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject parts = schema["$defs"].toObject();
+    const auto keys = [&parts](const char* name) {
+        return schemaKeys(parts[QLatin1String(name)].toObject());
+    };
+    EXPECT_EQ(schemaKeys(schema), fieldKeys<RunRecord>({"formatVersion"}));
+    EXPECT_EQ(keys("evidence"), fieldKeys<RunEvidence>());
+    EXPECT_EQ(keys("testEvidence"), fieldKeys<TestEvidence>());
+    EXPECT_EQ(keys("traffic"), fieldKeys<Traffic>());
+    EXPECT_EQ(keys("latency"), fieldKeys<Latency>());
+    EXPECT_EQ(keys("circumstances"), fieldKeys<Circumstances>());
+    EXPECT_EQ(keys("circumstanceSample"), fieldKeys<CircumstanceSample>());
+    EXPECT_EQ(keys("driveLink"), fieldKeys<DriveLink>());
+    EXPECT_EQ(keys("misalignment"), fieldKeys<Misalignment>());
+}
+
 TEST(RunCodec, RefusesOtherText) {
     const QByteArray run = encodeRun(fullRun()).value();
     const QByteArray tooLong(static_cast<qsizetype>(maxRunFileBytes), ' ');
@@ -422,6 +492,81 @@ TEST(FiguresText, HasALineForEachFigure) {
                                   "Sequential read, lowest\t1512.3\tMB/s\tnot the disk’s figure",
                                   "Random read (4 KiB)\t12508\tIOPS", "Random write (4 KiB)\t10067\tIOPS",
                                   "File operations\t20346\tops/s", ""}));
+}
+
+/// A run whose texts try to become something else.
+RunRecord foreignRun(const QString& title) {
+    RunRecord run = fullRun(2);
+    run.customTitle = title;
+    return run;
+}
+
+TEST(RunExport, CsvCellsAreTextsAndNumbers) {
+    struct Case {
+        QString title, cell;
+    };
+    for (const Case& each : {
+             Case{"plain", "plain"},
+             Case{"a,b", "\"a,b\""},
+             Case{"the \"best\"", "\"the \"\"best\"\"\""},
+             Case{"=1+1", "'=1+1"},
+             Case{"+1", "'+1"},
+             Case{"-1", "'-1"},
+             Case{"@sum", "'@sum"},
+             Case{" =1", "' =1"},
+             Case{" 1", "\" 1\""},
+             Case{"＝1", "'＝1"},
+             Case{"=\"x\",1", "\"'=\"\"x\"\",1\""},
+             Case{"\t=1\r\n=2", "�=1��=2"},
+             Case{"\u202Efdp", "�fdp"},
+         }) {
+        const QString csv = QString::fromUtf8(csvTable({foreignRun(each.title)}));
+        EXPECT_TRUE(csv.contains(",external," + each.cell + ",6.1.0-18-amd64,0.1.0,"))
+            << csv.section("external", 1).left(80).toStdString();
+        EXPECT_EQ(csv.count("\r\n"), 2);
+        EXPECT_EQ(csv.count('\n'), 2);
+    }
+    const QList<QByteArray> lines = csvTable({fullRun(2)}).split('\n');
+    EXPECT_TRUE(lines[0].startsWith("id,volumeName,connection,date,duration,writeBps,"));
+    EXPECT_TRUE(lines[1].contains(",Vlüme 💾,External,2024-05-01T12:34:56Z,63.25,512345678.125,"));
+    EXPECT_TRUE(lines[1].contains(",invalid:fromMemory:sequentialRead note:virtualDisk,8.1234567e-05,"));
+    EXPECT_EQ(lines[0].count(','), lines[1].count(','));
+    EXPECT_EQ(csvTable({}).count('\n'), 1);
+}
+
+TEST(RunExport, MarkdownStaysATable) {
+    const QString title = "a|b `c` <img src=x>\n[x](http://y) *b* _i_ www.z &amp; @me \\ #1 \u202E";
+    const QString cell =
+        "| a\\|b \\`c\\` &lt;img src=x&gt;�\\[x\\](http\\://y) \\*b\\* \\_i\\_ www\\.z &amp;amp; "
+        "@\u200Cme \\\\ \\#1 � |";
+    const RunRecord run = foreignRun(title);
+    const QStringList beside = markdownTable({run, run}).split('\n');
+    EXPECT_EQ(beside[0], "| Run " + cell + cell.mid(1)) << beside[0].toStdString();
+    EXPECT_EQ(beside[1], "| --- | --- | --- |");
+    EXPECT_TRUE(beside.contains("| Sequential write | 512 MB/s | 512 MB/s |"))
+        << beside.join('\n').toStdString();
+    EXPECT_TRUE(beside.contains("| Sequential read | 2,512 MB/s (invalid) | 2,512 MB/s (invalid) |"));
+    EXPECT_TRUE(beside.contains("| System " +
+                                QString("| Linux 6.1.0-18-amd64 · Ondel Tarnwick 0.1.0 ").repeated(2) + "|"));
+    const QStringList below = markdownTable(std::vector(5, run)).split('\n');
+    EXPECT_EQ(below.size(), 1 + 1 + 5 + 1) << "five runs and the end";
+    EXPECT_TRUE(below[2].startsWith(cell));
+    EXPECT_EQ(markdownTable({}), "");
+}
+
+TEST(RunExport, KnowsItsOwnFiles) {
+    const RunRecord run = foreignRun("\u009b2J\u202E💾");
+    const QByteArray list = jsonList({run, run});
+    EXPECT_FALSE(list.contains("\u009b")) << "terminals obey it";
+    EXPECT_TRUE(list.contains(R"("customTitle":"\u009b2J\u202e💾")"));
+    EXPECT_EQ(requireRuns(list), (std::vector{run, run}));
+    EXPECT_EQ(jsonList({}), "[]\n");
+    for (const ExportForm form : {ExportForm::csv, ExportForm::json})
+        EXPECT_TRUE(isExport(exported({run}, form)));
+    EXPECT_TRUE(isExport(encodeRun(run).value()));
+    for (const QByteArray& other : {exported({run}, ExportForm::text), exported({run}, ExportForm::markdown),
+                                    QByteArray("{}"), QByteArray("id,name\r\n"), QByteArray()})
+        EXPECT_FALSE(isExport(other)) << other.toStdString();
 }
 
 } // namespace

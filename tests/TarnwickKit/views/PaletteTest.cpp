@@ -52,6 +52,7 @@ TEST(Palette, ContrastOfTextAndMarks) {
             for (const QColor& text : {p->text, p->text2, p->heading})
                 EXPECT_GE(contrast(text, ground), isHigh ? 7 : 4.5) << where;
             EXPECT_GE(contrast(p->accent, ground), 3) << where; // what is highlighted or selected
+            EXPECT_GE(contrast(p->warning(), ground), isHigh ? 7 : 4.5) << where;
             if (!isHigh)
                 continue;
             for (const QColor& text : {p->text3, p->coralink, p->teal, p->amber, p->good})
@@ -63,6 +64,20 @@ TEST(Palette, ContrastOfTextAndMarks) {
             EXPECT_GE(contrast(p->onStop(), p->text2), 7) << where;
         }
         EXPECT_GE(contrast(p->onAccent, p->accent), 7);
+    }
+}
+
+TEST(Palette, WarningsAreNotToldByColorAlone) {
+    for (const bool isWarning : {false, true}) {
+        test::Stage stage("InfoRow { width: 200; label: 'Wear'; value: '99 %' }",
+                          {{QStringLiteral("warning"), isWarning}});
+        const auto items = test::itemsOf(stage.root());
+        EXPECT_EQ(std::ranges::any_of(items,
+                                      [](const QQuickItem* item) {
+                                          return item->property("name") ==
+                                                 QStringLiteral("exclamationmark.triangle.fill");
+                                      }),
+                  isWarning);
     }
 }
 
@@ -79,7 +94,7 @@ TEST(Palette, EveryFieldIsSetInAll) {
                 EXPECT_EQ(value.value<QList<QColor>>().size(), 7);
             }
         }
-    EXPECT_EQ(colors, 4 * 34);
+    EXPECT_EQ(colors, 4 * 35);
     EXPECT_NEAR(Palette::dark().shadow.alphaF(), 0.55, 0.001);
     EXPECT_EQ(Palette::dark().accent, Palette::light().onAccent);
     EXPECT_NE(Palette::dark().grid, Palette::dark().borderSoft);

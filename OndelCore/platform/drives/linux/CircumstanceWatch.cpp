@@ -1,5 +1,4 @@
-#include "OndelCore/platform/drives/linux/CircumstanceWatch.h"
-
+#include "OndelCore/platform/drives/linux/CircumstanceSources.h"
 #include "OndelCore/platform/drives/linux/DiskFacts.h"
 #include "OndelCore/platform/drives/linux/DriveLinks.h"
 #include "OndelCore/platform/drives/linux/DriveSensors.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OndelCore/platform/drives/Circumstances.h"
+#include "OndelCore/platform/drives/CircumstanceWatch.h"
 #include "OndelCore/platform/drives/SmartBlocks.h"
 
 #include <chrono>

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace TarnwickKit::model {
+
+/// How lines are drawn in characters of equal width: what fits on one, and whether there is more than ASCII.
+struct LineStyle {
+    int columns = 79;
+    bool unicode = true;
+};
+
+/// `parts` behind a label, on as many lines of at most `columns` as they need. Parts that are too long for a
+/// line are cut. Empty without parts.
+QString labelled(const QString& label, const QStringList& parts, const QString& between, int columns);
+
+using TextRow = std::vector<QString>;
+
+/// Where the cells behind the first one stand in their columns: texts left, figures right.
+enum class CellsStand { left, right };
+
+/// Rows in columns shared by all of them, two blanks apart, each row on one line: control characters inside a
+/// cell become marks.
+QString textColumns(const std::vector<TextRow>& rows, CellsStand stand = CellsStand::left);
+
+} // namespace TarnwickKit::model
