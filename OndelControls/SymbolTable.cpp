@@ -45,6 +45,7 @@ constexpr std::array entries{
     Entry{u"ladybug", "bug"},
     Entry{u"pencil", "pencil"},
     Entry{u"play.fill", "play-fill", 3},
+    Entry{u"sidebar.leading", "sidebar"},
     Entry{u"square.and.arrow.up", "box-arrow-up"},
     Entry{u"stop.fill", "stop-fill", 3},
     Entry{u"trash", "trash"},

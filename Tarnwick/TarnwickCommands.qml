@@ -116,6 +116,9 @@ MenuStrip {
             }
         ]
     }
+    HistoryCommands {
+        analyzer: commands.analyzer
+    }
     CommandMenu {
         title: qsTr("&Help")
         commands: [

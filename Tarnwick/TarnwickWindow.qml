@@ -12,6 +12,9 @@ Window {
 
     required property AppDelegate delegate
 
+    readonly property real menuWidth: commands.implicitWidth
+    readonly property real menuHeight: commands.height
+
     signal aboutWanted
     signal settingsWanted
 
@@ -19,8 +22,9 @@ Window {
     width: 1180
     height: 780
     minimumWidth: view.leastWidth
-    minimumHeight: commands.height + view.leastHeight
+    minimumHeight: view.leastHeight
     visible: true
+    flags: Qt.Window | (WindowFrames.areOurs ? Qt.FramelessWindowHint : 0)
     color: view.color
     palette: StandardPalettes.current
     PaletteKey.palette: Appearance.palette
@@ -35,6 +39,7 @@ Window {
         id: commands
 
         width: parent.width
+        bottomPadding: WindowFrames.areOurs ? topPadding : 0
         app: window.delegate
         updater: window.delegate.updater
         onAboutWanted: window.aboutWanted()
@@ -59,6 +64,9 @@ Window {
             }
         }
     }
+    WindowPlace {
+        window: window
+    }
     MenuKey {
         id: menuKey
 
@@ -75,5 +83,15 @@ Window {
     DropPlace {
         anchors.fill: parent
         delegate: window.delegate
+    }
+    Loader {
+        anchors.fill: parent
+        // By its file's name: elsewhere it would be compiled before the first frame for nothing.
+        Component.onCompleted: {
+            if (WindowFrames.areOurs)
+                setSource("MainFrame.qml", {
+                    host: window
+                });
+        }
     }
 }

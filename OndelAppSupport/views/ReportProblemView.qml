@@ -87,49 +87,58 @@ FocusScope {
                 text: qsTr("Your report has been filed. Thanks for helping make %1 better.").arg(view.app.shortName)
             }
         }
-        RowLayout {
-            spacing: 8
+        GridLayout {
+            columns: column.width < 400 ? 1 : 2
+            columnSpacing: 8
+            rowSpacing: 8
 
-            BodyText {
+            RowLayout {
                 visible: !form.sent
-                secondary: true
-                font.pixelSize: Metrics.noteSize
-                wrapMode: Text.NoWrap
-                text: qsTr("Report on the web:")
-            }
-            LinkButton {
-                visible: !form.sent
-                Layout.leftMargin: -4
-                textSize: Metrics.noteSize
-                label: AppSupport.shown(AppSupport.reportPage)
-                onClicked: AppSupport.openPage(AppSupport.reportPage)
-            }
-            Item {
-                Layout.fillWidth: true
-            }
-            Spinner {
-                visible: form.submitting
-                color: view.palette.placeholderText
-            }
-            SheetButton {
-                visible: !form.sent
-                label: qsTr("Cancel")
-                onClicked: view.dismissed()
-            }
-            SheetButton {
-                visible: !form.sent
-                prominent: true
-                enabled: form.canSend
-                label: qsTr("Send")
-                onClicked: form.send()
-            }
-            SheetButton {
-                id: done
+                spacing: 8
 
-                visible: form.sent
-                prominent: true
-                label: qsTr("Done")
-                onClicked: view.dismissed()
+                BodyText {
+                    secondary: true
+                    font.pixelSize: Metrics.noteSize
+                    wrapMode: Text.NoWrap
+                    text: qsTr("Report on the web:")
+                }
+                LinkButton {
+                    Layout.leftMargin: -4
+                    textSize: Metrics.noteSize
+                    label: AppSupport.shown(AppSupport.reportPage)
+                    onClicked: AppSupport.openPage(AppSupport.reportPage)
+                }
+            }
+            RowLayout {
+                spacing: 8
+
+                Item {
+                    Layout.fillWidth: true
+                }
+                Spinner {
+                    visible: form.submitting
+                    color: view.palette.placeholderText
+                }
+                SheetButton {
+                    visible: !form.sent
+                    label: qsTr("Cancel")
+                    onClicked: view.dismissed()
+                }
+                SheetButton {
+                    visible: !form.sent
+                    prominent: true
+                    enabled: form.canSend
+                    label: qsTr("Send")
+                    onClicked: form.send()
+                }
+                SheetButton {
+                    id: done
+
+                    visible: form.sent
+                    prominent: true
+                    label: qsTr("Done")
+                    onClicked: view.dismissed()
+                }
             }
         }
     }

@@ -2,12 +2,15 @@
 
 #include "DesktopInterfaces.h"
 #include "OndelDesktop/linux/Portal.h"
+#include "OndelDesktop/linux/XSettings.h"
 
 #include <QDBusArgument>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QGuiApplication>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace OndelDesktop {
@@ -83,6 +86,15 @@ QStringList groups() {
     return names;
 }
 
+/// Desktops without a portal have themes, whose names tell.
+void takeTheme(DesktopAppearance& all, const std::string& themeName) {
+    const auto name = QString::fromStdString(themeName).toLower();
+    if (name.contains(u"dark") || name.contains(u"inverse"))
+        all.scheme = ColorScheme::Dark;
+    if (name.contains(u"contrast"))
+        all.wantsHighContrast = true;
+}
+
 } // namespace
 
 struct AppearanceWatch::Listener {
@@ -91,16 +103,18 @@ struct AppearanceWatch::Listener {
     explicit Listener(std::function<void(const DesktopAppearance&)> changed);
     void readAll();
     void take(const QDBusPendingCallWatcher& answer);
+    void tell();
 
     std::function<void(const DesktopAppearance&)> changed;
     DesktopAppearance current;
+    std::optional<XSettings> theme; ///< once the portal leaves the choice
     Settings settings{portalService, portalPath, QDBusConnection::sessionBus()};
 };
 
 AppearanceWatch::Listener::Listener(std::function<void(const DesktopAppearance&)> changed)
     : changed(std::move(changed)) {
     if (!settings.connection().isConnected()) {
-        this->changed(current);
+        tell();
         return;
     }
     // Without it no signal arrives, unless some plugin of the toolkit registers it by chance.
@@ -108,7 +122,7 @@ AppearanceWatch::Listener::Listener(std::function<void(const DesktopAppearance&)
     QObject::connect(&settings, &Settings::SettingChanged, &settings,
                      [this](const QString& group, const QString& key, const QDBusVariant& value) {
                          if (OndelDesktop::take(current, group, key, value.variant()))
-                             this->changed(current);
+                             tell();
                      });
     readAll();
 }
@@ -131,7 +145,18 @@ void AppearanceWatch::Listener::take(const QDBusPendingCallWatcher& answer) {
             for (auto setting = group->begin(); setting != group->end(); ++setting)
                 OndelDesktop::take(current, group.key(), setting.key(), setting.value());
     }
-    changed(current);
+    tell();
+}
+
+void AppearanceWatch::Listener::tell() {
+    DesktopAppearance all = current;
+    if (all.scheme == ColorScheme::NoPreference) {
+        if (!theme && QGuiApplication::platformName() == u"xcb")
+            theme.emplace([this] { tell(); });
+        if (theme)
+            takeTheme(all, theme->themeName());
+    }
+    changed(all);
 }
 
 AppearanceWatch::AppearanceWatch(std::function<void(const DesktopAppearance&)> changed)

@@ -74,10 +74,10 @@ void composeByPortal(const FileDescriptor& attachment, const QString& subject, c
                      });
 }
 
-} // namespace
-
-void showInFolder(const std::filesystem::path& file, Failed failed) {
-    const auto openFolder = [folder = textOf(file.parent_path()), failed = std::move(failed)] {
+/// Asks the file manager of the desktop to show `file`. Without one the desktop's opener opens `folder`.
+void askFileManager(const QString& method, const std::filesystem::path& file,
+                    const std::filesystem::path& folder, Failed failed) {
+    const auto openFolder = [folder = textOf(folder), failed = std::move(failed)] {
         start(QStringLiteral("xdg-open"), {folder}, failed);
     };
     const QDBusConnection bus = QDBusConnection::sessionBus();
@@ -86,8 +86,8 @@ void showInFolder(const std::filesystem::path& file, Failed failed) {
         return;
     }
     const auto name = QStringLiteral("org.freedesktop.FileManager1");
-    auto question = QDBusMessage::createMethodCall(name, QStringLiteral("/org/freedesktop/FileManager1"),
-                                                   name, QStringLiteral("ShowItems"));
+    auto question =
+        QDBusMessage::createMethodCall(name, QStringLiteral("/org/freedesktop/FileManager1"), name, method);
     question << QStringList{QUrl::fromLocalFile(textOf(file)).toString(QUrl::FullyEncoded)} << QString();
     auto* shown =
         new QDBusPendingCallWatcher(bus.asyncCall(question, static_cast<int>(fileManagerTimeout.count())));
@@ -96,6 +96,16 @@ void showInFolder(const std::filesystem::path& file, Failed failed) {
             openFolder();
         shown->deleteLater();
     });
+}
+
+} // namespace
+
+void showInFolder(const std::filesystem::path& file, Failed failed) {
+    askFileManager(QStringLiteral("ShowItems"), file, file.parent_path(), std::move(failed));
+}
+
+void showFolder(const std::filesystem::path& folder, Failed failed) {
+    askFileManager(QStringLiteral("ShowFolders"), folder, folder, std::move(failed));
 }
 
 void sendByEmail(const std::filesystem::path& file, const std::string& subject, Failed failed) {

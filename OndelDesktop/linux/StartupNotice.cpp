@@ -1,43 +1,12 @@
 #include "OndelDesktop/StartupNotice.h"
 
-#include <xcb/xcb.h>
+#include "OndelDesktop/linux/XServer.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
-#include <string_view>
 
 namespace OndelDesktop {
 
 namespace {
-
-/// A connection of its own: the toolkit's must not be written to.
-class XServer {
-public:
-    XServer()
-        : m_connection(xcb_connect(nullptr, nullptr), &xcb_disconnect) {
-        if (xcb_connection_has_error(get()) == 0)
-            m_root = xcb_setup_roots_iterator(xcb_get_setup(get())).data->root;
-    }
-
-    explicit operator bool() const { return m_root != XCB_WINDOW_NONE; }
-    xcb_connection_t* get() const { return m_connection.get(); }
-    xcb_window_t root() const { return m_root; }
-
-    xcb_atom_t atom(std::string_view name) const {
-        const auto asked = xcb_intern_atom(get(), 0, static_cast<std::uint16_t>(name.size()), name.data());
-        const std::unique_ptr<xcb_intern_atom_reply_t, void (*)(void*)> reply(
-            xcb_intern_atom_reply(get(), asked, nullptr), std::free);
-        return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-    }
-
-    /// Returns when the server has processed all requests.
-    void finish() const { std::free(xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr)); }
-
-private:
-    std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> m_connection;
-    xcb_window_t m_root = XCB_WINDOW_NONE;
-};
 
 /// Sends a text to the desktop in pieces of 20 bytes, the last one with a NUL. The sending window tells the
 /// pieces of one message from those of another.

@@ -464,6 +464,30 @@ def asks_the_desktop_for_files(program, folder):
         told("closed")
 
 
+def follows_the_theme_without_a_portal(program, folder):
+    """By its name, which the settings service of an X11 desktop tells."""
+    def theme(name):
+        (folder / "settings").write_text(f'Gtk/EnableAnimations 1\nNet/IconThemeName "dark"\nNet/ThemeName "{name}"\nXft/DPI 98304\n')
+
+    def ground():
+        return max(driver.display.pixels(window.id())[:3])
+
+    theme("Adwaita-dark")
+    with child("xsettingsd", "-c", folder / "settings", stderr=subprocess.DEVNULL) as service, driver.Window(program) as window:
+        window.until("a dark window", lambda: ground() < 100)
+        theme("Adwaita")
+        service.send_signal(signal.SIGHUP)
+        window.until("a light window", lambda: ground() > 200)
+        theme("HighContrastInverse")
+        service.send_signal(signal.SIGHUP)
+        window.until("a window of high contrast", lambda: ground() == 0)
+        service.kill()
+        window.until("the light window back", lambda: ground() > 200)
+        with child("xsettingsd", "-c", folder / "settings", stderr=subprocess.DEVNULL):
+            window.until("the settings of a new service", lambda: ground() == 0)
+            window.quits()
+
+
 WAYS_TO_OPEN = dict(zip(("preparation", *TESTS), (os.O_WRONLY, os.O_WRONLY, os.O_RDONLY, os.O_RDONLY, os.O_RDWR)))
 
 
@@ -512,7 +536,7 @@ def ends_in_every_phase(program, folder):
 
 
 # They test X11 itself, or need the drag source or limits that do not work on other displays.
-ONLY_ON_X11 = (starts_without_a_bus, ends_the_launch_feedback, notifies_the_desktop_of_runs,
+ONLY_ON_X11 = (starts_without_a_bus, ends_the_launch_feedback, notifies_the_desktop_of_runs, follows_the_theme_without_a_portal,
                leaves_nothing_without_a_display, takes_what_is_dropped)
 
 if __name__ == "__main__":
@@ -521,7 +545,8 @@ if __name__ == "__main__":
     cases = (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_a_stopped_process,
                  starts_without_a_bus, opens_what_it_is_given, goes_by_menu,
                  ends_the_launch_feedback, asks_for_attention_behind_others, notifies_the_desktop_of_runs,
-                 stays_awake_when_the_portal_refuses, asks_the_desktop_for_files, ends_in_every_phase,
+                 stays_awake_when_the_portal_refuses, asks_the_desktop_for_files,
+                 follows_the_theme_without_a_portal, ends_in_every_phase,
                  leaves_nothing_without_a_display, takes_what_is_dropped)
     for case in driver.chosen(cases, only, [] if isinstance(driver.display, driver.X11) else ONLY_ON_X11):
         with driver.fast_folder() as name:

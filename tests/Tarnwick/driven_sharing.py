@@ -1,6 +1,8 @@
 #!/usr/bin/python3
 """Comparing runs and sharing images in the real window. Usage: driven_sharing.py PROGRAM DRAG-SOURCE [CASE]..."""
 
+import csv
+import json
 import os
 import pathlib
 import subprocess
@@ -44,6 +46,8 @@ def compares_and_shares(program, home, folder):
         window.find("Write, NVMe Server: 104 MB/s, −98 %")
         check(window.look("Ready to benchmark") is None, "a comparison does not replace the pane")
 
+        window.press("Show in Folder", "push button")
+        window.until("the folder under test", lambda: called(home, "xdg-open") == str(folder))
         share(window, "Copy Image")
         window.find("Image copied")
         share(window, "Show in Folder")
@@ -75,6 +79,45 @@ def compares_and_shares(program, home, folder):
         window.find("Image copied")
         check((where / "Ondel Tarnwick — SD card.png").exists(), "no report image")
         window.quits()
+
+
+def exports_runs(program, home, _folder):
+    """One run by its button and its context menu, all by the menu bar."""
+    def saved(name):
+        driver.focus("Save As")
+        driver.display.type(str(home / name))
+        driver.display.press("Return")
+        window.find(f"Saved as “{name}”")
+        return (home / name).read_bytes().decode()
+
+    with driver.Window(program) as window:
+        window.press("SD card")
+        for choice, outcome in (("Copy as Text", "Text copied"), ("Copy as Markdown Table", "Table copied")):
+            share(window, choice)
+            window.find(outcome)
+        share(window, "Save Run File…")
+        check(json.loads(saved("one.tarnwickrun"))["volumeName"] == "SD card", "another run")
+        window.context_menu("Backup")
+        window.press("Export CSV…", "menu item")
+        saved("one.csv")
+        check(saved_names(home / "one.csv") == ["Backup"], "other runs")
+        window.press("History", "menu item")
+        window.press("Copy as Text", "menu item")
+        window.find("Text copied")
+        window.press("History", "menu item")
+        window.press("Export CSV…", "menu item")
+        saved("all.csv")
+        names = [volume[0] for volume in saved_runs.VOLUMES]
+        check(saved_names(home / "all.csv") == names, "not the whole history")
+        window.press("History", "menu item")
+        window.press("Save Runs…", "menu item")
+        check([run["volumeName"] for run in json.loads(saved("all.json"))] == names, "not the whole history")
+        window.quits()
+
+
+def saved_names(table):
+    with open(table, encoding="utf-8", newline="") as lines:
+        return [line["volumeName"] for line in csv.DictReader(lines)]
 
 
 def draws_alike_in_both_renderers(program, home, folder):
@@ -125,5 +168,5 @@ if __name__ == "__main__":
         script.chmod(0o755)
     saved_runs.lay_down([saved_runs.run(i) for i in range(4)])
     with driver.fast_folder() as name:
-        for case in driver.chosen((compares_and_shares, draws_alike_in_both_renderers, says_what_cannot_be_done), only):
+        for case in driver.chosen((compares_and_shares, exports_runs, draws_alike_in_both_renderers, says_what_cannot_be_done), only):
             case(program, home, pathlib.Path(name))

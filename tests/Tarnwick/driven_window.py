@@ -127,10 +127,10 @@ def goes_by_keyboard(program, folder):
     with driver.Window(program, folder) as window:
         window.find("Ready to benchmark")
         order = []
-        for _ in range(12):
+        for _ in range(13):
             window.keys("Tab")
             order.append(window.until("a focused control", window.focused))
-        expected = ["Volume", "Run Benchmark", *TESTS, "Size", "Write block", "Read block", "Random block", "Bypass cache"]
+        expected = ["Volume", "Show in Folder", "Run Benchmark", *TESTS, "Size", "Write block", "Read block", "Random block", "Bypass cache"]
         check(order == expected, f"the tab order is {order}")
 
         window.keys("space")
@@ -179,6 +179,116 @@ def tells_states_and_opens_menus_by_letter(program, folder):
         window.quits()
 
 
+def boxes(window, without):
+    """Where the visible controls and texts are, without what lies in another one or in the support note."""
+    outside, left_out = [], None
+    for node, depth in window.nodes():
+        if left_out is not None and depth > left_out:
+            continue
+        left_out = None
+        role, name = driver.role_of(node), node.get_name()
+        if name == "Tarnwick is free.":
+            left_out = depth
+        elif name and not name.startswith(without) and role in ("push button", "check box", "label", "heading", "chart", "alert", "status bar", "progress bar"):
+            left_out = depth
+            if window.shows(node, "SHOWING"):
+                place = node.get_extents(window.atspi.CoordType.WINDOW)
+                outside.append((name, place.x, place.y, place.x + place.width, place.y + place.height))
+    return outside
+
+
+def misplaced(window, width, without):
+    """What is cut by the window's sides or lies over something else."""
+    found = boxes(window, without)
+    wrong = [f"{name} from {left} to {right}" for name, left, _, right, _ in found if left < 0 or right > width]
+    for i, (name, *a) in enumerate(found):
+        wrong += [f"{name} over {other}" for other, *b in found[i + 1:]
+                  if min(a[2], b[2]) - max(a[0], b[0]) > 1 and min(a[3], b[3]) - max(a[1], b[1]) > 1]
+    return wrong
+
+
+def fits_every_size(program, folder):
+    title = "The drive from the attic that makes that noise, third try ok"
+    remarks = [{"code": "fromMemory", "weight": "invalid", "test": "sequentialRead", "numbers": [0.01]}]
+    saved_runs.lay_down([saved_runs.run(0, customTitle=title, remarks=remarks), saved_runs.run(1, customTitle="W" * 60), saved_runs.run(2)])
+    with driver.Window(program, folder) as window:
+        def check_all(state, *without):
+            for width, height in (360, 1400), (480, 800), (700, 620), (820, 620), (900, 620), (1180, 780):
+                window.resize(width, height)
+                try:  # a walk through the tree while it changes may see things twice
+                    window.until("everything in its place", lambda: not misplaced(window, width, without))
+                except driver.Failure:
+                    raise driver.Failure(f"{state}, {width} by {height}: {misplaced(window, width, without)}") from None
+        window.find("Ready to benchmark")
+        check_all("rows")
+        window.press(title, "push button")
+        window.find("Throughput over time", "chart")
+        check_all("a result")
+        window.press("Compare")
+        for name in "W" * 60, "media":
+            window.press(name, "check box")
+        check_all("picking", "Write: ", "Read: ")  # they are part of a check box that is no ancestor
+        window.press("Compare 2")
+        window.find("Comparing 2 runs")
+        check_all("a comparison")
+        window.quits()
+    saved_runs.lay_down([])
+
+
+def is_used_whole_when_small(program, folder):
+    saved_runs.lay_down([saved_runs.run(0), saved_runs.run(1)])
+    with driver.Window(program, folder) as window:
+        window.resize(700, 600)
+        check(window.look("Size") is None, "the sidebar has no room")
+        for height in 480, 300:
+            window.resize(360, height)
+            window.press("Show Tests and Settings")
+            window.until("the focus in the drawer", lambda: window.focused() == "Show in Folder")
+            order = []
+            while window.focused() != "Volume Capabilities":
+                window.keys("Tab")
+                order.append(window.until("a focused control", window.focused))
+            check(order[:10] == [*TESTS, "Size", "Write block", "Read block", "Random block", "Bypass cache"], f"the tab order is {order}")
+            window.keys("Escape")
+            window.until("the focus back on the button", lambda: window.focused() == "Show Tests and Settings")
+            order = []
+            while "Delete Backup" not in order:
+                window.keys("Tab")
+                order.append(window.until("a focused control", window.focused))
+            rows = [word for name in ("Samsung SSD 990 PRO", "Backup") for word in (name, f"Delete {name}")]
+            check(order == ["Volume", "Run Benchmark", "Compare", "Clear", *rows], f"the tab order is {order}")
+        choose = lambda: window.focused() == "Size"
+        window.press("Show Tests and Settings")
+        window.until("the size", lambda: choose() or window.keys("Tab"))
+        window.keys("Return", "Home", "Return")
+        window.until("the focus back from the menu", choose)
+        window.keys("ctrl+Return")
+        window.find("Running…", "status bar")
+        window.press("Show Tests and Settings")
+        window.keys("Escape")
+        window.gone("Hide Tests and Settings")
+        window.find("Running…", "status bar")
+        window.press("Stop")
+        window.find("Ready", "status bar")
+        window.quits()
+    saved_runs.lay_down([])
+
+
+def keeps_its_size(program, folder):
+    def size(window):
+        frame = window.root.get_child_at_index(0).get_extents(window.atspi.CoordType.WINDOW)
+        return frame.width, frame.height
+    kept = None
+    for chosen in (640, 500), (1180, 780), None:
+        with driver.Window(program, folder) as window:
+            window.find("Ready to benchmark")
+            check(kept in (None, size(window)), f"it begins with {size(window)} instead of {kept}")
+            if chosen:
+                window.resize(*chosen)
+            kept = chosen
+            window.quits()
+
+
 def refuses_what_it_cannot_use(program, folder):
     with driver.Window(program, folder / "missing") as window:
         window.find("Choose a volume to begin")
@@ -212,7 +322,8 @@ if __name__ == "__main__":
     program, _source, *only = sys.argv[1:]
     with driver.fast_folder() as name:
         cases = (runs_to_the_end, ends_cleanly_in_a_run, stops_by_keyboard, says_why_a_run_failed, names_change_seldom_in_a_run,
-                 goes_by_keyboard, tells_states_and_opens_menus_by_letter, refuses_what_it_cannot_use, tells_why_health_is_missing)
+                 goes_by_keyboard, tells_states_and_opens_menus_by_letter, fits_every_size, is_used_whole_when_small, keeps_its_size,
+                 refuses_what_it_cannot_use, tells_why_health_is_missing)
         for case in driver.chosen(cases, only):
             case(program, pathlib.Path(name))
             nothing_left(pathlib.Path(name))

@@ -1,5 +1,6 @@
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 
+#include "OndelCore/platform/process/ApplicationBus.h"
 #include "OndelCore/platform/storage/PrivateFolder.h"
 #include "OndelCore/platform/storage/ReplaceFile.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
@@ -71,6 +72,11 @@ std::optional<fs::path> TarnwickReport::handoffFile() const {
                                          fs::perms::owner_read | fs::perms::owner_write))
         return std::nullopt;
     return path;
+}
+
+bool TarnwickReport::openInApplication(std::chrono::milliseconds patience) const {
+    const auto file = handoffFile();
+    return file && OndelCore::platform::openWithApplication("tools.ondel.tarnwick", *file, patience);
 }
 
 } // namespace TarnwickKit::model

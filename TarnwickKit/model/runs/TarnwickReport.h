@@ -6,6 +6,7 @@
 #include <QPointF>
 #include <QStringList>
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <vector>
@@ -42,6 +43,11 @@ struct ONDEL_PUBLIC TarnwickReport {
     /// Writes a run file for the application to open, into a folder that only this user can enter. Within a
     /// process the same run has the same path. Nothing removes the file. Fails: absent.
     std::optional<std::filesystem::path> handoffFile() const;
+
+    /// Writes that file and has the application open it: by the session bus, which starts the application if
+    /// it does not run, else by the desktop's own opener. Threads: any; needs no event loop; blocks until the
+    /// application has taken the file, for `patience` at most. Fails: false, nobody took it; the file stays.
+    bool openInApplication(std::chrono::milliseconds patience = std::chrono::seconds(10)) const;
 };
 
 } // namespace TarnwickKit::model

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import OndelControls
+import TarnwickKit.views
 
 /// A run's colour and a text about the run.
 Item {
@@ -26,6 +27,11 @@ Item {
         height: key.side
         radius: 3
         color: key.color
+    }
+    CutTip {
+        owner: key
+        text: words.text
+        isCut: words.truncated
     }
     PlainText {
         id: words

@@ -13,6 +13,8 @@ Column {
     required property real trackWidth
     /// The run that differences are relative to; -1 for no differences.
     property int reference: -1
+    /// Too narrow for the metrics' names beside their bars.
+    property bool isNarrow: false
     readonly property real room: width - leftPadding - rightPadding
 
     spacing: 18
@@ -54,6 +56,7 @@ Column {
 
             metric: modelData
             trackWidth: chart.trackWidth
+            isNarrow: chart.isNarrow
             showsDifferences: chart.reference >= 0
         }
     }

@@ -2,7 +2,7 @@
 
 #include "TarnwickKit/views/charts/CurveReading.h"
 #include "TarnwickKit/views/charts/PixelBlend.h"
-#include "TarnwickKit/views/style/TarnwickFonts.h"
+#include "TarnwickKit/views/style/Typeface.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

@@ -3,15 +3,17 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 
-/// Returns the keyboard focus to the control that had it before a menu or an alert opened, which Qt does not do. Emits
-/// `lost` if that control is gone, hidden or disabled.
+/// Returns the keyboard focus to the control that had it before a menu, an alert or a note took it, which Qt does not do.
+/// Emits `lost` if that control is gone, hidden or disabled.
 Item {
     id: keeper
 
     readonly property Item focusItem: Window.activeFocusItem
     readonly property Item root: Window.contentItem
     readonly property Item popups: T.Overlay.overlay
-    /// The control outside of all popups that has, or last had, the keyboard focus.
+    /// What disappears by itself: the focus returns from there as it does from popups.
+    property Item passing: null
+    /// The control outside of all of these that has, or last had, the keyboard focus.
     property Item last: null
 
     signal lost
@@ -34,7 +36,7 @@ Item {
     onFocusItemChanged: {
         if (!focusItem || focusItem === root)
             afterwards.restart();
-        else if (!isWithin(focusItem, popups))
+        else if (!isWithin(focusItem, popups) && !isWithin(focusItem, passing))
             last = focusItem;
     }
 

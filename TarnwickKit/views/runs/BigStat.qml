@@ -21,7 +21,7 @@ ColumnLayout {
     Layout.fillHeight: false // centred, so that one without a third line aligns with one that has it
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: label + ": " + Runs.spoken(figure.text + " MB/s", isMarked) + (extremes.visible ? ", " + extremes.text : "")
+    Accessible.name: label + ": " + Runs.spoken(figure.text + " MB/s", isMarked) + (extremes.visible ? ", " + whole.text : "")
     Accessible.description: Words.sustained
 
     RowLayout {
@@ -89,10 +89,18 @@ ColumnLayout {
         Layout.fillWidth: true
         elide: Text.ElideRight
         visible: !isNaN(stat.peak) && !isNaN(stat.least)
-        text: visible ? qsTr("peak %1 · min %2").arg(Format.mbValue(stat.peak)).arg(Format.mbValue(stat.least)) : ""
+        text: !visible || whole.width <= stat.width - 2 * ViewMetrics.figurePadding ? whole.text
+            : qsTr("peak %1\nmin %2").arg(Format.mbValue(stat.peak)).arg(Format.mbValue(stat.least))
         font: Typeface.mono(11)
         color: PaletteKey.palette.text3
         Accessible.ignored: true
+
+        TextMetrics {
+            id: whole
+
+            text: extremes.visible ? qsTr("peak %1 · min %2").arg(Format.mbValue(stat.peak)).arg(Format.mbValue(stat.least)) : ""
+            font: Typeface.mono(11)
+        }
     }
     HoverHandler {
         id: pointer

@@ -13,6 +13,7 @@ Item {
     required property bool chosen
     required property string label
     required property string detail
+    property string hint: ""
     default property alias content: holder.data
 
     signal wanted(chosen: bool)
@@ -34,9 +35,12 @@ Item {
         visible: row.picking
         name: row.chosen ? "checkmark.circle.fill" : "circle"
         size: 18
-        color: row.chosen ? row.PaletteKey.palette.accent : row.PaletteKey.palette.text3
+        color: row.chosen ? row.PaletteKey.palette.accent
+            : (tick.object as ToggleButton)?.hovered ? row.PaletteKey.palette.text : row.PaletteKey.palette.text3
     }
     OnDemand {
+        id: tick
+
         active: row.picking
 
         ToggleButton {
@@ -44,6 +48,7 @@ Item {
             height: row.height
             label: row.label
             detail: row.detail
+            hint: row.hint
             corner: 12
             on: row.chosen
             onWanted: on => row.wanted(on)

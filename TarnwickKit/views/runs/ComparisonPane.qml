@@ -12,7 +12,7 @@ CardFrame {
     required property AnalyzerModel analyzer
     required property comparedRuns runs
     /// What stands beside a bar: the metric's name, the figures, and the gaps.
-    readonly property real beside: ViewMetrics.metricLabelWidth + ViewMetrics.barFigureWidth + ViewMetrics.differenceWidth + 87
+    readonly property real beside: (isNarrow ? 58 : ViewMetrics.metricLabelWidth + 87) + ViewMetrics.barFigureWidth + ViewMetrics.differenceWidth
 
     signal close
 
@@ -35,6 +35,7 @@ CardFrame {
             Accessible.role: Accessible.Heading
         },
         ShareButton {
+            runs: pane.runs
             hint: qsTr("Share a comparison image")
             onClicked: image.makeComparison(pane.runs, pane.PaletteKey.palette)
         },
@@ -59,6 +60,7 @@ CardFrame {
         Layout.fillWidth: true
         runs: pane.runs
         reference: pane.analyzer.comparisonReference
+        isNarrow: pane.isNarrow
         trackWidth: Math.max(60, pane.width - pane.beside)
     }
     ComparedCurves {

@@ -15,6 +15,8 @@ Item {
     /// What the field may take. It lies over what stands beside the title, which stays where it is.
     property real room: fieldWidth
 
+    readonly property string advice: qsTr("Rename this report. The name also appears on images you share.")
+
     signal renamed(text: string)
 
     z: isEditing ? 1 : 0
@@ -42,7 +44,8 @@ Item {
         width: Math.min(implicitWidth, title.width)
         visible: !title.isEditing
         label: title.facts.title
-        hint: qsTr("Rename this report. The name also appears on images you share.")
+        hint: words.truncated ? title.facts.title + "\n" + title.advice : title.advice
+        detail: title.advice
         corner: 4
         onClicked: title.edit()
 
@@ -50,6 +53,8 @@ Item {
             spacing: 6
 
             RunTitle {
+                id: words
+
                 text: title.facts.title
                 Accessible.ignored: true
             }
@@ -57,7 +62,7 @@ Item {
                 name: "pencil"
                 size: 11
                 color: PaletteKey.palette.text3
-                opacity: button.hovered || button.visualFocus ? 1 : 0
+                visible: button.hovered || button.visualFocus
             }
         }
     }

@@ -37,25 +37,29 @@ CardFrame {
             Layout.preferredWidth: Math.ceil(implicitWidth) // layouts round, and half a pixel less cuts a word
             Layout.maximumWidth: Layout.preferredWidth
             facts: pane.facts
-            room: Math.max(width, stamp.x - x - 12)
+            room: Math.max(width, stampPlace.x - x - 12)
             onRenamed: text => pane.analyzer.renameRun(pane.facts.id, text)
         },
-        CompleteBadge {
-            opacity: title.isEditing ? 0 : 1
+        OnDemand {
+            active: !pane.isNarrow
+
+            CompleteBadge {
+                opacity: title.isEditing ? 0 : 1
+            }
         },
         Item {
             Layout.fillWidth: true
         },
-        PlainText {
-            id: stamp
+        OnDemand {
+            id: stampPlace
 
-            text: pane.facts.stamp
-            font: Typeface.mono(11.5)
-            color: PaletteKey.palette.text3
+            active: !pane.isNarrow
+            component: stamp
         },
         ShareButton {
             id: picture
 
+            runs: Runs.alone(pane.run)
             hint: qsTr("Share a report image")
             onClicked: image.makeReport(pane.run, pane.PaletteKey.palette)
         },
@@ -70,6 +74,32 @@ CardFrame {
             onClicked: pane.collapse()
         }
     ]
+
+    secondHeader: OnDemand {
+        active: pane.isNarrow
+
+        RowLayout {
+            spacing: 12
+
+            CompleteBadge {}
+            OnDemand {
+                active: true
+                component: stamp
+            }
+        }
+    }
+
+    Component {
+        id: stamp
+
+        PlainText {
+            Layout.fillWidth: pane.isNarrow
+            text: pane.facts.stamp
+            font: Typeface.mono(11.5)
+            color: PaletteKey.palette.text3
+            elide: Text.ElideRight
+        }
+    }
 
     RunHeadline {
         Layout.fillWidth: true

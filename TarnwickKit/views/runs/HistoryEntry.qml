@@ -10,6 +10,7 @@ Column {
 
     required property AnalyzerModel analyzer
     required property int rowHeight
+    required property bool hasTwoLines
     required property runRecord run
     required property bool expanded
     required property bool picked
@@ -30,6 +31,7 @@ Column {
             width: entry.width
             label: row.label
             detail: row.detail
+            hint: row.hint
             picking: entry.analyzer.compareMode
             chosen: entry.picked
             onWanted: entry.analyzer.toggleCompareSelection(row.facts.id)
@@ -40,6 +42,7 @@ Column {
                 width: parent.width
                 analyzer: entry.analyzer
                 run: entry.run
+                hasTwoLines: entry.hasTwoLines
                 live: !entry.analyzer.compareMode
                 onRename: entry.expand().rename()
                 onShare: entry.expand().share()

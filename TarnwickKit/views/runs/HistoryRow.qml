@@ -17,36 +17,38 @@ PlainButton {
     readonly property string origin: note === "" ? facts.connection : facts.connection + " · " + note
     /// False in compare mode, where the row is part of a check box.
     property bool live: true
-    /// The width that the other items leave for the texts. The texts' actual width comes too late: it is known after the
-    /// layout, and a change of their height would then need another one.
+    /// The figures stand in a line of their own.
+    property bool hasTwoLines: false
+    /// The width that the other items leave for the texts.
     readonly property real room: ViewMath.roomBeside(availableWidth,
-        [dot.implicitWidth, badge.implicitWidth, ViewMetrics.statWidth, ViewMetrics.statWidth, curves.implicitWidth,
-         remove.implicitContentWidth, fold.implicitWidth], line.spacing)
+        [dot.implicitWidth, badge.implicitWidth, remove.implicitContentWidth, fold.implicitWidth], line.columnSpacing)
+        - (hasTwoLines ? 0 : figures.implicitWidth + line.columnSpacing)
 
     signal rename
     signal share
     signal remove
 
     label: facts.title
+    hint: words.isCut ? facts.title + "\n" + detail : ""
     detail: facts.shortStamp + " · " + origin
     corner: 12
     leftPadding: 16
     rightPadding: 16
     topPadding: 13
     bottomPadding: 13
-    hoverEnabled: true
     dimsWhenInactive: false
     Accessible.ignored: !live
 
     background: Card {
         radius: row.corner
         color: row.PaletteKey.palette.panel
-        outline: row.hovered ? Qt.alpha(row.PaletteKey.palette.teal, ViewMetrics.hoverOpacity) : row.PaletteKey.palette.border
+        outline: row.frameColor
     }
-    contentItem: RowLayout {
+    contentItem: GridLayout {
         id: line
 
-        spacing: 12
+        columnSpacing: 12
+        rowSpacing: 10
 
         Card {
             id: dot
@@ -74,67 +76,52 @@ PlainButton {
                 color: Qt.rgba(1, 1, 1, 0.85)
             }
         }
-        ColumnLayout {
-            Layout.fillWidth: true
-            Layout.minimumWidth: 0
-            spacing: 2
+        HistoryWords {
+            id: words
 
-            PlainText {
-                Layout.fillWidth: true
-                text: row.facts.title
-                horizontalAlignment: Text.AlignLeft // in every script
-                font: Typeface.display(14)
-                color: row.PaletteKey.palette.text
-                elide: Text.ElideRight
-                maximumLineCount: 1
-                Accessible.ignored: true
+            title: row.facts.title
+            stamp: row.facts.shortStamp
+            origin: row.origin
+            room: row.room
+        }
+        RowLayout {
+            id: figures
+
+            Layout.row: row.hasTwoLines ? 1 : 0
+            Layout.column: row.hasTwoLines ? 0 : 3
+            Layout.columnSpan: row.hasTwoLines ? 5 : 1
+            // Its own width would be shared out among the columns that it spans.
+            Layout.fillWidth: row.hasTwoLines
+            Layout.minimumWidth: row.hasTwoLines ? 1 : -1
+            Layout.preferredWidth: row.hasTwoLines ? 1 : -1
+            spacing: line.columnSpacing
+
+            RunSummaryStat {
+                Layout.preferredWidth: ViewMetrics.statWidth
+                label: qsTr("Write")
+                value: row.facts.writeBps
+                isMarked: row.facts.isWriteMarked
+                dot: row.PaletteKey.palette.coral
             }
-            PlainText {
-                readonly property bool fits: whole.width <= row.room
-
-                Layout.fillWidth: true
-                text: fits ? whole.text : row.facts.shortStamp + "\n" + row.origin
-                horizontalAlignment: Text.AlignLeft
-                font: Typeface.mono(10.5)
-                color: row.PaletteKey.palette.text3
-                elide: Text.ElideRight
-                fontSizeMode: fits ? Text.FixedSize : Text.HorizontalFit
-                minimumPixelSize: 8
-                lineHeight: fits ? 1 : 1.07
-                Accessible.ignored: true
-
-                TextMetrics {
-                    id: whole
-
-                    text: row.detail
-                    font: Typeface.mono(10.5)
-                }
+            RunSummaryStat {
+                Layout.preferredWidth: ViewMetrics.statWidth
+                label: qsTr("Read")
+                value: row.facts.readBps
+                isMarked: row.facts.isReadMarked
+                dot: row.PaletteKey.palette.teal
             }
-        }
-        RunSummaryStat {
-            Layout.preferredWidth: ViewMetrics.statWidth
-            label: qsTr("Write")
-            value: row.facts.writeBps
-            isMarked: row.facts.isWriteMarked
-            dot: row.PaletteKey.palette.coral
-        }
-        RunSummaryStat {
-            Layout.preferredWidth: ViewMetrics.statWidth
-            label: qsTr("Read")
-            value: row.facts.readBps
-            isMarked: row.facts.isReadMarked
-            dot: row.PaletteKey.palette.teal
-        }
-        DualSparkline {
-            id: curves
-
-            implicitWidth: 96
-            implicitHeight: 34
-            run: row.run
+            DualSparkline {
+                Layout.fillWidth: row.hasTwoLines
+                implicitWidth: row.hasTwoLines ? 40 : 96
+                implicitHeight: 34
+                run: row.run
+            }
         }
         PlainButton {
             id: remove
 
+            Layout.row: 0
+            Layout.column: row.hasTwoLines ? 3 : 4
             Layout.margins: -padding
             padding: (Metrics.leastTarget - implicitContentWidth) / 2
             label: qsTr("Delete %1").arg(row.facts.title)
@@ -153,6 +140,8 @@ PlainButton {
         Symbol {
             id: fold
 
+            Layout.row: 0
+            Layout.column: row.hasTwoLines ? 4 : 5
             name: "chevron.down"
             size: 11
             color: row.PaletteKey.palette.text3

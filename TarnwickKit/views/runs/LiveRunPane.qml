@@ -19,11 +19,19 @@ CardFrame {
             step: live.beat % 8
         },
         RunTitle {
+            id: name
+
             text: pane.volumeName
+
+            CutTip {
+                owner: name
+                text: name.text
+                isCut: name.truncated
+            }
         },
-        Chip {
-            visible: text.length > 0
-            text: pane.analyzer.liveTestTitle
+        OnDemand {
+            active: !pane.isNarrow && pane.analyzer.liveTestTitle.length > 0
+            component: test
         },
         Item {
             Layout.fillWidth: true
@@ -32,6 +40,19 @@ CardFrame {
             run: live
         }
     ]
+
+    secondHeader: OnDemand {
+        active: pane.isNarrow && pane.analyzer.liveTestTitle.length > 0
+        component: test
+    }
+
+    Component {
+        id: test
+
+        Chip {
+            text: pane.analyzer.liveTestTitle
+        }
+    }
 
     LiveRun {
         id: live

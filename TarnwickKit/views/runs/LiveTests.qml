@@ -42,13 +42,15 @@ ColumnLayout {
             Accessible.ignored: true // the row's description has it
         }
     }
-    RowLayout {
+    GridLayout {
         Layout.fillWidth: true
         Layout.leftMargin: ViewMetrics.cardPadding
         Layout.rightMargin: ViewMetrics.cardPadding
         Layout.topMargin: 10
         Layout.bottomMargin: 16
-        spacing: 8
+        columns: strip.width < ViewMetrics.narrowCard ? 2 : Math.max(1, strip.run.tests.length)
+        columnSpacing: 8
+        rowSpacing: 12
 
         Repeater {
             model: strip.run.tests.length // its items stay when the tests go on

@@ -6,19 +6,26 @@ import OndelControls
 import TarnwickKit.views
 
 /// One metric of the compared runs, as bars on a common scale.
-RowLayout {
+GridLayout {
     id: group
 
     required property comparedMetric metric
     required property real trackWidth
     property bool showsDifferences: false
+    /// The metric's name stands above its bars.
+    property bool isNarrow: false
     readonly property list<color> series: PaletteKey.palette.series
 
-    spacing: 14
+    columns: isNarrow ? 1 : 3
+    columnSpacing: 14
+    rowSpacing: 5
 
-    Column {
+    Grid {
         Layout.preferredWidth: ViewMetrics.metricLabelWidth
-        spacing: 1
+        columns: group.isNarrow ? 2 : 1
+        columnSpacing: 6
+        rowSpacing: 1
+        verticalItemAlignment: Grid.AlignBottom
 
         PlainText {
             text: group.metric.label
@@ -35,6 +42,7 @@ RowLayout {
     }
     Separator {
         Layout.fillHeight: true
+        visible: !group.isNarrow
         color: PaletteKey.palette.border
     }
     Column {

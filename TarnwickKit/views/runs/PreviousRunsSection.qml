@@ -16,7 +16,8 @@ Column {
     required property real viewTop
     required property real viewHeight
 
-    readonly property int rowHeight: 26 + Metrics.scaled(39)
+    readonly property bool hasTwoLines: width > 0 && width < ViewMetrics.narrowCard
+    readonly property int rowHeight: 26 + Metrics.scaled(hasTwoLines ? 83 : 39)
     /// How far below the visible part rows are made in advance. Units: logical pixels.
     readonly property real ahead: AssistiveTechnology.active ? Infinity : 12 * (rowHeight + spacing)
     /// How many more rows may be made before the next frame. The first frame has no limit.
@@ -113,6 +114,7 @@ Column {
             width: section.width
             label: current.label
             detail: current.detail
+            hint: current.hint
             picking: true
             chosen: section.runs.isCurrentRunPicked
             onWanted: section.analyzer.toggleCompareSelection(current.facts.id)
@@ -123,6 +125,7 @@ Column {
                 width: parent.width
                 analyzer: section.analyzer
                 run: section.runs.currentRun
+                hasTwoLines: section.hasTwoLines
                 note: qsTr("current run")
                 live: false
             }
@@ -137,6 +140,7 @@ Column {
             width: section.width
             analyzer: section.analyzer
             rowHeight: section.rowHeight
+            hasTwoLines: section.hasTwoLines
         }
     }
     Connections {

@@ -13,6 +13,11 @@ Item {
     required property runRecord run
     required property runFacts facts
 
+    readonly property comparedRuns alone: Runs.alone(run)
+    readonly property RunExports exports: RunExports {
+        onTold: sentence => actions.tell(sentence)
+    }
+
     signal rename
     signal share
     signal remove
@@ -37,8 +42,11 @@ Item {
         choices.popup(x, y);
     }
     function copy(): void {
+        tell(Runs.copyFigures(run));
+    }
+    function tell(sentence: string): void {
         note.active = false; // a new note is shown for its whole time
-        note.sentence = Runs.copyFigures(run);
+        note.sentence = sentence;
         note.active = true;
     }
 
@@ -57,6 +65,10 @@ Item {
             onRename: actions.rename()
             onShare: actions.share()
             onCopy: actions.copy()
+            onCopyText: actions.exports.copyText(actions.alone)
+            onCopyTable: actions.exports.copyMarkdown(actions.alone)
+            onSave: actions.exports.saveRuns(actions.alone, actions)
+            onSaveCsv: actions.exports.saveCsv(actions.alone, actions)
             onCompare: actions.analyzer.compareWithLast(actions.facts.id)
             onRemove: actions.remove()
         }

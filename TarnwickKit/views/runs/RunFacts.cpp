@@ -170,6 +170,8 @@ QList<RemarkItem> remarkItems(const RunRecord& run) {
     return items;
 }
 
+ComparedRuns Runs::history(const model::AnalyzerModel* analyzer) { return {analyzer->history().runs()}; }
+
 QVariantList Runs::remarks(const RunRecord& run) {
     QVariantList items;
     for (const RemarkItem& item : remarkItems(run))

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "TarnwickKit/model/runs/RunRecord.h"
+#include "TarnwickKit/model/session/AnalyzerModel.h"
+#include "TarnwickKit/views/runs/ComparedRuns.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -124,6 +126,12 @@ public:
     Q_INVOKABLE static TarnwickKit::views::RunFacts facts(const TarnwickKit::model::RunRecord& run) {
         return RunFacts::of(run);
     }
+    /// For actions with several runs: a run by itself, and the whole history, newest first.
+    Q_INVOKABLE static TarnwickKit::views::ComparedRuns alone(const TarnwickKit::model::RunRecord& run) {
+        return {{run}};
+    }
+    Q_INVOKABLE static TarnwickKit::views::ComparedRuns
+    history(const TarnwickKit::model::AnalyzerModel* analyzer);
     /// RemarkItem: see remarkItems.
     Q_INVOKABLE static QVariantList remarks(const TarnwickKit::model::RunRecord& run);
     Q_INVOKABLE static bool hasRemarks(const TarnwickKit::model::RunRecord& run);

@@ -6,12 +6,15 @@ import OndelControls
 import TarnwickKit.views
 
 /// The figures of a finished run.
-RowLayout {
+GridLayout {
     id: headline
 
     required property runFacts facts
+    /// The smaller figures stand below.
+    readonly property bool isNarrow: width > 0 && width < ViewMetrics.narrowCard
 
-    spacing: 0
+    columnSpacing: 0
+    rowSpacing: 0
 
     BigStat {
         Layout.fillWidth: true
@@ -38,10 +41,17 @@ RowLayout {
         isMarked: headline.facts.isReadMarked
     }
     Separator {
-        Layout.fillHeight: true
+        Layout.row: headline.isNarrow ? 1 : 0
+        Layout.column: headline.isNarrow ? 0 : 3
+        Layout.columnSpan: headline.isNarrow ? 3 : 1
+        Layout.fillWidth: headline.isNarrow
+        Layout.fillHeight: !headline.isNarrow
         color: PaletteKey.palette.borderSoft
     }
     Column {
+        Layout.row: headline.isNarrow ? 2 : 0
+        Layout.column: headline.isNarrow ? 0 : 4
+        Layout.columnSpan: headline.isNarrow ? 3 : 1
         leftPadding: ViewMetrics.figurePadding
         rightPadding: ViewMetrics.figurePadding
         topPadding: ViewMetrics.figureMargin
@@ -54,7 +64,7 @@ RowLayout {
             MiniStat {
                 required property infoItem modelData
 
-                width: Metrics.scaled(220)
+                width: headline.isNarrow ? headline.width - 2 * ViewMetrics.figurePadding : Metrics.scaled(220)
                 label: modelData.label
                 value: modelData.value
                 isMarked: modelData.warning

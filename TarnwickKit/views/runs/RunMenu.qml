@@ -13,6 +13,10 @@ PopupMenu {
     signal rename
     signal share
     signal copy
+    signal copyText
+    signal copyTable
+    signal save
+    signal saveCsv
     signal compare
     signal remove
 
@@ -29,6 +33,22 @@ PopupMenu {
         text: qsTr("Copy Figures")
         keys: "Ctrl+C"
         onTriggered: menu.copy()
+    }
+    PopupMenuItem {
+        text: qsTr("Copy as Text")
+        onTriggered: menu.copyText()
+    }
+    PopupMenuItem {
+        text: qsTr("Copy as Markdown Table")
+        onTriggered: menu.copyTable()
+    }
+    PopupMenuItem {
+        text: qsTr("Save Run File…")
+        onTriggered: menu.save()
+    }
+    PopupMenuItem {
+        text: qsTr("Export CSV…")
+        onTriggered: menu.saveCsv()
     }
     PopupMenuItem {
         text: qsTr("Compare with Last Run of This Volume")

@@ -10,6 +10,9 @@ Card {
     id: frame
 
     property alias header: head.data
+    readonly property bool isNarrow: width > 0 && width < ViewMetrics.narrowCard
+    /// What has no room there in a narrow card.
+    property alias secondHeader: second.data
     property real headerPadding: 15
     default property alias content: column.data
 
@@ -34,8 +37,17 @@ Card {
             Layout.leftMargin: ViewMetrics.cardPadding
             Layout.rightMargin: ViewMetrics.cardPadding
             Layout.topMargin: frame.headerPadding
-            Layout.bottomMargin: frame.headerPadding
+            Layout.bottomMargin: second.visible ? 8 : frame.headerPadding
             spacing: 12
+        }
+        RowLayout {
+            id: second
+
+            Layout.leftMargin: ViewMetrics.cardPadding
+            Layout.rightMargin: ViewMetrics.cardPadding
+            Layout.bottomMargin: frame.headerPadding
+            visible: frame.isNarrow && children.length > 0
+            spacing: head.spacing
         }
         Separator {
             Layout.fillWidth: true

@@ -8,7 +8,6 @@
 #include "TarnwickKit/views/sharing/PngEncoding.h"
 #include "TarnwickKit/views/sharing/ViewPicture.h"
 #include "TarnwickKit/views/style/LegibleText.h"
-#include "TarnwickKit/views/style/TarnwickFonts.h"
 
 #include <QPromise>
 #include <QQuickItem>
@@ -23,8 +22,6 @@ namespace fs = std::filesystem;
 using model::RunRecord;
 
 namespace {
-
-constexpr std::string_view extension = ".png";
 
 const auto titlePrefix = QStringLiteral("Ondel Tarnwick — ");
 const auto comparisonName = QStringLiteral("Ondel Tarnwick — Comparison");
@@ -72,16 +69,15 @@ std::optional<SharedPng> written(QImage image, const QString& baseName) {
 
 } // namespace
 
-std::string ReportImage::fileName(const QString& baseName) {
+std::string ReportImage::fileName(const QString& baseName, std::string_view ending) {
     QString name = baseName;
     for (QChar& character : name)
         if (character == u'/' || disturbsLine(character))
             character = u'-';
     if (name.startsWith(u'.'))
         name[0] = u'-';
-    const std::string stem =
-        cut(name, longestFileName - static_cast<qsizetype>(extension.size())).toStdString();
-    return (stem.empty() ? "-" : stem) + std::string(extension);
+    const std::string stem = cut(name, longestFileName - static_cast<qsizetype>(ending.size())).toStdString();
+    return (stem.empty() ? "-" : stem) + std::string(ending);
 }
 
 ImageFile ReportImage::png(QQuickItem& view, const QString& baseName) {
@@ -118,11 +114,6 @@ ImageFile ComparisonImage::render(const std::vector<RunRecord>& runs, const Pale
 SharedPngLater ComparisonImage::renderLater(const std::vector<RunRecord>& runs, const Palette& palette) {
     const auto card = comparisonCard(runs, palette);
     return ReportImage::pngLater(card.get(), comparisonName);
-}
-
-ImageFile reportImage(const model::TarnwickReport& report, bool dark) {
-    TarnwickFonts::registerFrom();
-    return ReportImage::render(report.run, dark ? Palette::dark() : Palette::light());
 }
 
 } // namespace TarnwickKit::views

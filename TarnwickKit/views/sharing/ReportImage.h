@@ -2,7 +2,7 @@
 
 #include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
-#include "TarnwickKit/model/runs/TarnwickReport.h"
+#include "TarnwickKit/views/TarnwickViews.h"
 #include "TarnwickKit/views/style/Palette.h"
 
 #include <QByteArray>
@@ -11,14 +11,12 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class QQuickItem;
 
 namespace TarnwickKit::views {
-
-/// Where an image was written; absent on failure.
-using ImageFile = std::optional<std::filesystem::path>;
 
 /// An image that was written, and the bytes of its file.
 struct SharedPng {
@@ -48,8 +46,8 @@ SharedPngLater pngLater(QQuickItem* view, const QString& baseName);
 
 /// The file name for a title. Characters that would lead to another folder, hide the file, break a line or
 /// change the reading direction are replaced. The name is cut at 255 bytes, between characters as people
-/// count them.
-std::string fileName(const QString& baseName);
+/// count them, in front of the ending.
+std::string fileName(const QString& baseName, std::string_view ending = ".png");
 
 } // namespace ReportImage
 
@@ -61,9 +59,5 @@ ImageFile render(const std::vector<model::RunRecord>& runs, const Palette& palet
 SharedPngLater renderLater(const std::vector<model::RunRecord>& runs, const Palette& palette);
 
 } // namespace ComparisonImage
-
-/// The report image of a host application's run. It needs a QGuiApplication, but neither window nor display;
-/// the fonts are registered by the first call. Threads: main. Fails: absent.
-ONDEL_PUBLIC ImageFile reportImage(const model::TarnwickReport& report, bool dark);
 
 } // namespace TarnwickKit::views

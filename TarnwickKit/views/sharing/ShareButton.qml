@@ -8,16 +8,23 @@ import TarnwickKit.views
 IconButton {
     id: button
 
+    /// Those that the image shows.
+    required property comparedRuns runs
+    readonly property RunExports exports: RunExports {
+        onTold: sentence => button.tell(sentence)
+    }
     readonly property SharedImage image: SharedImage {
         onReady: {
             picker.active = true;
             (picker.object as PopupMenu).open();
         }
-        onTold: sentence => {
-            note.active = false; // a new note is shown for its whole time
-            note.sentence = sentence;
-            note.active = true;
-        }
+        onTold: sentence => button.tell(sentence)
+    }
+
+    function tell(sentence: string): void {
+        note.active = false; // a new note is shown for its whole time
+        note.sentence = sentence;
+        note.active = true;
     }
 
     label: qsTr("Share")
@@ -30,6 +37,8 @@ IconButton {
         SharePicker {
             button: button
             image: button.image
+            exports: button.exports
+            runs: button.runs
         }
     }
     OnDemand {

@@ -1,7 +1,7 @@
 #include "TarnwickKit/views/sharing/SharedImage.h"
 
-#include "OndelCore/platform/storage/ReplaceFile.h"
 #include "OndelDesktop/FileHandOff.h"
+#include "TarnwickKit/views/sharing/FileWriting.h"
 #include "TarnwickKit/views/window/Dialogs.h"
 
 #include <QClipboard>
@@ -9,28 +9,14 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QPointer>
-#include <QPromise>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QThreadPool>
 
 #include <system_error>
 
 namespace TarnwickKit::views {
 
 namespace fs = std::filesystem;
-
-namespace {
-
-/// Writes the image where the user wants it, with the permissions of an ordinary file.
-std::error_code writeTo(const fs::path& target, const QByteArray& image) {
-    constexpr fs::perms ordinary = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read |
-                                   fs::perms::group_write | fs::perms::others_read | fs::perms::others_write;
-    return OndelCore::platform::replaceFile(target, {image.data(), static_cast<std::size_t>(image.size())},
-                                            ordinary);
-}
-
-} // namespace
 
 SharedImage::SharedImage(QObject* parent)
     : QObject(parent) {}
@@ -73,17 +59,10 @@ void SharedImage::saveAs(QQuickItem* item) {
                                [this](const fs::path& target) { save(target); });
 }
 
-/// On another thread: the target may be the slow disk that was measured.
 void SharedImage::save(const fs::path& target) {
-    const auto promise = std::make_shared<QPromise<std::error_code>>();
-    promise->start();
-    promise->future().then(this, [this, target](const std::error_code& error) {
+    writeLater(this, target, m_image.bytes, [this, target](const std::error_code& error) {
         Q_EMIT told(error ? tr("The image couldn't be saved: %1").arg(QString::fromStdString(error.message()))
                           : tr("Saved as “%1”").arg(QFile::decodeName(target.filename().c_str())));
-    });
-    QThreadPool::globalInstance()->start([image = m_image.bytes, target, promise] {
-        promise->addResult(writeTo(target, image));
-        promise->finish();
     });
 }
 

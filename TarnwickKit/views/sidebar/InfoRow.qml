@@ -18,6 +18,11 @@ Item {
     Accessible.name: label + ": " + value
     Accessible.description: warning ? qsTr("Warning") : ""
 
+    CutTip {
+        owner: row
+        text: row.Accessible.name
+        isCut: name.truncated || figure.truncated
+    }
     RowLayout {
         id: line
 
@@ -26,6 +31,8 @@ Item {
         spacing: 8
 
         PlainText {
+            id: name
+
             Layout.fillWidth: true
             Layout.minimumWidth: 40
             Layout.alignment: Qt.AlignBaseline
@@ -46,6 +53,8 @@ Item {
             }
         }
         PlainText {
+            id: figure
+
             Layout.maximumWidth: row.width - 48 - (row.warning ? 17 : 0)
             Layout.alignment: Qt.AlignBaseline
             text: row.value

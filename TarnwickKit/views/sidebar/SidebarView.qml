@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import OndelControls
 import TarnwickKit.views
 
 /// The sidebar: tests, settings, and the facts of the target.
@@ -10,10 +11,16 @@ Rectangle {
     required property AnalyzerModel analyzer
     required property TargetFacts target
     required property FocusKeeper keeper
+    /// It lies over the main pane, in a window too narrow for both.
+    property bool isDrawer: false
+    /// So low that the foot scrolls with the rest, which would have no room above it.
+    readonly property bool isLow: height < foot.height + ViewMetrics.leastAboveFoot
     /// Stays at the foot while the rest scrolls; may be empty.
     property alias footer: foot.data
 
     color: PaletteKey.palette.sidebar
+    Accessible.role: isDrawer ? Accessible.Dialog : Accessible.Pane
+    Accessible.name: qsTr("Tests and Settings")
 
     function holds(tests: list<string>, test: string): bool {
         return tests.includes(test);
@@ -32,6 +39,15 @@ Rectangle {
             width: parent.width - 2 * x
             bottomPadding: 22
 
+            OnDemand {
+                active: sidebar.isDrawer && sidebar.target.folder.length > 0
+
+                FolderLine {
+                    width: Math.min(implicitWidth, parent?.width ?? 0)
+                    bottomPadding: verticalPadding + 10
+                    target: sidebar.target
+                }
+            }
             SidebarHeader {
                 text: qsTr("Tests")
             }
@@ -69,6 +85,13 @@ Rectangle {
                 analyzer: sidebar.analyzer
                 target: sidebar.target
             }
+            Item {
+                id: end
+
+                width: parent.width
+                height: foot.height + 20
+                visible: sidebar.isLow && foot.height > 0
+            }
         }
     }
     Item {
@@ -76,14 +99,15 @@ Rectangle {
 
         anchors.bottom: parent.bottom
         width: parent.width
-        height: foot.height > 0 ? foot.height + 28 : 0
+        height: foot.height > 0 && !sidebar.isLow ? foot.height + 28 : 0
 
         Item {
             id: foot
 
-            x: ViewMetrics.sidebarMargin
-            y: 14
-            width: parent.width - 2 * x
+            parent: sidebar.isLow ? end : inset
+            x: sidebar.isLow ? 0 : ViewMetrics.sidebarMargin
+            y: sidebar.isLow ? 20 : 14
+            width: sidebar.width - 2 * ViewMetrics.sidebarMargin
             height: childrenRect.height
         }
     }

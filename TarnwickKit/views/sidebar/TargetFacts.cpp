@@ -1,9 +1,11 @@
 #include "TarnwickKit/views/sidebar/TargetFacts.h"
 
+#include "OndelDesktop/FileHandOff.h"
 #include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/views/style/LegibleText.h"
 
 #include <QFile>
+#include <QPointer>
 #include <QUrl>
 
 #include <array>
@@ -52,12 +54,27 @@ void TargetFacts::setAnalyzer(AnalyzerModel* analyzer) {
     if (!turnTo(m_analyzer, analyzer, this))
         return;
     if (m_analyzer) {
+        connect(m_analyzer, &AnalyzerModel::targetFolderChanged, this, &TargetFacts::folderChanged);
         connect(m_analyzer, &AnalyzerModel::volumeChanged, this, &TargetFacts::volumeChanged);
         connect(m_analyzer, &AnalyzerModel::smartChanged, this, &TargetFacts::healthChanged);
     }
     Q_EMIT analyzerChanged();
+    Q_EMIT folderChanged();
     Q_EMIT volumeChanged();
     Q_EMIT healthChanged();
+}
+
+QString TargetFacts::folder() const {
+    return m_analyzer ? legiblePath(m_analyzer->targetFolderText()) : QString();
+}
+
+void TargetFacts::showFolder() {
+    if (!m_analyzer || !m_analyzer->targetFolder())
+        return;
+    OndelDesktop::showFolder(*m_analyzer->targetFolder(), [self = QPointer(this)] {
+        if (self)
+            Q_EMIT self->told(tr("The folder couldn't be opened."));
+    });
 }
 
 QString TargetFacts::volumeName() const {

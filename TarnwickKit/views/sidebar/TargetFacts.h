@@ -33,6 +33,8 @@ class TargetFacts : public QObject {
     Q_PROPERTY(
         TarnwickKit::model::AnalyzerModel* analyzer READ analyzer WRITE setAnalyzer NOTIFY analyzerChanged)
 
+    /// The folder under test; "" while none is chosen.
+    Q_PROPERTY(QString folder READ folder NOTIFY folderChanged)
     /// The volume's name and the line under it; "" without a volume.
     Q_PROPERTY(QString volumeName READ volumeName NOTIFY volumeChanged)
     Q_PROPERTY(QString volumeLine READ volumeLine NOTIFY volumeChanged)
@@ -57,6 +59,13 @@ public:
     model::AnalyzerModel* analyzer() const { return m_analyzer; }
     void setAnalyzer(model::AnalyzerModel* analyzer);
     Q_SIGNAL void analyzerChanged();
+
+    QString folder() const;
+    Q_SIGNAL void folderChanged();
+    /// Shows the folder in the file manager.
+    Q_INVOKABLE void showFolder();
+    /// What is to be said of the outcome, if it failed.
+    Q_SIGNAL void told(const QString& sentence);
 
     QString volumeName() const;
     QString volumeLine() const;

@@ -12,8 +12,9 @@ bool disturbsLine(QChar character) {
            category == QChar::Separator_Paragraph;
 }
 
-QString legible(const QString& text) {
-    constexpr qsizetype most = 300;
+namespace {
+
+QString legibleStart(const QString& text, qsizetype most) {
     QString result = text.left(most);
     std::ranges::replace_if(result, [](QChar one) { return disturbsLine(one) && one.isSpace(); }, u' ');
     result.removeIf(disturbsLine);
@@ -21,6 +22,15 @@ QString legible(const QString& text) {
     // flag into its two parts; emoji are coloured without it.
     result.remove(QChar(0xFE0F));
     return result;
+}
+
+} // namespace
+
+QString legible(const QString& text) { return legibleStart(text, 300); }
+
+QString legiblePath(const QString& path) {
+    constexpr qsizetype longestPath = 4096;
+    return legibleStart(path, longestPath);
 }
 
 QString keptApart(const QString& text) {

@@ -1,5 +1,7 @@
 #include "TarnwickKit/views/style/TarnwickFonts.h"
 
+#include "TarnwickKit/views/style/Typeface.h"
+
 #include <QDir>
 #include <QFontDatabase>
 

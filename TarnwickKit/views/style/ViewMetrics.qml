@@ -9,6 +9,15 @@ import OndelControls
 QtObject {
     /// The distance between the main pane's edge and its cards, and between cards.
     readonly property int paneMargin: 20
+    /// The same in a pane narrower than `smallPane`.
+    readonly property int smallPaneMargin: 12
+    readonly property int smallPane: 480
+    /// The greatest width of the main pane's cards.
+    readonly property int greatestCard: 1640
+    /// Cards and rows narrower than this take a second line for what no longer stands side by side.
+    readonly property int narrowCard: 580
+    /// The same for the collapsed run, which has a badge beside its title.
+    readonly property int narrowCollapsed: 640
 
     readonly property int cardCorner: 15
     /// From a card's sides to its header and chart.
@@ -19,6 +28,11 @@ QtObject {
 
     readonly property int alertWidth: Metrics.scaled(400)
     readonly property int sidebarWidth: 32 + Metrics.scaled(240)
+    /// In a window narrower than this the sidebar is a drawer, in one narrower than `narrowToolbar` the toolbar has two lines.
+    readonly property int drawerWidth: 820
+    readonly property int narrowToolbar: 640
+    /// The least width for the target's folder in the toolbar.
+    readonly property int folderRoom: 140
     /// Of the outline of a hovered row.
     readonly property real hoverOpacity: 0.6
 
@@ -37,6 +51,8 @@ QtObject {
     readonly property int differenceWidth: Metrics.scaled(72)
 
     readonly property int sidebarMargin: 16
+    /// The least height above what stays at the sidebar's foot.
+    readonly property int leastAboveFoot: 260
     /// The indent of the sidebar's headings and settings.
     readonly property int sidebarInset: 4
 }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
@@ -17,7 +18,7 @@ BaseSheet {
 
     signal accepted
 
-    width: ViewMetrics.alertWidth
+    width: Math.min(ViewMetrics.alertWidth, (T.Overlay.overlay?.width ?? Infinity) - 2 * Metrics.menuMargin)
     padding: 22
     fill: PaletteKey.palette.panel
     outline: PaletteKey.palette.border

@@ -11,16 +11,31 @@ Rectangle {
 
     required property AnalyzerModel analyzer
     property alias sidebarFooter: sidebar.footer
+    /// Too narrow for a sidebar beside the main pane. It is a drawer over it then.
+    readonly property bool isNarrow: width > 0 && width < ViewMetrics.drawerWidth
+    property bool isDrawerOpen: false
 
     /// Starts a run like the toolbar's button, which asks before it fills the disk.
     function run(): void {
         toolbar.run();
+    }
+    function openDrawer(reason: int): void {
+        isDrawerOpen = true;
+        sidebar.nextItemInFocusChain().forceActiveFocus(reason);
+    }
+    /// The focus goes back to the button if it was in the drawer.
+    function closeDrawer(reason: int): void {
+        const hadFocus = keeper.isWithin(keeper.last, sidebar);
+        isDrawerOpen = false;
+        if (hadFocus)
+            toolbar.focusDrawerButton(reason);
     }
 
     PaletteKey.palette: Appearance.palette
     color: PaletteKey.palette.bg
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
+    onIsNarrowChanged: closeDrawer(Qt.OtherFocusReason)
 
     Binding {
         target: Metrics
@@ -29,11 +44,25 @@ Rectangle {
     }
     FocusKeeper {
         id: keeper
+
+        passing: main.notes
+        onLastChanged: {
+            if (content.isDrawerOpen && isWithin(last, main))
+                content.isDrawerOpen = false;
+        }
     }
     TargetFacts {
         id: target
 
         analyzer: content.analyzer
+    }
+    Connections {
+        target: content.analyzer
+
+        function onPhaseChanged(): void {
+            if (content.isDrawerOpen && content.analyzer.isRunning)
+                content.closeDrawer(Qt.OtherFocusReason);
+        }
     }
     ColumnLayout {
         anchors.fill: parent
@@ -45,31 +74,61 @@ Rectangle {
             Layout.fillWidth: true
             analyzer: content.analyzer
             target: target
+            hasDrawer: content.isNarrow
+            isDrawerOpen: content.isDrawerOpen
+            onDrawerWanted: (open, reason) => open ? content.openDrawer(reason) : content.closeDrawer(reason)
         }
         Separator {
             Layout.fillWidth: true
             color: PaletteKey.palette.border
         }
-        RowLayout {
-            spacing: 0
+        Item {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
 
+            OnDemand {
+                active: content.isNarrow && content.isDrawerOpen
+
+                DrawerShade {
+                    z: 2
+                    anchors.fill: parent
+                    drawer: sidebar
+                    onClosed: content.closeDrawer(Qt.OtherFocusReason)
+                }
+            }
             SidebarView {
                 id: sidebar
 
-                Layout.preferredWidth: ViewMetrics.sidebarWidth
-                Layout.fillHeight: true
+                z: content.isNarrow ? 3 : 0
+                width: ViewMetrics.sidebarWidth
+                anchors.left: parent.left
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                visible: !content.isNarrow || content.isDrawerOpen
                 analyzer: content.analyzer
                 target: target
                 keeper: keeper
+                isDrawer: content.isNarrow
+                Keys.enabled: content.isNarrow
+                Keys.onEscapePressed: content.closeDrawer(Qt.TabFocusReason)
             }
             Separator {
-                z: 1 // at a scale such as 1.5 the pane would cover its second pixel
-                Layout.fillHeight: true
+                id: rule
+
+                z: content.isNarrow ? 3 : 1 // at a scale such as 1.5 the pane would cover its second pixel
+                anchors.left: sidebar.right
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                visible: sidebar.visible
                 color: PaletteKey.palette.border
             }
             MainView {
-                Layout.fillWidth: true
-                Layout.fillHeight: true
+                id: main
+
+                anchors.left: content.isNarrow ? parent.left : rule.right
+                anchors.right: parent.right
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
                 analyzer: content.analyzer
                 target: target
                 keeper: keeper

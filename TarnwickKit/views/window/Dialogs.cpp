@@ -151,6 +151,19 @@ void Dialogs::askForImageFile(const QString& proposedName, const Chosen& chosen)
                   QStandardPaths::writableLocation(QStandardPaths::PicturesLocation), chosen);
 }
 
+void Dialogs::askForExportFile(const QString& proposedName, const QString& kind, const Chosen& chosen) {
+    const std::string ending = fs::path(proposedName.toStdString()).extension();
+    const Question question{
+        .kind = Question::Kind::NewFile,
+        .title = QFileDialog::tr("Save As").toStdString(),
+        .acceptLabel = {},
+        .note = {},
+        .startingAt = pathOf(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
+        .proposedName = proposedName.toStdString(),
+        .type = Question::Type{.name = kind.toStdString(), .pattern = "*" + ending, .mimeType = {}}};
+    ask(question, [chosen](const std::vector<fs::path>& files) { chosen(files.front()); });
+}
+
 void Dialogs::askForRunFiles(std::function<void(const std::vector<fs::path>&)> chosen) {
     const Question question{.kind = Question::Kind::Files,
                             .title = QFileDialog::tr("Open").toStdString(),

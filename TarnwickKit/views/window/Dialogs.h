@@ -31,6 +31,8 @@ public:
     void askForTextFile(const QString& proposedName, Chosen chosen) override;
     /// Asks where to save a PNG image, starting in the user's folder of pictures.
     void askForImageFile(const QString& proposedName, const Chosen& chosen);
+    /// Asks where to save runs. `kind`: what files with the proposed name's ending are, in the plural.
+    void askForExportFile(const QString& proposedName, const QString& kind, const Chosen& chosen);
     void showError(const QString& sentence) override;
 
     /// Asks for existing run files, one or several.

@@ -11,6 +11,8 @@ Rectangle {
     required property AnalyzerModel analyzer
     required property TargetFacts target
     required property FocusKeeper keeper
+    readonly property Item notes: passing
+    readonly property int margin: width < ViewMetrics.smallPane ? ViewMetrics.smallPaneMargin : ViewMetrics.paneMargin
     /// A comparison replaces the phase's pane.
     readonly property bool showsPhase: !analyzer.isComparing
     readonly property bool showsRun: showsPhase && runs.hasCurrentRun
@@ -46,11 +48,11 @@ Rectangle {
         Column {
             id: column
 
-            x: ViewMetrics.paneMargin
-            y: ViewMetrics.paneMargin
-            width: parent.width - 2 * x
-            bottomPadding: ViewMetrics.paneMargin
-            spacing: ViewMetrics.paneMargin
+            x: Math.round((parent.width - width) / 2)
+            y: main.margin
+            width: Math.min(parent.width - 2 * main.margin, ViewMetrics.greatestCard)
+            bottomPadding: main.margin
+            spacing: main.margin
 
             // Each pane exists only while its state holds.
             OnDemand {
@@ -125,26 +127,13 @@ Rectangle {
             }
         }
     }
-    Column {
+    PassingNotes {
+        id: passing
+
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: ViewMetrics.paneMargin
-        spacing: ViewMetrics.paneMargin / 2
-
-        OnDemand {
-            active: main.analyzer.refusal.length > 0
-
-            QuietLine {
-                greatestWidth: main.width - 2 * ViewMetrics.paneMargin
-                sentence: main.analyzer.refusal
-            }
-        }
-        OnDemand {
-            active: main.analyzer.undoableRuns > 0
-
-            UndoNote {
-                analyzer: main.analyzer
-            }
-        }
+        anchors.bottomMargin: main.margin
+        analyzer: main.analyzer
+        greatestWidth: main.width - 2 * main.margin
     }
 }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import OndelControls
 import TarnwickKit.views
 
 Rectangle {
@@ -9,41 +10,93 @@ Rectangle {
 
     required property AnalyzerModel analyzer
     required property TargetFacts target
+    /// The sidebar is a drawer, which needs a button.
+    property bool hasDrawer: false
+    property bool isDrawerOpen: false
+    readonly property bool hasTwoLines: hasDrawer && width < ViewMetrics.narrowToolbar
+
+    signal drawerWanted(open: bool, reason: int)
 
     /// Starts a run like the run button.
     function run(): void {
         runButton.run();
     }
+    function focusDrawerButton(reason: int): void {
+        (opener.object as DrawerButton)?.forceActiveFocus(reason);
+    }
 
-    implicitHeight: row.implicitHeight + 22
+    implicitHeight: lines.implicitHeight + 22
     color: PaletteKey.palette.panel2
 
-    RowLayout {
-        id: row
+    ColumnLayout {
+        id: lines
 
         anchors.fill: parent
         anchors.leftMargin: 18
         anchors.rightMargin: 18
-        spacing: 14
+        anchors.topMargin: 11
+        anchors.bottomMargin: 11
+        spacing: 10
 
-        VolumeDropdown {
-            Layout.maximumWidth: row.width - pill.implicitWidth - runButton.implicitWidth - 3 * row.spacing - 8
-            analyzer: toolbar.analyzer
-            target: toolbar.target
-        }
-        Item {
-            Layout.fillWidth: true
-            Layout.minimumWidth: 8
-        }
-        StatusPill {
-            id: pill
+        RowLayout {
+            id: row
 
-            analyzer: toolbar.analyzer
-        }
-        RunButton {
-            id: runButton
+            spacing: 14
 
-            analyzer: toolbar.analyzer
+            OnDemand {
+                id: opener
+
+                active: toolbar.hasDrawer
+
+                DrawerButton {
+                    isOpen: toolbar.isDrawerOpen
+                    onClicked: toolbar.drawerWanted(!isOpen, visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
+                }
+            }
+            VolumeDropdown {
+                Layout.fillWidth: true
+                Layout.minimumWidth: 0
+                Layout.maximumWidth: toolbar.hasTwoLines ? Infinity : Math.ceil(implicitWidth)
+                analyzer: toolbar.analyzer
+                target: toolbar.target
+            }
+            Item {
+                id: room
+
+                Layout.fillWidth: true
+                Layout.minimumWidth: 8
+                visible: !toolbar.hasTwoLines
+
+                OnDemand {
+                    active: toolbar.target.folder.length > 0 && room.width >= ViewMetrics.folderRoom
+
+                    FolderLine {
+                        anchors.verticalCenter: parent?.verticalCenter
+                        width: Math.min(implicitWidth, room.width)
+                        target: toolbar.target
+                    }
+                }
+            }
+            RowLayout {
+                id: ending
+
+                parent: toolbar.hasTwoLines ? lines : row
+                Layout.fillWidth: toolbar.hasTwoLines
+                spacing: row.spacing
+
+                StatusPill {
+                    analyzer: toolbar.analyzer
+                }
+                Item {
+                    Layout.fillWidth: true
+                    visible: toolbar.hasTwoLines
+                }
+                RunButton {
+                    id: runButton
+
+                    analyzer: toolbar.analyzer
+                }
+            }
         }
     }
 }

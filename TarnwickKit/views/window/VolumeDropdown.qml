@@ -14,7 +14,7 @@ PlainButton {
     readonly property bool hasTarget: analyzer.targetFolder.length > 0
 
     label: qsTr("Volume")
-    hint: analyzer.targetFolder
+    hint: !title.truncated ? target.folder : hasTarget ? target.volumeName + "\n" + target.folder : target.volumeName
     corner: 10
     leftPadding: 9
     rightPadding: 12
@@ -23,7 +23,6 @@ PlainButton {
     implicitWidth: Math.max(Metrics.scaled(244), implicitContentWidth + leftPadding + rightPadding)
     enabled: !analyzer.isRunning
     opacity: pressed ? Metrics.pressedOpacity : 1 // not dimmed while disabled: it is read during a run
-    hoverEnabled: true
 
     detail: title.text + ", " + subtitle.text
     onClicked: show()
@@ -37,7 +36,7 @@ PlainButton {
     background: Card {
         radius: dropdown.corner
         color: PaletteKey.palette.panel
-        outline: dropdown.hovered ? Qt.alpha(PaletteKey.palette.teal, ViewMetrics.hoverOpacity) : PaletteKey.palette.border
+        outline: dropdown.frameColor
         shadowColor: Qt.rgba(0, 0, 0, 0.04)
         shadowRadius: 1
         shadowOffset: 1
@@ -86,6 +85,25 @@ PlainButton {
         }
     }
 
+    Connections {
+        target: dropdown.target
+
+        function onTold(sentence: string): void {
+            note.active = false; // a new note is shown for its whole time
+            note.sentence = sentence;
+            note.active = true;
+        }
+    }
+    OnDemand {
+        id: note
+
+        property string sentence
+
+        Note {
+            owner: dropdown
+            text: note.sentence
+        }
+    }
     OnDemand {
         id: menu
 

@@ -47,4 +47,10 @@ PopupMenu {
         symbol: "folder"
         onTriggered: menu.analyzer.chooseFolder()
     }
+    PopupMenuItem {
+        text: qsTr("Show in Folder")
+        symbol: "square.and.arrow.up"
+        enabled: menu.target.folder.length > 0
+        onTriggered: menu.target.showFolder()
+    }
 }

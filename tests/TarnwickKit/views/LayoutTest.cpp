@@ -7,7 +7,9 @@
 #include "TarnwickKit/views/sharing/CardView.h"
 #include "TarnwickKit/views/style/FlowLayout.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
+#include "TarnwickKit/views/style/Typeface.h"
 #include "TarnwickKit/views/window/Appearance.h"
+#include "TarnwickKit/views/window/WindowPlace.h"
 #include "tests/TarnwickKit/views/Pictures.h"
 
 #include <QBitmap>
@@ -52,6 +54,34 @@ TEST(ViewMath, MovesItemsTogetherBeforeTheyWrap) {
 TEST(ViewMath, FindsAValue) {
     EXPECT_EQ(ViewMath::lastIndexOf({4096, 65536, 4096}, 4096), 2);
     EXPECT_EQ(ViewMath::lastIndexOf({4096, 65536}, 512), -1);
+}
+
+TEST(WindowPlace, IsRestoredWhereAScreenStillIs) {
+    const QRect screen(0, 0, 1920, 1040), left(-1280, 0, 1280, 1024);
+    struct Case {
+        const char* what;
+        std::optional<QPoint> kept;
+        QList<QRect> screens;
+        bool isRestored;
+        QSize size;
+    };
+    const QSize kept(1180, 780);
+    const Case cases[] = {
+        {"no place", std::nullopt, {screen}, false, kept},
+        {"whole", QPoint(100, 50), {screen}, true, kept},
+        {"on the second screen", QPoint(-1200, 10), {screen, left}, true, kept},
+        {"on a screen that is gone", QPoint(-1200, 10), {screen}, false, kept},
+        {"a corner is left", QPoint(1840, 1016), {screen}, true, kept},
+        {"too little of it", QPoint(1841, 1016), {screen}, false, kept},
+        {"its upper edge above", QPoint(100, -1), {screen}, false, kept},
+        {"larger than the screen", QPoint(0, 0), {QRect(0, 0, 1024, 600)}, true, {1024, 600}},
+        {"nowhere, and larger", QPoint(5000, 0), {QRect(0, 0, 1024, 600)}, false, {1024, 600}},
+    };
+    for (const Case& c : cases) {
+        const FittingPlace place = fittingPlace(kept, c.kept, c.screens);
+        EXPECT_EQ(place.position, c.isRestored ? c.kept : std::nullopt) << c.what;
+        EXPECT_EQ(place.size, c.size) << c.what;
+    }
 }
 
 TEST(FlowLayout, Wraps) {
@@ -215,7 +245,7 @@ TEST(Symbols, EachHasADrawing) {
             "circle ellipsis exclamationmark.octagon.fill exclamationmark.triangle.fill externaldrive "
             "externaldrive.connected.to.line.below folder "
             "gauge.with.dots.needle.bottom.50percent heart.fill info.circle internaldrive "
-            "ladybug pencil play.fill square.and.arrow.up stop.fill trash xmark")
+            "ladybug pencil play.fill sidebar.leading square.and.arrow.up stop.fill trash xmark")
             .split(u' ');
     std::set<QByteArray> drawings;
     for (const QString& symbol : names) {
