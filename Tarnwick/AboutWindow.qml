@@ -6,4 +6,5 @@ import Tarnwick
 /// The About panel in the main window's colors.
 AboutPanel {
     palette: StandardPalettes.current
+    drawsFrame: WindowFrames.areOurs
 }

@@ -15,6 +15,7 @@ PanelWindow {
     wantedHeight: view.implicitHeight
     color: PaletteKey.palette.bg
     palette: StandardPalettes.current
+    drawsFrame: WindowFrames.areOurs
     PaletteKey.palette: Appearance.palette
 
     TarnwickSettingsView {

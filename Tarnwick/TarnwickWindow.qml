@@ -12,6 +12,9 @@ Window {
 
     required property AppDelegate delegate
 
+    readonly property real menuWidth: commands.implicitWidth
+    readonly property real menuHeight: commands.height
+
     signal aboutWanted
     signal settingsWanted
 
@@ -21,6 +24,7 @@ Window {
     minimumWidth: view.leastWidth
     minimumHeight: view.leastHeight
     visible: true
+    flags: Qt.Window | (WindowFrames.areOurs ? Qt.FramelessWindowHint : 0)
     color: view.color
     palette: StandardPalettes.current
     PaletteKey.palette: Appearance.palette
@@ -35,6 +39,7 @@ Window {
         id: commands
 
         width: parent.width
+        bottomPadding: WindowFrames.areOurs ? topPadding : 0
         app: window.delegate
         updater: window.delegate.updater
         onAboutWanted: window.aboutWanted()
@@ -77,5 +82,15 @@ Window {
     DropPlace {
         anchors.fill: parent
         delegate: window.delegate
+    }
+    Loader {
+        anchors.fill: parent
+        // By its file's name: elsewhere it would be compiled before the first frame for nothing.
+        Component.onCompleted: {
+            if (WindowFrames.areOurs)
+                setSource("MainFrame.qml", {
+                    host: window
+                });
+        }
     }
 }

@@ -6,4 +6,5 @@ import Tarnwick
 /// The update window in the main window's colors.
 UpdateWindow {
     palette: StandardPalettes.current
+    drawsFrame: WindowFrames.areOurs
 }

@@ -2,11 +2,14 @@
 moves the pointer and takes pictures."""
 
 import contextlib
+import functools
 import json
 import os
 import pathlib
 import re
 import shutil
+import socket
+import struct
 import subprocess
 import sys
 import tempfile
@@ -101,9 +104,11 @@ class Wayland:
                 clients = {"WAYLAND_DISPLAY": f"{folder}/{name}", "SWAYSOCK": socket}
                 # A permanent keyboard: without one the focus is lost, and so are the first keys of a new one.
                 with subprocess.Popen(["wtype", "-s", str(2**31 - 1)], env=os.environ | clients) as keyboard:
-                    yield clients | {"QT_QPA_PLATFORM": "wayland"}
-                    keyboard.terminate()
-                server.terminate()
+                    try:
+                        yield clients | {"QT_QPA_PLATFORM": "wayland"}
+                    finally:
+                        keyboard.terminate()
+                        server.terminate()
 
     def nodes(self, node=None):
         node = node or json.loads(output("swaymsg", "--raw", "--type", "get_tree"))
@@ -154,5 +159,100 @@ class Wayland:
         return f"{at['x']},{at['y']} {at['width']}x{at['height']}"
 
 
-KINDS = {"x11": X11, "wayland": Wayland}
+class Pointer:
+    """A pointer of the compositor's, for as long as this lives: without hardware it has none. Speaks to it in the words of
+    wlr-virtual-pointer-unstable-v1."""
+
+    MANAGER = b"zwlr_virtual_pointer_manager_v1"
+    REGISTRY, ROUND, MANAGED, ITSELF = 2, 3, 4, 5  # objects of the connection
+
+    def __init__(self, path, width, height):
+        self.size = width, height
+        self.connection = socket.socket(socket.AF_UNIX)
+        self.connection.connect(path)
+        self.say(1, 1, self.REGISTRY)
+        self.say(1, 0, self.ROUND)
+        told = b""
+        while struct.pack("=IHH", self.ROUND, 0, 12) not in told:
+            told += self.connection.recv(65536)
+        name = struct.unpack_from("=I", told, told.index(self.MANAGER) - 8)[0]
+        self.say(self.REGISTRY, 0, name, len(self.MANAGER) + 1, self.MANAGER.ljust(32, b"\0"), 1, self.MANAGED)
+        self.say(self.MANAGED, 0, 0, self.ITSELF)
+
+    def say(self, thing, request, *words):
+        body = b"".join(word if isinstance(word, bytes) else struct.pack("=I", word) for word in words)
+        self.connection.sendall(struct.pack("=IHH", thing, request, 8 + len(body)) + body)
+
+    def move(self, x, y):
+        self.say(self.ITSELF, 1, time.monotonic_ns() // 10**6 % 2**32, x, y, *self.size)
+        self.say(self.ITSELF, 4)
+
+    def button(self, number, is_pressed):
+        self.say(self.ITSELF, 2, time.monotonic_ns() // 10**6 % 2**32, 0x110 + number, int(is_pressed))
+        self.say(self.ITSELF, 4)
+
+
+class Frameless(Wayland):
+    """weston, filling a screen of sway. It leaves title bars and borders to the windows. Programs find it by `inner`; keys, pointer
+    and pictures are those of the whole screen, on which there is one window at a time."""
+
+    TOOLS = (*Wayland.TOOLS, "weston")
+    GROUND = bytes((0, 160, 0))
+    SETTINGS = "[shell]\nbackground-type=tile\nbackground-color=0xff00a000\npanel-position=none\nlocking=false\nanimation=none\n"
+
+    @staticmethod
+    @contextlib.contextmanager
+    def served(width, height):
+        with Wayland.served(width, height) as outer, tempfile.TemporaryDirectory(prefix="ondel-weston-") as folder:
+            pathlib.Path(folder, "weston.ini").write_text(Frameless.SETTINGS)
+            command = ["weston", "--backend=wayland-backend.so", "--use-pixman", "--sprawl", f"--config={folder}/weston.ini",
+                       "--idle-time=0", f"--socket={folder}/inner"]
+            with subprocess.Popen(command, env=os.environ | outer | {"XDG_RUNTIME_DIR": folder}, stdout=subprocess.DEVNULL,
+                                  stderr=subprocess.DEVNULL) as server:
+                try:
+                    while not pathlib.Path(folder, "inner").exists():
+                        if server.poll() is not None:
+                            sys.exit("weston does not start")
+                        time.sleep(0.02)
+                    yield outer | {"ONDEL_INNER": f"{folder}/inner"}
+                finally:
+                    server.terminate()
+
+    @property
+    def inner(self):
+        return {"WAYLAND_DISPLAY": os.environ["ONDEL_INNER"]}
+
+    @functools.cached_property
+    def pointer(self):
+        at = next(self.nodes())["rect"]
+        return Pointer(os.environ["WAYLAND_DISPLAY"], at["width"], at["height"])
+
+    def windows(self, _title):
+        return super().windows("^Weston")
+
+    def point(self, x, y):
+        self.pointer.move(x, y)
+        time.sleep(0.05)
+
+    def button(self, is_pressed, number=0):
+        self.pointer.button(number, is_pressed)
+        time.sleep(0.05)
+
+    def extent(self):
+        """Left, top, width and height of the window: of what is not the ground, along lines through its middle, which the pointer
+        at an edge or a corner does not touch."""
+        head, size, _depth, data = self.pixels(self.windows("")[0]).split(b"\n", 3)
+        width, height = map(int, size.split())
+        rows = [data[at:at + 3 * width] for at in range(0, 3 * width * height, 3 * width)]
+        shown = [y for y, row in enumerate(rows) if row != self.GROUND * width]
+        if not shown:
+            return None
+        row = rows[shown[len(shown) // 2]]
+        columns = [x for x in range(width) if row[3 * x:3 * x + 3] != self.GROUND]
+        middle = 3 * columns[len(columns) // 2]
+        shown = [y for y in shown if rows[y][middle:middle + 3] != self.GROUND]
+        return columns[0], shown[0], columns[-1] - columns[0] + 1, shown[-1] - shown[0] + 1
+
+
+KINDS = {"x11": X11, "wayland": Wayland, "frameless": Frameless}
 display = KINDS[os.environ.get("ONDEL_DISPLAY", "x11")]()

@@ -1,4 +1,5 @@
 #include "OndelDesktop/linux/XSettings.h"
+
 #include "fuzz/Fuzz.h"
 
 void fuzz::read(Bytes bytes) {

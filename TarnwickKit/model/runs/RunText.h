@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "OndelCore/benchmark/evidence/Remark.h"
 #include "TarnwickKit/model/format/TextLines.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
@@ -27,6 +28,6 @@ QStringList systemNames(const RunRecord& run);
 /// remarks, numbered when there are several, and then their comparison as bars. No line is wider than
 /// `style.columns`, which counts as 24 below that; what does not fit goes on below or is cut. Nothing in it
 /// steers a terminal or turns the direction of a line. Empty for no runs.
-QString runTexts(const std::vector<RunRecord>& runs, LineStyle style = {});
+ONDEL_KIT QString runTexts(const std::vector<RunRecord>& runs, LineStyle style = {});
 
 } // namespace TarnwickKit::model

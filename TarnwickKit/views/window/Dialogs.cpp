@@ -152,16 +152,16 @@ void Dialogs::askForImageFile(const QString& proposedName, const Chosen& chosen)
 }
 
 void Dialogs::askForExportFile(const QString& proposedName, const QString& kind, const Chosen& chosen) {
-    const QString ending = proposedName.section(QLatin1Char('.'), -1);
-    QFileDialog* dialog = newFileDialog(chosen);
-    dialog->setWindowTitle(QFileDialog::tr("Save As"));
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->setNameFilter(QStringLiteral("%1 (*.%2)").arg(kind, ending));
-    dialog->setDefaultSuffix(ending);
-    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    dialog->selectFile(proposedName);
-    show(dialog);
+    const std::string ending = fs::path(proposedName.toStdString()).extension();
+    const Question question{
+        .kind = Question::Kind::NewFile,
+        .title = QFileDialog::tr("Save As").toStdString(),
+        .acceptLabel = {},
+        .note = {},
+        .startingAt = pathOf(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
+        .proposedName = proposedName.toStdString(),
+        .type = Question::Type{.name = kind.toStdString(), .pattern = "*" + ending, .mimeType = {}}};
+    ask(question, [chosen](const std::vector<fs::path>& files) { chosen(files.front()); });
 }
 
 void Dialogs::askForRunFiles(std::function<void(const std::vector<fs::path>&)> chosen) {

@@ -54,9 +54,9 @@ Rectangle {
                 }
             }
             VolumeDropdown {
-                Layout.fillWidth: toolbar.hasTwoLines
-                Layout.maximumWidth: toolbar.hasTwoLines ? Infinity
-                    : row.width - (toolbar.hasDrawer ? ViewMetrics.badgeSide + row.spacing : 0) - 8 - 2 * row.spacing - ending.implicitWidth
+                Layout.fillWidth: true
+                Layout.minimumWidth: 0
+                Layout.maximumWidth: toolbar.hasTwoLines ? Infinity : Math.ceil(implicitWidth)
                 analyzer: toolbar.analyzer
                 target: toolbar.target
             }

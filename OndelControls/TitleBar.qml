@@ -1,0 +1,123 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import OndelControls
+
+/// A window's title, its buttons, and a ground to move the window by. A double click maximizes it, a right click opens
+/// a menu of what can be done with it.
+Item {
+    id: bar
+
+    required property Window window
+    /// Whether the window has more than one size.
+    required property bool isResizable
+    readonly property bool isMaximized: window.visibility === Window.Maximized
+    readonly property color ink: window.active ? palette.windowText : palette.placeholderText
+
+    function toggleMaximized(): void {
+        if (isMaximized)
+            window.showNormal();
+        else if (isResizable)
+            window.showMaximized();
+    }
+
+    Accessible.role: Accessible.Grouping // Qt reports a title bar as a text
+    Accessible.name: window.title
+
+    WindowGrip {
+        anchors.fill: parent
+        onDoubleClicked: bar.toggleMaximized()
+        onMenuWanted: menu.popup()
+    }
+    PlainText {
+        readonly property real centred: (bar.window.width - implicitWidth) / 2 - bar.x
+
+        // In the middle of the window, or else as near to it as the menus and the buttons allow.
+        x: Math.max(12, Math.min(centred, buttons.x - 12 - width))
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, Math.max(0, buttons.x - 24))
+        text: bar.window.title
+        font.pixelSize: Metrics.textSize
+        font.weight: Font.DemiBold
+        color: bar.ink
+        elide: Text.ElideRight
+        maximumLineCount: 1
+        Accessible.ignored: true
+    }
+    Row {
+        id: buttons
+
+        anchors.right: parent.right
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 4
+
+        CaptionButton {
+            visible: bar.isResizable
+            label: qsTr("Minimize")
+            onClicked: bar.window.showMinimized()
+
+            Rectangle {
+                y: 5
+                width: 10
+                height: 1
+                color: bar.ink
+            }
+        }
+        CaptionButton {
+            visible: bar.isResizable
+            label: bar.isMaximized ? qsTr("Restore") : qsTr("Maximize")
+            onClicked: bar.toggleMaximized()
+
+            Rectangle {
+                y: bar.isMaximized ? 2 : 0
+                width: 10 - y
+                height: width
+                color: "transparent"
+                border.color: bar.ink
+            }
+            Rectangle { // the one behind it
+                visible: bar.isMaximized
+                x: 2
+                width: 8
+                height: 1
+                color: bar.ink
+            }
+            Rectangle {
+                visible: bar.isMaximized
+                x: 9
+                width: 1
+                height: 8
+                color: bar.ink
+            }
+        }
+        CaptionButton {
+            label: qsTr("Close")
+            onClicked: bar.window.close()
+
+            Symbol {
+                anchors.fill: parent
+                name: "xmark"
+                size: 10
+                color: bar.ink
+            }
+        }
+    }
+    BaseMenu {
+        id: menu
+
+        BaseMenuItem {
+            text: qsTr("Minimize")
+            onTriggered: bar.window.showMinimized()
+        }
+        BaseMenuItem {
+            text: bar.isMaximized ? qsTr("Restore") : qsTr("Maximize")
+            enabled: bar.isResizable
+            onTriggered: bar.toggleMaximized()
+        }
+        BaseMenuItem {
+            text: qsTr("Close")
+            onTriggered: bar.window.close()
+        }
+    }
+}
