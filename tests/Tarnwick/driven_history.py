@@ -138,7 +138,7 @@ def follows_the_terminal(program, folder):
         driver.focus("Settings")
         window.until("the run", lambda: len(rows(window)) == 1)
         host("history", "delete", host("history").splitlines()[1].split()[0])
-        driver.display.press("Escape")
+        driver.focus(driver.MAIN)
         window.until("its end", lambda: rows(window) == [])
         window.quits()
 
