@@ -252,7 +252,7 @@ def takes_what_is_dropped(program, folder, source):
 def goes_by_menu(program, folder):
     with driver.Window(program, folder) as window:
         window.find("Ready to benchmark")
-        window.keys("F10", "Right", "Right", "Right", "Down", "Down", "Return")
+        window.keys("F10", "Right", "Right", "Right", "Right", "Down", "Down", "Return")
         window.find("Report a Problem", "heading")
         window.keys("Escape")
         window.gone("Report a Problem", "heading")
