@@ -27,6 +27,7 @@ T.AbstractButton {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     opacity: !dimsWhenInactive ? 1 : !enabled ? Metrics.disabledOpacity : pressed ? Metrics.pressedOpacity : 1
     focusPolicy: Qt.TabFocus
+    hoverEnabled: true
     activeFocusOnTab: true
 
     Accessible.role: checkable ? Accessible.CheckBox : Accessible.Button

@@ -33,6 +33,6 @@ BaseButton {
     }
     background: Card {
         radius: button.corner
-        color: button.prominent ? button.prominentColor : Qt.rgba(1, 1, 1, 0.16)
+        color: button.prominent ? Qt.darker(button.prominentColor, button.hovered ? 1.1 : 1) : Qt.rgba(1, 1, 1, button.hovered ? 0.28 : 0.16)
     }
 }

@@ -36,6 +36,10 @@ BaseButton {
         size: 13
         color: "white"
     }
+    background: Card {
+        radius: button.corner
+        color: button.hovered ? Qt.rgba(1, 1, 1, 0.16) : "transparent"
+    }
     BaseMenu {
         id: menu
 

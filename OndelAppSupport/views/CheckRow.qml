@@ -11,11 +11,13 @@ T.CheckBox {
     implicitWidth: words.implicitWidth + leftPadding + rightPadding
     implicitHeight: Math.max(indicator.implicitHeight, words.implicitHeight)
     leftPadding: Metrics.checkIndent
+    hoverEnabled: true
     Accessible.name: text
 
     indicator: TickBox {
         y: Math.round((box.height - height) / 2)
         ticked: box.checked
+        idleOutline: box.hovered ? box.palette.link : box.palette.mid
         markWeight: Font.DemiBold
     }
     contentItem: PlainText {

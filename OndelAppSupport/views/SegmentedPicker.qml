@@ -46,6 +46,7 @@ FocusScope {
                 text: modelData
                 checked: index === picker.current
                 focus: checked
+                hoverEnabled: true
                 width: Math.max(implicitWidth, (picker.width - 4) / picker.options.length)
                 height: picker.height - 4
                 implicitWidth: words.implicitWidth + 28
@@ -66,10 +67,10 @@ FocusScope {
                     Accessible.ignored: true
                 }
                 background: Card {
-                    visible: segment.checked
+                    visible: segment.checked || segment.hovered
                     radius: 5
-                    color: segment.palette.button
-                    outline: segment.palette.mid
+                    color: segment.checked ? segment.palette.button : Qt.alpha(segment.palette.windowText, 0.06)
+                    outline: segment.checked ? segment.palette.mid : "transparent"
                 }
                 FocusMark {
                     control: segment

@@ -26,8 +26,9 @@ BaseButton {
     }
     background: Card {
         radius: button.corner
-        color: button.prominent ? button.palette.highlight : button.palette.button
-        outline: button.prominent ? "transparent" : button.palette.mid
+        color: !button.prominent ? button.palette.button
+             : button.hovered ? Qt.tint(button.palette.highlight, Qt.alpha(button.palette.highlightedText, 0.16)) : button.palette.highlight
+        outline: button.prominent ? "transparent" : button.hovered ? button.palette.link : button.palette.mid
         opacity: !button.enabled ? Metrics.disabledOpacity : button.pressed ? Metrics.pressedOpacity : 1
     }
 }

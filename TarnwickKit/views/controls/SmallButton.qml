@@ -19,7 +19,7 @@ PlainButton {
     background: Card {
         radius: button.corner
         color: PaletteKey.palette.panel
-        outline: PaletteKey.palette.border
+        outline: button.frameColor
     }
     contentItem: Row {
         spacing: 5

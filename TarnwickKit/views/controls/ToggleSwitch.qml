@@ -38,6 +38,7 @@ ToggleButton {
         }
         PaletteSwitch {
             on: control.on
+            outline: control.hovered ? control.frameColor : "transparent"
         }
     }
 }

@@ -20,6 +20,8 @@ Column {
     signal toggled(expanded: bool)
 
     PlainButton {
+        id: press
+
         width: parent.width
         label: section.label
         detail: section.detail
@@ -47,7 +49,7 @@ Column {
                 name: "chevron.right"
                 size: 9
                 weight: Font.DemiBold
-                color: PaletteKey.palette.text3
+                color: press.hovered ? PaletteKey.palette.text : PaletteKey.palette.text3
                 rotation: section.isExpanded ? 90 : 0
 
                 Behavior on rotation {

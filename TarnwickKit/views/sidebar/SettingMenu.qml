@@ -52,7 +52,7 @@ RowLayout {
         background: Card {
             radius: button.corner
             color: PaletteKey.palette.panel
-            outline: PaletteKey.palette.border
+            outline: button.frameColor
         }
         contentItem: Row {
             spacing: 5

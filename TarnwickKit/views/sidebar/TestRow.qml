@@ -28,6 +28,7 @@ ToggleButton {
     background: Card {
         radius: row.corner
         color: row.on ? row.PaletteKey.palette.sel : "transparent"
+        outline: row.hovered ? row.frameColor : "transparent"
     }
     contentItem: RowLayout {
         id: line

@@ -24,8 +24,8 @@ PlainButton {
     }
     background: Card {
         radius: button.corner
-        color: button.destructive ? PaletteKey.palette.danger
-                                  : button.prominent ? PaletteKey.palette.accent : PaletteKey.palette.panel2
-        outline: button.prominent ? "transparent" : PaletteKey.palette.border
+        color: button.destructive ? button.lit(PaletteKey.palette.danger, PaletteKey.palette.panel)
+                                  : button.prominent ? button.lit(PaletteKey.palette.accent, PaletteKey.palette.onAccent) : PaletteKey.palette.panel2
+        outline: button.prominent ? "transparent" : button.frameColor
     }
 }

@@ -34,7 +34,8 @@ PlainButton {
 
     background: Card {
         radius: button.corner
-        color: button.stops ? PaletteKey.palette.text2 : PaletteKey.palette.accent
+        color: button.stops ? button.lit(PaletteKey.palette.text2, PaletteKey.palette.onStop)
+                            : button.lit(PaletteKey.palette.accent, PaletteKey.palette.onAccent)
         shadowColor: button.stops ? "transparent" : PaletteKey.palette.shadow
         shadowRadius: 9
         shadowOffset: 5
