@@ -15,6 +15,9 @@ ColumnLayout {
     required property real peak
     required property real least
     property bool isMarked: false
+    /// The peak and the lowest sample have no room side by side.
+    readonly property bool isTight: whole.width > width - 2 * ViewMetrics.figurePadding
+    property bool inTwoLines: isTight
 
     spacing: 6
     Layout.maximumWidth: Infinity // else the figures' width would limit it
@@ -89,7 +92,7 @@ ColumnLayout {
         Layout.fillWidth: true
         elide: Text.ElideRight
         visible: !isNaN(stat.peak) && !isNaN(stat.least)
-        text: !visible || whole.width <= stat.width - 2 * ViewMetrics.figurePadding ? whole.text
+        text: !visible || !stat.inTwoLines ? whole.text
             : qsTr("peak %1\nmin %2").arg(Format.mbValue(stat.peak)).arg(Format.mbValue(stat.least))
         font: Typeface.mono(11)
         color: PaletteKey.palette.text3

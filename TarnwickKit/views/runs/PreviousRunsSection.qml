@@ -17,7 +17,7 @@ Column {
     required property real viewHeight
 
     readonly property bool hasTwoLines: width > 0 && width < ViewMetrics.narrowCard
-    readonly property int rowHeight: 26 + Metrics.scaled(hasTwoLines ? 83 : 39)
+    readonly property int rowHeight: 26 + Metrics.scaled(hasTwoLines ? 84 : 39)
     /// How far below the visible part rows are made in advance. Units: logical pixels.
     readonly property real ahead: AssistiveTechnology.active ? Infinity : 12 * (rowHeight + spacing)
     /// How many more rows may be made before the next frame. The first frame has no limit.

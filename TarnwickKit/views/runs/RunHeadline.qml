@@ -12,15 +12,19 @@ GridLayout {
     required property runFacts facts
     /// The smaller figures stand below.
     readonly property bool isNarrow: width > 0 && width < ViewMetrics.narrowCard
+    readonly property bool isTight: write.isTight || read.isTight
 
     columnSpacing: 0
     rowSpacing: 0
 
     BigStat {
+        id: write
+
         Layout.fillWidth: true
         Layout.preferredWidth: 1
         label: qsTr("Sequential Write")
         dot: PaletteKey.palette.coral
+        inTwoLines: headline.isTight
         value: headline.facts.writeBps
         peak: headline.facts.writePeakBps
         least: headline.facts.writeMinBps
@@ -31,10 +35,13 @@ GridLayout {
         color: PaletteKey.palette.borderSoft
     }
     BigStat {
+        id: read
+
         Layout.fillWidth: true
         Layout.preferredWidth: 1
         label: qsTr("Sequential Read")
         dot: PaletteKey.palette.teal
+        inTwoLines: headline.isTight
         value: headline.facts.readBps
         peak: headline.facts.readPeakBps
         least: headline.facts.readMinBps
