@@ -43,6 +43,7 @@ Rectangle {
                 active: sidebar.isDrawer && sidebar.target.folder.length > 0
 
                 FolderLine {
+                    anchors.left: parent?.left
                     width: Math.min(implicitWidth, parent?.width ?? 0)
                     bottomPadding: verticalPadding + 10
                     target: sidebar.target

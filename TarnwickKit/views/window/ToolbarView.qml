@@ -71,6 +71,7 @@ Rectangle {
                     active: toolbar.target.folder.length > 0 && room.width >= ViewMetrics.folderRoom
 
                     FolderLine {
+                        anchors.left: parent?.left
                         anchors.verticalCenter: parent?.verticalCenter
                         width: Math.min(implicitWidth, room.width)
                         target: toolbar.target
