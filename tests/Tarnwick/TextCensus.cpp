@@ -1,6 +1,7 @@
 /// A plugin that the tests load into the program: it writes down every text that its windows show. Where a
 /// file "request" appears in the folder ONDEL_TEXT_CENSUS, it is replaced by a file "answer" of one JSON
-/// array: window, text, ink with its opacity, place in device pixels of the window, font size and weight.
+/// array: window, text, ink with its opacity, whether it is cut, place in device pixels of the window, font
+/// size and weight.
 
 #include <QColor>
 #include <QDir>
@@ -68,6 +69,7 @@ void addTexts(const QQuickItem& item, double opacity, QJsonArray& texts) {
                                  {"ink", QJsonArray{ink.red(), ink.green(), ink.blue()}},
                                  {"opacity", ink.alphaF() * opacity},
                                  {"enabled", item.isEnabled()},
+                                 {"cut", item.property("truncated").toBool()},
                                  {"place", QJsonArray{part.x() * scale, part.y() * scale,
                                                       part.width() * scale, part.height() * scale}},
                                  {"size", font.pixelSize()},

@@ -280,6 +280,13 @@ def follows_the_text_scale(start, folder):
         small = {text: (size, after[text]) for text, size in before.items() if text in after and after[text] < round(1.5 * size) - 1}
         check(len(before) > 40 and not small, f"do not grow: {small}")
         check(not list(small_targets(window, driver.MAIN)), "controls are too small")
+        window.press("Backup", "push button")
+        window.settled()
+        cut = [text["text"] for text in reader.texts(driver.MAIN) if text["cut"]]
+        check(not cut, f"are cut: {cut}")
+        window.press("Collapse")
+        window.find("Delete Backup")
+        window.settled()
         reader.say("text 1")
         window.until("the sizes of before", lambda: sizes() == before)
 

@@ -171,7 +171,7 @@ def tells_states_and_opens_menus_by_letter(program, folder):
         check(held("5 GiB") == {"CHECKED"}, "the size that was chosen again is not told")
         window.keys("Escape")
         window.gone("64 GiB")
-        for key, command in (("alt+r", "Undo Delete"), ("alt+f", "Choose Folder…")):
+        for key, command in (("alt+r", "Undo Delete"), ("alt+s", "Save Runs…"), ("alt+f", "Choose Folder…")):
             window.keys(key)
             window.find(command, "menu item")
             window.keys("Escape")

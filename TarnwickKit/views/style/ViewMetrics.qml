@@ -11,13 +11,13 @@ QtObject {
     readonly property int paneMargin: 20
     /// The same in a pane narrower than `smallPane`.
     readonly property int smallPaneMargin: 12
-    readonly property int smallPane: 480
+    readonly property int smallPane: Metrics.scaled(480)
     /// The greatest width of the main pane's cards.
     readonly property int greatestCard: 1640
     /// Cards and rows narrower than this take a second line for what no longer stands side by side.
-    readonly property int narrowCard: 580
+    readonly property int narrowCard: Metrics.scaled(580)
     /// The same for the collapsed run, which has a badge beside its title.
-    readonly property int narrowCollapsed: 640
+    readonly property int narrowCollapsed: Metrics.scaled(640)
 
     readonly property int cardCorner: 15
     /// From a card's sides to its header and chart.
@@ -29,10 +29,10 @@ QtObject {
     readonly property int alertWidth: Metrics.scaled(400)
     readonly property int sidebarWidth: 32 + Metrics.scaled(240)
     /// In a window narrower than this the sidebar is a drawer, in one narrower than `narrowToolbar` the toolbar has two lines.
-    readonly property int drawerWidth: 820
-    readonly property int narrowToolbar: 640
+    readonly property int drawerWidth: sidebarWidth + 548
+    readonly property int narrowToolbar: Metrics.scaled(640)
     /// The least width for the target's folder in the toolbar.
-    readonly property int folderRoom: 140
+    readonly property int folderRoom: Metrics.scaled(140)
     /// Of the outline of a hovered row.
     readonly property real hoverOpacity: 0.6
 

@@ -34,7 +34,7 @@ PlainButton {
             text: line.target.folder
             horizontalAlignment: Text.AlignLeft
             font: Typeface.mono(10.5)
-            color: line.hovered ? PaletteKey.palette.text : PaletteKey.palette.text3
+            color: line.hovered ? PaletteKey.palette.text : PaletteKey.palette.text2
             elide: Text.ElideMiddle
             Accessible.ignored: true
         }
