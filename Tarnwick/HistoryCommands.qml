@@ -21,7 +21,7 @@ CommandMenu {
         lastNote = note.createObject(parent, { owner: parent, text: sentence }) as Note;
     }
 
-    title: qsTr("History")
+    title: qsTr("H&istory")
     onAboutToShow: hasRuns = Runs.history(analyzer).count > 0
     commands: [
         Command {
