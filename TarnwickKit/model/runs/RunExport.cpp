@@ -10,6 +10,7 @@
 #include "TarnwickKit/model/runs/RunText.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -130,7 +131,8 @@ QString markdownCell(const QString& text) {
         if (character == u'@') // neither a mention nor an address
             cell += zeroWidthNonJoiner;
     }
-    return cell.replace(u"://"_s, u"\\://"_s).replace(u"www."_s, u"www\\."_s, Qt::CaseInsensitive);
+    static const QRegularExpression host(u"(www)\\."_s, QRegularExpression::CaseInsensitiveOption);
+    return cell.replace(u"://"_s, u"\\://"_s).replace(host, u"\\1\\."_s);
 }
 
 struct MarkdownRow {

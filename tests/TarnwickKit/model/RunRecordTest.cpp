@@ -535,9 +535,9 @@ TEST(RunExport, CsvCellsAreTextsAndNumbers) {
 }
 
 TEST(RunExport, MarkdownStaysATable) {
-    const QString title = "a|b `c` <img src=x>\n[x](http://y) *b* _i_ www.z &amp; @me \\ #1 \u202E";
+    const QString title = "a|b `c` <img src=x>\n[x](http://y) *b* _i_ wWw.z &amp; @me \\ #1 \u202E";
     const QString cell =
-        "| a\\|b \\`c\\` &lt;img src=x&gt;�\\[x\\](http\\://y) \\*b\\* \\_i\\_ www\\.z &amp;amp; "
+        "| a\\|b \\`c\\` &lt;img src=x&gt;�\\[x\\](http\\://y) \\*b\\* \\_i\\_ wWw\\.z &amp;amp; "
         "@\u200Cme \\\\ \\#1 � |";
     const RunRecord run = foreignRun(title);
     const QStringList beside = markdownTable({run, run}).split('\n');
