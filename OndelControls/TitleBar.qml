@@ -36,6 +36,7 @@ Item {
         x: Math.max(12, Math.min(centred, buttons.x - 12 - width))
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, Math.max(0, buttons.x - 24))
+        visible: width >= Math.min(implicitWidth, 60)
         text: bar.window.title
         font.pixelSize: Metrics.textSize
         font.weight: Font.DemiBold
@@ -108,6 +109,7 @@ Item {
 
         BaseMenuItem {
             text: qsTr("Minimize")
+            enabled: bar.isResizable
             onTriggered: bar.window.showMinimized()
         }
         BaseMenuItem {

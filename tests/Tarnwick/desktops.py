@@ -21,6 +21,7 @@ from driver import check
 PICTURES = pathlib.Path("/run/pictures")
 HOME = pathlib.Path.home()
 ASSISTIVE = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}  # as if a screen reader were there
+SCREEN = 1440, 900
 DARK_PIXEL = 96  # the greatest mean of red, green and blue
 
 # The window of another application, which asks for nothing.
@@ -73,7 +74,7 @@ class Plasma(X11, Hand):
     open_file = ("kde-open5",)
 
     def start(self):
-        begin("Xvfb", ":0", "-screen", "0", "1440x900x24", "-nolisten", "tcp")
+        begin("Xvfb", ":0", "-screen", "0", "{}x{}x24".format(*SCREEN), "-nolisten", "tcp")
         becomes("an X server", lambda: subprocess.run(["xdpyinfo"], capture_output=True).returncode == 0)
         do("dbus-update-activation-environment", *self.environment, *ASSISTIVE)
         for program in "kwin_x11", "kded5", "plasmashell":
@@ -140,7 +141,7 @@ class Gnome(Hand):
         from gi.repository import Gio
         self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
         self.set_dark(False)  # the settings' file is there before anybody watches it, as after a first login
-        begin("gnome-shell", "--headless", "--wayland", "--virtual-monitor", "1440x900", "--unsafe-mode")
+        begin("gnome-shell", "--headless", "--wayland", "--virtual-monitor", "{}x{}".format(*SCREEN), "--unsafe-mode")
         do("gdbus", "wait", "--session", "--timeout", "60", "org.gnome.Shell")
         becomes("a started shell", lambda: self.ask("Main.layoutManager._startingUp") is False)
         do("dbus-update-activation-environment", *self.environment, *ASSISTIVE)
@@ -320,8 +321,9 @@ def asks_for_a_folder_in_a_dialog_of_its_own():
         becomes("the focus back", lambda: desktop.active() == main)
 
 
-def light_part(window):
-    """Which share of the window's frame, its decoration included, is light: a band of 3 pixels around, and the title bar."""
+def light_parts(window):
+    """Which share is light of the window's frame, its decoration included (a band of 3 pixels around, and the title bar), and
+    which of the whole window."""
     import gi
     gi.require_version("GdkPixbuf", "2.0")
     from gi.repository import GdkPixbuf
@@ -330,24 +332,26 @@ def light_part(window):
     shown = GdkPixbuf.Pixbuf.new_from_file(str(path))
     left, top, width, height = desktop.frame(window)
     data, row, step = shown.get_pixels(), shown.get_rowstride(), shown.get_n_channels()
-    places = [(x, y) for y in range(height) for x in range(width) if y < 24 or min(x, width - 1 - x, height - 1 - y) < 3]
-    places = [(left + x, top + y) for x, y in places if 0 <= left + x < shown.get_width() and 0 <= top + y < shown.get_height()]
-    light = sum(1 for x, y in places if sum(data[y * row + x * step:][:3]) > 3 * DARK_PIXEL)
-    return light / len(places)
+
+    def part(places):
+        on_screen = [(left + x, top + y) for x, y in places if 0 <= left + x < SCREEN[0] and 0 <= top + y < SCREEN[1]]
+        return sum(sum(data[y * row + x * step:][:3]) > 3 * DARK_PIXEL for x, y in on_screen) / len(on_screen)
+    band = [(x, y) for y in range(height) for x in range(width) if y < 24 or min(x, width - 1 - x, height - 1 - y) < 3]
+    return part(band), part([(x, y) for y in range(0, height, 5) for x in range(0, width, 5)])
 
 
 def follows_the_dark():
     with from_menu() as window:
         window.find("Choose a volume to begin")
-        becomes("a light frame", lambda: light_part(window.id()) > 0.8)
+        becomes("a light window", lambda: min(light_parts(window.id())) > 0.8)
         desktop.set_dark(True)
         try:
-            becomes("a dark frame", lambda: light_part(window.id()) < 0.1)
+            becomes("a dark window", lambda: max(light_parts(window.id())) < 0.1)
         finally:
             window.settled()
             look("dark")
             desktop.set_dark(False)
-        becomes("a light frame again", lambda: light_part(window.id()) > 0.8)
+        becomes("a light window again", lambda: min(light_parts(window.id())) > 0.8)
         look("light")
 
 
@@ -360,7 +364,7 @@ def has_a_frame():
         bar = left + width // 2, top + 12
         for _ in range(2):
             desktop.click(*bar)
-        becomes("maximized", lambda: desktop.frame(window.id())[2] > 1400)
+        becomes("maximized", lambda: desktop.frame(window.id())[2] >= SCREEN[0])
         window.settled()
         look("maximized")
         for _ in range(2):
