@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import OndelAppSupport.views
+import OndelControls
 import TarnwickKit.views
 import Tarnwick
 
