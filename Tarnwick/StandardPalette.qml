@@ -16,8 +16,8 @@ Palette {
     buttonText: colors.text
     highlight: colors.accent
     highlightedText: colors.onAccent
-    placeholderText: colors.text3
-    link: colors.teal
+    placeholderText: colors.text2
+    link: colors.link
     mid: colors.border
     midlight: colors.borderSoft
     toolTipBase: colors.panel

@@ -59,6 +59,7 @@ Window {
             active: AppSupport.nudges.showsNote
 
             SupportBanner {
+                highContrast: Appearance.contrast
                 width: parent?.width ?? 0
             }
         }

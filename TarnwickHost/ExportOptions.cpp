@@ -95,6 +95,8 @@ bool OutputFile::write(const std::optional<QByteArray>& content) const {
 
 std::optional<OutputFile> outputFile(const CommandLine& line) {
     const auto path = line.value("--output");
+    if (!path && line.has("--force"))
+        throw UsageError("--force goes with --output only");
     return path ? std::optional(OutputFile(*path, line.has("--force"))) : std::nullopt;
 }
 

@@ -42,7 +42,7 @@ private:
     bool m_isForced;
 };
 
-/// Absent without --output. Fails: as OutputFile.
+/// Absent without --output. Fails: as OutputFile, and on --force without it.
 std::optional<OutputFile> outputFile(const CommandLine& line);
 
 } // namespace TarnwickHost

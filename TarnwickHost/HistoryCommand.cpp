@@ -131,6 +131,19 @@ int deleteRuns(const CommandLine& line, HistoryStore& history, Words words) {
     return failed;
 }
 
+/// Fails: throws UsageError for an option of another action.
+void requireOwnOptions(const CommandLine& line, std::string_view action) {
+    const auto requireFor = [&](std::string_view option, std::string_view one, std::string_view other) {
+        if (line.has(option) && action != one && action != other)
+            throw UsageError(std::string(option) + " goes with " + std::string(one) +
+                             (other.empty() ? "" : " and ") + std::string(other) + " only");
+    };
+    requireFor("--format", "show", "export");
+    requireFor("--output", "export", {});
+    requireFor("--force", "export", {});
+    requireFor("--all", "delete", {});
+}
+
 int executeHistory(const CommandLine& line) {
     Words words = line.operands();
     const std::string_view action = words.empty() ? "list" : words.front();
@@ -138,6 +151,7 @@ int executeHistory(const CommandLine& line) {
     constexpr std::array<std::string_view, 4> actions{"list", "show", "export", "delete"};
     if (std::ranges::find(actions, action) == actions.end())
         throw UsageError("history can list, show, export and delete, not " + quoted(action));
+    requireOwnOptions(line, action);
     const auto form = exportForm(line);
     HistoryStore history;
     if (action == "delete")

@@ -58,6 +58,7 @@ endfunction()
 # ondel_pkg_config(ondel DESCRIPTION "…" REQUIRES "Qt6Core >= 6.4")
 function(ondel_pkg_config name)
   cmake_parse_arguments(PC "" "DESCRIPTION;REQUIRES" "" ${ARGN})
+  file(RELATIVE_PATH up /${CMAKE_INSTALL_LIBDIR}/pkgconfig /) # wherever the prefix is at installation
   configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/library.pc.in ${name}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT libtarnwick-dev)

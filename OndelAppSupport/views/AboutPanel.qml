@@ -22,6 +22,7 @@ PanelWindow {
         property bool first: false
 
         PlainText {
+            anchors.verticalCenter: parent.verticalCenter
             visible: !credit.first
             text: " · "
             font.pixelSize: Metrics.scaled(11)
@@ -57,7 +58,7 @@ PanelWindow {
         }
         BodyText {
             anchors.horizontalCenter: parent.horizontalCenter
-            bottomPadding: 6
+            bottomPadding: 1
             text: qsTr("Version %1").arg(AppSupport.appVersion)
             font.pixelSize: Metrics.scaled(11)
         }

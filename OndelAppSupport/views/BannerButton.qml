@@ -9,6 +9,7 @@ BaseButton {
     id: button
 
     property bool prominent: false
+    property color prominentColor: OndelBrand.coralButton
     /// How far the area to press extends over the button's upper and lower edge.
     readonly property real reach: Math.max(0, (Metrics.leastTarget - implicitContentHeight) / 2 - (prominent ? 5 : 4))
 
@@ -32,6 +33,6 @@ BaseButton {
     }
     background: Card {
         radius: button.corner
-        color: button.prominent ? OndelBrand.coralButton : Qt.rgba(1, 1, 1, 0.16)
+        color: button.prominent ? button.prominentColor : Qt.rgba(1, 1, 1, 0.16)
     }
 }

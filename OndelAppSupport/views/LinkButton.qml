@@ -10,6 +10,7 @@ BaseButton {
     property real textSize: Metrics.captionSize
 
     corner: 1
+    verticalPadding: Math.max(0, (Metrics.leastTarget - implicitContentHeight) / 2)
     cursorShape: Qt.PointingHandCursor
     dimsWhenInactive: false
     Accessible.role: Accessible.Link

@@ -15,6 +15,7 @@ class OndelBrand : public QObject {
     Q_PROPERTY(QColor navy MEMBER navy CONSTANT)
     Q_PROPERTY(QColor coral MEMBER coral CONSTANT)
     Q_PROPERTY(QColor coralButton MEMBER coralButton CONSTANT)
+    Q_PROPERTY(QColor deepCoral MEMBER deepCoral CONSTANT)
 public:
     using QObject::QObject;
 
@@ -22,6 +23,7 @@ public:
     const QColor navy{18, 64, 106};
     const QColor coral{252, 128, 88};
     const QColor coralButton{239, 108, 69};
+    const QColor deepCoral{150, 44, 12}; ///< under white text, for high contrast
 };
 
 } // namespace OndelAppSupport::views

@@ -10,6 +10,7 @@ Card {
 
     property SupportNudges nudges: AppSupport.nudges
     property appIdentity app: AppSupport.app
+    property bool highContrast: false
     readonly property bool fitsOneRow: width >= 24 + heart.width + 8 + Math.max(free.implicitWidth, plea.implicitWidth) + 12 + buttons.width
     readonly property real shownHeight: ask.height - 2 * ask.reach
 
@@ -73,6 +74,7 @@ Card {
 
             anchors.verticalCenter: parent.verticalCenter
             prominent: true
+            prominentColor: banner.highContrast ? OndelBrand.deepCoral : OndelBrand.coralButton
             label: qsTr("Support on Ko-fi")
             onClicked: banner.nudges.openSupportPage(true)
         }

@@ -185,7 +185,7 @@ class Desktop:
         self.bus.emit_signal(None, PATH, "org.freedesktop.portal.Settings", "SettingChanged", GLib.Variant("(ssv)", setting))
 
     def command(self, source, _condition):
-        line = source.readline().strip()
+        line = source.readline().decode().strip()
         if not line:
             loop.quit()
         elif line == "press":
@@ -217,5 +217,6 @@ class Desktop:
 
 loop = GLib.MainLoop()
 desktop = Desktop(None if sys.argv[1] == "behind" else int(sys.argv[1]), "refuses" in sys.argv[2:], "files" in sys.argv[2:])
-GLib.io_add_watch(sys.stdin, GLib.IO_IN | GLib.IO_HUP, desktop.command)
+commands = open(0, "rb", buffering=0)  # a buffer would keep lines that nothing announces any more
+GLib.io_add_watch(commands, GLib.IO_IN | GLib.IO_HUP, desktop.command)
 loop.run()

@@ -3,6 +3,7 @@
 
 import pathlib
 import re
+import subprocess
 import sys
 
 import driver
@@ -125,6 +126,23 @@ def compares_and_clears(program):
         window.quits()
 
 
+def follows_the_terminal(program, folder):
+    """What tarnwick-host adds and deletes is there as soon as one comes back to the window."""
+    def host(*words):
+        return subprocess.run([pathlib.Path(program).with_name("tarnwick-host"), *words], check=True, stdout=subprocess.PIPE, text=True).stdout
+
+    with driver.Window(program) as window:
+        window.find("Choose a volume to begin")
+        host("run", "--tests", "fileOps", "--file-ops", "1", "--keep", str(folder))
+        window.keys("ctrl+comma")
+        driver.focus("Settings")
+        window.until("the run", lambda: len(rows(window)) == 1)
+        host("history", "delete", host("history").splitlines()[1].split()[0])
+        driver.focus(driver.MAIN)
+        window.until("its end", lambda: rows(window) == [])
+        window.quits()
+
+
 if __name__ == "__main__":
     driver.enter_display()
     saved_runs.lay_down([saved_runs.run(0, customTitle="Old drive"), saved_runs.run(1), saved_runs.run(2)])
@@ -133,3 +151,4 @@ if __name__ == "__main__":
         nothing_left(pathlib.Path(name))
         finds_opens_and_deletes(sys.argv[1])
         compares_and_clears(sys.argv[1])
+        follows_the_terminal(sys.argv[1], name)

@@ -238,9 +238,12 @@ class Window:
     def enabled(self, name, role=None):
         return self.find(name, role).get_description() != "Not available now"
 
+    def actions(self, node):
+        return [node.get_action_name(i) for i in range(node.get_n_actions())]
+
     def press(self, name, role=None):
         node = self.find(name, role)
-        actions = [node.get_action_name(i) for i in range(node.get_n_actions())]
+        actions = self.actions(node)
         for wanted in ("Press", "Toggle"):
             if wanted in actions:
                 node.do_action(actions.index(wanted))
@@ -336,6 +339,5 @@ class Window:
     def tree(self):
         lines = []
         for node, depth in self.nodes():
-            actions = [node.get_action_name(i) for i in range(node.get_n_actions())]
-            lines.append(f"{'  ' * depth}{node.get_role_name()} {node.get_name()!r} {node.get_description()!r} {actions}")
+            lines.append(f"{'  ' * depth}{node.get_role_name()} {node.get_name()!r} {node.get_description()!r} {self.actions(node)}")
         return "\n".join(lines)

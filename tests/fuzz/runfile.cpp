@@ -1,4 +1,7 @@
+#include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
+#include "TarnwickKit/model/runs/RunExport.h"
+#include "TarnwickKit/model/runs/RunText.h"
 #include "fuzz/Fuzz.h"
 
 using namespace TarnwickKit::model;
@@ -8,6 +11,15 @@ void fuzz::read(Bytes bytes) {
     const auto runs = decodeRuns(viewOf(bytes));
     const auto recovered = recoverRuns(viewOf(bytes));
     require(!runs || *runs == recovered);
+    // What is exported can be read again, and steers nothing on its way.
+    if (runs) {
+        require(requireRuns(jsonList(*runs)) == *runs);
+        require(isExport(csvTable(*runs)));
+        for (const QString& text :
+             {runTexts(*runs), markdownTable(*runs), QString::fromUtf8(csvTable(*runs)).remove("\r\n")})
+            for (const QString& line : text.split('\n'))
+                require(harmless(line) == line);
+    }
     const auto run = decodeRun(viewOf(bytes));
     if (!run)
         return;

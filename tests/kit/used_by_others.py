@@ -185,7 +185,7 @@ if __name__ == "__main__":
         status, words, errors = tells(examples / "c/build/measure-in-c", folder)
         check(status == 0 and words.startswith("Write  "), f"measure-in-c: {words}{errors}")
         print(f"measure-in-c:\n{words.rstrip()}")
-        status, _, errors = tells("timeout", "3", examples / "window/build/live-chart", folder, QT_QPA_PLATFORM="offscreen", QT_QUICK_BACKEND="software")
+        status, _, errors = tells("timeout", "3", examples / "window/build/live-chart", folder, QT_QPA_PLATFORM="offscreen", QT_QUICK_BACKEND="software", XDG_RUNTIME_DIR=name)
         check((status, errors) == (124, ""), f"live-chart ends with {status}: {errors}")
         check(not os.listdir(folder), "an example leaves something behind")
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OndelCore/Export.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QByteArray>
@@ -28,7 +29,7 @@ inline constexpr double largestShownFigure = 9.0e18;
 /// would say so under "formatVersion"; without that key it is of this version.
 inline constexpr std::int64_t runFormatVersion = 1;
 
-std::optional<QByteArray> encodeRun(const RunRecord& run);
+ONDEL_KIT std::optional<QByteArray> encodeRun(const RunRecord& run);
 std::optional<RunRecord> decodeRun(QByteArrayView json);
 /// An array of runs.
 std::optional<std::vector<RunRecord>> decodeRuns(QByteArrayView json);

@@ -23,7 +23,7 @@ Column {
         x: ViewMetrics.cardPadding
         text: view.title
         font: Typeface.mono(10.5, 1.5)
-        color: PaletteKey.palette.text3
+        color: PaletteKey.palette.text2
         Accessible.ignored: true
     }
     ThroughputChart {

@@ -13,8 +13,8 @@ BaseMenuItem {
     keysFont: Typeface.text(12)
     ink: highlighted ? PaletteKey.palette.onAccent
         : isHeading ? PaletteKey.palette.text3
-        : destructive ? PaletteKey.palette.coralink : PaletteKey.palette.text
+        : destructive ? PaletteKey.palette.danger : PaletteKey.palette.text
     symbolColor: highlighted ? ink : PaletteKey.palette.text2
-    keysColor: highlighted ? ink : PaletteKey.palette.text3
+    keysColor: highlighted ? ink : PaletteKey.palette.text2
     highlight: PaletteKey.palette.accent
 }

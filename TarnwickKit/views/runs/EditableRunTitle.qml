@@ -79,7 +79,7 @@ Item {
             selectionColor: PaletteKey.palette.accent
             selectedTextColor: PaletteKey.palette.onAccent
             prompt: qsTr("Report title")
-            promptColor: PaletteKey.palette.text3
+            promptColor: PaletteKey.palette.text2
             Component.onCompleted: {
                 text = title.facts.customTitle; // assigned, not bound: a change of the run must not undo what is typed
                 forceActiveFocus();

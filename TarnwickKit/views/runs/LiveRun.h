@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TarnwickKit/model/session/SteadyCountdown.h"
 #include "TarnwickKit/views/window/ModelObserver.h"
 
 #include <QElapsedTimer>

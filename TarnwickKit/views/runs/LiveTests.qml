@@ -31,7 +31,7 @@ ColumnLayout {
             Layout.fillWidth: true
             text: qsTr("Whole run")
             font: Typeface.mono(10.5, 1.5)
-            color: PaletteKey.palette.text3
+            color: PaletteKey.palette.text2
             elide: Text.ElideRight
             Accessible.ignored: true
         }

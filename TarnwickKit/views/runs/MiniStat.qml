@@ -57,7 +57,7 @@ ColumnLayout {
             text: stat.note
             horizontalAlignment: Text.AlignRight
             font: Typeface.mono(10.5)
-            color: stat.PaletteKey.palette.text3
+            color: stat.PaletteKey.palette.text2
             elide: Text.ElideLeft
             Accessible.ignored: true
         }

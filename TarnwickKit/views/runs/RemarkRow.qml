@@ -49,7 +49,7 @@ Row {
             text: row.remark.advice
             wrapMode: Text.Wrap
             font: Typeface.text(12)
-            color: row.PaletteKey.palette.text3
+            color: row.PaletteKey.palette.text2
             Accessible.ignored: true
         }
     }

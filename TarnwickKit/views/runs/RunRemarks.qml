@@ -48,7 +48,7 @@ Column {
                     anchors.verticalCenter: parent.verticalCenter
                     visible: FiguresPage.isInstalled
                     label: qsTr("What these remarks mean")
-                    textColor: section.PaletteKey.palette.teal
+                    textColor: section.PaletteKey.palette.link
                     onClicked: FiguresPage.open()
                 }
             }

@@ -35,7 +35,7 @@ Card {
             anchors.verticalCenter: parent.verticalCenter
             text: "–"
             font: Typeface.text(13)
-            color: PaletteKey.palette.text3
+            color: PaletteKey.palette.text2
             Accessible.ignored: true
         }
         TextButton {
@@ -43,7 +43,7 @@ Card {
             label: qsTr("Undo")
             hint: qsTr("Ctrl+Z")
             textFont: Typeface.text(13, Font.DemiBold)
-            textColor: PaletteKey.palette.teal
+            textColor: PaletteKey.palette.link
             onClicked: note.analyzer.undoDeletion()
         }
     }

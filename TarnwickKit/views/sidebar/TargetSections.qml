@@ -55,7 +55,7 @@ Column {
                             visible: text !== ""
                             text: sections.target.featuresNote
                             font: Typeface.text(11)
-                            color: PaletteKey.palette.text3
+                            color: PaletteKey.palette.text2
                             wrapMode: Text.Wrap
                         }
                     }
@@ -120,7 +120,7 @@ Column {
                 text: sections.target.healthNote
                 wrapMode: Text.Wrap
                 font: Typeface.text(12)
-                color: PaletteKey.palette.text3
+                color: PaletteKey.palette.text2
             }
         }
     }

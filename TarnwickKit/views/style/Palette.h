@@ -61,6 +61,8 @@ class Palette final : public QObject {
     Q_PROPERTY(QList<QColor> series MEMBER series CONSTANT)
     Q_PROPERTY(QColor onStop READ onStop CONSTANT)
     Q_PROPERTY(QColor warning READ warning CONSTANT)
+    Q_PROPERTY(QColor link READ link CONSTANT)
+    Q_PROPERTY(QColor danger READ danger CONSTANT)
 
 public:
     static const Palette& light();
@@ -77,6 +79,10 @@ public:
     /// Symbols that tell a warning besides the colour of its text. `amber` is too pale for them on light
     /// grounds.
     QColor warning() const { return this == &light() ? QColor::fromRgb(0x9a5f12) : amber; }
+
+    /// Text that can be pressed, and what deletes, where `teal` and `coralink` are too pale for text.
+    QColor link() const { return this == &light() ? QColor::fromRgb(0x0d6c7e) : teal; }
+    QColor danger() const { return this == &light() ? QColor::fromRgb(0xb84520) : coralink; }
 
     /// The two stops of the gradient behind a volume's symbol.
     std::pair<QColor, QColor> badgeColors(model::RunRecord::Kind kind) const;

@@ -24,7 +24,7 @@ PlainButton {
     }
     background: Card {
         radius: button.corner
-        color: button.destructive ? PaletteKey.palette.coralink
+        color: button.destructive ? PaletteKey.palette.danger
                                   : button.prominent ? PaletteKey.palette.accent : PaletteKey.palette.panel2
         outline: button.prominent ? "transparent" : PaletteKey.palette.border
     }

@@ -1,5 +1,7 @@
 #include "TarnwickKit/model/session/LiveProgress.h"
 
+#include "TarnwickKit/model/session/SteadyCountdown.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>

@@ -52,7 +52,9 @@ TEST(Palette, ContrastOfTextAndMarks) {
             for (const QColor& text : {p->text, p->text2, p->heading})
                 EXPECT_GE(contrast(text, ground), isHigh ? 7 : 4.5) << where;
             EXPECT_GE(contrast(p->accent, ground), 3) << where; // what is highlighted or selected
-            EXPECT_GE(contrast(p->warning(), ground), isHigh ? 7 : 4.5) << where;
+            for (const QColor& text : {p->warning(), p->link(), p->danger()})
+                EXPECT_GE(contrast(text, ground), isHigh ? 7 : 4.5)
+                    << text.name().toStdString() << " in " << where;
             if (!isHigh)
                 continue;
             for (const QColor& text : {p->text3, p->coralink, p->teal, p->amber, p->good})
@@ -94,7 +96,7 @@ TEST(Palette, EveryFieldIsSetInAll) {
                 EXPECT_EQ(value.value<QList<QColor>>().size(), 7);
             }
         }
-    EXPECT_EQ(colors, 4 * 35);
+    EXPECT_EQ(colors, 4 * 37);
     EXPECT_NEAR(Palette::dark().shadow.alphaF(), 0.55, 0.001);
     EXPECT_EQ(Palette::dark().accent, Palette::light().onAccent);
     EXPECT_NE(Palette::dark().grid, Palette::dark().borderSoft);
