@@ -57,7 +57,9 @@ public:
 void prepareEngine(QQmlEngine& engine) {
     static RefusingFactory factory; // stateless, and the engine does not own it
     engine.setNetworkAccessManagerFactory(&factory);
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    addModules(engine);
 }
+
+void addModules(QQmlEngine& engine) { engine.addImportPath(QStringLiteral("qrc:/qt/qml")); }
 
 } // namespace OndelControls

@@ -9,4 +9,8 @@ namespace OndelControls {
 /// To be called before anything is loaded. Threads: the engine's.
 void prepareEngine(QQmlEngine& engine);
 
+/// Only lets an engine find these modules: for the engine of another program, whose network is its own.
+/// Threads: the engine's.
+void addModules(QQmlEngine& engine);
+
 } // namespace OndelControls

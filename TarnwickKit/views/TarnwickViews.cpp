@@ -1,16 +1,15 @@
 #include "TarnwickKit/views/TarnwickViews.h"
 
+#include "OndelControls/ViewEngine.h"
 #include "TarnwickKit/views/sharing/ReportImage.h"
 #include "TarnwickKit/views/style/Palette.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
-
-#include <QQmlEngine>
 
 namespace TarnwickKit::views {
 
 void addTo(QQmlEngine& engine) {
     TarnwickFonts::registerFrom();
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    OndelControls::addModules(engine);
 }
 
 ImageFile reportImage(const model::TarnwickReport& report, bool dark) {

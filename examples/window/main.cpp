@@ -1,13 +1,13 @@
 // A window of its own with a live chart of Ondel Tarnwick's beside its own button and text.
-#include <OndelCore/benchmark/BenchmarkEngine.h>
-#include <TarnwickKit/views/TarnwickViews.h>
-
 #include <QFuture>
 #include <QGuiApplication>
 #include <QPointF>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QTimer>
+
+#include <OndelCore/benchmark/BenchmarkEngine.h>
+#include <TarnwickKit/views/TarnwickViews.h>
 
 using namespace OndelCore::benchmark;
 
@@ -25,15 +25,19 @@ public:
         m_points.clear();
         m_running = true;
         Q_EMIT changed();
-        const BenchmarkPlan plan{.tests = {BenchmarkTest::sequentialWrite}, .size = BenchmarkSize::fixed(1073741824)};
+        const BenchmarkPlan plan{.tests = {BenchmarkTest::sequentialWrite},
+                                 .size = BenchmarkSize::fixed(1073741824)};
         const auto hear = [this](const BenchmarkProgress& now) { // on the thread that measures
             if (now.instantBytesPerSecond > 0)
-                QMetaObject::invokeMethod(this, [this, now] { add({now.elapsed, now.instantBytesPerSecond / 1e6}); });
+                QMetaObject::invokeMethod(
+                    this, [this, now] { add({now.elapsed, now.instantBytesPerSecond / 1e6}); });
         };
-        BenchmarkEngine().run(plan, m_folder, hear, m_stop.get_token()).then(this, [this](QFuture<BenchmarkResult>) {
-            m_running = false;
-            Q_EMIT changed();
-        });
+        BenchmarkEngine()
+            .run(plan, m_folder, hear, m_stop.get_token())
+            .then(this, [this](QFuture<BenchmarkResult>) {
+                m_running = false;
+                Q_EMIT changed();
+            });
     }
     Q_SIGNAL void changed();
 
