@@ -9,8 +9,7 @@
 #include <string>
 #include <string_view>
 
-/// The settings that a service of an X11 desktop publishes:
-/// https://specifications.freedesktop.org/xsettings-spec
+/// The settings that a service of an X11 desktop publishes (freedesktop.org, "XSETTINGS").
 namespace OndelDesktop {
 
 /// A setting whose value is a text. Fails: absent, also when `settings`, which another program wrote, is no

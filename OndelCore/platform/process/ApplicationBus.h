@@ -9,7 +9,7 @@
 namespace OndelCore::platform {
 
 /// Has an application of the desktop open a file: by its name on the session bus (Desktop Entry
-/// Specification, "D-Bus Activation"), which starts it if it does not run; where that fails, by the desktop's
+/// standard, "D-Bus Activation"), which starts it if it does not run; where that fails, by the desktop's
 /// opener for the file's type.
 ///
 /// `application`: its id ("tools.ondel.tarnwick"). Threads: any; needs no event loop; blocks for `patience`
