@@ -13,7 +13,6 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QSocketNotifier>
-#include <QTimer>
 
 #include <chrono>
 #include <utility>
@@ -57,6 +56,13 @@ AppDelegate::AppDelegate()
         if (window)
             m_model.history().refresh();
     });
+    m_attention.setInterval(focusPatience);
+    m_attention.setSingleShot(true);
+    connect(&m_attention, &QTimer::timeout, this, [this] {
+        if (m_window && !QGuiApplication::focusWindow())
+            OndelDesktop::askForAttention(m_window, product::id);
+    });
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, &m_attention, &QTimer::stop);
     // Direct, because the session ends when the call returns. The request to save the state is ignored:
     // session managers send it right after the start.
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &AppDelegate::endOfSession,
@@ -174,11 +180,8 @@ bool AppDelegate::take(const OndelDesktop::OpenRequest& request) {
     const bool isTaken = answer(request);
     if (hasLaunchFeedback())
         OndelDesktop::completeStartup(request.activationToken); // also if no window comes to the front
-    if (isTaken && m_window)
-        QTimer::singleShot(focusPatience, m_window, [window = m_window.get()] {
-            if (!window->isActive())
-                OndelDesktop::askForAttention(window, product::id);
-        });
+    if (isTaken)
+        m_attention.start();
     return isTaken;
 }
 

@@ -11,6 +11,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QSettings>
+#include <QTimer>
 #include <QUrl>
 #include <QWindow>
 #include <QtQml/qqmlregistration.h>
@@ -105,6 +106,7 @@ private:
     QFutureWatcher<void> m_end;
     bool m_terminating = false;
     QPointer<QWindow> m_window;
+    QTimer m_attention; ///< runs while a request may still bring the window forward
     std::deque<OndelDesktop::OpenRequest> m_toOpen;
     bool m_isDragWelcome = false;
     unsigned m_consideredDrags = 0;

@@ -82,7 +82,8 @@ Choice rowOf(const std::pair<std::string, std::string>& note) {
 
 QVariantMap optionsOf(const FileQuestion& question) {
     using Kind = FileQuestion::Kind;
-    // The window's own close button and menus stay usable. A dialog with a parent stays above it anyway.
+    // While a modal dialog is open, GNOME lets no press reach the window, not even its close button. A dialog
+    // with a parent stays above it anyway.
     QVariantMap options{{QStringLiteral("modal"), false}};
     if (question.kind == Kind::Folder)
         options.insert(QStringLiteral("directory"), true);
