@@ -50,20 +50,21 @@ Item {
         onClicked: title.edit()
 
         contentItem: RowLayout {
-            spacing: 6
-
             RunTitle {
                 id: words
 
                 text: title.facts.title
                 Accessible.ignored: true
             }
-            Symbol {
-                name: "pencil"
-                size: 11
-                color: PaletteKey.palette.text3
-                visible: button.hovered || button.visualFocus
-            }
+        }
+
+        Symbol { // in the space beside the title, so that nothing moves when it is shown
+            x: button.width + 1
+            y: (button.height - height) / 2
+            name: "pencil"
+            size: 11
+            color: PaletteKey.palette.text3
+            visible: button.hovered || button.visualFocus
         }
     }
     OnDemand {
