@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Layouts
 import OndelAppSupport.views
 import OndelControls
+import OndelControls
 import TarnwickKit.views
 import Tarnwick
 
