@@ -54,7 +54,7 @@ Item {
         spacing: 4
 
         CaptionButton {
-            visible: bar.isResizable
+            visible: bar.isResizable && bar.width >= 150 // else there is too little to move a narrow window by
             label: qsTr("Minimize")
             onClicked: bar.window.showMinimized()
 
