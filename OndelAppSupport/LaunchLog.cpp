@@ -1,12 +1,14 @@
 #include "OndelAppSupport/LaunchLog.h"
 
 #include "OndelAppSupport/report/BugReporter.h"
+#include "OndelCore/logging/LogScrubber.h"
 #include "OndelCore/logging/LogStore.h"
 #include "OndelCore/platform/process/DetachedThread.h"
 #include "OndelCore/platform/process/StandardFolders.h"
 
 #include <chrono>
 #include <future>
+#include <string>
 #include <utility>
 
 namespace OndelAppSupport {
@@ -18,6 +20,16 @@ using OndelCore::logging::LogOutput;
 std::optional<std::filesystem::path> logFolder() {
     const auto state = OndelCore::platform::stateHome();
     return state ? std::optional(*state / "Ondel Tarnwick") : std::nullopt;
+}
+
+void prepareLogging() {
+    OndelCore::platform::runDetached([] {
+        std::string line;
+        for (const QString& text : {BugReporter::appVersion(), BugReporter::osVersion(),
+                                    BugReporter::architecture(), BugReporter::hardwareModel()})
+            line += text.toStdString() + ' ';
+        LogOutput::shared().scrubber.scrub(line);
+    });
 }
 
 void startLogging(const LogOutput& output) {

@@ -12,6 +12,10 @@ namespace OndelAppSupport {
 /// without a home.
 std::optional<std::filesystem::path> logFolder();
 
+/// Makes ready on another thread what scrubs the first line, which takes some milliseconds. Threads: any;
+/// does not block.
+void prepareLogging();
+
 /// Starts writing the log to "ondel.log" in that folder, with version and system in the first line. Called
 /// once, when launching has finished. Threads: any. Fails: never; without a folder the log stays in memory.
 void startLogging(const OndelCore::logging::LogOutput& output = OndelCore::logging::LogOutput::shared());

@@ -49,6 +49,7 @@ int TarnwickApp::run(int argc, char** argv) {
     OpenRequest start{.urls = {}, .action = {}, .activationToken = OpenRequests::activationTokenOfStart()};
 
     OndelCore::platform::surviveFileSizeLimit();
+    OndelAppSupport::prepareLogging();
     if (!OndelCore::platform::sessionBusAnswers(busPatience))
         OndelCore::platform::doWithoutSessionBus();
     const auto application = startToolkit(argc, argv);

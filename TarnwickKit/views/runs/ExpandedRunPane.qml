@@ -92,12 +92,9 @@ CardFrame {
     Component {
         id: stamp
 
-        PlainText {
+        RunStamp {
             Layout.fillWidth: pane.isNarrow
             text: pane.facts.stamp
-            font: Typeface.mono(11.5)
-            color: PaletteKey.palette.text3
-            elide: Text.ElideRight
         }
     }
 

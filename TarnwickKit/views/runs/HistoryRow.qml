@@ -58,23 +58,11 @@ PlainButton {
             radius: 4
             color: row.facts.isNetwork ? row.PaletteKey.palette.amber : row.PaletteKey.palette.goodDot
         }
-        Card {
+        HistoryBadge {
             id: badge
 
-            implicitWidth: ViewMetrics.badgeSide
-            implicitHeight: ViewMetrics.badgeSide
-            radius: 8
             color: row.PaletteKey.palette.badgeStart(row.facts.kind)
             endColor: row.PaletteKey.palette.badgeEnd(row.facts.kind)
-            endPoint: Qt.point(0, 1)
-
-            Card {
-                anchors.centerIn: parent
-                width: 12
-                height: 12
-                radius: 3
-                color: Qt.rgba(1, 1, 1, 0.85)
-            }
         }
         HistoryWords {
             id: words

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Layouts
 import OndelControls
 import TarnwickKit.views
 
@@ -20,8 +19,10 @@ Column {
     readonly property int rowHeight: 26 + Metrics.scaled(hasTwoLines ? 84 : 39)
     /// How far below the visible part rows are made in advance. Units: logical pixels.
     readonly property real ahead: AssistiveTechnology.active ? Infinity : 12 * (rowHeight + spacing)
-    /// How many more rows may be made before the next frame. The first frame has no limit.
-    property real allowance: Infinity
+    /// How many more rows may be made before the next frame. The first frame has none, so that the window stands
+    /// sooner, and the second has all that are in view.
+    property real allowance: 0
+    property bool isFirst: true
     property bool isWaiting: false
 
     /// Makes the rows between two heights. False when the allowance is used up before. An entry at 0 has not been
@@ -56,55 +57,10 @@ Column {
 
     spacing: 10
 
-    RowLayout {
-        id: head
-
+    PreviousRunsHead {
         width: section.width
-        spacing: 10
-
-        HeadingText {
-            text: section.analyzer.compareMode ? qsTr("Select runs to compare") : qsTr("Previous runs")
-        }
-        Separator {
-            Layout.fillWidth: true
-            color: PaletteKey.palette.border
-        }
-        OnDemand {
-            active: !section.analyzer.compareMode
-
-            RowLayout {
-                spacing: head.spacing
-
-                TextButton {
-                    visible: section.analyzer.canCompare
-                    label: qsTr("Compare")
-                    onClicked: section.analyzer.toggleCompareMode()
-                }
-                TextButton {
-                    label: qsTr("Clear")
-                    onClicked: section.confirmClear()
-                }
-            }
-        }
-        OnDemand {
-            active: section.analyzer.compareMode
-
-            RowLayout {
-                spacing: head.spacing
-
-                TextButton {
-                    enabled: section.analyzer.compareSelectionCount >= 2
-                    label: qsTr("Compare %1").arg(section.analyzer.compareSelectionCount)
-                    textFont: Typeface.text(11, Font.DemiBold)
-                    textColor: PaletteKey.palette.heading
-                    onClicked: section.analyzer.beginComparison()
-                }
-                TextButton {
-                    label: qsTr("Cancel")
-                    onClicked: section.analyzer.toggleCompareMode()
-                }
-            }
-        }
+        analyzer: section.analyzer
+        onClearWanted: section.confirmClear()
     }
 
     OnDemand {
@@ -148,6 +104,11 @@ Column {
         enabled: section.isWaiting
 
         function onFrameSwapped(): void {
+            if (section.isFirst) {
+                section.isFirst = false;
+                section.allowance = Infinity;
+                section.makeRowsInView();
+            }
             section.allowance = 4;
             section.isWaiting = !section.makeRows(section.viewTop, section.viewTop + section.viewHeight)
                     || !section.makeRows(-Infinity, section.viewTop + section.viewHeight + section.ahead);

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import OndelControls
 import TarnwickKit.views
 
 /// The figures of the target's drive, and a button to export them.

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import OndelControls
-import TarnwickKit.views
 
 /// Lies under the open drawer and over the main pane, which it dims. A press beside the drawer closes it; nothing goes
 /// through to the main pane.

@@ -1,4 +1,4 @@
-#include "OndelControls/WindowGrip.h"
+#include "OndelControls/frame/WindowGrip.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
