@@ -98,7 +98,7 @@ def reports(window, proxy, home):
 def tells_about(window, home):
     window.press("Tarnwick")
     window.press("About Ondel Tarnwick")
-    window.find("Version 0.1.0 (1)")
+    window.find("Version 0.2.0 (1)")
     window.press("Acknowledgments")
     check(window.until("the notices", lambda: opened(home)).endswith("ThirdPartyNotices.txt"), "the notices")
 

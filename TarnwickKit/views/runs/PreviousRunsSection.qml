@@ -19,10 +19,8 @@ Column {
     readonly property int rowHeight: 26 + Metrics.scaled(hasTwoLines ? 84 : 39)
     /// How far below the visible part rows are made in advance. Units: logical pixels.
     readonly property real ahead: AssistiveTechnology.active ? Infinity : 12 * (rowHeight + spacing)
-    /// How many more rows may be made before the next frame. The first frame has none, so that the window stands
-    /// sooner, and the second has all that are in view.
-    property real allowance: 0
-    property bool isFirst: true
+    /// How many more rows may be made before the next frame. The first frame has no limit.
+    property real allowance: Infinity
     property bool isWaiting: false
 
     /// Makes the rows between two heights. False when the allowance is used up before. An entry at 0 has not been
@@ -104,11 +102,6 @@ Column {
         enabled: section.isWaiting
 
         function onFrameSwapped(): void {
-            if (section.isFirst) {
-                section.isFirst = false;
-                section.allowance = Infinity;
-                section.makeRowsInView();
-            }
             section.allowance = 4;
             section.isWaiting = !section.makeRows(section.viewTop, section.viewTop + section.viewHeight)
                     || !section.makeRows(-Infinity, section.viewTop + section.viewHeight + section.ahead);

@@ -11,7 +11,6 @@ Rectangle {
     required property AnalyzerModel analyzer
     required property TargetFacts target
     required property FocusKeeper keeper
-    readonly property Item notes: passing
     readonly property int margin: width < ViewMetrics.smallPane ? ViewMetrics.smallPaneMargin : ViewMetrics.paneMargin
     /// A comparison replaces the phase's pane.
     readonly property bool showsPhase: !analyzer.isComparing
@@ -25,6 +24,7 @@ Rectangle {
     }
 
     color: PaletteKey.palette.body
+    Component.onCompleted: keeper.passing = passing
 
     StoredRuns {
         id: runs
