@@ -23,6 +23,7 @@ using TarnwickKit::model::DriveIdentity;
 using TarnwickKit::model::DriveInfo;
 using TarnwickKit::model::harmless;
 using TarnwickKit::model::SMARTReport;
+using TarnwickKit::model::textColumns;
 
 namespace TarnwickHost {
 

@@ -7,6 +7,7 @@
 #include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/model/runs/HistoryStore.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
+#include "TarnwickKit/model/runs/RunFile.h"
 
 #include <algorithm>
 #include <array>
