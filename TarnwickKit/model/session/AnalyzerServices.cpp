@@ -5,6 +5,8 @@
 #include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickKit/model/session/DriveInfo.h"
 
+#include <QFuture>
+
 namespace TarnwickKit::model {
 
 using OndelCore::benchmark::BenchmarkEngine;
