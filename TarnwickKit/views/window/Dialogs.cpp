@@ -164,7 +164,7 @@ void Dialogs::askForExportFile(const QString& proposedName, const QString& kind,
     ask(question, [chosen](const std::vector<fs::path>& files) { chosen(files.front()); });
 }
 
-void Dialogs::askForRunFiles(std::function<void(const std::vector<fs::path>&)> chosen) {
+void Dialogs::askForRunFiles(const std::function<void(const std::vector<fs::path>&)>& chosen) {
     const Question question{.kind = Question::Kind::Files,
                             .title = QFileDialog::tr("Open").toStdString(),
                             .acceptLabel = {},

@@ -36,7 +36,7 @@ public:
     void showError(const QString& sentence) override;
 
     /// Asks for existing run files, one or several.
-    void askForRunFiles(std::function<void(const std::vector<std::filesystem::path>&)> chosen);
+    void askForRunFiles(const std::function<void(const std::vector<std::filesystem::path>&)>& chosen);
 
     void close();
 
