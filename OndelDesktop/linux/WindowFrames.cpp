@@ -19,7 +19,8 @@ void withdrawn(void*, wl_registry*, std::uint32_t) {}
 
 } // namespace
 
-/// Over a connection of its own, because Qt 6.4 hands out its own through private headers only.
+/// Over a connection of its own: the answer decides how the first window is made, and Qt's own connection is
+/// read by its event loop, which does not run yet.
 bool compositorDrawsFrames() {
     const std::unique_ptr<wl_display, decltype(&wl_display_disconnect)> display(wl_display_connect(nullptr),
                                                                                 wl_display_disconnect);
