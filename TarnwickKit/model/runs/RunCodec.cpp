@@ -39,9 +39,7 @@ void write(JsonWriter& json, const QUuid& value) {
     json.string(value.toString(QUuid::WithoutBraces).toUpper());
 }
 void write(JsonWriter& json, const QDateTime& value) { json.string(value.toUTC().toString(dateForm)); }
-void write(JsonWriter& json, RunRecord::Kind value) {
-    json.string(QString::fromLatin1(kinds.at(static_cast<std::size_t>(value)).second));
-}
+void write(JsonWriter& json, RunRecord::Kind value) { json.string(QString::fromLatin1(rawValue(value))); }
 void write(JsonWriter& json, const std::vector<RunSample>& samples) {
     json.beginArray();
     for (const RunSample& sample : samples) {
@@ -268,5 +266,7 @@ std::vector<RunRecord> recoverRuns(QByteArrayView text) {
     }
     return runs;
 }
+
+std::string_view rawValue(RunRecord::Kind kind) { return kinds.at(static_cast<std::size_t>(kind)).second; }
 
 } // namespace TarnwickKit::model

@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 namespace TarnwickKit::model {
@@ -38,5 +39,8 @@ std::vector<RunRecord> requireRuns(QByteArrayView json);
 /// The readable runs of a damaged array, in order. Invalid UTF-8 becomes replacement characters. Fails:
 /// empty.
 std::vector<RunRecord> recoverRuns(QByteArrayView json);
+
+/// The name of a kind in files: "internalDrive".
+std::string_view rawValue(RunRecord::Kind kind);
 
 } // namespace TarnwickKit::model

@@ -54,17 +54,7 @@ QString csvCell(bool value) { return value ? u"true"_s : u"false"_s; }
 QString csvCell(const QUuid& value) { return value.toString(QUuid::WithoutBraces).toUpper(); }
 QString csvCell(const QString& value) { return csvText(value); }
 QString csvCell(const QDateTime& value) { return value.toUTC().toString(Qt::ISODate); }
-QString csvCell(RunRecord::Kind value) {
-    switch (value) {
-    case RunRecord::Kind::internalDrive:
-        return u"internalDrive"_s;
-    case RunRecord::Kind::external:
-        return u"external"_s;
-    case RunRecord::Kind::network:
-        return u"network"_s;
-    }
-    return {};
-}
+QString csvCell(RunRecord::Kind value) { return QString::fromLatin1(rawValue(value)); }
 /// "invalid:fromMemory:sequentialRead note:virtualDisk"
 QString csvCell(const std::vector<Remark>& remarks) {
     QStringList names;
