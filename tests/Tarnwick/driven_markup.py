@@ -85,10 +85,9 @@ def cards_are_drawn(host, files, lures):
 
 
 def rows(window):
-    """The visible rows of the history, by the text below the title. From bottom to top, because an opened row moves those below
-    it out of view."""
-    return [node for node, _ in window.nodes()
-            if driver.role_of(node) == "push button" and " · " in node.get_description() and window.shows(node, "SHOWING")][::-1]
+    """The visible rows of the history by their texts. From bottom to top, because an opened row moves those below it out of view."""
+    return {(node.get_name(), node.get_description()): node for node in list(node for node, _ in window.nodes())[::-1]
+            if driver.role_of(node) == "push button" and " · " in node.get_description() and window.shows(node, "SHOWING")}
 
 
 def charts(window):
@@ -111,9 +110,9 @@ def history_is_shown(program, file, runs, lures):
         window.resize(1180, 1400)
         window.settled()
         has_no_visits(lures, "a start with the history")
-        closed = rows(window)
-        for row in closed:
-            row.do_action(0)
+        closed = window.until("the rows", lambda: rows(window))
+        for texts in closed:  # a row is made anew when it comes back into view
+            window.until(f"the row {texts}", lambda: rows(window)[texts].do_action(0))
         window.until("their panes", lambda: len(charts(window)) == len(closed))
         share(window)
         window.settled()

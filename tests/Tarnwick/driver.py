@@ -242,13 +242,12 @@ class Window:
         return [node.get_action_name(i) for i in range(node.get_n_actions())]
 
     def press(self, name, role=None):
-        node = self.find(name, role)
-        actions = self.actions(node)
-        for wanted in ("Press", "Toggle"):
-            if wanted in actions:
-                node.do_action(actions.index(wanted))
-                return
-        raise Failure(f"{name!r} has no press action but {actions}")
+        def pressed():
+            node = self.look(name, role)
+            actions = self.actions(node) if node else []
+            wanted = [action for action in ("Press", "Toggle") if action in actions]
+            return wanted and node.do_action(actions.index(wanted[0]))
+        self.until(f"{role or 'node'} {name!r} that can be pressed", pressed)
 
     def grab(self, name, role=None):
         self.find(name, role).grab_focus()
