@@ -1,5 +1,6 @@
 #include "OndelControls/OnDemand.h"
 
+#include <QQmlContext>
 #include <QQmlInfo>
 
 namespace OndelControls {
@@ -23,7 +24,7 @@ void OnDemand::componentComplete() {
 }
 
 void OnDemand::follow() {
-    if (!isComponentComplete() || !m_component || m_active == !m_object.isNull())
+    if (!isComponentComplete() || m_active == !m_object.isNull() || (!m_component && m_file.isEmpty()))
         return;
     if (m_active)
         make();
@@ -33,12 +34,15 @@ void OnDemand::follow() {
 }
 
 void OnDemand::make() {
+    if (!m_component)
+        m_component = new QQmlComponent(qmlEngine(this), qmlContext(this)->resolvedUrl(m_file), this);
     QQmlContext* context = m_component->creationContext();
     m_object = m_component->beginCreate(context ? context : qmlContext(this));
     if (!m_object) {
         qmlWarning(this, m_component->errors());
         return;
     }
+    m_component->setInitialProperties(m_object, m_given);
     m_object->setParent(this);
     QQmlEngine::setObjectOwnership(m_object, QQmlEngine::CppOwnership);
     if (auto* item = qobject_cast<QQuickItem*>(m_object)) {

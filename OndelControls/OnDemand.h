@@ -11,6 +11,9 @@ namespace OndelControls {
 /// Repeater's items do, so that positioners and layouts place it. Unlike the toolkit's Loader it takes
 /// components that are bound to their file, which Qt 6.4 refuses there, and it is no focus scope.
 ///
+/// Of a component, or of a file: that is compiled when the object is first made, and not together with the
+/// file that names it.
+///
 /// Owner: the object, which loses its parent when this becomes inactive and is deleted soon afterwards. Its
 /// bindings must not rely on a parent.
 class OnDemand : public QQuickItem {
@@ -21,6 +24,10 @@ class OnDemand : public QQuickItem {
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
     /// Is set once.
     Q_PROPERTY(QQmlComponent* component MEMBER m_component)
+    /// A file beside the one that names it. Is set once.
+    Q_PROPERTY(QString file MEMBER m_file)
+    /// The first values of properties of what is made of the file.
+    Q_PROPERTY(QVariantMap given MEMBER m_given)
     Q_PROPERTY(QObject* object READ object NOTIFY objectChanged)
 
 public:
@@ -43,6 +50,8 @@ private:
 
     bool m_active = false;
     QPointer<QQmlComponent> m_component;
+    QString m_file;
+    QVariantMap m_given;
     QPointer<QObject> m_object;
 };
 

@@ -36,6 +36,11 @@ void cleanUpAtExit() {
     OndelAppSupport::endLogging();
 }
 
+const QUrl& windowFile() {
+    static const QUrl file(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml"));
+    return file;
+}
+
 constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
 
 /// Enough for the first process to reach its event loop on a machine that is busy starting both.
@@ -54,7 +59,7 @@ int TarnwickApp::run(int argc, char** argv) {
         OndelCore::platform::doWithoutSessionBus();
     const auto application = startToolkit(argc, argv);
     OpenRequests requests(product::id);
-    prepare();
+    OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
     const auto commandLine = CommandLine::parse(argc, argv);
     if (!commandLine)
         return 2;
@@ -86,25 +91,24 @@ std::optional<int> TarnwickApp::handOver(OpenRequests& requests, const OpenReque
     return EXIT_FAILURE;
 }
 
-void TarnwickApp::prepare() {
-    OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
+TarnwickApp::TarnwickApp(OpenRequests& requests)
+    : m_requests(requests)
+    , m_window(&m_engine) {
+    OndelControls::prepareEngine(m_engine);
+    m_window.loadUrl(windowFile(), QQmlComponent::Asynchronous);
     TarnwickKit::views::TarnwickFonts::registerFrom();
     QApplication::setFont(TarnwickKit::views::TarnwickFonts::applicationFont());
-}
-
-TarnwickApp::TarnwickApp(OpenRequests& requests)
-    : m_requests(requests) {
-    modelAtExit = m_delegate.model();
+    AppDelegate& delegate = m_delegate.emplace();
+    modelAtExit = delegate.model();
     std::atexit(cleanUpAtExit);
-    QObject::connect(&m_delegate, &AppDelegate::terminating, &m_delegate, [this] { m_requests.close(); });
+    QObject::connect(&delegate, &AppDelegate::terminating, &delegate, [this] { m_requests.close(); });
 }
 
 TarnwickApp::~TarnwickApp() { modelAtExit = nullptr; }
 
 bool TarnwickApp::declareScenes() {
-    OndelControls::prepareEngine(m_engine);
-    m_engine.setInitialProperties({{QStringLiteral("delegate"), QVariant::fromValue(&m_delegate)}});
-    m_engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml")));
+    m_engine.setInitialProperties({{QStringLiteral("delegate"), QVariant::fromValue(&*m_delegate)}});
+    m_engine.load(windowFile()); // waits for what is compiled already
     if (m_engine.rootObjects().isEmpty())
         return false;
     const auto flags = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
@@ -128,7 +132,7 @@ void TarnwickApp::finishWindow(QQuickWindow* window) {
 }
 
 void TarnwickApp::finishLaunching(const OpenRequest& start) {
-    m_delegate.applicationDidFinishLaunching();
-    m_delegate.open(start.urls, start.activationToken);
-    m_requests.deliverTo([this](const OpenRequest& request) { return m_delegate.take(request); });
+    m_delegate->applicationDidFinishLaunching();
+    m_delegate->open(start.urls, start.activationToken);
+    m_requests.deliverTo([this](const OpenRequest& request) { return m_delegate->take(request); });
 }

@@ -4,6 +4,7 @@
 #include "Tarnwick/AppDelegate.h"
 
 #include <QQmlApplicationEngine>
+#include <QQmlComponent>
 
 #include <optional>
 
@@ -29,12 +30,11 @@ public:
 
 private:
     void finishWindow(QQuickWindow* window);
-    /// Sets identity and fonts, before the delegate and the views are created.
-    static void prepare();
     static std::optional<int> handOver(OndelDesktop::OpenRequests& requests,
                                        const OndelDesktop::OpenRequest& start);
 
     OndelDesktop::OpenRequests& m_requests;
-    AppDelegate m_delegate;
+    std::optional<AppDelegate> m_delegate; ///< outlives the engine's objects
     QQmlApplicationEngine m_engine;
+    QQmlComponent m_window; ///< compiled on the engine's thread while fonts and delegate are made
 };

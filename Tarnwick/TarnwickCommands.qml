@@ -9,13 +9,14 @@ import Tarnwick
 MenuStrip {
     id: commands
 
-    required property AppDelegate app
-    required property UpdaterModel updater
+    required property TarnwickWindow window
+    readonly property AppDelegate app: window.delegate
+    readonly property UpdaterModel updater: app.updater
     readonly property AnalyzerModel analyzer: app.model
 
-    signal aboutWanted
-    signal settingsWanted
-    signal runWanted
+    width: parent?.width ?? 0
+    bottomPadding: WindowFrames.areOurs ? topPadding : 0
+    showsLetters: window.showsLetters
 
     /// Shortcuts act only while the main window has the keyboard focus. Newer versions of Qt (6.8) deliver them from its
     /// secondary windows too, where Ctrl+Q would end the program.
@@ -30,12 +31,19 @@ MenuStrip {
             analyzer.toggleCompareMode();
     }
 
+    Connections {
+        target: commands.window
+
+        function onMenuWanted(): void {
+            commands.openFirst();
+        }
+    }
     CommandMenu {
         title: qsTr("&Tarnwick")
         commands: [
             Command {
                 text: qsTr("About Ondel Tarnwick")
-                onTriggered: commands.aboutWanted()
+                onTriggered: commands.window.aboutWanted()
             },
             Command {
                 text: qsTr("Check for Updates…")
@@ -47,7 +55,7 @@ MenuStrip {
                 keys: "Ctrl+,"
                 shortcut: commands.inWindow(keys)
                 beginsGroup: true
-                onTriggered: commands.settingsWanted()
+                onTriggered: commands.window.settingsWanted()
             },
             Command {
                 text: qsTr("Quit")
@@ -91,7 +99,7 @@ MenuStrip {
                 text: qsTr("Run Benchmark")
                 keys: "Ctrl+Return" // the run button's own
                 enabled: commands.analyzer.canRun
-                onTriggered: commands.runWanted()
+                onTriggered: commands.window.run()
             },
             Command {
                 text: qsTr("Stop")

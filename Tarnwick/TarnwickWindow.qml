@@ -14,9 +14,16 @@ Window {
 
     readonly property real menuWidth: commands.implicitWidth
     readonly property real menuHeight: commands.height
+    readonly property bool showsLetters: menuKey.isHeld
 
     signal aboutWanted
     signal settingsWanted
+    signal menuWanted
+
+    /// Starts a run like the toolbar's button.
+    function run(): void {
+        view.run();
+    }
 
     title: delegate.windowTitle
     width: 1180
@@ -35,17 +42,11 @@ Window {
         delegate.terminate();
     }
 
-    TarnwickCommands {
+    MenuPlace {
         id: commands
 
         width: parent.width
-        bottomPadding: WindowFrames.areOurs ? topPadding : 0
-        app: window.delegate
-        updater: window.delegate.updater
-        onAboutWanted: window.aboutWanted()
-        onSettingsWanted: window.settingsWanted()
-        onRunWanted: view.run()
-        showsLetters: menuKey.isHeld
+        window: window
     }
     TarnwickView {
         id: view
@@ -57,11 +58,7 @@ Window {
 
         sidebarFooter: OnDemand {
             active: AppSupport.nudges.showsNote
-
-            SupportBanner {
-                highContrast: Appearance.contrast
-                width: parent?.width ?? 0
-            }
+            file: "SupportFoot.qml"
         }
     }
     WindowPlace {
@@ -71,7 +68,7 @@ Window {
         id: menuKey
 
         window: window
-        onTapped: commands.openFirst()
+        onTapped: window.menuWanted()
     }
     EscapeKey {
         window: window

@@ -1,5 +1,6 @@
 #include "OndelAppSupport/https/HttpsExchange.h"
 
+#include "OndelAppSupport/https/CurlLibrary.h"
 #include "OndelCore/platform/process/SystemCalls.h"
 #include "OndelCore/platform/process/SystemProxies.h"
 
@@ -23,18 +24,11 @@ constexpr std::array redirectStatuses{301, 302, 303, 307, 308};
 
 template <auto Free>
 struct Freed {
-    void operator()(auto* object) const { Free(object); }
+    void operator()(auto* object) const { (CurlLibrary::shared().*Free)(object); }
 };
-using Easy = std::unique_ptr<CURL, Freed<curl_easy_cleanup>>;
-using Multi = std::unique_ptr<CURLM, Freed<curl_multi_cleanup>>;
-using Lines = std::unique_ptr<curl_slist, Freed<curl_slist_free_all>>;
-
-/// Never undone: an abandoned thread may still use the library when the process ends.
-void prepareLibrary() {
-    static const CURLcode prepared = curl_global_init(CURL_GLOBAL_DEFAULT);
-    if (prepared != CURLE_OK)
-        throw TransportError(Kind::failed, curl_easy_strerror(prepared));
-}
+using Easy = std::unique_ptr<CURL, Freed<&CurlLibrary::easyCleanup>>;
+using Multi = std::unique_ptr<CURLM, Freed<&CurlLibrary::multiCleanup>>;
+using Lines = std::unique_ptr<curl_slist, Freed<&CurlLibrary::freeLines>>;
 
 /// The trimmed value; absent when `line` is a different header.
 std::optional<QByteArray> valueOf(const QByteArray& line, const QByteArray& lowerName) {
@@ -49,13 +43,14 @@ public:
     /// `headBytes`: received so far by the whole exchange.
     Transfer(const Request& request, const Connection& connection, const Receiver& receiver,
              const std::string& proxy, std::size_t& headBytes, Clock::time_point latest)
-        : m_request(request)
+        : m_curl(CurlLibrary::shared())
+        , m_request(request)
         , m_connection(connection)
         , m_receiver(receiver)
         , m_headBytes(headBytes)
         , m_latest(latest)
-        , m_easy(curl_easy_init())
-        , m_multi(curl_multi_init()) {
+        , m_easy(m_curl.easyInit())
+        , m_multi(m_curl.multiInit()) {
         if (!m_easy || !m_multi)
             throw std::bad_alloc();
         setAddress(proxy);
@@ -65,18 +60,18 @@ public:
 
     /// The head of the answer. Fails: throws.
     const Head& run(const std::stop_token& stop) {
-        curl_multi_add_handle(m_multi.get(), m_easy.get());
-        const std::stop_callback wake(stop, [this] { curl_multi_wakeup(m_multi.get()); });
+        m_curl.addHandle(m_multi.get(), m_easy.get());
+        const std::stop_callback wake(stop, [this] { m_curl.wakeup(m_multi.get()); });
         int running = 1;
         while (running > 0 && !stop.stop_requested() && !isLate()) {
-            curl_multi_perform(m_multi.get(), &running);
+            m_curl.perform(m_multi.get(), &running);
             if (running > 0)
-                curl_multi_poll(m_multi.get(), nullptr, 0, longestWait(), nullptr);
+                m_curl.poll(m_multi.get(), nullptr, 0, longestWait(), nullptr);
         }
         int left = 0;
-        const CURLMsg* end = curl_multi_info_read(m_multi.get(), &left);
+        const CURLMsg* end = m_curl.readInformation(m_multi.get(), &left);
         const CURLcode code = end ? end->data.result : CURLE_OPERATION_TIMEDOUT;
-        curl_multi_remove_handle(m_multi.get(), m_easy.get());
+        m_curl.removeHandle(m_multi.get(), m_easy.get());
         if (stop.stop_requested())
             throw Stopped();
         if (m_thrown)
@@ -91,8 +86,8 @@ public:
 private:
     template <typename Value>
     void set(CURLoption option, Value value) {
-        if (const CURLcode code = curl_easy_setopt(m_easy.get(), option, value); code != CURLE_OK)
-            throw TransportError(Kind::failed, curl_easy_strerror(code));
+        if (const CURLcode code = m_curl.setOption(m_easy.get(), option, value); code != CURLE_OK)
+            throw TransportError(Kind::failed, m_curl.strerror(code));
     }
 
     void setAddress(const std::string& proxy) {
@@ -116,7 +111,7 @@ private:
     void setContent() {
         curl_slist* lines = nullptr;
         const auto add = [&](const char* line) {
-            curl_slist* longer = curl_slist_append(lines, line);
+            curl_slist* longer = m_curl.appendLine(lines, line);
             if (!longer)
                 throw std::bad_alloc();
             lines = longer;
@@ -216,7 +211,7 @@ private:
     bool endHead() {
         constexpr long firstFinalStatus = 200;
         long status = 0;
-        curl_easy_getinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
+        m_curl.information(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
         if (status < firstFinalStatus)
             return true;
         m_hasFinalHead = true;
@@ -229,13 +224,14 @@ private:
     TransportError failure(CURLcode code) const {
         const bool isHttp = code != CURLE_UNSUPPORTED_PROTOCOL && code != CURLE_WEIRD_SERVER_REPLY;
         long error = 0;
-        curl_easy_getinfo(m_easy.get(), CURLINFO_OS_ERRNO, &error);
+        m_curl.information(m_easy.get(), CURLINFO_OS_ERRNO, &error);
         if (code == CURLE_COULDNT_CONNECT && error != 0)
             return {Kind::failed, OndelCore::platform::errorText(static_cast<int>(error)).c_str()};
-        const char* text = m_errorText[0] != '\0' ? m_errorText.data() : curl_easy_strerror(code);
+        const char* text = m_errorText[0] != '\0' ? m_errorText.data() : m_curl.strerror(code);
         return {isHttp ? Kind::failed : Kind::notHttp, text};
     }
 
+    const CurlLibrary& m_curl;
     const Request& m_request;
     const Connection& m_connection;
     const Receiver& m_receiver;
@@ -277,7 +273,6 @@ Head transferThroughProxies(const Request& request, const Connection& connection
 
 void exchange(const Request& first, const Connection& connection, const Receiver& receiver,
               const std::stop_token& stop) {
-    prepareLibrary();
     Request request = first;
     std::size_t headBytes = 0;
     const auto latest = Clock::now() + connection.limit.value_or(2 * connection.patience);

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import OndelControls
 
 /// The support banner's menu, which has one entry.
@@ -8,17 +9,21 @@ BaseButton {
     id: button
 
     required property string entry
+    readonly property T.Menu menu: choice.object as T.Menu
 
     signal chosen
 
     implicitWidth: Metrics.leastTarget
     implicitHeight: Metrics.leastTarget
     label: qsTr("More")
-    hint: menu.visible ? "" : label
+    hint: menu?.visible ? "" : label
     detail: ""
     corner: Metrics.fieldCorner
     focusColor: "white"
-    onClicked: menu.popup(button, 0, fitsBelow() ? height + Metrics.menuGap : -menu.implicitHeight - Metrics.menuGap)
+    onClicked: {
+        choice.active = true;
+        menu.popup(button, 0, fitsBelow() ? height + Metrics.menuGap : -menu.implicitHeight - Metrics.menuGap);
+    }
 
     Accessible.role: Accessible.ButtonMenu
     Keys.onDownPressed: button.clicked()
@@ -40,16 +45,12 @@ BaseButton {
         radius: button.corner
         color: button.hovered ? Qt.rgba(1, 1, 1, 0.16) : "transparent"
     }
-    BaseMenu {
-        id: menu
+    OnDemand {
+        id: choice
 
-        corner: 8
-        onOpened: currentIndex = 0
-
-        BaseMenuItem {
-            text: button.entry
-            rightPadding: 20
-            onTriggered: button.chosen()
-        }
+        file: "BannerChoice.qml"
+        given: ({
+            button: button
+        })
     }
 }

@@ -52,25 +52,6 @@ Scaled scale(std::int64_t bytes, std::size_t unitCount) {
 constexpr std::array<QLatin1StringView, 5> sizeUnits{"B"_L1, "KiB"_L1, "MiB"_L1, "GiB"_L1, "TiB"_L1};
 constexpr std::size_t blockUnitCount = 4;
 
-} // namespace
-
-struct Formatter::Icu {
-    icu::number::LocalizedNumberFormatter grouping;
-    icu::number::LocalizedNumberFormatter plain;
-    /// SimpleDateFormat promises nothing about use by several threads at once, hence the lock.
-    std::mutex lock;
-    std::unique_ptr<icu::SimpleDateFormat> longDate;
-    std::unique_ptr<icu::SimpleDateFormat> shortDate;
-    std::unique_ptr<icu::SimpleDateFormat> time;
-    std::unique_ptr<icu::SimpleDateFormat> dateAndTime;
-
-    explicit Icu(const UserLocale& locale);
-
-    QString stamp(icu::SimpleDateFormat& format, const QDateTime& local);
-};
-
-namespace {
-
 std::unique_ptr<icu::SimpleDateFormat> formatOf(const icu::UnicodeString& pattern, const icu::Locale& locale,
                                                 UErrorCode& status) {
     auto format = std::make_unique<icu::SimpleDateFormat>(pattern, locale, status);
@@ -82,28 +63,21 @@ std::unique_ptr<icu::SimpleDateFormat> formatOf(const icu::UnicodeString& patter
 }
 
 /// The locale's own order, names and clock for the fields of `skeleton` (UTS #35, "Date Field Symbol Table").
-/// Absent only if ICU has no data at all.
-std::unique_ptr<icu::SimpleDateFormat> dateFormat(const icu::Locale& locale, const char16_t* skeleton) {
+std::unique_ptr<icu::SimpleDateFormat> dateFormat(icu::DateTimePatternGenerator& generator,
+                                                  const icu::Locale& locale, const char16_t* skeleton) {
     UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(locale, status));
-    if (U_FAILURE(status))
-        return nullptr;
-    return formatOf(generator->getBestPattern(skeleton, status), locale, status);
+    return formatOf(generator.getBestPattern(skeleton, status), locale, status);
 }
 
 /// A date and a time joined by the locale's own word ("at"). ICU has that word for long dates only. In its
 /// pattern {1} is the date and {0} the time.
-std::unique_ptr<icu::SimpleDateFormat> joined(const icu::SimpleDateFormat& date,
+std::unique_ptr<icu::SimpleDateFormat> joined(icu::DateTimePatternGenerator& generator,
+                                              const icu::SimpleDateFormat& date,
                                               const icu::SimpleDateFormat& time, const icu::Locale& locale) {
     UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(locale, status));
-    if (U_FAILURE(status))
-        return nullptr;
     icu::UnicodeString datePattern;
     icu::UnicodeString timePattern;
-    icu::UnicodeString pattern = generator->getDateTimeFormat(UDAT_LONG, status);
+    icu::UnicodeString pattern = generator.getDateTimeFormat(UDAT_LONG, status);
     pattern.findAndReplace(u"{1}", date.toPattern(datePattern));
     pattern.findAndReplace(u"{0}", time.toPattern(timePattern));
     return formatOf(pattern, locale, status);
@@ -116,24 +90,58 @@ icu::number::LocalizedNumberFormatter numberFormat(const icu::Locale& locale,
 
 } // namespace
 
-Formatter::Icu::Icu(const UserLocale& locale)
-    : grouping(numberFormat(icu::Locale(locale.numbers.c_str()), UNUM_GROUPING_AUTO))
-    , plain(numberFormat(icu::Locale(locale.numbers.c_str()), UNUM_GROUPING_OFF)) {
-    const icu::Locale dates(locale.dates.c_str());
-    longDate = dateFormat(dates, u"MMMdyyyy");
-    shortDate = dateFormat(dates, u"MMMd");
-    time = dateFormat(dates, u"jmm");
-    if (longDate && time)
-        dateAndTime = joined(*longDate, *time, dates);
+struct Formatter::Icu {
+    /// The shapes of dates.
+    struct Dates {
+        std::unique_ptr<icu::SimpleDateFormat> longDate;
+        std::unique_ptr<icu::SimpleDateFormat> shortDate;
+        std::unique_ptr<icu::SimpleDateFormat> time;
+        std::unique_ptr<icu::SimpleDateFormat> dateAndTime;
+
+        explicit Dates(const icu::Locale& locale);
+    };
+
+    icu::number::LocalizedNumberFormatter grouping;
+    icu::number::LocalizedNumberFormatter plain;
+
+    explicit Icu(const UserLocale& locale)
+        : grouping(numberFormat(icu::Locale(locale.numbers.c_str()), UNUM_GROUPING_AUTO))
+        , plain(numberFormat(icu::Locale(locale.numbers.c_str()), UNUM_GROUPING_OFF))
+        , m_dateLocale(locale.dates) {}
+
+    QString stamp(std::unique_ptr<icu::SimpleDateFormat> Dates::* format, const QDateTime& local);
+
+private:
+    const std::string m_dateLocale;
+    /// SimpleDateFormat promises nothing about use by several threads at once.
+    std::mutex m_lock;
+    /// Made for the first date: ICU needs 2 ms for it, and a window without runs shows no date.
+    std::optional<Dates> m_dates;
+};
+
+Formatter::Icu::Dates::Dates(const icu::Locale& locale) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(locale, status));
+    if (U_SUCCESS(status)) {
+        longDate = dateFormat(*generator, locale, u"MMMdyyyy");
+        shortDate = dateFormat(*generator, locale, u"MMMd");
+        time = dateFormat(*generator, locale, u"jmm");
+        if (longDate && time)
+            dateAndTime = joined(*generator, *longDate, *time, locale);
+    }
     if (!longDate || !shortDate || !time || !dateAndTime)
         qFatal("ICU has no data for dates");
 }
 
-QString Formatter::Icu::stamp(icu::SimpleDateFormat& format, const QDateTime& local) {
+QString Formatter::Icu::stamp(std::unique_ptr<icu::SimpleDateFormat> Dates::* format,
+                              const QDateTime& local) {
     const QDateTime asUtc(local.date(), local.time(), QTimeZone::utc());
     icu::UnicodeString text;
-    const std::lock_guard guard(lock);
-    format.format(static_cast<UDate>(asUtc.toMSecsSinceEpoch()), text);
+    const std::lock_guard guard(m_lock);
+    if (!m_dates)
+        m_dates.emplace(icu::Locale(m_dateLocale.c_str()));
+    ((*m_dates).*format)->format(static_cast<UDate>(asUtc.toMSecsSinceEpoch()), text);
     return toQString(text)
         .replace(narrowNoBreakSpace, u' ')
         .replace(noBreakSpace, u' ')
@@ -226,17 +234,17 @@ QString Formatter::grouped(double value) const { return groupedInteger(wholeNumb
 
 QString Formatter::shortStamp(const QDateTime& date) const {
     const QDateTime local = m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime();
-    return m_icu->stamp(*m_icu->shortDate, local) + separator + m_icu->stamp(*m_icu->time, local);
+    return m_icu->stamp(&Icu::Dates::shortDate, local) + separator + m_icu->stamp(&Icu::Dates::time, local);
 }
 
 QString Formatter::runStamp(const QDateTime& date, double durationSeconds) const {
     const QDateTime local = m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime();
-    return m_icu->stamp(*m_icu->longDate, local) + separator + m_icu->stamp(*m_icu->time, local) + separator +
-           QString::number(wholeNumber(std::round(durationSeconds))) + u's';
+    return m_icu->stamp(&Icu::Dates::longDate, local) + separator + m_icu->stamp(&Icu::Dates::time, local) +
+           separator + QString::number(wholeNumber(std::round(durationSeconds))) + u's';
 }
 
 QString Formatter::dateAndTime(const QDateTime& date) const {
-    return m_icu->stamp(*m_icu->dateAndTime, m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime());
+    return m_icu->stamp(&Icu::Dates::dateAndTime, m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime());
 }
 
 } // namespace TarnwickKit::model

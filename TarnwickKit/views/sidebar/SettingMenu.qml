@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
@@ -44,9 +45,7 @@ RowLayout {
 
         function show(): void {
             menu.active = true;
-            const choices = menu.object as PopupMenu;
-            (choices.contentItem as ListView).forceLayout();
-            choices.open();
+            (menu.object as T.Popup).open();
         }
 
         background: Card {
@@ -75,26 +74,11 @@ RowLayout {
         OnDemand {
             id: menu
 
-            PopupMenu {
-                parent: button
-                x: button.width - width
-                y: button.height + Metrics.menuGap
-                onOpened: currentIndex = setting.current
-
-                Repeater {
-                    model: setting.options
-
-                    PopupMenuItem {
-                        required property int index
-                        required property string modelData
-
-                        text: modelData
-                        checkable: true
-                        chosen: index === setting.current
-                        onTriggered: setting.chosen(index)
-                    }
-                }
-            }
+            file: "SettingChoices.qml"
+            given: ({
+                button: button,
+                setting: setting
+            })
         }
     }
 }

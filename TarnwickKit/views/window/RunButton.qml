@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
@@ -27,7 +28,7 @@ PlainButton {
     }
     function confirmFill(): void {
         question.active = true;
-        (question.object as Alert).open();
+        (question.object as T.Popup).open();
     }
 
     onClicked: stops ? analyzer.cancel() : run()
@@ -67,13 +68,10 @@ PlainButton {
     OnDemand {
         id: question
 
-        Alert {
-            parent: button
-            title: qsTr("Fill the disk?")
-            message: qsTr("The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.").arg(Format.bytes(Format.defaultLeaveFree))
-            cancelText: qsTr("Cancel")
-            acceptText: qsTr("Fill Disk")
-            onAccepted: button.analyzer.start()
-        }
+        file: "FillQuestion.qml"
+        given: ({
+            parent: button,
+            analyzer: button.analyzer
+        })
     }
 }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
@@ -30,7 +31,7 @@ PlainButton {
 
     function show(): void {
         menu.active = true;
-        (menu.object as PopupMenu).open();
+        (menu.object as T.Popup).open();
     }
 
     background: Card {
@@ -90,27 +91,26 @@ PlainButton {
 
         function onTold(sentence: string): void {
             note.active = false; // a new note is shown for its whole time
-            note.sentence = sentence;
+            note.given = {
+                owner: dropdown,
+                text: sentence
+            };
             note.active = true;
         }
     }
     OnDemand {
         id: note
 
-        property string sentence
-
-        Note {
-            owner: dropdown
-            text: note.sentence
-        }
+        file: "Note.qml"
     }
     OnDemand {
         id: menu
 
-        VolumeMenu {
-            button: dropdown
-            analyzer: dropdown.analyzer
+        file: "VolumeMenu.qml"
+        given: ({
+            button: dropdown,
+            analyzer: dropdown.analyzer,
             target: dropdown.target
-        }
+        })
     }
 }

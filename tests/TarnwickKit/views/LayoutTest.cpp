@@ -127,7 +127,10 @@ TEST(FlowLayout, FollowsItsChildrenAndItsWidth) {
 /// The object stands beside its maker, knows the ids of its file, and is deleted when it is no longer wanted.
 TEST(OnDemand, MakesItsObjectWhileItIsActive) {
     test::Stage stage("Column { id: column; width: 70; height: 40\n"
-                      "  OnDemand { Item { width: column.width; height: 20 } } }");
+                      "  OnDemand { Item { width: column.width; height: 20 } }\n"
+                      "  OnDemand { file: 'qrc:/qt/qml/OndelControls/Separator.qml'; active: true\n"
+                      "    given: ({ objectName: 'given', visible: false }) } }");
+    EXPECT_TRUE(stage.root().findChild<QQuickItem*>(QStringLiteral("given")));
     auto* maker = qobject_cast<OndelControls::OnDemand*>(stage.root().childItems().constFirst());
     ASSERT_TRUE(maker);
     EXPECT_EQ(maker->object(), nullptr);

@@ -1,0 +1,20 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import OndelControls
+
+/// What the support banner's menu offers.
+BaseMenu {
+    id: menu
+
+    required property BannerMenu button
+
+    corner: 8
+    onOpened: currentIndex = 0
+
+    BaseMenuItem {
+        text: menu.button.entry
+        rightPadding: 20
+        onTriggered: menu.button.chosen()
+    }
+}
