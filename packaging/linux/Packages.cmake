@@ -21,8 +21,8 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE none) # scripts/package compresses what it makes of them
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
-# The libraries that a package needs are read off its files, and what needs ours is told by them. One of ours needs the other
-# one in exactly its version, which is said below.
+# The libraries that a package needs are read off its files. Of our own libraries, one needs the other in exactly its version,
+# which is said below.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/packaging/kit)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
@@ -110,7 +110,7 @@ the libraries, and three small programs that do."
   DEPENDS "libondel0 (= ${PROJECT_VERSION}), libtarnwick0 (= ${PROJECT_VERSION}), qt6-base-dev (>= 6.4), qt6-declarative-dev (>= 6.4)"
   SUGGESTS "cmake, pkg-config, qml6-module-qtquick-controls, tarnwick-host")
 
-# See scripts/package, which writes them.
+# What links the libraries depends on the version that first had what it uses. scripts/symbols writes that down.
 foreach(library libondel0 libtarnwick0)
   string(TOUPPER ${library} upper)
   set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA

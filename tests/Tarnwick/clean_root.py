@@ -21,6 +21,12 @@ def measures(root, folder, tools):
     return words.splitlines()[-1]
 
 
+def tells_what_is_missing(root, tools, run_file):
+    host = entrance(root, "/usr/bin/tarnwick-host", tools / "tarnwick-host")
+    refused = subprocess.run([host, "card", run_file], capture_output=True, text=True)
+    driver.check(refused.returncode == 1 and "comes with the window" in refused.stderr, f"no picture: {refused}")
+
+
 def shows(root, folder, tools, run_file):
     """A run in the window, which then is handed the run of the terminal."""
     program = entrance(root, "/usr/bin/tarnwick", tools / "tarnwick")
@@ -47,6 +53,8 @@ if __name__ == "__main__":
         places = [pathlib.Path(place).resolve() for place in (sys.argv[1], folder, tools)]
         run_file = measures(*places)
         print("Used in the fresh root: a run in the terminal. Nothing is left.")
-        if sys.argv[2:] != ["terminal"]:
+        if sys.argv[2:] == ["terminal"]:
+            tells_what_is_missing(places[0], places[2], run_file)
+        else:
             shows(*places, run_file)
             print("Used in the fresh root: a run in the window, a run file handed over, the end. Nothing is left.")
