@@ -24,7 +24,8 @@ namespace {
 
 void check(int error) {
     if (error != 0)
-        throw std::system_error(error, std::generic_category(), "tarnwick-host-card could not be started");
+        throw std::system_error(error, std::generic_category(),
+                                "tarnwick-host-card, which comes with the window, could not be started");
 }
 
 /// In a build folder it lies beside this program, installed in libexec. Fails: throws std::system_error if

@@ -7,11 +7,11 @@
 # changes it, counts it up.
 set(ONDEL_ABI 0)
 
-# ondel_library(ondel COMPONENT Core NAMESPACE Ondel ROOMS OndelCore::platform … LINK … PRIVATE_LINK … HEADERS a.h …)
-#   makes lib<name>.so of all that is in ROOMS, called NAMESPACE::COMPONENT by those who link it. LINK is what its headers
-#   need. HEADERS are the public ones, by their names from the project's root; they are installed under the same names.
+# ondel_library(ondel COMPONENT Core NAMESPACE Ondel EXPORTS OndelCore ROOMS OndelCore::platform … LINK … PRIVATE_LINK … HEADERS a.h …)
+#   makes lib<name>.so of all that is in ROOMS, called NAMESPACE::COMPONENT by those who link it. EXPORTS is the C++
+#   namespace whose marked names others see. LINK is what its headers need. HEADERS are the public ones, by their names from the project's root; they are installed under the same names.
 function(ondel_library name)
-  cmake_parse_arguments(LIBRARY "" "COMPONENT;NAMESPACE" "ROOMS;LINK;PRIVATE_LINK;HEADERS" ${ARGN})
+  cmake_parse_arguments(LIBRARY "" "COMPONENT;NAMESPACE;EXPORTS" "ROOMS;LINK;PRIVATE_LINK;HEADERS" ${ARGN})
   set(target ${name}-shared)
   add_library(${target} SHARED)
   add_library(${LIBRARY_NAMESPACE}::${LIBRARY_COMPONENT} ALIAS ${target})
@@ -29,6 +29,7 @@ function(ondel_library name)
   target_link_libraries(${target} PUBLIC ${LIBRARY_LINK} PRIVATE ${LIBRARY_PRIVATE_LINK})
   string(TOUPPER ${name} ONDEL_SYMBOLS)
   string(REPLACE "-" "_" ONDEL_SYMBOLS ${ONDEL_SYMBOLS})
+  set(ONDEL_EXPORTS ${LIBRARY_EXPORTS})
   set(map ${CMAKE_CURRENT_BINARY_DIR}/${name}.map)
   configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/library.map.in ${map} @ONLY)
   target_link_options(${target} PRIVATE LINKER:--version-script=${map})

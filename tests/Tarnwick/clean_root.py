@@ -1,6 +1,7 @@
 #!/usr/bin/python3
-"""The installed package in a fresh root: a benchmark in the terminal and one in the window, a run file handed over, the end.
-Usage: clean_root.py ROOT, as root. Display, buses and input stay outside of the root."""
+"""The installed packages in a fresh root: a benchmark in the terminal and one in the window, a run file handed over, the end.
+Usage: clean_root.py ROOT [terminal], as root; "terminal" leaves the window out. Display, buses and input stay outside of the
+root."""
 
 import pathlib
 import subprocess
@@ -12,12 +13,22 @@ import driver
 from installed_starts import entrance
 
 
-def is_usable(root, folder, tools):
+def measures(root, folder, tools):
+    """A run in the terminal. Returns its run file."""
     host = entrance(root, "/usr/bin/tarnwick-host", tools / "tarnwick-host")
     words = subprocess.run([host, "run", "--size", "64M", "--handoff", folder], check=True, capture_output=True, text=True).stdout
-    run_file = words.splitlines()[-1]
     driven_window.nothing_left(folder)
+    return words.splitlines()[-1]
 
+
+def tells_what_is_missing(root, tools, run_file):
+    host = entrance(root, "/usr/bin/tarnwick-host", tools / "tarnwick-host")
+    refused = subprocess.run([host, "card", run_file], capture_output=True, text=True)
+    driver.check(refused.returncode == 1 and "comes with the window" in refused.stderr, f"no picture: {refused}")
+
+
+def shows(root, folder, tools, run_file):
+    """A run in the window, which then is handed the run of the terminal."""
     program = entrance(root, "/usr/bin/tarnwick", tools / "tarnwick")
     with driver.Window(program, folder) as window:
         window.find("Ready to benchmark")
@@ -39,5 +50,11 @@ def is_usable(root, folder, tools):
 if __name__ == "__main__":
     driver.enter_display()
     with driver.fast_folder() as folder, tempfile.TemporaryDirectory(prefix="ondel-test-") as tools:
-        is_usable(pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(folder), pathlib.Path(tools))
-    print("Used in the fresh root: a run in the terminal, one in the window, a run file handed over, the end. Nothing is left.")
+        places = [pathlib.Path(place).resolve() for place in (sys.argv[1], folder, tools)]
+        run_file = measures(*places)
+        print("Used in the fresh root: a run in the terminal. Nothing is left.")
+        if sys.argv[2:] == ["terminal"]:
+            tells_what_is_missing(places[0], places[2], run_file)
+        else:
+            shows(*places, run_file)
+            print("Used in the fresh root: a run in the window, a run file handed over, the end. Nothing is left.")

@@ -156,7 +156,9 @@ TEST(Card, RunsNoProgramOfTheCurrentFolder) {
     if (ended.exitStatus == 77)
         GTEST_SKIP() << "/proc cannot be hidden here";
     EXPECT_EQ(std::tuple(ended.exitStatus, ended.output), std::tuple(1, ""));
-    EXPECT_EQ(ended.errors, "tarnwick-host-card could not be started: No such file or directory\n");
+    EXPECT_EQ(
+        ended.errors,
+        "tarnwick-host-card, which comes with the window, could not be started: No such file or directory\n");
 }
 
 } // namespace
