@@ -48,7 +48,8 @@ endmacro()
 # library's own package.
 set(views_need "qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-layouts, qml6-module-qtquick-templates, qml6-module-qtquick-window, qt6-svg-plugins | libqt6svg6 (<< 6.6)")
 
-# Whoever downloads the window's package alone can install it: it depends on none of the others.
+# Whoever downloads the window's package alone can install it: it depends on none of the others. libcurl is loaded by the first
+# request, so that nothing can read it off either.
 package(tarnwick SECTION utils
   SUMMARY "disk speed and volume analyzer"
   DESCRIPTION
@@ -59,7 +60,7 @@ as pictures, and shows what the file system can do and what the drive says of
 its own health. Leaves nothing on the disk.
 .
 The package has the window. The package tarnwick-host measures in a terminal."
-  DEPENDS "qml6-module-qtquick-controls, ${views_need}"
+  DEPENDS "libcurl4, qml6-module-qtquick-controls, ${views_need}"
   RECOMMENDS "ca-certificates, qt6-wayland, tarnwick-host, udisks2, xdg-utils")
 
 # Before 0.2 one package had all. What was built on the way to 0.2.0 has that number already.
