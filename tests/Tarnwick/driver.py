@@ -301,6 +301,12 @@ class Window:
         display.focus(self.id())
         display.press(*keys)
 
+    def step(self, key="Tab"):
+        """Presses the key and returns what then has the focus."""
+        last = self.focused()
+        self.keys(key)
+        return self.until(f"a control with the focus after {last!r}", lambda: (now := self.focused()) != last and now)
+
     def focused(self):
         for node, _ in self.nodes():
             if self.shows(node, "FOCUSED", "SHOWING") and node.get_role_name() not in ("frame", "application", "filler"):

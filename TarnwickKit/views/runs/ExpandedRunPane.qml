@@ -13,8 +13,6 @@ CardFrame {
     required property runRecord run
     readonly property runFacts facts: Runs.facts(run)
     readonly property bool hasRemarks: Runs.hasRemarks(run)
-    /// There is an earlier run of the same volume. It depends on the list of runs, which `canCompare` stands for.
-    readonly property bool hasLast: analyzer.canCompare && analyzer.hasLastOfVolume(facts.id)
 
     signal collapse
     signal remove
@@ -106,16 +104,9 @@ CardFrame {
         Layout.fillWidth: true
         color: PaletteKey.palette.borderSoft
     }
-    OnDemand {
-        active: pane.hasLast
-
-        SmallButton {
-            Layout.leftMargin: ViewMetrics.cardPadding
-            Layout.topMargin: 16
-            label: qsTr("Compare with last run of this volume")
-            symbol: "chart.bar.xaxis"
-            onClicked: pane.analyzer.compareWithLast(pane.facts.id)
-        }
+    CompareWithLast {
+        analyzer: pane.analyzer
+        runId: pane.facts.id
     }
     RunChart {
         Layout.fillWidth: true

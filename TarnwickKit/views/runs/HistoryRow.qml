@@ -72,7 +72,7 @@ PlainButton {
             origin: row.origin
             room: row.room
         }
-        RowLayout {
+        HistoryFigures {
             id: figures
 
             Layout.row: row.hasTwoLines ? 1 : 0
@@ -83,27 +83,9 @@ PlainButton {
             Layout.minimumWidth: row.hasTwoLines ? 1 : -1
             Layout.preferredWidth: row.hasTwoLines ? 1 : -1
             spacing: line.columnSpacing
-
-            RunSummaryStat {
-                Layout.preferredWidth: ViewMetrics.statWidth
-                label: qsTr("Write")
-                value: row.facts.writeBps
-                isMarked: row.facts.isWriteMarked
-                dot: row.PaletteKey.palette.coral
-            }
-            RunSummaryStat {
-                Layout.preferredWidth: ViewMetrics.statWidth
-                label: qsTr("Read")
-                value: row.facts.readBps
-                isMarked: row.facts.isReadMarked
-                dot: row.PaletteKey.palette.teal
-            }
-            DualSparkline {
-                Layout.fillWidth: row.hasTwoLines
-                implicitWidth: row.hasTwoLines ? 40 : 96
-                implicitHeight: 34
-                run: row.run
-            }
+            run: row.run
+            facts: row.facts
+            fillsWidth: row.hasTwoLines
         }
         PlainButton {
             id: remove

@@ -121,36 +121,16 @@ Rectangle {
                 visible: sidebar.visible
                 color: PaletteKey.palette.border
             }
-            Rectangle {
+            MainPlace {
                 id: main
-
-                property Item view: null
-
-                /// By its file's name: else all that it may ever show would be compiled before the first frame.
-                function fill(): void {
-                    if (!view)
-                        view = Qt.createComponent("MainView.qml").createObject(main, {
-                            "anchors.fill": main,
-                            analyzer: content.analyzer,
-                            target: target,
-                            keeper: keeper
-                        }) as Item;
-                }
 
                 anchors.left: content.isNarrow ? parent.left : rule.right
                 anchors.right: parent.right
                 anchors.top: parent.top
                 anchors.bottom: parent.bottom
-                color: PaletteKey.palette.body
-
-                Connections {
-                    target: content.Window.window
-                    enabled: !main.view
-
-                    function onFrameSwapped(): void {
-                        main.fill();
-                    }
-                }
+                analyzer: content.analyzer
+                target: target
+                keeper: keeper
             }
         }
     }

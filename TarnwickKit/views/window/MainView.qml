@@ -23,6 +23,7 @@ Rectangle {
         return shown.object as ExpandedRunPane;
     }
 
+    anchors.fill: parent
     color: PaletteKey.palette.body
     Component.onCompleted: keeper.passing = passing
 
