@@ -32,6 +32,7 @@ std::size_t hashField(const Field& field) {
     }
 }
 
+/// The hash of a value with these fields, in their order.
 template <class... Fields>
 std::size_t hashFields(const Fields&... fields) {
     std::size_t hash = 0;

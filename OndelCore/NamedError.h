@@ -21,6 +21,7 @@ inline constexpr std::string_view posixErrorDomain = "POSIX";
 /// of an error, and what() may hold a path.
 class ONDEL_PUBLIC NamedError {
 public:
+    /// The texts live as long as the library.
     virtual ErrorName errorName() const noexcept = 0;
 
 protected:

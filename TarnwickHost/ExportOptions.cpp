@@ -3,7 +3,7 @@
 #include "OndelCore/platform/storage/ReplaceFile.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/Terminal.h"
-#include "TarnwickKit/model/runs/RunFile.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunText.h"
 
 #include <sys/stat.h>

@@ -18,8 +18,12 @@ namespace OndelCore::benchmark {
 /// Measures a folder's file system with plain blocking calls on one worker thread.
 ///
 /// Everything is written into a hidden working folder inside `folder`, which is removed whatever happens. A
-/// run returns everything it was asked for, or an error; never a part. The engine keeps no state between
-/// runs. Runs in several folders may go on at once, and each slows the others.
+/// run returns everything it was asked for, or an error; never a part. Runs may go on at once, in one folder
+/// too, and each slows the others.
+///
+/// Threads: any, several on one engine too; it keeps no state. Owner: each run, of copies of all that it was
+/// given. Engine, future and caller may be gone before it ends; what `progress` refers to must not. A process
+/// may end during a run. The working folder then stays until the next `cleanupOrphans`.
 class ONDEL_PUBLIC BenchmarkEngine {
 public:
     using Progress = ProgressListener;
@@ -31,7 +35,7 @@ public:
     BenchmarkResult measure(const BenchmarkPlan& plan, const std::filesystem::path& folder,
                             const Progress& progress = {}, std::stop_token stop = {}) const;
 
-    /// Starts a run and returns at once. Callers include <QFuture>.
+    /// Starts a run and returns at once. Callers include `<QFuture>`.
     ///
     /// `progress` is called on the worker from inside the measured loops: its time counts against the rate,
     /// so it must return quickly and never wait for the interface. That thread may write nothing but the

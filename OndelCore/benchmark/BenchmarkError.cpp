@@ -1,8 +1,7 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 
-#include "OndelCore/platform/process/SystemCalls.h"
-
 #include <array>
+#include <string_view>
 
 namespace OndelCore::benchmark {
 
@@ -28,10 +27,6 @@ constexpr std::array<std::string_view, std::variant_size_v<BenchmarkError::Cause
 BenchmarkError::BenchmarkError(Cause cause)
     : m_cause(std::move(cause))
     , m_what(std::visit(Wording{}, m_cause)) {}
-
-BenchmarkError ioError(std::string_view prefix, int error) {
-    return BenchmarkError(BenchmarkError::Io{std::string(prefix) + platform::errorText(error), error});
-}
 
 ErrorName BenchmarkError::errorName() const noexcept {
     return {"BenchmarkError", causeNames[m_cause.index()], "OndelCore.BenchmarkError",

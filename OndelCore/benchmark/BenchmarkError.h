@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <exception>
 #include <string>
-#include <string_view>
 #include <variant>
 
 namespace OndelCore::benchmark {
@@ -30,10 +29,12 @@ public:
         bool operator==(const Io& other) const { return text == other.text; }
         std::size_t hash() const { return hashFields(text); }
     };
+    /// Nothing can be written into the folder, or there is none.
     struct NotWritable {
         bool operator==(const NotWritable&) const = default;
         std::size_t hash() const { return hashFields(); }
     };
+    /// The data file holds no whole block of the random tests.
     struct FileTooSmallForRandom {
         bool operator==(const FileTooSmallForRandom&) const = default;
         std::size_t hash() const { return hashFields(); }
@@ -53,9 +54,6 @@ private:
     Cause m_cause;
     std::string m_what;
 };
-
-/// The error of a system call that has just failed: `prefix` names it, the system's wording follows.
-BenchmarkError ioError(std::string_view prefix, int error);
 
 /// The run was told to stop. Nothing of it is left and there is no partial result.
 class ONDEL_PUBLIC Cancelled : public std::exception, public NamedError {

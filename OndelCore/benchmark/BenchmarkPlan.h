@@ -53,6 +53,7 @@ private:
     std::variant<Fixed, FillDisk> m_value;
 };
 
+/// A size as it is offered.
 struct BenchmarkSize::Preset {
     std::string_view label;
     BenchmarkSize size;

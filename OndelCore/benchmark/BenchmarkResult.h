@@ -81,6 +81,7 @@ struct ONDEL_PUBLIC FileOpResult {
     std::size_t hash() const { return hashFields(operations, duration, latency); }
 };
 
+/// The file-operations test as measured: every phase goes over all files before the next begins.
 struct FileOpsResult {
     FileOpResult create{};
     FileOpResult stat{};

@@ -11,6 +11,7 @@ namespace OndelCore::benchmark {
 /// The five tests, in the order in which a run executes them.
 enum class BenchmarkTest { sequentialWrite, sequentialRead, randomRead, randomWrite, fileOps };
 
+/// In the order of a run.
 inline constexpr std::array allBenchmarkTests{BenchmarkTest::sequentialWrite, BenchmarkTest::sequentialRead,
                                               BenchmarkTest::randomRead, BenchmarkTest::randomWrite,
                                               BenchmarkTest::fileOps};

@@ -12,6 +12,7 @@ namespace OndelCore::benchmark {
 /// Places a measured rate among familiar speeds, on a logarithmic scale. Units: bytes per second throughout.
 class ONDEL_PUBLIC SpeedScale {
 public:
+    /// A familiar speed.
     struct Reference {
         std::string label;
         double bytesPerSecond = 0;

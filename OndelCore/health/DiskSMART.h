@@ -10,6 +10,7 @@ namespace OndelCore::health {
 
 /// A drive's health for display. All texts are final and in UTF-8.
 struct DiskSMART {
+    /// The drive's own verdict, or that nothing is known of it.
     enum class Status { verified, failing, notSupported };
 
     /// One labelled figure.

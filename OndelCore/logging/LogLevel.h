@@ -4,6 +4,7 @@
 
 namespace OndelCore::logging {
 
+/// How much a line matters, in rising order.
 enum class LogLevel { debug = 0, notice = 1, error = 2, fault = 3 };
 
 /// The level's name in a stored line.

@@ -48,12 +48,13 @@ public:
     /// fails.
     static std::optional<uid_t> ownerOfNewFiles(int folder);
 
-    /// Fails: throws std::system_error if there is no such folder.
+    /// A reference by which the folder is found again. Fails: throws std::system_error if there is no such
+    /// folder.
     static BookmarkData bookmark(const std::filesystem::path& folder,
                                  BookmarkOptions options = BookmarkOptions::none);
 
-    /// Fails: throws std::system_error (std::errc::invalid_argument) if the bytes are no bookmark. A missing
-    /// folder gives a stale bookmark.
+    /// The folder of a bookmark; a missing one gives a stale bookmark. Fails: throws std::system_error
+    /// (std::errc::invalid_argument) if the bytes are no bookmark.
     static ResolvedBookmark resolve(const BookmarkData& data,
                                     BookmarkOptions options = BookmarkOptions::none);
 

@@ -63,8 +63,10 @@ struct ONDEL_PUBLIC VolumeCapabilities {
     std::int64_t blockSize = 0;     ///< bytes
     std::int64_t optimalIOSize = 0; ///< bytes; 0: unknown
 
-    /// Fails: absent for a provider other than the local one, and for a path that cannot be asked.
+    /// Asks the file system of a place; blocks on it. Fails: absent for a provider other than the local one,
+    /// and for a path that cannot be asked.
     static std::optional<VolumeCapabilities> probe(const Location& location);
+    /// The same of a path of this machine.
     static std::optional<VolumeCapabilities> probe(const std::filesystem::path& path);
     /// Replaces claims by the results of trials.
     void learn(const platform::TriedAbilities& tried);

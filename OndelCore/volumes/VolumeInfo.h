@@ -32,8 +32,8 @@ struct ONDEL_PUBLIC VolumeInfo {
     /// "Removable", "Internal" or "External". Removable has priority; network volumes are "External".
     QString connection() const;
 
-    /// Fails: absent for providers other than the local one and if the volume does not answer. Single missing
-    /// facts have their defaults.
+    /// Asks the system about the volume of a place; blocks on it. Fails: absent for providers other than the
+    /// local one and if the volume does not answer. Single missing facts have their defaults.
     static std::optional<VolumeInfo> load(const Location& location);
 
     bool operator==(const VolumeInfo&) const = default;

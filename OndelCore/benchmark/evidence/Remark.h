@@ -39,6 +39,7 @@ enum class RemarkCode {
 /// How much a remark takes from what it is about. A figure with an invalid one is not the disk's.
 enum class RemarkWeight { note, caution, invalid };
 
+/// One thing that the evidence says about a test's figures or about the run.
 struct Remark {
     RemarkCode code = RemarkCode::notObservable;
     RemarkWeight weight = RemarkWeight::note;
@@ -49,10 +50,13 @@ struct Remark {
     std::size_t hash() const { return hashFields(code, weight, test, numbers); }
 };
 
-/// The stable names of codes and weights ("fromMemory", "invalid"), for files, logs and scripts.
+/// A code's stable name ("fromMemory"), for files, logs and scripts.
 ONDEL_PUBLIC std::string_view rawValue(RemarkCode code);
+/// A weight's stable name ("invalid").
 ONDEL_PUBLIC std::string_view rawValue(RemarkWeight weight);
+/// The code with exactly this name; absent for another.
 ONDEL_PUBLIC std::optional<RemarkCode> remarkCode(std::string_view rawValue);
+/// The weight with exactly this name; absent for another.
 ONDEL_PUBLIC std::optional<RemarkWeight> remarkWeight(std::string_view rawValue);
 /// How many numbers a remark of this code has.
 ONDEL_PUBLIC std::size_t numbersOf(RemarkCode code);

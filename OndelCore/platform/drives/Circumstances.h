@@ -24,6 +24,7 @@ struct CircumstanceSample {
 
 /// A drive's link to the machine.
 struct DriveLink {
+    /// What it is attached by.
     enum class Kind { pcie, sata, usb };
 
     Kind kind = Kind::pcie;

@@ -76,6 +76,8 @@ private:
 /// The user's formatter.
 namespace Format {
 
+/// As the user's formatter has it.
+///@{
 inline QString block(std::int64_t bytes) { return Formatter::user().block(bytes); }
 inline QString bytes(std::int64_t bytes) { return Formatter::user().bytes(bytes); }
 inline QString mbValue(double bytesPerSecond) { return Formatter::user().mbValue(bytesPerSecond); }
@@ -88,6 +90,7 @@ inline QString shortStamp(const QDateTime& date) { return Formatter::user().shor
 inline QString runStamp(const QDateTime& date, double durationSeconds) {
     return Formatter::user().runStamp(date, durationSeconds);
 }
+///@}
 
 } // namespace Format
 

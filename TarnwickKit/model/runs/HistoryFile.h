@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TarnwickKit/model/runs/RunFile.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QUuid>

@@ -73,6 +73,7 @@ public:
     /// Brings back deleted runs, in the order of their deletion, with one save. A run that is stored stays as
     /// it is. More than `limit` runs are kept if there were more.
     void restore(const std::vector<Place>& deleted);
+    /// Writes what could not be written so far, and takes in what others have changed.
     void save();
     /// Takes in what others have changed. Cheap if there is nothing.
     void refresh();

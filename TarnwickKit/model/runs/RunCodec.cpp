@@ -1,5 +1,6 @@
 #include "TarnwickKit/model/runs/RunCodec.h"
 
+#include "OndelCore/platform/storage/ReadFile.h"
 #include "TarnwickKit/model/runs/EvidenceCodec.h"
 #include "TarnwickKit/model/runs/JsonFields.h"
 #include "TarnwickKit/model/runs/JsonReader.h"
@@ -268,5 +269,13 @@ std::vector<RunRecord> recoverRuns(QByteArrayView text) {
 }
 
 std::string_view rawValue(RunRecord::Kind kind) { return kinds.at(static_cast<std::size_t>(kind)).second; }
+
+std::optional<std::string> readRunFile(const std::filesystem::path& path) {
+    return OndelCore::platform::readRegularFile(path, maxRunFileBytes);
+}
+
+std::optional<std::string> readRunFile(const std::filesystem::path& path, std::error_code& error) {
+    return OndelCore::platform::readRegularFile(path, maxRunFileBytes, error);
+}
 
 } // namespace TarnwickKit::model

@@ -5,9 +5,12 @@
 
 #include <QByteArray>
 
+#include <filesystem>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace TarnwickKit::model {
@@ -25,6 +28,10 @@ inline constexpr std::size_t maxCurvePoints = 100000;
 /// Shown figures are converted to signed 64-bit integers (9.22e18 at most), after an axis has rounded them
 /// up.
 inline constexpr double largestShownFigure = 9.0e18;
+
+/// The content of a file of runs. Fails: as readRegularFile, and above maxRunFileBytes.
+std::optional<std::string> readRunFile(const std::filesystem::path& path);
+std::optional<std::string> readRunFile(const std::filesystem::path& path, std::error_code& error);
 
 /// The promise of docs/run-file.md: keys are added and never change. A file that must be read in another way
 /// would say so under "formatVersion"; without that key it is of this version.

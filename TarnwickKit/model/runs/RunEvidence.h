@@ -25,6 +25,7 @@ struct ONDEL_PUBLIC RunEvidence {
     std::optional<OndelCore::benchmark::Latency> deleteLatency{};
     std::optional<OndelCore::platform::Circumstances> circumstances{};
 
+    /// What a result holds of it.
     static RunEvidence from(const OndelCore::benchmark::BenchmarkResult& result);
 
     bool operator==(const RunEvidence&) const = default;

@@ -1,6 +1,5 @@
 #include "TarnwickKit/model/runs/RunFile.h"
 
-#include "OndelCore/platform/storage/ReadFile.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
 #include "TarnwickKit/model/runs/HistoryStore.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
@@ -27,14 +26,6 @@ std::optional<RunRecord> decodedFile(const std::filesystem::path& file) {
 }
 
 } // namespace
-
-std::optional<std::string> readRunFile(const std::filesystem::path& path) {
-    return platform::readRegularFile(path, maxRunFileBytes);
-}
-
-std::optional<std::string> readRunFile(const std::filesystem::path& path, std::error_code& error) {
-    return platform::readRegularFile(path, maxRunFileBytes, error);
-}
 
 ImportedRuns ImportedRuns::from(const std::vector<std::filesystem::path>& files) {
     ImportedRuns imported;

@@ -6,9 +6,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <optional>
-#include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 namespace TarnwickKit::model {
@@ -18,10 +16,6 @@ namespace TarnwickKit::model {
 struct TarnwickFile {
     static constexpr std::string_view runExtension = "tarnwickrun";
 };
-
-/// The content of a file of runs. Fails: as readRegularFile, and above maxRunFileBytes.
-std::optional<std::string> readRunFile(const std::filesystem::path& path);
-std::optional<std::string> readRunFile(const std::filesystem::path& path, std::error_code& error);
 
 /// The runs of a list of run files.
 struct ONDEL_PUBLIC ImportedRuns {

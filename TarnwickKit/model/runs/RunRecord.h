@@ -95,7 +95,9 @@ struct ONDEL_PUBLIC RunRecord {
     /// What the evidence says about the figures, worst first; empty: nothing. Absent: not recorded.
     std::optional<std::vector<OndelCore::benchmark::Remark>> remarks;
 
+    /// Asks a volume for its drive's names.
     using IdentityOf = std::function<DriveIdentity(const std::filesystem::path& volumeURL)>;
+    /// The machine's answer. Threads: any; blocks on the system. Fails: no names.
     static DriveIdentity identityOf(const std::filesystem::path& volumeURL);
 
     /// The record of a run, which always has evidence and remarks. `duration`: if absent, the sum of the

@@ -32,6 +32,7 @@ struct ONDEL_PUBLIC TarnwickReport {
     std::optional<double> randomReadIOPS() const { return run.randomReadIOPS; }
     std::optional<double> randomWriteIOPS() const { return run.randomWriteIOPS; }
     std::optional<double> fileOpsPerSecond() const { return run.fileOpsPerSec; }
+    /// The rates over the time of the test.
     std::vector<QPointF> writeCurve() const;
     std::vector<QPointF> readCurve() const;
     std::optional<QString> sizeLabel() const { return run.sizeLabel; }

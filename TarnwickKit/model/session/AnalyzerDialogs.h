@@ -14,6 +14,7 @@ namespace TarnwickKit::model {
 /// back later. It does not call back if it is dismissed.
 class ONDEL_PUBLIC AnalyzerDialogs {
 public:
+    /// Takes the answer; not called without one.
     using Chosen = std::function<void(const std::filesystem::path&)>;
 
     virtual ~AnalyzerDialogs() = default;
@@ -24,6 +25,7 @@ public:
                               const std::optional<std::filesystem::path>& startingAt, Chosen chosen) = 0;
     /// Asks where to save a plain text file. The dialog itself confirms replacing an existing file.
     virtual void askForTextFile(const QString& proposedName, Chosen chosen) = 0;
+    /// Tells of something that went wrong, in one sentence.
     virtual void showError(const QString& sentence) = 0;
 };
 

@@ -86,7 +86,9 @@ public:
     /// The health of the target's drive, read by each selection and after each run.
     const std::optional<OndelCore::health::DiskSMART>& smart() const;
     Q_SIGNAL void smartChanged();
+    /// Asks where to, and writes the health as a text file there. Fails: showError of the dialogs.
     Q_INVOKABLE void exportSMART();
+    /// Owner: the caller, until it sets others or null.
     void setDialogs(AnalyzerDialogs* dialogs);
 
     // --- Run: see RunSession
@@ -132,8 +134,12 @@ public:
     Q_INVOKABLE void start();
     /// Asks the run to end. The phase stays Running until the engine has cleaned up, then it is Idle.
     Q_INVOKABLE void cancel();
+    /// Cancels. The future finishes on this thread when the run has ended, at once if there is none.
     QFuture<void> cancelAndWait();
+    /// Cancels, and blocks until the engine has cleaned up, without any signal: for a process that ends
+    /// without its event loop.
     void abandonRun();
+    /// Takes in what the engine says of the run.
     void apply(const OndelCore::benchmark::BenchmarkProgress& progress);
 
     /// The figure in a test's sidebar row.
@@ -164,9 +170,12 @@ public:
     const std::set<QUuid>& expandedRunIDs() const;
     Q_INVOKABLE void setRunExpanded(const QUuid& id, bool expanded);
     Q_SIGNAL void expandedRunIDsChanged();
+    /// Deleted runs can be brought back for some seconds.
     Q_INVOKABLE void deleteRun(const QUuid& id);
+    /// Gives a run the title that RunRecord::customTitleFrom makes of `text`.
     Q_INVOKABLE void renameRun(const QUuid& id, const QString& text);
     Q_INVOKABLE void clearHistory();
+    /// How many deleted runs can be brought back.
     Q_PROPERTY(int undoableRuns READ undoableRuns NOTIFY undoableRunsChanged)
     int undoableRuns() const;
     Q_INVOKABLE void undoDeletion();

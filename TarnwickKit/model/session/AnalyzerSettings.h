@@ -70,6 +70,7 @@ public:
 
     static constexpr std::array<std::int64_t, 5> baseBlockValues{4096, 65536, 262144, 1048576, 4194304};
     static constexpr std::array<std::int64_t, 4> randomBlockValues{4096, 8192, 16384, 65536};
+    /// An entry of a block size menu. Units: bytes.
     struct BlockOption {
         QString label;
         std::int64_t value;

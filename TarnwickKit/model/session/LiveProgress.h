@@ -37,7 +37,9 @@ class ONDEL_PUBLIC LiveProgress {
 public:
     using BenchmarkTest = OndelCore::benchmark::BenchmarkTest;
 
+    /// Where a test of the run stands.
     enum class Stage { toCome, running, done };
+    /// A test of the run.
     struct Test {
         BenchmarkTest test;
         Stage stage = Stage::toCome;
@@ -48,6 +50,7 @@ public:
         bool operator==(const Test&) const = default;
     };
 
+    /// How long something takes still.
     struct TimeLeft {
         double seconds = 0;
         /// Else that of the running test alone: nothing is known of a test that is still to come.
@@ -65,8 +68,8 @@ public:
     /// The chosen tests in their order.
     const std::vector<Test>& tests() const { return m_tests; }
     std::optional<BenchmarkTest> running() const { return m_running; }
-    double done() const { return m_done; }
-    double total() const { return m_total; } ///< of the running test; 0 while it is not known
+    double done() const { return m_done; }   ///< amount of the running test
+    double total() const { return m_total; } ///< the same; 0 while it is not known
 
     /// The running test's rate over the last second; absent until two events have told it.
     std::optional<double> rate() const;

@@ -18,7 +18,7 @@ ONDEL_PUBLIC void registerFrom(const QString& bundle = QStringLiteral(":/tarnwic
 
 /// The application's font. It turns hinting off for every text: hinted glyphs lose their serifs when a view
 /// is rendered at another scale than the screen's.
-QFont applicationFont();
+ONDEL_PUBLIC QFont applicationFont();
 
 } // namespace TarnwickFonts
 

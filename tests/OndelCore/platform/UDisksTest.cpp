@@ -47,7 +47,9 @@ protected:
         if (m_bus.address().empty())
             GTEST_SKIP() << "no dbus-daemon here";
         addDisk(m_machine, "sda", disk, "scsi", {{"device/vendor", "ATA"}});
-        m_drives.drives["sda"].openError = EACCES;
+        addDisk(m_machine, "nvme0n1", disk + 1, "nvme");
+        for (const char* name : {"sda", "nvme0n1"})
+            m_drives.drives[name].openError = EACCES;
     }
 
     SmartSources sourcesHere() {
@@ -56,11 +58,11 @@ protected:
         return sources;
     }
 
-    SmartAnswer ask(UDisksScript script) {
+    SmartAnswer ask(UDisksScript script, const char* name = "sda") {
         SmartSources sources = sourcesHere();
         sources.serviceLimit = std::chrono::milliseconds(script.isMute ? 50 : 5000);
         const FakeUDisks service(m_bus.address(), std::move(script));
-        SmartAnswer answer = answerOf("sda", sources);
+        SmartAnswer answer = answerOf(name, sources);
         EXPECT_EQ(service.carelessCalls(), 0);
         return answer;
     }
@@ -217,6 +219,31 @@ TEST_F(UDisks, InventsNoVerdict) {
         const SmartAnswer answer = ask(script);
         EXPECT_TRUE(answer.isEmpty()) << what;
         EXPECT_NE(answer.source.find("UDisks2"), std::string::npos) << what << ": " << answer.source;
+    }
+}
+
+TEST_F(UDisks, SaysThatItIsTooOldForNvme) {
+    const std::string tooOld = "UDisks2 2.9.4 does not read the health of NVMe drives (version 2.10 does)";
+    const std::string nothing = "UDisks2 has no health figures of ";
+    struct Case {
+        const char* name;
+        const char* version; ///< null: the service does not tell
+        std::string expected;
+    };
+    const Case cases[] = {{"nvme0n1", "2.9.4", tooOld},
+                          {"nvme0n1", "2.10.1", nothing + "nvme0n1"},
+                          {"nvme0n1", "", nothing + "nvme0n1"},
+                          {"nvme0n1", nullptr, nothing + "nvme0n1"},
+                          {"sda", "2.9.4", nothing + "sda"}};
+    for (const Case& each : cases) {
+        const qulonglong number = each.name[0] == 'n' ? disk + 1 : disk;
+        UDisksScript script{.objects = test::oneDrive(number, u"org.freedesktop.UDisks2.Else"_s, {})};
+        if (each.version)
+            script.objects[QDBusObjectPath(u"/org/freedesktop/UDisks2/Manager"_s)] = {
+                {u"org.freedesktop.UDisks2.Manager"_s, {{u"Version"_s, QString(each.version)}}}};
+        EXPECT_EQ(ask(std::move(script), each.name).source,
+                  each.name + (" may only be asked by an administrator, and " + each.expected))
+            << (each.version ? each.version : "no version");
     }
 }
 

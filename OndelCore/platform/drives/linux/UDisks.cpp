@@ -4,6 +4,7 @@
 #include "OndelCore/platform/process/SessionBus.h"
 
 #include <QDateTime>
+#include <QVersionNumber>
 
 namespace OndelCore::platform {
 
@@ -39,6 +40,20 @@ std::string ageOf(std::uint64_t readAtSeconds) {
 }
 
 SmartAnswer nothing(std::string reason) { return {.blocks = {}, .source = std::move(reason)}; }
+
+/// Why the service gives a drive no interface with health figures.
+std::string reasonForNoFigures(const BlockDevice& disk, const UDisksObjects& objects) {
+    const QDBusObjectPath manager(QStringLiteral("/org/freedesktop/UDisks2/Manager"));
+    const QString version = objects.value(manager)
+                                .value(QStringLiteral("org.freedesktop.UDisks2.Manager"))
+                                .value(QStringLiteral("Version"))
+                                .toString();
+    const QVersionNumber installed = QVersionNumber::fromString(version);
+    if (disk.name.starts_with("nvme") && !installed.isNull() && installed < QVersionNumber(2, 10))
+        return "UDisks2 " + installed.toString().toStdString() +
+               " does not read the health of NVMe drives (version 2.10 does)";
+    return "UDisks2 has no health figures of " + disk.name;
+}
 
 /// The properties of a drive's S.M.A.R.T. interface. On a refusal (a sleeping drive, no permission) the
 /// service keeps its last figures.
@@ -87,7 +102,7 @@ SmartAnswer readFromUDisks(const BlockDevice& disk, const SmartSources& sources)
     for (const QString& interface : {nvmeInterface, ataInterface})
         if (interfaces.contains(interface))
             return readInterface(disk, bus, *drive, interface);
-    return nothing("UDisks2 has no health figures of " + disk.name);
+    return nothing(reasonForNoFigures(disk, *objects));
 }
 
 std::optional<double> celsiusFromUDisks(const BlockDevice& disk, const SmartSources& sources) {
