@@ -3,6 +3,7 @@
 #include "TarnwickKit/model/runs/EvidenceCodec.h"
 #include "TarnwickKit/model/runs/JsonFields.h"
 #include "TarnwickKit/model/runs/JsonReader.h"
+#include "TarnwickKit/model/runs/JsonValues.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
 #include "TarnwickKit/model/runs/RunFields.h"
 
@@ -20,9 +21,6 @@ constexpr std::array<std::pair<RunRecord::Kind, std::string_view>, 3> kinds{
     {{RunRecord::Kind::internalDrive, "internalDrive"},
      {RunRecord::Kind::external, "external"},
      {RunRecord::Kind::network, "network"}}};
-const QString dateForm = QStringLiteral("yyyy-MM-ddTHH:mm:ssZ");
-constexpr qsizetype dateLength = 20;
-constexpr qsizetype uuidLength = 36;
 
 /// Fields with what was observed, which never make a run unreadable.
 constexpr std::array<std::string_view, 4> observedKeys{"kernel", "version", "evidence", "remarks"};
@@ -31,14 +29,6 @@ bool isObserved(std::string_view key) { return std::ranges::find(observedKeys, k
 
 // --- Writing
 
-void write(JsonWriter& json, const QString& value) { json.string(value); }
-void write(JsonWriter& json, double value) { json.number(value); }
-void write(JsonWriter& json, std::int64_t value) { json.integer(value); }
-void write(JsonWriter& json, bool value) { json.boolean(value); }
-void write(JsonWriter& json, const QUuid& value) {
-    json.string(value.toString(QUuid::WithoutBraces).toUpper());
-}
-void write(JsonWriter& json, const QDateTime& value) { json.string(value.toUTC().toString(dateForm)); }
 void write(JsonWriter& json, RunRecord::Kind value) { json.string(QString::fromLatin1(rawValue(value))); }
 void write(JsonWriter& json, const std::vector<RunSample>& samples) {
     json.beginArray();
@@ -54,27 +44,6 @@ void write(JsonWriter& json, const std::vector<RunSample>& samples) {
 }
 
 // --- Reading
-
-void read(JsonReader& json, QString& value) { value = json.string(); }
-void read(JsonReader& json, double& value) { value = json.number() + 0.0; } // -0 becomes 0
-void read(JsonReader& json, std::int64_t& value) { value = json.integer(); }
-void read(JsonReader& json, bool& value) { value = json.boolean(); }
-
-void read(JsonReader& json, QUuid& value) {
-    const QString text = json.string();
-    // QUuid accepts other forms, and returns the null UUID for malformed ones.
-    value = text.size() == uuidLength ? QUuid::fromString(text) : QUuid();
-    if (value.toString(QUuid::WithoutBraces).compare(text, Qt::CaseInsensitive) != 0)
-        throw JsonError("a UUID was expected");
-}
-
-void read(JsonReader& json, QDateTime& value) {
-    const QString text = json.string();
-    value = QDateTime::fromString(text, Qt::ISODate);
-    if (text.size() != dateLength || !value.isValid() || value.toUTC().toString(dateForm) != text)
-        throw JsonError("a date as in 2024-05-01T12:34:56Z was expected");
-    value = value.toUTC();
-}
 
 void read(JsonReader& json, RunRecord::Kind& value) {
     const std::string raw = json.string().toStdString();
@@ -120,9 +89,7 @@ bool isShowable(std::string_view key, double value) {
     return value >= 0 && value <= largestShownFigure * scale;
 }
 bool isShowable(std::string_view, std::int64_t value) { return value >= 0; }
-bool isShowable(std::string_view, const QDateTime& value) {
-    return value.isValid() && value.toUTC().toString(dateForm).size() == dateLength;
-}
+bool isShowable(std::string_view, const QDateTime& value) { return hasJsonForm(value); }
 bool isShowable(std::string_view, const std::vector<RunSample>& samples) {
     return samples.size() <= maxCurvePoints && std::ranges::all_of(samples, [](const RunSample& sample) {
                return isShowable("t", sample.t) && isShowable("vBps", sample.v);
