@@ -214,24 +214,8 @@ std::vector<RunRecord> requireRuns(QByteArrayView text) {
     return text.trimmed().startsWith('[') ? parsed(text, readRuns) : std::vector{parsed(text, readRun)};
 }
 
-/// Tries every '{' as the beginning of a run, because damage can hide where the run before it ends. Objects
-/// nest at most 64 deep, so no text is read more often than that.
 std::vector<RunRecord> recoverRuns(QByteArrayView text) {
-    std::vector<RunRecord> runs;
-    if (static_cast<std::size_t>(text.size()) > maxRunFileBytes)
-        return runs;
-    const std::string mended = QString::fromUtf8(text).toStdString();
-    JsonReader json(mended);
-    for (auto at = mended.find('{'); at != std::string::npos; at = mended.find('{', at)) {
-        json.goTo(at);
-        try {
-            runs.push_back(readRun(json));
-            at = json.position();
-        } catch (const JsonError&) {
-            ++at;
-        }
-    }
-    return runs;
+    return recoverRecords<RunRecord>(text, maxRunFileBytes, readRun);
 }
 
 std::string_view rawValue(RunRecord::Kind kind) { return kinds.at(static_cast<std::size_t>(kind)).second; }
