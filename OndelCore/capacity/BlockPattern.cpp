@@ -147,10 +147,9 @@ BlockVerdict BlockPattern::judge(std::span<const std::byte> block, std::int64_t 
     State worst = State::right;
     BlockVerdict verdict;
     for (std::int64_t i = 0; i < sectorsPerBlock; ++i) {
-        const SectorVerdict sector =
-            judgeSector(block.data() + static_cast<std::size_t>(i) * sectorBytes,
-                        static_cast<std::uint64_t>(number * sectorsPerBlock + i),
-                        static_cast<std::uint64_t>(count * sectorsPerBlock));
+        const SectorVerdict sector = judgeSector(block.data() + static_cast<std::size_t>(i) * sectorBytes,
+                                                 static_cast<std::uint64_t>(number * sectorsPerBlock + i),
+                                                 static_cast<std::uint64_t>(count * sectorsPerBlock));
         verdict.flippedBits += sector.flippedBits;
         if (sector.state == State::other && !verdict.holds)
             verdict.holds = static_cast<std::int64_t>(sector.other) / sectorsPerBlock;
@@ -161,8 +160,8 @@ BlockVerdict BlockPattern::judge(std::span<const std::byte> block, std::int64_t 
     else if (worst == State::foreign)
         verdict.kind = DefectKind::foreign;
     else
-        verdict.kind = verdict.flippedBits > 0 && worst == State::flipped ? DefectKind::bitFlips
-                                                                         : DefectKind::zeros;
+        verdict.kind =
+            verdict.flippedBits > 0 && worst == State::flipped ? DefectKind::bitFlips : DefectKind::zeros;
     if (verdict.kind != DefectKind::bitFlips)
         verdict.flippedBits = 0;
     return verdict;
