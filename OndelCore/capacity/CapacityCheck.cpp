@@ -1,12 +1,13 @@
 #include "OndelCore/capacity/CapacityCheck.h"
 
-#include "OndelCore/benchmark/BenchmarkError.h"
+#include "OndelCore/capacity/CheckRunner.h"
 
 namespace OndelCore::capacity {
 
-CapacityResult CapacityCheck::run(const CapacityPlan& /*plan*/, std::stop_token /*stop*/,
-                                  const CapacityListener& /*progress*/) const {
-    throw benchmark::BenchmarkError(benchmark::BenchmarkError::NotWritable{});
+CapacityResult CapacityCheck::run(const CapacityPlan& plan, std::stop_token stop,
+                                  const CapacityListener& progress) const {
+    return runCheck(
+        CheckEnvironment{}, plan, stop, progress ? progress : [](const CapacityProgress&) {});
 }
 
 } // namespace OndelCore::capacity
