@@ -84,6 +84,8 @@ void CapacitySession::start(const CapacityPlan& plan) {
     m_check->began = m_services.now();
     m_check->ended.start();
     m_course.begin(m_check->plan);
+    m_last.reset();
+    m_failure = {};
     Log::app.notice("capacity check started",
                     LogField::token("connection", m_check->volume.connectionLabel()),
                     LogField::int_("size", plan.size.value_or(0)), LogField::bool_("quick", plan.isQuick));
@@ -142,7 +144,7 @@ void CapacitySession::stop() {
         return;
     m_check->stop.request_stop();
     if (!m_check->launched)
-        end(Outcome::stopped, {});
+        end(Outcome::stopped);
 }
 
 QFuture<void> CapacitySession::stopAndWait() {
@@ -177,12 +179,12 @@ void CapacitySession::engineEnded() {
     } catch (const Cancelled&) {
         if (const auto& last = m_course.last())
             record(resultWhenStopped(*last), true);
-        return end(Outcome::stopped, {});
+        return end(Outcome::stopped);
     } catch (const std::exception& error) {
         Log::app.error("capacity check failed", LogField::failure(error));
         return end(Outcome::failed, {describe(error), explain(error)});
     }
-    end(Outcome::finished, {});
+    end(Outcome::finished);
 }
 
 void CapacitySession::record(const CapacityResult& result, bool wasStopped) {
@@ -200,6 +202,7 @@ void CapacitySession::record(const CapacityResult& result, bool wasStopped) {
                     LogField::int_("verified", result.verified), LogField::int_("wrong", result.wrong),
                     LogField::int_("unreadable", result.unreadable),
                     LogField::bool_("falseCapacity", result.realSize.has_value()));
+    m_last = check;
     Q_EMIT recorded(check);
 }
 
@@ -211,7 +214,8 @@ void CapacitySession::end(Outcome outcome, const RunFailure& failure) {
     if (outcome != Outcome::finished)
         Log::app.notice("capacity check without a result",
                         LogField::bool_("failed", outcome == Outcome::failed));
-    Q_EMIT ended(outcome, failure);
+    m_failure = failure;
+    Q_EMIT ended(outcome);
     m_target.refreshSMART();
     check->ended.finish();
     QMetaObject::invokeMethod(this, [check] {}, Qt::QueuedConnection);

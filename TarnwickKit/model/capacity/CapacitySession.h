@@ -47,10 +47,13 @@ public:
     const CapacityCourse& course() const { return m_course; }
     Q_SIGNAL void progressed();
 
+    /// The record of the last check, and why it failed; absent and empty if it did not get so far.
+    const std::optional<CapacityRecord>& last() const { return m_last; }
+    const RunFailure& failure() const { return m_failure; }
     /// A check has ended, and this is its record. A stopped one has a record too.
     Q_SIGNAL void recorded(const TarnwickKit::model::CapacityRecord& check);
-    /// Follows it. `failure`: empty unless the check failed.
-    Q_SIGNAL void ended(Outcome outcome, const TarnwickKit::model::RunFailure& failure);
+    /// Follows it. The next check may begin from here.
+    Q_SIGNAL void ended(Outcome outcome);
 
 private:
     class LatestProgress;
@@ -60,12 +63,14 @@ private:
     void poll();
     void engineEnded();
     void record(const OndelCore::capacity::CapacityResult& result, bool wasStopped);
-    void end(Outcome outcome, const RunFailure& failure);
+    void end(Outcome outcome, const RunFailure& failure = {});
 
     const AnalyzerServices& m_services;
     AnalyzerTarget& m_target;
     std::shared_ptr<Check> m_check; ///< kept until the next one begins
     CapacityCourse m_course;
+    std::optional<CapacityRecord> m_last;
+    RunFailure m_failure;
     QTimer m_clock;
 };
 

@@ -125,6 +125,10 @@ void AnalyzerModel::connectParts() {
     });
     connect(&m_parts->capacity, &CapacitySession::ended, this, &AnalyzerModel::announceCanRun);
     connect(this, &AnalyzerModel::comparisonBegan, this, [this] { setShowsCheck(false); });
+    connect(this, &AnalyzerModel::compareModeChanged, this, [this] {
+        if (compareMode())
+            setShowsCheck(false);
+    });
     connect(&m_parts->library, &RunLibrary::shownAgain, this, [this] { setPhase(Phase::Done); });
     connect(&m_parts->library, &RunLibrary::unreadable, this, [this](const auto& files) {
         std::vector<std::string> names;
