@@ -212,7 +212,7 @@ void addSizes(std::vector<CapacityFact>& facts, const CapacityRecord& check) {
     if (result.realSize)
         facts.push_back({CapacityText::tr("Real size"), decimalSize(result.realSize->bytes), true});
     const QString range = Format::bytes(result.planned);
-    facts.push_back({CapacityText::tr("To be checked"),
+    facts.push_back({CapacityText::tr("Space to check"),
                      check.size ? range : CapacityText::tr("%1 of free space").arg(range)});
     if (result.quick)
         facts.push_back({CapacityText::tr("Samples"),

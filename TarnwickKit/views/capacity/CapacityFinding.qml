@@ -65,12 +65,12 @@ ColumnLayout {
         SmallButton {
             label: qsTr("Copy")
             hint: qsTr("Copy the report as text")
-            symbol: "info.circle"
+            symbol: ""
             onClicked: finding.check.copy()
         }
         SmallButton {
             label: qsTr("New Check")
-            symbol: "play.fill"
+            symbol: ""
             onClicked: finding.check.forget()
         }
     }

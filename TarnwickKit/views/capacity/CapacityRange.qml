@@ -34,7 +34,7 @@ ColumnLayout {
                 width: map.width
                 height: map.pitch
                 Accessible.role: Accessible.StaticText
-                Accessible.name: view.check.rowText(index * map.columns, map.columns, map.rows * map.columns)
+                Accessible.name: view.check.rowText(view.check.revision, index * map.columns, map.columns, map.rows * map.columns)
             }
         }
     }
@@ -59,10 +59,11 @@ ColumnLayout {
 
         PlainText {
             Layout.fillWidth: true
-            text: qsTr("Rate along the space, up to %1 MB/s").arg(Format.mbValue(1e6 * rates.top))
+            text: qsTr("Rate along the space, up to %1 MB/s").arg(Format.mbValue(1e6 * rates.highest))
             font: Typeface.mono(10.5)
             color: PaletteKey.palette.text2
-            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft
+            wrapMode: Text.Wrap
         }
         LegendItem {
             color: PaletteKey.palette.coral

@@ -181,6 +181,7 @@ void LiveCheck::read() {
         tell();
     if (m_looks % looksPerSpeaking == 0) {
         m_spokenPercent = static_cast<int>(100 * m_share);
+        ++m_revision;
         Q_EMIT spoken();
     }
     ++m_looks;
@@ -220,15 +221,41 @@ void LiveCheck::setMap(const std::vector<BlockState>& states, std::int64_t range
         const auto count = std::ranges::count(states, state);
         if (count == 0 && state == BlockState::writeFailed)
             continue; // it is rare
-        const double share =
-            states.empty() ? 0 : static_cast<double>(count) / static_cast<double>(states.size());
-        m_kinds.append({QByteArray(1, static_cast<char>(state)), model::blockStateName(state),
-                        count > 0 ? Format::bytes(static_cast<std::int64_t>(share * m_range)) : QString()});
+        m_kinds.append(
+            {QByteArray(1, static_cast<char>(state)), model::blockStateName(state), amountOf(state, count)});
     }
     Q_EMIT mapChanged();
 }
 
-QString LiveCheck::rowText(int first, int count, int all) const {
+/// Of what is wrong a cell tells no more than that there is some; a record knows how much. `cells`: those in
+/// this state.
+QString LiveCheck::amountOf(BlockState state, std::int64_t cells) const {
+    if (cells == 0)
+        return {};
+    if (m_record && !m_record->wasStopped) {
+        const auto& result = m_record->result;
+        switch (state) {
+        case BlockState::untouched:
+        case BlockState::written:
+            break;
+        case BlockState::verified:
+            return Format::bytes(result.verified);
+        case BlockState::wrong:
+            return Format::bytes(result.wrong);
+        case BlockState::unreadable:
+            return Format::bytes(result.unreadable);
+        case BlockState::writeFailed:
+            return Format::bytes(result.writeFailed);
+        }
+    }
+    if (state >= BlockState::wrong)
+        return cells == 1 ? tr("in one part")
+                          : tr("in %1 parts", nullptr, static_cast<int>(cells)).arg(cells);
+    return Format::bytes(static_cast<std::int64_t>(m_range * static_cast<double>(cells) /
+                                                   static_cast<double>(m_cells.size())));
+}
+
+QString LiveCheck::rowText(int /*revision*/, int first, int count, int all) const {
     if (all <= 0 || m_cells.isEmpty())
         return {};
     const auto place = [&](int cell) {
@@ -256,6 +283,8 @@ void LiveCheck::setRecord(std::optional<model::CapacityRecord> record) {
         m_writeRates = pointsOf(result.write, result.planned);
         m_readRates = pointsOf(result.read, result.planned);
         setMap(result.cells.states, result.planned);
+        ++m_revision;
+        Q_EMIT spoken();
     }
     Q_EMIT recordChanged();
 }

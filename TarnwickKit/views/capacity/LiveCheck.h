@@ -89,7 +89,8 @@ class LiveCheck : public QObject {
 
     // --- Of the running or the shown check
     Q_PROPERTY(QByteArray cells MEMBER m_cells NOTIFY mapChanged)
-    Q_PROPERTY(double range MEMBER m_range NOTIFY mapChanged)
+    /// Counts up when what rowText tells may be news: at most once a second.
+    Q_PROPERTY(int revision MEMBER m_revision NOTIFY spoken)
     Q_PROPERTY(QList<TarnwickKit::views::CellKind> kinds MEMBER m_kinds NOTIFY mapChanged)
     /// Units: shares of the range, decimal megabytes per second.
     Q_PROPERTY(QList<QPointF> writeRates MEMBER m_writeRates NOTIFY mapChanged)
@@ -134,8 +135,9 @@ public:
     Q_SIGNAL void spoken();
     Q_SIGNAL void mapChanged();
 
-    /// Of a row of the map, for assistive technology. `first`, `count`: its cells, of `all`.
-    Q_INVOKABLE QString rowText(int first, int count, int all) const;
+    /// A row of the map for assistive technology: its `count` cells from `first` on, of `all`. `revision`:
+    /// whatever it is.
+    Q_INVOKABLE QString rowText(int revision, int first, int count, int all) const;
 
     bool hasRecord() const { return m_record.has_value(); }
     QString title() const;
@@ -165,6 +167,7 @@ private:
     void read();
     void tell();
     void setRecord(std::optional<model::CapacityRecord> record);
+    QString amountOf(OndelCore::capacity::BlockState state, std::int64_t cells) const;
     void setMap(const std::vector<OndelCore::capacity::BlockState>& states, std::int64_t range);
 
     ModelObserver m_analyzer;
@@ -179,6 +182,7 @@ private:
     int m_spokenPercent = 0;
     QByteArray m_cells;
     double m_range = 0;
+    int m_revision = 0;
     QList<CellKind> m_kinds;
     QList<QPointF> m_writeRates;
     QList<QPointF> m_readRates;

@@ -28,19 +28,19 @@ void RateCurves::setReadColor(const QColor& color) {
         Q_EMIT changed();
 }
 
-double RateCurves::top() const {
-    double highest = 0;
+double RateCurves::highest() const {
+    double top = 0;
     for (const QList<QPointF>* points : {&m_write, &m_read})
         for (const QPointF& point : *points)
-            highest = std::max(highest, point.y());
-    return highest;
+            top = std::max(top, point.y());
+    return top;
 }
 
 OndelControls::ImageItem::Picture RateCurves::paint(double scale) {
     constexpr double lineWidth = 2;
     QImage image(inPixels(size(), scale), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    const double highest = std::max(1e-9, top());
+    const double top = std::max(1e-9, highest());
     const double room = height() - lineWidth;
     for (const auto& [points, color] : {std::pair(&m_write, m_writeColor), std::pair(&m_read, m_readColor)}) {
         if (points->size() < 2)
@@ -48,7 +48,7 @@ OndelControls::ImageItem::Picture RateCurves::paint(double scale) {
         CurveRaster raster(image.width(), image.height(), lineWidth * scale, 0, CurveRaster::Caps::Round);
         for (const QPointF& point : *points)
             raster.add(QPointF(std::clamp(point.x(), 0.0, 1.0) * width(),
-                               lineWidth / 2 + (1 - point.y() / highest) * room) *
+                               lineWidth / 2 + (1 - point.y() / top) * room) *
                        scale);
         blendLine(image, raster, color, 0);
     }

@@ -20,7 +20,7 @@ class RateCurves : public OndelControls::ImageItem {
     Q_PROPERTY(QColor writeColor MEMBER m_writeColor WRITE setWriteColor NOTIFY changed)
     Q_PROPERTY(QColor readColor MEMBER m_readColor WRITE setReadColor NOTIFY changed)
     /// The highest rate.
-    Q_PROPERTY(double top READ top NOTIFY changed)
+    Q_PROPERTY(double highest READ highest NOTIFY changed)
 
 public:
     using ImageItem::ImageItem;
@@ -29,7 +29,7 @@ public:
     void setRead(const QList<QPointF>& points);
     void setWriteColor(const QColor& color);
     void setReadColor(const QColor& color);
-    double top() const;
+    double highest() const;
     Q_SIGNAL void changed();
 
 protected:
