@@ -125,7 +125,8 @@ void Check::writeAll() {
 void Check::acceptWhatTheFileSystemNeeds() {
     constexpr std::int64_t mebibyte = 1048576;
     const bool isFilling = !m_run.plan.size && !m_run.plan.isQuick;
-    const std::int64_t missing = m_result.planned - m_result.written - m_run.findings.writing.bytes();
+    const std::int64_t missing =
+        m_result.planned - m_result.written - m_run.findings.writing.bytesOf(DefectKind::writeFailed);
     if (isFilling && m_result.earlyEnd == EarlyEnd::full && missing <= m_result.planned / 50 + mebibyte) {
         m_result.planned -= missing;
         m_result.earlyEnd.reset();
