@@ -103,13 +103,15 @@ void Check::writeAll() {
         Samples samples = prepareSamples(m_run);
         stretches = std::move(samples.stretches);
         m_result.quick = samples.sampling;
+        m_result.earlyEnd = samples.end;
     }
     const auto phase = m_run.plan.isQuick ? CapacityPhase::sampling : CapacityPhase::writing;
     int error = 0;
     m_result.write = m_witness.observed([&] {
         WriteOutcome outcome =
             writeStretches(m_run, phase, stretches, !m_run.plan.isQuick && !m_run.plan.size);
-        m_result.earlyEnd = outcome.end;
+        if (outcome.end)
+            m_result.earlyEnd = outcome.end;
         error = outcome.error;
         return std::move(outcome.pass);
     });
