@@ -64,16 +64,16 @@ Distances distancesOf(const RealSizeClues& clues, const PlaceMap& places) {
     return bytes;
 }
 
-/// Not the same one again and again, as a device gives that has lost what was asked for.
-bool holdsDifferentBlocks(const RealSizeClues& clues) {
+/// Whether a quick check found the same block at each wrong place: a device gives that for what it has lost.
+bool isOneBlockEverywhere(const RealSizeClues& clues) {
+    std::int64_t blocks = 0;
     std::set<std::int64_t> held;
-    std::size_t runs = 0;
     for (const CapacityDefect& run : clues.findings.reading.runs())
         if (run.holds) {
-            ++runs;
+            blocks += run.length / blockBytes;
             held.insert(*run.holds);
         }
-    return held.size() * 2 > runs;
+    return blocks > 1 && held.size() == 1 && clues.isQuick;
 }
 
 std::optional<CapacityRealSize> wrapSize(const RealSizeClues& clues, const PlaceMap& places) {
@@ -81,7 +81,7 @@ std::optional<CapacityRealSize> wrapSize(const RealSizeClues& clues, const Place
     std::int64_t sum = 0;
     for (const auto& [distance, bytes] : distances)
         sum += bytes;
-    if (sum < (clues.isQuick ? blockBytes : 64 * blockBytes) || !holdsDifferentBlocks(clues))
+    if (sum < (clues.isQuick ? blockBytes : 64 * blockBytes) || isOneBlockEverywhere(clues))
         return std::nullopt;
     // The shortest distance that is no accident; where a device wraps several times, others are its
     // multiples.

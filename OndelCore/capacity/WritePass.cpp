@@ -7,6 +7,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
+#include <iterator>
+#include <span>
 #include <system_error>
 #include <thread>
 
@@ -92,6 +95,7 @@ public:
 private:
     bool open(std::int64_t offset);
     bool goesOnAfter(int error, const Chunk& chunk);
+    std::int64_t writeBlocks(std::span<const std::byte> bytes, std::int64_t offset);
     void enterDefect(DefectKind kind, Stretch stretch, int error);
     bool skip(std::int64_t length, int error, const Chunk& chunk);
     void dropLastPiece(EarlyEnd end, int error);
@@ -129,20 +133,37 @@ bool RangeWriter::write(const Chunk& chunk) {
         const std::int64_t wanted = std::min({chunk.length - m_done, m_file->piece().end() - offset, m_step});
         const auto bytes =
             chunk.content().subspan(static_cast<std::size_t>(m_done), static_cast<std::size_t>(wanted));
-        const ssize_t moved = m_file->write(bytes, offset);
-        const std::int64_t whole = moved / blockBytes * blockBytes;
+        const std::int64_t whole = writeBlocks(bytes, offset);
         if (whole > 0) {
             m_run.findings.addWritten(offset, whole);
             m_meter.transferred(offset, whole);
             m_done += whole;
             m_failedInRow = 0;
-        } else if (!goesOnAfter(moved < 0 ? errno : ENOSPC, chunk)) {
+        } else if (!goesOnAfter(errno, chunk)) {
             return false;
         }
     }
     if (m_repeatedFor != 0)
         enterDefect(DefectKind::recovered, {chunk.offset, chunk.length}, m_repeatedFor);
     return true;
+}
+
+/// Answers how much was written, in whole blocks. What a short write left of a block is tried alone, as that
+/// tells why it was short. Fails: 0, with errno set.
+std::int64_t RangeWriter::writeBlocks(std::span<const std::byte> bytes, std::int64_t offset) {
+    std::int64_t moved = 0;
+    do {
+        const std::int64_t left =
+            moved == 0 ? std::ssize(bytes) : (moved / blockBytes + 1) * blockBytes - moved;
+        const ssize_t more = m_file->write(
+            bytes.subspan(static_cast<std::size_t>(moved), static_cast<std::size_t>(left)), offset + moved);
+        if (more == 0)
+            errno = ENOSPC;
+        if (more <= 0)
+            break;
+        moved += more;
+    } while (moved % blockBytes != 0);
+    return moved / blockBytes * blockBytes;
 }
 
 void RangeWriter::enterDefect(DefectKind kind, Stretch stretch, int error) {
