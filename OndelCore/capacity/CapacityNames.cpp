@@ -16,8 +16,8 @@ constexpr std::array<std::string_view, 6> phases{"preparing", "sampling", "writi
                                                  "reading",   "waiting",  "readingAgain"};
 constexpr std::array<std::string_view, 6> states{"untouched", "written",    "verified",
                                                  "wrong",     "unreadable", "writeFailed"};
-constexpr std::array<std::string_view, allDefectKinds.size()> kinds{"zeros",    "otherBlock", "foreign",
-                                                                    "bitFlips", "unreadable", "writeFailed"};
+constexpr std::array<std::string_view, allDefectKinds.size()> kinds{
+    "zeros", "otherBlock", "foreign", "bitFlips", "unreadable", "writeFailed", "recovered"};
 constexpr std::array<std::string_view, 2> reasons{"wrapsAround", "dropsBeyond"};
 constexpr std::array<std::string_view, 3> ends{"full", "quota", "writeErrors"};
 

@@ -22,11 +22,12 @@ enum class DefectKind {
     bitFlips,    ///< the right content with a few bits changed
     unreadable,  ///< reading failed
     writeFailed, ///< writing failed; such a block is not read
+    recovered,   ///< writing or reading failed, and succeeded when it was repeated in parts
 };
 
-inline constexpr std::array allDefectKinds{DefectKind::zeros,      DefectKind::otherBlock,
-                                           DefectKind::foreign,    DefectKind::bitFlips,
-                                           DefectKind::unreadable, DefectKind::writeFailed};
+inline constexpr std::array allDefectKinds{
+    DefectKind::zeros,      DefectKind::otherBlock,  DefectKind::foreign,  DefectKind::bitFlips,
+    DefectKind::unreadable, DefectKind::writeFailed, DefectKind::recovered};
 
 /// Neighbouring blocks with the same defect. Units: bytes. Offsets count from the check's own first byte, in
 /// the order of its writing; they are no addresses on the disk.
@@ -34,10 +35,12 @@ struct CapacityDefect {
     DefectKind kind = DefectKind::foreign;
     std::int64_t offset = 0;
     std::int64_t length = 0; ///< a multiple of 4096
-    /// otherBlock: the offset whose content the first block holds; the others hold what follows there.
+    /// otherBlock: the offset whose content the first block holds. The others hold what follows there, or the
+    /// same if `repeats`.
     std::optional<std::int64_t> holds{};
     std::int64_t flippedBits = 0;           ///< bitFlips: in all blocks of it
-    std::optional<std::error_code> error{}; ///< unreadable, writeFailed: of the first
+    std::optional<std::error_code> error{}; ///< unreadable, writeFailed, recovered: of the first
+    bool repeats = false;                   ///< otherBlock: all its blocks hold the same
     bool isOnlyLater = false;               ///< right at the first reading, and found by the second alone
 
     bool operator==(const CapacityDefect&) const = default;
@@ -47,7 +50,9 @@ struct CapacityDefect {
 struct CapacityRealSize {
     enum class Reason {
         wrapsAround, ///< what lies beyond is written over what lies before
-        dropsBeyond, ///< what lies beyond is lost
+        /// What lies beyond is lost. File systems with checksums refuse to read what came back wrong, and so
+        /// hide which of the two it is.
+        dropsBeyond,
     };
     Reason reason = Reason::dropsBeyond;
     /// Units: bytes. wrapsAround: of the device, exact where the file system told the places of its blocks.
@@ -113,6 +118,7 @@ struct ONDEL_PUBLIC CapacityResult {
     std::int64_t wrong = 0;    ///< came back otherwise
     std::int64_t unreadable = 0;
     std::int64_t writeFailed = 0;
+    std::int64_t recovered = 0; ///< in transfers that had to be repeated; counted as verified too, if right
     /// By rising offset: the first 100 runs of blocks.
     std::vector<CapacityDefect> defects{};
     std::int64_t furtherDefects = 0; ///< how many runs there are besides
@@ -132,7 +138,7 @@ struct ONDEL_PUBLIC CapacityResult {
     double duration = 0; ///< seconds of the whole check, removal excluded
 
     std::int64_t bytesOf(DefectKind kind) const { return bytesByKind.at(static_cast<std::size_t>(kind)); }
-    bool hasDefects() const { return wrong + unreadable + writeFailed > 0; }
+    bool hasDefects() const { return wrong + unreadable + writeFailed + recovered > 0; }
     /// All that was planned came back as written, in a check that was not a quick one, and nothing speaks
     /// against the disk itself having been read. Without it and without defects a check found nothing, and
     /// that is all it may claim.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/benchmark/EngineEnvironment.h"
+#include "OndelCore/platform/drives/DeviceCache.h"
 #include "OndelCore/platform/storage/FileExtents.h"
 
 #include <cstddef>
@@ -14,6 +15,7 @@ namespace OndelCore::capacity {
 struct CheckEnvironment : benchmark::EngineEnvironment {
     /// How long a file becomes. FAT takes less than 4 GiB.
     std::int64_t fileBytes = std::int64_t{1} << 30;
+    std::function<void(int folder)> dropDeviceCache = platform::dropDeviceCache;
     std::function<bool(int descriptor, std::int64_t length)> reserveSpace = platform::reserveSpace;
     std::function<bool(int descriptor)> lacksSparseFiles = platform::lacksSparseFiles;
     std::function<std::vector<platform::FileExtent>(int descriptor, std::size_t most)> fileExtents =

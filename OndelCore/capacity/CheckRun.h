@@ -10,7 +10,6 @@
 #include "OndelCore/capacity/StandstillClock.h"
 
 #include <cstdint>
-#include <optional>
 #include <stop_token>
 
 namespace OndelCore::capacity {
@@ -39,8 +38,8 @@ struct CheckRun {
 /// Whether the error says that there is no device any more.
 bool meansGone(int error);
 
-/// After many errors in a row: whether the volume answers at all. `known`: the offset of a block that was
-/// good, if any is known.
-bool isVolumeGone(const CheckRun& run, std::optional<std::int64_t> known);
+/// After many errors in a row: whether nothing at all of what was written can be read. File systems with
+/// checksums fail to read what a disk returns wrong; then other places can be read still.
+bool isVolumeGone(const CheckRun& run);
 
 } // namespace OndelCore::capacity

@@ -103,13 +103,15 @@ void Check::writeAll() {
         Samples samples = prepareSamples(m_run);
         stretches = std::move(samples.stretches);
         m_result.quick = samples.sampling;
+        m_result.earlyEnd = samples.end;
     }
     const auto phase = m_run.plan.isQuick ? CapacityPhase::sampling : CapacityPhase::writing;
     int error = 0;
     m_result.write = m_witness.observed([&] {
         WriteOutcome outcome =
             writeStretches(m_run, phase, stretches, !m_run.plan.isQuick && !m_run.plan.size);
-        m_result.earlyEnd = outcome.end;
+        if (outcome.end)
+            m_result.earlyEnd = outcome.end;
         error = outcome.error;
         return std::move(outcome.pass);
     });
@@ -125,7 +127,8 @@ void Check::writeAll() {
 void Check::acceptWhatTheFileSystemNeeds() {
     constexpr std::int64_t mebibyte = 1048576;
     const bool isFilling = !m_run.plan.size && !m_run.plan.isQuick;
-    const std::int64_t missing = m_result.planned - m_result.written - m_run.findings.writing.bytes();
+    const std::int64_t missing =
+        m_result.planned - m_result.written - m_run.findings.writing.bytesOf(DefectKind::writeFailed);
     if (isFilling && m_result.earlyEnd == EarlyEnd::full && missing <= m_result.planned / 50 + mebibyte) {
         m_result.planned -= missing;
         m_result.earlyEnd.reset();

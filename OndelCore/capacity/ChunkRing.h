@@ -24,7 +24,7 @@ struct Chunk {
     std::int64_t length = 0;
     /// Reading: for each block whether it could not be read; empty when all could.
     std::vector<bool> unreadable{};
-    std::error_code error{}; ///< of the first of them
+    std::error_code error{}; ///< of the first of them; without any: the transfer had to be repeated
 
     std::span<std::byte> content() const { return memory.first(static_cast<std::size_t>(length)); }
 };

@@ -1,22 +1,24 @@
 #include "OndelCore/capacity/DefectList.h"
 
+#include "OndelCore/capacity/BlockPattern.h"
+
 #include <algorithm>
-#include <numeric>
 
 namespace OndelCore::capacity {
 
 namespace {
 
-bool isContinuedBy(const CapacityDefect& run, const CapacityDefect& next) {
+/// How a run goes on, if it does: its blocks hold what follows elsewhere, or all the same.
+enum class Continuation { none, following, repeating };
+
+Continuation continuationOf(const CapacityDefect& run, const CapacityDefect& next) {
     if (run.offset + run.length != next.offset || run.kind != next.kind ||
         run.isOnlyLater != next.isOnlyLater || run.error != next.error)
-        return false;
-    return !run.holds || *run.holds + run.length == next.holds;
-}
-
-void prolong(CapacityDefect& run, const CapacityDefect& by) {
-    run.length += by.length;
-    run.flippedBits += by.flippedBits;
+        return Continuation::none;
+    if (!run.holds || (!run.repeats && *run.holds + run.length == next.holds))
+        return Continuation::following;
+    return run.holds == next.holds && (run.repeats || run.length == blockBytes) ? Continuation::repeating
+                                                                                : Continuation::none;
 }
 
 } // namespace
@@ -24,8 +26,11 @@ void prolong(CapacityDefect& run, const CapacityDefect& by) {
 void DefectList::add(const CapacityDefect& defect) {
     m_bytes.at(static_cast<std::size_t>(defect.kind)) += defect.length;
     const bool isKept = m_furtherRuns == 0;
-    if (m_last.length > 0 && isContinuedBy(m_last, defect)) {
-        prolong(m_last, defect);
+    const Continuation continuation = m_last.length > 0 ? continuationOf(m_last, defect) : Continuation::none;
+    if (continuation != Continuation::none) {
+        m_last.length += defect.length;
+        m_last.flippedBits += defect.flippedBits;
+        m_last.repeats = continuation == Continuation::repeating;
         if (isKept)
             m_runs.back() = m_last;
         return;
@@ -37,17 +42,13 @@ void DefectList::add(const CapacityDefect& defect) {
         ++m_furtherRuns;
 }
 
-std::int64_t DefectList::bytes() const {
-    return std::accumulate(m_bytes.begin(), m_bytes.end(), std::int64_t{0});
-}
-
 bool DefectList::covers(std::int64_t offset) const {
     const auto after = std::ranges::upper_bound(m_runs, offset, {}, &CapacityDefect::offset);
     if (after == m_runs.begin())
         return false;
     const CapacityDefect& run = *std::prev(after);
     if (offset < run.offset + run.length)
-        return true;
+        return run.kind != DefectKind::recovered; // what is in such a run was good
     return m_furtherRuns > 0 && after == m_runs.end();
 }
 
@@ -68,7 +69,9 @@ void enterDefects(CapacityResult& result, const DefectList& writing, const Defec
     }
     result.unreadable = result.bytesOf(DefectKind::unreadable);
     result.writeFailed = result.bytesOf(DefectKind::writeFailed);
-    result.wrong = reading.bytes() + again.bytes() - result.unreadable;
+    result.recovered = result.bytesOf(DefectKind::recovered);
+    result.wrong = result.bytesOf(DefectKind::zeros) + result.bytesOf(DefectKind::otherBlock) +
+                   result.bytesOf(DefectKind::foreign) + result.bytesOf(DefectKind::bitFlips);
     result.verified = result.written - result.wrong - result.unreadable;
 }
 

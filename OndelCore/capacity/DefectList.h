@@ -21,8 +21,6 @@ public:
     const std::vector<CapacityDefect>& runs() const { return m_runs; }
     std::int64_t furtherRuns() const { return m_furtherRuns; }
     std::int64_t bytesOf(DefectKind kind) const { return m_bytes.at(static_cast<std::size_t>(kind)); }
-    std::int64_t bytes() const;
-    bool isEmpty() const { return m_runs.empty(); }
     /// Whether the block at `offset` is in a run. Beyond what is kept, once something was left out, every one
     /// counts as such.
     bool covers(std::int64_t offset) const;

@@ -42,6 +42,11 @@ private:
     void compareAll() {
         platform::keepSignalsOffThisThread();
         while (const Chunk* chunk = m_ring.toEmpty()) {
+            if (chunk->unreadable.empty() && chunk->error)
+                enter({.kind = DefectKind::recovered,
+                       .offset = chunk->offset,
+                       .length = chunk->length,
+                       .error = chunk->error});
             if (chunk->unreadable.empty())
                 compare(chunk->content(), chunk->offset);
             else
@@ -91,8 +96,7 @@ private:
 
     void enter(CapacityDefect defect) {
         m_run.findings.map.mark(defect.offset, defect.length,
-                                defect.kind == DefectKind::unreadable ? BlockState::unreadable
-                                                                      : BlockState::wrong);
+                                defect.error ? BlockState::unreadable : BlockState::wrong);
         if (m_known != nullptr && m_known->covers(defect.offset))
             return;
         defect.isOnlyLater = m_known != nullptr;
@@ -127,7 +131,6 @@ private:
     const CheckRun& m_run;
     std::optional<PieceFile> m_file;
     std::int64_t m_failedInRow = 0;
-    std::optional<std::int64_t> m_lastRead; ///< the offset of a block that could be read
     std::int64_t m_refused = 0;
     bool m_isBypassRefused = false;
 };
@@ -151,7 +154,6 @@ void RangeReader::read(Chunk& chunk) {
         done += moved;
     }
     m_failedInRow = 0;
-    m_lastRead = chunk.offset;
 }
 
 /// As pread(2); the end of the file counts as an error.
@@ -171,13 +173,14 @@ void RangeReader::readBlocks(Chunk& chunk, std::int64_t from) {
         return fail(chunk, from, chunk.length - from, error);
     for (std::int64_t at = from; at < chunk.length; at += blockBytes) {
         m_run.throwIfStopped();
-        if (transfer(chunk, at, blockBytes) == blockBytes) {
+        if (transfer(chunk, at, blockBytes) == blockBytes)
             m_failedInRow = 0;
-            m_lastRead = chunk.offset + at;
-        } else {
+        else
             fail(chunk, at, blockBytes, errno);
-        }
     }
+    const bool isOfTheMachine = error == ENOMEM || error == EAGAIN;
+    if (chunk.unreadable.empty() && !isOfTheMachine)
+        chunk.error = std::error_code(error, std::generic_category());
 }
 
 void RangeReader::fail(Chunk& chunk, std::int64_t from, std::int64_t length, int error) {
@@ -191,7 +194,7 @@ void RangeReader::fail(Chunk& chunk, std::int64_t from, std::int64_t length, int
     const std::int64_t before = m_failedInRow;
     m_failedInRow += length;
     const bool isAnotherStretch = m_failedInRow / mostFailedInRow > before / mostFailedInRow;
-    if (isAnotherStretch && isVolumeGone(m_run, m_lastRead))
+    if (isAnotherStretch && isVolumeGone(m_run))
         throw benchmark::ioError("read: ", error);
 }
 
@@ -213,6 +216,7 @@ void RangeReader::tell(CapacityPass& pass) const {
 
 CapacityPass readWritten(const CheckRun& run, CapacityPhase phase, DefectList& defects,
                          const DefectList* known) {
+    run.system.dropDeviceCache(run.volume);
     PassMeter meter(run, phase, run.findings.bytesWritten());
     RangeReader reader(run);
     {

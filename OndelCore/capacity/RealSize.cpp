@@ -3,8 +3,11 @@
 #include "OndelCore/capacity/BlockPattern.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <map>
+#include <ranges>
+#include <set>
 
 namespace OndelCore::capacity {
 
@@ -42,48 +45,62 @@ private:
 
 using Distances = std::map<std::int64_t, std::int64_t>;
 
-/// How far from its place each content was found, with the bytes for each distance; positive: what was
-/// written further on lies here.
+/// How far from its place each content was found, with the bytes for each distance. In which direction
+/// depends on the order of writing alone, and file systems do not write from the front to the back.
 Distances distancesOf(const RealSizeClues& clues, const PlaceMap& places) {
     Distances bytes;
     for (const CapacityDefect& run : clues.findings.reading.runs()) {
-        if (!run.holds)
+        if (!run.holds || run.repeats)
             continue;
         for (std::int64_t done = 0; done < run.length;) {
             const auto here = places.at(run.offset + done, run.length - done);
             const auto there = here ? places.at(*run.holds + done, here->length) : std::nullopt;
-            if (there && (bytes.size() < mostDistances || bytes.contains(there->offset - here->offset)))
-                bytes[there->offset - here->offset] += there->length;
+            const std::int64_t distance = there ? std::abs(there->offset - here->offset) : 0;
+            if (distance > 0 && (bytes.size() < mostDistances || bytes.contains(distance)))
+                bytes[distance] += there->length;
             done += there ? there->length : blockBytes;
         }
     }
     return bytes;
 }
 
+/// Whether a quick check found the same block at each wrong place: a device gives that for what it has lost.
+bool isOneBlockEverywhere(const RealSizeClues& clues) {
+    std::int64_t blocks = 0;
+    std::set<std::int64_t> held;
+    for (const CapacityDefect& run : clues.findings.reading.runs())
+        if (run.holds) {
+            blocks += run.length / blockBytes;
+            held.insert(*run.holds);
+        }
+    return blocks > 1 && held.size() == 1 && clues.isQuick;
+}
+
 std::optional<CapacityRealSize> wrapSize(const RealSizeClues& clues, const PlaceMap& places) {
     const Distances distances = distancesOf(clues, places);
-    std::int64_t forward = 0;
-    std::int64_t backward = 0;
+    std::int64_t sum = 0;
     for (const auto& [distance, bytes] : distances)
-        (distance > 0 ? forward : backward) += bytes;
-    const std::int64_t least = clues.isQuick ? blockBytes : 64 * blockBytes;
-    if (forward < least || backward * 20 > forward)
+        sum += bytes;
+    if (sum < (clues.isQuick ? blockBytes : 64 * blockBytes) || isOneBlockEverywhere(clues))
         return std::nullopt;
-    // The shortest distance that is no accident; where a device wraps several times, longer ones are its
+    // The shortest distance that is no accident; where a device wraps several times, others are its
     // multiples.
-    const auto isUsual = [forward](const auto& entry) {
-        return entry.first > 0 && entry.second * 20 >= forward;
-    };
-    const auto shortest = std::ranges::find_if(distances, isUsual);
+    const auto shortest =
+        std::ranges::find_if(distances, [sum](const auto& entry) { return entry.second * 20 >= sum; });
     if (shortest == distances.end())
         return std::nullopt;
     std::int64_t fitting = 0;
     for (const auto& [distance, bytes] : distances)
-        if (distance > 0 && distance % shortest->first == 0)
+        if (distance % shortest->first == 0)
             fitting += bytes;
     return CapacityRealSize{.reason = CapacityRealSize::Reason::wrapsAround,
                             .bytes = shortest->first,
-                            .isExact = places.isTold() && fitting * 20 >= forward * 19};
+                            .isExact = places.isTold() && fitting * 20 >= sum * 19};
+}
+
+/// Whether nothing of what was written is left.
+bool isLost(const CapacityDefect& run) {
+    return run.kind != DefectKind::bitFlips && run.kind != DefectKind::recovered;
 }
 
 struct JudgedStretch {
@@ -110,20 +127,22 @@ std::vector<JudgedStretch> judgedByPlace(const RealSizeClues& clues, const Place
     for (const Stretch& written : clues.findings.written) {
         std::int64_t from = written.offset;
         for (; run != runs.end() && run->offset < written.end(); ++run) {
+            if (!isLost(*run))
+                continue;
             addPlaced(stretches, places, {from, run->offset - from}, true);
-            addPlaced(stretches, places, {run->offset, run->length}, run->kind == DefectKind::bitFlips);
+            addPlaced(stretches, places, {run->offset, run->length}, false);
             from = run->offset + run->length;
         }
         addPlaced(stretches, places, {from, written.end() - from}, true);
     }
-    for (const CapacityDefect& failed : clues.findings.writing.runs())
+    for (const CapacityDefect& failed : clues.findings.writing.runs() | std::views::filter(isLost))
         addPlaced(stretches, places, {failed.offset, failed.length}, false);
     std::ranges::sort(stretches, {}, &JudgedStretch::place);
     return stretches;
 }
 
-/// The place before which (nearly) all is good and from which on (nearly) all is bad.
-std::optional<CapacityRealSize> dropSize(const RealSizeClues& clues, const PlaceMap& places) {
+/// The place before which (nearly) all is good and from which on (nearly) all is lost.
+std::optional<CapacityRealSize> sizeByPlace(const RealSizeClues& clues, const PlaceMap& places) {
     const std::vector<JudgedStretch> stretches = judgedByPlace(clues, places);
     std::int64_t goodBeyond = 0;
     std::int64_t badBeyond = 0;
@@ -148,13 +167,32 @@ std::optional<CapacityRealSize> dropSize(const RealSizeClues& clues, const Place
     return std::nullopt;
 }
 
+/// Where places are not told and the file system began somewhere in the middle: a large part is lost in few
+/// pieces, and so much is kept.
+std::optional<CapacityRealSize> sizeByAmount(const RealSizeClues& clues) {
+    constexpr std::size_t fewRuns = 32;
+    const auto& runs = clues.findings.reading.runs();
+    std::int64_t lost = 0;
+    std::int64_t longest = 0;
+    for (const CapacityDefect& run : runs | std::views::filter(isLost)) {
+        lost += run.length;
+        longest = std::max(longest, run.length);
+    }
+    const std::int64_t written = clues.findings.bytesWritten();
+    if (clues.isQuick || runs.size() > fewRuns || lost * 3 < written || longest * 2 < lost || lost == written)
+        return std::nullopt;
+    return CapacityRealSize{.reason = CapacityRealSize::Reason::dropsBeyond,
+                            .bytes = clues.usedBefore + written - lost};
+}
+
 } // namespace
 
 std::optional<CapacityRealSize> concludedRealSize(const RealSizeClues& clues) {
     const PlaceMap places(clues);
     if (const auto size = wrapSize(clues, places))
         return size;
-    return dropSize(clues, places);
+    const auto size = sizeByPlace(clues, places);
+    return size || places.isTold() ? size : sizeByAmount(clues);
 }
 
 } // namespace OndelCore::capacity

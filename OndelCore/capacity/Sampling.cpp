@@ -1,8 +1,11 @@
 #include "OndelCore/capacity/Sampling.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <random>
+#include <system_error>
+#include <utility>
 
 namespace OndelCore::capacity {
 
@@ -21,23 +24,53 @@ void tellReserved(const CheckRun& run, std::int64_t done) {
                   .cells = run.findings.map.snapshot()});
 }
 
-/// Makes the files of the range, with space reserved. Answers for how many bytes that was possible.
-std::int64_t reserveRange(const CheckRun& run) {
-    std::int64_t reserved = 0;
-    while (reserved < run.bytes) {
+/// Why a reservation at `offset` failed. Absent: the file system cannot reserve at all.
+std::optional<EarlyEnd> endOfReservation(const CheckRun& run, std::int64_t offset, int error) {
+    constexpr std::array unable{EOPNOTSUPP, ENOSYS, EINVAL, EPERM};
+    if (std::ranges::find(unable, error) != unable.end())
+        return std::nullopt;
+    if (meansGone(error))
+        throw benchmark::ioError("fallocate: ", error);
+    if (error == ENOSPC)
+        return EarlyEnd::full;
+    if (error == EDQUOT || error == EFBIG)
+        return EarlyEnd::quota;
+    run.findings.writing.add({.kind = DefectKind::writeFailed,
+                              .offset = offset,
+                              .length = blockBytes,
+                              .error = std::error_code(error, std::generic_category())});
+    run.findings.map.mark(offset, blockBytes, BlockState::writeFailed);
+    return EarlyEnd::writeErrors;
+}
+
+struct Reservation {
+    std::int64_t bytes = 0;
+    std::optional<EarlyEnd> end{};
+};
+
+/// Makes the files of the range, with space reserved.
+Reservation reserveRange(const CheckRun& run) {
+    Reservation reserved;
+    while (reserved.bytes < run.bytes && !reserved.end) {
         run.throwIfStopped();
-        tellReserved(run, reserved);
-        const std::int64_t length = std::min(run.system.fileBytes, run.bytes - reserved);
+        tellReserved(run, reserved.bytes);
+        const std::int64_t length = std::min(run.system.fileBytes, run.bytes - reserved.bytes);
         const auto file = run.files.append(length);
-        if (!file)
-            break;
-        if (!run.system.reserveSpace(file->descriptor(), length)) {
-            run.files.removeLast();
-            break;
+        if (file && run.system.reserveSpace(file->descriptor(), length)) {
+            reserved.bytes += length;
+            continue;
         }
-        reserved += length;
+        const int error = errno;
+        if (file)
+            run.files.removeLast();
+        reserved.end = endOfReservation(run, reserved.bytes, error);
+        if (!reserved.end)
+            break;
     }
-    tellReserved(run, reserved);
+    tellReserved(run, reserved.bytes);
+    // Of a little less than the file system announced, its own tables are the reason.
+    if (reserved.end == EarlyEnd::full && reserved.bytes >= run.bytes - run.bytes / 50 - run.system.fileBytes)
+        reserved.end.reset();
     return reserved;
 }
 
@@ -89,10 +122,14 @@ Samples spreadSamples(std::int64_t bytes) {
 
 Samples prepareSamples(const CheckRun& run) {
     constexpr std::int64_t unspread = 64 * mebibyte;
-    const std::int64_t reserved = run.system.lacksSparseFiles(run.folder) ? 0 : reserveRange(run);
-    if (reserved > 0)
-        return spreadSamples(reserved);
-    return {{{0, std::min(run.bytes, unspread)}}, {.isSpread = false, .samples = 1}};
+    const Reservation reserved = run.system.lacksSparseFiles(run.folder) ? Reservation() : reserveRange(run);
+    Samples samples;
+    if (reserved.bytes > 0)
+        samples = spreadSamples(reserved.bytes);
+    else
+        samples = {{{0, std::min(run.bytes, unspread)}}, {.isSpread = false, .samples = 1}};
+    samples.end = reserved.end;
+    return samples;
 }
 
 } // namespace OndelCore::capacity

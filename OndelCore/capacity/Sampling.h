@@ -2,6 +2,8 @@
 
 #include "OndelCore/capacity/CheckRun.h"
 
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace OndelCore::capacity {
@@ -10,6 +12,7 @@ namespace OndelCore::capacity {
 struct Samples {
     std::vector<Stretch> stretches;
     CapacitySampling sampling;
+    std::optional<EarlyEnd> end{}; ///< why not all of the range could be reserved
 };
 
 /// Places samples over a range of `bytes`: a dense stretch at its beginning, single blocks at equal distances
@@ -19,7 +22,8 @@ Samples spreadSamples(std::int64_t bytes);
 
 /// Reserves space for the whole range, which takes a file system with extents little time, and places the
 /// samples in it. A file system that cannot do that would put all samples side by side: there a short stretch
-/// at the beginning is all there is to write. Fails: throws Cancelled.
+/// at the beginning is all there is to write. A reservation that fails for damage is a defect. Fails: throws
+/// BenchmarkError::Io if the volume is gone, or Cancelled.
 Samples prepareSamples(const CheckRun& run);
 
 } // namespace OndelCore::capacity

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <system_error>
+#include <utility>
 
 namespace OndelCore::capacity {
 
@@ -14,7 +15,8 @@ constexpr std::int64_t standstill = 1'000'000'000;
 
 StandstillClock::StandstillClock(const std::function<std::int64_t()>& nanoseconds)
     : m_nanoseconds(nanoseconds)
-    , m_lastBeat(nanoseconds()) {
+    , m_lastBeat(nanoseconds())
+    , m_lastLook(m_lastBeat) {
     try {
         m_heart = std::jthread([this](const std::stop_token& stop) { beat(stop); });
     } catch (const std::system_error&) { // NOLINT(bugprone-empty-catch): no thread to be had
@@ -23,10 +25,15 @@ StandstillClock::StandstillClock(const std::function<std::int64_t()>& nanosecond
 
 std::int64_t StandstillClock::now() {
     const std::lock_guard guard(m_lock);
+    return look();
+}
+
+/// Whoever is the first to run again takes the time off, from when anybody ran last: so time never goes back.
+std::int64_t StandstillClock::look() {
     const std::int64_t now = m_nanoseconds();
-    // Whoever is the first to run again takes the time off.
-    if (m_isBeating && now - m_lastBeat > standstill) {
-        m_stoodStill += now - m_lastBeat - beatPeriod;
+    const std::int64_t gap = now - std::exchange(m_lastLook, now);
+    if (m_isBeating && gap > standstill && now - m_lastBeat > standstill) {
+        m_stoodStill += gap;
         m_lastBeat = now;
     }
     return now - m_stoodStill;
@@ -39,10 +46,8 @@ void StandstillClock::beat(const std::stop_token& stop) {
     m_isBeating = true;
     while (!m_end.wait_for(guard, stop, std::chrono::nanoseconds(beatPeriod),
                            [&stop] { return stop.stop_requested(); })) {
-        guard.unlock();
-        now();
-        guard.lock();
-        m_lastBeat = m_nanoseconds();
+        look();
+        m_lastBeat = m_lastLook;
     }
 }
 

@@ -24,12 +24,14 @@ public:
     double seconds() { return static_cast<double>(now()) * 1e-9; }
 
 private:
+    std::int64_t look();
     void beat(const std::stop_token& stop);
 
     const std::function<std::int64_t()>& m_nanoseconds;
     std::mutex m_lock;
     std::condition_variable_any m_end;
     std::int64_t m_lastBeat;
+    std::int64_t m_lastLook;
     std::int64_t m_stoodStill = 0;
     bool m_isBeating = false;
     std::jthread m_heart;

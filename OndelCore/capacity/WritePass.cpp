@@ -7,6 +7,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
+#include <iterator>
+#include <span>
 #include <system_error>
 #include <thread>
 
@@ -92,6 +95,8 @@ public:
 private:
     bool open(std::int64_t offset);
     bool goesOnAfter(int error, const Chunk& chunk);
+    std::int64_t writeBlocks(std::span<const std::byte> bytes, std::int64_t offset);
+    void enterDefect(DefectKind kind, Stretch stretch, int error);
     bool skip(std::int64_t length, int error, const Chunk& chunk);
     void dropLastPiece(EarlyEnd end, int error);
 
@@ -105,6 +110,7 @@ private:
     std::int64_t m_pieceBytes = m_run.system.fileBytes;
     std::int64_t m_done = 0; ///< of the chunk
     std::int64_t m_step = chunkBytes;
+    int m_repeatedFor = 0; ///< the error for which the chunk is written block by block
     std::int64_t m_failedInRow = 0;
     std::optional<EarlyEnd> m_end;
     int m_error = 0;
@@ -114,7 +120,8 @@ private:
 };
 
 bool RangeWriter::write(const Chunk& chunk) {
-    m_step = m_failedInRow < chunkBytes ? chunkBytes : m_step;
+    m_step = chunkBytes;
+    m_repeatedFor = 0;
     for (m_done = 0; m_done < chunk.length;) {
         m_run.throwIfStopped();
         const std::int64_t offset = chunk.offset + m_done;
@@ -126,19 +133,45 @@ bool RangeWriter::write(const Chunk& chunk) {
         const std::int64_t wanted = std::min({chunk.length - m_done, m_file->piece().end() - offset, m_step});
         const auto bytes =
             chunk.content().subspan(static_cast<std::size_t>(m_done), static_cast<std::size_t>(wanted));
-        const ssize_t moved = m_file->write(bytes, offset);
-        const std::int64_t whole = moved / blockBytes * blockBytes;
+        const std::int64_t whole = writeBlocks(bytes, offset);
         if (whole > 0) {
             m_run.findings.addWritten(offset, whole);
             m_meter.transferred(offset, whole);
             m_done += whole;
             m_failedInRow = 0;
-        } else if (!goesOnAfter(moved < 0 ? errno : ENOSPC, chunk)) {
+        } else if (!goesOnAfter(errno, chunk)) {
             return false;
         }
     }
-    m_step = chunkBytes;
+    if (m_repeatedFor != 0)
+        enterDefect(DefectKind::recovered, {chunk.offset, chunk.length}, m_repeatedFor);
     return true;
+}
+
+/// Answers how much was written, in whole blocks. What a short write left of a block is tried alone, as that
+/// tells why it was short. Fails: 0, with errno set.
+std::int64_t RangeWriter::writeBlocks(std::span<const std::byte> bytes, std::int64_t offset) {
+    std::int64_t moved = 0;
+    do {
+        const std::int64_t left =
+            moved == 0 ? std::ssize(bytes) : (moved / blockBytes + 1) * blockBytes - moved;
+        const ssize_t more = m_file->write(
+            bytes.subspan(static_cast<std::size_t>(moved), static_cast<std::size_t>(left)), offset + moved);
+        if (more == 0)
+            errno = ENOSPC;
+        if (more <= 0)
+            break;
+        moved += more;
+    } while (moved % blockBytes != 0);
+    return moved / blockBytes * blockBytes;
+}
+
+void RangeWriter::enterDefect(DefectKind kind, Stretch stretch, int error) {
+    m_run.findings.writing.add({.kind = kind,
+                                .offset = stretch.offset,
+                                .length = stretch.length,
+                                .error = std::error_code(error, std::generic_category())});
+    m_run.findings.map.mark(stretch.offset, stretch.length, BlockState::writeFailed);
 }
 
 /// Opens the piece that holds `offset`, or makes the next one. Fails: false, with errno set.
@@ -193,19 +226,17 @@ bool RangeWriter::goesOnAfter(int error, const Chunk& chunk) {
     }
     if (m_step > blockBytes && m_failedInRow < chunkBytes) {
         m_step = blockBytes;
+        m_repeatedFor = error == ENOMEM || error == EAGAIN ? 0 : error; // those are the machine's
         return true;
     }
+    m_repeatedFor = 0;
     return skip(std::min(m_step, chunk.length - m_done), error, chunk);
 }
 
 bool RangeWriter::skip(std::int64_t length, int error, const Chunk& chunk) {
     const std::int64_t offset = chunk.offset + m_done;
     const std::int64_t within = std::min(length, m_file->piece().end() - offset);
-    m_run.findings.writing.add({.kind = DefectKind::writeFailed,
-                                .offset = offset,
-                                .length = within,
-                                .error = std::error_code(error, std::generic_category())});
-    m_run.findings.map.mark(offset, within, BlockState::writeFailed);
+    enterDefect(DefectKind::writeFailed, {offset, within}, error);
     m_done += within;
     m_failedInRow += within;
     if (m_failedInRow >= chunkBytes)
@@ -259,14 +290,6 @@ void RangeWriter::tell(WriteOutcome& outcome) const {
     outcome.pass.evidence.refusedTransfers = m_refused;
 }
 
-/// Throws if the volume answers no more, after writing ended with errors.
-void stopIfGone(const CheckRun& run, int error) {
-    const auto& written = run.findings.written;
-    const auto known = written.empty() ? std::nullopt : std::optional(written.front().offset);
-    if (isVolumeGone(run, known))
-        throw benchmark::ioError("write: ", error);
-}
-
 } // namespace
 
 WriteOutcome writeStretches(const CheckRun& run, CapacityPhase phase, const std::vector<Stretch>& stretches,
@@ -293,8 +316,8 @@ WriteOutcome writeStretches(const CheckRun& run, CapacityPhase phase, const std:
     writer.close();
     WriteOutcome outcome{.pass = meter.finish()};
     writer.tell(outcome);
-    if (outcome.end == EarlyEnd::writeErrors)
-        stopIfGone(run, outcome.error);
+    if (outcome.end == EarlyEnd::writeErrors && isVolumeGone(run))
+        throw benchmark::ioError("write: ", outcome.error);
     return outcome;
 }
 

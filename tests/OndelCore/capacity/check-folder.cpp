@@ -37,10 +37,12 @@ void printDefect(const CapacityDefect& defect) {
 }
 
 void print(const CapacityResult& result) {
-    std::printf("planned %lld written %lld verified %lld wrong %lld unreadable %lld writeFailed %lld\n",
+    std::printf("planned %lld written %lld verified %lld wrong %lld unreadable %lld writeFailed %lld "
+                "recovered %lld\n",
                 static_cast<long long>(result.planned), static_cast<long long>(result.written),
                 static_cast<long long>(result.verified), static_cast<long long>(result.wrong),
-                static_cast<long long>(result.unreadable), static_cast<long long>(result.writeFailed));
+                static_cast<long long>(result.unreadable), static_cast<long long>(result.writeFailed),
+                static_cast<long long>(result.recovered));
     printPass("write", result.write);
     printPass("read", result.read);
     if (result.readAgain)
