@@ -74,7 +74,7 @@ OndelAppSupport::UpdaterEnvironment AppDelegate::updaterEnvironment() {
     OndelAppSupport::UpdaterEnvironment environment;
     environment.settings = &m_defaults;
     environment.openPackage = [](const QUrl& package) { return QDesktopServices::openUrl(package); };
-    environment.isBusy = [this] { return m_model.isRunning(); };
+    environment.isBusy = [this] { return m_model.isBusy(); };
     return environment;
 }
 
@@ -99,7 +99,7 @@ void AppDelegate::setWindow(QWindow* window) {
 void AppDelegate::applicationDidFinishLaunching() { OndelAppSupport::startLogging(); }
 
 AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() {
-    if (!m_model.isRunning())
+    if (!m_model.isBusy())
         return TerminateReply::Now;
     m_end.setFuture(m_model.cancelAndWait());
     return TerminateReply::Later;
@@ -116,7 +116,7 @@ void AppDelegate::terminate() {
 
 void AppDelegate::endOfSession() {
     terminate();
-    if (!m_model.isRunning())
+    if (!m_model.isBusy())
         return;
     QEventLoop loop;
     connect(&m_end, &QFutureWatcher<void>::finished, &loop, &QEventLoop::quit);
@@ -146,7 +146,7 @@ void AppDelegate::openNext() {
 
 void AppDelegate::open(const OpenUrls& sorted, const std::string& activationToken) {
     // The target must not change during a run.
-    if (sorted.folder && !m_model.isRunning())
+    if (sorted.folder && !m_model.isBusy())
         m_model.select(*sorted.folder);
     m_model.importRuns(sorted.runs);
     comeToFront(activationToken);

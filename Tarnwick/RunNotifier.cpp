@@ -1,6 +1,8 @@
 #include "Tarnwick/RunNotifier.h"
 
 #include "Tarnwick/Product.h"
+#include "TarnwickKit/model/capacity/CapacitySession.h"
+#include "TarnwickKit/model/capacity/CapacityText.h"
 #include "TarnwickKit/model/format/Format.h"
 
 #include <QGuiApplication>
@@ -11,6 +13,8 @@
 #include <utility>
 
 using TarnwickKit::model::AnalyzerModel;
+using TarnwickKit::model::CapacityRecord;
+using TarnwickKit::model::CapacitySession;
 using TarnwickKit::model::RunRecord;
 
 namespace Format = TarnwickKit::model::Format;
@@ -21,17 +25,26 @@ RunNotifier::RunNotifier(AnalyzerModel& model, std::function<void(const std::str
     , m_launcher(product::id) {
     m_clock.setInterval(std::chrono::seconds(1));
     connect(&m_clock, &QTimer::timeout, this, &RunNotifier::updatePercent);
-    connect(&model, &AnalyzerModel::phaseChanged, this, &RunNotifier::phaseChanged);
+    // The phase has changed by then, and a check's record is there.
+    connect(&model, &AnalyzerModel::busyChanged, this, &RunNotifier::busyChanged);
+    connect(&model.capacity(), &CapacitySession::recorded, this, [this](const CapacityRecord& check) {
+        if (!check.wasStopped)
+            m_finding = check;
+    });
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
         if (window)
             m_notice.withdraw();
     });
 }
 
-void RunNotifier::phaseChanged() {
-    if (m_model.isRunning()) {
+void RunNotifier::busyChanged() {
+    if (m_model.isBusy()) {
         m_notice.withdraw();
-        m_awake.emplace(product::name, tr("A benchmark is running").toStdString());
+        m_isCheck = m_model.isChecking();
+        m_finding.reset();
+        m_awake.emplace(
+            product::name,
+            (m_isCheck ? tr("A capacity check is running") : tr("A benchmark is running")).toStdString());
         m_clock.start();
         updatePercent();
     } else if (m_awake) {
@@ -39,12 +52,18 @@ void RunNotifier::phaseChanged() {
         m_clock.stop();
         updatePercent();
         if (!QGuiApplication::focusWindow())
-            showResult();
+            m_isCheck ? showFinding() : showResult();
     }
 }
 
+std::optional<double> RunNotifier::fraction() const {
+    if (m_model.isChecking())
+        return m_model.capacity().course().fraction();
+    return m_model.isRunning() ? m_model.liveProgress().fraction() : std::nullopt;
+}
+
 void RunNotifier::updatePercent() {
-    const auto fraction = m_model.isRunning() ? m_model.liveProgress().fraction() : std::nullopt;
+    const auto fraction = this->fraction();
     const auto percent = fraction ? std::optional(static_cast<int>(100 * *fraction)) : std::nullopt;
     if (percent == std::exchange(m_percent, percent))
         return;
@@ -52,7 +71,7 @@ void RunNotifier::updatePercent() {
     Q_EMIT percentChanged();
 }
 
-/// A run that the user has stopped needs no notice.
+/// A run or a check that the user has stopped needs no notice.
 void RunNotifier::showResult() {
     if (m_model.phase() == AnalyzerModel::Phase::Failed)
         m_notice.show(tr("Benchmark failed").toStdString(), m_model.failureMessage().toStdString());
@@ -65,4 +84,12 @@ void RunNotifier::showResult() {
     if (run.readBps)
         facts.append(tr("read %1").arg(Format::rate(*run.readBps)));
     m_notice.show(tr("Benchmark complete").toStdString(), facts.join(QStringLiteral(" · ")).toStdString());
+}
+
+void RunNotifier::showFinding() {
+    if (m_finding)
+        m_notice.show(tr("Capacity check complete").toStdString(),
+                      capacitySentence(*m_finding).toStdString());
+    else if (const QString& failure = m_model.capacity().failure().message; !failure.isEmpty())
+        m_notice.show(tr("Capacity check failed").toStdString(), failure.toStdString());
 }

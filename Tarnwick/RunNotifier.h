@@ -3,6 +3,7 @@
 #include "OndelDesktop/DesktopNotice.h"
 #include "OndelDesktop/LauncherProgress.h"
 #include "OndelDesktop/StayAwake.h"
+#include "TarnwickKit/model/capacity/CapacityRecord.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
 #include <QObject>
@@ -12,8 +13,8 @@
 #include <optional>
 #include <string>
 
-/// Keeps the machine awake during a run, tells how far it is, and shows its result as a notification while no
-/// window has the focus. Threads: main.
+/// Keeps the machine awake during a run or a capacity check, tells how far it is, and shows its result as a
+/// notification while no window has the focus. Threads: main.
 class RunNotifier : public QObject {
     Q_OBJECT
 public:
@@ -21,15 +22,17 @@ public:
     RunNotifier(TarnwickKit::model::AnalyzerModel& model,
                 std::function<void(const std::string& activationToken)> comeToFront);
 
-    /// How much of the run is done, as its icon on the desktop shows it; it changes once per second at most.
-    /// Absent outside a run, and while that is not known. Units: percent.
+    /// How much of the run or the check is done, as its icon on the desktop shows it; it changes once per
+    /// second at most. Absent outside of them, and while that is not known. Units: percent.
     std::optional<int> percent() const { return m_percent; }
     Q_SIGNAL void percentChanged();
 
 private:
-    void phaseChanged();
+    void busyChanged();
+    std::optional<double> fraction() const;
     void updatePercent();
     void showResult();
+    void showFinding();
 
     TarnwickKit::model::AnalyzerModel& m_model;
     OndelDesktop::DesktopNotice m_notice;
@@ -37,4 +40,6 @@ private:
     OndelDesktop::LauncherProgress m_launcher;
     QTimer m_clock;
     std::optional<int> m_percent;
+    bool m_isCheck = false; ///< what runs, or ran last, is a capacity check
+    std::optional<TarnwickKit::model::CapacityRecord> m_finding; ///< of a check that has come to its end
 };

@@ -73,7 +73,7 @@ MenuStrip {
                 text: qsTr("Choose Folder…")
                 keys: "Ctrl+O"
                 shortcut: commands.inWindow(keys)
-                enabled: !commands.analyzer.isRunning
+                enabled: !commands.analyzer.isBusy
                 onTriggered: commands.analyzer.chooseFolder()
             },
             Command {
@@ -105,8 +105,14 @@ MenuStrip {
                 text: qsTr("Stop")
                 keys: "Ctrl+." // Escape too, where nothing else has a use for it
                 shortcut: commands.inWindow(keys)
-                enabled: commands.analyzer.isRunning
+                enabled: commands.analyzer.isBusy
                 onTriggered: commands.analyzer.cancel()
+            },
+            Command {
+                text: qsTr("Check Capacity…")
+                beginsGroup: true
+                enabled: commands.analyzer.targetFolder.length > 0 && !commands.analyzer.isRunning
+                onTriggered: commands.analyzer.showsCheck = true
             },
             Command {
                 text: qsTr("Compare")

@@ -73,7 +73,7 @@ Window {
     EscapeKey {
         window: window
         onPressed: {
-            if (window.delegate.model.isRunning)
+            if (window.delegate.model.isBusy)
                 window.delegate.model.cancel();
         }
     }

@@ -3,24 +3,17 @@
 #include "OndelCore/SaturatingMath.h"
 #include "OndelCore/benchmark/FileOpsTest.h"
 #include "OndelCore/benchmark/RandomTests.h"
+#include "OndelCore/benchmark/RunPlace.h"
 #include "OndelCore/benchmark/SequentialTests.h"
 #include "OndelCore/benchmark/TestRun.h"
-#include "OndelCore/benchmark/WorkingFolder.h"
-#include "OndelCore/platform/storage/FileDescriptor.h"
-#include "OndelCore/platform/volumes/PathFacts.h"
-#include "OndelCore/volumes/VolumeAccess.h"
+#include "OndelCore/benchmark/evidence/RunWitness.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <cstdint>
-#include <future>
-#include <memory>
 #include <new>
 #include <optional>
 #include <stdexcept>
-#include <system_error>
-#include <thread>
 
 namespace OndelCore::benchmark {
 
@@ -45,101 +38,6 @@ std::int64_t checkedTarget(const BenchmarkSize& size, std::int64_t free) {
         throw BenchmarkError(BenchmarkError::InsufficientSpace{leaveFree, free});
     return target;
 }
-
-/// Runs `work` on a thread of its own, which can confine itself for good, and waits for it. `work` hears
-/// whether it got one: a machine without another thread measures all the same.
-template <class Work>
-BenchmarkResult onThreadOfItsOwn(const Work& work) {
-    std::packaged_task<BenchmarkResult(bool)> task(work);
-    auto result = task.get_future();
-    std::thread thread;
-    try {
-        thread = std::thread([&task] { task(true); });
-    } catch (const std::system_error&) {
-        task(false);
-    }
-    if (thread.joinable())
-        thread.join();
-    return result.get();
-}
-
-/// Returns as soon as the volume of `folder` answers: this thread could not be ended inside of a request that
-/// nobody answers. Fails: throws Cancelled.
-void awaitAnswer(const std::filesystem::path& folder, const CancelFlag& flag) {
-    constexpr std::chrono::hours untilCancelled(24);
-    const platform::Waiting waiting{.patience = untilCancelled,
-                                    .isCancelled = [&flag] { return flag.isCancelled(); }};
-    if (!platform::pathFacts(folder, platform::PathQuestion::place, waiting))
-        throw Cancelled();
-}
-
-double secondsBetween(std::int64_t from, std::int64_t to) { return static_cast<double>(to - from) * 1e-9; }
-
-std::optional<std::int64_t> difference(const std::optional<std::int64_t>& before,
-                                       const std::optional<std::int64_t>& after) {
-    return before && after && *after >= *before ? std::optional(*after - *before) : std::nullopt;
-}
-
-using Counters = std::optional<platform::DiskCounters>;
-
-std::optional<Traffic> readBetween(const Counters& before, const Counters& after) {
-    return before && after
-               ? std::optional(Traffic{after->readBytes - before->readBytes, after->reads - before->reads})
-               : std::nullopt;
-}
-
-std::optional<Traffic> writtenBetween(const Counters& before, const Counters& after) {
-    return before && after ? std::optional(Traffic{after->writtenBytes - before->writtenBytes,
-                                                   after->writes - before->writes})
-                           : std::nullopt;
-}
-
-/// Looks from outside at what the tests of one run do.
-class RunWitness {
-public:
-    RunWitness(const EngineEnvironment& system, int volume)
-        : m_system(system)
-        , m_disks(system.diskWitness(volume))
-        , m_volume(system.volumeWitness(volume))
-        , m_start(system.evidenceClock()) {}
-
-    /// Makes a test's result, with the evidence of what happened meanwhile.
-    template <class Test>
-    auto observed(Test test) {
-        const View before = look();
-        auto result = test();
-        const View after = look();
-        TestEvidence& evidence = result.evidence;
-        evidence.began = secondsBetween(m_start, before.time);
-        evidence.ended = secondsBetween(m_start, after.time);
-        evidence.diskReads = readBetween(before.disks, after.disks);
-        evidence.diskWrites = writtenBetween(before.disks, after.disks);
-        evidence.volumeReads = readBetween(before.volume, after.volume);
-        evidence.volumeWrites = writtenBetween(before.volume, after.volume);
-        if (before.thread && after.thread) {
-            evidence.threadReads = difference(before.thread->readBytes, after.thread->readBytes);
-            evidence.threadWrites = difference(before.thread->writtenBytes, after.thread->writtenBytes);
-        }
-        return result;
-    }
-
-private:
-    struct View {
-        std::int64_t time;
-        std::optional<platform::DiskCounters> disks;
-        std::optional<platform::DiskCounters> volume;
-        std::optional<platform::ThreadTraffic> thread;
-    };
-    View look() {
-        return {m_system.evidenceClock(), m_disks ? m_disks->counters() : std::nullopt,
-                m_volume ? m_volume->counters() : std::nullopt, m_system.trafficOfThisThread()};
-    }
-
-    const EngineEnvironment& m_system;
-    std::unique_ptr<platform::DiskWitness> m_disks;
-    std::unique_ptr<platform::DiskWitness> m_volume;
-    std::int64_t m_start;
-};
 
 /// The tests of the plan that need the data file, in their order. `volume`: the target folder, open.
 BenchmarkResult transferTests(const TestRun& run, RunWitness& witness, int volume) {
@@ -191,21 +89,18 @@ BenchmarkResult runInWorkingFolder(const TestRun& run, int working, int volume) 
 BenchmarkResult runInFolder(const EngineEnvironment& system, const BenchmarkPlan& plan,
                             const std::filesystem::path& folder, const CancelFlag& flag,
                             const ProgressListener& progress) {
-    awaitAnswer(folder, flag);
-    const platform::FileDescriptor parent = platform::openFolder(folder);
-    const auto owner = parent ? volumes::VolumeAccess::ownerOfNewFiles(parent.get()) : std::nullopt;
-    if (!owner)
-        throw BenchmarkError(BenchmarkError::NotWritable{});
-    const WorkingFolder working(parent.get(), *owner);
+    const RunPlace place(folder, [&flag] { return flag.isCancelled(); });
+    const int parent = place.target();
+    const int working = place.workingFolder();
     try {
-        DataFilePlace dataFile(working.descriptor());
-        const auto watch = plan.tests.empty() ? nullptr : system.watchCircumstances(parent.get());
+        DataFilePlace dataFile(working);
+        const auto watch = plan.tests.empty() ? nullptr : system.watchCircumstances(parent);
         const ProgressListener withTemperature = [&](BenchmarkProgress now) {
             now.celsius = watch->celsius();
             progress(now);
         };
         const TestRun run{system, plan, dataFile, flag, watch ? withTemperature : progress};
-        BenchmarkResult result = runInWorkingFolder(run, working.descriptor(), parent.get());
+        BenchmarkResult result = runInWorkingFolder(run, working, parent);
         if (watch)
             result.circumstances = watch->finish();
         return result;

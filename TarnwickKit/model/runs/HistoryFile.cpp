@@ -1,18 +1,16 @@
 #include "TarnwickKit/model/runs/HistoryFile.h"
 
-#include "OndelCore/logging/Log.h"
 #include "OndelCore/platform/storage/FileLock.h"
 #include "OndelCore/platform/storage/ReadFile.h"
 #include "OndelCore/platform/storage/ReplaceFile.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
+#include "TarnwickKit/model/runs/ListFile.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFields.h"
 
 #include <QByteArray>
-#include <QDateTime>
 
 #include <algorithm>
-#include <array>
 #include <fstream>
 #include <string_view>
 #include <utility>
@@ -21,42 +19,12 @@ namespace TarnwickKit::model {
 
 namespace fs = std::filesystem;
 
-using OndelCore::logging::Log;
-using OndelCore::logging::LogField;
 using OndelCore::platform::FileLock;
 using Runs = HistoryFile::Runs;
 
 namespace {
 
 constexpr const char* unreadablePrefix = "history.unreadable-";
-constexpr std::size_t unreadableFilesKept = 3;
-/// Other users must not read what a history tells of a person's machine.
-constexpr auto ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
-
-/// The path behind symbolic links. The file need not exist.
-fs::path followed(fs::path path) {
-    constexpr int mostLinks = 40; // the kernel's limit
-    for (int link = 0; link < mostLinks; ++link) {
-        std::error_code isNoLink;
-        const fs::path target = fs::read_symlink(path, isNoLink);
-        if (isNoLink)
-            break;
-        path = path.parent_path() / target;
-    }
-    return path;
-}
-
-fs::path lockOf(const fs::path& file) { return fs::path(file) += ".lock"; }
-
-// --- Reading
-
-/// Whether a retry would fail too, because this is no file that this user can read.
-bool isFinal(const std::error_code& error) {
-    constexpr std::array finalErrors{std::errc::not_supported, std::errc::file_too_large,
-                                     std::errc::permission_denied, std::errc::operation_not_permitted,
-                                     std::errc::no_such_device_or_address};
-    return std::ranges::any_of(finalErrors, [&](std::errc each) { return error == each; });
-}
 
 // --- Deletions
 
@@ -203,44 +171,6 @@ std::string encoded(const Runs& runs) {
         .toStdString();
 }
 
-/// Keeps the newest few unreadable files. Their names sort by time; `newest` counts as the newest even if the
-/// clock was set back.
-void dropOldUnreadableFiles(const fs::path& newest) {
-    std::vector<fs::path> others;
-    std::error_code error;
-    for (fs::directory_iterator entry(newest.parent_path(), error), end; entry != end;
-         entry.increment(error)) {
-        if (entry->path().filename().native().starts_with(unreadablePrefix) && entry->path() != newest)
-            others.push_back(entry->path());
-    }
-    std::ranges::sort(others, std::greater());
-    for (std::size_t index = unreadableFilesKept - 1; index < others.size(); ++index)
-        fs::remove(others[index], error);
-}
-
-/// Keeps the file under another name. A hard link is preferred, so that a process killed in between leaves
-/// the file in its place.
-bool keepBeside(const fs::path& file, std::size_t recoveredRuns) {
-    QDateTime time = QDateTime::currentDateTimeUtc();
-    std::error_code error;
-    fs::path kept;
-    do { // of two files in one millisecond the later takes the next free name
-        kept = file.parent_path() /
-               (unreadablePrefix + time.toString(QStringLiteral("yyyyMMddTHHmmss.zzzZ")).toStdString() +
-                ".json");
-        fs::create_hard_link(file, kept, error);
-        time = time.addMSecs(1);
-    } while (error == std::errc::file_exists);
-    if (error) // a folder, or a file system without links
-        fs::rename(file, kept, error);
-    if (error)
-        return false;
-    dropOldUnreadableFiles(kept);
-    Log::app.error("damaged history kept under another name",
-                   LogField::int_("recovered", static_cast<std::int64_t>(recoveredRuns)));
-    return true;
-}
-
 } // namespace
 
 /// What was read from the file's path.
@@ -271,7 +201,7 @@ std::optional<HistoryFile::Content> HistoryFile::content(const fs::path& file) c
         const auto text = m_access.read(file, error);
         if (error == std::errc::no_such_file_or_directory)
             return Content();
-        if (isFinal(error))
+        if (isFinalReadError(error))
             return Content{.runs = {}, .fingerprint = {}, .isDamaged = true};
         if (!text)
             continue;
@@ -286,11 +216,11 @@ std::optional<HistoryFile::Content> HistoryFile::content(const fs::path& file) c
 }
 
 void HistoryFile::removeLeftovers() const {
-    OndelCore::platform::removeReplacementLeftovers(followed(m_path).parent_path());
+    OndelCore::platform::removeReplacementLeftovers(behindLinks(m_path).parent_path());
 }
 
 std::optional<Runs> HistoryFile::look(const Runs& mine, const HistoryChanges& changes, std::size_t most) {
-    const fs::path file = followed(m_path);
+    const fs::path file = behindLinks(m_path);
     auto now = content(file);
     if (!now || !now->fingerprint || now->fingerprint == m_known)
         return std::nullopt;
@@ -303,7 +233,7 @@ std::optional<Runs> HistoryFile::look(const Runs& mine, const HistoryChanges& ch
 
 std::optional<Runs> HistoryFile::update(const Runs& mine, const HistoryChanges& changes, std::size_t most) {
     constexpr int attempts = 5; // one fails only if another program has just written without the lock
-    const fs::path file = followed(m_path);
+    const fs::path file = behindLinks(m_path);
     std::error_code ignored;
     fs::create_directories(file.parent_path(), ignored); // it may have been removed meanwhile
     const FileLock lock(lockOf(file), m_access.lockPatience);
@@ -323,10 +253,10 @@ std::optional<Runs> HistoryFile::update(const Runs& mine, const HistoryChanges& 
                 return false;
             // Deletions are noted first: if the process is killed here, the run is still in the file.
             deletions.note(changes.deleted, runs);
-            return !now->isDamaged || keepBeside(file, recovered);
+            return !now->isDamaged || keepBeside(file, unreadablePrefix, recovered);
         };
         const std::error_code error = OndelCore::platform::replaceFile(
-            file, json, ownerOnly, OndelCore::platform::Lasting::onMedium, isStillWanted);
+            file, json, listFilePermissions, OndelCore::platform::Lasting::onMedium, isStillWanted);
         if (!error) {
             m_known = fingerprintOf(json);
             return runs;

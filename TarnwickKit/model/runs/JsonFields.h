@@ -3,11 +3,15 @@
 #include "TarnwickKit/model/runs/JsonReader.h"
 #include "TarnwickKit/model/runs/RunFields.h"
 
+#include <QByteArrayView>
+#include <QString>
+
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <type_traits>
+#include <vector>
 
 namespace TarnwickKit::model {
 
@@ -54,6 +58,28 @@ void readFields(JsonReader& json, Record& record, Read read, IsRequired isRequir
 template <typename Record, typename Read, typename IsRequired>
 void readFields(JsonReader& json, Record& record, Read read, IsRequired isRequired) {
     readFields(json, record, read, isRequired, [&json](std::string_view) { json.skip(); });
+}
+
+/// The records that `readRecord` can read in damaged text of at most `mostBytes`, in their order. Tries every
+/// '{' as the beginning of one, because damage can hide where the record before it ends. Objects nest at most
+/// 64 deep, so no text is read more often than that.
+template <typename Record, typename ReadRecord>
+std::vector<Record> recoverRecords(QByteArrayView text, std::size_t mostBytes, ReadRecord readRecord) {
+    std::vector<Record> records;
+    if (static_cast<std::size_t>(text.size()) > mostBytes)
+        return records;
+    const std::string mended = QString::fromUtf8(text).toStdString();
+    JsonReader json(mended);
+    for (auto at = mended.find('{'); at != std::string::npos; at = mended.find('{', at)) {
+        json.goTo(at);
+        try {
+            records.push_back(readRecord(json));
+            at = json.position();
+        } catch (const JsonError&) {
+            ++at;
+        }
+    }
+    return records;
 }
 
 } // namespace TarnwickKit::model

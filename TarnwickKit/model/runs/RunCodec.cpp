@@ -4,6 +4,7 @@
 #include "TarnwickKit/model/runs/EvidenceCodec.h"
 #include "TarnwickKit/model/runs/JsonFields.h"
 #include "TarnwickKit/model/runs/JsonReader.h"
+#include "TarnwickKit/model/runs/JsonValues.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
 #include "TarnwickKit/model/runs/RunFields.h"
 
@@ -21,9 +22,6 @@ constexpr std::array<std::pair<RunRecord::Kind, std::string_view>, 3> kinds{
     {{RunRecord::Kind::internalDrive, "internalDrive"},
      {RunRecord::Kind::external, "external"},
      {RunRecord::Kind::network, "network"}}};
-const QString dateForm = QStringLiteral("yyyy-MM-ddTHH:mm:ssZ");
-constexpr qsizetype dateLength = 20;
-constexpr qsizetype uuidLength = 36;
 
 /// Fields with what was observed, which never make a run unreadable.
 constexpr std::array<std::string_view, 4> observedKeys{"kernel", "version", "evidence", "remarks"};
@@ -32,14 +30,6 @@ bool isObserved(std::string_view key) { return std::ranges::find(observedKeys, k
 
 // --- Writing
 
-void write(JsonWriter& json, const QString& value) { json.string(value); }
-void write(JsonWriter& json, double value) { json.number(value); }
-void write(JsonWriter& json, std::int64_t value) { json.integer(value); }
-void write(JsonWriter& json, bool value) { json.boolean(value); }
-void write(JsonWriter& json, const QUuid& value) {
-    json.string(value.toString(QUuid::WithoutBraces).toUpper());
-}
-void write(JsonWriter& json, const QDateTime& value) { json.string(value.toUTC().toString(dateForm)); }
 void write(JsonWriter& json, RunRecord::Kind value) { json.string(QString::fromLatin1(rawValue(value))); }
 void write(JsonWriter& json, const std::vector<RunSample>& samples) {
     json.beginArray();
@@ -55,27 +45,6 @@ void write(JsonWriter& json, const std::vector<RunSample>& samples) {
 }
 
 // --- Reading
-
-void read(JsonReader& json, QString& value) { value = json.string(); }
-void read(JsonReader& json, double& value) { value = json.number() + 0.0; } // -0 becomes 0
-void read(JsonReader& json, std::int64_t& value) { value = json.integer(); }
-void read(JsonReader& json, bool& value) { value = json.boolean(); }
-
-void read(JsonReader& json, QUuid& value) {
-    const QString text = json.string();
-    // QUuid accepts other forms, and returns the null UUID for malformed ones.
-    value = text.size() == uuidLength ? QUuid::fromString(text) : QUuid();
-    if (value.toString(QUuid::WithoutBraces).compare(text, Qt::CaseInsensitive) != 0)
-        throw JsonError("a UUID was expected");
-}
-
-void read(JsonReader& json, QDateTime& value) {
-    const QString text = json.string();
-    value = QDateTime::fromString(text, Qt::ISODate);
-    if (text.size() != dateLength || !value.isValid() || value.toUTC().toString(dateForm) != text)
-        throw JsonError("a date as in 2024-05-01T12:34:56Z was expected");
-    value = value.toUTC();
-}
 
 void read(JsonReader& json, RunRecord::Kind& value) {
     const std::string raw = json.string().toStdString();
@@ -121,9 +90,7 @@ bool isShowable(std::string_view key, double value) {
     return value >= 0 && value <= largestShownFigure * scale;
 }
 bool isShowable(std::string_view, std::int64_t value) { return value >= 0; }
-bool isShowable(std::string_view, const QDateTime& value) {
-    return value.isValid() && value.toUTC().toString(dateForm).size() == dateLength;
-}
+bool isShowable(std::string_view, const QDateTime& value) { return hasJsonForm(value); }
 bool isShowable(std::string_view, const std::vector<RunSample>& samples) {
     return samples.size() <= maxCurvePoints && std::ranges::all_of(samples, [](const RunSample& sample) {
                return isShowable("t", sample.t) && isShowable("vBps", sample.v);
@@ -248,24 +215,8 @@ std::vector<RunRecord> requireRuns(QByteArrayView text) {
     return text.trimmed().startsWith('[') ? parsed(text, readRuns) : std::vector{parsed(text, readRun)};
 }
 
-/// Tries every '{' as the beginning of a run, because damage can hide where the run before it ends. Objects
-/// nest at most 64 deep, so no text is read more often than that.
 std::vector<RunRecord> recoverRuns(QByteArrayView text) {
-    std::vector<RunRecord> runs;
-    if (static_cast<std::size_t>(text.size()) > maxRunFileBytes)
-        return runs;
-    const std::string mended = QString::fromUtf8(text).toStdString();
-    JsonReader json(mended);
-    for (auto at = mended.find('{'); at != std::string::npos; at = mended.find('{', at)) {
-        json.goTo(at);
-        try {
-            runs.push_back(readRun(json));
-            at = json.position();
-        } catch (const JsonError&) {
-            ++at;
-        }
-    }
-    return runs;
+    return recoverRecords<RunRecord>(text, maxRunFileBytes, readRun);
 }
 
 std::string_view rawValue(RunRecord::Kind kind) { return kinds.at(static_cast<std::size_t>(kind)).second; }

@@ -1,6 +1,8 @@
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
 #include "OndelCore/volumes/FileUrl.h"
+#include "TarnwickKit/model/capacity/CapacityChecks.h"
+#include "TarnwickKit/model/capacity/CapacitySession.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/session/AnalyzerServices.h"
@@ -23,6 +25,15 @@ namespace TarnwickKit::model {
 using OndelCore::benchmark::BenchmarkTest;
 using OndelCore::volumes::localPath;
 
+namespace {
+
+std::optional<std::filesystem::path> folderOf(const HistoryStore& history) {
+    const auto file = history.url();
+    return file ? std::optional(file->parent_path()) : std::nullopt;
+}
+
+} // namespace
+
 struct AnalyzerModel::Parts {
     explicit Parts(const AnalyzerServices& asked)
         : services(asked) {}
@@ -32,10 +43,14 @@ struct AnalyzerModel::Parts {
     RunLibrary library{services.historyFolder};
     RunComparison comparison{library};
     RunSession session{services, target};
+    CapacitySession capacity{services, target};
+    CapacityChecks checks{folderOf(library.history())};
 
     Phase phase = Phase::Idle;
     RunFailure failure;
     bool couldRun = false;
+    bool wasBusy = false;
+    bool showsCheck = false;
     QString refusal;
     QTimer refusalClock;
 };
@@ -103,6 +118,17 @@ void AnalyzerModel::connectParts() {
         if (!currentRun() && m_parts->phase == Phase::Done)
             setPhase(Phase::Idle);
     });
+    connect(&m_parts->capacity, &CapacitySession::started, this, &AnalyzerModel::announceCanRun);
+    connect(&m_parts->capacity, &CapacitySession::recorded, this, [this](const CapacityRecord& check) {
+        if (!check.wasStopped || check.isBad())
+            m_parts->checks.add(check);
+    });
+    connect(&m_parts->capacity, &CapacitySession::ended, this, &AnalyzerModel::announceCanRun);
+    connect(this, &AnalyzerModel::comparisonBegan, this, [this] { setShowsCheck(false); });
+    connect(this, &AnalyzerModel::compareModeChanged, this, [this] {
+        if (compareMode())
+            setShowsCheck(false);
+    });
     connect(&m_parts->library, &RunLibrary::shownAgain, this, [this] { setPhase(Phase::Done); });
     connect(&m_parts->library, &RunLibrary::unreadable, this, [this](const auto& files) {
         std::vector<std::string> names;
@@ -122,6 +148,7 @@ void AnalyzerModel::connectParts() {
 }
 
 void AnalyzerModel::announceCanRun() {
+    changeProperty(*this, m_parts->wasBusy, isBusy(), &AnalyzerModel::busyChanged);
     changeProperty(*this, m_parts->couldRun, canRun(), &AnalyzerModel::canRunChanged);
 }
 
@@ -136,7 +163,7 @@ void AnalyzerModel::select(const QUrl& folder) {
 }
 
 void AnalyzerModel::select(const std::filesystem::path& folder) {
-    if (isRunning())
+    if (isBusy())
         return;
     m_parts->target.select(folder);
     setPhase(currentRun() ? Phase::Done : Phase::Idle);
@@ -166,6 +193,7 @@ std::vector<VolumeMenuItem> AnalyzerModel::mountedVolumeItems() {
 
 void AnalyzerModel::runStarted() {
     setPhase(Phase::Running);
+    setShowsCheck(false);
     m_parts->library.setCurrentRun(std::nullopt);
 }
 
@@ -258,12 +286,39 @@ const LiveProgress& AnalyzerModel::liveProgress() const { return m_parts->sessio
 const std::optional<OndelCore::benchmark::BenchmarkResult>& AnalyzerModel::result() const {
     return m_parts->session.result();
 }
-void AnalyzerModel::start() { m_parts->session.start(makePlan()); }
-void AnalyzerModel::cancel() { m_parts->session.cancel(); }
-QFuture<void> AnalyzerModel::cancelAndWait() { return m_parts->session.cancelAndWait(); }
-void AnalyzerModel::abandonRun() { m_parts->session.abandon(); }
+void AnalyzerModel::start() {
+    if (!isChecking())
+        m_parts->session.start(makePlan());
+}
+void AnalyzerModel::cancel() {
+    m_parts->session.cancel();
+    m_parts->capacity.stop();
+}
+QFuture<void> AnalyzerModel::cancelAndWait() {
+    return isChecking() ? m_parts->capacity.stopAndWait() : m_parts->session.cancelAndWait();
+}
+void AnalyzerModel::abandonRun() {
+    m_parts->session.abandon();
+    m_parts->capacity.abandon();
+}
 void AnalyzerModel::apply(const OndelCore::benchmark::BenchmarkProgress& progress) {
     m_parts->session.apply(progress);
+}
+
+// --- … to the capacity check
+
+CapacitySession& AnalyzerModel::capacity() { return m_parts->capacity; }
+CapacityChecks& AnalyzerModel::capacityChecks() { return m_parts->checks; }
+bool AnalyzerModel::isChecking() const { return m_parts->capacity.isRunning(); }
+void AnalyzerModel::startCheck(const OndelCore::capacity::CapacityPlan& plan) {
+    if (isBusy() || !targetFolder())
+        return;
+    setShowsCheck(true);
+    m_parts->capacity.start(plan);
+}
+bool AnalyzerModel::showsCheck() const { return m_parts->showsCheck; }
+void AnalyzerModel::setShowsCheck(bool shows) {
+    changeProperty(*this, m_parts->showsCheck, shows, &AnalyzerModel::showsCheckChanged);
 }
 
 // --- … to the stored runs

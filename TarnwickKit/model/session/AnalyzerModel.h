@@ -26,15 +26,21 @@
 #include <string>
 #include <vector>
 
+namespace OndelCore::capacity {
+struct CapacityPlan;
+}
+
 namespace TarnwickKit::model {
 
+class CapacityChecks;
+class CapacitySession;
 struct AnalyzerServices;
 struct RunFailure;
 
 /// The application's central object: settings, target, run, stored runs and their comparison.
 ///
 /// Views read its properties and make one call per action of the user; every change is announced. It forwards
-/// to four objects that it owns, and decides what concerns several of them. Properties carry what a
+/// to the objects that it owns, and decides what concerns several of them. Properties carry what a
 /// declarative view can bind to, as those of AnalyzerSettings do; an absent text or test is "".
 ///
 /// Threads: the one that makes it, which must run an event loop.
@@ -62,7 +68,7 @@ public:
     Q_SIGNAL void targetFolderChanged();
 
     /// Makes `folder` the target and sets the sequential block sizes to what suits its file system. Does
-    /// nothing during a run.
+    /// nothing during a run or a check.
     void select(const std::filesystem::path& folder);
     /// The same for a local file URL. Any other URL is ignored.
     Q_INVOKABLE void select(const QUrl& folder);
@@ -104,9 +110,9 @@ public:
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY phaseChanged)
     bool isRunning() const;
     Q_SIGNAL void phaseChanged();
-    /// A target and a test are chosen, and there is no run.
+    /// A target and a test are chosen, and there is neither a run nor a check.
     Q_PROPERTY(bool canRun READ canRun NOTIFY canRunChanged)
-    bool canRun() const { return targetFolder() && !selectedTests().empty() && !isRunning(); }
+    bool canRun() const { return targetFolder() && !selectedTests().empty() && !isBusy(); }
     Q_SIGNAL void canRunChanged();
 
     Q_PROPERTY(QString liveTest READ liveTestName NOTIFY liveTestChanged)
@@ -130,9 +136,10 @@ public:
     const std::optional<OndelCore::benchmark::BenchmarkResult>& result() const;
     Q_SIGNAL void resultChanged();
 
-    /// Begins a run. Does nothing without a target, or during a run; it does not check canRun.
+    /// Begins a run. Does nothing without a target, or during a run or a check; it does not check canRun.
     Q_INVOKABLE void start();
-    /// Asks the run to end. The phase stays Running until the engine has cleaned up, then it is Idle.
+    /// Asks the run or the check to end. The phase stays Running until the engine has cleaned up, then it is
+    /// Idle.
     Q_INVOKABLE void cancel();
     /// Cancels. The future finishes on this thread when the run has ended, at once if there is none.
     QFuture<void> cancelAndWait();
@@ -152,6 +159,26 @@ public:
     QList<bool> sidebarMarks() const;
     /// The sentence for people about a run that failed.
     static QString describe(const std::exception& error);
+
+    // --- Capacity check. The session tells how it goes on; it is started from here alone.
+
+    CapacitySession& capacity();
+    /// The list of past checks.
+    CapacityChecks& capacityChecks();
+    /// Begins a check in the target's folder and shows its pane. Does nothing without a target, or during a
+    /// run or a check.
+    void startCheck(const OndelCore::capacity::CapacityPlan& plan);
+    Q_PROPERTY(bool isChecking READ isChecking NOTIFY busyChanged)
+    bool isChecking() const;
+    /// There is a run or a check: another one cannot begin, and the target stays.
+    Q_PROPERTY(bool isBusy READ isBusy NOTIFY busyChanged)
+    bool isBusy() const { return isRunning() || isChecking(); }
+    Q_SIGNAL void busyChanged();
+    /// The main pane shows the capacity check. A run and a comparison end that.
+    Q_PROPERTY(bool showsCheck READ showsCheck WRITE setShowsCheck NOTIFY showsCheckChanged)
+    bool showsCheck() const;
+    void setShowsCheck(bool shows);
+    Q_SIGNAL void showsCheckChanged();
 
     // --- Stored runs: see RunLibrary
 

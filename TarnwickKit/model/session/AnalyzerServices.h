@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/benchmark/BenchmarkEngine.h"
+#include "OndelCore/capacity/CapacityCheck.h"
 #include "OndelCore/health/DiskSMART.h"
 #include "OndelCore/platform/process/ChildQuestion.h"
 #include "OndelCore/volumes/Location.h"
@@ -25,6 +26,11 @@ struct AnalyzerServices {
         OndelCore::benchmark::BenchmarkPlan, std::filesystem::path folder,
         OndelCore::benchmark::BenchmarkEngine::Progress, std::stop_token)>
         runBenchmark;
+    /// See CapacityCheck::run. Threads: called on a thread of its own, and blocks for the whole check.
+    std::function<OndelCore::capacity::CapacityResult(const OndelCore::capacity::CapacityPlan&,
+                                                      std::stop_token,
+                                                      const OndelCore::capacity::CapacityListener&)>
+        checkCapacity;
     /// See BenchmarkEngine::cleanupOrphans. Threads: called on a thread of its own.
     std::function<void(const std::filesystem::path& folder)> cleanupOrphans;
     /// See VolumeInfo::load and VolumeCapabilities::probe. Threads: called on a thread of their own.

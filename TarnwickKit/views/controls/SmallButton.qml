@@ -8,7 +8,7 @@ import TarnwickKit.views
 PlainButton {
     id: button
 
-    required property string symbol
+    required property string symbol ///< "" for none
 
     corner: 7
     leftPadding: 10
@@ -26,6 +26,7 @@ PlainButton {
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
+            visible: name.length > 0
             name: button.symbol
             size: 12
             color: PaletteKey.palette.text2

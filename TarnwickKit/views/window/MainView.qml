@@ -12,8 +12,8 @@ Rectangle {
     required property TargetFacts target
     required property FocusKeeper keeper
     readonly property int margin: width < ViewMetrics.smallPane ? ViewMetrics.smallPaneMargin : ViewMetrics.paneMargin
-    /// A comparison replaces the phase's pane.
-    readonly property bool showsPhase: !analyzer.isComparing
+    /// A comparison and a capacity check replace the phase's pane.
+    readonly property bool showsPhase: !analyzer.isComparing && !analyzer.showsCheck
     readonly property bool showsRun: showsPhase && runs.hasCurrentRun
                                      && (analyzer.phase === AnalyzerModel.Idle || analyzer.phase === AnalyzerModel.Done)
     readonly property bool showsIdle: showsPhase && !runs.hasCurrentRun && analyzer.phase === AnalyzerModel.Idle
@@ -35,10 +35,9 @@ Rectangle {
     Connections {
         target: main.analyzer
 
-        // The comparison was started far down in the history and is shown at the top.
-        function onComparisonBegan(): void {
-            pane.goToTop();
-        }
+        // What was started far down in the history is shown at the top.
+        function onComparisonBegan(): void { pane.goToTop(); }
+        function onShowsCheckChanged(): void { pane.goToTop(); }
     }
     ScrollPane {
         id: pane
@@ -55,9 +54,19 @@ Rectangle {
             bottomPadding: main.margin
             spacing: main.margin
 
+            Loader {
+                width: column.width
+                visible: active
+                active: main.analyzer.showsCheck
+                // By its file's name: else it would be compiled with this view for nothing.
+                onActiveChanged: setSource(active ? "CapacityPane.qml" : "", active ? {
+                    analyzer: main.analyzer,
+                    volumeName: Qt.binding(() => main.target.volumeName || qsTr("the volume"))
+                } : {})
+            }
             // Each pane exists only while its state holds.
             OnDemand {
-                active: !main.showsPhase
+                active: main.analyzer.isComparing && !main.analyzer.showsCheck
 
                 ComparisonPane {
                     width: column.width
@@ -120,7 +129,7 @@ Rectangle {
             }
             PreviousRunsSection {
                 width: parent.width
-                visible: runs.count > 0
+                visible: runs.count > 0 && !main.analyzer.showsCheck
                 viewTop: pane.contentY - column.y - y
                 viewHeight: pane.height
                 analyzer: main.analyzer

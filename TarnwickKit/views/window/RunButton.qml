@@ -5,12 +5,12 @@ import QtQuick.Templates as T
 import OndelControls
 import TarnwickKit.views
 
-/// Starts a run, or stops the current one.
+/// Starts a run, or stops the current one or the capacity check.
 PlainButton {
     id: button
 
     required property AnalyzerModel analyzer
-    readonly property bool stops: analyzer.isRunning
+    readonly property bool stops: analyzer.isBusy
 
     label: stops ? qsTr("Stop") : qsTr("Run Benchmark")
     corner: 10

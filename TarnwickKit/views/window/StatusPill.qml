@@ -9,6 +9,8 @@ Row {
 
     required property AnalyzerModel analyzer
     readonly property string status: {
+        if (analyzer.isChecking)
+            return qsTr("Checking…");
         switch (analyzer.phase) {
         case AnalyzerModel.Running: return qsTr("Running…");
         case AnalyzerModel.Done: return qsTr("Complete");
@@ -27,6 +29,8 @@ Row {
         height: 7
         radius: 3.5
         color: {
+            if (pill.analyzer.isChecking)
+                return PaletteKey.palette.teal;
             switch (pill.analyzer.phase) {
             case AnalyzerModel.Running: return PaletteKey.palette.teal;
             case AnalyzerModel.Failed: return PaletteKey.palette.amber;

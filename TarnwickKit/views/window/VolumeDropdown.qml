@@ -22,7 +22,7 @@ PlainButton {
     topPadding: 7
     bottomPadding: 7
     implicitWidth: Math.max(Metrics.scaled(244), implicitContentWidth + leftPadding + rightPadding)
-    enabled: !analyzer.isRunning
+    enabled: !analyzer.isBusy
     opacity: pressed ? Metrics.pressedOpacity : 1 // not dimmed while disabled: it is read during a run
 
     detail: title.text + ", " + subtitle.text

@@ -53,4 +53,10 @@ PopupMenu {
         enabled: menu.target.folder.length > 0
         onTriggered: menu.target.showFolder()
     }
+    PopupMenuItem {
+        text: qsTr("Check Capacity…")
+        symbol: "checkmark.shield.fill"
+        enabled: menu.target.folder.length > 0
+        onTriggered: menu.analyzer.showsCheck = true
+    }
 }

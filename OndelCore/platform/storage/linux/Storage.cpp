@@ -17,6 +17,13 @@ std::optional<std::int64_t> freeBytes(int descriptor) {
     return saturatingMultiply(facts.f_bavail, facts.f_frsize);
 }
 
+std::optional<std::int64_t> totalBytes(int descriptor) {
+    struct statvfs facts{};
+    if (fstatvfs(descriptor, &facts) != 0)
+        return std::nullopt;
+    return saturatingMultiply(facts.f_blocks, facts.f_frsize);
+}
+
 // fsync(2) on Linux also flushes the drive's cache.
 std::error_code flushToMedium(int descriptor) {
     while (fsync(descriptor) != 0)

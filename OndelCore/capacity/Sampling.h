@@ -1,0 +1,29 @@
+#pragma once
+
+#include "OndelCore/capacity/CheckRun.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace OndelCore::capacity {
+
+/// Where a quick check writes.
+struct Samples {
+    std::vector<Stretch> stretches;
+    CapacitySampling sampling;
+    std::optional<EarlyEnd> end{}; ///< why not all of the range could be reserved
+};
+
+/// Places samples over a range of `bytes`: a dense stretch at its beginning, single blocks at equal distances
+/// that are shorter than that stretch, one at each power of two, and the last block. Whatever the size is
+/// after which a device wraps around, some of the single blocks then land in the dense stretch.
+Samples spreadSamples(std::int64_t bytes);
+
+/// Reserves space for the whole range, which takes a file system with extents little time, and places the
+/// samples in it. A file system that cannot do that would put all samples side by side: there a short stretch
+/// at the beginning is all there is to write. A reservation that fails for damage is a defect. Fails: throws
+/// BenchmarkError::Io if the volume is gone, or Cancelled.
+Samples prepareSamples(const CheckRun& run);
+
+} // namespace OndelCore::capacity

@@ -1,0 +1,343 @@
+#include "support/FaultyDisk.h"
+
+#include "support/Program.h"
+
+#include <fcntl.h>
+#include <linux/fuse.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/mman.h>
+#include <sys/mount.h>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <map>
+#include <system_error>
+
+using OndelCore::platform::FileDescriptor;
+
+namespace test {
+
+namespace {
+
+constexpr std::int64_t diskBlock = 4096;
+constexpr std::size_t largestTransfer = 1048576;
+constexpr std::uint64_t diskNode = 2;
+
+/// Random bytes hold 16 zeros in a block; tables of file systems hold many more.
+bool looksRandom(std::span<const char> block) {
+    constexpr std::ptrdiff_t few = 64;
+    return block.size() == diskBlock && std::ranges::count(block, '\0') < few;
+}
+
+template <class Value>
+std::span<const char> bytesOf(const Value& value) {
+    return {reinterpret_cast<const char*>(&value), sizeof value};
+}
+
+fuse_attr attributesOf(std::uint64_t node, std::int64_t bytes) {
+    fuse_attr attributes{};
+    attributes.ino = node;
+    attributes.size = node == diskNode ? static_cast<std::uint64_t>(bytes) : 0;
+    attributes.blocks = attributes.size / 512;
+    attributes.mode = node == diskNode ? S_IFREG | 0600 : S_IFDIR | 0700;
+    attributes.nlink = 1;
+    attributes.blksize = diskBlock;
+    return attributes;
+}
+
+/// What the command complained of; empty when it succeeded. `answer`: its first line.
+std::string complaintOfTool(const std::vector<std::string>& command, std::string* answer = nullptr) {
+    Program program(command);
+    std::string complaint = command.front() + ":";
+    for (std::string line = program.line(); !line.empty(); line = program.line()) {
+        if (answer != nullptr && answer->empty())
+            *answer = line;
+        complaint += ' ' + line;
+    }
+    return program.succeeds() ? "" : complaint;
+}
+
+} // namespace
+
+struct FaultyDisk::Request {
+    fuse_in_header head{};
+    std::span<const char> body;
+
+    template <class Value>
+    Value as() const {
+        Value value{};
+        std::memcpy(&value, body.data(), std::min(sizeof value, body.size()));
+        return value;
+    }
+};
+
+DiskFault::Kind diskFaultKind(const std::string& name) {
+    using Kind = DiskFault::Kind;
+    static const std::map<std::string, Kind> kinds{{"none", Kind::none},
+                                                   {"wrap", Kind::wrap},
+                                                   {"dropZeros", Kind::dropZeros},
+                                                   {"dropLast", Kind::dropLast},
+                                                   {"dropNoise", Kind::dropNoise},
+                                                   {"flip", Kind::flip},
+                                                   {"swap", Kind::swap},
+                                                   {"unreadable", Kind::unreadable},
+                                                   {"unwritable", Kind::unwritable},
+                                                   {"slow", Kind::slow},
+                                                   {"vanish", Kind::vanish},
+                                                   {"forgetsLater", Kind::forgetsLater}};
+    return kinds.at(name);
+}
+
+FaultyDisk::FaultyDisk(std::int64_t bytes)
+    : m_bytes(bytes)
+    , m_mountPoint(m_folder.path() / "faulty")
+    , m_store(memfd_create("faulty-disk", MFD_CLOEXEC))
+    , m_requests(open("/dev/fuse", O_RDWR | O_CLOEXEC))
+    , m_endMark(eventfd(0, EFD_CLOEXEC)) {
+    std::filesystem::create_directory(m_mountPoint);
+    const std::string options = "fd=" + std::to_string(m_requests.get()) +
+                                ",rootmode=40000,user_id=0,group_id=0,allow_other,max_read=1048576";
+    if (!m_store || ftruncate(m_store.get(), bytes) != 0 || !m_requests ||
+        mount("faulty", m_mountPoint.c_str(), "fuse", 0, options.c_str()) != 0) {
+        m_problem = "no right to FUSE: " + std::generic_category().message(errno);
+        return;
+    }
+    m_program = std::thread([this] { serve(); });
+}
+
+FaultyDisk::~FaultyDisk() {
+    if (!m_problem.empty())
+        return;
+    umount2(m_mountPoint.c_str(), MNT_DETACH);
+    const std::uint64_t one = 1;
+    [[maybe_unused]] const ssize_t told = ::write(m_endMark.get(), &one, sizeof one);
+    m_program.join();
+}
+
+void FaultyDisk::arm(const DiskFault& fault) {
+    const std::lock_guard guard(m_lock);
+    m_fault = fault;
+    m_dataBlocks = m_dataMoved = m_readSince = m_sinceFlip = 0;
+    m_firstPlace = m_secondPlace = -1;
+}
+
+void FaultyDisk::serve() {
+    std::vector<char> memory(largestTransfer + 4096);
+    for (;;) {
+        std::array<pollfd, 2> watched{pollfd{m_requests.get(), POLLIN, 0},
+                                      pollfd{m_endMark.get(), POLLIN, 0}};
+        poll(watched.data(), watched.size(), -1);
+        if (watched[1].revents != 0)
+            return;
+        const ssize_t length = ::read(m_requests.get(), memory.data(), memory.size());
+        if (length < 0 && (errno == EINTR || errno == ENOENT || errno == EAGAIN))
+            continue;
+        if (length < static_cast<ssize_t>(sizeof(fuse_in_header)))
+            return;
+        Request request;
+        std::memcpy(&request.head, memory.data(), sizeof request.head);
+        request.body = std::span<const char>(memory).subspan(
+            sizeof request.head, static_cast<std::size_t>(length) - sizeof request.head);
+        const std::lock_guard guard(m_lock);
+        answer(request);
+    }
+}
+
+void FaultyDisk::reply(std::uint64_t unique, int error, std::span<const char> body) {
+    fuse_out_header head{};
+    head.len = static_cast<std::uint32_t>(sizeof head + body.size());
+    head.error = -error;
+    head.unique = unique;
+    std::array<iovec, 2> parts{iovec{&head, sizeof head}, iovec{const_cast<char*>(body.data()), body.size()}};
+    [[maybe_unused]] const ssize_t sent = writev(m_requests.get(), parts.data(), 2);
+}
+
+void FaultyDisk::answer(const Request& request) {
+    const auto& head = request.head;
+    switch (head.opcode) {
+    case FUSE_INIT: {
+        fuse_init_out init{};
+        init.major = FUSE_KERNEL_VERSION;
+        init.minor = FUSE_KERNEL_MINOR_VERSION;
+        init.max_readahead = 0;
+        init.flags = FUSE_BIG_WRITES | FUSE_MAX_PAGES;
+        init.max_background = 64;
+        init.max_write = largestTransfer;
+        init.max_pages = largestTransfer / 4096;
+        return reply(head.unique, 0, bytesOf(init));
+    }
+    case FUSE_LOOKUP: {
+        fuse_entry_out entry{};
+        entry.nodeid = diskNode;
+        entry.entry_valid = entry.attr_valid = 3600;
+        entry.attr = attributesOf(diskNode, m_bytes);
+        const bool isKnown = std::strcmp(request.body.data(), "disk") == 0;
+        return reply(head.unique, isKnown ? 0 : ENOENT, isKnown ? bytesOf(entry) : std::span<const char>());
+    }
+    case FUSE_GETATTR:
+    case FUSE_SETATTR: {
+        fuse_attr_out attributes{};
+        attributes.attr_valid = 3600;
+        attributes.attr = attributesOf(head.nodeid, m_bytes);
+        return reply(head.unique, 0, bytesOf(attributes));
+    }
+    case FUSE_OPEN: {
+        fuse_open_out opened{};
+        opened.open_flags = FOPEN_DIRECT_IO;
+        return reply(head.unique, 0, bytesOf(opened));
+    }
+    case FUSE_READ: {
+        const auto ask = request.as<fuse_read_in>();
+        std::vector<char> bytes(ask.size);
+        const int error = moveBlocks(static_cast<std::int64_t>(ask.offset), bytes, {});
+        return reply(head.unique, error, error == 0 ? std::span<const char>(bytes) : std::span<const char>());
+    }
+    case FUSE_WRITE: {
+        const auto ask = request.as<fuse_write_in>();
+        const int error =
+            moveBlocks(static_cast<std::int64_t>(ask.offset), {}, request.body.subspan(sizeof ask, ask.size));
+        fuse_write_out written{};
+        written.size = ask.size;
+        return reply(head.unique, error, error == 0 ? bytesOf(written) : std::span<const char>());
+    }
+    case FUSE_FORGET:
+    case FUSE_BATCH_FORGET:
+    case FUSE_INTERRUPT:
+        return;
+    case FUSE_STATFS: {
+        fuse_statfs_out facts{};
+        return reply(head.unique, 0, bytesOf(facts));
+    }
+    case FUSE_FLUSH:
+    case FUSE_FSYNC:
+    case FUSE_RELEASE:
+    case FUSE_ACCESS:
+        return reply(head.unique, 0, {});
+    default:
+        return reply(head.unique, ENOSYS, {});
+    }
+}
+
+/// Moves one way, block by block; the parts at the ends may be shorter.
+int FaultyDisk::moveBlocks(std::int64_t offset, std::span<char> read, std::span<const char> written) {
+    const std::size_t length = std::max(read.size(), written.size());
+    if (m_fault.kind == DiskFault::Kind::slow)
+        std::this_thread::sleep_for(std::chrono::microseconds(static_cast<std::int64_t>(length) * 1'000'000 /
+                                                              std::max<std::int64_t>(1, m_fault.rate)));
+    for (std::size_t done = 0; done < length;) {
+        const std::int64_t at = offset + static_cast<std::int64_t>(done);
+        const std::size_t part =
+            std::min(length - done, static_cast<std::size_t>(diskBlock - at % diskBlock));
+        const int error = read.empty() ? writeBlock(at, written.subspan(done, part))
+                                       : readBlock(at, read.subspan(done, part));
+        if (error != 0)
+            return error;
+        done += part;
+    }
+    (read.empty() ? m_written : m_read) += static_cast<std::int64_t>(length);
+    return 0;
+}
+
+int FaultyDisk::writeBlock(std::int64_t place, std::span<const char> bytes) {
+    using Kind = DiskFault::Kind;
+    const bool isData = looksRandom(bytes);
+    if (isData) {
+        const std::int64_t number = m_dataBlocks++;
+        m_dataMoved += diskBlock;
+        if (number == m_fault.first)
+            m_firstPlace = place;
+        if (number == m_fault.second)
+            m_secondPlace = place;
+    }
+    const bool isBeyond = place >= m_fault.limit;
+    const Kind kind = m_fault.kind;
+    if ((kind == Kind::vanish && m_dataMoved > m_fault.limit) ||
+        (kind == Kind::unwritable && (place == m_firstPlace || place == m_secondPlace)))
+        return EIO;
+    if (isBeyond && (kind == Kind::dropZeros || kind == Kind::dropLast || kind == Kind::dropNoise))
+        return 0;
+    std::array<char, diskBlock> changed{};
+    if (kind == Kind::flip && isData && (m_sinceFlip += diskBlock) >= m_fault.every) {
+        m_sinceFlip = 0;
+        std::ranges::copy(bytes, changed.begin());
+        changed[1234] = static_cast<char>(changed[1234] ^ 0x10);
+        bytes = changed;
+    }
+    if (kind == Kind::swap && isData && m_dataBlocks - 1 == m_fault.second && m_firstPlace >= 0) {
+        std::array<char, diskBlock> first{};
+        if (pread(m_store.get(), first.data(), first.size(), m_firstPlace) < 0 ||
+            pwrite(m_store.get(), first.data(), first.size(), m_secondPlace) < 0)
+            return EIO;
+        return pwrite(m_store.get(), bytes.data(), bytes.size(), m_firstPlace) < 0 ? EIO : 0;
+    }
+    return pwrite(m_store.get(), bytes.data(), bytes.size(),
+                  kind == Kind::wrap ? place % m_fault.limit : place) < 0
+               ? EIO
+               : 0;
+}
+
+int FaultyDisk::readBlock(std::int64_t place, std::span<char> bytes) {
+    using Kind = DiskFault::Kind;
+    const Kind kind = m_fault.kind;
+    const std::int64_t block = place / diskBlock * diskBlock;
+    m_readSince += static_cast<std::int64_t>(bytes.size());
+    if ((kind == Kind::vanish && m_dataMoved > m_fault.limit) ||
+        (kind == Kind::unreadable && (block == m_firstPlace || block == m_secondPlace)))
+        return EIO;
+    const bool isBeyond = place >= m_fault.limit;
+    if (kind == Kind::dropNoise && isBeyond)
+        return getrandom(bytes.data(), bytes.size(), 0) < 0 ? EIO : 0;
+    const bool isForgotten =
+        kind == Kind::forgetsLater && m_readSince > m_fault.limit && block == m_firstPlace;
+    if ((kind == Kind::dropZeros && isBeyond) || isForgotten) {
+        std::ranges::fill(bytes, '\0');
+        return 0;
+    }
+    if (kind == Kind::dropLast && isBeyond)
+        place = m_fault.limit - diskBlock + place % diskBlock;
+    else if (kind == Kind::wrap)
+        place %= m_fault.limit;
+    const ssize_t read = pread(m_store.get(), bytes.data(), bytes.size(), place);
+    if (kind == Kind::vanish && looksRandom(bytes))
+        m_dataMoved += diskBlock;
+    return read < 0 ? EIO : 0;
+}
+
+FaultyVolume::FaultyVolume(const std::string& type, std::int64_t bytes, const std::string& mountOptions,
+                           const std::vector<std::string>& formatOptions)
+    : m_disk(bytes)
+    , m_mountPoint(m_folder.path() / "mount")
+    , m_problem(m_disk.problem()) {
+    std::filesystem::create_directory(m_mountPoint);
+    if (m_problem.empty())
+        m_problem = complaintOfTool({"losetup", "--find", "--show", m_disk.file().string()}, &m_device);
+    if (!m_problem.empty())
+        return;
+    std::vector<std::string> format{"mkfs." + type};
+    format.insert(format.end(), formatOptions.begin(), formatOptions.end());
+    format.push_back(m_device);
+    m_problem = complaintOfTool(format);
+    if (!m_problem.empty())
+        return;
+    const std::string driver = type == "exfat" ? "exfat-fuse" : type == "ntfs" ? "ntfs-3g" : type;
+    m_problem = complaintOfTool({"mount", "-t", driver, "-o", mountOptions.empty() ? "rw" : mountOptions,
+                                 m_device, m_mountPoint.string()});
+    m_isMounted = m_problem.empty();
+}
+
+FaultyVolume::~FaultyVolume() {
+    if (m_isMounted && umount2(m_mountPoint.c_str(), 0) != 0)
+        umount2(m_mountPoint.c_str(), MNT_DETACH);
+    if (!m_device.empty())
+        complaintOfTool({"losetup", "--detach", m_device});
+}
+
+} // namespace test
