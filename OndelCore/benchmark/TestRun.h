@@ -6,18 +6,11 @@
 #include "OndelCore/benchmark/CancelFlag.h"
 #include "OndelCore/benchmark/DataFilePlace.h"
 #include "OndelCore/benchmark/EngineEnvironment.h"
-#include "OndelCore/platform/process/SystemCalls.h"
+#include "OndelCore/benchmark/IoError.h"
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 namespace OndelCore::benchmark {
-
-/// The error of a system call that has just failed: `prefix` names it, the system's wording follows.
-inline BenchmarkError ioError(std::string_view prefix, int error) {
-    return BenchmarkError(BenchmarkError::Io{std::string(prefix) + platform::errorText(error), error});
-}
 
 /// What every test of one run works with. Owner: whoever made the run; it outlives the tests.
 struct TestRun {

@@ -1,6 +1,7 @@
 #include "OndelCore/capacity/CheckRunner.h"
 
 #include "OndelCore/SaturatingMath.h"
+#include "OndelCore/benchmark/IoError.h"
 #include "OndelCore/benchmark/RunPlace.h"
 #include "OndelCore/benchmark/evidence/RunWitness.h"
 #include "OndelCore/capacity/CheckRun.h"

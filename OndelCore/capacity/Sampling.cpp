@@ -1,5 +1,7 @@
 #include "OndelCore/capacity/Sampling.h"
 
+#include "OndelCore/benchmark/IoError.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>

@@ -1,3 +1,4 @@
+#include "OndelCore/benchmark/IoError.h"
 #include "OndelCore/capacity/ChunkRing.h"
 #include "OndelCore/capacity/PassMeter.h"
 #include "OndelCore/capacity/Passes.h"
