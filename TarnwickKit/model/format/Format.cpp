@@ -54,7 +54,7 @@ constexpr std::size_t blockUnitCount = 4;
 
 } // namespace
 
-struct Formatter::Icu {
+struct __attribute__((visibility("hidden"))) Formatter::Icu { // its symbols would name one release of ICU
     icu::number::LocalizedNumberFormatter grouping;
     icu::number::LocalizedNumberFormatter plain;
     /// SimpleDateFormat promises nothing about use by several threads at once, hence the lock.
