@@ -90,7 +90,7 @@ icu::number::LocalizedNumberFormatter numberFormat(const icu::Locale& locale,
 
 } // namespace
 
-struct Formatter::Icu {
+struct __attribute__((visibility("hidden"))) Formatter::Icu { // its symbols would name one release of ICU
     /// The shapes of dates.
     struct Dates {
         std::unique_ptr<icu::SimpleDateFormat> longDate;
