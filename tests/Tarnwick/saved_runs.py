@@ -80,3 +80,38 @@ def lay_down(runs, data_home=None):
 
 def stored():
     return json.loads(history().read_text(encoding="utf-8"))
+
+
+GIB = 2**30
+
+
+def capacity_check(sentence_of, planned=118 * GIB, **fields):
+    """A stored capacity check of a stick of 128 GB. `sentence_of`: "good", "false" (a quarter is real), "changed" or "sampled"."""
+    count = 4096
+    cells = {"false": "v" * (count // 4) + "x" * (count * 3 // 4), "changed": "v" * 1430 + "x" + "v" * 2000 + "u" + "v" * 664,
+             "sampled": ("v" + "-" * 63) * 64}.get(sentence_of, "v" * count)
+    rates = [{"offset": planned * i // 300, "bytesPerSecond": 8e7 - 1e5 * i + 3e6 * math.sin(i)} for i in range(300)]
+    faster = [{"offset": rate["offset"], "bytesPerSecond": rate["bytesPerSecond"] * 1.3} for rate in rates]
+    wrong = planned * 3 // 4
+    found = {"good": {}, "sampled": {"quick": {"isSpread": True, "samples": 64, "spacing": planned // 64, "reserved": planned}},
+             "false": {"verified": planned - wrong, "wrong": wrong, "bytesByKind": {"otherBlock": wrong},
+                       "defects": [{"kind": "otherBlock", "offset": planned - wrong, "length": wrong, "holds": 0}],
+                       "realSize": {"reason": "wrapsAround", "bytes": 31_400_000_000, "isExact": True}},
+             "changed": {"verified": planned - 16384, "wrong": 12288, "unreadable": 4096, "bytesByKind": {"bitFlips": 12288, "unreadable": 4096},
+                         "defects": [{"kind": "bitFlips", "offset": int(41.2 * GIB) // 4096 * 4096, "length": 12288, "flippedBits": 5},
+                                     {"kind": "unreadable", "offset": 98 * GIB, "length": 4096, "errno": 5}]}}[sentence_of]
+    record = {
+        "id": str(uuid.uuid4()).upper(), "volumeName": "STICK", "connection": "Removable", "date": "2026-03-14T09:26:53Z", "duration": 2702.5,
+        "leaveFree": 2**26, "planned": planned, "written": planned, "verified": planned,
+        "write": {"bytes": planned, "duration": 1500.0, "rates": rates, "shareAtDisk": 1.0},
+        "read": {"bytes": planned, "duration": 1200.0, "rates": faster, "shareAtDisk": 1.0},
+        "cells": {"cellBytes": planned // count, "states": cells}, "volumeTotal": 128 * GB, "volumeFree": planned + 2**26,
+        "fsType": "exfat", "deviceModel": "ACME Flash", "deviceProtocol": "USB", "version": "1.0.0"}
+    return record | found | fields
+
+
+def lay_down_checks(checks):
+    """Writes them as the former checks of programs that start afterwards."""
+    file = history().with_name("checks.json")
+    file.parent.mkdir(parents=True, exist_ok=True)
+    file.write_text(json.dumps(checks, ensure_ascii=False), encoding="utf-8")

@@ -17,6 +17,7 @@ void visitFields(IsA<OndelCore::capacity::CapacityDefect> auto& defect, auto vis
     visit("holds", defect.holds);
     visit("flippedBits", defect.flippedBits);
     visit("errno", defect.error);
+    visit("repeats", defect.repeats);
     visit("isOnlyLater", defect.isOnlyLater);
 }
 void visitFields(IsA<OndelCore::capacity::CapacityRealSize> auto& size, auto visit) {
@@ -58,6 +59,7 @@ void visitFields(IsA<CapacityRecord> auto& check, auto visit) {
     visit("wrong", check.result.wrong);
     visit("unreadable", check.result.unreadable);
     visit("writeFailed", check.result.writeFailed);
+    visit("recovered", check.result.recovered);
     visit("defects", check.result.defects);
     visit("furtherDefects", check.result.furtherDefects);
     visit("bytesByKind", check.result.bytesByKind);

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <vector>
 
 namespace TarnwickKit::model {
 
@@ -38,17 +39,32 @@ QString counted(std::int64_t count) { return Format::grouped(static_cast<double>
 
 bool isDefective(BlockState state) { return state >= BlockState::wrong; }
 
+std::int64_t lostBytes(const CapacityResult& result) {
+    return result.wrong + result.unreadable + result.writeFailed;
+}
+
+/// The listed defects that the sentence is about: what a second try got right matters only without others.
+std::vector<CapacityDefect> mainDefects(const CapacityResult& result) {
+    std::vector<CapacityDefect> main = result.defects;
+    if (lostBytes(result) > 0)
+        std::erase_if(main, [](const CapacityDefect& each) { return each.kind == DefectKind::recovered; });
+    return main;
+}
+
 /// Where the first block lies that did not come back. A stopped check knows no better than its cells.
 std::int64_t firstDefect(const CapacityResult& result) {
-    if (!result.defects.empty())
-        return result.defects.front().offset;
+    if (const auto defects = mainDefects(result); !defects.empty())
+        return defects.front().offset;
     const auto found = std::ranges::find_if(result.cells.states, isDefective);
-    return (found - result.cells.states.begin()) * result.cells.cellBytes;
+    return found == result.cells.states.end()
+               ? 0
+               : (found - result.cells.states.begin()) * result.cells.cellBytes;
 }
 
 bool isFoundLaterOnly(const CapacityResult& result) {
-    return !result.defects.empty() && result.furtherDefects == 0 &&
-           std::ranges::all_of(result.defects, &CapacityDefect::isOnlyLater);
+    const auto defects = mainDefects(result);
+    return !defects.empty() && result.furtherDefects == 0 &&
+           std::ranges::all_of(defects, &CapacityDefect::isOnlyLater);
 }
 
 // --- The sentence on what is wrong
@@ -82,7 +98,7 @@ QString told(const BlockSentences& sentences, const CapacityResult& result, std:
     if (blocks >= countedBlocks)
         return CapacityText::tr(sentences.large)
             .arg(Format::bytes(bytes), Format::bytes(result.written), place);
-    const bool isTogether = result.defects.size() == 1 && result.furtherDefects == 0;
+    const bool isTogether = mainDefects(result).size() == 1 && result.furtherDefects == 0;
     return CapacityText::tr(isTogether ? sentences.together : sentences.scattered, nullptr, plural(blocks))
         .arg(counted(blocks), place);
 }
@@ -108,6 +124,13 @@ constexpr BlockSentences unwrittenSentences{
     QT_TRANSLATE_N_NOOP("CapacityText", "%1 blocks at %2 could not be written."),
     QT_TRANSLATE_N_NOOP("CapacityText", "%1 blocks could not be written, the first at %2."),
     QT_TRANSLATE_NOOP("CapacityText", "%1 beside %2 could not be written, the first block at %3.")};
+constexpr BlockSentences recoveredSentences{
+    QT_TRANSLATE_NOOP("CapacityText", "One block at %1 could be written or read only at a second try."),
+    QT_TRANSLATE_N_NOOP("CapacityText", "%1 blocks at %2 could be written or read only at a second try."),
+    QT_TRANSLATE_N_NOOP("CapacityText",
+                        "%1 blocks could be written or read only at a second try, the first at %2."),
+    QT_TRANSLATE_NOOP("CapacityText",
+                      "%1 of %2 could be written or read only at a second try, the first block at %3.")};
 constexpr BlockSentences mixedSentences{
     QT_TRANSLATE_NOOP("CapacityText", "One block at %1 did not come back as it was written."),
     QT_TRANSLATE_N_NOOP("CapacityText", "%1 blocks at %2 did not come back as they were written."),
@@ -128,7 +151,9 @@ QString badSentence(const CapacityRecord& check) {
     if (result.earlyEnd == EarlyEnd::writeErrors && result.wrong + result.unreadable == 0)
         return CapacityText::tr("The volume could be written up to %1 of %2, and refused everything beyond.")
             .arg(Format::bytes(result.written), Format::bytes(result.planned));
-    const std::int64_t all = result.wrong + result.unreadable + result.writeFailed;
+    const std::int64_t all = lostBytes(result);
+    if (all == 0)
+        return told(recoveredSentences, result, result.recovered);
     if (isFoundLaterOnly(result))
         return told(laterSentences, result, all);
     if (result.wrong == all)
@@ -233,15 +258,24 @@ QString flipSentence(const CapacityDefect& defect, const QString& place, const Q
 }
 
 QString failureSentence(const CapacityDefect& defect, const QString& place, const QString& length) {
-    const bool isRead = defect.kind == DefectKind::unreadable;
-    const QString why = defect.error ? QString::fromStdString(defect.error->message()) : QString();
-    if (why.isEmpty())
-        return (isRead ? CapacityText::tr("At %1, %2: could not be read.")
-                       : CapacityText::tr("At %1, %2: could not be written."))
-            .arg(place, length);
-    return (isRead ? CapacityText::tr("At %1, %2: could not be read (%3).")
-                   : CapacityText::tr("At %1, %2: could not be written (%3)."))
-        .arg(place, length, why);
+    const QString why = defect.error ? QString::fromStdString(defect.error->message())
+                                     : CapacityText::tr("no reason is known");
+    const char* sentence = QT_TRANSLATE_NOOP("CapacityText", "At %1, %2: could not be read (%3).");
+    if (defect.kind == DefectKind::writeFailed)
+        sentence = QT_TRANSLATE_NOOP("CapacityText", "At %1, %2: could not be written (%3).");
+    else if (defect.kind == DefectKind::recovered)
+        sentence = QT_TRANSLATE_NOOP("CapacityText",
+                                     "At %1, %2: could be written or read only at a second try (%3).");
+    return CapacityText::tr(sentence).arg(place, length, why);
+}
+
+QString otherBlockSentence(const CapacityDefect& defect, const QString& place, const QString& length) {
+    if (!defect.holds)
+        return CapacityText::tr("At %1, %2: what was written elsewhere came back.").arg(place, length);
+    return (defect.repeats
+                ? CapacityText::tr("At %1, %2: the block that was written at %3 came back, again and again.")
+                : CapacityText::tr("At %1, %2: what was written at %3 came back."))
+        .arg(place, length, Format::bytes(*defect.holds));
 }
 
 QString defectSentence(const CapacityDefect& defect) {
@@ -251,10 +285,7 @@ QString defectSentence(const CapacityDefect& defect) {
     case DefectKind::zeros:
         return CapacityText::tr("At %1, %2: zeros came back.").arg(place, length);
     case DefectKind::otherBlock:
-        return defect.holds
-                   ? CapacityText::tr("At %1, %2: what was written at %3 came back.")
-                         .arg(place, length, Format::bytes(*defect.holds))
-                   : CapacityText::tr("At %1, %2: what was written elsewhere came back.").arg(place, length);
+        return otherBlockSentence(defect, place, length);
     case DefectKind::foreign:
         return CapacityText::tr("At %1, %2: something came back that was never written there.")
             .arg(place, length);
@@ -262,6 +293,7 @@ QString defectSentence(const CapacityDefect& defect) {
         return flipSentence(defect, place, length);
     case DefectKind::unreadable:
     case DefectKind::writeFailed:
+    case DefectKind::recovered:
         break;
     }
     return failureSentence(defect, place, length);
@@ -350,6 +382,7 @@ std::vector<CapacityFact> capacityFacts(const CapacityRecord& check) {
     addSize(facts, CapacityText::tr("Changed"), result.wrong);
     addSize(facts, CapacityText::tr("Could not be read"), result.unreadable);
     addSize(facts, CapacityText::tr("Could not be written"), result.writeFailed);
+    addSize(facts, CapacityText::tr("Only at a second try"), result.recovered);
     if (const auto share = result.read.shareAtDisk)
         facts.push_back({CapacityText::tr("Read from the disk"),
                          u"%1 %"_s.arg(static_cast<int>(100 * *share + 1e-9)), check.isFromMemory()});

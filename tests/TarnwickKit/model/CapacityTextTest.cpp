@@ -101,6 +101,19 @@ const std::vector<Outcome>& outcomes() {
         {with(badCheck({defect(DefectKind::bitFlips, somewhere, 2)}),
               [](auto& check) { check.result.defects.front().isOnlyLater = true; }),
          bad, "2 blocks at 41.2 GiB were right at first, and changed later."},
+        {with(goodCheck(),
+              [](auto& check) {
+                  check.result.defects = {defect(DefectKind::recovered, somewhere, 256)};
+                  check.result.recovered = mebi;
+              }),
+         bad, "256 blocks at 41.2 GiB could be written or read only at a second try."},
+        {with(badCheck(
+                  {defect(DefectKind::recovered, mebi, 256), defect(DefectKind::unreadable, somewhere, 3)}),
+              [](auto& check) {
+                  check.result.wrong = 0;
+                  check.result.recovered = mebi;
+              }),
+         bad, "3 blocks at 41.2 GiB could not be read."},
     };
     return table;
 }
@@ -113,28 +126,33 @@ TEST(CapacityText, TellsEachOutcomeInOneSentence) {
 }
 
 TEST(CapacityText, TellsWhatCameBackAndWhere) {
-    CapacityRecord check =
-        badCheck({defect(DefectKind::zeros, 0, 1), defect(DefectKind::otherBlock, mebi, 2),
-                  defect(DefectKind::otherBlock, 2 * mebi, 2), defect(DefectKind::foreign, 3 * mebi, 1),
-                  defect(DefectKind::bitFlips, gibi, 1), defect(DefectKind::bitFlips, 2 * gibi, 1),
-                  defect(DefectKind::unreadable, 3 * gibi, 1), defect(DefectKind::writeFailed, 4 * gibi, 1)});
+    CapacityRecord check = badCheck(
+        {defect(DefectKind::zeros, 0, 1), defect(DefectKind::otherBlock, mebi, 2),
+         defect(DefectKind::otherBlock, 2 * mebi, 2), defect(DefectKind::otherBlock, 2 * mebi + 8192, 2),
+         defect(DefectKind::foreign, 3 * mebi, 1), defect(DefectKind::bitFlips, gibi, 1),
+         defect(DefectKind::bitFlips, 2 * gibi, 1), defect(DefectKind::unreadable, 3 * gibi, 1),
+         defect(DefectKind::writeFailed, 4 * gibi, 1)});
     auto& defects = check.result.defects;
     defects[1].holds = 5 * gibi;
-    defects[4].flippedBits = 1;
-    defects[5].flippedBits = 1234;
-    defects[5].isOnlyLater = true;
-    defects[6].error = std::error_code(EIO, std::system_category());
+    defects[3].holds = 6 * gibi;
+    defects[3].repeats = true;
+    defects[5].flippedBits = 1;
+    defects[6].flippedBits = 1234;
+    defects[6].isOnlyLater = true;
+    defects[7].error = std::error_code(EIO, std::system_category());
     check.result.furtherDefects = 1;
-    EXPECT_EQ(capacityDefects(check, 8),
-              QStringList({"At 0 B, 4 KiB: zeros came back.",
-                           "At 1.0 MiB, 8 KiB: what was written at 5.0 GiB came back.",
-                           "At 2.0 MiB, 8 KiB: what was written elsewhere came back.",
-                           "At 3.0 MiB, 4 KiB: something came back that was never written there.",
-                           "At 1.0 GiB, 4 KiB: one bit was flipped.",
-                           "At 2.0 GiB, 4 KiB: 1,234 bits were flipped. It was right at the first reading.",
-                           "At 3.0 GiB, 4 KiB: could not be read (Input/output error).",
-                           "At 4.0 GiB, 4 KiB: could not be written.", "And at one more place."}));
-    EXPECT_EQ(capacityDefects(check, 2).last(), "And at 7 more places.");
+    EXPECT_EQ(
+        capacityDefects(check, 9),
+        QStringList(
+            {"At 0 B, 4 KiB: zeros came back.", "At 1.0 MiB, 8 KiB: what was written at 5.0 GiB came back.",
+             "At 2.0 MiB, 8 KiB: what was written elsewhere came back.",
+             "At 2.0 MiB, 8 KiB: the block that was written at 6.0 GiB came back, again and again.",
+             "At 3.0 MiB, 4 KiB: something came back that was never written there.",
+             "At 1.0 GiB, 4 KiB: one bit was flipped.",
+             "At 2.0 GiB, 4 KiB: 1,234 bits were flipped. It was right at the first reading.",
+             "At 3.0 GiB, 4 KiB: could not be read (Input/output error).",
+             "At 4.0 GiB, 4 KiB: could not be written (no reason is known).", "And at one more place."}));
+    EXPECT_EQ(capacityDefects(check, 2).last(), "And at 8 more places.");
 }
 
 TEST(CapacityText, SaysWhatItDoesNotKnow) {
@@ -202,7 +220,9 @@ TEST(CapacityCodec, ReadsWhatItWrites) {
                                      .holds = gibi,
                                      .flippedBits = 7,
                                      .error = std::error_code(EIO, std::system_category()),
+                                     .repeats = true,
                                      .isOnlyLater = true}});
+    full.result.recovered = 4096;
     full.size = 118 * gibi;
     full.again = 600;
     full.deviceModel = QStringLiteral("ACME “Flash”");
