@@ -7,7 +7,7 @@
 
 namespace TarnwickHost {
 
-enum ExitStatus : int { done = 0, failed = 1, wrongUsage = 2, interrupted = 130 };
+enum ExitStatus : int { done = 0, failed = 1, wrongUsage = 2, defectsFound = 3, interrupted = 130 };
 
 /// One thing that the program can do: "tarnwick-host NAME …".
 struct Command {
@@ -23,6 +23,7 @@ struct Command {
 };
 
 extern const Command runCommand;
+extern const Command checkCommand;
 extern const Command showCommand;
 extern const Command historyCommand;
 extern const Command cardCommand;

@@ -1,5 +1,6 @@
 #include "TarnwickHost/Progress.h"
 
+#include "TarnwickKit/model/capacity/CapacityText.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
 
@@ -66,15 +67,6 @@ QString bar(double fraction, qsizetype columns, bool unicode) {
     return QString(filled, full) + QString(columns - filled, empty);
 }
 
-void replaceLine(const QString& line) {
-    pollfd terminal{.fd = STDERR_FILENO, .events = POLLOUT, .revents = 0};
-    if (poll(&terminal, 1, 0) != 1 || !(terminal.revents & POLLOUT))
-        return;
-    const QByteArray text = "\r" + line.toUtf8() + "\x1b[K";
-    [[maybe_unused]] const ssize_t ignored =
-        write(STDERR_FILENO, text.constData(), static_cast<std::size_t>(text.size()));
-}
-
 /// Without a sequential write the engine prepares the data file first, and tells no progress meanwhile.
 bool preparesFile(const BenchmarkPlan& plan) {
     return !plan.tests.contains(BenchmarkTest::sequentialWrite) &&
@@ -104,6 +96,40 @@ QString progressLine(const BenchmarkProgress& progress, const BenchmarkPlan& pla
         if (line.size() + 2 + piece.size() <= columns)
             line += "  " + piece;
     return line.left(columns);
+}
+
+QString checkLine(const CapacityCourse& course, LineStyle style) {
+    const auto& last = course.last();
+    if (!last)
+        return "Starting";
+    const qsizetype columns = std::max(style.columns, 0);
+    QString line = capacityPhaseName(last->phase).leftJustified(titleColumns);
+    if (const auto fraction = course.fraction()) {
+        const qsizetype barColumns = std::min<qsizetype>(columns - 70, mostBarColumns / 2);
+        if (barColumns >= leastBarColumns)
+            line += bar(*fraction, barColumns, style.unicode) + "  ";
+        line += QString::number(static_cast<int>(*fraction * 100)).rightJustified(3) + " %";
+    }
+    QStringList pieces;
+    if (const auto rate = course.rate()) {
+        pieces << Format::bytes(last->done).rightJustified(10) + " of " + Format::bytes(last->total)
+               << Format::rate(*rate).rightJustified(9);
+    }
+    if (const auto left = course.timeLeft())
+        pieces << spanText(*left) + " left";
+    for (const QString& piece : pieces)
+        if (line.size() + 2 + piece.size() <= columns)
+            line += "  " + piece;
+    return line.left(columns);
+}
+
+void replaceLine(const QString& line) {
+    pollfd terminal{.fd = STDERR_FILENO, .events = POLLOUT, .revents = 0};
+    if (poll(&terminal, 1, 0) != 1 || !(terminal.revents & POLLOUT))
+        return;
+    const QByteArray text = "\r" + line.toUtf8() + "\x1b[K";
+    [[maybe_unused]] const ssize_t ignored =
+        write(STDERR_FILENO, text.constData(), static_cast<std::size_t>(text.size()));
 }
 
 bool ProgressBar::isPossible() { return isatty(STDERR_FILENO) && qgetenv("TERM") != "dumb"; }

@@ -3,25 +3,16 @@
 #include "OndelCore/benchmark/BenchmarkPlan.h"
 #include "OndelCore/benchmark/BenchmarkResult.h"
 #include "OndelCore/benchmark/evidence/Remark.h"
-#include "OndelCore/volumes/VolumeCapabilities.h"
-#include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickHost/Place.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QJsonObject>
 #include <QString>
 
-#include <filesystem>
 #include <optional>
 #include <vector>
 
 namespace TarnwickHost {
-
-/// Where a run was measured, and what was told of it before. What is not told is absent.
-struct RunPlace {
-    std::filesystem::path folder;
-    std::optional<OndelCore::volumes::VolumeInfo> volume;
-    std::optional<OndelCore::volumes::VolumeCapabilities> capabilities;
-};
 
 /// A finished run with what is known about it.
 struct MeasuredRun {

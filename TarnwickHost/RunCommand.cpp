@@ -1,9 +1,9 @@
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/benchmark/BenchmarkError.h"
-#include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickHost/Card.h"
 #include "TarnwickHost/Command.h"
 #include "TarnwickHost/Output.h"
+#include "TarnwickHost/Place.h"
 #include "TarnwickHost/Progress.h"
 #include "TarnwickHost/Results.h"
 #include "TarnwickHost/RunEventLoop.h"
@@ -28,7 +28,6 @@
 #include <vector>
 
 using namespace OndelCore::benchmark;
-using namespace OndelCore::volumes;
 using TarnwickKit::model::AnalyzerModel;
 using TarnwickKit::model::HistoryStore;
 using TarnwickKit::model::RunRecord;
@@ -37,23 +36,6 @@ using TarnwickKit::model::TarnwickReport;
 namespace TarnwickHost {
 
 namespace {
-
-/// What is told of a place. Blocks on asking for the volume that holds it. Fails: never, what is not told is
-/// absent.
-RunPlace placeOf(const std::filesystem::path& folder) {
-    const OndelCore::platform::SystemSources sources;
-    return {.folder = std::filesystem::absolute(folder),
-            .volume = loadVolumeInfo(Location::local(folder), sources),
-            .capabilities = probeCapabilities(Location::local(folder), sources)};
-}
-
-/// Removes what killed runs left in the folder. Waits for files in use a second only: another run can take
-/// hours.
-void sweep(const std::filesystem::path& folder) {
-    constexpr std::chrono::seconds patience{1};
-    if (BenchmarkEngine::cleanupOrphans(folder, patience) > 0)
-        complain("Files of another run in this folder are in use and were not removed.");
-}
 
 /// Prints a line for each failed flush to the medium, which the figures do not show.
 void complainOfFlushes(const RunOptions& options, const BenchmarkResult& result) {

@@ -1,6 +1,7 @@
 #include "TarnwickHost/RunOptions.h"
 
 #include "TarnwickHost/CommandLine.h"
+#include "TarnwickHost/Place.h"
 
 #include <algorithm>
 #include <array>
@@ -119,23 +120,6 @@ std::optional<CardColors> parsedCard(const CommandLine& line) {
     return colors == "dark" ? CardColors::dark : CardColors::light;
 }
 
-std::filesystem::path parsedFolder(const CommandLine& line) {
-    if (line.operands().empty())
-        throw UsageError("a FOLDER to measure is missing");
-    if (line.operands().size() > 1)
-        throw UsageError("one FOLDER at a time, not also " + quoted(line.operands().at(1)));
-    const std::string_view folder = line.operands().front();
-    if (folder.empty())
-        throw UsageError("the FOLDER's name is empty");
-
-    const auto [error, isFolder] = look(folder);
-    if (error == 0 && !isFolder)
-        throw UsageError(quoted(folder) + " is not a folder");
-    if (error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP)
-        throw UsageError(quoted(folder) + ": " + std::generic_category().message(error));
-    return folder;
-}
-
 } // namespace
 
 std::span<const Option> runOptionTable() { return options; }
@@ -143,7 +127,7 @@ std::span<const Option> runOptionTable() { return options; }
 RunOptions runOptions(const CommandLine& line) {
     RunOptions run;
     run.plan = parsedPlan(line);
-    run.folder = parsedFolder(line);
+    run.folder = folderTo("measure", line);
     run.json = line.has("--json");
     run.handOff = line.has("--handoff");
     run.output = outputFile(line);

@@ -19,8 +19,8 @@ namespace {
 constexpr std::string_view program = "tarnwick-host";
 
 /// In the order in which --help lists them.
-constexpr std::array commands{&runCommand,   &showCommand,    &historyCommand,    &cardCommand,
-                              &factsCommand, &volumesCommand, &smartReportCommand};
+constexpr std::array commands{&runCommand,  &checkCommand, &showCommand,    &historyCommand,
+                              &cardCommand, &factsCommand, &volumesCommand, &smartReportCommand};
 
 /// Two columns: the words on the left, what they mean on the right.
 class HelpLines {

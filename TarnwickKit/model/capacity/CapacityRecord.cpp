@@ -30,6 +30,20 @@ CapacityRecord CapacityRecord::from(const CapacityResult& result, const Capacity
     return check;
 }
 
+CapacityRecord
+CapacityRecord::fromStopped(const CapacityProgress& last, const CapacityPlan& plan,
+                            const std::optional<OndelCore::volumes::VolumeInfo>& volume,
+                            const std::optional<OndelCore::volumes::VolumeCapabilities>& capabilities,
+                            const QDateTime& date, const RunRecord::IdentityOf& driveIdentity) {
+    CapacityRecord check = from(resultWhenStopped(last), plan, volume, capabilities, date, driveIdentity);
+    check.wasStopped = true;
+    if (plan.isQuick)
+        check.result.quick.emplace();
+    if (volume)
+        check.result.volumeTotal = volume->total;
+    return check;
+}
+
 bool CapacityRecord::isFromMemory() const {
     constexpr double diskShare = 0.9; // as for the figures of a run
     return result.read.shareAtDisk.value_or(1) < diskShare;

@@ -55,6 +55,14 @@ struct ONDEL_PUBLIC CapacityRecord {
                                const QDateTime& date,
                                const RunRecord::IdentityOf& driveIdentity = RunRecord::identityOf);
 
+    /// The record of a check that was stopped after its last event. Else as `from`.
+    static CapacityRecord
+    fromStopped(const OndelCore::capacity::CapacityProgress& last,
+                const OndelCore::capacity::CapacityPlan& plan,
+                const std::optional<OndelCore::volumes::VolumeInfo>& volume,
+                const std::optional<OndelCore::volumes::VolumeCapabilities>& capabilities,
+                const QDateTime& date, const RunRecord::IdentityOf& driveIdentity = RunRecord::identityOf);
+
     bool isBad() const { return result.hasDefects() || result.realSize; }
     /// Whether a check that was not a quick one wrote and got back all that was planned. A check of all free
     /// space may end a little early: how much a file system needs for itself is known only when it is full.

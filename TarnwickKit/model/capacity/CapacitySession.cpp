@@ -174,11 +174,16 @@ void CapacitySession::engineEnded() {
         return;
     poll();
     const std::shared_ptr<Check> check = m_check;
+    if (!check->volume.info) // it may have answered meanwhile
+        check->volume = m_target.facts();
+    const VolumeFacts& volume = check->volume;
     try {
-        record(check->engine.result(), false);
+        record(CapacityRecord::from(check->engine.result(), check->plan, volume.info, volume.capabilities,
+                                    check->began, m_services.driveIdentity));
     } catch (const Cancelled&) {
         if (const auto& last = m_course.last())
-            record(resultWhenStopped(*last), true);
+            record(CapacityRecord::fromStopped(*last, check->plan, volume.info, volume.capabilities,
+                                               check->began, m_services.driveIdentity));
         return end(Outcome::stopped);
     } catch (const std::exception& error) {
         Log::app.error("capacity check failed", LogField::failure(error));
@@ -187,18 +192,9 @@ void CapacitySession::engineEnded() {
     end(Outcome::finished);
 }
 
-void CapacitySession::record(const CapacityResult& result, bool wasStopped) {
-    if (!m_check->volume.info) // it may have answered meanwhile
-        m_check->volume = m_target.facts();
-    CapacityRecord check =
-        CapacityRecord::from(result, m_check->plan, m_check->volume.info, m_check->volume.capabilities,
-                             m_check->began, m_services.driveIdentity);
-    check.wasStopped = wasStopped;
-    if (wasStopped && m_check->plan.isQuick)
-        check.result.quick.emplace();
-    if (!check.result.volumeTotal && m_check->volume.info)
-        check.result.volumeTotal = m_check->volume.info->total;
-    Log::app.notice("capacity check ended", LogField::bool_("stopped", wasStopped),
+void CapacitySession::record(const CapacityRecord& check) {
+    const CapacityResult& result = check.result;
+    Log::app.notice("capacity check ended", LogField::bool_("stopped", check.wasStopped),
                     LogField::int_("verified", result.verified), LogField::int_("wrong", result.wrong),
                     LogField::int_("unreadable", result.unreadable),
                     LogField::bool_("falseCapacity", result.realSize.has_value()));

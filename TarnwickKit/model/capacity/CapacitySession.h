@@ -62,7 +62,7 @@ private:
     void launch();
     void poll();
     void engineEnded();
-    void record(const OndelCore::capacity::CapacityResult& result, bool wasStopped);
+    void record(const CapacityRecord& check);
     void end(Outcome outcome, const RunFailure& failure = {});
 
     const AnalyzerServices& m_services;

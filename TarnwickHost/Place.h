@@ -1,0 +1,32 @@
+#pragma once
+
+#include "OndelCore/volumes/VolumeCapabilities.h"
+#include "OndelCore/volumes/VolumeInfo.h"
+#include "TarnwickHost/CommandLine.h"
+
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+namespace TarnwickHost {
+
+/// Where a run or a check wrote, and what was told of the place before. What is not told is absent.
+struct RunPlace {
+    std::filesystem::path folder;
+    std::optional<OndelCore::volumes::VolumeInfo> volume;
+    std::optional<OndelCore::volumes::VolumeCapabilities> capabilities;
+};
+
+/// The one operand of a command that writes into a folder, which must exist: the bytes as given. Whether it
+/// can be written to is left to the engine. `purpose`: "measure". Fails: throws UsageError.
+std::filesystem::path folderTo(std::string_view purpose, const CommandLine& line);
+
+/// What is told of a place. Blocks on asking for the volume that holds it. Fails: never, what is not told is
+/// absent.
+RunPlace placeOf(const std::filesystem::path& folder);
+
+/// Removes what killed runs and checks left in the folder. Waits for files in use a second only: another run
+/// can take hours.
+void sweep(const std::filesystem::path& folder);
+
+} // namespace TarnwickHost
