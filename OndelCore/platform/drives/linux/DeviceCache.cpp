@@ -18,7 +18,7 @@ void dropDeviceCache(int folder) {
     if (!device)
         return;
     const FileDescriptor opened(open(device->node().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat facts {};
+    struct stat facts{};
     if (!opened || fstat(opened.get(), &facts) != 0 || facts.st_rdev != device->number)
         return;
     fsync(opened.get());
