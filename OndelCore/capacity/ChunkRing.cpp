@@ -20,44 +20,60 @@ ChunkRing::ChunkRing() {
 ChunkRing::~ChunkRing() { munmap(m_memory.data(), m_memory.size()); }
 
 Chunk* ChunkRing::toFill() {
-    std::unique_lock guard(m_lock);
-    m_changed.wait(guard, [this] { return m_isClosed || m_filled - m_emptied < slots; });
-    return m_isClosed ? nullptr : &m_chunks[m_filled % slots];
+    const std::uint64_t filled = m_filled.load() / one;
+    for (;;) {
+        const std::uint64_t emptied = m_emptied.load();
+        if ((emptied & isClosed) != 0)
+            return nullptr;
+        if (filled - emptied / one < slots)
+            return at(filled * one);
+        m_emptied.wait(emptied);
+    }
 }
 
 void ChunkRing::filled() {
-    const std::lock_guard guard(m_lock);
-    ++m_filled;
-    m_changed.notify_all();
+    m_filled += one;
+    m_filled.notify_one();
 }
 
 Chunk* ChunkRing::toEmpty() {
-    std::unique_lock guard(m_lock);
-    m_changed.wait(guard, [this] { return m_isClosed || m_isFinished || m_filled != m_emptied; });
-    return m_isClosed || m_filled == m_emptied ? nullptr : &m_chunks[m_emptied % slots];
+    const std::uint64_t emptied = m_emptied.load() / one;
+    for (;;) {
+        const std::uint64_t filled = m_filled.load();
+        if ((filled & isClosed) != 0)
+            return nullptr;
+        if (filled / one != emptied)
+            return at(emptied * one);
+        if ((filled & isFinished) != 0)
+            return nullptr;
+        m_filled.wait(filled);
+    }
 }
 
 void ChunkRing::emptied() {
-    const std::lock_guard guard(m_lock);
-    ++m_emptied;
-    m_changed.notify_all();
+    m_emptied += one;
+    m_emptied.notify_one();
 }
 
 void ChunkRing::finish() {
-    const std::lock_guard guard(m_lock);
-    m_isFinished = true;
-    m_changed.notify_all();
+    m_filled |= isFinished;
+    m_filled.notify_one();
 }
 
 void ChunkRing::close() {
-    const std::lock_guard guard(m_lock);
-    m_isClosed = true;
-    m_changed.notify_all();
+    for (std::atomic<std::uint64_t>* counter : {&m_filled, &m_emptied}) {
+        *counter |= isClosed;
+        counter->notify_all();
+    }
 }
 
 void ChunkRing::awaitEmpty() {
-    std::unique_lock guard(m_lock);
-    m_changed.wait(guard, [this] { return m_isClosed || m_filled == m_emptied; });
+    for (;;) {
+        const std::uint64_t emptied = m_emptied.load();
+        if ((emptied & isClosed) != 0 || emptied / one == m_filled.load() / one)
+            return;
+        m_emptied.wait(emptied);
+    }
 }
 
 } // namespace OndelCore::capacity

@@ -2,11 +2,9 @@
 
 #include "OndelCore/capacity/BlockPattern.h"
 
-#include <condition_variable>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <mutex>
-#include <optional>
 #include <span>
 #include <system_error>
 #include <vector>
@@ -54,16 +52,19 @@ public:
     void awaitEmpty();
 
 private:
-    static constexpr std::size_t slots = 4;
+    static constexpr std::uint64_t slots = 4;
+    // The counters count by this, and have flags below it. Waiting for a counter is several times cheaper
+    // than a lock and a condition: each chunk is a fifth of a millisecond.
+    static constexpr std::uint64_t one = 4;
+    static constexpr std::uint64_t isFinished = 1;
+    static constexpr std::uint64_t isClosed = 2;
+
+    Chunk* at(std::uint64_t counter) { return &m_chunks[counter / one % slots]; }
 
     std::span<std::byte> m_memory;
     std::vector<Chunk> m_chunks;
-    std::mutex m_lock;
-    std::condition_variable m_changed;
-    std::size_t m_filled = 0; ///< how many ever were
-    std::size_t m_emptied = 0;
-    bool m_isFinished = false;
-    bool m_isClosed = false;
+    std::atomic<std::uint64_t> m_filled = 0;  ///< how many ever were
+    std::atomic<std::uint64_t> m_emptied = 0; ///< the same
 };
 
 } // namespace OndelCore::capacity
