@@ -209,7 +209,8 @@ TEST(CapacityText, SpellsSizesAndSpans) {
     for (const auto& [bytes, text] : sizes)
         EXPECT_EQ(decimalSize(bytes), text);
     const std::vector<std::pair<double, const char*>> spans{
-        {0.4, "0 s"}, {99.4, "99 s"}, {100, "2 min"}, {5940, "99 min"}, {7200, "2 h"}, {9030, "2 h 31 min"}};
+        {0.44, "0.4 s"}, {3, "3 s"},       {9.97, "10 s"}, {99.4, "99 s"},
+        {100, "2 min"},  {5940, "99 min"}, {7200, "2 h"},  {9030, "2 h 31 min"}};
     for (const auto& [seconds, text] : spans)
         EXPECT_EQ(spanText(seconds), text);
 }
