@@ -6,8 +6,7 @@ namespace OndelCore::capacity {
 
 CapacityResult CapacityCheck::run(const CapacityPlan& plan, std::stop_token stop,
                                   const CapacityListener& progress) const {
-    return runCheck(
-        CheckEnvironment{}, plan, stop, progress ? progress : [](const CapacityProgress&) {});
+    return runCheck(CheckEnvironment{}, plan, stop, progress ? progress : [](const CapacityProgress&) {});
 }
 
 } // namespace OndelCore::capacity

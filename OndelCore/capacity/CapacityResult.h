@@ -50,9 +50,7 @@ struct CapacityDefect {
 struct CapacityRealSize {
     enum class Reason {
         wrapsAround, ///< what lies beyond is written over what lies before
-        /// What lies beyond is lost. File systems with checksums refuse to read what came back wrong, and so
-        /// hide which of the two it is.
-        dropsBeyond,
+        dropsBeyond, ///< what lies beyond is lost
     };
     Reason reason = Reason::dropsBeyond;
     /// Units: bytes. wrapsAround: of the device, exact where the file system told the places of its blocks.

@@ -99,8 +99,9 @@ private:
 
 void Check::writeAll() {
     std::vector<Stretch> stretches{{0, m_run.bytes}};
+    Samples samples;
     if (m_run.plan.isQuick) {
-        Samples samples = prepareSamples(m_run);
+        samples = prepareSamples(m_run);
         stretches = std::move(samples.stretches);
         m_result.quick = samples.sampling;
         m_result.earlyEnd = samples.end;

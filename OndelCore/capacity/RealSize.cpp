@@ -168,21 +168,28 @@ std::optional<CapacityRealSize> sizeByPlace(const RealSizeClues& clues, const Pl
 }
 
 /// Where places are not told and the file system began somewhere in the middle: a large part is lost in few
-/// pieces, and so much is kept.
+/// pieces, and so much is kept. Where a file system with checksums cannot read what was written first, and
+/// can what was written last, that lies in the place of the other.
 std::optional<CapacityRealSize> sizeByAmount(const RealSizeClues& clues) {
+    using Reason = CapacityRealSize::Reason;
     constexpr std::size_t fewRuns = 32;
     const auto& runs = clues.findings.reading.runs();
     std::int64_t lost = 0;
-    std::int64_t longest = 0;
+    CapacityDefect longest;
     for (const CapacityDefect& run : runs | std::views::filter(isLost)) {
         lost += run.length;
-        longest = std::max(longest, run.length);
+        longest = run.length > longest.length ? run : longest;
     }
     const std::int64_t written = clues.findings.bytesWritten();
-    if (clues.isQuick || runs.size() > fewRuns || lost * 3 < written || longest * 2 < lost || lost == written)
+    if (clues.isQuick || runs.size() > fewRuns || lost * 3 < written || longest.length * 2 < lost ||
+        lost == written)
         return std::nullopt;
-    return CapacityRealSize{.reason = CapacityRealSize::Reason::dropsBeyond,
-                            .bytes = clues.usedBefore + written - lost};
+    const std::int64_t kept = written - lost;
+    const std::int64_t end = clues.findings.written.back().end();
+    if (longest.kind == DefectKind::unreadable && longest.offset == 0 &&
+        runs.back().offset + runs.back().length < end)
+        return CapacityRealSize{.reason = Reason::wrapsAround, .bytes = kept};
+    return CapacityRealSize{.reason = Reason::dropsBeyond, .bytes = clues.usedBefore + kept};
 }
 
 } // namespace

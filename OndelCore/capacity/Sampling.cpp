@@ -48,31 +48,49 @@ struct Reservation {
     std::optional<EarlyEnd> end{};
 };
 
-/// Makes the files of the range, with space reserved.
-Reservation reserveRange(const CheckRun& run) {
-    Reservation reserved;
-    while (reserved.bytes < run.bytes && !reserved.end) {
-        run.throwIfStopped();
-        tellReserved(run, reserved.bytes);
-        const std::int64_t length = std::min(run.system.fileBytes, run.bytes - reserved.bytes);
-        const auto file = run.files.append(length);
-        if (file && run.system.reserveSpace(file->descriptor(), length)) {
-            reserved.bytes += length;
-            continue;
+/// Makes files with space reserved, one behind the other.
+class Reserver {
+public:
+    explicit Reserver(const CheckRun& run)
+        : m_run(run) {}
+
+    /// Appends files for `length` bytes. False: that is the end of the range.
+    bool reserve(std::int64_t length) {
+        for (const std::int64_t end = m_bytes + length; m_bytes < end;) {
+            m_run.throwIfStopped();
+            tellReserved(m_run, m_bytes);
+            const std::int64_t part = std::min(m_run.system.fileBytes, end - m_bytes);
+            auto file = m_run.files.append(part);
+            if (!file || !m_run.system.reserveSpace(file->descriptor(), part)) {
+                const int error = errno;
+                if (file)
+                    m_run.files.removeLast();
+                m_end = endOfReservation(m_run, m_bytes, error);
+                return false;
+            }
+            m_bytes += part;
+            m_held.push_back(std::move(*file));
         }
-        const int error = errno;
-        if (file)
-            run.files.removeLast();
-        reserved.end = endOfReservation(run, reserved.bytes, error);
-        if (!reserved.end)
-            break;
+        return true;
     }
-    tellReserved(run, reserved.bytes);
-    // Of a little less than the file system announced, its own tables are the reason.
-    if (reserved.end == EarlyEnd::full && reserved.bytes >= run.bytes - run.bytes / 50 - run.system.fileBytes)
-        reserved.end.reset();
-    return reserved;
-}
+
+    std::int64_t bytes() const { return m_bytes; }
+    void forgetFiles() { m_held.clear(); }
+
+    void finish(Samples& samples) {
+        tellReserved(m_run, m_bytes);
+        samples.held = std::move(m_held);
+        // Of a little less than the file system announced, its own tables are the reason.
+        const bool isNearlyAll = m_bytes >= m_run.bytes - m_run.bytes / 50 - m_run.system.fileBytes;
+        samples.end = m_end == EarlyEnd::full && isNearlyAll ? std::nullopt : m_end;
+    }
+
+private:
+    const CheckRun& m_run;
+    std::int64_t m_bytes = 0;
+    std::optional<EarlyEnd> m_end;
+    std::vector<PieceFile> m_held;
+};
 
 /// By rising offset, without overlaps.
 std::vector<Stretch> joined(std::vector<Stretch> stretches, std::int64_t bytes) {
@@ -94,8 +112,7 @@ std::vector<Stretch> joined(std::vector<Stretch> stretches, std::int64_t bytes) 
 
 } // namespace
 
-Samples spreadSamples(std::int64_t bytes) {
-    constexpr std::int64_t places = 1024;
+Samples spreadSamples(std::int64_t bytes, std::int64_t places) {
     constexpr std::int64_t leastSpacing = 4 * mebibyte;
     constexpr std::int64_t mostDense = 512 * mebibyte; // a minute on a slow stick
     Samples samples;
@@ -120,15 +137,49 @@ Samples spreadSamples(std::int64_t bytes) {
     return samples;
 }
 
+namespace {
+
+/// Samples inside of large files.
+Samples samplesInside(const CheckRun& run) {
+    Reserver reserver(run);
+    while (reserver.bytes() < run.bytes &&
+           reserver.reserve(std::min(run.system.fileBytes, run.bytes - reserver.bytes())))
+        reserver.forgetFiles();
+    reserver.forgetFiles();
+    Samples samples = spreadSamples(reserver.bytes());
+    reserver.finish(samples);
+    return samples;
+}
+
+/// Samples between files without content. There are no more than descriptors to hold them by.
+Samples samplesBetween(const CheckRun& run) {
+    constexpr std::int64_t places = 256;
+    Samples samples = spreadSamples(run.bytes, places);
+    Reserver reserver(run);
+    std::size_t reserved = 0;
+    for (const Stretch& stretch : samples.stretches) {
+        const bool isReserved =
+            reserver.reserve(stretch.offset - reserver.bytes()) && reserver.reserve(stretch.length);
+        if (!isReserved)
+            break;
+        ++reserved;
+    }
+    samples.stretches.resize(reserved);
+    samples.sampling.samples = static_cast<std::int64_t>(reserved);
+    samples.sampling.reserved = reserver.bytes();
+    reserver.finish(samples);
+    return samples;
+}
+
+} // namespace
+
 Samples prepareSamples(const CheckRun& run) {
     constexpr std::int64_t unspread = 64 * mebibyte;
-    const Reservation reserved = run.system.lacksSparseFiles(run.folder) ? Reservation() : reserveRange(run);
-    Samples samples;
-    if (reserved.bytes > 0)
-        samples = spreadSamples(reserved.bytes);
-    else
-        samples = {{{0, std::min(run.bytes, unspread)}}, {.isSpread = false, .samples = 1}};
-    samples.end = reserved.end;
+    Samples samples = run.system.lacksSparseFiles(run.folder) ? samplesBetween(run) : samplesInside(run);
+    if (samples.sampling.reserved == 0) {
+        samples.stretches = {{0, std::min(run.bytes, unspread)}};
+        samples.sampling = {.isSpread = false, .samples = 1};
+    }
     return samples;
 }
 

@@ -31,9 +31,9 @@ constexpr std::int64_t diskBlock = 4096;
 constexpr std::size_t largestTransfer = 1048576;
 constexpr std::uint64_t diskNode = 2;
 
-/// Random bytes hold 16 zeros in a block; tables of file systems hold many more.
+/// Random bytes hold 16 zeros in a block; tables of file systems hold thousands.
 bool looksRandom(std::span<const char> block) {
-    constexpr std::ptrdiff_t few = 64;
+    constexpr std::ptrdiff_t few = 512; // other programs' data is less random than ours
     return block.size() == diskBlock && std::ranges::count(block, '\0') < few;
 }
 

@@ -349,13 +349,16 @@ TEST(StandstillClock, takesOffTheTimeInWhichTheProcessStoodStill) {
     StandstillClock clock(now);
     // Nothing counts as a standstill until the thread runs that would notice it.
     std::int64_t before = clock.now();
-    for (bool isBeating = false; !isBeating; std::this_thread::yield()) {
+    bool isBeating = false;
+    for (int i = 0; i < 3000 && !isBeating; ++i) {
         time += 60 * second;
         const std::int64_t after = clock.now();
         isBeating = after - before < second;
         EXPECT_GE(after, before);
         before = after;
+        std::this_thread::sleep_for(std::chrono::milliseconds(isBeating ? 0 : 10));
     }
+    ASSERT_TRUE(isBeating);
     for (int i = 0; i < 100; ++i) {
         time += second / 2;
         EXPECT_EQ(clock.now() - before, second / 2);

@@ -19,7 +19,7 @@ constexpr std::uint32_t extentsPerCall = 128;
 
 /// 0: unknown.
 unsigned long typeOf(int descriptor) {
-    struct statfs facts {};
+    struct statfs facts{};
     return fstatfs(descriptor, &facts) == 0 ? static_cast<unsigned long>(facts.f_type) : 0;
 }
 
