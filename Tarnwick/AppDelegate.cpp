@@ -7,6 +7,7 @@
 #include "OndelDesktop/WindowAttention.h"
 #include "Tarnwick/OpenUrls.h"
 #include "Tarnwick/Product.h"
+#include "TarnwickKit/model/capacity/CapacityChecks.h"
 #include "TarnwickKit/model/session/AnswerLater.h"
 
 #include <QDesktopServices>
@@ -51,10 +52,12 @@ AppDelegate::AppDelegate()
         notifier->setEnabled(false);
         terminate();
     });
-    // Other processes of this user may have saved runs.
+    // Other processes of this user may have saved runs and checks.
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
-        if (window)
-            m_model.history().refresh();
+        if (!window)
+            return;
+        m_model.history().refresh();
+        m_model.capacityChecks().refresh();
     });
     m_attention.setInterval(focusPatience);
     m_attention.setSingleShot(true);

@@ -263,6 +263,26 @@ def during_runs(start, folder):
         gate.close()
 
 
+def checks_of_capacity(start, folder):
+    saved_runs.lay_down([])
+    saved_runs.lay_down_checks([saved_runs.capacity_check(kind) for kind in ("changed", "good", "sampled")])
+    with start(folder) as reader:
+        gate, window = Gate(reader), reader.window
+        window.resize(1180, 1300)
+        window.press("Run", "menu item")
+        window.press("Check Capacity…", "menu item")
+        window.find("Start Check")
+        gate.pass_through("the choices of a capacity check")
+        for sentence in ("4 blocks did not come back as they were written, the first at 41.2 GiB.",
+                         "All 118.0 GiB of free space hold what was written."):
+            row = [node for node, _ in window.nodes() if node.get_description() == sentence][0]
+            row.do_action(window.actions(row).index("Press"))
+            window.find("Save Report…")
+            gate.pass_through("what a capacity check found")
+            window.press("New Check")
+        gate.close()
+
+
 def follows_the_text_scale(start, folder):
     saved_runs.lay_down([saved_runs.run(index) for index in range(3)])
     with start(folder) as reader:
@@ -306,5 +326,5 @@ if __name__ == "__main__":
             with driver.Window(programs / program, *arguments, env=plugin) as window:
                 yield Reader(window, census, desktop)
                 window.terminate()
-        for case in driver.chosen((before_a_run, after_runs, during_runs, follows_the_text_scale), only):
+        for case in driver.chosen((before_a_run, after_runs, during_runs, checks_of_capacity, follows_the_text_scale), only):
             case(start, pathlib.Path(name))

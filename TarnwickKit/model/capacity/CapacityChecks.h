@@ -19,7 +19,7 @@ namespace TarnwickKit::model {
 ///
 /// Threads: the one that makes it. Fails: silently. Checks that cannot be written stay in memory until a save
 /// succeeds.
-class ONDEL_PUBLIC CapacityChecks : public QObject {
+class ONDEL_KIT CapacityChecks : public QObject {
     Q_OBJECT
 
 public:

@@ -15,7 +15,7 @@ namespace TarnwickKit::model {
 
 /// What a check's progress events tell of the running phase and of the whole check.
 /// Threads: one at a time. Units: bytes, seconds, bytes per second.
-class ONDEL_PUBLIC CapacityCourse {
+class ONDEL_KIT CapacityCourse {
 public:
     using Phase = OndelCore::capacity::CapacityPhase;
 

@@ -29,7 +29,7 @@ enum class CapacityVerdict {
 
 /// The lasting form of a capacity check that no error broke off: what was asked for, what was found, and
 /// facts of the volume at the time. Units: sizes in bytes, times in seconds.
-struct ONDEL_PUBLIC CapacityRecord {
+struct ONDEL_KIT CapacityRecord {
     QUuid id;
     QString volumeName;
     QString connection;               ///< as RunRecord's
@@ -82,7 +82,7 @@ ONDEL_KIT OndelCore::capacity::CapacityResult
 resultWhenStopped(const OndelCore::capacity::CapacityProgress& last);
 
 /// The cells in at most `most` equal groups, each with the worst state of those in it.
-ONDEL_PUBLIC std::vector<OndelCore::capacity::BlockState>
+ONDEL_KIT std::vector<OndelCore::capacity::BlockState>
 worstOf(const std::vector<OndelCore::capacity::BlockState>& cells, std::size_t most);
 
 } // namespace TarnwickKit::model

@@ -21,7 +21,7 @@ namespace TarnwickKit::model {
 /// Threads: the one that makes it, which runs an event loop.
 /// Owner: a check. The destructor ends a check and waits until its files are removed. The caller keeps
 /// `services` and `target` alive.
-class ONDEL_PUBLIC CapacitySession : public QObject {
+class ONDEL_KIT CapacitySession : public QObject {
     Q_OBJECT
 
 public:

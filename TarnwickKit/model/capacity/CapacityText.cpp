@@ -320,7 +320,10 @@ void addDataNotes(QStringList& notes, const CapacityRecord& check) {
 } // namespace
 
 QString spanText(double seconds) {
+    constexpr double fewSeconds = 9.95; // more would read 10.0
     const auto whole = static_cast<std::int64_t>(std::lround(std::clamp(seconds, 0.0, 1e12)));
+    if (seconds < fewSeconds && seconds != std::round(seconds))
+        return u"%1 s"_s.arg(Format::decimals(std::max(0.0, seconds), 1));
     if (whole < 100)
         return u"%1 s"_s.arg(whole);
     const std::int64_t minutes = (whole + 30) / 60;

@@ -15,11 +15,11 @@
 namespace TarnwickKit::model {
 
 /// What a check found, in one sentence.
-ONDEL_PUBLIC QString capacitySentence(const CapacityRecord& check);
+ONDEL_KIT QString capacitySentence(const CapacityRecord& check);
 
 /// Sentences on what the first one does not tell: that a check was quick, was stopped or became shorter than
 /// planned, where its data came from, and what no check can tell. Never empty: the last is always there.
-ONDEL_PUBLIC QStringList capacityNotes(const CapacityRecord& check);
+ONDEL_KIT QStringList capacityNotes(const CapacityRecord& check);
 
 /// A labelled fact of a check.
 struct CapacityFact {
@@ -31,27 +31,27 @@ struct CapacityFact {
 };
 
 /// The facts behind the sentence. What is not known is left out.
-ONDEL_PUBLIC std::vector<CapacityFact> capacityFacts(const CapacityRecord& check);
+ONDEL_KIT std::vector<CapacityFact> capacityFacts(const CapacityRecord& check);
 
 /// One sentence per place that did not come back as written, and one more on those that are not listed.
 /// `most`: so many places at most.
-ONDEL_PUBLIC QStringList capacityDefects(const CapacityRecord& check, std::size_t most);
+ONDEL_KIT QStringList capacityDefects(const CapacityRecord& check, std::size_t most);
 
 /// The check in full, as text in lines of at most `style.columns`: for a file, the clipboard and the
 /// terminal. Nothing in it steers a terminal.
-ONDEL_PUBLIC QString capacityReport(const CapacityRecord& check, LineStyle style = {});
+ONDEL_KIT QString capacityReport(const CapacityRecord& check, LineStyle style = {});
 /// The name of a file with that text.
-ONDEL_PUBLIC QString capacityReportName(const CapacityRecord& check);
+ONDEL_KIT QString capacityReportName(const CapacityRecord& check);
 
 /// What a check is doing: "Writing", "Reading back".
-ONDEL_PUBLIC QString capacityPhaseName(OndelCore::capacity::CapacityPhase phase);
+ONDEL_KIT QString capacityPhaseName(OndelCore::capacity::CapacityPhase phase);
 /// What a state of a cell is called in a legend: "Not written yet", "Changed".
-ONDEL_PUBLIC QString blockStateName(OndelCore::capacity::BlockState state);
+ONDEL_KIT QString blockStateName(OndelCore::capacity::BlockState state);
 
 /// "63 s", "14 min", "2 h 5 min".
-ONDEL_PUBLIC QString spanText(double seconds);
+ONDEL_KIT QString spanText(double seconds);
 
 /// A size as makers print it on drives, in decimal units: "128 GB", "31.4 GB".
-ONDEL_PUBLIC QString decimalSize(std::int64_t bytes);
+ONDEL_KIT QString decimalSize(std::int64_t bytes);
 
 } // namespace TarnwickKit::model

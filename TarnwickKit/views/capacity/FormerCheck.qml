@@ -12,7 +12,7 @@ PlainButton {
     required property checkItem modelData
     required property int index
 
-    label: modelData.title + ", " + modelData.stamp
+    label: qsTr("%1 · %2").arg(modelData.title).arg(modelData.stamp)
     detail: modelData.sentence
     leftPadding: ViewMetrics.cardPadding
     rightPadding: ViewMetrics.cardPadding

@@ -68,9 +68,9 @@ class LiveCheck : public QObject {
         TarnwickKit::model::AnalyzerModel* analyzer READ analyzer WRITE setAnalyzer NOTIFY analyzerChanged)
 
     // --- Choices
-    Q_PROPERTY(QStringList sizes READ sizes CONSTANT)
+    Q_PROPERTY(QList<QString> sizes READ sizes CONSTANT)
     Q_PROPERTY(int sizeIndex MEMBER m_sizeIndex NOTIFY planChanged)
-    Q_PROPERTY(QStringList pauses READ pauses CONSTANT)
+    Q_PROPERTY(QList<QString> pauses READ pauses CONSTANT)
     Q_PROPERTY(int pauseIndex MEMBER m_pauseIndex NOTIFY planChanged)
     Q_PROPERTY(bool quick MEMBER m_quick NOTIFY planChanged)
     /// What will happen.

@@ -2,10 +2,14 @@
 
 #include "SampleCheck.h"
 #include "TarnwickKit/model/capacity/CapacityCodec.h"
+#include "TarnwickKit/model/capacity/CapacityFields.h"
+
+#include <QFile>
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <string_view>
 
 namespace TarnwickKit::model {
 
@@ -63,6 +67,8 @@ const std::vector<Outcome>& outcomes() {
         {with(goodCheck(), [](auto& check) { check.result.quick.emplace(); }), unproven,
          "The samples hold what was written, but they lie close together."},
         {stoppedCheck(0), unproven, "The check was stopped before anything was read back."},
+        {stoppedCheck(118 * gibi), unproven, // before the second reading
+         "The check was stopped when 118.0 GiB of 118.0 GiB had come back as written."},
         {stoppedCheck(31 * gibi), unproven,
          "The check was stopped when 31.0 GiB of 118.0 GiB had come back as written."},
         {with(stoppedCheck(31 * gibi),
@@ -203,7 +209,8 @@ TEST(CapacityText, SpellsSizesAndSpans) {
     for (const auto& [bytes, text] : sizes)
         EXPECT_EQ(decimalSize(bytes), text);
     const std::vector<std::pair<double, const char*>> spans{
-        {0.4, "0 s"}, {99.4, "99 s"}, {100, "2 min"}, {5940, "99 min"}, {7200, "2 h"}, {9030, "2 h 31 min"}};
+        {0.44, "0.4 s"}, {3, "3 s"},       {9.97, "10 s"}, {99.4, "99 s"},
+        {100, "2 min"},  {5940, "99 min"}, {7200, "2 h"},  {9030, "2 h 31 min"}};
     for (const auto& [seconds, text] : spans)
         EXPECT_EQ(spanText(seconds), text);
 }
@@ -250,6 +257,21 @@ TEST(CapacityCodec, ReadsWhatItWrites) {
     }
     EXPECT_TRUE(checkJson(full)->startsWith(
         R"({"formatVersion":1,"verdict":"bad","sentence":"This volume claims 128 GB, but keeps only about)"));
+}
+
+TEST(CapacityCodec, WritesNoKeyThatIsNotDescribed) {
+    QFile page(ONDEL_DOCS "/run-file.md");
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QByteArray text = page.readAll();
+    const QByteArray section = text.mid(text.indexOf("## A capacity check"));
+    const auto look = [&](std::string_view key, const auto&) {
+        EXPECT_TRUE(section.contains('`' + QByteArray(key.data(), std::ssize(key)) + '`')) << key;
+    };
+    const auto lookAt = [&look](auto... parts) { (visitFields(parts, look), ...); };
+    lookAt(CapacityRecord(), CapacityDefect(), capacity::CapacityRealSize(), capacity::CapacityPass(),
+           capacity::CapacitySampling(), capacity::CapacityCells());
+    for (const DefectKind kind : capacity::allDefectKinds)
+        look(rawValue(kind), kind);
 }
 
 TEST(CapacityCodec, RefusesWhatCannotBe) {

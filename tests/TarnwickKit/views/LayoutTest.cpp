@@ -4,6 +4,7 @@
 #include "OndelControls/OnDemand.h"
 #include "OndelControls/SymbolTable.h"
 #include "OndelControls/ViewMath.h"
+#include "TarnwickKit/views/capacity/CapacityMap.h"
 #include "TarnwickKit/views/sharing/CardView.h"
 #include "TarnwickKit/views/style/FlowLayout.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
@@ -81,6 +82,19 @@ TEST(WindowPlace, IsRestoredWhereAScreenStillIs) {
         const FittingPlace place = fittingPlace(kept, c.kept, c.screens);
         EXPECT_EQ(place.position, c.isRestored ? c.kept : std::nullopt) << c.what;
         EXPECT_EQ(place.size, c.size) << c.what;
+    }
+}
+
+TEST(MapGrid, FillsTheWidthWithSomeHundredCells) {
+    for (const double width : {0.5, 12.0, 200.0, 304.0, 867.0, 1600.0, 3500.0}) {
+        const MapGrid grid = MapGrid::of(width);
+        EXPECT_NEAR(grid.columns * (grid.side + grid.gap) - grid.gap, std::max(1.0, width), 1e-6) << width;
+        EXPECT_GE(grid.rows, 8);
+        EXPECT_LE(grid.rows, 16);
+        if (width >= 200) {
+            EXPECT_GE(grid.side, 12) << width;
+            EXPECT_GE(grid.count(), 200) << width;
+        }
     }
 }
 
