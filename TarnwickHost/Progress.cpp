@@ -67,6 +67,14 @@ QString bar(double fraction, qsizetype columns, bool unicode) {
     return QString(filled, full) + QString(columns - filled, empty);
 }
 
+/// The line with as many of the pieces behind it as fit.
+QString withPieces(QString line, const QStringList& pieces, qsizetype columns) {
+    for (const QString& piece : pieces)
+        if (line.size() + 2 + piece.size() <= columns)
+            line += "  " + piece;
+    return line.left(columns);
+}
+
 /// Without a sequential write the engine prepares the data file first, and tells no progress meanwhile.
 bool preparesFile(const BenchmarkPlan& plan) {
     return !plan.tests.contains(BenchmarkTest::sequentialWrite) &&
@@ -92,10 +100,7 @@ QString progressLine(const BenchmarkProgress& progress, const BenchmarkPlan& pla
             line = line.leftJustified(titleColumns) + "  " + bar(fraction, barColumns, style.unicode);
         line += "  " + percent;
     }
-    for (const QString& piece : {amount.done, amount.rate})
-        if (line.size() + 2 + piece.size() <= columns)
-            line += "  " + piece;
-    return line.left(columns);
+    return withPieces(line, {amount.done, amount.rate}, columns);
 }
 
 QString checkLine(const CapacityCourse& course, LineStyle style) {
@@ -117,10 +122,7 @@ QString checkLine(const CapacityCourse& course, LineStyle style) {
     }
     if (const auto left = course.timeLeft())
         pieces << spanText(*left) + " left";
-    for (const QString& piece : pieces)
-        if (line.size() + 2 + piece.size() <= columns)
-            line += "  " + piece;
-    return line.left(columns);
+    return withPieces(line, pieces, columns);
 }
 
 void replaceLine(const QString& line) {

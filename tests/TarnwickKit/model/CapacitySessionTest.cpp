@@ -5,6 +5,7 @@
 #include "TarnwickKit/model/capacity/CapacityChecks.h"
 #include "TarnwickKit/model/capacity/CapacityCodec.h"
 #include "TarnwickKit/model/capacity/CapacityText.h"
+#include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
 
 #include <sys/stat.h>
