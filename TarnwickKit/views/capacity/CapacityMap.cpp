@@ -119,8 +119,9 @@ OndelControls::ImageItem::Picture CapacityMap::paint(double scale) {
     painter.setRenderHint(QPainter::Antialiasing);
     const auto edge = [scale](double place) { return std::round(place * scale); };
     for (int index = 0; index < m_grid.count(); ++index) {
-        const double x = index % m_grid.columns * pitch();
-        const double y = index / m_grid.columns * pitch();
+        const int row = index / m_grid.columns;
+        const double x = (index - row * m_grid.columns) * pitch();
+        const double y = row * pitch();
         const QRectF cell(QPointF(edge(x), edge(y)), QPointF(edge(x + m_grid.side), edge(y + m_grid.side)));
         // With fewer states than cells each state has several of them.
         const auto place =
