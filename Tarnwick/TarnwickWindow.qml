@@ -57,7 +57,7 @@ Window {
         analyzer: window.delegate.model
 
         sidebarFooter: OnDemand {
-            active: AppSupport.nudges.showsNote
+            active: commands.bar !== null && AppSupport.nudges.showsNote
             file: "SupportFoot.qml"
         }
     }

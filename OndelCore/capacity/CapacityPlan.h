@@ -11,7 +11,7 @@ namespace OndelCore::capacity {
 
 /// What a check is asked to do. Units: bytes.
 struct ONDEL_PUBLIC CapacityPlan {
-    static constexpr std::int64_t defaultLeaveFree = 64 * 1048576;
+    static constexpr std::int64_t defaultLeaveFree = std::int64_t{64} * 1048576;
 
     /// A folder on the volume. The check makes a hidden folder inside of it, and nothing elsewhere.
     std::filesystem::path folder{};
