@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import OndelControls
 
-/// A drop-down menu. Arrow keys move in it, Return chooses, Escape closes, and so does another program that comes forward.
+/// A drop-down menu. Arrow keys, Home and End move in it, Return chooses, Escape closes, and so does another program that comes forward.
 T.Menu {
     id: menu
 
@@ -21,6 +21,15 @@ T.Menu {
     padding: Metrics.menuPadding
     overlap: 1
     cascade: false
+
+    /// To the first entry that can be chosen, or the last one; `step`: from which end to look.
+    function goToEnd(step: int): void {
+        let place = step > 0 ? 0 : count - 1;
+        while (itemAt(place) && !(itemAt(place) instanceof T.MenuItem && itemAt(place).enabled))
+            place += step;
+        if (itemAt(place))
+            currentIndex = place;
+    }
 
     onIsInFrontChanged: {
         if (!isInFront)
@@ -40,6 +49,11 @@ T.Menu {
         interactive: contentHeight > height
         clip: interactive
         boundsBehavior: Flickable.StopAtBounds
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+            if (event.accepted)
+                menu.goToEnd(event.key === Qt.Key_Home ? 1 : -1);
+        }
     }
     background: Card {
         radius: menu.corner

@@ -55,9 +55,13 @@ def finds_opens_and_deletes(program):
         window.keys("Return")
         window.find("Throughput over time", "chart")
         window.grab("Throughput over time", "chart")
+        told = lambda: window.find("Throughput over time", "chart").get_description()
         window.keys("Right", "Escape", "Left")
-        window.until("the last rate told",
-                     lambda: re.match(r"[\d.]+s: ", window.find("Throughput over time", "chart").get_description()))
+        last = window.until("the last rate told", lambda: re.match(r"[\d.]+s: ", told()) and told())
+        window.hover("Throughput over time", "chart")  # a pointer that rests there does not hold the line
+        at_pointer = window.until("the rate at the pointer", lambda: told() != last and told())
+        window.keys("Right")
+        window.until("the next rate", lambda: told() != at_pointer)
         window.grab("First run", "push button")
         check(window.until("the focus", window.focused) == "First run", "the focus left the run that was opened")
         window.context_menu("First run")

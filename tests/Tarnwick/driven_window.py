@@ -259,6 +259,7 @@ def is_used_whole_when_small(program, folder):
         window.until("the size", lambda: choose() or window.step() == "Size")
         window.keys("Return", "Home", "Return")
         window.until("the focus back from the menu", choose)
+        window.until("the first size", lambda: window.find("Size").get_description() == "1 GiB")
         window.keys("ctrl+Return")
         window.find("Running…", "status bar")
         window.press("Show Tests and Settings")

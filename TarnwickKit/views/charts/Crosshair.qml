@@ -48,8 +48,21 @@ Item {
         chart: cross.chart
     }
     HoverHandler {
-        onPointChanged: if (hovered) cursor.moveTo(point.position.x)
-        onHoveredChanged: if (!hovered) cursor.leave()
+        property real lastX: NaN
+
+        // Told again at the same place, when something changes under it: the arrow keys count then.
+        onPointChanged: {
+            if (hovered && point.position.x !== lastX) {
+                lastX = point.position.x;
+                cursor.moveTo(lastX);
+            }
+        }
+        onHoveredChanged: {
+            if (!hovered) {
+                lastX = NaN;
+                cursor.leave();
+            }
+        }
     }
     Card {
         x: -Metrics.focusGap
