@@ -48,6 +48,7 @@ struct CapacityDefect {
 
 /// The size that a volume with a false capacity really has, concluded from where the defects lie.
 struct CapacityRealSize {
+    /// Why the volume is smaller.
     enum class Reason {
         wrapsAround, ///< what lies beyond is written over what lies before
         dropsBeyond, ///< what lies beyond is lost

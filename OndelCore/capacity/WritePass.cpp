@@ -253,7 +253,9 @@ void RangeWriter::close() {
         return;
     const std::int64_t place = m_file->piece().offset;
     const std::error_code error = m_file->flush();
-    m_file->dropFromCache();
+    const bool isCached = !m_file->bypass().isOn() || m_file->bypass().refusedTransfers() > 0;
+    if (isCached)
+        m_file->dropFromCache(); // early, so that a large range does not push out what others have there
     m_refused += m_file->bypass().refusedTransfers();
     m_isBypassRefused |= !m_file->bypass().isOn();
     m_file.reset();
