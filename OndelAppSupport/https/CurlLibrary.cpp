@@ -10,20 +10,20 @@ namespace {
 
 using Kind = TransportError::Kind;
 
-/// The interface of the headers that this is compiled with, unchanged since 2006.
-constexpr const char* libraryName = "libcurl.so.4";
+/// That of another interface than this is compiled with, which has been the same since 2006, is none.
+TransportError noLibrary() { return {Kind::failed, "libcurl.so.4 cannot be loaded"}; }
 
 template <typename Function>
 void find(void* library, const char* name, Function& function) {
     function = reinterpret_cast<Function>(dlsym(library, name));
     if (!function)
-        throw TransportError(Kind::failed, dlerror());
+        throw noLibrary();
 }
 
 CurlLibrary load() {
-    void* const library = dlopen(libraryName, RTLD_NOW | RTLD_LOCAL);
+    void* const library = dlopen("libcurl.so.4", RTLD_NOW | RTLD_LOCAL);
     if (!library)
-        throw TransportError(Kind::failed, dlerror());
+        throw noLibrary();
     CurlLibrary curl{};
     find(library, "curl_global_init", curl.globalInit);
     find(library, "curl_easy_strerror", curl.strerror);

@@ -4,7 +4,7 @@
 
 namespace OndelCore::capacity {
 
-CapacityResult CapacityCheck::run(const CapacityPlan& plan, std::stop_token stop,
+CapacityResult CapacityCheck::run(const CapacityPlan& plan, const std::stop_token& stop,
                                   const CapacityListener& progress) const {
     return runCheck(CheckEnvironment{}, plan, stop, progress ? progress : [](const CapacityProgress&) {});
 }

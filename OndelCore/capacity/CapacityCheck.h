@@ -33,7 +33,7 @@ public:
     /// more than is free, or nothing is left; Io: the volume is gone, or took nothing at all), Cancelled, or
     /// std::system_error when the working folder cannot be made. Defects of the volume are no failures: they
     /// stand in the result, as does the reason why less was written than planned.
-    CapacityResult run(const CapacityPlan& plan, std::stop_token stop = {},
+    CapacityResult run(const CapacityPlan& plan, const std::stop_token& stop = {},
                        const CapacityListener& progress = {}) const;
 };
 

@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <iterator>
 #include <map>
-#include <ranges>
 #include <set>
 
 namespace OndelCore::capacity {
@@ -135,14 +134,18 @@ std::vector<JudgedStretch> judgedByPlace(const RealSizeClues& clues, const Place
         }
         addPlaced(stretches, places, {from, written.end() - from}, true);
     }
-    for (const CapacityDefect& failed : clues.findings.writing.runs() | std::views::filter(isLost))
-        addPlaced(stretches, places, {failed.offset, failed.length}, false);
+    for (const CapacityDefect& failed : clues.findings.writing.runs())
+        if (isLost(failed))
+            addPlaced(stretches, places, {failed.offset, failed.length}, false);
     std::ranges::sort(stretches, {}, &JudgedStretch::place);
     return stretches;
 }
 
 /// The place before which (nearly) all is good and from which on (nearly) all is lost.
 std::optional<CapacityRealSize> sizeByPlace(const RealSizeClues& clues, const PlaceMap& places) {
+    // A device that loses data takes it first. One that refuses to take it says so itself.
+    if (std::ranges::none_of(clues.findings.reading.runs(), isLost))
+        return std::nullopt;
     const std::vector<JudgedStretch> stretches = judgedByPlace(clues, places);
     std::int64_t goodBeyond = 0;
     std::int64_t badBeyond = 0;
@@ -176,7 +179,9 @@ std::optional<CapacityRealSize> sizeByAmount(const RealSizeClues& clues) {
     const auto& runs = clues.findings.reading.runs();
     std::int64_t lost = 0;
     CapacityDefect longest;
-    for (const CapacityDefect& run : runs | std::views::filter(isLost)) {
+    for (const CapacityDefect& run : runs) {
+        if (!isLost(run))
+            continue;
         lost += run.length;
         longest = run.length > longest.length ? run : longest;
     }

@@ -28,7 +28,7 @@ TEST_P(RealSize, isConcluded) {
     Findings findings(100 * unit);
     findings.addWritten(0, 100 * unit);
     for (const CapacityDefect& defect : GetParam().defects)
-        findings.reading.add(defect);
+        (defect.kind == DefectKind::writeFailed ? findings.writing : findings.reading).add(defect);
     const auto size =
         concludedRealSize({.findings = findings, .places = GetParam().places, .usedBefore = 10 * unit});
     const std::string said = size ? std::string(rawValue(size->reason)) + ' ' +
@@ -54,6 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
                              {other(0, 25, 75), other(25, 25, 75), other(50, 25, 75)},
                              {},
                              "wrapsAround 25"},
+                    SizeCase{"refusesToTakeMore", {lost(40, 60, DefectKind::writeFailed)}, {}, "nothing"},
                     // The file system wrote from the middle to the end, then from its front to the middle.
                     SizeCase{"wrapsUnderAnUnorderedFileSystem",
                              {other(0, 50, 50)},
