@@ -33,9 +33,9 @@ AnalyzerServices AnalyzerServices::real() {
         return BenchmarkEngine().run(std::move(plan), std::move(folder), std::move(progress),
                                      std::move(stop));
     };
-    services.checkCapacity = [](const OndelCore::capacity::CapacityPlan& plan, std::stop_token stop,
+    services.checkCapacity = [](const OndelCore::capacity::CapacityPlan& plan, const std::stop_token& stop,
                                 const OndelCore::capacity::CapacityListener& progress) {
-        return OndelCore::capacity::CapacityCheck().run(plan, std::move(stop), progress);
+        return OndelCore::capacity::CapacityCheck().run(plan, stop, progress);
     };
     services.cleanupOrphans = [](const std::filesystem::path& folder) {
         if (pathFacts(folder, PathQuestion::place, {.patience = latePatience}))
