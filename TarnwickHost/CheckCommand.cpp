@@ -33,7 +33,7 @@ namespace TarnwickHost {
 
 namespace {
 
-constexpr std::array options{
+constexpr std::array checkOptions{
     Option{"--size", "BYTES|all", "How much to write and read back (default: all free space)"},
     Option{"--leave-free", "BYTES", "How much stays free in any case (default: 64MiB)"},
     Option{"--quick", "",
@@ -44,16 +44,16 @@ constexpr std::array options{
 };
 
 // Above, a size is nonsense and a pause is longer than a year.
-constexpr Range sizeRange{1, std::int64_t{1} << 60};
-constexpr Range leaveFreeRange{0, std::int64_t{1} << 60};
+constexpr Range checkedRange{1, std::int64_t{1} << 60};
+constexpr Range freeRange{0, std::int64_t{1} << 60};
 constexpr double longestPause = 366 * 86400.0;
 
-CapacityPlan plan(const CommandLine& line) {
+CapacityPlan askedPlan(const CommandLine& line) {
     CapacityPlan plan;
     if (const auto size = line.value("--size"); size && size != "all")
-        plan.size = byteCount("--size", *size, sizeRange);
+        plan.size = byteCount("--size", *size, checkedRange);
     if (const auto leaveFree = line.value("--leave-free"))
-        plan.leaveFree = byteCount("--leave-free", *leaveFree, leaveFreeRange);
+        plan.leaveFree = byteCount("--leave-free", *leaveFree, freeRange);
     plan.isQuick = line.has("--quick");
     if (const auto again = line.value("--again")) {
         const double pause = seconds("--again", *again);
@@ -133,7 +133,7 @@ void follow(Check& check, RunEventLoop& watch) {
     }
 }
 
-void printCheck(const CapacityRecord& check, bool asJson) {
+void printRecord(const CapacityRecord& check, bool asJson) {
     if (!asJson)
         return print(capacityReport(check, lineStyle(STDOUT_FILENO)).toStdString());
     const auto json = checkJson(check);
@@ -143,7 +143,7 @@ void printCheck(const CapacityRecord& check, bool asJson) {
 }
 
 int executeCheck(const CommandLine& line) {
-    const CapacityPlan asked = plan(line);
+    const CapacityPlan asked = askedPlan(line);
     requireStandardOutput();
     try {
         sweep(asked.folder);
@@ -159,7 +159,7 @@ int executeCheck(const CommandLine& line) {
         const CapacityRecord record =
             result ? CapacityRecord::from(*result, asked, place.volume, place.capabilities, date)
                    : CapacityRecord::fromStopped(*last, asked, place.volume, place.capabilities, date);
-        printCheck(record, line.has("--json"));
+        printRecord(record, line.has("--json"));
         return !result ? interrupted : record.isBad() ? defectsFound : done;
     } catch (const std::system_error& error) {
         complain(AnalyzerModel::describe(error).toStdString());
@@ -175,7 +175,7 @@ const Command checkCommand{.name = "check",
                            .operands = "FOLDER",
                            .summary =
                                "Check whether a volume is as large as it says and keeps what it is given",
-                           .options = options,
+                           .options = checkOptions,
                            .notes = R"(
 Writes files that differ in every block into a hidden folder inside FOLDER, reads them back past the system's
 cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
