@@ -142,31 +142,36 @@ void printRecord(const CapacityRecord& check, bool asJson) {
     print(json->toStdString() + "\n");
 }
 
+/// Checks to the end. Absent: it was stopped before it had written anything. Fails: as CapacityCheck::run.
+std::optional<CapacityRecord> checked(const CapacityPlan& asked) {
+    sweep(asked.folder);
+    const RunPlace place = placeOf(asked.folder);
+    const QDateTime date = QDateTime::currentDateTimeUtc();
+    RunEventLoop watch;
+    Check check(asked, watch.takeEndMark());
+    follow(check, watch);
+    if (const auto result = check.result())
+        return CapacityRecord::from(*result, asked, place.volume, place.capabilities, date);
+    const auto& last = check.course().last();
+    if (!last)
+        return std::nullopt;
+    return CapacityRecord::fromStopped(*last, asked, place.volume, place.capabilities, date);
+}
+
 int executeCheck(const CommandLine& line) {
     const CapacityPlan asked = askedPlan(line);
     requireStandardOutput();
+    std::optional<CapacityRecord> record;
     try {
-        sweep(asked.folder);
-        const RunPlace place = placeOf(asked.folder);
-        const QDateTime date = QDateTime::currentDateTimeUtc();
-        RunEventLoop watch;
-        Check check(asked, watch.takeEndMark());
-        follow(check, watch);
-        const auto result = check.result();
-        const auto& last = check.course().last();
-        if (!result && !last) // nothing was written yet
-            return interrupted;
-        const CapacityRecord record =
-            result ? CapacityRecord::from(*result, asked, place.volume, place.capabilities, date)
-                   : CapacityRecord::fromStopped(*last, asked, place.volume, place.capabilities, date);
-        printRecord(record, line.has("--json"));
-        return !result ? interrupted : record.isBad() ? defectsFound : done;
-    } catch (const std::system_error& error) {
+        record = checked(asked);
+    } catch (const std::exception& error) {
         complain(AnalyzerModel::describe(error).toStdString());
-    } catch (const OndelCore::benchmark::BenchmarkError& error) {
-        complain(AnalyzerModel::describe(error).toStdString());
+        return failed;
     }
-    return failed;
+    if (!record)
+        return interrupted;
+    printRecord(*record, line.has("--json"));
+    return record->wasStopped ? interrupted : record->isBad() ? defectsFound : done;
 }
 
 } // namespace
