@@ -126,8 +126,8 @@ QString LiveCheck::announcement() const {
         return tr("All free space is written, read back, compared and removed. Your files are not touched.");
     const std::int64_t planned =
         std::max<std::int64_t>(0, info->rawAvailable - CapacityPlan::defaultLeaveFree);
-    return tr("All free space, about %1, is written, read back, compared and removed. That may take hours; "
-              "meanwhile the volume is full for other programs. Your files are not touched.")
+    return tr("All free space, about %1, is written, read back, compared and removed. On a large volume that "
+              "takes hours; meanwhile the volume is full for other programs. Your files are not touched.")
         .arg(Format::bytes(planned));
 }
 
