@@ -92,12 +92,13 @@ struct BlockSentences {
 
 QString told(const BlockSentences& sentences, const CapacityResult& result, std::int64_t bytes) {
     const std::int64_t blocks = blocksIn(bytes);
+    // What could not be written is part of the whole, unless it is told alone, beside what was written.
+    const std::int64_t range = result.written + (bytes > result.writeFailed ? result.writeFailed : 0);
     const QString place = Format::bytes(firstDefect(result));
     if (blocks == 1)
         return CapacityText::tr(sentences.one).arg(place);
     if (blocks >= countedBlocks)
-        return CapacityText::tr(sentences.large)
-            .arg(Format::bytes(bytes), Format::bytes(result.written), place);
+        return CapacityText::tr(sentences.large).arg(Format::bytes(bytes), Format::bytes(range), place);
     const bool isTogether = mainDefects(result).size() == 1 && result.furtherDefects == 0;
     return CapacityText::tr(isTogether ? sentences.together : sentences.scattered, nullptr, plural(blocks))
         .arg(counted(blocks), place);
