@@ -315,6 +315,12 @@ TEST(CapacityCheck, quicklyChecksWhereSamplesCanBeSpread) {
     const auto packed = runCheck(system, plan, {}, [](auto&) {});
     EXPECT_FALSE(packed.quick.value().isSpread);
     EXPECT_EQ(packed.written, 64 * mebibyte);
+
+    system.spreadsSparseFiles = [](int) { return true; };
+    const auto sparse = runCheck(system, plan, {}, [](auto&) {});
+    EXPECT_EQ(saidOf(sparse), "");
+    EXPECT_TRUE(sparse.quick.value().isSpread);
+    EXPECT_EQ(sparse.written, spread.written);
 }
 
 TEST(CapacityCheck, stopsInEachPhaseAndRemovesItsFolder) {
