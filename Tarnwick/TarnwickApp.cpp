@@ -8,7 +8,9 @@
 #include "Tarnwick/CommandLine.h"
 #include "Tarnwick/Product.h"
 #include "Tarnwick/Toolkit.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
+#include "TarnwickKit/views/window/LanguageSetting.h"
 
 #include <QQmlComponent>
 #include <QQuickItem>
@@ -58,6 +60,9 @@ int TarnwickApp::run(int argc, char** argv) {
     if (!OndelCore::platform::sessionBusAnswers(busPatience))
         OndelCore::platform::doWithoutSessionBus();
     const auto application = startToolkit(argc, argv);
+    TarnwickKit::model::Language::install(TarnwickKit::views::LanguageSetting::code());
+    if (TarnwickKit::model::Language::isRightToLeft())
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     OpenRequests requests(product::id);
     OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
     const auto commandLine = CommandLine::parse(argc, argv);

@@ -8,6 +8,7 @@
 #include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/model/runs/RunText.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -21,6 +22,10 @@ using namespace TarnwickKit::model;
 namespace TarnwickHost {
 
 namespace {
+
+struct HostResults {
+    Q_DECLARE_TR_FUNCTIONS(HostResults)
+};
 
 /// The columns of the table that hold a test's title and figures.
 constexpr std::size_t figureColumns = 5;
@@ -53,7 +58,7 @@ QString driveLine(const DriveIdentity& drive, int columns) {
     for (const auto& name : {drive.model, drive.protocolName})
         if (const auto visible = visibleText(name))
             names << *visible;
-    const QString line = labelled("Drive  ", names, " · ", columns);
+    const QString line = labelled(HostResults::tr("Drive") + "  ", names, " · ", columns);
     return line.isEmpty() ? line : '\n' + line;
 }
 
@@ -188,17 +193,21 @@ QString resultTable(const MeasuredRun& run, int columns) {
         rows.push_back(figures);
     };
     if (result.sequentialWrite || result.sequentialRead)
-        beginBlock({"", "Sustained", "Peak", "Lowest", "Overall"});
+        beginBlock({"", HostResults::tr("Sustained"), HostResults::tr("Peak"), HostResults::tr("Lowest"),
+                    HostResults::tr("Overall")});
     add(BenchmarkTest::sequentialWrite, result.sequentialWrite);
     add(BenchmarkTest::sequentialRead, result.sequentialRead);
     if (result.randomRead || result.randomWrite)
-        beginBlock(hasLatency(result.randomRead) || hasLatency(result.randomWrite)
-                       ? TextRow{"", "Operations", "Rate", "p99", "Worst"}
-                       : TextRow{"", "Operations", "Rate"});
+        beginBlock({"", HostResults::tr("Operations"), HostResults::tr("Rate")});
+    if (hasLatency(result.randomRead) || hasLatency(result.randomWrite))
+        //: The slowest operation; "p99" is the time that 99 of 100 operations stay below.
+        rows.back().insert(rows.back().end(), {"p99", HostResults::tr("Worst")});
     add(BenchmarkTest::randomRead, result.randomRead);
     add(BenchmarkTest::randomWrite, result.randomWrite);
     if (result.fileOps)
-        beginBlock({"", "Create", "Stat", "Rename", "Delete"});
+        //: What the file-operations test does with files; "Stat" asks for a file's size and dates.
+        beginBlock({"", HostResults::tr("Create"), HostResults::tr("Stat"), HostResults::tr("Rename"),
+                    HostResults::tr("Delete")});
     add(BenchmarkTest::fileOps, result.fileOps);
     if (rows.empty())
         return {};
