@@ -7,6 +7,8 @@
 #include "Tarnwick/Product.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -18,9 +20,21 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* usage =
-    "Usage: tarnwick [FOLDER | FILE | URL]...\n"
+    "Usage: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...\n"
     "Opens the disk speed and volume analyzer, with the first folder chosen and run files "
-    "(*.tarnwickrun) shown.\n";
+    "(*.tarnwickrun) shown.\n"
+    "  --check-capacity  go on to the check of that folder's volume\n"
+    "  --choose-folder   ask for a folder\n";
+
+/// Those that the desktop entry lists. An option has an action's name.
+constexpr std::array<std::string_view, 2> optionActions{"check-capacity", "choose-folder"};
+
+std::string_view actionOf(std::string_view word) {
+    if (!word.starts_with("--"))
+        return {};
+    const auto* const found = std::ranges::find(optionActions, word.substr(2));
+    return found == optionActions.end() ? std::string_view() : *found;
+}
 
 std::span<char*> wordsOf(int argc, char** argv) {
     return std::span(argv, static_cast<std::size_t>(argc)).subspan(argc > 0 ? 1 : 0);
@@ -68,6 +82,8 @@ std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
     for (const char* word : wordsOf(argc, argv)) {
         if (!optionsHaveEnded && std::string_view(word) == "--") {
             optionsHaveEnded = true;
+        } else if (const auto action = actionOf(optionsHaveEnded ? "" : word); !action.empty()) {
+            line.action = action;
         } else if (!optionsHaveEnded && *word == '-') {
             std::fputs(usage, stderr);
             return std::nullopt;

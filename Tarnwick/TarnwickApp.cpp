@@ -69,6 +69,7 @@ int TarnwickApp::run(int argc, char** argv) {
     if (!commandLine)
         return 2;
     start.urls = commandLine->urls;
+    start.action = commandLine->action;
     if (const auto status = handOver(requests, start))
         return *status;
 
@@ -138,6 +139,9 @@ void TarnwickApp::finishWindow(QQuickWindow* window) {
 
 void TarnwickApp::finishLaunching(const OpenRequest& start) {
     m_delegate->applicationDidFinishLaunching();
-    m_delegate->open(start.urls, start.activationToken);
+    if (start.action.empty())
+        m_delegate->open(start.urls, start.activationToken);
+    else
+        m_delegate->take(start);
     m_requests.deliverTo([this](const OpenRequest& request) { return m_delegate->take(request); });
 }
