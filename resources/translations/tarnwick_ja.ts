@@ -827,149 +827,6 @@ min %2</source>
     </message>
 </context>
 <context>
-    <name>LanguageSetting</name>
-    <message>
-        <source>Like the desktop</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>LiveCheck</name>
-    <message>
-        <source>All free space</source>
-        <translation>すべての空き容量</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>しない</translation>
-    </message>
-    <message>
-        <source>After %1</source>
-        <translation>%1 後</translation>
-    </message>
-    <message>
-        <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
-        <translation>選択した領域の全体にわたってサンプルを書き込み、読み戻して削除します。数秒で終わり、容量の偽装の大半が見つかりますが、見つからなくても問題がない証明にはなりません。</translation>
-    </message>
-    <message>
-        <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
-        <translation>%1 を書き込み、読み戻して比較し、削除します。既存のファイルには触れません。</translation>
-    </message>
-    <message>
-        <source>All free space is written, read back, compared and removed. Your files are not touched.</source>
-        <translation>すべての空き容量に書き込み、読み戻して比較し、削除します。既存のファイルには触れません。</translation>
-    </message>
-    <message>
-        <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
-        <translation>すべての空き容量（約 %1）に書き込み、読み戻して比較し、削除します。大容量のボリュームでは数時間かかり、その間、ほかのプログラムからはボリュームがいっぱいに見えます。既存のファイルには触れません。</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>%1 % of the check</source>
-        <translation>検査の %1%</translation>
-    </message>
-    <message>
-        <source>in one part</source>
-        <translation>1 か所の区間</translation>
-    </message>
-    <message numerus="yes">
-        <source>in %1 parts</source>
-        <translation>
-            <numerusform>%1 か所の区間</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 to %2: %3</source>
-        <translation>%1～%2: %3</translation>
-    </message>
-    <message>
-        <source>Checked</source>
-        <translation>検査日時</translation>
-    </message>
-    <message>
-        <source>Text copied</source>
-        <translation>テキストをコピーしました</translation>
-    </message>
-    <message>
-        <source>The text couldn&apos;t be copied.</source>
-        <translation>テキストをコピーできませんでした。</translation>
-    </message>
-    <message>
-        <source>The file couldn&apos;t be saved: %1</source>
-        <translation>ファイルを保存できませんでした: %1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>「%1」として保存しました</translation>
-    </message>
-</context>
-<context>
-    <name>LiveRun</name>
-    <message>
-        <source>done</source>
-        <translation>完了</translation>
-    </message>
-    <message>
-        <source>running</source>
-        <translation>実行中</translation>
-    </message>
-    <message>
-        <source>to come</source>
-        <translation>これから</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1: %2, %3</source>
-        <translation>%1: %2、%3</translation>
-    </message>
-    <message>
-        <source>A few seconds</source>
-        <translation>数秒</translation>
-    </message>
-    <message>
-        <source>About %1 s</source>
-        <translation>約 %1 s</translation>
-    </message>
-    <message>
-        <source>About %1 min</source>
-        <translation>約 %1 min</translation>
-    </message>
-    <message>
-        <source>About %1 h</source>
-        <translation>約 %1 h</translation>
-    </message>
-    <message>
-        <source>%1 left</source>
-        <translation>残り %1</translation>
-    </message>
-    <message>
-        <source>%1 left of this test</source>
-        <translation>このテストは残り %1</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>%1 operations</source>
-        <translation>%1 回の操作</translation>
-    </message>
-    <message>
-        <source>Preparing…</source>
-        <translation>準備中…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1%</translation>
-    </message>
-</context>
-<context>
     <name>LiveRunPane</name>
     <message>
         <source>%1: %2 %</source>
@@ -1190,45 +1047,6 @@ min %2</source>
     </message>
 </context>
 <context>
-    <name>RunExports</name>
-    <message>
-        <source>%1 runs</source>
-        <translation>%1 件の計測</translation>
-    </message>
-    <message>
-        <source>Text copied</source>
-        <translation>テキストをコピーしました</translation>
-    </message>
-    <message>
-        <source>Table copied</source>
-        <translation>表をコピーしました</translation>
-    </message>
-    <message>
-        <source>The text couldn&apos;t be copied.</source>
-        <translation>テキストをコピーできませんでした。</translation>
-    </message>
-    <message>
-        <source>Lists of runs</source>
-        <translation>計測の一覧</translation>
-    </message>
-    <message>
-        <source>Tarnwick runs</source>
-        <translation>Tarnwick の計測</translation>
-    </message>
-    <message>
-        <source>CSV tables</source>
-        <translation>CSV の表</translation>
-    </message>
-    <message>
-        <source>The file couldn&apos;t be saved: %1</source>
-        <translation>ファイルを保存できませんでした: %1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>「%1」として保存しました</translation>
-    </message>
-</context>
-<context>
     <name>RunHeadline</name>
     <message>
         <source>Sequential Write</source>
@@ -1322,97 +1140,6 @@ min %2</source>
     <message>
         <source>What these remarks mean</source>
         <translation>注記の意味</translation>
-    </message>
-</context>
-<context>
-    <name>Runs</name>
-    <message>
-        <source>reference</source>
-        <translation>基準</translation>
-    </message>
-    <message>
-        <source>Not the disk’s figure: %1</source>
-        <translation>ディスクの測定値ではない: %1</translation>
-    </message>
-    <message>
-        <source>Not the disk’s figures: %1</source>
-        <translation>ディスクの測定値ではない: %1</translation>
-    </message>
-    <message>
-        <source>Random %1 read</source>
-        <translation>ランダム %1 読み取り</translation>
-    </message>
-    <message>
-        <source>Random %1 write</source>
-        <translation>ランダム %1 書き込み</translation>
-    </message>
-    <message>
-        <source>File operations</source>
-        <translation>ファイル操作</translation>
-    </message>
-    <message>
-        <source>Read/Write</source>
-        <translation>読み取り/書き込み</translation>
-    </message>
-    <message>
-        <source>Write</source>
-        <translation>書き込み</translation>
-    </message>
-    <message>
-        <source>Read</source>
-        <translation>読み取り</translation>
-    </message>
-    <message>
-        <source>Random</source>
-        <translation>ランダム</translation>
-    </message>
-    <message>
-        <source>Drive</source>
-        <translation>ドライブ</translation>
-    </message>
-    <message>
-        <source>File system</source>
-        <translation>ファイルシステム</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>容量</translation>
-    </message>
-    <message>
-        <source>Free</source>
-        <translation>空き</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>サイズ</translation>
-    </message>
-    <message>
-        <source>Cache</source>
-        <translation>キャッシュ</translation>
-    </message>
-    <message>
-        <source>Bypassed</source>
-        <translation>バイパス</translation>
-    </message>
-    <message>
-        <source>Cached</source>
-        <translation>使用</translation>
-    </message>
-    <message>
-        <source>Figures copied</source>
-        <translation>測定値をコピーしました</translation>
-    </message>
-    <message>
-        <source>The figures couldn&apos;t be copied.</source>
-        <translation>測定値をコピーできませんでした。</translation>
-    </message>
-    <message>
-        <source>%1, not the disk’s figure</source>
-        <translation>%1、ディスクの測定値ではない</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>ネットワーク</translation>
     </message>
 </context>
 <context>
@@ -1510,33 +1237,6 @@ min %2</source>
     </message>
 </context>
 <context>
-    <name>SharedImage</name>
-    <message>
-        <source>Image copied</source>
-        <translation>画像をコピーしました</translation>
-    </message>
-    <message>
-        <source>The image couldn&apos;t be copied.</source>
-        <translation>画像をコピーできませんでした。</translation>
-    </message>
-    <message>
-        <source>The image couldn&apos;t be saved: %1</source>
-        <translation>画像を保存できませんでした: %1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>「%1」として保存しました</translation>
-    </message>
-    <message>
-        <source>The folder couldn&apos;t be opened.</source>
-        <translation>フォルダーを開けませんでした。</translation>
-    </message>
-    <message>
-        <source>No mail program could be opened.</source>
-        <translation>メールプログラムを開けませんでした。</translation>
-    </message>
-</context>
-<context>
     <name>SidebarView</name>
     <message>
         <source>Tests and Settings</source>
@@ -1599,73 +1299,6 @@ min %2</source>
     <message>
         <source>I’ve Already Supported %1</source>
         <translation>%1 をすでに支援しました</translation>
-    </message>
-</context>
-<context>
-    <name>TargetFacts</name>
-    <message>
-        <source>Case not known</source>
-        <translation>大文字と小文字の区別は不明</translation>
-    </message>
-    <message>
-        <source>Case-sensitive</source>
-        <translation>大文字と小文字を区別する</translation>
-    </message>
-    <message>
-        <source>Case-insensitive</source>
-        <translation>大文字と小文字を区別しない</translation>
-    </message>
-    <message>
-        <source>The folder couldn&apos;t be opened.</source>
-        <translation>フォルダーを開けませんでした。</translation>
-    </message>
-    <message>
-        <source>File system</source>
-        <translation>ファイルシステム</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>フォーマット</translation>
-    </message>
-    <message>
-        <source>Optimal I/O size</source>
-        <translation>最適な I/O サイズ</translation>
-    </message>
-    <message>
-        <source>Block size</source>
-        <translation>ブロックサイズ</translation>
-    </message>
-    <message>
-        <source>Max filename</source>
-        <translation>ファイル名の最大長</translation>
-    </message>
-    <message>
-        <source>%1 chars</source>
-        <translation>%1 文字</translation>
-    </message>
-    <message>
-        <source>Max path</source>
-        <translation>パスの最大長</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>容量</translation>
-    </message>
-    <message>
-        <source>Free</source>
-        <translation>空き</translation>
-    </message>
-    <message>
-        <source>Not known: %1</source>
-        <translation>不明: %1</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>、 </translation>
-    </message>
-    <message>
-        <source>No S.M.A.R.T. figures: %1</source>
-        <translation>S.M.A.R.T. の値がありません: %1</translation>
     </message>
 </context>
 <context>
@@ -1759,6 +1392,306 @@ min %2</source>
     </message>
 </context>
 <context>
+    <name>TarnwickKit::views::LanguageSetting</name>
+    <message>
+        <source>Like the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::LiveCheck</name>
+    <message>
+        <source>All free space</source>
+        <translation>すべての空き容量</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>しない</translation>
+    </message>
+    <message>
+        <source>After %1</source>
+        <translation>%1 後</translation>
+    </message>
+    <message>
+        <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
+        <translation>選択した領域の全体にわたってサンプルを書き込み、読み戻して削除します。数秒で終わり、容量の偽装の大半が見つかりますが、見つからなくても問題がない証明にはなりません。</translation>
+    </message>
+    <message>
+        <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
+        <translation>%1 を書き込み、読み戻して比較し、削除します。既存のファイルには触れません。</translation>
+    </message>
+    <message>
+        <source>All free space is written, read back, compared and removed. Your files are not touched.</source>
+        <translation>すべての空き容量に書き込み、読み戻して比較し、削除します。既存のファイルには触れません。</translation>
+    </message>
+    <message>
+        <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
+        <translation>すべての空き容量（約 %1）に書き込み、読み戻して比較し、削除します。大容量のボリュームでは数時間かかり、その間、ほかのプログラムからはボリュームがいっぱいに見えます。既存のファイルには触れません。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 % of the check</source>
+        <translation>検査の %1%</translation>
+    </message>
+    <message>
+        <source>in one part</source>
+        <translation>1 か所の区間</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 parts</source>
+        <translation>
+            <numerusform>%1 か所の区間</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3</source>
+        <translation>%1～%2: %3</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>検査日時</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>テキストをコピーしました</translation>
+    </message>
+    <message>
+        <source>The text couldn&apos;t be copied.</source>
+        <translation>テキストをコピーできませんでした。</translation>
+    </message>
+    <message>
+        <source>The file couldn&apos;t be saved: %1</source>
+        <translation>ファイルを保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>「%1」として保存しました</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::LiveRun</name>
+    <message>
+        <source>done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>実行中</translation>
+    </message>
+    <message>
+        <source>to come</source>
+        <translation>これから</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2、%3</translation>
+    </message>
+    <message>
+        <source>A few seconds</source>
+        <translation>数秒</translation>
+    </message>
+    <message>
+        <source>About %1 s</source>
+        <translation>約 %1 s</translation>
+    </message>
+    <message>
+        <source>About %1 min</source>
+        <translation>約 %1 min</translation>
+    </message>
+    <message>
+        <source>About %1 h</source>
+        <translation>約 %1 h</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>残り %1</translation>
+    </message>
+    <message>
+        <source>%1 left of this test</source>
+        <translation>このテストは残り %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 operations</source>
+        <translation>%1 回の操作</translation>
+    </message>
+    <message>
+        <source>Preparing…</source>
+        <translation>準備中…</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::RunExports</name>
+    <message>
+        <source>%1 runs</source>
+        <translation>%1 件の計測</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>テキストをコピーしました</translation>
+    </message>
+    <message>
+        <source>Table copied</source>
+        <translation>表をコピーしました</translation>
+    </message>
+    <message>
+        <source>The text couldn&apos;t be copied.</source>
+        <translation>テキストをコピーできませんでした。</translation>
+    </message>
+    <message>
+        <source>Lists of runs</source>
+        <translation>計測の一覧</translation>
+    </message>
+    <message>
+        <source>Tarnwick runs</source>
+        <translation>Tarnwick の計測</translation>
+    </message>
+    <message>
+        <source>CSV tables</source>
+        <translation>CSV の表</translation>
+    </message>
+    <message>
+        <source>The file couldn&apos;t be saved: %1</source>
+        <translation>ファイルを保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>「%1」として保存しました</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::Runs</name>
+    <message>
+        <source>reference</source>
+        <translation>基準</translation>
+    </message>
+    <message>
+        <source>Not the disk’s figure: %1</source>
+        <translation>ディスクの測定値ではない: %1</translation>
+    </message>
+    <message>
+        <source>Not the disk’s figures: %1</source>
+        <translation>ディスクの測定値ではない: %1</translation>
+    </message>
+    <message>
+        <source>Random %1 read</source>
+        <translation>ランダム %1 読み取り</translation>
+    </message>
+    <message>
+        <source>Random %1 write</source>
+        <translation>ランダム %1 書き込み</translation>
+    </message>
+    <message>
+        <source>File operations</source>
+        <translation>ファイル操作</translation>
+    </message>
+    <message>
+        <source>Read/Write</source>
+        <translation>読み取り/書き込み</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>書き込み</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>読み取り</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>ランダム</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>ドライブ</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>ファイルシステム</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>空き</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Cache</source>
+        <translation>キャッシュ</translation>
+    </message>
+    <message>
+        <source>Bypassed</source>
+        <translation>バイパス</translation>
+    </message>
+    <message>
+        <source>Cached</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Figures copied</source>
+        <translation>測定値をコピーしました</translation>
+    </message>
+    <message>
+        <source>The figures couldn&apos;t be copied.</source>
+        <translation>測定値をコピーできませんでした。</translation>
+    </message>
+    <message>
+        <source>%1, not the disk’s figure</source>
+        <translation>%1、ディスクの測定値ではない</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>ネットワーク</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::SharedImage</name>
+    <message>
+        <source>Image copied</source>
+        <translation>画像をコピーしました</translation>
+    </message>
+    <message>
+        <source>The image couldn&apos;t be copied.</source>
+        <translation>画像をコピーできませんでした。</translation>
+    </message>
+    <message>
+        <source>The image couldn&apos;t be saved: %1</source>
+        <translation>画像を保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>「%1」として保存しました</translation>
+    </message>
+    <message>
+        <source>The folder couldn&apos;t be opened.</source>
+        <translation>フォルダーを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>No mail program could be opened.</source>
+        <translation>メールプログラムを開けませんでした。</translation>
+    </message>
+</context>
+<context>
     <name>TarnwickKit::views::TargetFacts</name>
     <message>
         <source>Sparse files</source>
@@ -1783,6 +1716,70 @@ min %2</source>
     <message>
         <source>Xattr</source>
         <translation>拡張属性</translation>
+    </message>
+    <message>
+        <source>Case not known</source>
+        <translation>大文字と小文字の区別は不明</translation>
+    </message>
+    <message>
+        <source>Case-sensitive</source>
+        <translation>大文字と小文字を区別する</translation>
+    </message>
+    <message>
+        <source>Case-insensitive</source>
+        <translation>大文字と小文字を区別しない</translation>
+    </message>
+    <message>
+        <source>The folder couldn&apos;t be opened.</source>
+        <translation>フォルダーを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>ファイルシステム</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>フォーマット</translation>
+    </message>
+    <message>
+        <source>Optimal I/O size</source>
+        <translation>最適な I/O サイズ</translation>
+    </message>
+    <message>
+        <source>Block size</source>
+        <translation>ブロックサイズ</translation>
+    </message>
+    <message>
+        <source>Max filename</source>
+        <translation>ファイル名の最大長</translation>
+    </message>
+    <message>
+        <source>%1 chars</source>
+        <translation>%1 文字</translation>
+    </message>
+    <message>
+        <source>Max path</source>
+        <translation>パスの最大長</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>空き</translation>
+    </message>
+    <message>
+        <source>Not known: %1</source>
+        <translation>不明: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、 </translation>
+    </message>
+    <message>
+        <source>No S.M.A.R.T. figures: %1</source>
+        <translation>S.M.A.R.T. の値がありません: %1</translation>
     </message>
 </context>
 <context>

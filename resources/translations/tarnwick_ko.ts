@@ -827,149 +827,6 @@ min %2</source>
     </message>
 </context>
 <context>
-    <name>LanguageSetting</name>
-    <message>
-        <source>Like the desktop</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>LiveCheck</name>
-    <message>
-        <source>All free space</source>
-        <translation>모든 여유 공간</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>안 함</translation>
-    </message>
-    <message>
-        <source>After %1</source>
-        <translation>%1 후</translation>
-    </message>
-    <message>
-        <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
-        <translation>선택한 공간 전체에 걸쳐 샘플을 쓰고, 다시 읽은 다음 제거합니다. 몇 초면 끝나고 대부분의 가짜 용량을 찾아내지만, 찾지 못했다고 해서 문제가 없다는 증명은 아닙니다.</translation>
-    </message>
-    <message>
-        <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
-        <translation>%1 분량을 쓰고, 다시 읽어 비교한 다음 제거합니다. 사용자의 파일은 건드리지 않습니다.</translation>
-    </message>
-    <message>
-        <source>All free space is written, read back, compared and removed. Your files are not touched.</source>
-        <translation>모든 여유 공간에 쓰고, 다시 읽어 비교한 다음 제거합니다. 사용자의 파일은 건드리지 않습니다.</translation>
-    </message>
-    <message>
-        <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
-        <translation>모든 여유 공간(약 %1)에 쓰고, 다시 읽어 비교한 다음 제거합니다. 큰 볼륨에서는 몇 시간이 걸리며, 그동안 다른 프로그램에는 볼륨이 가득 찬 상태가 됩니다. 사용자의 파일은 건드리지 않습니다.</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>%1 % of the check</source>
-        <translation>검사 %1%</translation>
-    </message>
-    <message>
-        <source>in one part</source>
-        <translation>한 구간</translation>
-    </message>
-    <message numerus="yes">
-        <source>in %1 parts</source>
-        <translation>
-            <numerusform>%1개 구간</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 to %2: %3</source>
-        <translation>%1~%2: %3</translation>
-    </message>
-    <message>
-        <source>Checked</source>
-        <translation>검사 시각</translation>
-    </message>
-    <message>
-        <source>Text copied</source>
-        <translation>텍스트를 복사했습니다</translation>
-    </message>
-    <message>
-        <source>The text couldn&apos;t be copied.</source>
-        <translation>텍스트를 복사할 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>The file couldn&apos;t be saved: %1</source>
-        <translation>파일을 저장할 수 없습니다: %1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>“%1” 이름으로 저장했습니다</translation>
-    </message>
-</context>
-<context>
-    <name>LiveRun</name>
-    <message>
-        <source>done</source>
-        <translation>완료</translation>
-    </message>
-    <message>
-        <source>running</source>
-        <translation>실행 중</translation>
-    </message>
-    <message>
-        <source>to come</source>
-        <translation>예정</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1: %2, %3</source>
-        <translation>%1: %2, %3</translation>
-    </message>
-    <message>
-        <source>A few seconds</source>
-        <translation>몇 초</translation>
-    </message>
-    <message>
-        <source>About %1 s</source>
-        <translation>약 %1 s</translation>
-    </message>
-    <message>
-        <source>About %1 min</source>
-        <translation>약 %1 min</translation>
-    </message>
-    <message>
-        <source>About %1 h</source>
-        <translation>약 %1 h</translation>
-    </message>
-    <message>
-        <source>%1 left</source>
-        <translation>%1 남음</translation>
-    </message>
-    <message>
-        <source>%1 left of this test</source>
-        <translation>이 테스트 %1 남음</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>%1 operations</source>
-        <translation>작업 %1회</translation>
-    </message>
-    <message>
-        <source>Preparing…</source>
-        <translation>준비 중…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1%</translation>
-    </message>
-</context>
-<context>
     <name>LiveRunPane</name>
     <message>
         <source>%1: %2 %</source>
@@ -1190,45 +1047,6 @@ min %2</source>
     </message>
 </context>
 <context>
-    <name>RunExports</name>
-    <message>
-        <source>%1 runs</source>
-        <translation>측정 %1개</translation>
-    </message>
-    <message>
-        <source>Text copied</source>
-        <translation>텍스트를 복사했습니다</translation>
-    </message>
-    <message>
-        <source>Table copied</source>
-        <translation>표를 복사했습니다</translation>
-    </message>
-    <message>
-        <source>The text couldn&apos;t be copied.</source>
-        <translation>텍스트를 복사할 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>Lists of runs</source>
-        <translation>측정 목록</translation>
-    </message>
-    <message>
-        <source>Tarnwick runs</source>
-        <translation>Tarnwick 측정</translation>
-    </message>
-    <message>
-        <source>CSV tables</source>
-        <translation>CSV 표</translation>
-    </message>
-    <message>
-        <source>The file couldn&apos;t be saved: %1</source>
-        <translation>파일을 저장할 수 없습니다: %1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>“%1” 이름으로 저장했습니다</translation>
-    </message>
-</context>
-<context>
     <name>RunHeadline</name>
     <message>
         <source>Sequential Write</source>
@@ -1322,97 +1140,6 @@ min %2</source>
     <message>
         <source>What these remarks mean</source>
         <translation>설명의 의미</translation>
-    </message>
-</context>
-<context>
-    <name>Runs</name>
-    <message>
-        <source>reference</source>
-        <translation>기준</translation>
-    </message>
-    <message>
-        <source>Not the disk’s figure: %1</source>
-        <translation>디스크의 측정값이 아님: %1</translation>
-    </message>
-    <message>
-        <source>Not the disk’s figures: %1</source>
-        <translation>디스크의 측정값이 아님: %1</translation>
-    </message>
-    <message>
-        <source>Random %1 read</source>
-        <translation>임의 %1 읽기</translation>
-    </message>
-    <message>
-        <source>Random %1 write</source>
-        <translation>임의 %1 쓰기</translation>
-    </message>
-    <message>
-        <source>File operations</source>
-        <translation>파일 작업</translation>
-    </message>
-    <message>
-        <source>Read/Write</source>
-        <translation>읽기/쓰기</translation>
-    </message>
-    <message>
-        <source>Write</source>
-        <translation>쓰기</translation>
-    </message>
-    <message>
-        <source>Read</source>
-        <translation>읽기</translation>
-    </message>
-    <message>
-        <source>Random</source>
-        <translation>임의</translation>
-    </message>
-    <message>
-        <source>Drive</source>
-        <translation>드라이브</translation>
-    </message>
-    <message>
-        <source>File system</source>
-        <translation>파일 시스템</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>용량</translation>
-    </message>
-    <message>
-        <source>Free</source>
-        <translation>여유</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>크기</translation>
-    </message>
-    <message>
-        <source>Cache</source>
-        <translation>캐시</translation>
-    </message>
-    <message>
-        <source>Bypassed</source>
-        <translation>우회</translation>
-    </message>
-    <message>
-        <source>Cached</source>
-        <translation>사용</translation>
-    </message>
-    <message>
-        <source>Figures copied</source>
-        <translation>측정값을 복사했습니다</translation>
-    </message>
-    <message>
-        <source>The figures couldn&apos;t be copied.</source>
-        <translation>측정값을 복사할 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>%1, not the disk’s figure</source>
-        <translation>%1, 디스크의 측정값이 아님</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>네트워크</translation>
     </message>
 </context>
 <context>
@@ -1510,33 +1237,6 @@ min %2</source>
     </message>
 </context>
 <context>
-    <name>SharedImage</name>
-    <message>
-        <source>Image copied</source>
-        <translation>이미지를 복사했습니다</translation>
-    </message>
-    <message>
-        <source>The image couldn&apos;t be copied.</source>
-        <translation>이미지를 복사할 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>The image couldn&apos;t be saved: %1</source>
-        <translation>이미지를 저장할 수 없습니다: %1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>“%1” 이름으로 저장했습니다</translation>
-    </message>
-    <message>
-        <source>The folder couldn&apos;t be opened.</source>
-        <translation>폴더를 열 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>No mail program could be opened.</source>
-        <translation>메일 프로그램을 열 수 없습니다.</translation>
-    </message>
-</context>
-<context>
     <name>SidebarView</name>
     <message>
         <source>Tests and Settings</source>
@@ -1578,7 +1278,7 @@ min %2</source>
     <name>SupportBanner</name>
     <message>
         <source>%1 is free.</source>
-        <translation>%1: 무료입니다.</translation>
+        <translation>%1은(는) 무료입니다.</translation>
     </message>
     <message>
         <source>If it’s useful to you, your support helps keep it going.</source>
@@ -1599,73 +1299,6 @@ min %2</source>
     <message>
         <source>I’ve Already Supported %1</source>
         <translation>이미 %1 후원함</translation>
-    </message>
-</context>
-<context>
-    <name>TargetFacts</name>
-    <message>
-        <source>Case not known</source>
-        <translation>대소문자 구분 알 수 없음</translation>
-    </message>
-    <message>
-        <source>Case-sensitive</source>
-        <translation>대소문자 구분</translation>
-    </message>
-    <message>
-        <source>Case-insensitive</source>
-        <translation>대소문자 구분 안 함</translation>
-    </message>
-    <message>
-        <source>The folder couldn&apos;t be opened.</source>
-        <translation>폴더를 열 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>File system</source>
-        <translation>파일 시스템</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>형식</translation>
-    </message>
-    <message>
-        <source>Optimal I/O size</source>
-        <translation>최적 I/O 크기</translation>
-    </message>
-    <message>
-        <source>Block size</source>
-        <translation>블록 크기</translation>
-    </message>
-    <message>
-        <source>Max filename</source>
-        <translation>최대 파일 이름</translation>
-    </message>
-    <message>
-        <source>%1 chars</source>
-        <translation>%1자</translation>
-    </message>
-    <message>
-        <source>Max path</source>
-        <translation>최대 경로</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>용량</translation>
-    </message>
-    <message>
-        <source>Free</source>
-        <translation>여유</translation>
-    </message>
-    <message>
-        <source>Not known: %1</source>
-        <translation>알 수 없음: %1</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>No S.M.A.R.T. figures: %1</source>
-        <translation>S.M.A.R.T. 수치 없음: %1</translation>
     </message>
 </context>
 <context>
@@ -1759,6 +1392,306 @@ min %2</source>
     </message>
 </context>
 <context>
+    <name>TarnwickKit::views::LanguageSetting</name>
+    <message>
+        <source>Like the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::LiveCheck</name>
+    <message>
+        <source>All free space</source>
+        <translation>모든 여유 공간</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>안 함</translation>
+    </message>
+    <message>
+        <source>After %1</source>
+        <translation>%1 후</translation>
+    </message>
+    <message>
+        <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
+        <translation>선택한 공간 전체에 걸쳐 샘플을 쓰고, 다시 읽은 다음 제거합니다. 몇 초면 끝나고 대부분의 가짜 용량을 찾아내지만, 찾지 못했다고 해서 문제가 없다는 증명은 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
+        <translation>%1 분량을 쓰고, 다시 읽어 비교한 다음 제거합니다. 사용자의 파일은 건드리지 않습니다.</translation>
+    </message>
+    <message>
+        <source>All free space is written, read back, compared and removed. Your files are not touched.</source>
+        <translation>모든 여유 공간에 쓰고, 다시 읽어 비교한 다음 제거합니다. 사용자의 파일은 건드리지 않습니다.</translation>
+    </message>
+    <message>
+        <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
+        <translation>모든 여유 공간(약 %1)에 쓰고, 다시 읽어 비교한 다음 제거합니다. 큰 볼륨에서는 몇 시간이 걸리며, 그동안 다른 프로그램에는 볼륨이 가득 찬 상태가 됩니다. 사용자의 파일은 건드리지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 % of the check</source>
+        <translation>검사 %1%</translation>
+    </message>
+    <message>
+        <source>in one part</source>
+        <translation>한 구간</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 parts</source>
+        <translation>
+            <numerusform>%1개 구간</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3</source>
+        <translation>%1~%2: %3</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>검사 시각</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>텍스트를 복사했습니다</translation>
+    </message>
+    <message>
+        <source>The text couldn&apos;t be copied.</source>
+        <translation>텍스트를 복사할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The file couldn&apos;t be saved: %1</source>
+        <translation>파일을 저장할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>“%1” 이름으로 저장했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::LiveRun</name>
+    <message>
+        <source>done</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>실행 중</translation>
+    </message>
+    <message>
+        <source>to come</source>
+        <translation>예정</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>A few seconds</source>
+        <translation>몇 초</translation>
+    </message>
+    <message>
+        <source>About %1 s</source>
+        <translation>약 %1 s</translation>
+    </message>
+    <message>
+        <source>About %1 min</source>
+        <translation>약 %1 min</translation>
+    </message>
+    <message>
+        <source>About %1 h</source>
+        <translation>약 %1 h</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 남음</translation>
+    </message>
+    <message>
+        <source>%1 left of this test</source>
+        <translation>이 테스트 %1 남음</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 operations</source>
+        <translation>작업 %1회</translation>
+    </message>
+    <message>
+        <source>Preparing…</source>
+        <translation>준비 중…</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::RunExports</name>
+    <message>
+        <source>%1 runs</source>
+        <translation>측정 %1개</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>텍스트를 복사했습니다</translation>
+    </message>
+    <message>
+        <source>Table copied</source>
+        <translation>표를 복사했습니다</translation>
+    </message>
+    <message>
+        <source>The text couldn&apos;t be copied.</source>
+        <translation>텍스트를 복사할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Lists of runs</source>
+        <translation>측정 목록</translation>
+    </message>
+    <message>
+        <source>Tarnwick runs</source>
+        <translation>Tarnwick 측정</translation>
+    </message>
+    <message>
+        <source>CSV tables</source>
+        <translation>CSV 표</translation>
+    </message>
+    <message>
+        <source>The file couldn&apos;t be saved: %1</source>
+        <translation>파일을 저장할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>“%1” 이름으로 저장했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::Runs</name>
+    <message>
+        <source>reference</source>
+        <translation>기준</translation>
+    </message>
+    <message>
+        <source>Not the disk’s figure: %1</source>
+        <translation>디스크의 측정값이 아님: %1</translation>
+    </message>
+    <message>
+        <source>Not the disk’s figures: %1</source>
+        <translation>디스크의 측정값이 아님: %1</translation>
+    </message>
+    <message>
+        <source>Random %1 read</source>
+        <translation>임의 %1 읽기</translation>
+    </message>
+    <message>
+        <source>Random %1 write</source>
+        <translation>임의 %1 쓰기</translation>
+    </message>
+    <message>
+        <source>File operations</source>
+        <translation>파일 작업</translation>
+    </message>
+    <message>
+        <source>Read/Write</source>
+        <translation>읽기/쓰기</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>쓰기</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>읽기</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>임의</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>드라이브</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>파일 시스템</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>용량</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>여유</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>크기</translation>
+    </message>
+    <message>
+        <source>Cache</source>
+        <translation>캐시</translation>
+    </message>
+    <message>
+        <source>Bypassed</source>
+        <translation>우회</translation>
+    </message>
+    <message>
+        <source>Cached</source>
+        <translation>사용</translation>
+    </message>
+    <message>
+        <source>Figures copied</source>
+        <translation>측정값을 복사했습니다</translation>
+    </message>
+    <message>
+        <source>The figures couldn&apos;t be copied.</source>
+        <translation>측정값을 복사할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1, not the disk’s figure</source>
+        <translation>%1, 디스크의 측정값이 아님</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>네트워크</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::SharedImage</name>
+    <message>
+        <source>Image copied</source>
+        <translation>이미지를 복사했습니다</translation>
+    </message>
+    <message>
+        <source>The image couldn&apos;t be copied.</source>
+        <translation>이미지를 복사할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The image couldn&apos;t be saved: %1</source>
+        <translation>이미지를 저장할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>“%1” 이름으로 저장했습니다</translation>
+    </message>
+    <message>
+        <source>The folder couldn&apos;t be opened.</source>
+        <translation>폴더를 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>No mail program could be opened.</source>
+        <translation>메일 프로그램을 열 수 없습니다.</translation>
+    </message>
+</context>
+<context>
     <name>TarnwickKit::views::TargetFacts</name>
     <message>
         <source>Sparse files</source>
@@ -1783,6 +1716,70 @@ min %2</source>
     <message>
         <source>Xattr</source>
         <translation>확장 속성</translation>
+    </message>
+    <message>
+        <source>Case not known</source>
+        <translation>대소문자 구분 알 수 없음</translation>
+    </message>
+    <message>
+        <source>Case-sensitive</source>
+        <translation>대소문자 구분</translation>
+    </message>
+    <message>
+        <source>Case-insensitive</source>
+        <translation>대소문자 구분 안 함</translation>
+    </message>
+    <message>
+        <source>The folder couldn&apos;t be opened.</source>
+        <translation>폴더를 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>파일 시스템</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>형식</translation>
+    </message>
+    <message>
+        <source>Optimal I/O size</source>
+        <translation>최적 I/O 크기</translation>
+    </message>
+    <message>
+        <source>Block size</source>
+        <translation>블록 크기</translation>
+    </message>
+    <message>
+        <source>Max filename</source>
+        <translation>최대 파일 이름</translation>
+    </message>
+    <message>
+        <source>%1 chars</source>
+        <translation>%1자</translation>
+    </message>
+    <message>
+        <source>Max path</source>
+        <translation>최대 경로</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>용량</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>여유</translation>
+    </message>
+    <message>
+        <source>Not known: %1</source>
+        <translation>알 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>No S.M.A.R.T. figures: %1</source>
+        <translation>S.M.A.R.T. 수치 없음: %1</translation>
     </message>
 </context>
 <context>

@@ -827,149 +827,6 @@ min %2</source>
     </message>
 </context>
 <context>
-    <name>LanguageSetting</name>
-    <message>
-        <source>Like the desktop</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>LiveCheck</name>
-    <message>
-        <source>All free space</source>
-        <translation>全部可用空间</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>否</translation>
-    </message>
-    <message>
-        <source>After %1</source>
-        <translation>%1 后</translation>
-    </message>
-    <message>
-        <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
-        <translation>在所选范围内各处写入样本，读回后删除。只需几秒，可发现大多数虚假容量；但未发现问题并不能证明没有问题。</translation>
-    </message>
-    <message>
-        <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
-        <translation>将写入 %1，读回比较后删除。不会触及您的文件。</translation>
-    </message>
-    <message>
-        <source>All free space is written, read back, compared and removed. Your files are not touched.</source>
-        <translation>将写满全部可用空间，读回比较后删除。不会触及您的文件。</translation>
-    </message>
-    <message>
-        <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
-        <translation>将写满全部可用空间（约 %1），读回比较后删除。在大容量卷上需要数小时，期间此卷对其他程序而言是满的。不会触及您的文件。</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>%1 % of the check</source>
-        <translation>检查已完成 %1%</translation>
-    </message>
-    <message>
-        <source>in one part</source>
-        <translation>1 个区段</translation>
-    </message>
-    <message numerus="yes">
-        <source>in %1 parts</source>
-        <translation>
-            <numerusform>%1 个区段</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 to %2: %3</source>
-        <translation>%1 至 %2：%3</translation>
-    </message>
-    <message>
-        <source>Checked</source>
-        <translation>检查时间</translation>
-    </message>
-    <message>
-        <source>Text copied</source>
-        <translation>已复制文本</translation>
-    </message>
-    <message>
-        <source>The text couldn&apos;t be copied.</source>
-        <translation>无法复制文本。</translation>
-    </message>
-    <message>
-        <source>The file couldn&apos;t be saved: %1</source>
-        <translation>无法保存文件：%1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>已保存为“%1”</translation>
-    </message>
-</context>
-<context>
-    <name>LiveRun</name>
-    <message>
-        <source>done</source>
-        <translation>已完成</translation>
-    </message>
-    <message>
-        <source>running</source>
-        <translation>进行中</translation>
-    </message>
-    <message>
-        <source>to come</source>
-        <translation>待进行</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>%1: %2, %3</source>
-        <translation>%1：%2，%3</translation>
-    </message>
-    <message>
-        <source>A few seconds</source>
-        <translation>几秒钟</translation>
-    </message>
-    <message>
-        <source>About %1 s</source>
-        <translation>约 %1 s</translation>
-    </message>
-    <message>
-        <source>About %1 min</source>
-        <translation>约 %1 min</translation>
-    </message>
-    <message>
-        <source>About %1 h</source>
-        <translation>约 %1 h</translation>
-    </message>
-    <message>
-        <source>%1 left</source>
-        <translation>剩余 %1</translation>
-    </message>
-    <message>
-        <source>%1 left of this test</source>
-        <translation>本项测试剩余 %1</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>%1 operations</source>
-        <translation>%1 次操作</translation>
-    </message>
-    <message>
-        <source>Preparing…</source>
-        <translation>正在准备…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1%</translation>
-    </message>
-</context>
-<context>
     <name>LiveRunPane</name>
     <message>
         <source>%1: %2 %</source>
@@ -1190,45 +1047,6 @@ min %2</source>
     </message>
 </context>
 <context>
-    <name>RunExports</name>
-    <message>
-        <source>%1 runs</source>
-        <translation>%1 条测试记录</translation>
-    </message>
-    <message>
-        <source>Text copied</source>
-        <translation>已复制文本</translation>
-    </message>
-    <message>
-        <source>Table copied</source>
-        <translation>已复制表格</translation>
-    </message>
-    <message>
-        <source>The text couldn&apos;t be copied.</source>
-        <translation>无法复制文本。</translation>
-    </message>
-    <message>
-        <source>Lists of runs</source>
-        <translation>测试记录列表</translation>
-    </message>
-    <message>
-        <source>Tarnwick runs</source>
-        <translation>Tarnwick 测试记录</translation>
-    </message>
-    <message>
-        <source>CSV tables</source>
-        <translation>CSV 表格</translation>
-    </message>
-    <message>
-        <source>The file couldn&apos;t be saved: %1</source>
-        <translation>无法保存文件：%1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>已保存为“%1”</translation>
-    </message>
-</context>
-<context>
     <name>RunHeadline</name>
     <message>
         <source>Sequential Write</source>
@@ -1322,97 +1140,6 @@ min %2</source>
     <message>
         <source>What these remarks mean</source>
         <translation>这些说明的含义</translation>
-    </message>
-</context>
-<context>
-    <name>Runs</name>
-    <message>
-        <source>reference</source>
-        <translation>参照</translation>
-    </message>
-    <message>
-        <source>Not the disk’s figure: %1</source>
-        <translation>非磁盘数值：%1</translation>
-    </message>
-    <message>
-        <source>Not the disk’s figures: %1</source>
-        <translation>非磁盘数值：%1</translation>
-    </message>
-    <message>
-        <source>Random %1 read</source>
-        <translation>随机 %1 读取</translation>
-    </message>
-    <message>
-        <source>Random %1 write</source>
-        <translation>随机 %1 写入</translation>
-    </message>
-    <message>
-        <source>File operations</source>
-        <translation>文件操作</translation>
-    </message>
-    <message>
-        <source>Read/Write</source>
-        <translation>读取/写入</translation>
-    </message>
-    <message>
-        <source>Write</source>
-        <translation>写入</translation>
-    </message>
-    <message>
-        <source>Read</source>
-        <translation>读取</translation>
-    </message>
-    <message>
-        <source>Random</source>
-        <translation>随机</translation>
-    </message>
-    <message>
-        <source>Drive</source>
-        <translation>驱动器</translation>
-    </message>
-    <message>
-        <source>File system</source>
-        <translation>文件系统</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>容量</translation>
-    </message>
-    <message>
-        <source>Free</source>
-        <translation>可用</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>大小</translation>
-    </message>
-    <message>
-        <source>Cache</source>
-        <translation>缓存</translation>
-    </message>
-    <message>
-        <source>Bypassed</source>
-        <translation>已绕过</translation>
-    </message>
-    <message>
-        <source>Cached</source>
-        <translation>已使用</translation>
-    </message>
-    <message>
-        <source>Figures copied</source>
-        <translation>已复制数值</translation>
-    </message>
-    <message>
-        <source>The figures couldn&apos;t be copied.</source>
-        <translation>无法复制数值。</translation>
-    </message>
-    <message>
-        <source>%1, not the disk’s figure</source>
-        <translation>%1，非磁盘数值</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>网络</translation>
     </message>
 </context>
 <context>
@@ -1510,33 +1237,6 @@ min %2</source>
     </message>
 </context>
 <context>
-    <name>SharedImage</name>
-    <message>
-        <source>Image copied</source>
-        <translation>已复制图片</translation>
-    </message>
-    <message>
-        <source>The image couldn&apos;t be copied.</source>
-        <translation>无法复制图片。</translation>
-    </message>
-    <message>
-        <source>The image couldn&apos;t be saved: %1</source>
-        <translation>无法保存图片：%1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>已保存为“%1”</translation>
-    </message>
-    <message>
-        <source>The folder couldn&apos;t be opened.</source>
-        <translation>无法打开文件夹。</translation>
-    </message>
-    <message>
-        <source>No mail program could be opened.</source>
-        <translation>无法打开任何邮件程序。</translation>
-    </message>
-</context>
-<context>
     <name>SidebarView</name>
     <message>
         <source>Tests and Settings</source>
@@ -1599,73 +1299,6 @@ min %2</source>
     <message>
         <source>I’ve Already Supported %1</source>
         <translation>我已赞助过 %1</translation>
-    </message>
-</context>
-<context>
-    <name>TargetFacts</name>
-    <message>
-        <source>Case not known</source>
-        <translation>大小写区分未知</translation>
-    </message>
-    <message>
-        <source>Case-sensitive</source>
-        <translation>区分大小写</translation>
-    </message>
-    <message>
-        <source>Case-insensitive</source>
-        <translation>不区分大小写</translation>
-    </message>
-    <message>
-        <source>The folder couldn&apos;t be opened.</source>
-        <translation>无法打开文件夹。</translation>
-    </message>
-    <message>
-        <source>File system</source>
-        <translation>文件系统</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>格式</translation>
-    </message>
-    <message>
-        <source>Optimal I/O size</source>
-        <translation>最佳 I/O 大小</translation>
-    </message>
-    <message>
-        <source>Block size</source>
-        <translation>块大小</translation>
-    </message>
-    <message>
-        <source>Max filename</source>
-        <translation>最长文件名</translation>
-    </message>
-    <message>
-        <source>%1 chars</source>
-        <translation>%1 个字符</translation>
-    </message>
-    <message>
-        <source>Max path</source>
-        <translation>最长路径</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>容量</translation>
-    </message>
-    <message>
-        <source>Free</source>
-        <translation>可用</translation>
-    </message>
-    <message>
-        <source>Not known: %1</source>
-        <translation>未知：%1</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>、 </translation>
-    </message>
-    <message>
-        <source>No S.M.A.R.T. figures: %1</source>
-        <translation>无 S.M.A.R.T. 数值：%1</translation>
     </message>
 </context>
 <context>
@@ -1759,6 +1392,306 @@ min %2</source>
     </message>
 </context>
 <context>
+    <name>TarnwickKit::views::LanguageSetting</name>
+    <message>
+        <source>Like the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::LiveCheck</name>
+    <message>
+        <source>All free space</source>
+        <translation>全部可用空间</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>After %1</source>
+        <translation>%1 后</translation>
+    </message>
+    <message>
+        <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
+        <translation>在所选范围内各处写入样本，读回后删除。只需几秒，可发现大多数虚假容量；但未发现问题并不能证明没有问题。</translation>
+    </message>
+    <message>
+        <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
+        <translation>将写入 %1，读回比较后删除。不会触及您的文件。</translation>
+    </message>
+    <message>
+        <source>All free space is written, read back, compared and removed. Your files are not touched.</source>
+        <translation>将写满全部可用空间，读回比较后删除。不会触及您的文件。</translation>
+    </message>
+    <message>
+        <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
+        <translation>将写满全部可用空间（约 %1），读回比较后删除。在大容量卷上需要数小时，期间此卷对其他程序而言是满的。不会触及您的文件。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 % of the check</source>
+        <translation>检查已完成 %1%</translation>
+    </message>
+    <message>
+        <source>in one part</source>
+        <translation>1 个区段</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 parts</source>
+        <translation>
+            <numerusform>%1 个区段</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3</source>
+        <translation>%1 至 %2：%3</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>检查时间</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>已复制文本</translation>
+    </message>
+    <message>
+        <source>The text couldn&apos;t be copied.</source>
+        <translation>无法复制文本。</translation>
+    </message>
+    <message>
+        <source>The file couldn&apos;t be saved: %1</source>
+        <translation>无法保存文件：%1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>已保存为“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::LiveRun</name>
+    <message>
+        <source>done</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>进行中</translation>
+    </message>
+    <message>
+        <source>to come</source>
+        <translation>待进行</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1：%2，%3</translation>
+    </message>
+    <message>
+        <source>A few seconds</source>
+        <translation>几秒钟</translation>
+    </message>
+    <message>
+        <source>About %1 s</source>
+        <translation>约 %1 s</translation>
+    </message>
+    <message>
+        <source>About %1 min</source>
+        <translation>约 %1 min</translation>
+    </message>
+    <message>
+        <source>About %1 h</source>
+        <translation>约 %1 h</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>剩余 %1</translation>
+    </message>
+    <message>
+        <source>%1 left of this test</source>
+        <translation>本项测试剩余 %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 operations</source>
+        <translation>%1 次操作</translation>
+    </message>
+    <message>
+        <source>Preparing…</source>
+        <translation>正在准备…</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::RunExports</name>
+    <message>
+        <source>%1 runs</source>
+        <translation>%1 条测试记录</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>已复制文本</translation>
+    </message>
+    <message>
+        <source>Table copied</source>
+        <translation>已复制表格</translation>
+    </message>
+    <message>
+        <source>The text couldn&apos;t be copied.</source>
+        <translation>无法复制文本。</translation>
+    </message>
+    <message>
+        <source>Lists of runs</source>
+        <translation>测试记录列表</translation>
+    </message>
+    <message>
+        <source>Tarnwick runs</source>
+        <translation>Tarnwick 测试记录</translation>
+    </message>
+    <message>
+        <source>CSV tables</source>
+        <translation>CSV 表格</translation>
+    </message>
+    <message>
+        <source>The file couldn&apos;t be saved: %1</source>
+        <translation>无法保存文件：%1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>已保存为“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::Runs</name>
+    <message>
+        <source>reference</source>
+        <translation>参照</translation>
+    </message>
+    <message>
+        <source>Not the disk’s figure: %1</source>
+        <translation>非磁盘数值：%1</translation>
+    </message>
+    <message>
+        <source>Not the disk’s figures: %1</source>
+        <translation>非磁盘数值：%1</translation>
+    </message>
+    <message>
+        <source>Random %1 read</source>
+        <translation>随机 %1 读取</translation>
+    </message>
+    <message>
+        <source>Random %1 write</source>
+        <translation>随机 %1 写入</translation>
+    </message>
+    <message>
+        <source>File operations</source>
+        <translation>文件操作</translation>
+    </message>
+    <message>
+        <source>Read/Write</source>
+        <translation>读取/写入</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>读取</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>随机</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>驱动器</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>文件系统</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>可用</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Cache</source>
+        <translation>缓存</translation>
+    </message>
+    <message>
+        <source>Bypassed</source>
+        <translation>已绕过</translation>
+    </message>
+    <message>
+        <source>Cached</source>
+        <translation>已使用</translation>
+    </message>
+    <message>
+        <source>Figures copied</source>
+        <translation>已复制数值</translation>
+    </message>
+    <message>
+        <source>The figures couldn&apos;t be copied.</source>
+        <translation>无法复制数值。</translation>
+    </message>
+    <message>
+        <source>%1, not the disk’s figure</source>
+        <translation>%1，非磁盘数值</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickKit::views::SharedImage</name>
+    <message>
+        <source>Image copied</source>
+        <translation>已复制图片</translation>
+    </message>
+    <message>
+        <source>The image couldn&apos;t be copied.</source>
+        <translation>无法复制图片。</translation>
+    </message>
+    <message>
+        <source>The image couldn&apos;t be saved: %1</source>
+        <translation>无法保存图片：%1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>已保存为“%1”</translation>
+    </message>
+    <message>
+        <source>The folder couldn&apos;t be opened.</source>
+        <translation>无法打开文件夹。</translation>
+    </message>
+    <message>
+        <source>No mail program could be opened.</source>
+        <translation>无法打开任何邮件程序。</translation>
+    </message>
+</context>
+<context>
     <name>TarnwickKit::views::TargetFacts</name>
     <message>
         <source>Sparse files</source>
@@ -1783,6 +1716,70 @@ min %2</source>
     <message>
         <source>Xattr</source>
         <translation>扩展属性</translation>
+    </message>
+    <message>
+        <source>Case not known</source>
+        <translation>大小写区分未知</translation>
+    </message>
+    <message>
+        <source>Case-sensitive</source>
+        <translation>区分大小写</translation>
+    </message>
+    <message>
+        <source>Case-insensitive</source>
+        <translation>不区分大小写</translation>
+    </message>
+    <message>
+        <source>The folder couldn&apos;t be opened.</source>
+        <translation>无法打开文件夹。</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>文件系统</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Optimal I/O size</source>
+        <translation>最佳 I/O 大小</translation>
+    </message>
+    <message>
+        <source>Block size</source>
+        <translation>块大小</translation>
+    </message>
+    <message>
+        <source>Max filename</source>
+        <translation>最长文件名</translation>
+    </message>
+    <message>
+        <source>%1 chars</source>
+        <translation>%1 个字符</translation>
+    </message>
+    <message>
+        <source>Max path</source>
+        <translation>最长路径</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>可用</translation>
+    </message>
+    <message>
+        <source>Not known: %1</source>
+        <translation>未知：%1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、 </translation>
+    </message>
+    <message>
+        <source>No S.M.A.R.T. figures: %1</source>
+        <translation>无 S.M.A.R.T. 数值：%1</translation>
     </message>
 </context>
 <context>

@@ -20,6 +20,8 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 namespace OndelCore::capacity {
 namespace {
@@ -216,6 +218,17 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"goneWhileReading",
              [](Bent& bent) { bent.pread = Bent::failing(::pread, 3 * mebibyte, ENOTCONN); },
              "fails: read: Transport endpoint is not connected"},
+        Case{"nothingAnswersAnyMore",
+             [](Bent& bent) {
+                 bent.endWritingAt(3 * mebibyte, EIO);
+                 bent.pread = [](int, void*, std::size_t, off_t) { return errno = EIO, ssize_t{-1}; };
+             },
+             "fails: write: Input/output error"},
+        Case{"nothingCanBeReadBack",
+             [](Bent& bent) {
+                 bent.pread = [](int, void*, std::size_t, off_t) { return errno = EIO, ssize_t{-1}; };
+             },
+             "fails: read: Input/output error"},
         Case{"noRoomAtTheFlush",
              [](Bent& bent) {
                  bent.fileBytes = 4 * mebibyte;
@@ -325,13 +338,19 @@ TEST(CapacityCheck, stopsInEachPhaseAndRemovesItsFolder) {
 }
 
 TEST(CapacityCheck, leavesAFolderForTheSweepWhenItIsKilled) {
-    for (const char* phase : {"writing", "reading", "waiting"}) {
+    const std::vector<std::string> whole{"--again", "3600"};
+    const std::vector<std::string> quick{"--quick", "--again", "3600"};
+    const std::vector<std::pair<const char*, const std::vector<std::string>*>> table{
+        {"writing", &whole},  {"reading", &whole}, {"waiting", &whole}, {"preparing", &quick},
+        {"sampling", &quick}, {"reading", &quick}, {"waiting", &quick}};
+    for (const auto& [phase, options] : table) {
         const test::TemporaryFolder folder;
         {
-            test::Program check(
-                {CHECK_FOLDER, folder.path().string(), "--size", "67108864", "--again", "3600", "--phases"});
-            while (check.line() != std::string("phase ") + phase) {
-            }
+            std::vector<std::string> command{
+                CHECK_FOLDER, folder.path().string(), "--size", "67108864", "--stay-in", phase};
+            command.insert(command.end(), options->begin(), options->end());
+            test::Program check(command);
+            ASSERT_EQ(check.line(), std::string("phase ") + phase);
             EXPECT_EQ(benchmark::BenchmarkEngine::cleanupOrphans(folder.path(), std::chrono::milliseconds(0)),
                       1U)
                 << "a folder in use was swept";
