@@ -2,6 +2,8 @@
 
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/Plural.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QCoreApplication>
@@ -9,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -29,11 +30,6 @@ constexpr std::int64_t blockBytes = 4096;
 constexpr std::int64_t countedBlocks = 10000;
 
 std::int64_t blocksIn(std::int64_t bytes) { return bytes / blockBytes + (bytes % blockBytes > 0 ? 1 : 0); }
-
-/// For a translation, which chooses its plural by it.
-int plural(std::int64_t count) {
-    return static_cast<int>(std::min<std::int64_t>(count, std::numeric_limits<int>::max()));
-}
 
 QString counted(std::int64_t count) { return Format::grouped(static_cast<double>(count)); }
 
@@ -403,7 +399,8 @@ std::vector<CapacityFact> capacityFacts(const CapacityRecord& check) {
     const CapacityResult& result = check.result;
     std::vector<CapacityFact> facts;
     addText(facts, CapacityText::tr("Volume"),
-            {check.volumeName, check.connection, check.fsType.value_or(QString())});
+            {volumeNameText(check.volumeName), connectionText(check.connection),
+             check.fsType.value_or(QString())});
     addText(facts, CapacityText::tr("Drive"),
             {check.deviceModel.value_or(QString()), check.deviceProtocol.value_or(QString())});
     addSizes(facts, check);

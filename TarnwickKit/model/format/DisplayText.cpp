@@ -1,5 +1,6 @@
 #include "TarnwickKit/model/format/DisplayText.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QTextBoundaryFinder>
 
@@ -10,6 +11,10 @@ namespace TarnwickKit::model {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct DisplayText {
+    Q_DECLARE_TR_FUNCTIONS(DisplayText)
+};
 
 constexpr char32_t mark = QChar::ReplacementCharacter;
 constexpr char32_t zeroWidthNonJoiner = 0x200C; // Persian and Indic scripts need it
@@ -102,14 +107,16 @@ QString fitted(const QString& text, int columns) {
 
 QString refusal(const std::vector<std::string>& names, bool isRun) {
     constexpr int nameColumns = 40;
-    const QString first =
-        QChar(0x201C) + fitted(QString::fromStdString(names.front()), nameColumns) + QChar(0x201D);
+    const QString first = fitted(QString::fromStdString(names.front()), nameColumns);
     if (names.size() == 1)
-        return first + (isRun ? u" is damaged or not a Tarnwick run."_s
-                              : u" is not a folder or a run file that can be opened."_s);
-    return first + u" and %1 more "_s.arg(names.size() - 1) +
-           (isRun ? u"are damaged or not Tarnwick runs."_s
-                  : u"are not folders or run files that can be opened."_s);
+        return (isRun ? DisplayText::tr("“%1” is damaged or not a Tarnwick run.")
+                      : DisplayText::tr("“%1” is not a folder or a run file that can be opened."))
+            .arg(first);
+    const auto more = static_cast<int>(names.size() - 1);
+    return (isRun ? DisplayText::tr("“%1” and %2 more are damaged or not Tarnwick runs.", nullptr, more)
+                  : DisplayText::tr("“%1” and %2 more are not folders or run files that can be opened.",
+                                    nullptr, more))
+        .arg(first, QString::number(more));
 }
 
 std::string quoted(std::string_view typed) {
