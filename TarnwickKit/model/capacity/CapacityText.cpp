@@ -335,7 +335,7 @@ void addDataNotes(QStringList& notes, const CapacityRecord& check) {
         notes << CapacityText::tr("Only %1 % of what was read came from the disk. Check more than the "
                                   "machine’s memory can hold.")
                      .arg(static_cast<int>(100 * check.result.read.shareAtDisk.value_or(0)));
-    else if (!check.result.read.shareAtDisk && check.result.verified > 0)
+    else if (!check.result.read.shareAtDisk && check.result.verified > 0 && !check.wasStopped)
         notes << CapacityText::tr("The disk behind this volume cannot be seen, so what came back may have "
                                   "come from a cache.");
 }
