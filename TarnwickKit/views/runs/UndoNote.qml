@@ -27,7 +27,7 @@ Card {
 
         PlainText {
             anchors.verticalCenter: parent.verticalCenter
-            text: note.analyzer.undoableRuns > 1 ? qsTr("%1 runs deleted").arg(note.analyzer.undoableRuns) : qsTr("Run deleted")
+            text: note.analyzer.undoableRuns > 1 ? qsTr("%n runs deleted", "", note.analyzer.undoableRuns) : qsTr("Run deleted")
             font: Typeface.text(13)
             color: PaletteKey.palette.text
         }

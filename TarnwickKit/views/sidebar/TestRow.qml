@@ -23,6 +23,7 @@ ToggleButton {
 
     hint: explanation
     explains: true
+    //: %1 is the figure of a test, %2 what the test does
     detail: figure === "" ? explanation : qsTr("%1. %2").arg(Runs.spoken(figure, isMarked)).arg(explanation)
 
     background: Card {
