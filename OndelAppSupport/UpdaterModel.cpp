@@ -3,6 +3,7 @@
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/updates/PackageLoad.h"
 #include "OndelCore/logging/Log.h"
+#include "OndelCore/platform/process/Sandbox.h"
 #include "OndelCore/platform/storage/PrivateFolder.h"
 
 #include <QSysInfo>
@@ -56,7 +57,10 @@ UpdaterEnvironment::UpdaterEnvironment()
     : folder(OndelCore::platform::privateTemporaryFolder)
     , platforms{QSysInfo::kernelType(),
                 QSysInfo::kernelType() + QLatin1Char('-') + QSysInfo::buildCpuArchitecture()}
-    , systemVersion(QSysInfo::kernelVersion()) {}
+    , systemVersion(QSysInfo::kernelVersion()) {
+    if (OndelCore::platform::sandbox())
+        build = InformationDictionary({}); // without a feed: the store updates the program
+}
 
 UpdaterController::UpdaterController(UpdaterEnvironment environment, QObject* parent)
     : QObject(parent)

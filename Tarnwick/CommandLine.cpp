@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -20,15 +22,28 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// Those that the desktop entry lists. An option has an action's name.
+constexpr std::array<std::string_view, 2> optionActions{"check-capacity", "choose-folder"};
+
+std::string_view actionOf(std::string_view word) {
+    if (!word.starts_with("--"))
+        return {};
+    const auto* const found = std::ranges::find(optionActions, word.substr(2));
+    return found == optionActions.end() ? std::string_view() : *found;
+}
+
 struct CommandLineText {
     Q_DECLARE_TR_FUNCTIONS(CommandLineText)
 };
 
 QString usage() {
-    //: FOLDER, FILE and URL may be translated; tarnwick is the name of the command
-    return CommandLineText::tr("Usage: tarnwick [FOLDER | FILE | URL]...\n"
-                               "Opens the disk speed and volume analyzer, with the first folder chosen and "
-                               "run files (*.tarnwickrun) shown.\n");
+    //: tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay
+    return CommandLineText::tr(
+        "Usage: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...\n"
+        "Opens the disk speed and volume analyzer, with the first folder chosen and "
+        "run files (*.tarnwickrun) shown.\n"
+        "  --check-capacity  go on to the check of that folder's volume\n"
+        "  --choose-folder   ask for a folder\n");
 }
 
 void complain(const char* word) {
@@ -83,6 +98,8 @@ std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
     for (const char* word : wordsOf(argc, argv)) {
         if (!optionsHaveEnded && std::string_view(word) == "--") {
             optionsHaveEnded = true;
+        } else if (const auto action = actionOf(optionsHaveEnded ? "" : word); !action.empty()) {
+            line.action = action;
         } else if (!optionsHaveEnded && *word == '-') {
             std::fputs(qUtf8Printable(usage()), stderr);
             return std::nullopt;

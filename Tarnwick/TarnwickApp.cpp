@@ -8,7 +8,9 @@
 #include "Tarnwick/CommandLine.h"
 #include "Tarnwick/Product.h"
 #include "Tarnwick/Toolkit.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
+#include "TarnwickKit/views/window/LanguageSetting.h"
 
 #include <QCoreApplication>
 #include <QQmlComponent>
@@ -75,12 +77,16 @@ int TarnwickApp::run(int argc, char** argv) {
     if (!OndelCore::platform::sessionBusAnswers(busPatience))
         OndelCore::platform::doWithoutSessionBus();
     const auto application = startToolkit(argc, argv);
+    TarnwickKit::model::Language::install(TarnwickKit::views::LanguageSetting::code());
+    if (TarnwickKit::model::Language::isRightToLeft())
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     OpenRequests requests(product::id);
     OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
     const auto commandLine = CommandLine::parse(argc, argv);
     if (!commandLine)
         return 2;
     start.urls = commandLine->urls;
+    start.action = commandLine->action;
     if (const auto status = handOver(requests, start))
         return *status;
 
@@ -145,6 +151,9 @@ void TarnwickApp::finishWindow(QQuickWindow* window) {
 
 void TarnwickApp::finishLaunching(const OpenRequest& start) {
     m_delegate->applicationDidFinishLaunching();
-    m_delegate->open(start.urls, start.activationToken);
+    if (start.action.empty())
+        m_delegate->open(start.urls, start.activationToken);
+    else
+        m_delegate->take(start);
     m_requests.deliverTo([this](const OpenRequest& request) { return m_delegate->take(request); });
 }

@@ -2,6 +2,7 @@
 
 #include "OndelAppSupport/AppIdentity.h"
 #include "OndelAppSupport/https/HttpsExchange.h"
+#include "OndelCore/platform/process/Sandbox.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -74,6 +75,9 @@ void sendReport(const QByteArray& body, const BugReporter::Service& service, con
                                        .authorities = service.authorities,
                                        .patience = service.limit,
                                        .limit = service.limit};
+    if (const auto sandbox = OndelCore::platform::sandbox(); sandbox && !sandbox->hasNetwork)
+        throw ReportError(ReportError::Transport{QCoreApplication::translate(
+            "BugReporter", "The report can’t be sent from this sandbox, which has no network.")});
     try {
         https::exchange(request(body, service), connection, receiver, stop);
     } catch (const https::TransportError& error) {

@@ -225,6 +225,8 @@ TEST(BugReporter, ReadsTheSystem) {
     EXPECT_EQ(BugReporter::osVersion(path), "Some Linux 7");
     root.write("etc/os-release", "XPRETTY_NAME=no\nPRETTY_NAME=\"The \\\"Quoted\\\" Größe\"\nID=x\n");
     EXPECT_EQ(BugReporter::osVersion(path), "The \"Quoted\" Größe");
+    root.write("run/host/os-release", "PRETTY_NAME=Host\n");
+    EXPECT_EQ(BugReporter::osVersion(path), "Host") << "and not what a sandbox has";
     root.write("sys/class/dmi/id/product_name", "To Be Filled By O.E.M.\n");
     EXPECT_EQ(BugReporter::hardwareModel(path), "unknown");
     root.write("proc/device-tree/model", std::string("Board 5\0", 8));

@@ -36,6 +36,7 @@ struct BlockStack {
     std::vector<BlockDevice> layers;
     bool isEncrypted = false; ///< there is a dm-crypt layer
     bool isSealed = false;    ///< there is a dm-verity layer, which checks each block against a hash tree
+    bool isPartial = false;   ///< there may be more disks: a sandbox hides the kernel's list of a Btrfs
 };
 
 /// Threads: any. Fails: absent if the device tree has no block device of this number.

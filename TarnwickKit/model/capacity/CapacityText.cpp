@@ -88,12 +88,13 @@ struct BlockSentences {
 
 QString told(const BlockSentences& sentences, const CapacityResult& result, std::int64_t bytes) {
     const std::int64_t blocks = blocksIn(bytes);
+    // What could not be written is part of the whole, unless it is told alone, beside what was written.
+    const std::int64_t range = result.written + (bytes > result.writeFailed ? result.writeFailed : 0);
     const QString place = Format::bytes(firstDefect(result));
     if (blocks == 1)
         return CapacityText::tr(sentences.one).arg(place);
     if (blocks >= countedBlocks)
-        return CapacityText::tr(sentences.large)
-            .arg(Format::bytes(bytes), Format::bytes(result.written), place);
+        return CapacityText::tr(sentences.large).arg(Format::bytes(bytes), Format::bytes(range), place);
     const bool isTogether = mainDefects(result).size() == 1 && result.furtherDefects == 0;
     return CapacityText::tr(isTogether ? sentences.together : sentences.scattered, nullptr, plural(blocks))
         .arg(counted(blocks), place);
@@ -173,7 +174,9 @@ QString stoppedSentence(const CapacityResult& result) {
 QString quickSentence(const CapacityRecord& check) {
     const QString range = Format::bytes(check.result.planned);
     if (check.result.quick && !check.result.quick->isSpread)
-        return CapacityText::tr("The samples hold what was written, but they lie close together.");
+        return CapacityText::tr("This file system cannot spread samples: only %1 in one place were checked, "
+                                "and hold what was written.")
+            .arg(Format::bytes(check.result.written));
     return check.size
                ? CapacityText::tr("Samples all over %1 hold what was written, which is no proof.").arg(range)
                : CapacityText::tr(
@@ -230,15 +233,20 @@ void addSizes(std::vector<CapacityFact>& facts, const CapacityRecord& check) {
     const CapacityResult& result = check.result;
     if (result.volumeTotal)
         facts.push_back({CapacityText::tr("Claimed size"), decimalSize(*result.volumeTotal)});
-    if (result.realSize)
-        facts.push_back({CapacityText::tr("Real size"), decimalSize(result.realSize->bytes), true});
+    if (result.realSize) {
+        const QString size = decimalSize(result.realSize->bytes);
+        facts.push_back({CapacityText::tr("Real size"),
+                         result.realSize->isExact ? size : CapacityText::tr("about %1").arg(size), true});
+    }
     const QString range = Format::bytes(result.planned);
     facts.push_back({CapacityText::tr("Space to check"),
                      check.size ? range : CapacityText::tr("%1 of free space").arg(range)});
-    if (result.quick)
+    if (result.quick && result.quick->isSpread)
         facts.push_back({CapacityText::tr("Samples"),
                          CapacityText::tr("%1, one every %2")
                              .arg(counted(result.quick->samples), Format::block(result.quick->spacing))});
+    else if (result.quick && !check.wasStopped)
+        facts.push_back({CapacityText::tr("Samples"), CapacityText::tr("In one place")});
 }
 
 QString pausedSentence(const CapacityDefect& defect, const QString& sentence) {
@@ -300,6 +308,25 @@ QString limitsNote() {
                             "drive keeps in reserve, and whether a repaired block will last.");
 }
 
+QString quickNote(const CapacityRecord& check) {
+    if (!check.result.quick->isSpread && !check.wasStopped)
+        return CapacityText::tr("This file system sets no space aside without writing it, so the samples "
+                                "could not be spread. The result says nothing about the size of the volume: "
+                                "run a check that is not quick.");
+    return check.isBad() ? CapacityText::tr("A quick check writes a few places only: what lies between them "
+                                            "was not looked at.")
+                         : CapacityText::tr("A quick check writes a few places only. It finds most false "
+                                            "capacities in seconds; finding nothing proves nothing.");
+}
+
+/// Why less was written than planned.
+QString shortNote(const CapacityRecord& check) {
+    return check.isBad() && check.result.earlyEnd == EarlyEnd::full
+               ? CapacityText::tr("Less was checked than planned: the volume was full too early. It may have "
+                                  "lost data of the file system itself.")
+               : CapacityText::tr("Less was checked than planned: other programs may have taken the space.");
+}
+
 void addDataNotes(QStringList& notes, const CapacityRecord& check) {
     const auto reach = check.result.circumstances.reach;
     if (reach == OndelCore::platform::FileSystemReach::memory)
@@ -352,13 +379,18 @@ QString capacitySentence(const CapacityRecord& check) {
 QStringList capacityNotes(const CapacityRecord& check) {
     QStringList notes;
     const CapacityResult& result = check.result;
+    if (result.realSize)
+        notes << CapacityText::tr("What is written beyond its real size is lost, or destroys what lies "
+                                  "elsewhere on it. Copy what you need from it, and do not trust it.");
     if (check.wasStopped && check.isBad())
         notes << CapacityText::tr("The check was stopped: what it had not read back is not known.");
+    if (result.unreadable > 0 && result.circumstances.checksumsData)
+        notes << CapacityText::tr("This file system returns nothing that does not match its checksums: "
+                                  "changed data cannot be read on it.");
     if (result.quick)
-        notes << CapacityText::tr("A quick check writes a few places only. It finds most false capacities in "
-                                  "seconds; finding nothing proves nothing.");
+        notes << quickNote(check);
     if (result.earlyEnd && result.earlyEnd != EarlyEnd::writeErrors && !check.isWhole())
-        notes << CapacityText::tr("Less was checked than planned: other programs may have taken the space.");
+        notes << shortNote(check);
     addDataNotes(notes, check);
     return notes << limitsNote();
 }

@@ -19,7 +19,8 @@ struct ComparisonText {
     Q_DECLARE_TR_FUNCTIONS(ComparisonText)
 };
 
-/// What a metric of `CompareMetric::all` is called in the user's language.
+} // namespace
+
 QString labelOf(BenchmarkTest test) {
     switch (test) {
     case BenchmarkTest::sequentialWrite:
@@ -38,8 +39,6 @@ QString labelOf(BenchmarkTest test) {
     //: File operations, where there is little room
     return ComparisonText::tr("File ops");
 }
-
-} // namespace
 
 QString operationsPerSecond() {
     //: A unit, like IOPS: file operations per second

@@ -56,6 +56,24 @@ QList<QPointF> pointsOf(const OndelCore::capacity::CapacityPass& pass, std::int6
     return list;
 }
 
+/// 0: the result does not tell.
+std::int64_t bytesIn(BlockState state, const OndelCore::capacity::CapacityResult& result) {
+    switch (state) {
+    case BlockState::untouched:
+    case BlockState::written:
+        break;
+    case BlockState::verified:
+        return result.verified;
+    case BlockState::wrong:
+        return result.wrong;
+    case BlockState::unreadable:
+        return result.unreadable;
+    case BlockState::writeFailed:
+        return result.writeFailed;
+    }
+    return 0;
+}
+
 QByteArray bytesOf(const std::vector<BlockState>& states) {
     QByteArray bytes;
     bytes.reserve(std::ssize(states));
@@ -230,10 +248,9 @@ void LiveCheck::setMap(const std::vector<BlockState>& states, std::int64_t range
     for (const BlockState state : {BlockState::untouched, BlockState::written, BlockState::verified,
                                    BlockState::wrong, BlockState::unreadable, BlockState::writeFailed}) {
         const auto count = std::ranges::count(states, state);
-        if (count == 0 && state == BlockState::writeFailed)
-            continue; // it is rare
-        m_kinds.append(
-            {QByteArray(1, static_cast<char>(state)), model::blockStateName(state), amountOf(state, count)});
+        if (count > 0)
+            m_kinds.append({QByteArray(1, static_cast<char>(state)), model::blockStateName(state),
+                            amountOf(state, count)});
     }
     Q_EMIT mapChanged();
 }
@@ -241,24 +258,9 @@ void LiveCheck::setMap(const std::vector<BlockState>& states, std::int64_t range
 /// Of what is wrong a cell tells no more than that there is some; a record knows how much. `cells`: those in
 /// this state.
 QString LiveCheck::amountOf(BlockState state, std::int64_t cells) const {
-    if (cells == 0)
-        return {};
-    if (m_record && !m_record->wasStopped) {
-        const auto& result = m_record->result;
-        switch (state) {
-        case BlockState::untouched:
-        case BlockState::written:
-            break;
-        case BlockState::verified:
-            return Format::bytes(result.verified);
-        case BlockState::wrong:
-            return Format::bytes(result.wrong);
-        case BlockState::unreadable:
-            return Format::bytes(result.unreadable);
-        case BlockState::writeFailed:
-            return Format::bytes(result.writeFailed);
-        }
-    }
+    const std::int64_t known = m_record && !m_record->wasStopped ? bytesIn(state, m_record->result) : 0;
+    if (known > 0)
+        return Format::bytes(known);
     if (state >= BlockState::wrong)
         return cells == 1 ? LiveCheckText::tr("in one part")
                           : LiveCheckText::tr("in %1 parts", nullptr, static_cast<int>(cells)).arg(cells);

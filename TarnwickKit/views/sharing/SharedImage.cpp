@@ -1,8 +1,10 @@
 #include "TarnwickKit/views/sharing/SharedImage.h"
 
 #include "OndelDesktop/FileHandOff.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/views/sharing/FileWriting.h"
 #include "TarnwickKit/views/window/Dialogs.h"
+#include "TarnwickKit/views/window/LanguageSetting.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
@@ -33,11 +35,13 @@ SharedImage::SharedImage(QObject* parent)
 SharedImage::~SharedImage() = default;
 
 void SharedImage::makeReport(const model::RunRecord& run, const Palette* palette) {
+    const model::EnglishTexts english(LanguageSetting::wantsEnglishCards());
     if (!isBusy())
         await(ReportImage::renderLater(run, *palette));
 }
 
 void SharedImage::makeComparison(const ComparedRuns& runs, const Palette* palette) {
+    const model::EnglishTexts english(LanguageSetting::wantsEnglishCards());
     if (!isBusy())
         await(ComparisonImage::renderLater(runs.runs, *palette));
 }

@@ -103,6 +103,15 @@ TEST_F(BlockStackTest, IncludesAllDevicesOfAFileSystem) {
     EXPECT_EQ(disksOf("btrfs", makedev(8, 16), "/dev/sdb"), "sdb ");
     EXPECT_EQ(disksOf("btrfs", makedev(8, 0), "/dev/sda"), "sda ");
     EXPECT_EQ(namesOf(blockStackNamed("/dev/sda1", machine.sources())), "sda sdb ");
+    SystemSources hidden = machine.sources();
+    hidden.sysfs /= "no such folder";
+    const auto isPartial = [](const char* type, const SystemSources& sources) {
+        return blockStack(Mount{.device = makedev(0, 40), .type = type, .source = "/dev/sda1"}, sources)
+            .isPartial;
+    };
+    EXPECT_TRUE(isPartial("btrfs", hidden)) << "there may be other disks";
+    EXPECT_FALSE(isPartial("btrfs", machine.sources()));
+    EXPECT_FALSE(isPartial("ext4", hidden));
     EXPECT_EQ(namesOf(blockStackNamed("/dev/none", machine.sources())), "");
 
     const FileDescriptor folder(open(machine.folder().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

@@ -48,6 +48,7 @@ TEST(VisibleMounts, AreTheVolumesThatPeopleExpect) {
         {"container-host", {"/", "/boot", "/tank", "/mnt/a", "/mnt/b"}},
         {"inside-a-container", {"/", "/data-folder"}},
         {"btrfs-subvolumes", {"/", "/mnt/photos"}},
+        {"flatpak", {"/mnt/archive", "/home", "/run/media/ada/STICK"}},
         {"stacked-and-bound",
          {"/", "/d", "/mnt", "/media/usb", "/net/filer/vol", "/misc/nas", "/media/two lines\nand\\more\ttab",
           "/srv/caf\xe9"}},

@@ -1,3 +1,4 @@
+#include "OndelCore/platform/process/Sandbox.h"
 #include "OndelCore/platform/process/StandardFolders.h"
 #include "OndelCore/platform/process/UnifiedLog.h"
 #include "OndelCore/platform/process/UserFacts.h"
@@ -46,6 +47,28 @@ TEST(StandardFolders, UseTheEnvironmentThenTheUserDatabase) {
         EXPECT_EQ(homeFolder(), user->pw_dir);
         EXPECT_EQ(userFacts().homeFolder, user->pw_dir);
         EXPECT_EQ(userFacts().shortName, user->pw_name);
+    }
+}
+
+TEST(Sandbox, TellsWhetherItHasANetwork) {
+    const test::TemporaryFolder folder;
+    EXPECT_FALSE(sandbox(folder.path()));
+    struct Case {
+        const char* description;
+        bool hasNetwork;
+    };
+    for (const auto& [description, hasNetwork] : {
+             Case{"", false},
+             Case{"[Context]\nshared=ipc;\nsockets=network;\n", false},
+             Case{"[Context]\nshared=networks;my network;\n", false},
+             Case{"[Policy]\nshared=network;\n", false},
+             Case{"[Context]\nshared=network;ipc;\n", true},
+             Case{"[Context]\nshared=ipc;network\n[Policy]\nshared=ipc;\n", true},
+         }) {
+        std::ofstream(folder.path() / ".flatpak-info") << description;
+        const auto found = sandbox(folder.path());
+        ASSERT_TRUE(found) << description;
+        EXPECT_EQ(found->hasNetwork, hasNetwork) << description;
     }
 }
 

@@ -263,7 +263,10 @@ BlockStack blockStack(dev_t number, const SystemSources& sources) {
 }
 
 BlockStack blockStack(const Mount& mount, const SystemSources& sources) {
-    return stackUnder(devicesOfMount(mount, sources), sources);
+    BlockStack stack = stackUnder(devicesOfMount(mount, sources), sources);
+    std::error_code failed;
+    stack.isPartial = mount.type == "btrfs" && !fs::exists(sources.sysfs / "fs" / "btrfs", failed);
+    return stack;
 }
 
 BlockStack blockStackOfDescriptor(int descriptor, const SystemSources& sources) {

@@ -70,8 +70,11 @@ std::optional<std::int64_t> valueOf(std::string_view text, std::string_view name
 } // namespace
 
 std::unique_ptr<DiskWitness> diskWitness(int folder) {
+    const BlockStack stack = blockStackOfDescriptor(folder);
+    if (stack.isPartial) // what went to the other disks would read as memory's
+        return nullptr;
     std::vector<std::filesystem::path> folders;
-    for (const BlockDevice& disk : blockStackOfDescriptor(folder).wholeDisks)
+    for (const BlockDevice& disk : stack.wholeDisks)
         folders.push_back(disk.folder);
     return witnessOf(std::move(folders));
 }

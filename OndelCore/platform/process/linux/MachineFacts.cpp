@@ -96,8 +96,11 @@ std::optional<std::int64_t> kernelMemoryBytes() {
 } // namespace
 
 std::optional<std::string> systemName(const fs::path& root) {
-    const auto name = prettyNameIn(root / "etc/os-release");
-    return name ? name : prettyNameIn(root / "usr/lib/os-release");
+    // A container is told here what runs it (systemd.io/CONTAINER_INTERFACE).
+    for (const char* file : {"run/host/os-release", "etc/os-release", "usr/lib/os-release"})
+        if (auto name = prettyNameIn(root / file))
+            return name;
+    return std::nullopt;
 }
 
 std::optional<std::string> hardwareModel(const fs::path& root) {

@@ -41,6 +41,18 @@ constexpr std::array<std::string_view, 1> peoplesPlaces = {"/run/media"};
 // Places where containers mount files and folders of the host for internal use.
 constexpr std::array<std::string_view, 6> programPlaces = {"/etc", "/usr", "/bin", "/lib", "/lib64", "/sbin"};
 
+// Flatpak mounts its description of the sandbox here (flatpak-metadata(5)).
+constexpr std::string_view sandboxDescription = "/.flatpak-info";
+
+// The program, and its own folders below the home folder.
+constexpr std::array<std::string_view, 6> sandboxPlaces = {"/app",      "/var/cache", "/var/config",
+                                                           "/var/data", "/var/lib",   "/var/tmp"};
+
+// The host's root folder is not in a sandbox, but each folder in it is, as a mount. These belong to the
+// system and lead to volumes; the people's folders stand for the file system.
+constexpr std::array<std::string_view, 5> hostFolders = {"/lost+found", "/media", "/mnt", "/opt", "/srv"};
+constexpr std::array<std::string_view, 3> homePlaces = {"/home", "/root", "/var/home"};
+
 // FUSE programs of the desktop and the system without storage.
 constexpr std::array<std::string_view, 6> serviceTypes = {
     "fuse.gvfsd-fuse", "fuse.portal", "fuse.lxcfs", "fuse.snapfuse", "fuse.veracrypt", "fuse.squashfuse"};
@@ -152,6 +164,13 @@ bool isStorage(const Mount& mount, const std::string& type) {
     return mount.source != "/dev/fuse" && (mount.source.starts_with("/dev/") || major(mount.device) != 0);
 }
 
+/// Whether the mount exists in the sandbox alone.
+bool isOfSandbox(const Mount& mount) {
+    const std::string& place = mount.mountPoint.native();
+    const bool isHostFolder = contains(hostFolders, place) && mount.root.native().ends_with(place);
+    return (place == "/" && mount.type == "tmpfs") || isBelowAny(place, sandboxPlaces) || isHostFolder;
+}
+
 bool isVolume(const Mount& mount, const std::function<bool(const fs::path&)>& isFolder) {
     const std::string& place = mount.mountPoint.native();
     if (place == "/")
@@ -177,21 +196,33 @@ std::string identity(const Mount& mount) {
                                                                              : number;
 }
 
+/// A sandbox shows a file system only in parts.
+bool isNearer(const Mount& one, const Mount& other, bool isInSandbox) {
+    const std::string& place = one.mountPoint.native();
+    const std::string& otherPlace = other.mountPoint.native();
+    const bool isOfPeople = isInSandbox && isBelowAny(place, homePlaces);
+    const bool isOtherOfPeople = isInSandbox && isBelowAny(otherPlace, homePlaces);
+    return isOfPeople == isOtherOfPeople ? place.size() < otherPlace.size() : isOfPeople;
+}
+
 } // namespace
 
 std::vector<Mount> visibleMounts(std::vector<Mount> mounts,
                                  const std::function<bool(const fs::path&)>& isFolder) {
     Reachability reachability(mounts);
-    std::map<std::string, const Mount*> shortest;
+    const bool isInSandbox =
+        std::ranges::any_of(mounts, [](const Mount& one) { return one.mountPoint == sandboxDescription; });
+    std::map<std::string, const Mount*> nearest;
     for (const Mount& mount : mounts) {
-        if (!reachability.isReachable(mount) || !isVolume(mount, isFolder))
+        if (!reachability.isReachable(mount) || (isInSandbox && isOfSandbox(mount)) ||
+            !isVolume(mount, isFolder))
             continue;
-        const Mount*& best = shortest[identity(mount)];
-        if (!best || mount.mountPoint.native().size() < best->mountPoint.native().size())
+        const Mount*& best = nearest[identity(mount)];
+        if (!best || isNearer(mount, *best, isInSandbox))
             best = &mount;
     }
     std::unordered_set<const Mount*> chosen;
-    for (const auto& [volume, mount] : shortest)
+    for (const auto& [volume, mount] : nearest)
         chosen.insert(mount);
     std::vector<Mount> visible;
     for (Mount& mount : mounts)
