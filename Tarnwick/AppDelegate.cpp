@@ -10,6 +10,7 @@
 #include "TarnwickKit/model/capacity/CapacityChecks.h"
 #include "TarnwickKit/model/session/AnswerLater.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -26,6 +27,15 @@ namespace fs = std::filesystem;
 namespace platform = OndelCore::platform;
 
 namespace {
+
+struct AppDelegateText {
+    Q_DECLARE_TR_FUNCTIONS(AppDelegateText)
+};
+
+QString titleDuringRun(int percent, const QString& name) {
+    //: The title of the window during a run: how much is done, and the program's name
+    return AppDelegateText::tr("%1 % – %2").arg(percent).arg(name);
+}
 
 /// Desktops move the focus at once, or not at all.
 constexpr std::chrono::milliseconds focusPatience = std::chrono::seconds(1);
@@ -94,7 +104,7 @@ OndelAppSupport::UpdaterEnvironment AppDelegate::updaterEnvironment() {
 QString AppDelegate::windowTitle() const {
     const QString name = QString::fromLatin1(product::name);
     const auto percent = m_notifier.percent();
-    return percent ? tr("%1 % – %2").arg(*percent).arg(name) : name;
+    return percent ? titleDuringRun(*percent, name) : name;
 }
 
 QUrl AppDelegate::website() { return OndelAppSupport::AppIdentity::current().website; }

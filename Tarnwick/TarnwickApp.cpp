@@ -12,15 +12,17 @@
 #include "TarnwickKit/views/style/TarnwickFonts.h"
 #include "TarnwickKit/views/window/LanguageSetting.h"
 
+#include <QCoreApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTimer>
 
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <string>
+#include <optional>
 
 using OndelDesktop::HandOver;
 using OndelDesktop::OpenRequest;
@@ -41,6 +43,21 @@ void cleanUpAtExit() {
 const QUrl& windowFile() {
     static const QUrl file(QStringLiteral("qrc:/qt/qml/Tarnwick/TarnwickWindow.qml"));
     return file;
+}
+
+struct TarnwickAppText {
+    Q_DECLARE_TR_FUNCTIONS(TarnwickAppText)
+};
+
+QString noAnswerFrom(const std::optional<std::uint32_t>& process) {
+    if (!process)
+        return TarnwickAppText::tr(
+            "the window that is already open does not answer; it will do what was asked "
+            "as soon as it can.");
+    return TarnwickAppText::tr(
+               "the window that is already open (process %1) does not answer; it will do what "
+               "was asked as soon as it can.")
+        .arg(*process);
 }
 
 constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
@@ -88,12 +105,7 @@ std::optional<int> TarnwickApp::handOver(OpenRequests& requests, const OpenReque
     if (outcome == HandOver::Outcome::taken)
         return EXIT_SUCCESS;
     // It keeps the name and the messages sent to it until it continues or ends.
-    const std::string who = process ? " (process " + std::to_string(*process) + ")" : std::string();
-    std::fprintf(
-        stderr,
-        "tarnwick: the window that is already open%s does not answer; it will do what was asked as soon "
-        "as it can.\n",
-        who.c_str());
+    std::fprintf(stderr, "tarnwick: %s\n", qUtf8Printable(noAnswerFrom(process)));
     return EXIT_FAILURE;
 }
 

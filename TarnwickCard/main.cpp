@@ -4,6 +4,7 @@
 #include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/RunFiles.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/views/sharing/ReportImage.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
 
@@ -60,6 +61,7 @@ int main(int argc, char** argv) {
     try {
         const std::vector<const char*> words(argv + 1, argv + argc); // Qt takes some of them away
         const QGuiApplication application(argc, argv);
+        model::Language::install();
         const CommandLine line(options, words);
         return draw(line);
     } catch (const std::exception& error) {

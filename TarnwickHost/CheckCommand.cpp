@@ -11,6 +11,7 @@
 #include "TarnwickKit/model/capacity/CapacityCourse.h"
 #include "TarnwickKit/model/capacity/CapacityRecord.h"
 #include "TarnwickKit/model/capacity/CapacityText.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
 #include <QDateTime>
@@ -147,6 +148,7 @@ void follow(Check& check, RunEventLoop& watch) {
 void printRecord(const CapacityRecord& check, bool asJson) {
     if (!asJson)
         return print(capacityReport(check, lineStyle(STDOUT_FILENO)).toStdString());
+    const EnglishTexts english;
     const auto json = checkJson(check);
     if (!json)
         throw std::runtime_error(HostCheck::tr("The check could not be told as JSON.").toStdString());

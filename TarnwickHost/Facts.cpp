@@ -3,6 +3,8 @@
 #include "OndelCore/health/OndelSMARTFields.h"
 #include "TarnwickHost/HostText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/HealthText.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 
 #include <QJsonArray>
 
@@ -11,8 +13,7 @@
 
 using namespace OndelCore::health;
 using namespace OndelCore::volumes;
-using TarnwickKit::model::DriveIdentity;
-namespace Format = TarnwickKit::model::Format;
+using namespace TarnwickKit::model;
 
 namespace TarnwickHost {
 
@@ -169,13 +170,13 @@ QJsonObject mountedVolumeJson(const MountedVolume& volume) {
 
 std::vector<TextRow> volumeRows(const VolumeInfo& volume) {
     return {
-        {HostFacts::tr("Name"), volume.name},
-        {HostFacts::tr("Format"), volume.format},
+        {HostFacts::tr("Name"), volumeNameText(volume.name)},
+        {HostFacts::tr("Format"), volumeFormatText(volume.format)},
         {HostFacts::tr("Capacity"), Format::bytes(volume.total)},
         {HostFacts::tr("Available"), Format::bytes(volume.available)},
         {HostFacts::tr("Used"),
          Format::bytes(volume.used()) + QString(" (%1 %)").arg(volume.usedFraction() * 100.0, 0, 'f', 0)},
-        {HostFacts::tr("Connection"), volume.connection()},
+        {HostFacts::tr("Connection"), connectionText(volume.connection())},
         {HostFacts::tr("Read-only"), yesOrNo(volume.isReadOnly)},
         {HostFacts::tr("Encrypted"), yesOrNo(volume.isEncrypted)},
         {HostFacts::tr("Mounted at"), volume.volumeURL ? pathText(*volume.volumeURL) : QString("--")},
@@ -221,17 +222,15 @@ QJsonObject healthJson(const HealthReading& reading) {
 }
 
 std::vector<TextRow> healthRows(const HealthReading& reading) {
-    std::vector<TextRow> rows{{HostFacts::tr("Source"), QString::fromStdString(reading.source)}};
+    std::vector<TextRow> rows{{HostFacts::tr("Source"), healthSource(reading.source)}};
     if (!reading.smart || !reading.smart->isSupported())
         return rows;
-    const bool isFailing = reading.smart->status == DiskSMART::Status::failing;
-    rows.push_back({HostFacts::tr("Status"),
-                    isFailing ? HostFacts::tr("Failing", "a drive") : HostFacts::tr("Verified", "a drive")});
+    rows.push_back({HostFacts::tr("Status"), healthVerdict(reading.smart->status)});
     rows.push_back({HostFacts::tr("Interface"), QString::fromStdString(reading.smart->kind)});
     for (const DiskSMART::Attribute& attribute : reading.smart->attributes)
-        rows.push_back({QString::fromStdString(attribute.label),
-                        QString::fromStdString(attribute.value) +
-                            (attribute.warning ? "  " + HostFacts::tr("(attention)") : QString())});
+        rows.push_back(
+            {healthLabel(attribute),
+             healthValue(attribute) + (attribute.warning ? "  " + HostFacts::tr("(attention)") : QString())});
     return rows;
 }
 

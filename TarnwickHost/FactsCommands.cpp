@@ -6,6 +6,8 @@
 #include "TarnwickHost/Output.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/HealthText.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/session/DriveInfo.h"
 #include "TarnwickKit/model/session/SMARTReport.h"
 
@@ -23,8 +25,11 @@ using OndelCore::platform::SystemSources;
 using TarnwickKit::model::DriveIdentity;
 using TarnwickKit::model::DriveInfo;
 using TarnwickKit::model::harmless;
+using TarnwickKit::model::healthSource;
 using TarnwickKit::model::SMARTReport;
 using TarnwickKit::model::textColumns;
+using TarnwickKit::model::volumeFormatText;
+using TarnwickKit::model::volumeNameText;
 
 namespace TarnwickHost {
 
@@ -101,7 +106,7 @@ std::string text(const std::vector<MountedVolume>& volumes) {
     std::vector<TextRow> rows{{HostFacts::tr("Name"), HostFacts::tr("Format"), HostFacts::tr("Capacity"),
                                HostFacts::tr("Mounted at")}};
     for (const MountedVolume& volume : volumes)
-        rows.push_back({volume.name, volume.format,
+        rows.push_back({volumeNameText(volume.name), volumeFormatText(volume.format),
                         volume.total ? TarnwickKit::model::Format::bytes(*volume.total) : QString("--"),
                         QString::fromStdString(volume.url.string())});
     return textColumns(rows).toStdString();
@@ -132,7 +137,7 @@ int executeSmartReport(const CommandLine& line) {
     const HealthReading reading = readHealth(folder, sources);
     if (!reading.smart || !reading.smart->isSupported()) {
         //: %1: the reason.
-        complain(HostFacts::tr("no S.M.A.R.T. figures: %1").arg(QString::fromStdString(reading.source)));
+        complain(HostFacts::tr("no S.M.A.R.T. figures: %1").arg(healthSource(reading.source)));
         return failed;
     }
     const QString text =

@@ -83,7 +83,7 @@ void list(const Runs& runs) {
     //: A benchmark run.
     TextRow header{HostHistory::tr("Run"), HostHistory::tr("Date"), HostHistory::tr("Title")};
     for (const CompareMetric& metric : CompareMetric::all())
-        header.push_back(metric.label);
+        header.push_back(labelOf(metric.test));
     std::vector<TextRow> rows{header};
     const QStringList names = namesOf(runs);
     for (std::size_t index = 0; index < runs.size(); ++index) {
@@ -92,7 +92,9 @@ void list(const Runs& runs) {
                     fitted(run.title(), titleColumns)};
         for (const CompareMetric& metric : CompareMetric::all()) {
             const auto figure = run.*metric.magnitude;
-            row.push_back(figure ? metric.format(*figure) + ' ' + metric.unit : QString("--"));
+            const bool isOfFiles = metric.test == OndelCore::benchmark::BenchmarkTest::fileOps;
+            const QString unit = isOfFiles ? operationsPerSecond() : metric.unit;
+            row.push_back(figure ? metric.format(*figure) + ' ' + unit : QString("--"));
         }
         rows.push_back(row);
     }

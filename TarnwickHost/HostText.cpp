@@ -1,21 +1,18 @@
 #include "TarnwickHost/HostText.h"
 
 #include "TarnwickKit/model/format/DisplayText.h"
+#include "TarnwickKit/model/language/Language.h"
 
 #include <system_error>
 
 namespace TarnwickHost {
 
-bool isRightToLeft() {
-    // Any text of words alone tells.
-    return QCoreApplication::translate("HostHelp", "Show this text").isRightToLeft();
-}
-
 QString isolated(std::string_view name) {
     const QString text = QString::fromUtf8(name);
     constexpr QChar firstStrongIsolate(0x2068);
     constexpr QChar popDirectionalIsolate(0x2069);
-    return isRightToLeft() ? firstStrongIsolate + text + popDirectionalIsolate : text;
+    return TarnwickKit::model::Language::isRightToLeft() ? firstStrongIsolate + text + popDirectionalIsolate
+                                                         : text;
 }
 
 QString inQuotes(std::string_view typed) { return isolated(TarnwickKit::model::quoted(typed)); }

@@ -25,11 +25,8 @@ struct HostFacts {
     Q_DECLARE_TR_FUNCTIONS(HostFacts)
 };
 
-/// Whether the language of the texts runs from right to left.
-bool isRightToLeft();
-
-/// A path, an option or another name, for a place in a sentence. Among letters that run from right to left,
-/// invisible marks around it keep its own order.
+/// A path, an option or another name, for a place in a sentence. In a language that is written from right to
+/// left, invisible marks around it keep its own order.
 QString isolated(std::string_view name);
 
 /// What a person typed or what a file is called, in quotes, for a place in a sentence.

@@ -4,6 +4,7 @@
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/Comparison.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -68,7 +69,7 @@ Amount amountOf(const BenchmarkProgress& progress, const BenchmarkPlan& plan) {
     case BenchmarkTest::randomWrite:
         return operationsAmount(progress, BenchmarkPlan::alignedBlock(plan.randomBlockSize), "IOPS");
     case BenchmarkTest::fileOps:
-        return operationsAmount(progress, 1, "ops/s");
+        return operationsAmount(progress, 1, operationsPerSecond());
     case BenchmarkTest::sequentialWrite:
     case BenchmarkTest::sequentialRead:
         break;

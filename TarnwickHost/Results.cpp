@@ -4,6 +4,7 @@
 #include "TarnwickHost/Remarks.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/model/runs/RunText.h"
@@ -30,7 +31,7 @@ struct HostResults {
 /// The columns of the table that hold a test's title and figures.
 constexpr std::size_t figureColumns = 5;
 
-QString countRate(double perSecond, const char* unit) { return Format::compact(perSecond) + ' ' + unit; }
+QString countRate(double perSecond, const QString& unit) { return Format::compact(perSecond) + ' ' + unit; }
 
 TextRow row(const QString& title, const ThroughputResult& result) {
     const auto lowest = result.lowestBytesPerSecond();
@@ -48,7 +49,9 @@ TextRow row(const QString& title, const IOPSResult& result) {
 bool hasLatency(const std::optional<IOPSResult>& result) { return result && result->latency; }
 
 TextRow row(const QString& title, const FileOpsResult& result) {
-    const auto rate = [](const FileOpResult& phase) { return countRate(phase.opsPerSecond(), "ops/s"); };
+    const auto rate = [](const FileOpResult& phase) {
+        return countRate(phase.opsPerSecond(), operationsPerSecond());
+    };
     return {title, rate(result.create), rate(result.stat), rate(result.rename), rate(result.remove)};
 }
 

@@ -5,6 +5,7 @@
 #include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/Terminal.h"
+#include "TarnwickKit/model/language/Language.h"
 
 #include <QCoreApplication>
 
@@ -86,6 +87,7 @@ int main(int argc, char** argv) {
     if (lineStyle(STDOUT_FILENO).unicode) {
         application.emplace(argc, argv);
         takeEncoding(); // Qt takes over all of the locale
+        TarnwickKit::model::Language::install();
     }
     try {
         return dispatch(words);

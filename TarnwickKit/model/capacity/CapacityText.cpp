@@ -335,7 +335,7 @@ void addDataNotes(QStringList& notes, const CapacityRecord& check) {
         notes << CapacityText::tr("Only %1 % of what was read came from the disk. Check more than the "
                                   "machine’s memory can hold.")
                      .arg(static_cast<int>(100 * check.result.read.shareAtDisk.value_or(0)));
-    else if (!check.result.read.shareAtDisk && check.result.verified > 0)
+    else if (!check.result.read.shareAtDisk && check.result.verified > 0 && !check.wasStopped)
         notes << CapacityText::tr("The disk behind this volume cannot be seen, so what came back may have "
                                   "come from a cache.");
 }
@@ -437,18 +437,21 @@ QStringList capacityDefects(const CapacityRecord& check, std::size_t most) {
 }
 
 QString capacityReport(const CapacityRecord& check, LineStyle style) {
-    constexpr int labelColumns = 22;
+    constexpr int leastLabelColumns = 22;
     constexpr int leastColumns = 40;
     constexpr std::size_t mostPlaces = 1000;
     const int columns = std::max(style.columns, leastColumns);
     const auto paragraph = [columns](const QString& sentence) {
-        return labelled({}, harmless(sentence).split(u' ', Qt::SkipEmptyParts), u" "_s, columns);
+        return wrapped({}, harmless(sentence), columns);
     };
     QString text = paragraph(capacitySentence(check)) +
                    paragraph(Format::runStamp(check.date, 0).section(u" · "_s, 0, 1)) + u'\n';
-    for (const CapacityFact& fact : capacityFacts(check))
-        text +=
-            labelled(fact.label.leftJustified(labelColumns), fact.value.split(u" · "_s), u" · "_s, columns);
+    const std::vector<CapacityFact> facts = capacityFacts(check);
+    int labelColumns = leastLabelColumns;
+    for (const CapacityFact& fact : facts)
+        labelColumns = std::max(labelColumns, columnsOf(fact.label) + 2);
+    for (const CapacityFact& fact : facts)
+        text += labelled(padded(fact.label, labelColumns), fact.value.split(u" · "_s), u" · "_s, columns);
     if (const QStringList places = capacityDefects(check, mostPlaces); !places.isEmpty()) {
         text += u'\n';
         for (const QString& place : places)

@@ -19,7 +19,8 @@ struct ComparisonText {
     Q_DECLARE_TR_FUNCTIONS(ComparisonText)
 };
 
-/// What a metric of `CompareMetric::all` is called in the user's language.
+} // namespace
+
 QString labelOf(BenchmarkTest test) {
     switch (test) {
     case BenchmarkTest::sequentialWrite:
@@ -38,8 +39,6 @@ QString labelOf(BenchmarkTest test) {
     //: File operations, where there is little room
     return ComparisonText::tr("File ops");
 }
-
-} // namespace
 
 QString operationsPerSecond() {
     //: A unit, like IOPS: file operations per second
@@ -161,8 +160,8 @@ QString parameterSummary(const RunRecord& run) {
         parts << ComparisonText::tr("Rnd %1").arg(Format::block(*run.randomBlock));
     }
     if (run.bypassCache)
-        //: The system's cache was bypassed, or it was not
-        parts << (*run.bypassCache ? ComparisonText::tr("Uncached") : ComparisonText::tr("Cached"));
+        parts << (*run.bypassCache ? /*: The system's cache was bypassed */ ComparisonText::tr("Uncached")
+                                   : /*: It was not bypassed */ ComparisonText::tr("Cached"));
     return parts.join(u"  ·  "_s);
 }
 

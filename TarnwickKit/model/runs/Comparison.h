@@ -23,6 +23,9 @@ struct ONDEL_PUBLIC CompareMetric {
     static const std::array<CompareMetric, 5>& all();
 };
 
+/// What a metric of `CompareMetric::all` is called in the user's language.
+QString labelOf(OndelCore::benchmark::BenchmarkTest test);
+
 /// The unit of file operations: "ops/s".
 QString operationsPerSecond();
 

@@ -306,7 +306,14 @@ TEST(CapacityCheck, quicklyChecksWhereSamplesCanBeSpread) {
     EXPECT_LT(spread.written, 16 * mebibyte);
     EXPECT_FALSE(spread.isProof());
 
+    system.freeBytes = [](int) { return 512 * mebibyte; };
+    reserved = 0;
+    const auto all =
+        runCheck(system, {.folder = folder.path(), .leaveFree = 0, .isQuick = true}, {}, [](auto&) {});
+    EXPECT_EQ(all.planned, 504 * mebibyte) << "a file system without any room is slow";
+
     reserved = 4;
+    system.freeBytes = Bent().freeBytes;
     system.reserveSpace = [&reserved](int, std::int64_t) { return errno = EUCLEAN, ++reserved <= 8; };
     EXPECT_EQ(saidOf(runCheck(system, plan, {}, [](auto&) {})),
               "writeFailed 268435456+4096; writeErrors after 5525504");
@@ -315,6 +322,12 @@ TEST(CapacityCheck, quicklyChecksWhereSamplesCanBeSpread) {
     const auto packed = runCheck(system, plan, {}, [](auto&) {});
     EXPECT_FALSE(packed.quick.value().isSpread);
     EXPECT_EQ(packed.written, 64 * mebibyte);
+
+    system.spreadsSparseFiles = [](int) { return true; };
+    const auto sparse = runCheck(system, plan, {}, [](auto&) {});
+    EXPECT_EQ(saidOf(sparse), "");
+    EXPECT_TRUE(sparse.quick.value().isSpread);
+    EXPECT_EQ(sparse.written, spread.written);
 }
 
 TEST(CapacityCheck, stopsInEachPhaseAndRemovesItsFolder) {
