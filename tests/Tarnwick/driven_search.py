@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""The search provider on a bus of its own, as a desktop's shell starts and asks it. Usage: search_provider.py PROGRAM"""
+"""The search provider on a bus of its own, as a desktop's shell starts and asks it. Usage: driven_search.py PROGRAM DRAG-SOURCE;
+the provider is beside the program."""
 
 import json
 import os
@@ -10,11 +11,11 @@ import sys
 import tempfile
 import time
 
-sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "Tarnwick"))
-import driver  # noqa: E402
-import saved_runs  # noqa: E402
-from driver import check  # noqa: E402
-from gi.repository import Gio, GLib  # noqa: E402
+from gi.repository import Gio, GLib
+
+import driver
+import saved_runs
+from driver import check
 
 NAME, OBJECT = "tools.ondel.tarnwick.SearchProvider", "/tools/ondel/tarnwick/SearchProvider"
 WINDOW = "tools.ondel.tarnwick"
@@ -126,7 +127,7 @@ def ends_by_itself(shell):
 
 
 if __name__ == "__main__":
-    program = pathlib.Path(sys.argv[1]).resolve()
+    program = pathlib.Path(sys.argv[1]).resolve().with_name("tarnwick-search-provider")
     with tempfile.TemporaryDirectory(prefix="ondel-test-") as home:
         env = driver.environment(home, {NAME: program}, {"TZ": "UTC"})
         saved_runs.lay_down(RUNS, env["XDG_DATA_HOME"])
