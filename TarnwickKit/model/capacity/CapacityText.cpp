@@ -442,7 +442,7 @@ QString capacityReport(const CapacityRecord& check, LineStyle style) {
     constexpr std::size_t mostPlaces = 1000;
     const int columns = std::max(style.columns, leastColumns);
     const auto paragraph = [columns](const QString& sentence) {
-        return labelled({}, harmless(sentence).split(u' ', Qt::SkipEmptyParts), u" "_s, columns);
+        return labelled({}, wrapped(harmless(sentence), columns), u" "_s, columns);
     };
     QString text = paragraph(capacitySentence(check)) +
                    paragraph(Format::runStamp(check.date, 0).section(u" · "_s, 0, 1)) + u'\n';

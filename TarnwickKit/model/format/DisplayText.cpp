@@ -1,5 +1,7 @@
 #include "TarnwickKit/model/format/DisplayText.h"
 
+#include "TarnwickKit/model/language/Language.h"
+
 #include <QCoreApplication>
 #include <QList>
 #include <QTextBoundaryFinder>
@@ -58,6 +60,13 @@ QString harmless(const QString& text) {
     for (const char32_t character : text.toUcs4())
         shown += QChar::fromUcs4(isHarmless(character) ? character : mark);
     return shown;
+}
+
+QString isolated(const QString& text) {
+    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar popDirectionalIsolate(0x2069);
+    return Language::isRightToLeft() && !text.isEmpty() ? firstStrongIsolate + text + popDirectionalIsolate
+                                                        : text;
 }
 
 QByteArray harmlessJson(const QByteArray& json) {

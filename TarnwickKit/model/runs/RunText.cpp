@@ -209,7 +209,7 @@ QString remarkList(const std::vector<Remark>& remarks, std::int64_t randomBlock,
         if (remark.test)
             sentences.front() = aboutTest(title(*remark.test, randomBlock), sentences.front());
         list += labelled(padded(weightMark(remark.weight), labelColumns),
-                         sentences.join(' ').split(' ', Qt::SkipEmptyParts), " ", columns);
+                         wrapped(sentences.join(' ').trimmed(), columns - labelColumns), " ", columns);
     }
     return list.isEmpty() ? list : "\n" + RunText::tr("About these figures") + "\n" + list;
 }
