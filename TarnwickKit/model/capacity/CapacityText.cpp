@@ -437,7 +437,7 @@ QStringList capacityDefects(const CapacityRecord& check, std::size_t most) {
 }
 
 QString capacityReport(const CapacityRecord& check, LineStyle style) {
-    constexpr int labelColumns = 22;
+    constexpr int leastLabelColumns = 22;
     constexpr int leastColumns = 40;
     constexpr std::size_t mostPlaces = 1000;
     const int columns = std::max(style.columns, leastColumns);
@@ -446,9 +446,14 @@ QString capacityReport(const CapacityRecord& check, LineStyle style) {
     };
     QString text = paragraph(capacitySentence(check)) +
                    paragraph(Format::runStamp(check.date, 0).section(u" · "_s, 0, 1)) + u'\n';
-    for (const CapacityFact& fact : capacityFacts(check))
-        text +=
-            labelled(fact.label.leftJustified(labelColumns), fact.value.split(u" · "_s), u" · "_s, columns);
+    const auto facts = capacityFacts(check);
+    int labelColumns = leastLabelColumns;
+    for (const CapacityFact& fact : facts)
+        labelColumns = std::max(labelColumns, columnsOf(fact.label) + 2);
+    for (const CapacityFact& fact : facts) {
+        const QString room(labelColumns - columnsOf(fact.label), u' ');
+        text += labelled(fact.label + room, fact.value.split(u" · "_s), u" · "_s, columns);
+    }
     if (const QStringList places = capacityDefects(check, mostPlaces); !places.isEmpty()) {
         text += u'\n';
         for (const QString& place : places)
