@@ -2,13 +2,14 @@
 
 #include "TarnwickHost/HostText.h"
 #include "TarnwickKit/model/format/DisplayText.h"
+#include "TarnwickKit/model/format/TextLines.h"
 
 #include <QStringList>
-#include <QTextBoundaryFinder>
 
 #include <algorithm>
 
 using TarnwickKit::model::columnsOf;
+using TarnwickKit::model::wrapped;
 
 namespace TarnwickHost {
 
@@ -25,48 +26,18 @@ struct HostHelp {
     Q_DECLARE_TR_FUNCTIONS(HostHelp)
 };
 
-/// Of Chinese or Japanese, which have no blanks between words.
-bool isIdeographic(QChar character) {
-    return columnsOf(QString(character)) > 1 && character.script() != QChar::Script_Hangul;
-}
-
-/// A line may also end behind a hyphen, but that would tear options apart.
-bool mayEnd(const QString& text, qsizetype end) {
-    return end == text.size() || text[end - 1].isSpace() || isIdeographic(text[end - 1]) ||
-           isIdeographic(text[end]);
-}
-
-QString withoutEnd(QString line) {
-    while (line.endsWith(u' '))
-        line.chop(1);
-    return line;
-}
-
-/// A word that is longer than a line stands on one of its own.
-QStringList wrapped(const QString& text, int columns) {
-    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Line, text);
-    QStringList lines;
-    QString line;
-    qsizetype begin = 0;
-    for (qsizetype end = 0; (end = boundaries.toNextBoundary()) != -1;) {
-        if (!mayEnd(text, end))
-            continue;
-        const QString piece = text.mid(begin, end - begin);
-        if (!line.isEmpty() && columnsOf(withoutEnd(line + piece)) > columns) {
-            lines << withoutEnd(line);
-            line.clear();
-        }
-        line += piece;
-        begin = end;
-    }
-    return lines << withoutEnd(line);
-}
-
 QStringList linesOf(const char* source, int columns) {
     QString text = HostHelp::tr(source);
     if (text == QString::fromUtf8(source))
         return text.split(u'\n');
     return wrapped(text.replace(u'\n', u' '), std::max(columns, leastColumns));
+}
+
+QString summaryOf(const Command& command, int columns) {
+    //: %1: a sentence without its full stop.
+    const QString text = HostHelp::tr("%1.").arg(HostHelp::tr(command.summary));
+    const bool isEnglish = text == QString::fromUtf8(command.summary) + u'.';
+    return (isEnglish ? text : wrapped(text, columns).join(u'\n')) + "\n\n";
 }
 
 QString blanks(int count) { return {count, u' '}; }
@@ -110,8 +81,7 @@ QString helpOf(const Command& command, int columns) {
     columns = std::min(columns, mostColumns);
     QString text = usage(twoWords(command.name, "[OPTION]…") + (command.operands.empty() ? "" : " ") +
                          QString::fromUtf8(command.operands));
-    //: %1: a sentence without its full stop.
-    text += HostHelp::tr("%1.").arg(HostHelp::tr(command.summary)) + "\n\n";
+    text += summaryOf(command, columns);
     for (const Option& option : command.options)
         text += twoColumns(twoWords(option.name, option.argument), optionColumns, option.help, columns);
     text += twoColumns("--help", optionColumns, QT_TRANSLATE_NOOP("HostHelp", "Show this text"), columns);

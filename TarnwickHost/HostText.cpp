@@ -1,19 +1,12 @@
 #include "TarnwickHost/HostText.h"
 
 #include "TarnwickKit/model/format/DisplayText.h"
-#include "TarnwickKit/model/language/Language.h"
 
 #include <system_error>
 
 namespace TarnwickHost {
 
-QString isolated(std::string_view name) {
-    const QString text = QString::fromUtf8(name);
-    constexpr QChar firstStrongIsolate(0x2068);
-    constexpr QChar popDirectionalIsolate(0x2069);
-    return TarnwickKit::model::Language::isRightToLeft() ? firstStrongIsolate + text + popDirectionalIsolate
-                                                         : text;
-}
+QString isolated(std::string_view name) { return TarnwickKit::model::isolated(QString::fromUtf8(name)); }
 
 QString inQuotes(std::string_view typed) { return isolated(TarnwickKit::model::quoted(typed)); }
 

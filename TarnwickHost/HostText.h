@@ -25,8 +25,7 @@ struct HostFacts {
     Q_DECLARE_TR_FUNCTIONS(HostFacts)
 };
 
-/// A path, an option or another name, for a place in a sentence. In a language that is written from right to
-/// left, invisible marks around it keep its own order.
+/// A path, an option or another name in UTF-8, for a place in a sentence, in whichever direction it runs.
 QString isolated(std::string_view name);
 
 /// What a person typed or what a file is called, in quotes, for a place in a sentence.

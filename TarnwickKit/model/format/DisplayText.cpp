@@ -1,5 +1,7 @@
 #include "TarnwickKit/model/format/DisplayText.h"
 
+#include "TarnwickKit/model/language/Language.h"
+
 #include <QCoreApplication>
 #include <QList>
 #include <QTextBoundaryFinder>
@@ -37,7 +39,7 @@ bool isHarmless(char32_t character) {
     }
 }
 
-int columnsOf(char32_t character) {
+int columnsOfCharacter(char32_t character) {
     const auto point = static_cast<UChar32>(character);
     switch (u_charType(point)) {
     case U_NON_SPACING_MARK:
@@ -60,6 +62,13 @@ QString harmless(const QString& text) {
     return shown;
 }
 
+QString isolated(const QString& text) {
+    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar popDirectionalIsolate(0x2069);
+    return Language::isRightToLeft() && !text.isEmpty() ? firstStrongIsolate + text + popDirectionalIsolate
+                                                        : text;
+}
+
 QByteArray harmlessJson(const QByteArray& json) {
     constexpr char32_t firstBeyondAscii = 0x7F; // below it JSON's own blanks, and escapes already
     QString safe;
@@ -77,7 +86,7 @@ QByteArray harmlessJson(const QByteArray& json) {
 int columnsOf(const QString& text) {
     int columns = 0;
     for (const char32_t character : text.toUcs4())
-        columns += columnsOf(character);
+        columns += columnsOfCharacter(character);
     return columns;
 }
 
@@ -93,7 +102,7 @@ QString fitted(const QString& text, int columns) {
         const bool isTooLong = end - begin > longestCharacter;
         const QString character =
             isTooLong ? QString(QChar::ReplacementCharacter) : shown.mid(begin, end - begin);
-        used += columnsOf(character);
+        used += columnsOfCharacter(character);
         if (used > columns) {
             isCut = true;
             break;

@@ -11,15 +11,15 @@ namespace TarnwickKit::model {
 
 namespace {
 
-/// The parts of a word that may stand on lines of their own: scripts without blanks break between characters.
-QStringList breakable(const QString& word) {
-    if (columnsOf(word) <= word.size())
-        return {word};
-    QStringList pieces;
-    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Line, word);
-    for (qsizetype begin = 0, end = 0; (end = boundaries.toNextBoundary()) != -1; begin = end)
-        pieces << word.mid(begin, end - begin);
-    return pieces;
+/// Of Chinese or Japanese, which have no blanks between words.
+bool isIdeographic(QChar character) {
+    return columnsOf(QString(character)) > 1 && character.script() != QChar::Script_Hangul;
+}
+
+QString withoutEnd(QString line) {
+    while (line.endsWith(QLatin1Char(' ')))
+        line.chop(1);
+    return line;
 }
 
 /// Lines behind a label, which stands on the first.
@@ -30,20 +30,36 @@ QString behind(const QString& label, const QStringList& lines) {
 
 } // namespace
 
+QStringList wrapped(const QString& text, int columns) {
+    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Line, text);
+    const auto mayEnd = [&](qsizetype end) {
+        if (end == text.size() || text[end - 1] == QLatin1Char(' '))
+            return true;
+        boundaries.setPosition(end);
+        return (isIdeographic(text[end - 1]) || isIdeographic(text[end])) && boundaries.isAtBoundary();
+    };
+    QStringList lines;
+    QString line;
+    qsizetype begin = 0;
+    for (qsizetype end = 1; end <= text.size(); ++end) {
+        if (!mayEnd(end))
+            continue;
+        const QString piece = text.mid(begin, end - begin);
+        if (!line.isEmpty() && columnsOf(withoutEnd(line + piece)) > columns) {
+            lines << withoutEnd(line);
+            line.clear();
+        }
+        line += piece;
+        begin = end;
+    }
+    return lines << withoutEnd(line);
+}
+
 QString wrapped(const QString& label, const QString& sentence, int columns) {
     const int room = std::max(1, columns - columnsOf(label));
-    QStringList lines;
-    for (const QString& word : sentence.split(' ', Qt::SkipEmptyParts)) {
-        QString between = " ";
-        for (const QString& piece : breakable(word)) {
-            const QString shown = fitted(piece, room);
-            if (!lines.isEmpty() && columnsOf(lines.last() + between + shown) <= room)
-                lines.last() += between + shown;
-            else
-                lines << shown;
-            between.clear();
-        }
-    }
+    QStringList lines = wrapped(sentence.simplified(), room);
+    for (QString& line : lines)
+        line = fitted(line, room);
     return behind(label, lines);
 }
 
@@ -75,7 +91,7 @@ QString textColumns(const std::vector<TextRow>& rows, CellsStand stand) {
     for (const TextRow& row : rows) {
         QString line;
         for (std::size_t column = 0; column < row.size(); ++column) {
-            const QString cell = harmless(row[column]);
+            const QString cell = isolated(harmless(row[column]));
             const QString room(widths[column] - columnsOf(cell), QLatin1Char(' '));
             line += column > 0 && stand == CellsStand::right ? room + cell : cell + room;
             line += QLatin1StringView("  ");
