@@ -6,6 +6,7 @@
 #include "Tarnwick/OpenUrls.h"
 #include "Tarnwick/Product.h"
 #include "TarnwickKit/model/format/DisplayText.h"
+#include "TarnwickKit/model/language/Language.h"
 
 #include <QCoreApplication>
 
@@ -80,6 +81,8 @@ std::optional<int> CommandLine::answerWithoutWindow(int argc, char** argv) {
         if (word == "--")
             break;
         if (word == "--help" || word == "-h") {
+            const QCoreApplication application(argc, argv); // it holds the catalogue
+            TarnwickKit::model::Language::install();
             std::fputs(qUtf8Printable(usage()), stdout);
             return EXIT_SUCCESS;
         }

@@ -21,9 +21,10 @@
     </message>
 </context>
 <context>
-    <name>AppDelegate</name>
+    <name>AppDelegateText</name>
     <message>
         <source>%1 % – %2</source>
+        <extracomment>The title of the window during a run: how much is done, and the program&apos;s name</extracomment>
         <translation>%1 % – %2</translation>
     </message>
 </context>
@@ -31,6 +32,7 @@
     <name>BannerMenu</name>
     <message>
         <source>More</source>
+        <extracomment>Button: opens a menu</extracomment>
         <translation>Plus</translation>
     </message>
 </context>
@@ -49,10 +51,101 @@
     </message>
 </context>
 <context>
+    <name>BenchmarkText</name>
+    <message>
+        <source>Not enough space: needs %1, only %2 free.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>I/O error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t write there. The volume may be read-only, or the folder may not allow it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The test file is too small for the random block size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sequential write</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sequential read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Random read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Random write</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File operations</source>
+        <translation>Opérations sur les fichiers</translation>
+    </message>
+    <message>
+        <source>files/s</source>
+        <extracomment>A unit, like MB/s</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>p99 %1</source>
+        <extracomment>The time within which 99 % of all operations were done</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>worst %1</source>
+        <extracomment>The longest time that an operation took</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder was removed or its volume unplugged during the run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The volume was unplugged, or its server is gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The drive reported an error, or was unplugged during the run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The volume can only be read: systems switch to that when they find an error on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The volume became full during the run, or your share of it is used up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file system, or a limit of this session, does not allow files of this size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The permissions of the folder changed during the run, or the system forbids this there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for blocks of this size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too many files are open at the moment; close some programs and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>BigStat</name>
     <message>
         <source>peak %1
 min %2</source>
+        <extracomment>The highest and the lowest rate, on two lines</extracomment>
         <translation>pic %1
 min %2</translation>
     </message>
@@ -68,7 +161,24 @@ min %2</translation>
         <translation>Impossible de joindre le serveur. Vérifiez votre connexion et réessayez.</translation>
     </message>
     <message>
+        <source>The answer&apos;s head is too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No proxy can be used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>libcurl.so.4 cannot be loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report can’t be sent from this sandbox, which has no network.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The server rejected the report (%1).</source>
+        <extracomment>%1 is a status of HTTP, as 500</extracomment>
         <translation>Le serveur a refusé le signalement (%1).</translation>
     </message>
 </context>
@@ -150,7 +260,12 @@ min %2</translation>
         <translation>Capacité de %1</translation>
     </message>
     <message>
+        <source>Capacity of the volume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Close</source>
+        <extracomment>Button: leaves the capacity check</extracomment>
         <translation>Fermer</translation>
     </message>
     <message>
@@ -170,10 +285,12 @@ min %2</translation>
     </message>
     <message>
         <source>Write</source>
+        <extracomment>Noun: what a curve shows</extracomment>
         <translation>Écriture</translation>
     </message>
     <message>
         <source>Read</source>
+        <extracomment>Noun: what a curve shows</extracomment>
         <translation>Lecture</translation>
     </message>
 </context>
@@ -340,8 +457,8 @@ min %2</translation>
         <translation>La vérification a été arrêtée alors que %1 sur %2 avaient été restitués intacts.</translation>
     </message>
     <message>
-        <source>The samples hold what was written, but they lie close together.</source>
-        <translation>Les échantillons contiennent ce qui a été écrit, mais ils sont proches les uns des autres.</translation>
+        <source>This file system cannot spread samples: only %1 in one place were checked, and hold what was written.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Samples all over %1 hold what was written, which is no proof.</source>
@@ -380,6 +497,10 @@ min %2</translation>
         <translation>Taille réelle</translation>
     </message>
     <message>
+        <source>about %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Space to check</source>
         <translation>Espace à vérifier</translation>
     </message>
@@ -394,6 +515,10 @@ min %2</translation>
     <message>
         <source>%1, one every %2</source>
         <translation>%1, un tous les %2</translation>
+    </message>
+    <message>
+        <source>In one place</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>It was right at the first reading.</source>
@@ -451,6 +576,26 @@ min %2</translation>
         <translation>Ce qu’aucune vérification ne peut dire : si l’espace occupé par vos fichiers est sain, ce que le disque garde en réserve, et si un bloc réparé tiendra.</translation>
     </message>
     <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Une vérification rapide n’écrit qu’à quelques endroits. Elle décèle la plupart des fausses capacités en quelques secondes ; ne rien trouver ne prouve rien.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>L’espace vérifié est moindre que prévu : d’autres programmes ont pu l’occuper.</translation>
+    </message>
+    <message>
         <source>This volume keeps its files in memory: no disk was checked.</source>
         <translation>Ce volume garde ses fichiers en mémoire : aucun disque n’a été vérifié.</translation>
     </message>
@@ -463,16 +608,16 @@ min %2</translation>
         <translation>Le disque derrière ce volume n’est pas visible ; ce qui a été restitué a donc pu venir d’un cache.</translation>
     </message>
     <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The check was stopped: what it had not read back is not known.</source>
         <translation>La vérification a été arrêtée : ce qu’elle n’avait pas relu n’est pas connu.</translation>
     </message>
     <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Une vérification rapide n’écrit qu’à quelques endroits. Elle décèle la plupart des fausses capacités en quelques secondes ; ne rien trouver ne prouve rien.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>L’espace vérifié est moindre que prévu : d’autres programmes ont pu l’occuper.</translation>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Volume</source>
@@ -574,11 +719,29 @@ min %2</translation>
     <name>CollapsedRunView</name>
     <message>
         <source>Write</source>
+        <extracomment>Noun, before the rate of the sequential write test</extracomment>
         <translation>Écriture</translation>
     </message>
     <message>
         <source>Read</source>
+        <extracomment>Noun, before the rate of the sequential read test</extracomment>
         <translation>Lecture</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLineText</name>
+    <message>
+        <source>Usage: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+Opens the disk speed and volume analyzer, with the first folder chosen and run files (*.tarnwickrun) shown.
+  --check-capacity  go on to the check of that folder&apos;s volume
+  --choose-folder   ask for a folder
+</source>
+        <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a folder or a run file that can be opened.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -592,11 +755,30 @@ min %2</translation>
     <name>ComparedCurves</name>
     <message>
         <source>Write over time</source>
+        <extracomment>Title of a chart: the rate of the write test</extracomment>
         <translation>Écriture au fil du temps</translation>
     </message>
     <message>
         <source>Read over time</source>
+        <extracomment>Title of a chart: the rate of the read test</extracomment>
         <translation>Lecture au fil du temps</translation>
+    </message>
+</context>
+<context>
+    <name>ComparedRunsText</name>
+    <message>
+        <source>reference</source>
+        <extracomment>The run that the others are compared with</extracomment>
+        <translation>référence</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3 %4</source>
+        <extracomment>%1 is what was measured, %2 the name of a run, %3 the figure, %4 its unit</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -605,9 +787,12 @@ min %2</translation>
         <source>Runs comparison</source>
         <translation>Comparaison de mesures</translation>
     </message>
-    <message>
-        <source>%1 benchmarks compared</source>
-        <translation>%1 mesures comparées</translation>
+    <message numerus="yes">
+        <source>%n benchmarks compared</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Scan to try it</source>
@@ -623,9 +808,12 @@ min %2</translation>
 </context>
 <context>
     <name>ComparisonPane</name>
-    <message>
-        <source>Comparing %1 runs</source>
-        <translation>Comparaison de %1 mesures</translation>
+    <message numerus="yes">
+        <source>Comparing %n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Share a comparison image</source>
@@ -633,17 +821,93 @@ min %2</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button: leaves the comparison</extracomment>
         <translation>Fermer</translation>
     </message>
     <message>
         <source>Differences from</source>
+        <extracomment>A list of runs follows, of which one is the reference</extracomment>
         <translation>Écarts avec</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonText</name>
+    <message>
+        <source>Write</source>
+        <extracomment>Noun: what was measured</extracomment>
+        <translation>Écriture</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <extracomment>Noun: what was measured</extracomment>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Random read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Random write</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File ops</source>
+        <extracomment>File operations, where there is little room</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ops/s</source>
+        <extracomment>A unit, like IOPS: file operations per second</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 free</source>
+        <extracomment>%1 is the free space of a volume</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill disk test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R/W %1</source>
+        <extracomment>%1 is the size of the blocks that were read and written</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>W %1</source>
+        <extracomment>%1 is the size of the blocks that were written</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R %1</source>
+        <extracomment>%1 is the size of the blocks that were read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rnd %1</source>
+        <extracomment>%1 is the size of the blocks that were read and written at random</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncached</source>
+        <extracomment>The system&apos;s cache was bypassed, or it was not</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cached</source>
+        <translation>Utilisé</translation>
     </message>
 </context>
 <context>
     <name>CompleteBadge</name>
     <message>
         <source>Complete</source>
+        <extracomment>Adjective: the run has come to its end</extracomment>
         <translation>Terminée</translation>
     </message>
 </context>
@@ -660,6 +924,55 @@ min %2</translation>
     <message>
         <source>View…</source>
         <translation>Afficher…</translation>
+    </message>
+</context>
+<context>
+    <name>DialogsText</name>
+    <message>
+        <source>Working folder:</source>
+        <translation>Dossier de travail :</translation>
+    </message>
+    <message>
+        <source>temporary, is written there and removed</source>
+        <translation>temporaire, y est créé puis supprimé</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <extracomment>The title of a dialog that asks for files</extracomment>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Tarnwick runs</source>
+        <translation>Mesures Tarnwick</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayText</name>
+    <message>
+        <source>“%1” is damaged or not a Tarnwick run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not a folder or a run file that can be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” and %2 more are damaged or not Tarnwick runs.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” and %2 more are not folders or run files that can be opened.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -704,6 +1017,17 @@ min %2</translation>
     <message>
         <source>Not the disk’s figure</source>
         <translation>Ne vient pas du disque</translation>
+    </message>
+</context>
+<context>
+    <name>FiguresText</name>
+    <message>
+        <source>Run: %1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not the disk’s figure</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -754,6 +1078,7 @@ min %2</translation>
     <name>HealthSection</name>
     <message>
         <source>Failing</source>
+        <extracomment>The drive&apos;s own verdict: it is going to break, or it finds itself sound</extracomment>
         <translation>Défaillant</translation>
     </message>
     <message>
@@ -766,7 +1091,270 @@ min %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
+        <extracomment>%1 is the verdict (Failing, Verified), %2 a sentence without its full stop</extracomment>
         <translation>%1. %2</translation>
+    </message>
+</context>
+<context>
+    <name>HealthText</name>
+    <message>
+        <source>Critical warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Life used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spare available</source>
+        <extracomment>Of a solid state drive: how much of its reserve of memory cells is left</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spare threshold</source>
+        <extracomment>Of a solid state drive: the least reserve of memory cells before it warns</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power-on time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load cycles</source>
+        <extracomment>How often the heads were parked and loaded again</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsafe shutdowns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Host read commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Host write commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Controller busy</source>
+        <extracomment>How long the drive&apos;s controller was busy</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reallocated sectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending sectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncorrectable sectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reported uncorrectable</source>
+        <extracomment>Errors that the drive reported and could not correct</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spin retries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interface CRC errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Media errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error log entries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <extracomment>The drive&apos;s own verdict follows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spare below threshold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reliability degraded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backup failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <extracomment>What a drive warns of</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 years</source>
+        <extracomment>How long a drive has been switched on; %1 is a number with one decimal, as 1.2</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 disks answered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no device is behind this path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no disk is behind %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no block device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not tell whether it sleeps, so it was left alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is asleep and was left alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no S.M.A.R.T., or it is switched off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no S.M.A.R.T. interface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not pass S.M.A.R.T. commands on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not give its NVMe health log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 may only be asked by an administrator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is out of this process&apos;s reach</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UDisks2 does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UDisks2 does not answer for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UDisks2 %1 does not read the health of NVMe drives (version 2.10 does)</source>
+        <extracomment>%1 is the version of UDisks2</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UDisks2 has no health figures of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UDisks2 has no health verdict on %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UDisks2 knows no drive behind %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ATA S.M.A.R.T. of %1, which gave its verdict without figures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ATA S.M.A.R.T. of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NVMe health log of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UDisks2 for %1, read %2 min ago</source>
+        <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UDisks2 for %1</source>
+        <extracomment>Where figures come from: UDisks2 has read disk %1</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Two sentences: how many disks answered, and why others did not</extracomment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <extracomment>Two sentences, the first on one disk and the second on another</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, and %2</source>
+        <extracomment>Two sentences: why a disk gives no figures itself, and why the system&apos;s service gives none</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Failing</source>
+        <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
+        <translation>Défaillant</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <extracomment>The drive&apos;s own verdict: it finds itself sound</extracomment>
+        <translation>Vérifié</translation>
     </message>
 </context>
 <context>
@@ -796,10 +1384,12 @@ min %2</translation>
     <name>HistoryFigures</name>
     <message>
         <source>Write</source>
+        <extracomment>Noun, before the rate of the sequential write test</extracomment>
         <translation>Écriture</translation>
     </message>
     <message>
         <source>Read</source>
+        <extracomment>Noun, before the rate of the sequential read test</extracomment>
         <translation>Lecture</translation>
     </message>
 </context>
@@ -807,11 +1397,819 @@ min %2</translation>
     <name>HistoryRow</name>
     <message>
         <source>Delete %1</source>
+        <extracomment>%1 is the title of a run</extracomment>
         <translation>Supprimer %1</translation>
     </message>
     <message>
         <source>Delete this run</source>
         <translation>Supprimer cette mesure</translation>
+    </message>
+</context>
+<context>
+    <name>HostCheck</name>
+    <message>
+        <source>Stopping, removing the files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The check could not be told as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HostFacts</name>
+    <message>
+        <source>Case-sensitive</source>
+        <translation>Sensible à la casse</translation>
+    </message>
+    <message>
+        <source>Case-preserving</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sparse files</source>
+        <translation>Fichiers creux</translation>
+    </message>
+    <message>
+        <source>Hard links</source>
+        <translation>Liens physiques</translation>
+    </message>
+    <message>
+        <source>Symbolic links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extended attributes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Named streams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Access control lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cloning</source>
+        <translation>Clonage</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation>Instantanés</translation>
+    </message>
+    <message>
+        <source>Journal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Journal active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sealed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <comment>whether a file system can do something</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Available</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mounted at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block size</source>
+        <translation>Taille de bloc</translation>
+    </message>
+    <message>
+        <source>Optimal transfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longest name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longest path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attached by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(attention)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>Système de fichiers</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no S.M.A.R.T. figures: %1</source>
+        <extracomment>%1: the reason.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HostFiles</name>
+    <message>
+        <source>%1, which comes with the window, could not be started</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 exists and holds no runs; --force would replace it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A figure of this run is beyond what a file can hold.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The history could not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1: a file or a folder, %2: what the system says about it.</extracomment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>The result could not be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files of another run in this folder are in use and were not removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
+        <extracomment>%1: a test, %2: what the system says.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
+        <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run file could not be written to your temporary folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run could not be added to the history.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is larger than a run file can be (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input is larger than a run file can be (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input is not a run file: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a run file: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture could not be drawn: %1</source>
+        <extracomment>%1: the reason.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture could not be drawn, or not be written to your temporary folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HostHelp</name>
+    <message>
+        <source>Draw it in the dark colours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run file is what &quot;run --handoff&quot; writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
+transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
+it stays until your session ends, or until the system empties its temporary folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a picture of a run to share, or of several compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much to write and read back (default: all free space)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much stays free in any case (default: 64MiB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samples across the range, in seconds: finds a false capacity, and
+proves nothing when it finds none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read everything once more, S seconds later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print one JSON object: the verdict, the sentence, and all that was found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes files that differ in every block into a hidden folder inside FOLDER, reads them back past the system&apos;s
+cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
+with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
+--quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
+what had been found until then is printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check whether a volume is as large as it says and keeps what it is given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As text (default), markdown, csv or json</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let --output replace a file of any content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the facts as one JSON object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the list as one JSON array</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is written anywhere. What the system does not tell reads &quot;--&quot; or &quot;not known&quot;, and is left out of the JSON
+object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
+mount for themselves is left out. A server that does not answer in time has no capacity.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
+from, or why there is none, is told by &quot;facts&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show what holds FOLDER: volume, file system, drive and its health</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List the mounted volumes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the health of the drive that holds FOLDER</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <extracomment>%1: a sentence without its full stop.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this text, or behind a command that command&apos;s options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file that &quot;export&quot; writes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let &quot;delete&quot; delete all runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ACTION is one of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a line for each run, newest first, which begins with its name (default)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print runs as &quot;show&quot; does, in the form of --format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
+.txt, or .tarnwickrun for one run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>delete runs, without a question and for good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A RUN is named as the list has it, or by four or more characters that begin its id. Without one, all runs are meant;
+&quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
+file only if it is empty or holds runs; with --force any other file too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List, show, export or delete the runs that the window keeps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
+whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
+blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
+run left behind in FOLDER is removed before the start; files that are still in use stay, after a second&apos;s wait.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files of --handoff and --card stay until your session ends, or until the system empties its temporary folder.
+--output replaces an existing file only if it is empty or holds runs (a run file, or what &quot;show --format&quot; and
+&quot;history export&quot; write as json or csv); with --force any other file too. A window that is open shows a run that
+--keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
+and the run counts as failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure the file system that holds FOLDER</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tests to run, always in this order: sequentialWrite, sequentialRead,
+randomRead, randomWrite, fileOps (default: all)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the data file, or fill the disk (default: 5GiB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What --size fill leaves free (default: 1GiB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bytes per call, sequential write (default: 1MiB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bytes per call, sequential read (default: 1MiB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bytes per random operation (default: 4KiB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operations in each random test (default: 10000)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files in the file-operations test (default: 1000)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let the system cache the data file, as ordinary programs do</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Least seconds between two samples (default: 0.02)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print one JSON object: the plan, every figure, every sample, date,
+folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
+&quot;remarks&quot; what was observed and what it says</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write a run file there, for the window, for &quot;show&quot; and for others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the run to the window&apos;s history</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write a run file for the window and for &quot;show&quot;, and print its path
+as the last line; with --json: as &quot;handoffFile&quot; in the object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a picture of the run to share, in light or dark colours, and
+print its path as the last line; with --json: as &quot;cardFile&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run file is what &quot;run --handoff&quot; and &quot;run --output&quot; write, for one run. The window&apos;s history (history.json) and
+the output of &quot;show --format json&quot; have several. &quot;-&quot; is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
+run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
+plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show runs from their run files, and several side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HostHistory</name>
+    <message>
+        <source>there is no run %1 in the history</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stands for several runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <extracomment>A benchmark run.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HostProgress</name>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>&quot;1.2 GiB of 5.0 GiB&quot; are written; the numbers stand in columns of a fixed width.</extracomment>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Starting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>%1: the time until the end, as &quot;2 min&quot;.</extracomment>
+        <translation>Encore %1</translation>
+    </message>
+    <message>
+        <source>Stopping, removing the test files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preparing the test file, %1 s</source>
+        <extracomment>%1: the seconds since the start.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Starting, %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HostResults</name>
+    <message>
+        <source>Drive</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Sustained</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overall</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <extracomment>The slowest operation; &quot;p99&quot; is the time that 99 of 100 operations stay below.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <extracomment>What the file-operations test does with files; &quot;Stat&quot; asks for a file&apos;s size and dates.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HostUsage</name>
+    <message>
+        <source>a RUNFILE to draw is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a year at most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no option %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a value: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 goes with %2 only</source>
+        <extracomment>Two options or commands of the program.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a whole number from %2 to %3, not %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a number of bytes, such as 4096, 64K or 5GiB, from %2 to %3, not %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a number of seconds, 0 or more, not %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a FOLDER is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one FOLDER at a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is text, markdown, csv or json, not %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs the name of a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes no operand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a run file holds one run, not %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is needed where the FILE&apos;s name does not end in .tarnwickrun, .csv, .json, .md or .txt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs either RUNs or %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 goes with %2 and %3 only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 can list, show, export and delete, not %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a command is missing; see %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no command %1; see %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a FOLDER to measure is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a FOLDER to check is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one FOLDER at a time, not also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the FOLDER&apos;s name is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: there is no test %2, only %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is light or dark, not %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a FILE to show is missing</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -837,22 +2235,198 @@ min %2</translation>
     <name>InfoRow</name>
     <message>
         <source>Warning</source>
+        <extracomment>Spoken: the figure is a concern</extracomment>
         <translation>Avertissement</translation>
+    </message>
+</context>
+<context>
+    <name>LiveCheckText</name>
+    <message>
+        <source>All free space</source>
+        <translation>Tout l’espace libre</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <extracomment>Whether everything is read a second time</extracomment>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>After %1</source>
+        <translation>Après %1</translation>
+    </message>
+    <message>
+        <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
+        <translation>Des échantillons répartis sur l’espace choisi sont écrits, relus et supprimés. Cela prend quelques secondes, décèle la plupart des fausses capacités, et ne prouve rien si aucune n’est trouvée.</translation>
+    </message>
+    <message>
+        <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
+        <translation>%1 sont écrits, relus, comparés et supprimés. Vos fichiers ne sont pas touchés.</translation>
+    </message>
+    <message>
+        <source>All free space is written, read back, compared and removed. Your files are not touched.</source>
+        <translation>Tout l’espace libre est écrit, relu, comparé et libéré. Vos fichiers ne sont pas touchés.</translation>
+    </message>
+    <message>
+        <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
+        <translation>Tout l’espace libre, environ %1, est écrit, relu, comparé et libéré. Sur un grand volume, cela prend des heures ; pendant ce temps, le volume est plein pour les autres programmes. Vos fichiers ne sont pas touchés.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 % of the check</source>
+        <translation>%1 % de la vérification</translation>
+    </message>
+    <message>
+        <source>in one part</source>
+        <translation>dans une partie</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 parts</source>
+        <translation>
+            <numerusform>dans %1 partie</numerusform>
+            <numerusform>dans %1 parties</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3</source>
+        <extracomment>%1 and %2 are places on the volume, %3 what was found between them</extracomment>
+        <translation>%1 à %2 : %3</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <extracomment>When the check began, and how long it took</extracomment>
+        <translation>Vérifié</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>Texte copié</translation>
+    </message>
+    <message>
+        <source>The text couldn&apos;t be copied.</source>
+        <translation>Impossible de copier le texte.</translation>
+    </message>
+    <message>
+        <source>The file couldn&apos;t be saved: %1</source>
+        <translation>Impossible d’enregistrer le fichier : %1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>Enregistré sous « %1 »</translation>
     </message>
 </context>
 <context>
     <name>LiveRunPane</name>
     <message>
         <source>%1: %2 %</source>
+        <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
         <translation>%1 : %2 %</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
+        <extracomment>%1 is a rate, %2 its unit, %3 how much is done of how much</extracomment>
         <translation>%1 %2, %3</translation>
     </message>
     <message>
         <source>Drive %1 °C</source>
+        <extracomment>The temperature of the drive</extracomment>
         <translation>Disque %1 °C</translation>
+    </message>
+</context>
+<context>
+    <name>LiveRunText</name>
+    <message>
+        <source>done</source>
+        <extracomment>What a test does: it is done, it runs, or it has not begun</extracomment>
+        <translation>terminé</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>en cours</translation>
+    </message>
+    <message>
+        <source>to come</source>
+        <translation>à venir</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is the name of a test, %2 what it does (done, running, to come), %3 its rate</extracomment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1 : %2, %3</translation>
+    </message>
+    <message>
+        <source>A few seconds left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A few seconds left of this test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n s left</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n s left of this test</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n min left</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n min left of this test</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n h left</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n h left of this test</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 operations</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>Sizes: how much is done of how much</extracomment>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Preparing…</source>
+        <translation>Préparation…</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -865,11 +2439,8 @@ min %2</translation>
 <context>
     <name>MainView</name>
     <message>
-        <source>the volume</source>
-        <translation>ce volume</translation>
-    </message>
-    <message>
         <source>Volume</source>
+        <extracomment>Stands for the name of a volume that is not known</extracomment>
         <translation>Volume</translation>
     </message>
 </context>
@@ -892,15 +2463,21 @@ min %2</translation>
     </message>
     <message>
         <source>Compare</source>
+        <extracomment>Button: begins to choose runs</extracomment>
         <translation>Comparer</translation>
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Button: deletes all saved runs, after a question</extracomment>
         <translation>Effacer</translation>
     </message>
-    <message>
-        <source>Compare %1</source>
-        <translation>Comparer %1</translation>
+    <message numerus="yes">
+        <source>Compare %n</source>
+        <extracomment>Button: compares so many chosen runs</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -927,26 +2504,188 @@ min %2</translation>
     </message>
 </context>
 <context>
-    <name>QFileDialog</name>
+    <name>RemarkText</name>
     <message>
-        <source>Working folder:</source>
-        <translation>Dossier de travail :</translation>
+        <source>At most %1 of what was written reached the disk during the test.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>temporary, is written there and removed</source>
-        <translation>temporaire, y est créé puis supprimé</translation>
+        <source>%1 of what was written reached the disk during the test.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save As</source>
-        <translation>Enregistrer sous</translation>
+        <source>At most %1 of what was read came from the disk.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Open</source>
-        <translation>Ouvrir</translation>
+        <source>%1 of what was read came from the disk.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tarnwick runs</source>
-        <translation>Mesures Tarnwick</translation>
+        <source>What was written could not all be flushed to the disk: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The test file could not be flushed to the disk: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 for the first %2, then %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One pause over 1 s: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pauses over 1 s, the longest %2.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Others moved %1 on the same disk during the test.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The partition begins %1 into a physical block of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only %1 of the volume was free.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The test’s %1 may fit into a cache of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The machine ran on battery.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The processor was set to save power.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The machine ran on battery, its processor set to save power.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file system writes changes to new places and checksums data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file system writes changes to new places.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data went through a cache although the system was asked to bypass it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expect the lower rate where more than that is moved at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run again. If they come back, look at the drive’s S.M.A.R.T. status and its cable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run again while nothing else uses the disk.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try another port, slot or cable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free some space: many drives and file systems slow down when full.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a larger size, and switch on Bypass cache.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run again on mains power, with power saving off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory; no disk was measured.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a folder on a disk.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This volume is a file on another volume.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To measure that volume itself, choose a folder on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk is one of a virtual machine, whose host may cache it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file system compresses. The test’s data does not, so other files may be faster.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file system writes data twice, to its journal first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid</source>
+        <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Caution</source>
+        <extracomment>The weight of a remark: the figure may not be what it seems</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <extracomment>The weight of a remark: something to know</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -996,7 +2735,15 @@ min %2</translation>
     </message>
     <message>
         <source>%1 %2 · %3 · %4 will be attached.</source>
+        <extracomment>%1 is the program, %2 its version, %3 the system, %4 the machine</extracomment>
         <translation>Seront joints : %1 %2 · %3 · %4.</translation>
+    </message>
+</context>
+<context>
+    <name>ReportImageText</name>
+    <message>
+        <source>Ondel Tarnwick — Comparison</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1049,15 +2796,191 @@ min %2</translation>
     </message>
     <message>
         <source>Write</source>
+        <extracomment>Noun: what a curve shows</extracomment>
         <translation>Écriture</translation>
     </message>
     <message>
         <source>Read</source>
+        <extracomment>Noun: what a curve shows</extracomment>
         <translation>Lecture</translation>
     </message>
     <message>
         <source>Shaded: the last third of each test, whose median is the sustained rate. Triangles: peak and lowest rate.</source>
         <translation>Zone ombrée : le dernier tiers de chaque test, dont la médiane est le débit soutenu. Triangles : débit de pic et débit minimal.</translation>
+    </message>
+</context>
+<context>
+    <name>RunExport</name>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (invalid)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RunExportsText</name>
+    <message numerus="yes">
+        <source>Ondel Tarnwick — %n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>Texte copié</translation>
+    </message>
+    <message>
+        <source>Table copied</source>
+        <translation>Tableau copié</translation>
+    </message>
+    <message>
+        <source>The text couldn&apos;t be copied.</source>
+        <translation>Impossible de copier le texte.</translation>
+    </message>
+    <message>
+        <source>Lists of runs</source>
+        <translation>Listes de mesures</translation>
+    </message>
+    <message>
+        <source>Tarnwick runs</source>
+        <translation>Mesures Tarnwick</translation>
+    </message>
+    <message>
+        <source>CSV tables</source>
+        <translation>Tableaux CSV</translation>
+    </message>
+    <message>
+        <source>The file couldn&apos;t be saved: %1</source>
+        <translation>Impossible d’enregistrer le fichier : %1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>Enregistré sous « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>RunFactsText</name>
+    <message>
+        <source>Not the disk’s figure: %1</source>
+        <extracomment>Names of tests follow</extracomment>
+        <translation>Ne vient pas du disque : %1</translation>
+    </message>
+    <message>
+        <source>Not the disk’s figures: %1</source>
+        <translation>Ne viennent pas du disque : %1</translation>
+    </message>
+    <message>
+        <source>Random %1 read</source>
+        <extracomment>%1 is the size of a block, as 4 KiB</extracomment>
+        <translation>Lecture aléatoire %1</translation>
+    </message>
+    <message>
+        <source>Random %1 write</source>
+        <extracomment>%1 is the size of a block, as 4 KiB</extracomment>
+        <translation>Écriture aléatoire %1</translation>
+    </message>
+    <message>
+        <source>File operations</source>
+        <translation>Opérations sur les fichiers</translation>
+    </message>
+    <message>
+        <source>Read/Write</source>
+        <extracomment>The size of the blocks that were read and written</extracomment>
+        <translation>Lecture/Écriture</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <extracomment>The size of the blocks that were written</extracomment>
+        <translation>Écriture</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <extracomment>The size of the blocks that were read</extracomment>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <extracomment>The size of the blocks that were read and written at random</extracomment>
+        <translation>Aléatoire</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>Système de fichiers</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <extracomment>The free space of the volume</extracomment>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <extracomment>The size of the test&apos;s file</extracomment>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Cache</source>
+        <extracomment>The system&apos;s cache was bypassed, or what it holds was taken from it</extracomment>
+        <translation>Cache</translation>
+    </message>
+    <message>
+        <source>Bypassed</source>
+        <translation>Contourné</translation>
+    </message>
+    <message>
+        <source>Cached</source>
+        <translation>Utilisé</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Figures copied</source>
+        <translation>Valeurs copiées</translation>
+    </message>
+    <message>
+        <source>The figures couldn&apos;t be copied.</source>
+        <translation>Impossible de copier les valeurs.</translation>
+    </message>
+    <message>
+        <source>%1, not the disk’s figure</source>
+        <translation>%1, ne vient pas du disque</translation>
     </message>
 </context>
 <context>
@@ -1111,7 +3034,7 @@ min %2</translation>
     </message>
 </context>
 <context>
-    <name>RunNotifier</name>
+    <name>RunNotifierText</name>
     <message>
         <source>A capacity check is running</source>
         <translation>Une vérification de capacité est en cours</translation>
@@ -1121,28 +3044,30 @@ min %2</translation>
         <translation>Une mesure est en cours</translation>
     </message>
     <message>
-        <source>Benchmark failed</source>
-        <translation>Échec de la mesure</translation>
-    </message>
-    <message>
         <source>write %1</source>
+        <extracomment>%1 is the rate of the sequential write test, as 540 MB/s</extracomment>
         <translation>écriture %1</translation>
     </message>
     <message>
         <source>read %1</source>
+        <extracomment>%1 is the rate of the sequential read test, as 540 MB/s</extracomment>
         <translation>lecture %1</translation>
+    </message>
+    <message>
+        <source>Benchmark failed</source>
+        <translation>Échec de la mesure</translation>
     </message>
     <message>
         <source>Benchmark complete</source>
         <translation>Mesure terminée</translation>
     </message>
     <message>
-        <source>Capacity check complete</source>
-        <translation>Vérification de capacité terminée</translation>
-    </message>
-    <message>
         <source>Capacity check failed</source>
         <translation>Échec de la vérification de capacité</translation>
+    </message>
+    <message>
+        <source>Capacity check complete</source>
+        <translation>Vérification de capacité terminée</translation>
     </message>
 </context>
 <context>
@@ -1154,6 +3079,95 @@ min %2</translation>
     <message>
         <source>What these remarks mean</source>
         <translation>Signification de ces remarques</translation>
+    </message>
+</context>
+<context>
+    <name>RunText</name>
+    <message>
+        <source>Write</source>
+        <extracomment>Noun, before the rates of the sequential write test</extracomment>
+        <translation>Écriture</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <extracomment>Noun, before the rates of the sequential read test</extracomment>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Random read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Random write</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File ops</source>
+        <extracomment>File operations, where there is little room</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>peak %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lowest %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is the name of a test, %2 a sentence on it</extracomment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1, peak</source>
+        <extracomment>%1 is the name of a test, whose highest rate follows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, lowest</source>
+        <extracomment>%1 is the name of a test, whose lowest rate follows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, latency</source>
+        <extracomment>%1 is the name of a test, whose latency follows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About these figures</source>
+        <translation>À propos de ces valeurs</translation>
+    </message>
+</context>
+<context>
+    <name>RunTitle</name>
+    <message>
+        <source>%1 Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>External Drive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network volume</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1175,9 +3189,44 @@ min %2</translation>
     </message>
 </context>
 <context>
+    <name>SMARTReportText</name>
+    <message>
+        <source>%1:</source>
+        <extracomment>%1 is the name of a figure, which follows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  (attention)</source>
+        <extracomment>Behind a figure that is a concern</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <extracomment>The drive&apos;s own verdict follows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ondel Tarnwick S.M.A.R.T. report</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SettingsBlock</name>
     <message>
         <source>Size</source>
+        <extracomment>The size of the test&apos;s file</extracomment>
         <translation>Taille</translation>
     </message>
     <message>
@@ -1198,6 +3247,14 @@ min %2</translation>
     </message>
 </context>
 <context>
+    <name>SettingsText</name>
+    <message>
+        <source>%1  ·  optimal</source>
+        <extracomment>%1 is a size of blocks; it is the one that the volume prefers</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SettingsWindow</name>
     <message>
         <source>Settings</source>
@@ -1208,6 +3265,7 @@ min %2</translation>
     <name>ShareButton</name>
     <message>
         <source>Share</source>
+        <extracomment>Button: opens a menu</extracomment>
         <translation>Partager</translation>
     </message>
 </context>
@@ -1251,6 +3309,33 @@ min %2</translation>
     </message>
 </context>
 <context>
+    <name>SharedImageText</name>
+    <message>
+        <source>Image copied</source>
+        <translation>Image copiée</translation>
+    </message>
+    <message>
+        <source>The image couldn&apos;t be copied.</source>
+        <translation>Impossible de copier l’image.</translation>
+    </message>
+    <message>
+        <source>The image couldn&apos;t be saved: %1</source>
+        <translation>Impossible d’enregistrer l’image : %1</translation>
+    </message>
+    <message>
+        <source>Saved as “%1”</source>
+        <translation>Enregistré sous « %1 »</translation>
+    </message>
+    <message>
+        <source>The folder couldn&apos;t be opened.</source>
+        <translation>Impossible d’ouvrir le dossier.</translation>
+    </message>
+    <message>
+        <source>No mail program could be opened.</source>
+        <translation>Impossible d’ouvrir un logiciel de messagerie.</translation>
+    </message>
+</context>
+<context>
     <name>SidebarView</name>
     <message>
         <source>Tests and Settings</source>
@@ -1277,6 +3362,7 @@ min %2</translation>
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>Adjective: the run has come to its end</extracomment>
         <translation>Terminée</translation>
     </message>
     <message>
@@ -1316,13 +3402,149 @@ min %2</translation>
     </message>
 </context>
 <context>
+    <name>TargetFactsText</name>
+    <message>
+        <source>Sparse files</source>
+        <translation>Fichiers creux</translation>
+    </message>
+    <message>
+        <source>Cloning</source>
+        <translation>Clonage</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation>Instantanés</translation>
+    </message>
+    <message>
+        <source>Hard links</source>
+        <translation>Liens physiques</translation>
+    </message>
+    <message>
+        <source>Symlinks</source>
+        <translation>Liens symboliques</translation>
+    </message>
+    <message>
+        <source>Xattr</source>
+        <translation>Xattr</translation>
+    </message>
+    <message>
+        <source>Case not known</source>
+        <translation>Casse inconnue</translation>
+    </message>
+    <message>
+        <source>Case-sensitive</source>
+        <translation>Sensible à la casse</translation>
+    </message>
+    <message>
+        <source>Case-insensitive</source>
+        <translation>Insensible à la casse</translation>
+    </message>
+    <message>
+        <source>%1 · %2 external</source>
+        <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2 internal</source>
+        <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2 removable</source>
+        <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2 network</source>
+        <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder couldn&apos;t be opened.</source>
+        <translation>Impossible d’ouvrir le dossier.</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>Système de fichiers</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Optimal I/O size</source>
+        <translation>Taille d’E/S optimale</translation>
+    </message>
+    <message>
+        <source>Block size</source>
+        <translation>Taille de bloc</translation>
+    </message>
+    <message>
+        <source>Max filename</source>
+        <translation>Nom max.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 chars</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Max path</source>
+        <translation>Chemin max.</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <extracomment>The free space of the volume</extracomment>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>Not known: %1</source>
+        <translation>Inconnu : %1</translation>
+    </message>
+    <message>
+        <source>No S.M.A.R.T. figures: %1</source>
+        <translation>Pas de valeurs S.M.A.R.T. : %1</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>Choose a folder on the volume to test (a temporary working folder is written there and removed).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <extracomment>The button that accepts the folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TarnwickAppText</name>
+    <message>
+        <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TarnwickChart</name>
     <message>
         <source>Read</source>
+        <extracomment>Noun: what a curve shows</extracomment>
         <translation>Lecture</translation>
     </message>
     <message>
         <source>Write</source>
+        <extracomment>Noun: what a curve shows</extracomment>
         <translation>Écriture</translation>
     </message>
 </context>
@@ -1362,10 +3584,12 @@ min %2</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Menu entry: closes the window</extracomment>
         <translation>Fermer</translation>
     </message>
     <message>
         <source>&amp;Run</source>
+        <extracomment>Title of a menu: a run of the benchmark</extracomment>
         <translation>&amp;Mesure</translation>
     </message>
     <message>
@@ -1382,6 +3606,7 @@ min %2</translation>
     </message>
     <message>
         <source>Compare</source>
+        <extracomment>Menu entry: begins to choose runs</extracomment>
         <translation>Comparer</translation>
     </message>
     <message>
@@ -1410,391 +3635,6 @@ min %2</translation>
     <message>
         <source>Like the desktop</source>
         <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>TarnwickKit::views::LiveCheck</name>
-    <message>
-        <source>All free space</source>
-        <translation>Tout l’espace libre</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Non</translation>
-    </message>
-    <message>
-        <source>After %1</source>
-        <translation>Après %1</translation>
-    </message>
-    <message>
-        <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
-        <translation>Des échantillons répartis sur l’espace choisi sont écrits, relus et supprimés. Cela prend quelques secondes, décèle la plupart des fausses capacités, et ne prouve rien si aucune n’est trouvée.</translation>
-    </message>
-    <message>
-        <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
-        <translation>%1 sont écrits, relus, comparés et supprimés. Vos fichiers ne sont pas touchés.</translation>
-    </message>
-    <message>
-        <source>All free space is written, read back, compared and removed. Your files are not touched.</source>
-        <translation>Tout l’espace libre est écrit, relu, comparé et libéré. Vos fichiers ne sont pas touchés.</translation>
-    </message>
-    <message>
-        <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
-        <translation>Tout l’espace libre, environ %1, est écrit, relu, comparé et libéré. Sur un grand volume, cela prend des heures ; pendant ce temps, le volume est plein pour les autres programmes. Vos fichiers ne sont pas touchés.</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 sur %2</translation>
-    </message>
-    <message>
-        <source>%1 % of the check</source>
-        <translation>%1 % de la vérification</translation>
-    </message>
-    <message>
-        <source>in one part</source>
-        <translation>dans une partie</translation>
-    </message>
-    <message numerus="yes">
-        <source>in %1 parts</source>
-        <translation>
-            <numerusform>dans %1 partie</numerusform>
-            <numerusform>dans %1 parties</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 to %2: %3</source>
-        <translation>%1 à %2 : %3</translation>
-    </message>
-    <message>
-        <source>Checked</source>
-        <translation>Vérifié</translation>
-    </message>
-    <message>
-        <source>Text copied</source>
-        <translation>Texte copié</translation>
-    </message>
-    <message>
-        <source>The text couldn&apos;t be copied.</source>
-        <translation>Impossible de copier le texte.</translation>
-    </message>
-    <message>
-        <source>The file couldn&apos;t be saved: %1</source>
-        <translation>Impossible d’enregistrer le fichier : %1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>Enregistré sous « %1 »</translation>
-    </message>
-</context>
-<context>
-    <name>TarnwickKit::views::LiveRun</name>
-    <message>
-        <source>done</source>
-        <translation>terminé</translation>
-    </message>
-    <message>
-        <source>running</source>
-        <translation>en cours</translation>
-    </message>
-    <message>
-        <source>to come</source>
-        <translation>à venir</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1 : %2</translation>
-    </message>
-    <message>
-        <source>%1: %2, %3</source>
-        <translation>%1 : %2, %3</translation>
-    </message>
-    <message>
-        <source>A few seconds</source>
-        <translation>quelques secondes</translation>
-    </message>
-    <message>
-        <source>About %1 s</source>
-        <translation>environ %1 s</translation>
-    </message>
-    <message>
-        <source>About %1 min</source>
-        <translation>environ %1 min</translation>
-    </message>
-    <message>
-        <source>About %1 h</source>
-        <translation>environ %1 h</translation>
-    </message>
-    <message>
-        <source>%1 left</source>
-        <translation>Encore %1</translation>
-    </message>
-    <message>
-        <source>%1 left of this test</source>
-        <translation>Encore %1 pour ce test</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 sur %2</translation>
-    </message>
-    <message>
-        <source>%1 operations</source>
-        <translation>%1 opérations</translation>
-    </message>
-    <message>
-        <source>Preparing…</source>
-        <translation>Préparation…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-</context>
-<context>
-    <name>TarnwickKit::views::RunExports</name>
-    <message>
-        <source>%1 runs</source>
-        <translation>%1 mesures</translation>
-    </message>
-    <message>
-        <source>Text copied</source>
-        <translation>Texte copié</translation>
-    </message>
-    <message>
-        <source>Table copied</source>
-        <translation>Tableau copié</translation>
-    </message>
-    <message>
-        <source>The text couldn&apos;t be copied.</source>
-        <translation>Impossible de copier le texte.</translation>
-    </message>
-    <message>
-        <source>Lists of runs</source>
-        <translation>Listes de mesures</translation>
-    </message>
-    <message>
-        <source>Tarnwick runs</source>
-        <translation>Mesures Tarnwick</translation>
-    </message>
-    <message>
-        <source>CSV tables</source>
-        <translation>Tableaux CSV</translation>
-    </message>
-    <message>
-        <source>The file couldn&apos;t be saved: %1</source>
-        <translation>Impossible d’enregistrer le fichier : %1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>Enregistré sous « %1 »</translation>
-    </message>
-</context>
-<context>
-    <name>TarnwickKit::views::Runs</name>
-    <message>
-        <source>reference</source>
-        <translation>référence</translation>
-    </message>
-    <message>
-        <source>Not the disk’s figure: %1</source>
-        <translation>Ne vient pas du disque : %1</translation>
-    </message>
-    <message>
-        <source>Not the disk’s figures: %1</source>
-        <translation>Ne viennent pas du disque : %1</translation>
-    </message>
-    <message>
-        <source>Random %1 read</source>
-        <translation>Lecture aléatoire %1</translation>
-    </message>
-    <message>
-        <source>Random %1 write</source>
-        <translation>Écriture aléatoire %1</translation>
-    </message>
-    <message>
-        <source>File operations</source>
-        <translation>Opérations sur les fichiers</translation>
-    </message>
-    <message>
-        <source>Read/Write</source>
-        <translation>Lecture/Écriture</translation>
-    </message>
-    <message>
-        <source>Write</source>
-        <translation>Écriture</translation>
-    </message>
-    <message>
-        <source>Read</source>
-        <translation>Lecture</translation>
-    </message>
-    <message>
-        <source>Random</source>
-        <translation>Aléatoire</translation>
-    </message>
-    <message>
-        <source>Drive</source>
-        <translation>Disque</translation>
-    </message>
-    <message>
-        <source>File system</source>
-        <translation>Système de fichiers</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacité</translation>
-    </message>
-    <message>
-        <source>Free</source>
-        <translation>Libre</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>Taille</translation>
-    </message>
-    <message>
-        <source>Cache</source>
-        <translation>Cache</translation>
-    </message>
-    <message>
-        <source>Bypassed</source>
-        <translation>Contourné</translation>
-    </message>
-    <message>
-        <source>Cached</source>
-        <translation>Utilisé</translation>
-    </message>
-    <message>
-        <source>Figures copied</source>
-        <translation>Valeurs copiées</translation>
-    </message>
-    <message>
-        <source>The figures couldn&apos;t be copied.</source>
-        <translation>Impossible de copier les valeurs.</translation>
-    </message>
-    <message>
-        <source>%1, not the disk’s figure</source>
-        <translation>%1, ne vient pas du disque</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Réseau</translation>
-    </message>
-</context>
-<context>
-    <name>TarnwickKit::views::SharedImage</name>
-    <message>
-        <source>Image copied</source>
-        <translation>Image copiée</translation>
-    </message>
-    <message>
-        <source>The image couldn&apos;t be copied.</source>
-        <translation>Impossible de copier l’image.</translation>
-    </message>
-    <message>
-        <source>The image couldn&apos;t be saved: %1</source>
-        <translation>Impossible d’enregistrer l’image : %1</translation>
-    </message>
-    <message>
-        <source>Saved as “%1”</source>
-        <translation>Enregistré sous « %1 »</translation>
-    </message>
-    <message>
-        <source>The folder couldn&apos;t be opened.</source>
-        <translation>Impossible d’ouvrir le dossier.</translation>
-    </message>
-    <message>
-        <source>No mail program could be opened.</source>
-        <translation>Impossible d’ouvrir un logiciel de messagerie.</translation>
-    </message>
-</context>
-<context>
-    <name>TarnwickKit::views::TargetFacts</name>
-    <message>
-        <source>Sparse files</source>
-        <translation>Fichiers creux</translation>
-    </message>
-    <message>
-        <source>Cloning</source>
-        <translation>Clonage</translation>
-    </message>
-    <message>
-        <source>Snapshots</source>
-        <translation>Instantanés</translation>
-    </message>
-    <message>
-        <source>Hard links</source>
-        <translation>Liens physiques</translation>
-    </message>
-    <message>
-        <source>Symlinks</source>
-        <translation>Liens symboliques</translation>
-    </message>
-    <message>
-        <source>Xattr</source>
-        <translation>Xattr</translation>
-    </message>
-    <message>
-        <source>Case not known</source>
-        <translation>Casse inconnue</translation>
-    </message>
-    <message>
-        <source>Case-sensitive</source>
-        <translation>Sensible à la casse</translation>
-    </message>
-    <message>
-        <source>Case-insensitive</source>
-        <translation>Insensible à la casse</translation>
-    </message>
-    <message>
-        <source>The folder couldn&apos;t be opened.</source>
-        <translation>Impossible d’ouvrir le dossier.</translation>
-    </message>
-    <message>
-        <source>File system</source>
-        <translation>Système de fichiers</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>Format</translation>
-    </message>
-    <message>
-        <source>Optimal I/O size</source>
-        <translation>Taille d’E/S optimale</translation>
-    </message>
-    <message>
-        <source>Block size</source>
-        <translation>Taille de bloc</translation>
-    </message>
-    <message>
-        <source>Max filename</source>
-        <translation>Nom max.</translation>
-    </message>
-    <message>
-        <source>%1 chars</source>
-        <translation>%1 caractères</translation>
-    </message>
-    <message>
-        <source>Max path</source>
-        <translation>Chemin max.</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacité</translation>
-    </message>
-    <message>
-        <source>Free</source>
-        <translation>Libre</translation>
-    </message>
-    <message>
-        <source>Not known: %1</source>
-        <translation>Inconnu : %1</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>No S.M.A.R.T. figures: %1</source>
-        <translation>Pas de valeurs S.M.A.R.T. : %1</translation>
     </message>
 </context>
 <context>
@@ -1864,6 +3704,7 @@ min %2</translation>
     <name>TestRow</name>
     <message>
         <source>%1. %2</source>
+        <extracomment>%1 is the figure of a test, %2 what the test does</extracomment>
         <translation>%1. %2</translation>
     </message>
 </context>
@@ -1875,13 +3716,27 @@ min %2</translation>
     </message>
 </context>
 <context>
+    <name>ThroughputText</name>
+    <message>
+        <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
+        <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No measurements yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Minimize</source>
+        <extracomment>Of a window</extracomment>
         <translation>Réduire</translation>
     </message>
     <message>
         <source>Restore</source>
+        <extracomment>Of a window: it gets back the size that it had, or it fills the screen</extracomment>
         <translation>Restaurer</translation>
     </message>
     <message>
@@ -1890,14 +3745,18 @@ min %2</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Of a window</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>UndoNote</name>
-    <message>
-        <source>%1 runs deleted</source>
-        <translation>%1 mesures supprimées</translation>
+    <message numerus="yes">
+        <source>%n runs deleted</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Run deleted</source>
@@ -1906,10 +3765,6 @@ min %2</translation>
     <message>
         <source>Undo</source>
         <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Ctrl+Z</source>
-        <translation>Ctrl+Z</translation>
     </message>
 </context>
 <context>
@@ -1924,6 +3779,7 @@ min %2</translation>
     </message>
     <message>
         <source>%1 %2 %</source>
+        <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
         <translation>%1 %2 %</translation>
     </message>
     <message>
@@ -1935,6 +3791,7 @@ min %2</translation>
     <name>UpdateWords</name>
     <message>
         <source>%1 of %2</source>
+        <extracomment>Sizes: how much of the update has been loaded</extracomment>
         <translation>%1 sur %2</translation>
     </message>
     <message>
@@ -2089,6 +3946,49 @@ min %2</translation>
     <message>
         <source>Check Capacity…</source>
         <translation>Vérifier la capacité…</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeText</name>
+    <message>
+        <source>Internal</source>
+        <extracomment>How a volume is attached: the drive is built into the machine</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>External</source>
+        <extracomment>How a volume is attached: the drive has a case and a cable of its own</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removable</source>
+        <extracomment>How a volume is attached: a stick, a card or a disc</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <extracomment>How a volume is attached: a server keeps it</extracomment>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <extracomment>Stands for the name of a volume that has none</extracomment>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Root</source>
+        <extracomment>The name of the volume at &quot;/&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shared Folder</source>
+        <extracomment>A kind of file system: a folder that a virtual machine shares with its host</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill disk</source>
+        <extracomment>The size of a test: as much as there is free space</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

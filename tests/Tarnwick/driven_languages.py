@@ -20,14 +20,15 @@ SIZE = (900, 620)
 
 # What is the same in every language.
 UNTRANSLATED = re.compile("|".join((
-    r"Ondel Tarnwick|Tarnwick|Ko-fi|S\.M\.A\.R\.T\.|(Ctrl|Shift|Alt)\+\w+|Del|Esc|F\d+|tarnwick(-host)?\S*",
+    r"Ondel Tarnwick|Tarnwick|Ko-fi|S\.M\.A\.R\.T\.|(\w+\+)+\S+|Del|Esc|F\d+|tarnwick(-host)?\S*",
     r"(\b|(?<=\d))([KkMGTP]?i?B|[kMG]?B/s|GiB|ops/s|IOPS|k|M|ms|µs|s|min|h|p99|files/s|°C|px|QR|PNG|CSV|Markdown|JSON|NVMe|PCIe|SATA|USB|ATA)\b",
     r"\b(ext4|btrfs|xfs|tmpfs|overlay|exfat|nfs|vfat|ntfs)\b",
     r"\b(Jan|Feb|Mar|Apr|May|Jun|Jul|Aug|Sep|Oct|Nov|Dec|AM|PM)\b",
-    r"https?://\S+|\S+@\S+|/\S*",
+    r"https?://\S+|ondel\.example\S*|\S*/ondel test \w+|\S+@\S+|/\S*",
+    r"\S*  —  .*",  # the machine's volumes
     r"\bv?\d+(\.\d+)+\b",
 )))
-DATA = ["Samsung SSD 990 PRO", "Backup", "media", "SD card"]
+DATA = ["Samsung SSD 990 PRO", "Backup", "media", "SD card", "STICK", "ACME Flash", "TMPFS", "shm"]
 
 
 def rest_of(text):
@@ -118,6 +119,8 @@ def during_and_after_a_run(start, folder):
         window.find("Whole run")
         look("a run", moving=True)
         window.find("Complete", "status bar")
+        look("its result")
+        window.press("Collapse")
         window.press("Samsung SSD 990 PRO", "push button")
         window.find("About these figures")
         look("a result with remarks")
@@ -167,13 +170,17 @@ if __name__ == "__main__":
     (home / "census").mkdir()
     plugin = {"ONDEL_TEXT_CENSUS": str(home / "census"), "QT_QPA_GENERIC_PLUGINS": "textcensus",
               "QT_PLUGIN_PATH": str(programs / "plugins"), "TARNWICK_CATALOGUE": str(home / "pseudo.qm")}
+    sources = {source for _, source, _, _ in translated.messages("de")}
+
+    def words(text):
+        return translated.pseudo(text).replace("&", "") if text in sources else text
     with driver.fast_folder() as name:
         for direction in ("de", "ar"):
             translated.write_pseudo_catalogue(lrelease, home / "pseudo.qm", direction)
 
             @contextlib.contextmanager
             def start(*arguments):
-                with translated.Window(program, *arguments, words=lambda text: translated.pseudo(text).replace("&", ""), env=plugin) as window:
+                with translated.Window(program, *arguments, words=words, env=plugin) as window:
                     window.resize(*SIZE)
                     gate = Gate(window, home / "census")
 

@@ -335,7 +335,7 @@ void addDataNotes(QStringList& notes, const CapacityRecord& check) {
         notes << CapacityText::tr("Only %1 % of what was read came from the disk. Check more than the "
                                   "machine’s memory can hold.")
                      .arg(static_cast<int>(100 * check.result.read.shareAtDisk.value_or(0)));
-    else if (!check.result.read.shareAtDisk && check.result.verified > 0)
+    else if (!check.result.read.shareAtDisk && check.result.verified > 0 && !check.wasStopped)
         notes << CapacityText::tr("The disk behind this volume cannot be seen, so what came back may have "
                                   "come from a cache.");
 }
@@ -442,18 +442,16 @@ QString capacityReport(const CapacityRecord& check, LineStyle style) {
     constexpr std::size_t mostPlaces = 1000;
     const int columns = std::max(style.columns, leastColumns);
     const auto paragraph = [columns](const QString& sentence) {
-        return labelled({}, wrapped(harmless(sentence), columns), u" "_s, columns);
+        return wrapped({}, harmless(sentence), columns);
     };
     QString text = paragraph(capacitySentence(check)) +
                    paragraph(Format::runStamp(check.date, 0).section(u" · "_s, 0, 1)) + u'\n';
-    const auto facts = capacityFacts(check);
+    const std::vector<CapacityFact> facts = capacityFacts(check);
     int labelColumns = leastLabelColumns;
     for (const CapacityFact& fact : facts)
         labelColumns = std::max(labelColumns, columnsOf(fact.label) + 2);
-    for (const CapacityFact& fact : facts) {
-        const QString room(labelColumns - columnsOf(fact.label), u' ');
-        text += labelled(fact.label + room, fact.value.split(u" · "_s), u" · "_s, columns);
-    }
+    for (const CapacityFact& fact : facts)
+        text += labelled(padded(fact.label, labelColumns), fact.value.split(u" · "_s), u" · "_s, columns);
     if (const QStringList places = capacityDefects(check, mostPlaces); !places.isEmpty()) {
         text += u'\n';
         for (const QString& place : places)

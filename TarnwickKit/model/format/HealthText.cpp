@@ -68,7 +68,7 @@ constexpr Pattern healthValues[] = {
     {QT_TRANSLATE_NOOP("HealthText", "Reliability degraded")},
     {QT_TRANSLATE_NOOP("HealthText", "Read-only")},
     {QT_TRANSLATE_NOOP("HealthText", "Backup failed")},
-    //: What a drive warns of
+    //: What a drive warns of, in a bit that is not known
     {QT_TRANSLATE_NOOP("HealthText", "Unknown")},
     //: How long a drive has been switched on; %1 is a number with one decimal, as 1.2
     {QT_TRANSLATE_NOOP("HealthText", "%1 years")},
@@ -79,6 +79,7 @@ constexpr Pattern healthValues[] = {
 // where one begins like another.
 constexpr Pattern healthSources[] = {
     {QT_TRANSLATE_NOOP("HealthText", "no device is behind this path")},
+    //: A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda
     {QT_TRANSLATE_NOOP("HealthText", "no disk is behind %1")},
     {QT_TRANSLATE_NOOP("HealthText", "%1 is no block device")},
     {QT_TRANSLATE_NOOP("HealthText", "%1 does not tell whether it sleeps, so it was left alone")},

@@ -13,13 +13,16 @@ struct LineStyle {
     bool unicode = true;
 };
 
-/// Lines of at most `columns`: they end at blanks, and within Chinese and Japanese where a reader expects it.
-/// A word that is longer stands on a line of its own, which is longer then.
-QStringList wrapped(const QString& text, int columns);
-
 /// `parts` behind a label, on as many lines of at most `columns` as they need. Parts that are too long for a
 /// line are cut. Empty without parts.
 QString labelled(const QString& label, const QStringList& parts, const QString& between, int columns);
+
+/// A sentence behind a label, on as many lines of at most `columns` as it needs: it goes on below at blanks,
+/// and in scripts without blanks between characters. Empty without a word.
+QString wrapped(const QString& label, const QString& sentence, int columns);
+
+/// `text` with blanks behind it, in at least `columns` columns.
+QString padded(const QString& text, int columns);
 
 using TextRow = std::vector<QString>;
 

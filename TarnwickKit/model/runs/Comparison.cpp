@@ -160,8 +160,8 @@ QString parameterSummary(const RunRecord& run) {
         parts << ComparisonText::tr("Rnd %1").arg(Format::block(*run.randomBlock));
     }
     if (run.bypassCache)
-        //: The system's cache was bypassed, or it was not
-        parts << (*run.bypassCache ? ComparisonText::tr("Uncached") : ComparisonText::tr("Cached"));
+        parts << (*run.bypassCache ? /*: The system's cache was bypassed */ ComparisonText::tr("Uncached")
+                                   : /*: It was not bypassed */ ComparisonText::tr("Cached"));
     return parts.join(u"  ·  "_s);
 }
 

@@ -58,10 +58,6 @@ struct Labels {
     }
 };
 
-QString padded(const QString& label, int columns) {
-    return label + QString(std::max(0, columns - columnsOf(label)), ' ');
-}
-
 const QString dot = " · ";
 const QString wideDot = "  ·  ";
 
@@ -208,8 +204,7 @@ QString remarkList(const std::vector<Remark>& remarks, std::int64_t randomBlock,
             continue;
         if (remark.test)
             sentences.front() = aboutTest(title(*remark.test, randomBlock), sentences.front());
-        list += labelled(padded(weightMark(remark.weight), labelColumns),
-                         wrapped(sentences.join(' ').trimmed(), columns - labelColumns), " ", columns);
+        list += wrapped(padded(weightMark(remark.weight), labelColumns), sentences.join(' '), columns);
     }
     return list.isEmpty() ? list : "\n" + RunText::tr("About these figures") + "\n" + list;
 }

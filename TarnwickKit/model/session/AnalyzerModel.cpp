@@ -325,13 +325,12 @@ void AnalyzerModel::openCheck() {
         return;
     if (targetFolder())
         return setShowsCheck(true);
-    m_parts->target.askForFolder(std::nullopt,
-                                 [model = QPointer(this)](const std::filesystem::path& folder) {
-                                     if (!model || model->isBusy())
-                                         return;
-                                     model->select(folder);
-                                     model->setShowsCheck(true);
-                                 });
+    m_parts->target.askForFolder(std::nullopt, [model = QPointer(this)](const std::filesystem::path& folder) {
+        if (!model || model->isBusy())
+            return;
+        model->select(folder);
+        model->setShowsCheck(true);
+    });
 }
 
 // --- … to the stored runs

@@ -323,10 +323,11 @@ QList<InfoItem> LiveCheck::facts() const {
         return items;
     for (const auto& [label, value, isWarning] : model::capacityFacts(*m_record))
         items.append({label, value, isWarning});
+    QString when = Format::runStamp(m_record->date, 0).section(QStringLiteral(" · "), 0, 1);
+    if (m_record->result.duration > 0) // of a stopped check it is not known
+        when += QStringLiteral(" · ") + model::spanText(m_record->result.duration);
     //: When the check began, and how long it took
-    items.append({LiveCheckText::tr("Checked"),
-                  Format::runStamp(m_record->date, 0).section(QStringLiteral(" · "), 0, 1) +
-                      QStringLiteral(" · ") + model::spanText(m_record->result.duration)});
+    items.append({LiveCheckText::tr("Checked"), when});
     return items;
 }
 

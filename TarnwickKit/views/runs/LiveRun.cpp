@@ -42,10 +42,9 @@ LiveTest itemOf(const LiveProgress::Test& test) {
     item.isRunning = test.stage == LiveProgress::Stage::running;
     if (item.isDone && test.result > 0)
         item.figure = model::rateFigure(test.test, test.result) + u' ' + model::rateUnit(test.test);
-    //: What a test does: it is done, it runs, or it has not begun
-    const QString state = item.isDone      ? LiveRunText::tr("done")
-                          : item.isRunning ? LiveRunText::tr("running")
-                                           : LiveRunText::tr("to come");
+    const QString state = item.isDone      ? /*: Of a test */ LiveRunText::tr("done")
+                          : item.isRunning ? /*: Of a test */ LiveRunText::tr("running")
+                                           : /*: Of a test that has not begun */ LiveRunText::tr("to come");
     //: %1 is the name of a test, %2 what it does (done, running, to come), %3 its rate
     item.sentence = item.figure.isEmpty() ? LiveRunText::tr("%1: %2").arg(item.title, state)
                                           : LiveRunText::tr("%1: %2, %3").arg(item.title, state, item.figure);

@@ -140,9 +140,10 @@ QVariantList capturedFacts(const RunRecord& run) {
                   return legible(model::testSizeText(size));
               }));
     addBlocks(items, run);
-    //: The system's cache was bypassed, or what it holds was taken from it
     items.add(RunFactsText::tr("Cache"), words(run.bypassCache, [](bool bypassed) {
-                  return bypassed ? RunFactsText::tr("Bypassed") : RunFactsText::tr("Cached");
+                  return bypassed ? /*: The system's cache was */ RunFactsText::tr("Bypassed")
+                                  : /*: Reads and writes went through the system's cache */ RunFactsText::tr(
+                                        "Cached");
               }));
     return items.take();
 }

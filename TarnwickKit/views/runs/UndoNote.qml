@@ -41,7 +41,7 @@ Card {
         TextButton {
             anchors.verticalCenter: parent.verticalCenter
             label: qsTr("Undo")
-            hint: qsTr("Ctrl+Z")
+            hint: ViewMath.keyName("Ctrl+Z")
             textFont: Typeface.text(13, Font.DemiBold)
             textColor: PaletteKey.palette.link
             onClicked: note.analyzer.undoDeletion()

@@ -20,8 +20,10 @@ Column {
     CollapsibleSection {
         id: health
 
-        //: The drive's own verdict: it is going to break, or it finds itself sound
-        readonly property string verdict: section.target.isFailing ? qsTr("Failing") : qsTr("Verified")
+        //: The drive's own verdict: it is going to break
+        readonly property string verdict: section.target.isFailing ? qsTr("Failing")
+            //: The drive's own verdict: it finds itself sound
+            : qsTr("Verified")
 
         width: parent.width
         label: qsTr("S.M.A.R.T.")

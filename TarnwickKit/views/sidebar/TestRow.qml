@@ -53,6 +53,8 @@ ToggleButton {
             text: row.title
             font: Typeface.text(13.5, Font.Medium)
             color: row.PaletteKey.palette.text
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             elide: Text.ElideRight
             Accessible.ignored: true
         }

@@ -197,6 +197,9 @@ TEST(CapacityText, SaysWhatItDoesNotKnow) {
         {quick(stoppedCheck(0), false),
          "A quick check writes a few places only. It finds most false capacities in seconds; finding nothing "
          "proves nothing."},
+        {stoppedCheck(31 * gibi), // what the disk had to do is not known
+         "What no check can tell: whether the space under your files is sound, what the drive keeps in "
+         "reserve, and whether a repaired block will last."},
         {filled(goodCheck()), "Less was checked than planned: other programs may have taken the space."},
         {filled(changed), "Less was checked than planned: the volume was full too early. It may have lost "
                           "data of the file system itself."},

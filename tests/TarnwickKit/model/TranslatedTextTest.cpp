@@ -5,6 +5,7 @@
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/HealthText.h"
 #include "TarnwickKit/model/format/RemarkText.h"
+#include "TarnwickKit/model/format/TextLines.h"
 #include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/model/runs/FiguresText.h"
@@ -161,10 +162,17 @@ TEST(TranslatedText, SourcesOfHealthAreSentencesOfTheirOwn) {
         {"1 of 3 disks answered: sda does not answer; sdb has no S.M.A.R.T., or it is switched off",
          "««1 of 3 disks answered»: ««sda does not answer»; «sdb has no S.M.A.R.T., or it is switched "
          "off»»»"},
-        {"words that nobody knows", u"words that nobody knows"},
+        {"words that nobody knows", "words that nobody knows"},
     };
     for (const auto& each : cases)
         EXPECT_EQ(healthSource(each.english).toStdString(), each.shown) << each.english;
+}
+
+/// Japanese and Chinese have no blanks.
+TEST(TranslatedText, SentencesGoOnBelow) {
+    EXPECT_EQ(wrapped("注意  ", "ディスクは ok です。", 16), "注意  ディスクは\n      ok です。\n");
+    EXPECT_EQ(wrapped({}, "全部写好了，没有错。", 12), "全部写好了，\n没有错。\n");
+    EXPECT_EQ(wrapped("- ", "All is well-known", 10), "- All is\n  well-kn…\n");
 }
 
 TEST(TranslatedText, RunsAreShownInTheUsersLanguageAndKeptInEnglish) {
