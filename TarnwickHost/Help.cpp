@@ -30,14 +30,14 @@ QStringList linesOf(const char* source, int columns) {
     QString text = HostHelp::tr(source);
     if (text == QString::fromUtf8(source))
         return text.split(u'\n');
-    return wrapped(text.replace(u'\n', u' '), std::max(columns, leastColumns));
+    return wrapped({}, text.replace(u'\n', u' '), std::max(columns, leastColumns)).trimmed().split(u'\n');
 }
 
 QString summaryOf(const Command& command, int columns) {
     //: %1: a sentence without its full stop.
     const QString text = HostHelp::tr("%1.").arg(HostHelp::tr(command.summary));
     const bool isEnglish = text == QString::fromUtf8(command.summary) + u'.';
-    return (isEnglish ? text : wrapped(text, columns).join(u'\n')) + "\n\n";
+    return (isEnglish ? text + u'\n' : wrapped({}, text, columns)) + u'\n';
 }
 
 QString blanks(int count) { return {count, u' '}; }

@@ -102,7 +102,7 @@ QString fitted(const QString& text, int columns) {
         const bool isTooLong = end - begin > longestCharacter;
         const QString character =
             isTooLong ? QString(QChar::ReplacementCharacter) : shown.mid(begin, end - begin);
-        used += columnsOfCharacter(character);
+        used += columnsOf(character);
         if (used > columns) {
             isCut = true;
             break;

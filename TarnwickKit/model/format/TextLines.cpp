@@ -11,15 +11,23 @@ namespace TarnwickKit::model {
 
 namespace {
 
-/// Of Chinese or Japanese, which have no blanks between words.
-bool isIdeographic(QChar character) {
-    return columnsOf(QString(character)) > 1 && character.script() != QChar::Script_Hangul;
-}
+bool isWide(QChar character) { return columnsOf(QString(character)) > 1; }
 
-QString withoutEnd(QString line) {
-    while (line.endsWith(QLatin1Char(' ')))
-        line.chop(1);
-    return line;
+/// The parts of a word that may stand on lines of their own: scripts without blanks break between characters.
+QStringList breakable(const QString& word) {
+    if (columnsOf(word) <= word.size())
+        return {word};
+    QStringList pieces;
+    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Line, word);
+    qsizetype begin = 0;
+    for (qsizetype end = 0; (end = boundaries.toNextBoundary()) != -1;) {
+        // Not behind a hyphen, which would tear an option apart.
+        if (end < word.size() && !isWide(word[end - 1]) && !isWide(word[end]))
+            continue;
+        pieces << word.mid(begin, end - begin);
+        begin = end;
+    }
+    return pieces;
 }
 
 /// Lines behind a label, which stands on the first.
@@ -30,36 +38,20 @@ QString behind(const QString& label, const QStringList& lines) {
 
 } // namespace
 
-QStringList wrapped(const QString& text, int columns) {
-    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Line, text);
-    const auto mayEnd = [&](qsizetype end) {
-        if (end == text.size() || text[end - 1] == QLatin1Char(' '))
-            return true;
-        boundaries.setPosition(end);
-        return (isIdeographic(text[end - 1]) || isIdeographic(text[end])) && boundaries.isAtBoundary();
-    };
-    QStringList lines;
-    QString line;
-    qsizetype begin = 0;
-    for (qsizetype end = 1; end <= text.size(); ++end) {
-        if (!mayEnd(end))
-            continue;
-        const QString piece = text.mid(begin, end - begin);
-        if (!line.isEmpty() && columnsOf(withoutEnd(line + piece)) > columns) {
-            lines << withoutEnd(line);
-            line.clear();
-        }
-        line += piece;
-        begin = end;
-    }
-    return lines << withoutEnd(line);
-}
-
 QString wrapped(const QString& label, const QString& sentence, int columns) {
     const int room = std::max(1, columns - columnsOf(label));
-    QStringList lines = wrapped(sentence.simplified(), room);
-    for (QString& line : lines)
-        line = fitted(line, room);
+    QStringList lines;
+    for (const QString& word : sentence.split(' ', Qt::SkipEmptyParts)) {
+        QString between = " ";
+        for (const QString& piece : breakable(word)) {
+            const QString shown = fitted(piece, room);
+            if (!lines.isEmpty() && columnsOf(lines.last() + between + shown) <= room)
+                lines.last() += between + shown;
+            else
+                lines << shown;
+            between.clear();
+        }
+    }
     return behind(label, lines);
 }
 

@@ -13,10 +13,6 @@ struct LineStyle {
     bool unicode = true;
 };
 
-/// Lines of at most `columns`: they end at blanks, and within Chinese and Japanese where a reader expects it.
-/// A word that is longer stands on a line of its own, which is longer then.
-QStringList wrapped(const QString& text, int columns);
-
 /// `parts` behind a label, on as many lines of at most `columns` as they need. Parts that are too long for a
 /// line are cut. Empty without parts.
 QString labelled(const QString& label, const QStringList& parts, const QString& between, int columns);
