@@ -37,7 +37,7 @@ bool isHarmless(char32_t character) {
     }
 }
 
-int columnsOf(char32_t character) {
+int columnsOfCharacter(char32_t character) {
     const auto point = static_cast<UChar32>(character);
     switch (u_charType(point)) {
     case U_NON_SPACING_MARK:
@@ -77,7 +77,7 @@ QByteArray harmlessJson(const QByteArray& json) {
 int columnsOf(const QString& text) {
     int columns = 0;
     for (const char32_t character : text.toUcs4())
-        columns += columnsOf(character);
+        columns += columnsOfCharacter(character);
     return columns;
 }
 
