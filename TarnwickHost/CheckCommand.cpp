@@ -10,6 +10,7 @@
 #include "TarnwickKit/model/capacity/CapacityCodec.h"
 #include "TarnwickKit/model/capacity/CapacityCourse.h"
 #include "TarnwickKit/model/capacity/CapacityRecord.h"
+#include "TarnwickKit/model/capacity/CapacityReport.h"
 #include "TarnwickKit/model/capacity/CapacityText.h"
 #include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"

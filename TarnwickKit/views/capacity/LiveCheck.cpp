@@ -1,6 +1,7 @@
 #include "TarnwickKit/views/capacity/LiveCheck.h"
 
 #include "TarnwickKit/model/capacity/CapacityChecks.h"
+#include "TarnwickKit/model/capacity/CapacityReport.h"
 #include "TarnwickKit/model/capacity/CapacitySession.h"
 #include "TarnwickKit/model/capacity/CapacityText.h"
 #include "TarnwickKit/model/format/Format.h"

@@ -3,6 +3,7 @@
 #include "SampleCheck.h"
 #include "TarnwickKit/model/capacity/CapacityCodec.h"
 #include "TarnwickKit/model/capacity/CapacityFields.h"
+#include "TarnwickKit/model/capacity/CapacityReport.h"
 
 #include <QFile>
 
