@@ -54,35 +54,35 @@
     <name>BenchmarkText</name>
     <message>
         <source>Not enough space: needs %1, only %2 free.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مساحة كافية: يلزم %1، والمتاح %2 فقط.</translation>
     </message>
     <message>
         <source>I/O error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ إدخال/إخراج: %1</translation>
     </message>
     <message>
         <source>Couldn’t write there. The volume may be read-only, or the folder may not allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت الكتابة هناك. ربما كانت وحدة التخزين للقراءة فقط، أو كان المجلد لا يسمح بذلك.</translation>
     </message>
     <message>
         <source>The test file is too small for the random block size.</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف الاختبار أصغر من حجم الكتلة العشوائية.</translation>
     </message>
     <message>
         <source>Sequential write</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة تتابعية</translation>
     </message>
     <message>
         <source>Sequential read</source>
-        <translation type="unfinished"></translation>
+        <translation>قراءة تتابعية</translation>
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>قراءة عشوائية</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة عشوائية</translation>
     </message>
     <message>
         <source>File operations</source>
@@ -91,53 +91,53 @@
     <message>
         <source>files/s</source>
         <extracomment>A unit, like MB/s</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ملف/ثانية</translation>
     </message>
     <message>
         <source>p99 %1</source>
         <extracomment>The time within which 99 % of all operations were done</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>p99 %1</translation>
     </message>
     <message>
         <source>worst %1</source>
         <extracomment>The longest time that an operation took</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الأسوأ %1</translation>
     </message>
     <message>
         <source>The folder was removed or its volume unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُزيل المجلد أو فُصلت وحدة تخزينه أثناء القياس.</translation>
     </message>
     <message>
         <source>The volume was unplugged, or its server is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>فُصلت وحدة التخزين، أو لم يعد خادومها موجودًا.</translation>
     </message>
     <message>
         <source>The drive reported an error, or was unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>أبلغ المحرك عن خطأ، أو فُصل أثناء القياس.</translation>
     </message>
     <message>
         <source>The volume can only be read: systems switch to that when they find an error on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن سوى القراءة من وحدة التخزين: تتحول الأنظمة إلى ذلك عندما تجد خطأ فيها.</translation>
     </message>
     <message>
         <source>The volume became full during the run, or your share of it is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>امتلأت وحدة التخزين أثناء القياس، أو نفدت حصتك منها.</translation>
     </message>
     <message>
         <source>The file system, or a limit of this session, does not allow files of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يسمح نظام الملفات، أو حدٌّ لهذه الجلسة، بملفات بهذا الحجم.</translation>
     </message>
     <message>
         <source>The permissions of the folder changed during the run, or the system forbids this there.</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيّرت أذونات المجلد أثناء القياس، أو يمنع النظام ذلك هناك.</translation>
     </message>
     <message>
         <source>There is not enough memory for blocks of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد ذاكرة كافية لكتل بهذا الحجم.</translation>
     </message>
     <message>
         <source>Too many files are open at the moment; close some programs and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>عدد الملفات المفتوحة الآن كبير جدًا؛ أغلق بعض البرامج وحاول مجددًا.</translation>
     </message>
 </context>
 <context>
@@ -174,7 +174,7 @@ min %2</source>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن إرسال البلاغ من هذه البيئة المعزولة، إذ لا شبكة فيها.</translation>
     </message>
     <message>
         <source>The server rejected the report (%1).</source>
@@ -506,7 +506,7 @@ min %2</source>
     </message>
     <message>
         <source>This file system cannot spread samples: only %1 in one place were checked, and hold what was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يستطيع نظام الملفات هذا توزيع العيّنات: فُحص %1 فقط في موضع واحد، وهو يحفظ ما كُتب فيه.</translation>
     </message>
     <message>
         <source>Samples all over %1 hold what was written, which is no proof.</source>
@@ -546,7 +546,7 @@ min %2</source>
     </message>
     <message>
         <source>about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>نحو %1</translation>
     </message>
     <message>
         <source>Space to check</source>
@@ -566,7 +566,7 @@ min %2</source>
     </message>
     <message>
         <source>In one place</source>
-        <translation type="unfinished"></translation>
+        <translation>في موضع واحد</translation>
     </message>
     <message>
         <source>It was right at the first reading.</source>
@@ -629,11 +629,11 @@ min %2</source>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحجز نظام الملفات هذا مساحة دون الكتابة فيها، لذا لم يمكن توزيع العيّنات. لا تدل النتيجة على سعة وحدة التخزين: أجرِ فحصًا غير سريع.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يكتب الفحص السريع إلا في مواضع قليلة: ما بينها لم يُفحص.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
@@ -641,7 +641,7 @@ min %2</source>
     </message>
     <message>
         <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>فُحص أقل مما خُطط له: امتلأت وحدة التخزين قبل الأوان. ربما فقدت بيانات تخص نظام الملفات نفسه.</translation>
     </message>
     <message>
         <source>Less was checked than planned: other programs may have taken the space.</source>
@@ -661,7 +661,7 @@ min %2</source>
     </message>
     <message>
         <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يُكتب بعد سعتها الفعلية يضيع، أو يتلف ما في مواضع أخرى منها. انسخ منها ما تحتاج إليه، ولا تثق بها.</translation>
     </message>
     <message>
         <source>The check was stopped: what it had not read back is not known.</source>
@@ -669,7 +669,7 @@ min %2</source>
     </message>
     <message>
         <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يعيد نظام الملفات هذا ما لا يطابق المجاميع الاختبارية: لا يمكن قراءة بيانات متغيّرة عليه.</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -830,7 +830,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1, %2: %3 %4</source>
         <extracomment>%1 is what was measured, %2 the name of a run, %3 the figure, %4 its unit</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2: %3 %4</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -908,63 +908,64 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>قراءة عشوائية</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة عشوائية</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>عمليات الملفات</translation>
     </message>
     <message>
         <source>ops/s</source>
         <extracomment>A unit, like IOPS: file operations per second</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>عملية/ثانية</translation>
     </message>
     <message>
         <source>%1 free</source>
         <extracomment>%1 is the free space of a volume</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 حرة</translation>
     </message>
     <message>
         <source>Fill disk test</source>
-        <translation type="unfinished"></translation>
+        <translation>اختبار ملء القرص</translation>
     </message>
     <message>
         <source>%1 test</source>
-        <translation type="unfinished"></translation>
+        <translation>اختبار %1</translation>
     </message>
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>قراءة/كتابة %1</translation>
     </message>
     <message>
         <source>W %1</source>
         <extracomment>%1 is the size of the blocks that were written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>كتابة %1</translation>
     </message>
     <message>
         <source>R %1</source>
         <extracomment>%1 is the size of the blocks that were read</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>قراءة %1</translation>
     </message>
     <message>
         <source>Rnd %1</source>
         <extracomment>%1 is the size of the blocks that were read and written at random</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>عشوائي %1</translation>
     </message>
     <message>
         <source>Uncached</source>
-        <extracomment>The system&apos;s cache was bypassed, or it was not</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>The system&apos;s cache was bypassed</extracomment>
+        <translation>بلا ذاكرة مخبئية</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>مستخدَمة</translation>
+        <extracomment>It was not bypassed</extracomment>
+        <translation>مع ذاكرة مخبئية</translation>
     </message>
 </context>
 <context>
@@ -1018,32 +1019,32 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>DisplayText</name>
     <message>
         <source>“%1” is damaged or not a Tarnwick run.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» تالف أو ليس قياسًا من Tarnwick.</translation>
     </message>
     <message>
         <source>“%1” is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ليس مجلدًا ولا ملف قياس يمكن فتحه.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are damaged or not Tarnwick runs.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>«%1» و%2 ملف آخر تالفة أو ليست قياسات من Tarnwick.</numerusform>
+            <numerusform>«%1» وملف آخر (%2) تالفان أو ليسا قياسين من Tarnwick.</numerusform>
+            <numerusform>«%1» وملفان آخران (%2) تالفة أو ليست قياسات من Tarnwick.</numerusform>
+            <numerusform>«%1» و%2 ملفات أخرى تالفة أو ليست قياسات من Tarnwick.</numerusform>
+            <numerusform>«%1» و%2 ملفًا آخر تالفة أو ليست قياسات من Tarnwick.</numerusform>
+            <numerusform>«%1» و%2 ملف آخر تالفة أو ليست قياسات من Tarnwick.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are not folders or run files that can be opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>«%1» و%2 عنصر آخر ليست مجلدات ولا ملفات قياس يمكن فتحها.</numerusform>
+            <numerusform>«%1» وعنصر آخر (%2) ليسا مجلدين ولا ملفي قياس يمكن فتحهما.</numerusform>
+            <numerusform>«%1» وعنصران آخران (%2) ليست مجلدات ولا ملفات قياس يمكن فتحها.</numerusform>
+            <numerusform>«%1» و%2 عناصر أخرى ليست مجلدات ولا ملفات قياس يمكن فتحها.</numerusform>
+            <numerusform>«%1» و%2 عنصرًا آخر ليست مجلدات ولا ملفات قياس يمكن فتحها.</numerusform>
+            <numerusform>«%1» و%2 عنصر آخر ليست مجلدات ولا ملفات قياس يمكن فتحها.</numerusform>
         </translation>
     </message>
 </context>
@@ -1095,11 +1096,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>FiguresText</name>
     <message>
         <source>Run: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>القياس: %1 · %2</translation>
     </message>
     <message>
         <source>not the disk’s figure</source>
-        <translation type="unfinished"></translation>
+        <translation>ليست قيمة القرص</translation>
     </message>
 </context>
 <context>
@@ -1150,11 +1151,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthSection</name>
     <message>
         <source>Failing</source>
-        <extracomment>The drive&apos;s own verdict: it is going to break, or it finds itself sound</extracomment>
+        <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
         <translation>يوشك على التعطل</translation>
     </message>
     <message>
         <source>Verified</source>
+        <extracomment>The drive&apos;s own verdict: it finds itself sound</extracomment>
         <translation>سليم</translation>
     </message>
     <message>
@@ -1171,230 +1173,231 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthText</name>
     <message>
         <source>Critical warning</source>
-        <translation type="unfinished"></translation>
+        <translation>تحذير حرج</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة الحرارة</translation>
     </message>
     <message>
         <source>Life used</source>
-        <translation type="unfinished"></translation>
+        <translation>العمر المستهلك</translation>
     </message>
     <message>
         <source>Spare available</source>
         <extracomment>Of a solid state drive: how much of its reserve of memory cells is left</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الاحتياطي المتاح</translation>
     </message>
     <message>
         <source>Spare threshold</source>
         <extracomment>Of a solid state drive: the least reserve of memory cells before it warns</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>عتبة الاحتياطي</translation>
     </message>
     <message>
         <source>Power-on time</source>
-        <translation type="unfinished"></translation>
+        <translation>مدة التشغيل</translation>
     </message>
     <message>
         <source>Power cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>مرات التشغيل</translation>
     </message>
     <message>
         <source>Load cycles</source>
         <extracomment>How often the heads were parked and loaded again</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>مرات تحميل الرؤوس</translation>
     </message>
     <message>
         <source>Unsafe shutdowns</source>
-        <translation type="unfinished"></translation>
+        <translation>مرات الإيقاف غير الآمن</translation>
     </message>
     <message>
         <source>Data written</source>
-        <translation type="unfinished"></translation>
+        <translation>البيانات المكتوبة</translation>
     </message>
     <message>
         <source>Data read</source>
-        <translation type="unfinished"></translation>
+        <translation>البيانات المقروءة</translation>
     </message>
     <message>
         <source>Host read commands</source>
-        <translation type="unfinished"></translation>
+        <translation>أوامر القراءة من المضيف</translation>
     </message>
     <message>
         <source>Host write commands</source>
-        <translation type="unfinished"></translation>
+        <translation>أوامر الكتابة من المضيف</translation>
     </message>
     <message>
         <source>Controller busy</source>
         <extracomment>How long the drive&apos;s controller was busy</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>مدة انشغال المتحكم</translation>
     </message>
     <message>
         <source>Reallocated sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>قطاعات معاد تخصيصها</translation>
     </message>
     <message>
         <source>Pending sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>قطاعات معلّقة</translation>
     </message>
     <message>
         <source>Uncorrectable sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>قطاعات غير قابلة للتصحيح</translation>
     </message>
     <message>
         <source>Reported uncorrectable</source>
         <extracomment>Errors that the drive reported and could not correct</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>أخطاء مبلَّغ عنها غير قابلة للتصحيح</translation>
     </message>
     <message>
         <source>Spin retries</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادات محاولة الدوران</translation>
     </message>
     <message>
         <source>Interface CRC errors</source>
-        <translation type="unfinished"></translation>
+        <translation>أخطاء CRC في الواجهة</translation>
     </message>
     <message>
         <source>Media errors</source>
-        <translation type="unfinished"></translation>
+        <translation>أخطاء الوسيط</translation>
     </message>
     <message>
         <source>Error log entries</source>
-        <translation type="unfinished"></translation>
+        <translation>مدخلات سجل الأخطاء</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الحالة</translation>
     </message>
     <message>
         <source>Disks</source>
-        <translation type="unfinished"></translation>
+        <translation>الأقراص</translation>
     </message>
     <message>
         <source>Spare below threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>الاحتياطي دون العتبة</translation>
     </message>
     <message>
         <source>Reliability degraded</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع الموثوقية</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>للقراءة فقط</translation>
     </message>
     <message>
         <source>Backup failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل النسخ الاحتياطي</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>What a drive warns of</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>What a drive warns of, in a bit that is not known</extracomment>
+        <translation>غير معروف</translation>
     </message>
     <message>
         <source>%1 years</source>
         <extracomment>How long a drive has been switched on; %1 is a number with one decimal, as 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 سنة</translation>
     </message>
     <message>
         <source>%1 of %2 disks answered</source>
-        <translation type="unfinished"></translation>
+        <translation>أجاب %1 من أصل %2 من الأقراص</translation>
     </message>
     <message>
         <source>no device is behind this path</source>
-        <translation type="unfinished"></translation>
+        <translation>لا جهاز خلف هذا المسار</translation>
     </message>
     <message>
         <source>no disk is behind %1</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
+        <translation>لا قرص خلف %1</translation>
     </message>
     <message>
         <source>%1 is no block device</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ليس جهاز كتل</translation>
     </message>
     <message>
         <source>%1 does not tell whether it sleeps, so it was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُعلم %1 هل هو في وضع السكون، لذا تُرك وشأنه</translation>
     </message>
     <message>
         <source>%1 is asleep and was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 في وضع السكون وتُرك وشأنه</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T., or it is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يدعم %1 تقنية S.M.A.R.T.، أو أنها معطّلة</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T. interface</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس في %1 واجهة S.M.A.R.T.</translation>
     </message>
     <message>
         <source>%1 does not pass S.M.A.R.T. commands on</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمرّر %1 أوامر S.M.A.R.T.</translation>
     </message>
     <message>
         <source>%1 does not give its NVMe health log</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يقدّم %1 سجل سلامة NVMe</translation>
     </message>
     <message>
         <source>%1 may only be asked by an administrator</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسمح بسؤال %1 إلا لمدير النظام</translation>
     </message>
     <message>
         <source>%1 is out of this process&apos;s reach</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 خارج متناول هذه العملية</translation>
     </message>
     <message>
         <source>UDisks2 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يجيب UDisks2</translation>
     </message>
     <message>
         <source>UDisks2 does not answer for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يجيب UDisks2 بشأن %1</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يجيب %1</translation>
     </message>
     <message>
         <source>UDisks2 %1 does not read the health of NVMe drives (version 2.10 does)</source>
         <extracomment>%1 is the version of UDisks2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يقرأ UDisks2 %1 سلامة محركات NVMe (يقرؤها الإصدار 2.10)</translation>
     </message>
     <message>
         <source>UDisks2 has no health figures of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لدى UDisks2 قيم سلامة عن %1</translation>
     </message>
     <message>
         <source>UDisks2 has no health verdict on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لدى UDisks2 حكم على سلامة %1</translation>
     </message>
     <message>
         <source>UDisks2 knows no drive behind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يعرف UDisks2 محركًا خلف %1</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1, which gave its verdict without figures</source>
-        <translation type="unfinished"></translation>
+        <translation>ATA S.M.A.R.T. من %1، وقد أعطى حكمه دون قيم</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ATA S.M.A.R.T. من %1</translation>
     </message>
     <message>
         <source>NVMe health log of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل سلامة NVMe من %1</translation>
     </message>
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 عن %1، قُرئ قبل %2 min</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 عن %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1404,22 +1407,22 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1; %2</source>
         <extracomment>Two sentences, the first on one disk and the second on another</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ %2</translation>
     </message>
     <message>
         <source>%1, and %2</source>
         <extracomment>Two sentences: why a disk gives no figures itself, and why the system&apos;s service gives none</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1، و%2</translation>
     </message>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 يوم</numerusform>
+            <numerusform>يوم واحد (%1)</numerusform>
+            <numerusform>يومان (%1)</numerusform>
+            <numerusform>%1 أيام</numerusform>
+            <numerusform>%1 يومًا</numerusform>
+            <numerusform>%1 يوم</numerusform>
         </translation>
     </message>
     <message>
@@ -1485,11 +1488,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HostCheck</name>
     <message>
         <source>Stopping, removing the files</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري الإيقاف وإزالة الملفات</translation>
     </message>
     <message>
         <source>The check could not be told as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر إخراج نتيجة الفحص بصيغة JSON.</translation>
     </message>
 </context>
 <context>
@@ -1500,7 +1503,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Case-preserving</source>
-        <translation type="unfinished"></translation>
+        <translation>يحفظ حالة الأحرف</translation>
     </message>
     <message>
         <source>Sparse files</source>
@@ -1512,19 +1515,19 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>وصلات رمزية</translation>
     </message>
     <message>
         <source>Extended attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>سمات موسّعة</translation>
     </message>
     <message>
         <source>Named streams</source>
-        <translation type="unfinished"></translation>
+        <translation>تدفقات مسماة</translation>
     </message>
     <message>
         <source>Access control lists</source>
-        <translation type="unfinished"></translation>
+        <translation>قوائم التحكم في الوصول</translation>
     </message>
     <message>
         <source>Cloning</source>
@@ -1536,32 +1539,32 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل يومي</translation>
     </message>
     <message>
         <source>Journal active</source>
-        <translation type="unfinished"></translation>
+        <translation>السجل اليومي مفعّل</translation>
     </message>
     <message>
         <source>Sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>مختوم</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>نعم</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>لا</translation>
     </message>
     <message>
         <source>not known</source>
         <comment>whether a file system can do something</comment>
-        <translation type="unfinished"></translation>
+        <translation>غير معروف</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم</translation>
     </message>
     <message>
         <source>Format</source>
@@ -1573,35 +1576,35 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>المتاح</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>المستخدم</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>للقراءة فقط</translation>
     </message>
     <message>
         <source>Encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>معمّى</translation>
     </message>
     <message>
         <source>Mounted at</source>
-        <translation type="unfinished"></translation>
+        <translation>نقطة الوصل</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>الجهاز</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع</translation>
     </message>
     <message>
         <source>Block size</source>
@@ -1609,43 +1612,43 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Optimal transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>أمثل حجم نقل</translation>
     </message>
     <message>
         <source>Longest name</source>
-        <translation type="unfinished"></translation>
+        <translation>أقصى طول اسم</translation>
     </message>
     <message>
         <source>Longest path</source>
-        <translation type="unfinished"></translation>
+        <translation>أقصى طول مسار</translation>
     </message>
     <message>
         <source>Most links</source>
-        <translation type="unfinished"></translation>
+        <translation>أقصى عدد وصلات</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>الطراز</translation>
     </message>
     <message>
         <source>Attached by</source>
-        <translation type="unfinished"></translation>
+        <translation>طريقة الاتصال</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>المصدر</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة</translation>
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>الواجهة</translation>
     </message>
     <message>
         <source>(attention)</source>
-        <translation type="unfinished"></translation>
+        <translation>(انتبه)</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -1661,47 +1664,47 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>السلامة</translation>
     </message>
     <message>
         <source>no S.M.A.R.T. figures: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا قيم S.M.A.R.T.: %1</translation>
     </message>
 </context>
 <context>
     <name>HostFiles</name>
     <message>
         <source>%1, which comes with the window, could not be started</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر تشغيل %1 المرفق مع النافذة</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يجيب %1</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 مجلد</translation>
     </message>
     <message>
         <source>%1 is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ليس ملفًا عاديًا</translation>
     </message>
     <message>
         <source>%1 exists and holds no runs; --force would replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 موجود ولا يحوي قياسات؛ الخيار --force يستبدله</translation>
     </message>
     <message>
         <source>A figure of this run is beyond what a file can hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>إحدى قيم هذا القياس خارج ما يتسع له الملف.</translation>
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت كتابة %1: %2</translation>
     </message>
     <message>
         <source>The history could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت كتابة السجل.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1710,251 +1713,267 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>The result could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت كتابة النتيجة</translation>
     </message>
     <message>
         <source>%1 is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ليس مجلدًا</translation>
     </message>
     <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>ملفات قياس آخر في هذا المجلد قيد الاستخدام ولم تُزل.</translation>
     </message>
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: فشل التفريغ إلى الوسيط (%2)؛ ربما لم يصل إليه كل ما كُتب.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>التحضير: فشل التفريغ إلى الوسيط (%1)؛ ربما لم يصل إليه كل ما كُتب.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت كتابة ملف القياس في مجلدك المؤقت.</translation>
     </message>
     <message>
         <source>The run could not be added to the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت إضافة القياس إلى السجل.</translation>
     </message>
     <message>
         <source>%1 is larger than a run file can be (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 أكبر من الحد الأقصى لملف القياس (%2)</translation>
     </message>
     <message>
         <source>%1 could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت قراءة %1</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>الدخل القياسي</translation>
     </message>
     <message>
         <source>standard input is larger than a run file can be (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>الدخل القياسي أكبر من الحد الأقصى لملف القياس (%1)</translation>
     </message>
     <message>
         <source>standard input is not a run file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الدخل القياسي ليس ملف قياس: %1</translation>
     </message>
     <message>
         <source>%1 is not a run file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ليس ملف قياس: %2</translation>
     </message>
     <message>
         <source>The picture could not be drawn: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تعذر رسم الصورة: %1</translation>
     </message>
     <message>
         <source>The picture could not be drawn, or not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر رسم الصورة، أو تعذرت كتابتها في مجلدك المؤقت.</translation>
     </message>
 </context>
 <context>
     <name>HostHelp</name>
     <message>
         <source>Draw it in the dark colours</source>
-        <translation type="unfinished"></translation>
+        <translation>ارسمها بالألوان الداكنة</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
 transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
 it stays until your session ends, or until the system empties its temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف القياس هو ما يكتبه الأمر &quot;run --handoff&quot; لقياس واحد. الصورة ملف PNG بعرض 1616 بكسل وبهامش
+شفاف؛ ويُطبع مسارها. لا حاجة إلى شاشة. تحل الصورة محل صورة سابقة لها العنوان نفسه؛
+وتبقى حتى تنتهي جلستك، أو حتى يفرّغ النظام مجلده المؤقت.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>حالة الخروج: 0 تم، 1 تعذرت قراءة ملف أو إنشاء الصورة، 2 استخدام خاطئ.</translation>
     </message>
     <message>
         <source>Draw a picture of a run to share, or of several compared</source>
-        <translation type="unfinished"></translation>
+        <translation>ارسم صورة للمشاركة من قياس، أو من عدة قياسات مقارَنة</translation>
     </message>
     <message>
         <source>How much to write and read back (default: all free space)</source>
-        <translation type="unfinished"></translation>
+        <translation>مقدار ما يُكتب ويُقرأ مجددًا (المبدئي: كل المساحة الحرة)</translation>
     </message>
     <message>
         <source>How much stays free in any case (default: 64MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>مقدار ما يبقى حرًا في كل الأحوال (المبدئي: 64MiB)</translation>
     </message>
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation type="unfinished"></translation>
+        <translation>عيّنات على امتداد المدى في ثوانٍ: تكشف السعة الزائفة،
+ولا تثبت شيئًا إن لم تعثر عليها</translation>
     </message>
     <message>
         <source>Read everything once more, S seconds later</source>
-        <translation type="unfinished"></translation>
+        <translation>اقرأ كل شيء مرة أخرى بعد S ثانية</translation>
     </message>
     <message>
         <source>Print one JSON object: the verdict, the sentence, and all that was found</source>
-        <translation type="unfinished"></translation>
+        <translation>اطبع كائن JSON واحدًا: الحكم والجملة وكل ما عُثر عليه</translation>
     </message>
     <message>
         <source>Writes files that differ in every block into a hidden folder inside FOLDER, reads them back past the system&apos;s
 cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
-        <translation type="unfinished"></translation>
+        <translation>يكتب في مجلد مخفي داخل FOLDER ملفات تختلف في كل كتلة، ثم يقرؤها متجاوزًا الذاكرة المخبئية للنظام،
+ويقارنها كلها ويزيلها، حتى بعد Ctrl+C. لا يُمس أي من ملفاتك؛ لكن على جهاز سعته زائفة قد تتلف
+كل كتابة تتجاوز سعته الفعلية ما هناك، شأن أي استخدام آخر له.
+الخيار --quick يكتب عيّنات فقط. ملفات الفحص الذي أُنهي قسرًا يزيلها القياس أو الفحص التالي في FOLDER.</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES أرقام مجردة، أو أرقام مع K أو M أو G أو T (أي KiB وMiB وGiB وTiB: بخطوات من 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>حالة الخروج: 0 لم يُعثر على خلل، 1 فشل، 2 استخدام خاطئ، 3 عُثر على عيوب، 130 أوقفته إشارة؛
+ويُطبع ما عُثر عليه حتى ذلك الحين.</translation>
     </message>
     <message>
         <source>Check whether a volume is as large as it says and keeps what it is given</source>
-        <translation type="unfinished"></translation>
+        <translation>افحص هل سعة وحدة التخزين كما تُعلن وهل تحفظ ما يُكتب عليها</translation>
     </message>
     <message>
         <source>As text (default), markdown, csv or json</source>
-        <translation type="unfinished"></translation>
+        <translation>بصيغة text (المبدئي) أو markdown أو csv أو json</translation>
     </message>
     <message>
         <source>Let --output replace a file of any content</source>
-        <translation type="unfinished"></translation>
+        <translation>اسمح للخيار --output باستبدال ملف مهما كان محتواه</translation>
     </message>
     <message>
         <source>Print the facts as one JSON object</source>
-        <translation type="unfinished"></translation>
+        <translation>اطبع المعلومات في كائن JSON واحد</translation>
     </message>
     <message>
         <source>Print the list as one JSON array</source>
-        <translation type="unfinished"></translation>
+        <translation>اطبع القائمة في مصفوفة JSON واحدة</translation>
     </message>
     <message>
         <source>Nothing is written anywhere. What the system does not tell reads &quot;--&quot; or &quot;not known&quot;, and is left out of the JSON
 object.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُكتب شيء في أي مكان. ما لا يخبر به النظام يظهر &quot;--&quot; أو «غير معروف»، ولا يُدرج في كائن
+JSON.</translation>
     </message>
     <message>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُدرج كل نظام ملفات مرة واحدة، عند أقصر نقطة وصل له. لا يُدرج ما يصله النظام وحزمه وحاوياته
+لأغراضها الخاصة. الخادوم الذي لا يجيب في الوقت المناسب لا تظهر سعته.</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُكتفى بالنظر إلى المحرك: لا يُوقظ إن كان ساكنًا ولا يُفعّل فيه شيء. مصدر معلومات السلامة، أو سبب غيابها،
+يخبر به الأمر &quot;facts&quot;.</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation type="unfinished"></translation>
+        <translation>اعرض ما يحوي FOLDER: وحدة التخزين ونظام الملفات والمحرك وسلامته</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>اسرد وحدات التخزين الموصولة</translation>
     </message>
     <message>
         <source>Print the health of the drive that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>اطبع سلامة المحرك الذي يحوي FOLDER</translation>
     </message>
     <message>
         <source>Usage: %1</source>
         <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الاستخدام: %1</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Show this text</source>
-        <translation type="unfinished"></translation>
+        <translation>اعرض هذا النص</translation>
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation type="unfinished"></translation>
+        <translation>برنامج Ondel Tarnwick في الطرفية: سرعة القرص مقيسة بالكتابة عليه، ثم يُزال ما كُتب.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
-        <translation type="unfinished"></translation>
+        <translation>اعرض هذا النص، أو خيارات الأمر إن جاء بعد أمر</translation>
     </message>
     <message>
         <source>Show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>اعرض الإصدار</translation>
     </message>
     <message>
         <source>The file that &quot;export&quot; writes</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف الذي يكتبه الأمر &quot;export&quot;</translation>
     </message>
     <message>
         <source>Let &quot;delete&quot; delete all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>اسمح للأمر &quot;delete&quot; بحذف كل القياسات</translation>
     </message>
     <message>
         <source>ACTION is one of</source>
-        <translation type="unfinished"></translation>
+        <translation>ACTION واحد مما يلي</translation>
     </message>
     <message>
         <source>a line for each run, newest first, which begins with its name (default)</source>
-        <translation type="unfinished"></translation>
+        <translation>سطر لكل قياس، الأحدث أولًا، يبدأ باسمه (المبدئي)</translation>
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation type="unfinished"></translation>
+        <translation>اطبع القياسات كما يفعل &quot;show&quot;، بصيغة --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتب القياسات في FILE الخاص بالخيار --output، بصيغة --format أو بحسب اسم FILE: .csv أو .json أو .md أو
+.txt، أو .tarnwickrun لقياس واحد</translation>
     </message>
     <message>
         <source>delete runs, without a question and for good</source>
-        <translation type="unfinished"></translation>
+        <translation>احذف القياسات دون سؤال ونهائيًا</translation>
     </message>
     <message>
         <source>A RUN is named as the list has it, or by four or more characters that begin its id. Without one, all runs are meant;
 &quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
 file only if it is empty or holds runs; with --force any other file too.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُحدَّد RUN باسمه كما في القائمة، أو بأربعة محارف أو أكثر من بداية معرّفه. ومن دونه تُقصد كل القياسات؛
+وعندها يحتاج &quot;delete&quot; إلى --all. النافذة المفتوحة تتحدّث حالما تعود إليها. لا يستبدل --output ملفًا موجودًا
+إلا إذا كان فارغًا أو يحوي قياسات؛ ومع --force يستبدل أي ملف آخر أيضًا.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>حالة الخروج: 0 تم، 1 لا يوجد مثل هذا القياس أو فشل الأمر، 2 استخدام خاطئ.</translation>
     </message>
     <message>
         <source>List, show, export or delete the runs that the window keeps</source>
-        <translation type="unfinished"></translation>
+        <translation>اسرد القياسات التي تحتفظ بها النافذة أو اعرضها أو صدّرها أو احذفها</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES أرقام مجردة، أو أرقام مع K أو M أو G أو T (أي KiB وMiB وGiB وTiB: بخطوات من 1024). تُقرَّب الكتل صعودًا
+إلى صفحات كاملة من 4096. القيم المبدئية هي قيم النافذة لتسهل المقارنة بينهما، عدا كتل الاختبارات
+التتابعية: تأخذ النافذة «أمثل حجم نقل» الذي يعرضه &quot;facts&quot;.</translation>
     </message>
     <message>
         <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start; files that are still in use stay, after a second&apos;s wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُكتب كل شيء في مجلد مخفي داخل FOLDER ويُزال في النهاية، حتى بعد Ctrl+C. ما تركه في FOLDER قياس
+أُنهي قسرًا يُزال قبل البدء؛ والملفات التي ما زالت قيد الاستخدام تبقى بعد انتظار ثانية.</translation>
     </message>
     <message>
         <source>The files of --handoff and --card stay until your session ends, or until the system empties its temporary folder.
@@ -1962,127 +1981,139 @@ run left behind in FOLDER is removed before the start; files that are still in u
 &quot;history export&quot; write as json or csv); with --force any other file too. A window that is open shows a run that
 --keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
 and the run counts as failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>تبقى ملفات --handoff و--card حتى تنتهي جلستك، أو حتى يفرّغ النظام مجلده المؤقت.
+لا يستبدل --output ملفًا موجودًا إلا إذا كان فارغًا أو يحوي قياسات (ملف قياس، أو ما يكتبه
+&quot;show --format&quot; و&quot;history export&quot; بصيغة json أو csv)؛ ومع --force يستبدل أي ملف آخر أيضًا. النافذة المفتوحة
+تعرض القياس الذي يضيفه --keep حالما تعود إليها. وعند تعذر كتابة شيء تُطبع القيم رغم ذلك
+ويُعد القياس فاشلًا.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>حالة الخروج: 0 تم، 1 فشل، 2 استخدام خاطئ، 130 أوقفته إشارة.</translation>
     </message>
     <message>
         <source>Measure the file system that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>قِس نظام الملفات الذي يحوي FOLDER</translation>
     </message>
     <message>
         <source>Tests to run, always in this order: sequentialWrite, sequentialRead,
 randomRead, randomWrite, fileOps (default: all)</source>
-        <translation type="unfinished"></translation>
+        <translation>الاختبارات المراد إجراؤها، بهذا الترتيب دائمًا: sequentialWrite وsequentialRead
+وrandomRead وrandomWrite وfileOps (المبدئي: الكل)</translation>
     </message>
     <message>
         <source>Size of the data file, or fill the disk (default: 5GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>حجم ملف البيانات، أو fill لملء القرص (المبدئي: 5GiB)</translation>
     </message>
     <message>
         <source>What --size fill leaves free (default: 1GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يتركه --size fill حرًا (المبدئي: 1GiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential write (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>البايتات لكل استدعاء، كتابة تتابعية (المبدئي: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential read (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>البايتات لكل استدعاء، قراءة تتابعية (المبدئي: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per random operation (default: 4KiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>البايتات لكل عملية عشوائية (المبدئي: 4KiB)</translation>
     </message>
     <message>
         <source>Operations in each random test (default: 10000)</source>
-        <translation type="unfinished"></translation>
+        <translation>العمليات في كل اختبار عشوائي (المبدئي: 10000)</translation>
     </message>
     <message>
         <source>Files in the file-operations test (default: 1000)</source>
-        <translation type="unfinished"></translation>
+        <translation>الملفات في اختبار عمليات الملفات (المبدئي: 1000)</translation>
     </message>
     <message>
         <source>Let the system cache the data file, as ordinary programs do</source>
-        <translation type="unfinished"></translation>
+        <translation>دع النظام يضع ملف البيانات في الذاكرة المخبئية، كما مع البرامج العادية</translation>
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
-        <translation type="unfinished"></translation>
+        <translation>أقل عدد من الثواني بين عيّنتين (المبدئي: 0.02)</translation>
     </message>
     <message>
         <source>Print one JSON object: the plan, every figure, every sample, date,
 folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
 &quot;remarks&quot; what was observed and what it says</source>
-        <translation type="unfinished"></translation>
+        <translation>اطبع كائن JSON واحدًا: الخطة وكل قيمة وكل عيّنة والتاريخ
+والمجلد ووحدة التخزين ونظام الملفات والمحرك والنواة، وتحت &quot;evidence&quot;
+و&quot;remarks&quot; ما لوحظ وما يدل عليه</translation>
     </message>
     <message>
         <source>Write a run file there, for the window, for &quot;show&quot; and for others</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتب ملف قياس هناك، للنافذة وللأمر &quot;show&quot; وللآخرين</translation>
     </message>
     <message>
         <source>Add the run to the window&apos;s history</source>
-        <translation type="unfinished"></translation>
+        <translation>أضف القياس إلى سجل النافذة</translation>
     </message>
     <message>
         <source>Write a run file for the window and for &quot;show&quot;, and print its path
 as the last line; with --json: as &quot;handoffFile&quot; in the object</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتب ملف قياس للنافذة وللأمر &quot;show&quot;، واطبع مساره في السطر
+الأخير؛ ومع --json يكون &quot;handoffFile&quot; في الكائن</translation>
     </message>
     <message>
         <source>Draw a picture of the run to share, in light or dark colours, and
 print its path as the last line; with --json: as &quot;cardFile&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ارسم صورة للقياس لمشاركتها، بألوان فاتحة أو داكنة، واطبع
+مسارها في السطر الأخير؛ ومع --json يكون &quot;cardFile&quot;</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; and &quot;run --output&quot; write, for one run. The window&apos;s history (history.json) and
 the output of &quot;show --format json&quot; have several. &quot;-&quot; is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف القياس هو ما يكتبه &quot;run --handoff&quot; و&quot;run --output&quot; لقياس واحد. أما سجل النافذة (history.json)
+وخرج &quot;show --format json&quot; ففيهما عدة قياسات. والرمز &quot;-&quot; هو الدخل القياسي.</translation>
     </message>
     <message>
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation type="unfinished"></translation>
+        <translation>في النص تقارن أشرطة بين قيم عدة قياسات: أكبر قيمة من كل نوع تملأ مسارها، ويظهر &quot;--&quot; حيث لا قيمة
+للقياس. تلائم الأسطر عرض الطرفية، أو 80 عمودًا. جدول Markdown مناسب للمنتديات. في CSV سطر لكل قياس،
+بأرقام مجردة للجداول والسكربتات. وJSON قائمة بمحتويات ملفات القياس.</translation>
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف الذي لا يمكن عرضه له سطر في خرج الأخطاء القياسي، وتُعرض بقية الملفات.</translation>
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>حالة الخروج: 0 عُرضت كلها، 1 لم تُعرض كلها، 2 استخدام خاطئ.</translation>
     </message>
     <message>
         <source>Show runs from their run files, and several side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>اعرض القياسات من ملفاتها، وعدة قياسات جنبًا إلى جنب</translation>
     </message>
 </context>
 <context>
     <name>HostHistory</name>
     <message>
         <source>there is no run %1 in the history</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد قياس %1 في السجل</translation>
     </message>
     <message>
         <source>%1 stands for several runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 يدل على عدة قياسات</translation>
     </message>
     <message>
         <source>Run</source>
         <extracomment>A benchmark run.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>القياس</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>التاريخ</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان</translation>
     </message>
 </context>
 <context>
@@ -2094,7 +2125,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري البدء</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -2103,16 +2134,16 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Stopping, removing the test files</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري الإيقاف وإزالة ملفات الاختبار</translation>
     </message>
     <message>
         <source>Preparing the test file, %1 s</source>
         <extracomment>%1: the seconds since the start.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>يجري تحضير ملف الاختبار، %1 s</translation>
     </message>
     <message>
         <source>Starting, %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري البدء، %1 s</translation>
     </message>
 </context>
 <context>
@@ -2123,169 +2154,169 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Sustained</source>
-        <translation type="unfinished"></translation>
+        <translation>المستدامة</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>الذروة</translation>
     </message>
     <message>
         <source>Lowest</source>
-        <translation type="unfinished"></translation>
+        <translation>الأدنى</translation>
     </message>
     <message>
         <source>Overall</source>
-        <translation type="unfinished"></translation>
+        <translation>الإجمالية</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>العمليات</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>السرعة</translation>
     </message>
     <message>
         <source>Worst</source>
         <extracomment>The slowest operation; &quot;p99&quot; is the time that 99 of 100 operations stay below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الأسوأ</translation>
     </message>
     <message>
         <source>Create</source>
         <extracomment>What the file-operations test does with files; &quot;Stat&quot; asks for a file&apos;s size and dates.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>إنشاء</translation>
     </message>
     <message>
         <source>Stat</source>
-        <translation type="unfinished"></translation>
+        <translation>استعلام</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير الاسم</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف</translation>
     </message>
 </context>
 <context>
     <name>HostUsage</name>
     <message>
         <source>a RUNFILE to draw is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُذكر RUNFILE لرسمه</translation>
     </message>
     <message>
         <source>%1 is a year at most</source>
-        <translation type="unfinished"></translation>
+        <translation>أقصى قيمة للخيار %1 سنة واحدة</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد خيار %1</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يقبل %1 قيمة</translation>
     </message>
     <message>
         <source>%1 needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج %1 إلى قيمة: %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 only</source>
         <extracomment>Two options or commands of the program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يُستخدم %1 إلا مع %2</translation>
     </message>
     <message>
         <source>%1 needs a whole number from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج %1 إلى عدد صحيح من %2 إلى %3، لا %4</translation>
     </message>
     <message>
         <source>%1 needs a number of bytes, such as 4096, 64K or 5GiB, from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج %1 إلى عدد من البايتات، مثل 4096 أو 64K أو 5GiB، من %2 إلى %3، لا %4</translation>
     </message>
     <message>
         <source>%1 needs a number of seconds, 0 or more, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج %1 إلى عدد من الثواني، 0 أو أكثر، لا %2</translation>
     </message>
     <message>
         <source>a FOLDER is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُذكر FOLDER</translation>
     </message>
     <message>
         <source>one FOLDER at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُقبل سوى FOLDER واحد في كل مرة</translation>
     </message>
     <message>
         <source>%1 is text, markdown, csv or json, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>قيمة %1 هي text أو markdown أو csv أو json، لا %2</translation>
     </message>
     <message>
         <source>%1 needs the name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج %1 إلى اسم ملف</translation>
     </message>
     <message>
         <source>%1 takes no operand</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يقبل %1 معاملًا</translation>
     </message>
     <message>
         <source>%1 needs %2</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج %1 إلى %2</translation>
     </message>
     <message>
         <source>a run file holds one run, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يتسع ملف القياس لقياس واحد، لا %1</translation>
     </message>
     <message>
         <source>%1 is needed where the FILE&apos;s name does not end in .tarnwickrun, .csv, .json, .md or .txt</source>
-        <translation type="unfinished"></translation>
+        <translation>يلزم %1 إذا لم ينته اسم FILE باللاحقة .tarnwickrun أو .csv أو .json أو .md أو .txt</translation>
     </message>
     <message>
         <source>%1 needs either RUNs or %2</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج %1 إلى RUN واحد أو أكثر أو إلى %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 and %3 only</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُستخدم %1 إلا مع %2 و%3</translation>
     </message>
     <message>
         <source>%1 can list, show, export and delete, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>يقبل %1 الأفعال list وshow وexport وdelete، لا %2</translation>
     </message>
     <message>
         <source>a command is missing; see %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُذكر أمر؛ انظر %1</translation>
     </message>
     <message>
         <source>there is no command %1; see %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد أمر %1؛ انظر %2</translation>
     </message>
     <message>
         <source>a FOLDER to measure is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُذكر FOLDER لقياسه</translation>
     </message>
     <message>
         <source>a FOLDER to check is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُذكر FOLDER لفحصه</translation>
     </message>
     <message>
         <source>one FOLDER at a time, not also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُقبل سوى FOLDER واحد في كل مرة، دون %1</translation>
     </message>
     <message>
         <source>the FOLDER&apos;s name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم FOLDER فارغ</translation>
     </message>
     <message>
         <source>%1: there is no test %2, only %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: لا يوجد اختبار %2، بل %3 فقط</translation>
     </message>
     <message>
         <source>%1 is light or dark, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>قيمة %1 هي light أو dark، لا %2</translation>
     </message>
     <message>
         <source>a FILE to show is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُذكر FILE لعرضه</translation>
     </message>
 </context>
 <context>
@@ -2418,15 +2449,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>LiveRunText</name>
     <message>
         <source>done</source>
-        <extracomment>What a test does: it is done, it runs, or it has not begun</extracomment>
+        <extracomment>Of a test</extracomment>
         <translation>انتهى</translation>
     </message>
     <message>
         <source>running</source>
+        <extracomment>Of a test</extracomment>
         <translation>يجري الآن</translation>
     </message>
     <message>
         <source>to come</source>
+        <extracomment>Of a test that has not begun</extracomment>
         <translation>لم يبدأ بعد</translation>
     </message>
     <message>
@@ -2440,87 +2473,87 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>A few seconds left</source>
-        <translation type="unfinished"></translation>
+        <translation>المتبقي: بضع ثوانٍ</translation>
     </message>
     <message>
         <source>A few seconds left of this test</source>
-        <translation type="unfinished"></translation>
+        <translation>المتبقي من هذا الاختبار: بضع ثوانٍ</translation>
     </message>
     <message numerus="yes">
         <source>About %n s left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>المتبقي: نحو %n ثانية</numerusform>
+            <numerusform>المتبقي: نحو ثانية واحدة (%n)</numerusform>
+            <numerusform>المتبقي: نحو ثانيتين (%n)</numerusform>
+            <numerusform>المتبقي: نحو %n ثوانٍ</numerusform>
+            <numerusform>المتبقي: نحو %n ثانية</numerusform>
+            <numerusform>المتبقي: نحو %n ثانية</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n ثانية</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو ثانية واحدة (%n)</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو ثانيتين (%n)</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n ثوانٍ</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n ثانية</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n ثانية</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>المتبقي: نحو %n دقيقة</numerusform>
+            <numerusform>المتبقي: نحو دقيقة واحدة (%n)</numerusform>
+            <numerusform>المتبقي: نحو دقيقتين (%n)</numerusform>
+            <numerusform>المتبقي: نحو %n دقائق</numerusform>
+            <numerusform>المتبقي: نحو %n دقيقة</numerusform>
+            <numerusform>المتبقي: نحو %n دقيقة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n دقيقة</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو دقيقة واحدة (%n)</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو دقيقتين (%n)</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n دقائق</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n دقيقة</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n دقيقة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>المتبقي: نحو %n ساعة</numerusform>
+            <numerusform>المتبقي: نحو ساعة واحدة (%n)</numerusform>
+            <numerusform>المتبقي: نحو ساعتين (%n)</numerusform>
+            <numerusform>المتبقي: نحو %n ساعات</numerusform>
+            <numerusform>المتبقي: نحو %n ساعة</numerusform>
+            <numerusform>المتبقي: نحو %n ساعة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n ساعة</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو ساعة واحدة (%n)</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو ساعتين (%n)</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n ساعات</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n ساعة</numerusform>
+            <numerusform>المتبقي من هذا الاختبار: نحو %n ساعة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 operations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 من %2 عملية</numerusform>
+            <numerusform>%1 من عملية واحدة (%2)</numerusform>
+            <numerusform>%1 من عمليتين (%2)</numerusform>
+            <numerusform>%1 من %2 عمليات</numerusform>
+            <numerusform>%1 من %2 عملية</numerusform>
+            <numerusform>%1 من %2 عملية</numerusform>
         </translation>
     </message>
     <message>
@@ -2619,189 +2652,189 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RemarkText</name>
     <message>
         <source>At most %1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>وصل إلى القرص أثناء الاختبار %1 على الأكثر مما كُتب.</translation>
     </message>
     <message>
         <source>%1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>وصل إلى القرص أثناء الاختبار %1 مما كُتب.</translation>
     </message>
     <message>
         <source>At most %1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>جاء من القرص %1 على الأكثر مما قُرئ.</translation>
     </message>
     <message>
         <source>%1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>جاء من القرص %1 مما قُرئ.</translation>
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر تفريغ كل ما كُتب إلى القرص: %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر تفريغ ملف الاختبار إلى القرص: %1.</translation>
     </message>
     <message>
         <source>%1 for the first %2, then %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 لأول %2، ثم %3.</translation>
     </message>
     <message>
         <source>The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower.</source>
-        <translation type="unfinished"></translation>
+        <translation>بلغ المحرك %1 بعد %2 (الحد %3)، ومنذئذ انخفضت السرعة بمقدار %4.</translation>
     </message>
     <message>
         <source>One pause over 1 s: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>توقف واحد لأكثر من ثانية: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%1 pauses over 1 s, the longest %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 توقف لأكثر من ثانية، أطولها %2.</numerusform>
+            <numerusform>توقف واحد (%1) لأكثر من ثانية، مدته %2.</numerusform>
+            <numerusform>توقفان (%1) لأكثر من ثانية، أطولهما %2.</numerusform>
+            <numerusform>%1 توقفات لأكثر من ثانية، أطولها %2.</numerusform>
+            <numerusform>%1 توقفًا لأكثر من ثانية، أطولها %2.</numerusform>
+            <numerusform>%1 توقف لأكثر من ثانية، أطولها %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>نقلت برامج أخرى %1 على القرص نفسه أثناء الاختبار.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعمل قناة اتصال %1 للمحرك بسرعة %2؛ ويستطيع المحرك %3.</translation>
     </message>
     <message>
         <source>The partition begins %1 into a physical block of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>يبدأ القسم بعد %1 من بداية كتلة فيزيائية حجمها %2.</translation>
     </message>
     <message>
         <source>Only %1 of the volume was free.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يكن حرًا من وحدة التخزين سوى %1.</translation>
     </message>
     <message>
         <source>The test’s %1 may fit into a cache of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>قد تتسع ذاكرة مخبئية حجمها %2 لبيانات الاختبار البالغة %1.</translation>
     </message>
     <message>
         <source>The machine ran on battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>كان الجهاز يعمل على البطارية.</translation>
     </message>
     <message>
         <source>The processor was set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>كان المعالج مضبوطًا على توفير الطاقة.</translation>
     </message>
     <message>
         <source>The machine ran on battery, its processor set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>كان الجهاز يعمل على البطارية ومعالجه مضبوطًا على توفير الطاقة.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places and checksums data.</source>
-        <translation type="unfinished"></translation>
+        <translation>يكتب نظام الملفات التغييرات في مواضع جديدة ويحسب مجاميع اختبارية للبيانات.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places.</source>
-        <translation type="unfinished"></translation>
+        <translation>يكتب نظام الملفات التغييرات في مواضع جديدة.</translation>
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>فعّل «تجاوز الذاكرة المخبئية». وإن كان مفعّلًا فاختر حجمًا أكبر من ذاكرة الجهاز.</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
-        <translation type="unfinished"></translation>
+        <translation>اطّلع على حالة S.M.A.R.T. للمحرك وعلى سجل النظام قبل أن تأتمنه على بيانات.</translation>
     </message>
     <message>
         <source>Data went through a cache although the system was asked to bypass it.</source>
-        <translation type="unfinished"></translation>
+        <translation>مرّت البيانات عبر ذاكرة مخبئية رغم الطلب من النظام تجاوزها.</translation>
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر حجمًا أكبر من ذاكرة الجهاز، أو اختبر القرص الذي في الأسفل عبر نظام ملفات آخر.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>توقع السرعة الأدنى عند نقل أكثر من ذلك دفعة واحدة.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
-        <translation type="unfinished"></translation>
+        <translation>وفّر للمحرك تهوية أفضل أو مشتت حرارة، وأعد القياس بعد أن يبرد.</translation>
     </message>
     <message>
         <source>Run again. If they come back, look at the drive’s S.M.A.R.T. status and its cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>أعد القياس. وإن تكررت التوقفات فاطّلع على حالة S.M.A.R.T. للمحرك وافحص كبله.</translation>
     </message>
     <message>
         <source>Run again while nothing else uses the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>أعد القياس حين لا يستخدم القرصَ شيء آخر.</translation>
     </message>
     <message>
         <source>Try another port, slot or cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>جرّب منفذًا أو فتحة أو كبلًا آخر.</translation>
     </message>
     <message>
         <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
-        <translation type="unfinished"></translation>
+        <translation>أنشئ القسم من جديد بحيث يبدأ عند أحد مضاعفات 1 MiB. هذا يمحو محتواه.</translation>
     </message>
     <message>
         <source>Free some space: many drives and file systems slow down when full.</source>
-        <translation type="unfinished"></translation>
+        <translation>حرّر بعض المساحة: كثير من المحركات وأنظمة الملفات تتباطأ عند الامتلاء.</translation>
     </message>
     <message>
         <source>Choose a larger size, and switch on Bypass cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر حجمًا أكبر، وفعّل «تجاوز الذاكرة المخبئية».</translation>
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
-        <translation type="unfinished"></translation>
+        <translation>أعد القياس والجهاز موصول بالكهرباء وتوفير الطاقة معطّل.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن رؤية القرص الذي تقع عليه وحدة التخزين هذه، لذا لا يظهر شيء مما فعله بنفسه.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory; no disk was measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>تُبقي وحدة التخزين هذه ملفاتها في الذاكرة؛ لم يُقَس أي قرص.</translation>
     </message>
     <message>
         <source>Choose a folder on a disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر مجلدًا على قرص.</translation>
     </message>
     <message>
         <source>This volume is a file on another volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة التخزين هذه ملف على وحدة تخزين أخرى.</translation>
     </message>
     <message>
         <source>To measure that volume itself, choose a folder on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لقياس وحدة التخزين تلك نفسها، اختر مجلدًا عليها.</translation>
     </message>
     <message>
         <source>The disk is one of a virtual machine, whose host may cache it.</source>
-        <translation type="unfinished"></translation>
+        <translation>القرص تابع لآلة افتراضية، وقد يضعه مضيفها في ذاكرة مخبئية.</translation>
     </message>
     <message>
         <source>The file system compresses. The test’s data does not, so other files may be faster.</source>
-        <translation type="unfinished"></translation>
+        <translation>يضغط نظام الملفات البيانات. بيانات الاختبار لا تنضغط، لذا قد تكون ملفات أخرى أسرع.</translation>
     </message>
     <message>
         <source>The file system writes data twice, to its journal first.</source>
-        <translation type="unfinished"></translation>
+        <translation>يكتب نظام الملفات البيانات مرتين، في سجله اليومي أولًا.</translation>
     </message>
     <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>غير صالحة</translation>
     </message>
     <message>
         <source>Caution</source>
         <extracomment>The weight of a remark: the figure may not be what it seems</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تنبيه</translation>
     </message>
     <message>
         <source>Note</source>
         <extracomment>The weight of a remark: something to know</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ملاحظة</translation>
     </message>
 </context>
 <context>
@@ -2859,7 +2892,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>ReportImageText</name>
     <message>
         <source>Ondel Tarnwick — Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondel Tarnwick — المقارنة</translation>
     </message>
 </context>
 <context>
@@ -2929,11 +2962,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunExport</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>القياس</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>التاريخ</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -2945,32 +2978,32 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>المعاملات</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>النظام</translation>
     </message>
     <message>
         <source>%1 (invalid)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (غير صالحة)</translation>
     </message>
     <message>
         <source>Remarks</source>
-        <translation type="unfinished"></translation>
+        <translation>الملاحظات</translation>
     </message>
 </context>
 <context>
     <name>RunExportsText</name>
     <message numerus="yes">
         <source>Ondel Tarnwick — %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ondel Tarnwick — %n قياس</numerusform>
+            <numerusform>Ondel Tarnwick — قياس واحد (%n)</numerusform>
+            <numerusform>Ondel Tarnwick — قياسان (%n)</numerusform>
+            <numerusform>Ondel Tarnwick — %n قياسات</numerusform>
+            <numerusform>Ondel Tarnwick — %n قياسًا</numerusform>
+            <numerusform>Ondel Tarnwick — %n قياس</numerusform>
         </translation>
     </message>
     <message>
@@ -3075,16 +3108,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Cache</source>
-        <extracomment>The system&apos;s cache was bypassed, or what it holds was taken from it</extracomment>
         <translation>الذاكرة المخبئية</translation>
     </message>
     <message>
         <source>Bypassed</source>
+        <extracomment>The system&apos;s cache was</extracomment>
         <translation>متجاوَزة</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>مستخدَمة</translation>
+        <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
+        <translation>مع ذاكرة مخبئية</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3215,16 +3249,16 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>قراءة عشوائية</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة عشوائية</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>عمليات الملفات</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -3232,19 +3266,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>المعاملات</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>النظام</translation>
     </message>
     <message>
         <source>peak %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الذروة %1</translation>
     </message>
     <message>
         <source>lowest %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الأدنى %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3254,17 +3288,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1, peak</source>
         <extracomment>%1 is the name of a test, whose highest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1، الذروة</translation>
     </message>
     <message>
         <source>%1, lowest</source>
         <extracomment>%1 is the name of a test, whose lowest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1، الأدنى</translation>
     </message>
     <message>
         <source>%1, latency</source>
         <extracomment>%1 is the name of a test, whose latency follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1، زمن الاستجابة</translation>
     </message>
     <message>
         <source>About these figures</source>
@@ -3275,19 +3309,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunTitle</name>
     <message>
         <source>%1 Server</source>
-        <translation type="unfinished"></translation>
+        <translation>خادوم %1</translation>
     </message>
     <message>
         <source>Network Server</source>
-        <translation type="unfinished"></translation>
+        <translation>خادوم شبكة</translation>
     </message>
     <message>
         <source>External Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>محرك خارجي</translation>
     </message>
     <message>
         <source>Network volume</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة تخزين شبكية</translation>
     </message>
 </context>
 <context>
@@ -3313,12 +3347,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1:</source>
         <extracomment>%1 is the name of a figure, which follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>%1  (attention)</source>
         <extracomment>Behind a figure that is a concern</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  (انتبه)</translation>
     </message>
     <message>
         <source>Drive</source>
@@ -3326,20 +3360,20 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>الواجهة</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>التاريخ</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الحالة</translation>
     </message>
     <message>
         <source>Ondel Tarnwick S.M.A.R.T. report</source>
-        <translation type="unfinished"></translation>
+        <translation>تقرير S.M.A.R.T. من Ondel Tarnwick</translation>
     </message>
 </context>
 <context>
@@ -3371,7 +3405,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1  ·  optimal</source>
         <extracomment>%1 is a size of blocks; it is the one that the volume prefers</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  الأمثل</translation>
     </message>
 </context>
 <context>
@@ -3562,22 +3596,22 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1 · %2 external</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 خارجي</translation>
     </message>
     <message>
         <source>%1 · %2 internal</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 داخلي</translation>
     </message>
     <message>
         <source>%1 · %2 removable</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 قابل للإزالة</translation>
     </message>
     <message>
         <source>%1 · %2 network</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 شبكي</translation>
     </message>
     <message>
         <source>The folder couldn&apos;t be opened.</source>
@@ -3605,13 +3639,13 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message numerus="yes">
         <source>%1 chars</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 حرف</numerusform>
+            <numerusform>حرف واحد (%1)</numerusform>
+            <numerusform>حرفان (%1)</numerusform>
+            <numerusform>%1 أحرف</numerusform>
+            <numerusform>%1 حرفًا</numerusform>
+            <numerusform>%1 حرف</numerusform>
         </translation>
     </message>
     <message>
@@ -3640,12 +3674,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TargetText</name>
     <message>
         <source>Choose a folder on the volume to test (a temporary working folder is written there and removed).</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر مجلدًا على وحدة التخزين المراد اختبارها (يُكتب هناك مجلد عمل مؤقت ثم يُزال).</translation>
     </message>
     <message>
         <source>Select</source>
         <extracomment>The button that accepts the folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>اختر</translation>
     </message>
 </context>
 <context>
@@ -3758,7 +3792,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickKit::views::LanguageSetting</name>
     <message>
         <source>Like the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>مثل سطح المكتب</translation>
     </message>
 </context>
 <context>
@@ -3785,23 +3819,23 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>اللغة</translation>
     </message>
     <message>
         <source>Language of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>لغة النافذة</translation>
     </message>
     <message>
         <source>The window follows when Tarnwick is started the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>تتبع النافذة هذا الخيار عند تشغيل Tarnwick في المرة القادمة.</translation>
     </message>
     <message>
         <source>Shared pictures in English</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور المشارَكة بالإنجليزية</translation>
     </message>
     <message>
         <source>Off, their texts are in the language of the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>عند تعطيله تكون نصوصها بلغة النافذة.</translation>
     </message>
     <message>
         <source>Support Tarnwick</source>
@@ -3844,11 +3878,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
         <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: من %2 إلى %3 %6 خلال %4، والأخيرة %5 %6.</translation>
     </message>
     <message>
         <source>No measurements yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا قياسات بعد.</translation>
     </message>
 </context>
 <context>
@@ -4081,17 +4115,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Internal</source>
         <extracomment>How a volume is attached: the drive is built into the machine</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>داخلي</translation>
     </message>
     <message>
         <source>External</source>
         <extracomment>How a volume is attached: the drive has a case and a cable of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>خارجي</translation>
     </message>
     <message>
         <source>Removable</source>
         <extracomment>How a volume is attached: a stick, a card or a disc</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>قابل للإزالة</translation>
     </message>
     <message>
         <source>Network</source>
@@ -4106,17 +4140,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Root</source>
         <extracomment>The name of the volume at &quot;/&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الجذر</translation>
     </message>
     <message>
         <source>Shared Folder</source>
         <extracomment>A kind of file system: a folder that a virtual machine shares with its host</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>مجلد مشترك</translation>
     </message>
     <message>
         <source>Fill disk</source>
         <extracomment>The size of a test: as much as there is free space</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ملء القرص</translation>
     </message>
 </context>
 <context>

@@ -54,35 +54,35 @@
     <name>BenchmarkText</name>
     <message>
         <source>Not enough space: needs %1, only %2 free.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht genug Speicherplatz: Benötigt werden %1, frei sind nur %2.</translation>
     </message>
     <message>
         <source>I/O error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>E/A-Fehler: %1</translation>
     </message>
     <message>
         <source>Couldn’t write there. The volume may be read-only, or the folder may not allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dort kann nicht geschrieben werden. Möglicherweise ist der Datenträger nur lesbar, oder der Ordner lässt es nicht zu.</translation>
     </message>
     <message>
         <source>The test file is too small for the random block size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Testdatei ist zu klein für die Größe des Zufallsblocks.</translation>
     </message>
     <message>
         <source>Sequential write</source>
-        <translation type="unfinished"></translation>
+        <translation>Sequenzielles Schreiben</translation>
     </message>
     <message>
         <source>Sequential read</source>
-        <translation type="unfinished"></translation>
+        <translation>Sequenzielles Lesen</translation>
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufälliges Lesen</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufälliges Schreiben</translation>
     </message>
     <message>
         <source>File operations</source>
@@ -91,53 +91,53 @@
     <message>
         <source>files/s</source>
         <extracomment>A unit, like MB/s</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dateien/s</translation>
     </message>
     <message>
         <source>p99 %1</source>
         <extracomment>The time within which 99 % of all operations were done</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>p99 %1</translation>
     </message>
     <message>
         <source>worst %1</source>
         <extracomment>The longest time that an operation took</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>höchste %1</translation>
     </message>
     <message>
         <source>The folder was removed or its volume unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner wurde während der Messung entfernt oder sein Datenträger abgezogen.</translation>
     </message>
     <message>
         <source>The volume was unplugged, or its server is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger wurde abgezogen, oder sein Server ist nicht mehr da.</translation>
     </message>
     <message>
         <source>The drive reported an error, or was unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laufwerk hat einen Fehler gemeldet oder wurde während der Messung abgezogen.</translation>
     </message>
     <message>
         <source>The volume can only be read: systems switch to that when they find an error on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger lässt sich nur noch lesen: Systeme schalten darauf um, wenn sie einen Fehler auf ihm finden.</translation>
     </message>
     <message>
         <source>The volume became full during the run, or your share of it is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger ist während der Messung voll geworden, oder Ihr Anteil daran ist aufgebraucht.</translation>
     </message>
     <message>
         <source>The file system, or a limit of this session, does not allow files of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dateisystem oder eine Grenze dieser Sitzung lässt Dateien dieser Größe nicht zu.</translation>
     </message>
     <message>
         <source>The permissions of the folder changed during the run, or the system forbids this there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zugriffsrechte des Ordners haben sich während der Messung geändert, oder das System verbietet dies dort.</translation>
     </message>
     <message>
         <source>There is not enough memory for blocks of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für Blöcke dieser Größe ist nicht genug Arbeitsspeicher vorhanden.</translation>
     </message>
     <message>
         <source>Too many files are open at the moment; close some programs and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurzeit sind zu viele Dateien geöffnet; schließen Sie einige Programme und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -174,7 +174,7 @@ min. %2</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus dieser Sandbox ohne Netzwerk kann die Meldung nicht gesendet werden.</translation>
     </message>
     <message>
         <source>The server rejected the report (%1).</source>
@@ -458,7 +458,7 @@ min. %2</translation>
     </message>
     <message>
         <source>This file system cannot spread samples: only %1 in one place were checked, and hold what was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Dateisystem kann Stichproben nicht verteilen: Nur %1 an einer Stelle wurden geprüft, und sie enthalten, was geschrieben wurde.</translation>
     </message>
     <message>
         <source>Samples all over %1 hold what was written, which is no proof.</source>
@@ -498,7 +498,7 @@ min. %2</translation>
     </message>
     <message>
         <source>about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>etwa %1</translation>
     </message>
     <message>
         <source>Space to check</source>
@@ -518,7 +518,7 @@ min. %2</translation>
     </message>
     <message>
         <source>In one place</source>
-        <translation type="unfinished"></translation>
+        <translation>An einer Stelle</translation>
     </message>
     <message>
         <source>It was right at the first reading.</source>
@@ -577,11 +577,11 @@ min. %2</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Dateisystem reserviert keinen Speicher, ohne ihn zu beschreiben; die Stichproben konnten daher nicht verteilt werden. Das Ergebnis sagt nichts über die Größe des Datenträgers: Führen Sie eine Prüfung durch, die nicht schnell ist.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine schnelle Prüfung beschreibt nur wenige Stellen: Was dazwischen liegt, wurde nicht untersucht.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
@@ -589,7 +589,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde weniger geprüft als geplant: Der Datenträger war zu früh voll. Möglicherweise hat er Daten des Dateisystems selbst verloren.</translation>
     </message>
     <message>
         <source>Less was checked than planned: other programs may have taken the space.</source>
@@ -609,7 +609,7 @@ min. %2</translation>
     </message>
     <message>
         <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was über seine tatsächliche Größe hinaus geschrieben wird, geht verloren oder zerstört, was an anderer Stelle auf ihm liegt. Kopieren Sie, was Sie von ihm benötigen, und vertrauen Sie ihm nicht.</translation>
     </message>
     <message>
         <source>The check was stopped: what it had not read back is not known.</source>
@@ -617,7 +617,7 @@ min. %2</translation>
     </message>
     <message>
         <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Dateisystem gibt nichts heraus, was nicht zu seinen Prüfsummen passt: Veränderte Daten lassen sich auf ihm nicht lesen.</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -637,7 +637,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Read again after %1</source>
-        <translation>Nach %1 erneut</translation>
+        <translation>Nach %1 erneut gelesen</translation>
     </message>
     <message>
         <source>As written</source>
@@ -649,15 +649,15 @@ min. %2</translation>
     </message>
     <message>
         <source>Could not be read</source>
-        <translation>Nicht lesbar</translation>
+        <translation>Konnte nicht gelesen werden</translation>
     </message>
     <message>
         <source>Could not be written</source>
-        <translation>Nicht schreibbar</translation>
+        <translation>Konnte nicht geschrieben werden</translation>
     </message>
     <message>
         <source>Only at a second try</source>
-        <translation>Erst im 2. Versuch</translation>
+        <translation>Erst im zweiten Versuch</translation>
     </message>
     <message>
         <source>Read from the disk</source>
@@ -774,7 +774,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1, %2: %3 %4</source>
         <extracomment>%1 is what was measured, %2 the name of a run, %3 the figure, %4 its unit</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3 %4</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -844,63 +844,64 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufälliges Lesen</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufälliges Schreiben</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dateiop.</translation>
     </message>
     <message>
         <source>ops/s</source>
         <extracomment>A unit, like IOPS: file operations per second</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Op./s</translation>
     </message>
     <message>
         <source>%1 free</source>
         <extracomment>%1 is the free space of a volume</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 frei</translation>
     </message>
     <message>
         <source>Fill disk test</source>
-        <translation type="unfinished"></translation>
+        <translation>Fülltest</translation>
     </message>
     <message>
         <source>%1 test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test mit %1</translation>
     </message>
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L/S %1</translation>
     </message>
     <message>
         <source>W %1</source>
         <extracomment>%1 is the size of the blocks that were written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>S %1</translation>
     </message>
     <message>
         <source>R %1</source>
         <extracomment>%1 is the size of the blocks that were read</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L %1</translation>
     </message>
     <message>
         <source>Rnd %1</source>
         <extracomment>%1 is the size of the blocks that were read and written at random</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zuf. %1</translation>
     </message>
     <message>
         <source>Uncached</source>
-        <extracomment>The system&apos;s cache was bypassed, or it was not</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>The system&apos;s cache was bypassed</extracomment>
+        <translation>Ohne Cache</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>Genutzt</translation>
+        <extracomment>It was not bypassed</extracomment>
+        <translation>Mit Cache</translation>
     </message>
 </context>
 <context>
@@ -954,24 +955,24 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>DisplayText</name>
     <message>
         <source>“%1” is damaged or not a Tarnwick run.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist beschädigt oder keine Messung von Tarnwick.</translation>
     </message>
     <message>
         <source>“%1” is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Ordner und keine Messdatei, die sich öffnen lässt.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are damaged or not Tarnwick runs.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1“ und %2 weitere Datei sind beschädigt oder keine Messungen von Tarnwick.</numerusform>
+            <numerusform>„%1“ und %2 weitere Dateien sind beschädigt oder keine Messungen von Tarnwick.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are not folders or run files that can be opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1“ und %2 weiteres Element sind keine Ordner und keine Messdateien, die sich öffnen lassen.</numerusform>
+            <numerusform>„%1“ und %2 weitere Elemente sind keine Ordner und keine Messdateien, die sich öffnen lassen.</numerusform>
         </translation>
     </message>
 </context>
@@ -1023,11 +1024,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>FiguresText</name>
     <message>
         <source>Run: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Messung: %1 · %2</translation>
     </message>
     <message>
         <source>not the disk’s figure</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht vom Laufwerk</translation>
     </message>
 </context>
 <context>
@@ -1078,11 +1079,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthSection</name>
     <message>
         <source>Failing</source>
-        <extracomment>The drive&apos;s own verdict: it is going to break, or it finds itself sound</extracomment>
+        <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
         <translation>Ausfall droht</translation>
     </message>
     <message>
         <source>Verified</source>
+        <extracomment>The drive&apos;s own verdict: it finds itself sound</extracomment>
         <translation>In Ordnung</translation>
     </message>
     <message>
@@ -1099,230 +1101,231 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthText</name>
     <message>
         <source>Critical warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Kritische Warnung</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur</translation>
     </message>
     <message>
         <source>Life used</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbrauchte Lebensdauer</translation>
     </message>
     <message>
         <source>Spare available</source>
         <extracomment>Of a solid state drive: how much of its reserve of memory cells is left</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbare Reserve</translation>
     </message>
     <message>
         <source>Spare threshold</source>
         <extracomment>Of a solid state drive: the least reserve of memory cells before it warns</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Schwellenwert der Reserve</translation>
     </message>
     <message>
         <source>Power-on time</source>
-        <translation type="unfinished"></translation>
+        <translation>Betriebszeit</translation>
     </message>
     <message>
         <source>Power cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschaltvorgänge</translation>
     </message>
     <message>
         <source>Load cycles</source>
         <extracomment>How often the heads were parked and loaded again</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kopf-Ladezyklen</translation>
     </message>
     <message>
         <source>Unsafe shutdowns</source>
-        <translation type="unfinished"></translation>
+        <translation>Unsichere Abschaltungen</translation>
     </message>
     <message>
         <source>Data written</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschriebene Daten</translation>
     </message>
     <message>
         <source>Data read</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelesene Daten</translation>
     </message>
     <message>
         <source>Host read commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesebefehle des Hosts</translation>
     </message>
     <message>
         <source>Host write commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibbefehle des Hosts</translation>
     </message>
     <message>
         <source>Controller busy</source>
         <extracomment>How long the drive&apos;s controller was busy</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Controller ausgelastet</translation>
     </message>
     <message>
         <source>Reallocated sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu zugewiesene Sektoren</translation>
     </message>
     <message>
         <source>Pending sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausstehende Sektoren</translation>
     </message>
     <message>
         <source>Uncorrectable sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht korrigierbare Sektoren</translation>
     </message>
     <message>
         <source>Reported uncorrectable</source>
         <extracomment>Errors that the drive reported and could not correct</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gemeldete nicht korrigierbare Fehler</translation>
     </message>
     <message>
         <source>Spin retries</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholte Anlaufversuche</translation>
     </message>
     <message>
         <source>Interface CRC errors</source>
-        <translation type="unfinished"></translation>
+        <translation>CRC-Fehler der Schnittstelle</translation>
     </message>
     <message>
         <source>Media errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Medienfehler</translation>
     </message>
     <message>
         <source>Error log entries</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge im Fehlerprotokoll</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Disks</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerke</translation>
     </message>
     <message>
         <source>Spare below threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>Reserve unter Schwellenwert</translation>
     </message>
     <message>
         <source>Reliability degraded</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuverlässigkeit beeinträchtigt</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur lesbar</translation>
     </message>
     <message>
         <source>Backup failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherung des flüchtigen Speichers ausgefallen</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>What a drive warns of</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>What a drive warns of, in a bit that is not known</extracomment>
+        <translation>Unbekannt</translation>
     </message>
     <message>
         <source>%1 years</source>
         <extracomment>How long a drive has been switched on; %1 is a number with one decimal, as 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 Jahre</translation>
     </message>
     <message>
         <source>%1 of %2 disks answered</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwort von %1 der %2 Laufwerke</translation>
     </message>
     <message>
         <source>no device is behind this path</source>
-        <translation type="unfinished"></translation>
+        <translation>hinter diesem Pfad steht kein Gerät</translation>
     </message>
     <message>
         <source>no disk is behind %1</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
+        <translation>hinter %1 steht kein Laufwerk</translation>
     </message>
     <message>
         <source>%1 is no block device</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein blockorientiertes Gerät</translation>
     </message>
     <message>
         <source>%1 does not tell whether it sleeps, so it was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 teilt nicht mit, ob es schläft, und wurde daher nicht abgefragt</translation>
     </message>
     <message>
         <source>%1 is asleep and was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 schläft und wurde nicht abgefragt</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T., or it is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat kein S.M.A.R.T., oder es ist ausgeschaltet</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T. interface</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat keine S.M.A.R.T.-Schnittstelle</translation>
     </message>
     <message>
         <source>%1 does not pass S.M.A.R.T. commands on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gibt S.M.A.R.T.-Befehle nicht weiter</translation>
     </message>
     <message>
         <source>%1 does not give its NVMe health log</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gibt sein NVMe-Zustandsprotokoll nicht heraus</translation>
     </message>
     <message>
         <source>%1 may only be asked by an administrator</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 darf nur von einem Administrator abgefragt werden</translation>
     </message>
     <message>
         <source>%1 is out of this process&apos;s reach</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist für diesen Prozess nicht erreichbar</translation>
     </message>
     <message>
         <source>UDisks2 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 antwortet nicht</translation>
     </message>
     <message>
         <source>UDisks2 does not answer for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 antwortet nicht für %1</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 antwortet nicht</translation>
     </message>
     <message>
         <source>UDisks2 %1 does not read the health of NVMe drives (version 2.10 does)</source>
         <extracomment>%1 is the version of UDisks2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 %1 liest den Zustand von NVMe-Laufwerken nicht (erst ab Version 2.10)</translation>
     </message>
     <message>
         <source>UDisks2 has no health figures of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 hat keine Zustandswerte von %1</translation>
     </message>
     <message>
         <source>UDisks2 has no health verdict on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 hat kein Urteil über den Zustand von %1</translation>
     </message>
     <message>
         <source>UDisks2 knows no drive behind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 kennt kein Laufwerk hinter %1</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1, which gave its verdict without figures</source>
-        <translation type="unfinished"></translation>
+        <translation>ATA-S.M.A.R.T. von %1, das sein Urteil ohne Werte abgab</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ATA-S.M.A.R.T. von %1</translation>
     </message>
     <message>
         <source>NVMe health log of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>NVMe-Zustandsprotokoll von %1</translation>
     </message>
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 für %1, vor %2 min gelesen</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 für %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1332,18 +1335,18 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1; %2</source>
         <extracomment>Two sentences, the first on one disk and the second on another</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1; %2</translation>
     </message>
     <message>
         <source>%1, and %2</source>
         <extracomment>Two sentences: why a disk gives no figures itself, and why the system&apos;s service gives none</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, und %2</translation>
     </message>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Tag</numerusform>
+            <numerusform>%1 Tage</numerusform>
         </translation>
     </message>
     <message>
@@ -1409,11 +1412,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HostCheck</name>
     <message>
         <source>Stopping, removing the files</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gestoppt, Dateien werden entfernt</translation>
     </message>
     <message>
         <source>The check could not be told as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Prüfung ließ sich nicht als JSON ausgeben.</translation>
     </message>
 </context>
 <context>
@@ -1424,7 +1427,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Case-preserving</source>
-        <translation type="unfinished"></translation>
+        <translation>Groß/klein erhalten</translation>
     </message>
     <message>
         <source>Sparse files</source>
@@ -1436,19 +1439,19 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolische Links</translation>
     </message>
     <message>
         <source>Extended attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterte Attribute</translation>
     </message>
     <message>
         <source>Named streams</source>
-        <translation type="unfinished"></translation>
+        <translation>Benannte Datenströme</translation>
     </message>
     <message>
         <source>Access control lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriffssteuerungslisten</translation>
     </message>
     <message>
         <source>Cloning</source>
@@ -1460,32 +1463,32 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>Journal active</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal aktiv</translation>
     </message>
     <message>
         <source>Sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>Versiegelt</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>nein</translation>
     </message>
     <message>
         <source>not known</source>
         <comment>whether a file system can do something</comment>
-        <translation type="unfinished"></translation>
+        <translation>nicht bekannt</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Format</source>
@@ -1497,35 +1500,35 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegt</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur lesbar</translation>
     </message>
     <message>
         <source>Encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschlüsselt</translation>
     </message>
     <message>
         <source>Mounted at</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingehängt in</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerät</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Block size</source>
@@ -1533,43 +1536,43 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Optimal transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimale Übertragung</translation>
     </message>
     <message>
         <source>Longest name</source>
-        <translation type="unfinished"></translation>
+        <translation>Längster Name</translation>
     </message>
     <message>
         <source>Longest path</source>
-        <translation type="unfinished"></translation>
+        <translation>Längster Pfad</translation>
     </message>
     <message>
         <source>Most links</source>
-        <translation type="unfinished"></translation>
+        <translation>Meiste Links</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Attached by</source>
-        <translation type="unfinished"></translation>
+        <translation>Angeschlossen über</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittstelle</translation>
     </message>
     <message>
         <source>(attention)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Achtung)</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -1585,47 +1588,47 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>no S.M.A.R.T. figures: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>keine S.M.A.R.T.-Werte: %1</translation>
     </message>
 </context>
 <context>
     <name>HostFiles</name>
     <message>
         <source>%1, which comes with the window, could not be started</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, das mit dem Fenster geliefert wird, konnte nicht gestartet werden</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 antwortet nicht</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ein Ordner</translation>
     </message>
     <message>
         <source>%1 is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine reguläre Datei</translation>
     </message>
     <message>
         <source>%1 exists and holds no runs; --force would replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 existiert und enthält keine Messungen; --force würde die Datei ersetzen</translation>
     </message>
     <message>
         <source>A figure of this run is beyond what a file can hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Messwert dieser Messung liegt jenseits dessen, was eine Datei aufnehmen kann.</translation>
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>The history could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Verlauf konnte nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1634,251 +1637,267 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>The result could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis konnte nicht geschrieben werden</translation>
     </message>
     <message>
         <source>%1 is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Ordner</translation>
     </message>
     <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien einer anderen Messung in diesem Ordner sind in Benutzung und wurden nicht entfernt.</translation>
     </message>
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: Das Leeren der Puffer auf das Laufwerk schlug fehl (%2); möglicherweise ist nicht alles Geschriebene dort angekommen.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vorbereitung: Das Leeren der Puffer auf das Laufwerk schlug fehl (%1); möglicherweise ist nicht alles Geschriebene dort angekommen.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Messdatei konnte nicht in Ihren temporären Ordner geschrieben werden.</translation>
     </message>
     <message>
         <source>The run could not be added to the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Messung konnte dem Verlauf nicht hinzugefügt werden.</translation>
     </message>
     <message>
         <source>%1 is larger than a run file can be (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist größer, als eine Messdatei sein kann (%2)</translation>
     </message>
     <message>
         <source>%1 could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht gelesen werden</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardeingabe</translation>
     </message>
     <message>
         <source>standard input is larger than a run file can be (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>die Standardeingabe ist größer, als eine Messdatei sein kann (%1)</translation>
     </message>
     <message>
         <source>standard input is not a run file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Standardeingabe ist keine Messdatei: %1</translation>
     </message>
     <message>
         <source>%1 is not a run file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine Messdatei: %2</translation>
     </message>
     <message>
         <source>The picture could not be drawn: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild konnte nicht gezeichnet werden: %1</translation>
     </message>
     <message>
         <source>The picture could not be drawn, or not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild konnte nicht gezeichnet oder nicht in Ihren temporären Ordner geschrieben werden.</translation>
     </message>
 </context>
 <context>
     <name>HostHelp</name>
     <message>
         <source>Draw it in the dark colours</source>
-        <translation type="unfinished"></translation>
+        <translation>In dunklen Farben zeichnen</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
 transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
 it stays until your session ends, or until the system empties its temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Messdatei ist, was „run --handoff“ für eine Messung schreibt. Das Bild ist eine PNG-Datei, 1616 Pixel
+breit, mit durchsichtigem Rand; sein Pfad wird ausgegeben. Eine Anzeige ist nicht nötig. Ein Bild mit demselben
+Titel ersetzt das vorige; es bleibt, bis Ihre Sitzung endet oder das System seinen temporären Ordner leert.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgabewert: 0 erledigt, 1 eine Datei konnte nicht gelesen oder das Bild nicht erstellt werden, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Draw a picture of a run to share, or of several compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild einer Messung zum Teilen zeichnen, oder mehrerer im Vergleich</translation>
     </message>
     <message>
         <source>How much to write and read back (default: all free space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viel geschrieben und zurückgelesen wird (Vorgabe: gesamter freier Speicher)</translation>
     </message>
     <message>
         <source>How much stays free in any case (default: 64MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viel in jedem Fall frei bleibt (Vorgabe: 64MiB)</translation>
     </message>
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation type="unfinished"></translation>
+        <translation>Stichproben über den Bereich, in Sekunden: findet eine falsche
+Kapazität und beweist nichts, wenn keine gefunden wird</translation>
     </message>
     <message>
         <source>Read everything once more, S seconds later</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles S Sekunden später noch einmal lesen</translation>
     </message>
     <message>
         <source>Print one JSON object: the verdict, the sentence, and all that was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein JSON-Objekt ausgeben: das Urteil, den Satz und alles, was gefunden wurde</translation>
     </message>
     <message>
         <source>Writes files that differ in every block into a hidden folder inside FOLDER, reads them back past the system&apos;s
 cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt Dateien, die sich in jedem Block unterscheiden, in einen verborgenen Ordner in FOLDER, liest sie am Cache des Systems vorbei
+zurück, vergleicht alles und entfernt sie, auch nach Strg+C. Keine Ihrer Dateien wird angerührt; doch auf einem Gerät mit falscher
+Kapazität kann jedes Schreiben über die tatsächliche Größe hinaus zerstören, was dort liegt, wie jede andere Benutzung auch. --quick
+schreibt nur Stichproben. Dateien einer gewaltsam beendeten Prüfung entfernt die nächste Messung oder Prüfung in FOLDER.</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES sind reine Ziffern oder Ziffern mit K, M, G, T (KiB, MiB, GiB, TiB: in Schritten von 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgabewert: 0 nichts Falsches gefunden, 1 fehlgeschlagen, 2 falscher Aufruf, 3 Mängel
+gefunden, 130 durch ein Signal gestoppt; was bis dahin gefunden wurde, wird ausgegeben.</translation>
     </message>
     <message>
         <source>Check whether a volume is as large as it says and keeps what it is given</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen, ob ein Datenträger so groß ist, wie er angibt, und behält, was auf ihn geschrieben wird</translation>
     </message>
     <message>
         <source>As text (default), markdown, csv or json</source>
-        <translation type="unfinished"></translation>
+        <translation>Als text (Vorgabe), markdown, csv oder json</translation>
     </message>
     <message>
         <source>Let --output replace a file of any content</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit --output auch eine Datei beliebigen Inhalts ersetzen</translation>
     </message>
     <message>
         <source>Print the facts as one JSON object</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Angaben als ein JSON-Objekt ausgeben</translation>
     </message>
     <message>
         <source>Print the list as one JSON array</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste als ein JSON-Array ausgeben</translation>
     </message>
     <message>
         <source>Nothing is written anywhere. What the system does not tell reads &quot;--&quot; or &quot;not known&quot;, and is left out of the JSON
 object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nirgends etwas geschrieben. Was das System nicht mitteilt,
+steht als „--“ oder „nicht bekannt“ da und fehlt im JSON-Objekt.</translation>
     </message>
     <message>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Dateisystem wird einmal aufgeführt, mit seinem kürzesten Einhängepunkt. Was das System, seine Pakete und seine
+Container für sich selbst einhängen, wird ausgelassen. Ein Server, der nicht rechtzeitig antwortet, hat keine Kapazität.</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laufwerk wird nur betrachtet: Ein schlafendes wird nicht geweckt, und nichts wird in ihm
+eingeschaltet. Woher die Angaben zum Zustand kommen oder warum es keine gibt, sagt „facts“.</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen, wo FOLDER liegt: Datenträger, Dateisystem, Laufwerk und dessen Zustand</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>Die eingehängten Datenträger auflisten</translation>
     </message>
     <message>
         <source>Print the health of the drive that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Zustand des Laufwerks ausgeben, auf dem FOLDER liegt</translation>
     </message>
     <message>
         <source>Usage: %1</source>
         <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: %1</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Show this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Text anzeigen</translation>
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondel Tarnwick in einem Terminal: wie schnell ein Laufwerk ist, auf ihm gemessen und ohne Spuren.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Text anzeigen, oder hinter einem Befehl dessen Optionen</translation>
     </message>
     <message>
         <source>Show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Version anzeigen</translation>
     </message>
     <message>
         <source>The file that &quot;export&quot; writes</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei, die „export“ schreibt</translation>
     </message>
     <message>
         <source>Let &quot;delete&quot; delete all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit „delete“ alle Messungen löschen</translation>
     </message>
     <message>
         <source>ACTION is one of</source>
-        <translation type="unfinished"></translation>
+        <translation>ACTION ist eine der folgenden</translation>
     </message>
     <message>
         <source>a line for each run, newest first, which begins with its name (default)</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zeile pro Messung, die neueste zuerst, die mit ihrem Namen beginnt (Vorgabe)</translation>
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation type="unfinished"></translation>
+        <translation>Messungen ausgeben wie „show“, in der Form von --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation type="unfinished"></translation>
+        <translation>Messungen in die FILE von --output schreiben, in der Form von --format oder der
+des Namens von FILE: .csv, .json, .md, .txt, oder .tarnwickrun für eine Messung</translation>
     </message>
     <message>
         <source>delete runs, without a question and for good</source>
-        <translation type="unfinished"></translation>
+        <translation>Messungen löschen, ohne Rückfrage und endgültig</translation>
     </message>
     <message>
         <source>A RUN is named as the list has it, or by four or more characters that begin its id. Without one, all runs are meant;
 &quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
 file only if it is empty or holds runs; with --force any other file too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein RUN wird so benannt wie in der Liste, oder mit vier oder mehr Zeichen, mit denen seine Kennung beginnt. Ohne RUN sind
+alle Messungen gemeint; „delete“ verlangt dann --all. Ein geöffnetes Fenster zieht nach, sobald Sie zu ihm zurückkehren.
+--output ersetzt eine vorhandene Datei nur, wenn sie leer ist oder Messungen enthält; mit --force auch jede andere.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgabewert: 0 erledigt, 1 eine solche Messung gibt es nicht oder es schlug fehl, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>List, show, export or delete the runs that the window keeps</source>
-        <translation type="unfinished"></translation>
+        <translation>Die im Fenster gespeicherten Messungen auflisten, anzeigen, exportieren oder löschen</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES sind reine Ziffern oder Ziffern mit K, M, G, T (KiB, MiB, GiB, TiB: in Schritten von 1024). Blöcke werden auf
+ganze Seiten von 4096 aufgerundet. Die Vorgaben sind die des Fensters, damit dessen Messwerte und diese vergleichbar
+sind, außer bei den Blöcken der sequenziellen Tests: Das Fenster nimmt die „Optimale Übertragung“, die „facts“ anzeigt.</translation>
     </message>
     <message>
         <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start; files that are still in use stay, after a second&apos;s wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles wird in einen verborgenen Ordner in FOLDER geschrieben und am Ende entfernt, auch nach Strg+C. Was eine gewaltsam beendete Messung
+in FOLDER hinterließ, wird vor dem Start entfernt; Dateien, die noch in Benutzung sind, bleiben nach einer Sekunde Wartezeit liegen.</translation>
     </message>
     <message>
         <source>The files of --handoff and --card stay until your session ends, or until the system empties its temporary folder.
@@ -1886,127 +1905,139 @@ run left behind in FOLDER is removed before the start; files that are still in u
 &quot;history export&quot; write as json or csv); with --force any other file too. A window that is open shows a run that
 --keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
 and the run counts as failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateien von --handoff und --card bleiben, bis Ihre Sitzung endet oder das System seinen temporären Ordner
+leert. --output ersetzt eine vorhandene Datei nur, wenn sie leer ist oder Messungen enthält (eine Messdatei
+oder was „show --format“ und „history export“ als json oder csv schreiben); mit --force auch jede andere. Ein
+geöffnetes Fenster zeigt eine mit --keep hinzugefügte Messung, sobald Sie zu ihm zurückkehren. Kann etwas
+nicht geschrieben werden, werden die Messwerte trotzdem ausgegeben, und die Messung gilt als fehlgeschlagen.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgabewert: 0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf, 130 durch ein Signal gestoppt.</translation>
     </message>
     <message>
         <source>Measure the file system that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dateisystem messen, auf dem FOLDER liegt</translation>
     </message>
     <message>
         <source>Tests to run, always in this order: sequentialWrite, sequentialRead,
 randomRead, randomWrite, fileOps (default: all)</source>
-        <translation type="unfinished"></translation>
+        <translation>Auszuführende Tests, stets in dieser Reihenfolge: sequentialWrite,
+sequentialRead, randomRead, randomWrite, fileOps (Vorgabe: alle)</translation>
     </message>
     <message>
         <source>Size of the data file, or fill the disk (default: 5GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Datendatei, oder fill, um das Laufwerk zu füllen (Vorgabe: 5GiB)</translation>
     </message>
     <message>
         <source>What --size fill leaves free (default: 1GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Was --size fill frei lässt (Vorgabe: 1GiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential write (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes pro Aufruf, sequenzielles Schreiben (Vorgabe: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential read (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes pro Aufruf, sequenzielles Lesen (Vorgabe: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per random operation (default: 4KiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes pro zufälliger Operation (Vorgabe: 4KiB)</translation>
     </message>
     <message>
         <source>Operations in each random test (default: 10000)</source>
-        <translation type="unfinished"></translation>
+        <translation>Operationen in jedem Zufallstest (Vorgabe: 10000)</translation>
     </message>
     <message>
         <source>Files in the file-operations test (default: 1000)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien im Test der Dateioperationen (Vorgabe: 1000)</translation>
     </message>
     <message>
         <source>Let the system cache the data file, as ordinary programs do</source>
-        <translation type="unfinished"></translation>
+        <translation>Das System die Datendatei im Cache halten lassen, wie bei gewöhnlichen Programmen</translation>
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestabstand zweier Messpunkte in Sekunden (Vorgabe: 0.02)</translation>
     </message>
     <message>
         <source>Print one JSON object: the plan, every figure, every sample, date,
 folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
 &quot;remarks&quot; what was observed and what it says</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein JSON-Objekt ausgeben: den Plan, jeden Messwert, jeden Messpunkt,
+Datum, Ordner, Datenträger, Dateisystem, Laufwerk, Kernel und unter
+„evidence“ und „remarks“, was beobachtet wurde und was es besagt</translation>
     </message>
     <message>
         <source>Write a run file there, for the window, for &quot;show&quot; and for others</source>
-        <translation type="unfinished"></translation>
+        <translation>Dort eine Messdatei schreiben, für das Fenster, für „show“ und für andere</translation>
     </message>
     <message>
         <source>Add the run to the window&apos;s history</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Messung dem Verlauf des Fensters hinzufügen</translation>
     </message>
     <message>
         <source>Write a run file for the window and for &quot;show&quot;, and print its path
 as the last line; with --json: as &quot;handoffFile&quot; in the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Messdatei für das Fenster und für „show“ schreiben und ihren Pfad
+als letzte Zeile ausgeben; mit --json: als „handoffFile“ im Objekt</translation>
     </message>
     <message>
         <source>Draw a picture of the run to share, in light or dark colours, and
 print its path as the last line; with --json: as &quot;cardFile&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild der Messung zum Teilen zeichnen, in hellen (light) oder dunklen (dark)
+Farben, und seinen Pfad als letzte Zeile ausgeben; mit --json: als „cardFile“</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; and &quot;run --output&quot; write, for one run. The window&apos;s history (history.json) and
 the output of &quot;show --format json&quot; have several. &quot;-&quot; is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Messdatei ist, was „run --handoff“ und „run --output“ für eine Messung schreiben. Der Verlauf des
+Fensters (history.json) und die Ausgabe von „show --format json“ haben mehrere. „-“ ist die Standardeingabe.</translation>
     </message>
     <message>
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Text vergleichen Balken die Messwerte mehrerer Messungen: Der größte jeder Art füllt seine Spur, und „--“ steht, wo eine
+Messung keinen hat. Die Zeilen passen ins Terminal oder in 80 Spalten. Eine Markdown-Tabelle ist für Foren. CSV hat eine Zeile
+pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON ist eine Liste der Inhalte von Messdateien.</translation>
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei, die nicht angezeigt werden kann, erhält eine Zeile auf der Standardfehlerausgabe; die anderen werden angezeigt.</translation>
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgabewert: 0 alle wurden angezeigt, 1 nicht alle, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Show runs from their run files, and several side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Messungen aus ihren Messdateien anzeigen, mehrere nebeneinander</translation>
     </message>
 </context>
 <context>
     <name>HostHistory</name>
     <message>
         <source>there is no run %1 in the history</source>
-        <translation type="unfinished"></translation>
+        <translation>im Verlauf gibt es keine Messung %1</translation>
     </message>
     <message>
         <source>%1 stands for several runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 steht für mehrere Messungen</translation>
     </message>
     <message>
         <source>Run</source>
         <extracomment>A benchmark run.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Messung</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
 </context>
 <context>
@@ -2018,25 +2049,25 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>%1 left</source>
         <extracomment>%1: the time until the end, as &quot;2 min&quot;.</extracomment>
-        <translation>Noch %1</translation>
+        <translation>noch %1</translation>
     </message>
     <message>
         <source>Stopping, removing the test files</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gestoppt, Testdateien werden entfernt</translation>
     </message>
     <message>
         <source>Preparing the test file, %1 s</source>
         <extracomment>%1: the seconds since the start.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Testdatei wird vorbereitet, %1 s</translation>
     </message>
     <message>
         <source>Starting, %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Start, %1 s</translation>
     </message>
 </context>
 <context>
@@ -2047,169 +2078,169 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Sustained</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauerrate</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitze</translation>
     </message>
     <message>
         <source>Lowest</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Overall</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Operationen</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Rate</translation>
     </message>
     <message>
         <source>Worst</source>
         <extracomment>The slowest operation; &quot;p99&quot; is the time that 99 of 100 operations stay below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Höchste</translation>
     </message>
     <message>
         <source>Create</source>
         <extracomment>What the file-operations test does with files; &quot;Stat&quot; asks for a file&apos;s size and dates.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Anlegen</translation>
     </message>
     <message>
         <source>Stat</source>
-        <translation type="unfinished"></translation>
+        <translation>Abfragen</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
     <name>HostUsage</name>
     <message>
         <source>a RUNFILE to draw is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>RUNFILE zum Zeichnen fehlt</translation>
     </message>
     <message>
         <source>%1 is a year at most</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist höchstens ein Jahr</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Option %1</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nimmt keinen Wert an</translation>
     </message>
     <message>
         <source>%1 needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 benötigt einen Wert: %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 only</source>
         <extracomment>Two options or commands of the program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 geht nur mit %2</translation>
     </message>
     <message>
         <source>%1 needs a whole number from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 benötigt eine ganze Zahl von %2 bis %3, nicht %4</translation>
     </message>
     <message>
         <source>%1 needs a number of bytes, such as 4096, 64K or 5GiB, from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 benötigt eine Anzahl von Bytes, etwa 4096, 64K oder 5GiB, von %2 bis %3, nicht %4</translation>
     </message>
     <message>
         <source>%1 needs a number of seconds, 0 or more, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 benötigt eine Anzahl von Sekunden, 0 oder mehr, nicht %2</translation>
     </message>
     <message>
         <source>a FOLDER is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>FOLDER fehlt</translation>
     </message>
     <message>
         <source>one FOLDER at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>nur ein FOLDER auf einmal</translation>
     </message>
     <message>
         <source>%1 is text, markdown, csv or json, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist text, markdown, csv oder json, nicht %2</translation>
     </message>
     <message>
         <source>%1 needs the name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 benötigt den Namen einer Datei</translation>
     </message>
     <message>
         <source>%1 takes no operand</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nimmt keinen Operanden an</translation>
     </message>
     <message>
         <source>%1 needs %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 benötigt %2</translation>
     </message>
     <message>
         <source>a run file holds one run, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Messdatei enthält eine Messung, nicht %1</translation>
     </message>
     <message>
         <source>%1 is needed where the FILE&apos;s name does not end in .tarnwickrun, .csv, .json, .md or .txt</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nötig, wo der Name von FILE nicht auf .tarnwickrun, .csv, .json, .md oder .txt endet</translation>
     </message>
     <message>
         <source>%1 needs either RUNs or %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 benötigt entweder RUN oder %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 and %3 only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geht nur mit %2 und %3</translation>
     </message>
     <message>
         <source>%1 can list, show, export and delete, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kennt list, show, export und delete, nicht %2</translation>
     </message>
     <message>
         <source>a command is missing; see %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Befehl fehlt; siehe %1</translation>
     </message>
     <message>
         <source>there is no command %1; see %2</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Befehl %1; siehe %2</translation>
     </message>
     <message>
         <source>a FOLDER to measure is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>FOLDER zum Messen fehlt</translation>
     </message>
     <message>
         <source>a FOLDER to check is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>FOLDER zum Prüfen fehlt</translation>
     </message>
     <message>
         <source>one FOLDER at a time, not also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nur ein FOLDER auf einmal, nicht auch noch %1</translation>
     </message>
     <message>
         <source>the FOLDER&apos;s name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name von FOLDER ist leer</translation>
     </message>
     <message>
         <source>%1: there is no test %2, only %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: es gibt keinen Test %2, nur %3</translation>
     </message>
     <message>
         <source>%1 is light or dark, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist light oder dark, nicht %2</translation>
     </message>
     <message>
         <source>a FILE to show is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>FILE zum Anzeigen fehlt</translation>
     </message>
 </context>
 <context>
@@ -2338,15 +2369,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>LiveRunText</name>
     <message>
         <source>done</source>
-        <extracomment>What a test does: it is done, it runs, or it has not begun</extracomment>
+        <extracomment>Of a test</extracomment>
         <translation>fertig</translation>
     </message>
     <message>
         <source>running</source>
+        <extracomment>Of a test</extracomment>
         <translation>läuft</translation>
     </message>
     <message>
         <source>to come</source>
+        <extracomment>Of a test that has not begun</extracomment>
         <translation>ausstehend</translation>
     </message>
     <message>
@@ -2360,59 +2393,59 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>A few seconds left</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch wenige Sekunden</translation>
     </message>
     <message>
         <source>A few seconds left of this test</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch wenige Sekunden für diesen Test</translation>
     </message>
     <message numerus="yes">
         <source>About %n s left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Noch etwa %n s</numerusform>
+            <numerusform>Noch etwa %n s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Noch etwa %n s für diesen Test</numerusform>
+            <numerusform>Noch etwa %n s für diesen Test</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Noch etwa %n min</numerusform>
+            <numerusform>Noch etwa %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Noch etwa %n min für diesen Test</numerusform>
+            <numerusform>Noch etwa %n min für diesen Test</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Noch etwa %n h</numerusform>
+            <numerusform>Noch etwa %n h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Noch etwa %n h für diesen Test</numerusform>
+            <numerusform>Noch etwa %n h für diesen Test</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 operations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 von %2 Operation</numerusform>
+            <numerusform>%1 von %2 Operationen</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,185 +2540,185 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RemarkText</name>
     <message>
         <source>At most %1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von dem, was geschrieben wurde, hat das Laufwerk während des Tests höchstens %1 erhalten.</translation>
     </message>
     <message>
         <source>%1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von dem, was geschrieben wurde, hat das Laufwerk während des Tests %1 erhalten.</translation>
     </message>
     <message>
         <source>At most %1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von dem, was gelesen wurde, hat das Laufwerk höchstens %1 geliefert.</translation>
     </message>
     <message>
         <source>%1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von dem, was gelesen wurde, hat das Laufwerk %1 geliefert.</translation>
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alles Geschriebene ließ sich aus den Puffern auf das Laufwerk bringen: %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Testdatei ließ sich nicht aus den Puffern auf das Laufwerk bringen: %1.</translation>
     </message>
     <message>
         <source>%1 for the first %2, then %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 für die ersten %2, danach %3.</translation>
     </message>
     <message>
         <source>The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laufwerk erreichte nach %2 eine Temperatur von %1 (Grenze %3); von da an war die Rate um %4 niedriger.</translation>
     </message>
     <message>
         <source>One pause over 1 s: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Pause von über 1 s: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%1 pauses over 1 s, the longest %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Pause von über 1 s, die längste %2.</numerusform>
+            <numerusform>%1 Pausen von über 1 s, die längste %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere haben während des Tests %1 auf demselben Laufwerk übertragen.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die %1-Anbindung des Laufwerks läuft mit %2; das Laufwerk könnte %3.</translation>
     </message>
     <message>
         <source>The partition begins %1 into a physical block of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Partition beginnt %1 nach dem Anfang eines physischen Blocks von %2.</translation>
     </message>
     <message>
         <source>Only %1 of the volume was free.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur %1 des Datenträgers waren frei.</translation>
     </message>
     <message>
         <source>The test’s %1 may fit into a cache of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die %1 des Tests passen möglicherweise in einen Cache von %2.</translation>
     </message>
     <message>
         <source>The machine ran on battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rechner lief im Akkubetrieb.</translation>
     </message>
     <message>
         <source>The processor was set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Prozessor war auf Stromsparen eingestellt.</translation>
     </message>
     <message>
         <source>The machine ran on battery, its processor set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rechner lief im Akkubetrieb, sein Prozessor war auf Stromsparen eingestellt.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places and checksums data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dateisystem schreibt Änderungen an neue Stellen und bildet Prüfsummen der Daten.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dateisystem schreibt Änderungen an neue Stellen.</translation>
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie „Cache umgehen“ ein. Ist es bereits eingeschaltet, wählen Sie eine Größe, die den Arbeitsspeicher des Rechners übersteigt.</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sehen Sie sich den S.M.A.R.T.-Status des Laufwerks und das Systemprotokoll an, bevor Sie ihm Daten anvertrauen.</translation>
     </message>
     <message>
         <source>Data went through a cache although the system was asked to bypass it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten gingen durch einen Cache, obwohl das System ihn umgehen sollte.</translation>
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine Größe, die den Arbeitsspeicher des Rechners übersteigt, oder testen Sie das Laufwerk darunter über ein anderes Dateisystem.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechnen Sie mit der niedrigeren Rate, wo mehr als das auf einmal übertragen wird.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie dem Laufwerk mehr Luft oder einen Kühlkörper, und messen Sie erneut, sobald es abgekühlt ist.</translation>
     </message>
     <message>
         <source>Run again. If they come back, look at the drive’s S.M.A.R.T. status and its cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Messen Sie erneut. Treten die Pausen wieder auf, sehen Sie sich den S.M.A.R.T.-Status des Laufwerks und sein Kabel an.</translation>
     </message>
     <message>
         <source>Run again while nothing else uses the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Messen Sie erneut, während nichts anderes das Laufwerk benutzt.</translation>
     </message>
     <message>
         <source>Try another port, slot or cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versuchen Sie es mit einem anderen Anschluss, Steckplatz oder Kabel.</translation>
     </message>
     <message>
         <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie die Partition neu an, beginnend bei einem Vielfachen von 1 MiB. Das löscht sie.</translation>
     </message>
     <message>
         <source>Free some space: many drives and file systems slow down when full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie Speicher frei: Viele Laufwerke und Dateisysteme werden langsamer, wenn sie voll sind.</translation>
     </message>
     <message>
         <source>Choose a larger size, and switch on Bypass cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine größere Größe, und schalten Sie „Cache umgehen“ ein.</translation>
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Messen Sie erneut im Netzbetrieb und ohne Stromsparen.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laufwerk hinter diesem Datenträger ist nicht sichtbar; daher zeigt nichts, was es selbst geleistet hat.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory; no disk was measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Datenträger hält seine Dateien im Arbeitsspeicher; es wurde kein Laufwerk gemessen.</translation>
     </message>
     <message>
         <source>Choose a folder on a disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen Ordner auf einem Laufwerk.</translation>
     </message>
     <message>
         <source>This volume is a file on another volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Datenträger ist eine Datei auf einem anderen Datenträger.</translation>
     </message>
     <message>
         <source>To measure that volume itself, choose a folder on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um jenen Datenträger selbst zu messen, wählen Sie einen Ordner auf ihm.</translation>
     </message>
     <message>
         <source>The disk is one of a virtual machine, whose host may cache it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laufwerk gehört zu einer virtuellen Maschine, deren Host es möglicherweise im Cache hält.</translation>
     </message>
     <message>
         <source>The file system compresses. The test’s data does not, so other files may be faster.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dateisystem komprimiert. Die Daten des Tests lassen sich nicht komprimieren, andere Dateien können daher schneller sein.</translation>
     </message>
     <message>
         <source>The file system writes data twice, to its journal first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dateisystem schreibt Daten zweimal, zuerst in sein Journal.</translation>
     </message>
     <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ungültig</translation>
     </message>
     <message>
         <source>Caution</source>
         <extracomment>The weight of a remark: the figure may not be what it seems</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vorsicht</translation>
     </message>
     <message>
         <source>Note</source>
         <extracomment>The weight of a remark: something to know</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
 </context>
 <context>
@@ -2743,7 +2776,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>ReportImageText</name>
     <message>
         <source>Ondel Tarnwick — Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondel Tarnwick – Vergleich</translation>
     </message>
 </context>
 <context>
@@ -2813,11 +2846,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunExport</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Messung</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -2829,28 +2862,28 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
     <message>
         <source>%1 (invalid)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (ungültig)</translation>
     </message>
     <message>
         <source>Remarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmerkungen</translation>
     </message>
 </context>
 <context>
     <name>RunExportsText</name>
     <message numerus="yes">
         <source>Ondel Tarnwick — %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ondel Tarnwick – %n Messung</numerusform>
+            <numerusform>Ondel Tarnwick – %n Messungen</numerusform>
         </translation>
     </message>
     <message>
@@ -2955,16 +2988,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Cache</source>
-        <extracomment>The system&apos;s cache was bypassed, or what it holds was taken from it</extracomment>
         <translation>Cache</translation>
     </message>
     <message>
         <source>Bypassed</source>
+        <extracomment>The system&apos;s cache was</extracomment>
         <translation>Umgangen</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>Genutzt</translation>
+        <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
+        <translation>Mit Cache</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3095,16 +3129,16 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufälliges Lesen</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufälliges Schreiben</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dateiop.</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -3112,19 +3146,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
     <message>
         <source>peak %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitze %1</translation>
     </message>
     <message>
         <source>lowest %1</source>
-        <translation type="unfinished"></translation>
+        <translation>min. %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3134,17 +3168,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1, peak</source>
         <extracomment>%1 is the name of a test, whose highest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, Spitze</translation>
     </message>
     <message>
         <source>%1, lowest</source>
         <extracomment>%1 is the name of a test, whose lowest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, Minimum</translation>
     </message>
     <message>
         <source>%1, latency</source>
         <extracomment>%1 is the name of a test, whose latency follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, Latenz</translation>
     </message>
     <message>
         <source>About these figures</source>
@@ -3155,19 +3189,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunTitle</name>
     <message>
         <source>%1 Server</source>
-        <translation type="unfinished"></translation>
+        <translation>%1-Server</translation>
     </message>
     <message>
         <source>Network Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkserver</translation>
     </message>
     <message>
         <source>External Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Externes Laufwerk</translation>
     </message>
     <message>
         <source>Network volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkdatenträger</translation>
     </message>
 </context>
 <context>
@@ -3193,12 +3227,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1:</source>
         <extracomment>%1 is the name of a figure, which follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>%1  (attention)</source>
         <extracomment>Behind a figure that is a concern</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  (Achtung)</translation>
     </message>
     <message>
         <source>Drive</source>
@@ -3206,20 +3240,20 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittstelle</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Ondel Tarnwick S.M.A.R.T. report</source>
-        <translation type="unfinished"></translation>
+        <translation>S.M.A.R.T.-Bericht von Ondel Tarnwick</translation>
     </message>
 </context>
 <context>
@@ -3251,7 +3285,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1  ·  optimal</source>
         <extracomment>%1 is a size of blocks; it is the one that the volume prefers</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  optimal</translation>
     </message>
 </context>
 <context>
@@ -3442,22 +3476,22 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1 · %2 external</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 extern</translation>
     </message>
     <message>
         <source>%1 · %2 internal</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 intern</translation>
     </message>
     <message>
         <source>%1 · %2 removable</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 Wechselmedium</translation>
     </message>
     <message>
         <source>%1 · %2 network</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 Netzwerk</translation>
     </message>
     <message>
         <source>The folder couldn&apos;t be opened.</source>
@@ -3485,9 +3519,9 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message numerus="yes">
         <source>%1 chars</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Zeichen</numerusform>
+            <numerusform>%1 Zeichen</numerusform>
         </translation>
     </message>
     <message>
@@ -3516,12 +3550,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TargetText</name>
     <message>
         <source>Choose a folder on the volume to test (a temporary working folder is written there and removed).</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen Ordner auf dem Datenträger, der getestet werden soll (ein temporärer Arbeitsordner wird dort angelegt und wieder entfernt).</translation>
     </message>
     <message>
         <source>Select</source>
         <extracomment>The button that accepts the folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen</translation>
     </message>
 </context>
 <context>
@@ -3634,7 +3668,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickKit::views::LanguageSetting</name>
     <message>
         <source>Like the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Arbeitsumgebung</translation>
     </message>
 </context>
 <context>
@@ -3661,23 +3695,23 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Language of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache des Fensters</translation>
     </message>
     <message>
         <source>The window follows when Tarnwick is started the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gilt für das Fenster, wenn Tarnwick das nächste Mal gestartet wird.</translation>
     </message>
     <message>
         <source>Shared pictures in English</source>
-        <translation type="unfinished"></translation>
+        <translation>Geteilte Bilder auf Englisch</translation>
     </message>
     <message>
         <source>Off, their texts are in the language of the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist dies ausgeschaltet, haben ihre Texte die Sprache des Fensters.</translation>
     </message>
     <message>
         <source>Support Tarnwick</source>
@@ -3720,11 +3754,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
         <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 bis %3 %6 in %4, zuletzt %5 %6.</translation>
     </message>
     <message>
         <source>No measurements yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Messwerte.</translation>
     </message>
 </context>
 <context>
@@ -3953,17 +3987,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Internal</source>
         <extracomment>How a volume is attached: the drive is built into the machine</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Intern</translation>
     </message>
     <message>
         <source>External</source>
         <extracomment>How a volume is attached: the drive has a case and a cable of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Extern</translation>
     </message>
     <message>
         <source>Removable</source>
         <extracomment>How a volume is attached: a stick, a card or a disc</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wechselmedium</translation>
     </message>
     <message>
         <source>Network</source>
@@ -3978,17 +4012,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Root</source>
         <extracomment>The name of the volume at &quot;/&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wurzelverzeichnis</translation>
     </message>
     <message>
         <source>Shared Folder</source>
         <extracomment>A kind of file system: a folder that a virtual machine shares with its host</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Freigegebener Ordner</translation>
     </message>
     <message>
         <source>Fill disk</source>
         <extracomment>The size of a test: as much as there is free space</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerk füllen</translation>
     </message>
 </context>
 <context>

@@ -54,35 +54,35 @@
     <name>BenchmarkText</name>
     <message>
         <source>Not enough space: needs %1, only %2 free.</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio insuficiente: se necesitan %1 y solo hay %2 libres.</translation>
     </message>
     <message>
         <source>I/O error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de E/S: %1</translation>
     </message>
     <message>
         <source>Couldn’t write there. The volume may be read-only, or the folder may not allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir ahí. Puede que el volumen sea de solo lectura o que la carpeta no lo permita.</translation>
     </message>
     <message>
         <source>The test file is too small for the random block size.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de prueba es demasiado pequeño para el tamaño de bloque aleatorio.</translation>
     </message>
     <message>
         <source>Sequential write</source>
-        <translation type="unfinished"></translation>
+        <translation>Escritura secuencial</translation>
     </message>
     <message>
         <source>Sequential read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lectura secuencial</translation>
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lectura aleatoria</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>Escritura aleatoria</translation>
     </message>
     <message>
         <source>File operations</source>
@@ -91,53 +91,53 @@
     <message>
         <source>files/s</source>
         <extracomment>A unit, like MB/s</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>archivos/s</translation>
     </message>
     <message>
         <source>p99 %1</source>
         <extracomment>The time within which 99 % of all operations were done</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>p99 %1</translation>
     </message>
     <message>
         <source>worst %1</source>
         <extracomment>The longest time that an operation took</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>peor %1</translation>
     </message>
     <message>
         <source>The folder was removed or its volume unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durante la medición se eliminó la carpeta o se desconectó su volumen.</translation>
     </message>
     <message>
         <source>The volume was unplugged, or its server is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se desconectó el volumen, o su servidor ya no está.</translation>
     </message>
     <message>
         <source>The drive reported an error, or was unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>La unidad notificó un error o se desconectó durante la medición.</translation>
     </message>
     <message>
         <source>The volume can only be read: systems switch to that when they find an error on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El volumen solo se puede leer: los sistemas pasan a ese modo cuando encuentran un error en él.</translation>
     </message>
     <message>
         <source>The volume became full during the run, or your share of it is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>El volumen se llenó durante la medición, o su parte de él se agotó.</translation>
     </message>
     <message>
         <source>The file system, or a limit of this session, does not allow files of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema de archivos, o un límite de esta sesión, no permite archivos de este tamaño.</translation>
     </message>
     <message>
         <source>The permissions of the folder changed during the run, or the system forbids this there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los permisos de la carpeta cambiaron durante la medición, o el sistema no lo permite ahí.</translation>
     </message>
     <message>
         <source>There is not enough memory for blocks of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para bloques de este tamaño.</translation>
     </message>
     <message>
         <source>Too many files are open at the moment; close some programs and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay demasiados archivos abiertos en este momento; cierre algunos programas e inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>
@@ -174,7 +174,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede enviar la notificación desde este entorno aislado, que no tiene red.</translation>
     </message>
     <message>
         <source>The server rejected the report (%1).</source>
@@ -458,7 +458,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>This file system cannot spread samples: only %1 in one place were checked, and hold what was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este sistema de archivos no puede repartir las muestras: solo se comprobaron %1 en un único lugar, y contienen lo que se escribió.</translation>
     </message>
     <message>
         <source>Samples all over %1 hold what was written, which is no proof.</source>
@@ -498,7 +498,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>unos %1</translation>
     </message>
     <message>
         <source>Space to check</source>
@@ -518,7 +518,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>In one place</source>
-        <translation type="unfinished"></translation>
+        <translation>En un único lugar</translation>
     </message>
     <message>
         <source>It was right at the first reading.</source>
@@ -577,11 +577,11 @@ mín. %2</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este sistema de archivos no reserva espacio sin escribirlo, así que no se pudieron repartir las muestras. El resultado no dice nada del tamaño del volumen: realice una comprobación que no sea rápida.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una comprobación rápida escribe solo en unos pocos lugares: lo que hay entre ellos no se examinó.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
@@ -589,7 +589,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se comprobó menos de lo previsto: el volumen se llenó demasiado pronto. Puede que haya perdido datos del propio sistema de archivos.</translation>
     </message>
     <message>
         <source>Less was checked than planned: other programs may have taken the space.</source>
@@ -609,7 +609,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se escribe más allá de su tamaño real se pierde o destruye lo que hay en otro lugar del volumen. Copie lo que necesite de él y no se fíe de él.</translation>
     </message>
     <message>
         <source>The check was stopped: what it had not read back is not known.</source>
@@ -617,7 +617,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este sistema de archivos no devuelve nada que no coincida con sus sumas de comprobación: en él no se pueden leer datos alterados.</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -657,7 +657,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>Only at a second try</source>
-        <translation>Al segundo intento</translation>
+        <translation>Solo al segundo intento</translation>
     </message>
     <message>
         <source>Read from the disk</source>
@@ -774,7 +774,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1, %2: %3 %4</source>
         <extracomment>%1 is what was measured, %2 the name of a run, %3 the figure, %4 its unit</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3 %4</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -844,63 +844,64 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lectura aleatoria</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>Escritura aleatoria</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Op. archivos</translation>
     </message>
     <message>
         <source>ops/s</source>
         <extracomment>A unit, like IOPS: file operations per second</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>op/s</translation>
     </message>
     <message>
         <source>%1 free</source>
         <extracomment>%1 is the free space of a volume</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 libres</translation>
     </message>
     <message>
         <source>Fill disk test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba de llenado</translation>
     </message>
     <message>
         <source>%1 test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba de %1</translation>
     </message>
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L/E %1</translation>
     </message>
     <message>
         <source>W %1</source>
         <extracomment>%1 is the size of the blocks that were written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>E %1</translation>
     </message>
     <message>
         <source>R %1</source>
         <extracomment>%1 is the size of the blocks that were read</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L %1</translation>
     </message>
     <message>
         <source>Rnd %1</source>
         <extracomment>%1 is the size of the blocks that were read and written at random</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aleat. %1</translation>
     </message>
     <message>
         <source>Uncached</source>
-        <extracomment>The system&apos;s cache was bypassed, or it was not</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>The system&apos;s cache was bypassed</extracomment>
+        <translation>Sin caché</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>Usada</translation>
+        <extracomment>It was not bypassed</extracomment>
+        <translation>Con caché</translation>
     </message>
 </context>
 <context>
@@ -954,24 +955,24 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>DisplayText</name>
     <message>
         <source>“%1” is damaged or not a Tarnwick run.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» está dañado o no es una medición de Tarnwick.</translation>
     </message>
     <message>
         <source>“%1” is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una carpeta ni un archivo de medición que se pueda abrir.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are damaged or not Tarnwick runs.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>«%1» y %2 más están dañados o no son mediciones de Tarnwick.</numerusform>
+            <numerusform>«%1» y %2 más están dañados o no son mediciones de Tarnwick.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are not folders or run files that can be opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>«%1» y %2 más no son carpetas ni archivos de medición que se puedan abrir.</numerusform>
+            <numerusform>«%1» y %2 más no son carpetas ni archivos de medición que se puedan abrir.</numerusform>
         </translation>
     </message>
 </context>
@@ -1023,11 +1024,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>FiguresText</name>
     <message>
         <source>Run: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Medición: %1 · %2</translation>
     </message>
     <message>
         <source>not the disk’s figure</source>
-        <translation type="unfinished"></translation>
+        <translation>no es del disco</translation>
     </message>
 </context>
 <context>
@@ -1078,11 +1079,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthSection</name>
     <message>
         <source>Failing</source>
-        <extracomment>The drive&apos;s own verdict: it is going to break, or it finds itself sound</extracomment>
+        <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
         <translation>Fallo inminente</translation>
     </message>
     <message>
         <source>Verified</source>
+        <extracomment>The drive&apos;s own verdict: it finds itself sound</extracomment>
         <translation>Verificado</translation>
     </message>
     <message>
@@ -1099,230 +1101,231 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthText</name>
     <message>
         <source>Critical warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Advertencia crítica</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Life used</source>
-        <translation type="unfinished"></translation>
+        <translation>Vida útil consumida</translation>
     </message>
     <message>
         <source>Spare available</source>
         <extracomment>Of a solid state drive: how much of its reserve of memory cells is left</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Reserva disponible</translation>
     </message>
     <message>
         <source>Spare threshold</source>
         <extracomment>Of a solid state drive: the least reserve of memory cells before it warns</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Umbral de la reserva</translation>
     </message>
     <message>
         <source>Power-on time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo encendido</translation>
     </message>
     <message>
         <source>Power cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclos de encendido</translation>
     </message>
     <message>
         <source>Load cycles</source>
         <extracomment>How often the heads were parked and loaded again</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ciclos de carga de los cabezales</translation>
     </message>
     <message>
         <source>Unsafe shutdowns</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagados no seguros</translation>
     </message>
     <message>
         <source>Data written</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos escritos</translation>
     </message>
     <message>
         <source>Data read</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos leídos</translation>
     </message>
     <message>
         <source>Host read commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Órdenes de lectura del host</translation>
     </message>
     <message>
         <source>Host write commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Órdenes de escritura del host</translation>
     </message>
     <message>
         <source>Controller busy</source>
         <extracomment>How long the drive&apos;s controller was busy</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo de ocupación del controlador</translation>
     </message>
     <message>
         <source>Reallocated sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Sectores reasignados</translation>
     </message>
     <message>
         <source>Pending sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Sectores pendientes</translation>
     </message>
     <message>
         <source>Uncorrectable sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Sectores incorregibles</translation>
     </message>
     <message>
         <source>Reported uncorrectable</source>
         <extracomment>Errors that the drive reported and could not correct</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Errores incorregibles notificados</translation>
     </message>
     <message>
         <source>Spin retries</source>
-        <translation type="unfinished"></translation>
+        <translation>Reintentos de giro</translation>
     </message>
     <message>
         <source>Interface CRC errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Errores CRC de la interfaz</translation>
     </message>
     <message>
         <source>Media errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Errores del medio</translation>
     </message>
     <message>
         <source>Error log entries</source>
-        <translation type="unfinished"></translation>
+        <translation>Entradas del registro de errores</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Disks</source>
-        <translation type="unfinished"></translation>
+        <translation>Discos</translation>
     </message>
     <message>
         <source>Spare below threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>Reserva por debajo del umbral</translation>
     </message>
     <message>
         <source>Reliability degraded</source>
-        <translation type="unfinished"></translation>
+        <translation>Fiabilidad degradada</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo lectura</translation>
     </message>
     <message>
         <source>Backup failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fallo del respaldo de la memoria volátil</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>What a drive warns of</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>What a drive warns of, in a bit that is not known</extracomment>
+        <translation>Desconocido</translation>
     </message>
     <message>
         <source>%1 years</source>
         <extracomment>How long a drive has been switched on; %1 is a number with one decimal, as 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 años</translation>
     </message>
     <message>
         <source>%1 of %2 disks answered</source>
-        <translation type="unfinished"></translation>
+        <translation>Respuesta de %1 de %2 discos</translation>
     </message>
     <message>
         <source>no device is behind this path</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ningún dispositivo detrás de esta ruta</translation>
     </message>
     <message>
         <source>no disk is behind %1</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
+        <translation>no hay ningún disco detrás de %1</translation>
     </message>
     <message>
         <source>%1 is no block device</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un dispositivo de bloques</translation>
     </message>
     <message>
         <source>%1 does not tell whether it sleeps, so it was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no indica si está en reposo, así que no se ha consultado</translation>
     </message>
     <message>
         <source>%1 is asleep and was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está en reposo y no se ha consultado</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T., or it is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene S.M.A.R.T., o está desactivado</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T. interface</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene interfaz S.M.A.R.T.</translation>
     </message>
     <message>
         <source>%1 does not pass S.M.A.R.T. commands on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no transmite las órdenes S.M.A.R.T.</translation>
     </message>
     <message>
         <source>%1 does not give its NVMe health log</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no entrega su registro de salud NVMe</translation>
     </message>
     <message>
         <source>%1 may only be asked by an administrator</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 solo puede consultarlo un administrador</translation>
     </message>
     <message>
         <source>%1 is out of this process&apos;s reach</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está fuera del alcance de este proceso</translation>
     </message>
     <message>
         <source>UDisks2 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 no responde</translation>
     </message>
     <message>
         <source>UDisks2 does not answer for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 no responde para %1</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no responde</translation>
     </message>
     <message>
         <source>UDisks2 %1 does not read the health of NVMe drives (version 2.10 does)</source>
         <extracomment>%1 is the version of UDisks2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 %1 no lee el estado de las unidades NVMe (la versión 2.10 sí)</translation>
     </message>
     <message>
         <source>UDisks2 has no health figures of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 no tiene valores de salud de %1</translation>
     </message>
     <message>
         <source>UDisks2 has no health verdict on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 no tiene un veredicto sobre la salud de %1</translation>
     </message>
     <message>
         <source>UDisks2 knows no drive behind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 no conoce ninguna unidad detrás de %1</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1, which gave its verdict without figures</source>
-        <translation type="unfinished"></translation>
+        <translation>S.M.A.R.T. ATA de %1, que dio su veredicto sin valores</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>S.M.A.R.T. ATA de %1</translation>
     </message>
     <message>
         <source>NVMe health log of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de salud NVMe de %1</translation>
     </message>
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 para %1, leído hace %2 min</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 para %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1332,18 +1335,18 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1; %2</source>
         <extracomment>Two sentences, the first on one disk and the second on another</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1; %2</translation>
     </message>
     <message>
         <source>%1, and %2</source>
         <extracomment>Two sentences: why a disk gives no figures itself, and why the system&apos;s service gives none</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, y %2</translation>
     </message>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 día</numerusform>
+            <numerusform>%1 días</numerusform>
         </translation>
     </message>
     <message>
@@ -1409,11 +1412,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HostCheck</name>
     <message>
         <source>Stopping, removing the files</source>
-        <translation type="unfinished"></translation>
+        <translation>Deteniendo, eliminando los archivos</translation>
     </message>
     <message>
         <source>The check could not be told as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo expresar la comprobación en JSON.</translation>
     </message>
 </context>
 <context>
@@ -1424,7 +1427,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Case-preserving</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserva mayúsculas</translation>
     </message>
     <message>
         <source>Sparse files</source>
@@ -1436,19 +1439,19 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlaces simbólicos</translation>
     </message>
     <message>
         <source>Extended attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Atributos extendidos</translation>
     </message>
     <message>
         <source>Named streams</source>
-        <translation type="unfinished"></translation>
+        <translation>Flujos con nombre</translation>
     </message>
     <message>
         <source>Access control lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas de control de acceso</translation>
     </message>
     <message>
         <source>Cloning</source>
@@ -1460,32 +1463,32 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Diario (journal)</translation>
     </message>
     <message>
         <source>Journal active</source>
-        <translation type="unfinished"></translation>
+        <translation>Diario activo</translation>
     </message>
     <message>
         <source>Sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sellado</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>sí</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>not known</source>
         <comment>whether a file system can do something</comment>
-        <translation type="unfinished"></translation>
+        <translation>no se sabe</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Format</source>
@@ -1497,35 +1500,35 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Usado</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo lectura</translation>
     </message>
     <message>
         <source>Encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifrado</translation>
     </message>
     <message>
         <source>Mounted at</source>
-        <translation type="unfinished"></translation>
+        <translation>Montado en</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Block size</source>
@@ -1533,43 +1536,43 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Optimal transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Transferencia óptima</translation>
     </message>
     <message>
         <source>Longest name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre más largo</translation>
     </message>
     <message>
         <source>Longest path</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta más larga</translation>
     </message>
     <message>
         <source>Most links</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo de enlaces</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Attached by</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectada por</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Interfaz</translation>
     </message>
     <message>
         <source>(attention)</source>
-        <translation type="unfinished"></translation>
+        <translation>(atención)</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -1585,47 +1588,47 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salud</translation>
     </message>
     <message>
         <source>no S.M.A.R.T. figures: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>sin valores S.M.A.R.T.: %1</translation>
     </message>
 </context>
 <context>
     <name>HostFiles</name>
     <message>
         <source>%1, which comes with the window, could not be started</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo iniciar %1, que viene con la ventana</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no responde</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es una carpeta</translation>
     </message>
     <message>
         <source>%1 is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un archivo normal</translation>
     </message>
     <message>
         <source>%1 exists and holds no runs; --force would replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 existe y no contiene mediciones; --force lo sustituiría</translation>
     </message>
     <message>
         <source>A figure of this run is beyond what a file can hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un valor de esta medición supera lo que puede contener un archivo.</translation>
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir %1: %2</translation>
     </message>
     <message>
         <source>The history could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el historial.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1634,251 +1637,267 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>The result could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el resultado</translation>
     </message>
     <message>
         <source>%1 is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es una carpeta</translation>
     </message>
     <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>En esta carpeta hay archivos de otra medición en uso que no se han eliminado.</translation>
     </message>
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: el vaciado de los búferes en el disco falló (%2); puede que no esté todo lo que se escribió.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Preparación: el vaciado de los búferes en el disco falló (%1); puede que no esté todo lo que se escribió.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el archivo de medición en su carpeta temporal.</translation>
     </message>
     <message>
         <source>The run could not be added to the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo añadir la medición al historial.</translation>
     </message>
     <message>
         <source>%1 is larger than a run file can be (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es mayor de lo que puede ser un archivo de medición (%2)</translation>
     </message>
     <message>
         <source>%1 could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo leer %1</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada estándar</translation>
     </message>
     <message>
         <source>standard input is larger than a run file can be (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>la entrada estándar es mayor de lo que puede ser un archivo de medición (%1)</translation>
     </message>
     <message>
         <source>standard input is not a run file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la entrada estándar no es un archivo de medición: %1</translation>
     </message>
     <message>
         <source>%1 is not a run file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un archivo de medición: %2</translation>
     </message>
     <message>
         <source>The picture could not be drawn: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo dibujar la imagen: %1</translation>
     </message>
     <message>
         <source>The picture could not be drawn, or not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo dibujar la imagen, o no se pudo escribir en su carpeta temporal.</translation>
     </message>
 </context>
 <context>
     <name>HostHelp</name>
     <message>
         <source>Draw it in the dark colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujarla con los colores oscuros</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
 transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
 it stays until your session ends, or until the system empties its temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo de medición es lo que escribe «run --handoff», para una medición. La imagen es un archivo PNG de 1616
+píxeles de ancho, con un margen transparente; se muestra su ruta. No hace falta pantalla. Una imagen con el mismo
+título sustituye a la anterior; permanece hasta que termina la sesión o hasta que el sistema vacía su carpeta temporal.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de salida: 0 hecho, 1 no se pudo leer un archivo o crear la imagen, 2 uso incorrecto.</translation>
     </message>
     <message>
         <source>Draw a picture of a run to share, or of several compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar una imagen de una medición para compartir, o de varias comparadas</translation>
     </message>
     <message>
         <source>How much to write and read back (default: all free space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto escribir y releer (por omisión: todo el espacio libre)</translation>
     </message>
     <message>
         <source>How much stays free in any case (default: 64MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto queda libre en todo caso (por omisión: 64MiB)</translation>
     </message>
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestras por todo el intervalo, en segundos: detecta una
+capacidad falsa y no demuestra nada si no encuentra ninguna</translation>
     </message>
     <message>
         <source>Read everything once more, S seconds later</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer todo una vez más, S segundos después</translation>
     </message>
     <message>
         <source>Print one JSON object: the verdict, the sentence, and all that was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar un objeto JSON: el veredicto, la frase y todo lo encontrado</translation>
     </message>
     <message>
         <source>Writes files that differ in every block into a hidden folder inside FOLDER, reads them back past the system&apos;s
 cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe archivos distintos en cada bloque en una carpeta oculta dentro de FOLDER, los relee sin pasar por la caché del sistema,
+lo compara todo y los elimina, también tras Ctrl+C. No se toca ningún archivo suyo; pero en un dispositivo con capacidad falsa
+toda escritura más allá de su tamaño real puede destruir lo que haya ahí, igual que cualquier otro uso. --quick escribe solo
+muestras. Los archivos de una comprobación finalizada a la fuerza los elimina la siguiente medición o comprobación en FOLDER.</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES son cifras solas, o cifras con K, M, G, T (KiB, MiB, GiB, TiB: pasos de 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de salida: 0 no se encontró nada mal, 1 fallo, 2 uso incorrecto, 3 se encontraron
+defectos, 130 detenido por una señal; se muestra lo encontrado hasta entonces.</translation>
     </message>
     <message>
         <source>Check whether a volume is as large as it says and keeps what it is given</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar si un volumen es tan grande como dice y conserva lo que se le confía</translation>
     </message>
     <message>
         <source>As text (default), markdown, csv or json</source>
-        <translation type="unfinished"></translation>
+        <translation>Como text (por omisión), markdown, csv o json</translation>
     </message>
     <message>
         <source>Let --output replace a file of any content</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitir que --output sustituya un archivo con cualquier contenido</translation>
     </message>
     <message>
         <source>Print the facts as one JSON object</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los datos como un objeto JSON</translation>
     </message>
     <message>
         <source>Print the list as one JSON array</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la lista como una matriz JSON</translation>
     </message>
     <message>
         <source>Nothing is written anywhere. What the system does not tell reads &quot;--&quot; or &quot;not known&quot;, and is left out of the JSON
 object.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se escribe nada en ningún sitio. Lo que el sistema no indica
+aparece como «--» o «no se sabe», y no figura en el objeto JSON.</translation>
     </message>
     <message>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada sistema de archivos aparece una vez, en su punto de montaje más corto. Se omite lo que montan para sí
+mismos el sistema, sus paquetes y sus contenedores. Un servidor que no responde a tiempo no tiene capacidad.</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La unidad solo se consulta: si está en reposo no se despierta, y no se activa nada
+en ella. De dónde procede su estado de salud, o por qué no lo hay, lo dice «facts».</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar lo que contiene FOLDER: volumen, sistema de archivos, unidad y su salud</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar los volúmenes montados</translation>
     </message>
     <message>
         <source>Print the health of the drive that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la salud de la unidad que contiene FOLDER</translation>
     </message>
     <message>
         <source>Usage: %1</source>
         <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: %1</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Show this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar este texto</translation>
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondel Tarnwick en un terminal: lo rápido que es un disco, medido en él sin dejar nada.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar este texto o, detrás de una orden, las opciones de esa orden</translation>
     </message>
     <message>
         <source>Show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la versión</translation>
     </message>
     <message>
         <source>The file that &quot;export&quot; writes</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo que escribe «export»</translation>
     </message>
     <message>
         <source>Let &quot;delete&quot; delete all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitir que «delete» elimine todas las mediciones</translation>
     </message>
     <message>
         <source>ACTION is one of</source>
-        <translation type="unfinished"></translation>
+        <translation>ACTION es una de las siguientes</translation>
     </message>
     <message>
         <source>a line for each run, newest first, which begins with its name (default)</source>
-        <translation type="unfinished"></translation>
+        <translation>una línea por medición, primero la más reciente, que empieza por su nombre (por omisión)</translation>
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation type="unfinished"></translation>
+        <translation>mostrar mediciones como hace «show», en la forma de --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir mediciones en el FILE de --output, en la forma de --format o del
+nombre de FILE: .csv, .json, .md, .txt, o .tarnwickrun para una sola medición</translation>
     </message>
     <message>
         <source>delete runs, without a question and for good</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminar mediciones, sin preguntar y para siempre</translation>
     </message>
     <message>
         <source>A RUN is named as the list has it, or by four or more characters that begin its id. Without one, all runs are meant;
 &quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
 file only if it is empty or holds runs; with --force any other file too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un RUN se nombra como en la lista, o con cuatro o más caracteres iniciales de su identificador. Sin RUN se entienden
+todas las mediciones; «delete» exige entonces --all. Una ventana abierta se actualiza en cuanto se vuelve a ella.
+--output sustituye un archivo existente solo si está vacío o contiene mediciones; con --force, también cualquier otro.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de salida: 0 hecho, 1 no existe tal medición o hubo un fallo, 2 uso incorrecto.</translation>
     </message>
     <message>
         <source>List, show, export or delete the runs that the window keeps</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar, mostrar, exportar o eliminar las mediciones que guarda la ventana</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES son cifras solas, o cifras con K, M, G, T (KiB, MiB, GiB, TiB: pasos de 1024). Los bloques se redondean hacia arriba
+a páginas enteras de 4096. Los valores por omisión son los de la ventana, para que sus resultados y estos se puedan
+comparar, salvo en los bloques de las pruebas secuenciales: la ventana usa la «Transferencia óptima» que muestra «facts».</translation>
     </message>
     <message>
         <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start; files that are still in use stay, after a second&apos;s wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo se escribe en una carpeta oculta dentro de FOLDER y se elimina al final, también tras Ctrl+C. Lo que una medición finalizada
+a la fuerza dejó en FOLDER se elimina antes de empezar; los archivos que siguen en uso se quedan, tras un segundo de espera.</translation>
     </message>
     <message>
         <source>The files of --handoff and --card stay until your session ends, or until the system empties its temporary folder.
@@ -1886,127 +1905,139 @@ run left behind in FOLDER is removed before the start; files that are still in u
 &quot;history export&quot; write as json or csv); with --force any other file too. A window that is open shows a run that
 --keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
 and the run counts as failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos de --handoff y --card permanecen hasta que termina la sesión o hasta que el sistema vacía su
+carpeta temporal. --output sustituye un archivo existente solo si está vacío o contiene mediciones (un
+archivo de medición, o lo que «show --format» y «history export» escriben como json o csv); con --force,
+también cualquier otro. Una ventana abierta muestra una medición añadida con --keep en cuanto se vuelve a
+ella. Si algo no se puede escribir, los valores se muestran igualmente y la medición cuenta como fallida.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de salida: 0 hecho, 1 fallo, 2 uso incorrecto, 130 detenido por una señal.</translation>
     </message>
     <message>
         <source>Measure the file system that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>Medir el sistema de archivos que contiene FOLDER</translation>
     </message>
     <message>
         <source>Tests to run, always in this order: sequentialWrite, sequentialRead,
 randomRead, randomWrite, fileOps (default: all)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pruebas que realizar, siempre en este orden: sequentialWrite,
+sequentialRead, randomRead, randomWrite, fileOps (por omisión: todas)</translation>
     </message>
     <message>
         <source>Size of the data file, or fill the disk (default: 5GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del archivo de datos, o fill para llenar el disco (por omisión: 5GiB)</translation>
     </message>
     <message>
         <source>What --size fill leaves free (default: 1GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que deja libre --size fill (por omisión: 1GiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential write (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes por llamada, escritura secuencial (por omisión: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential read (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes por llamada, lectura secuencial (por omisión: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per random operation (default: 4KiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes por operación aleatoria (por omisión: 4KiB)</translation>
     </message>
     <message>
         <source>Operations in each random test (default: 10000)</source>
-        <translation type="unfinished"></translation>
+        <translation>Operaciones en cada prueba aleatoria (por omisión: 10000)</translation>
     </message>
     <message>
         <source>Files in the file-operations test (default: 1000)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos en la prueba de operaciones de archivos (por omisión: 1000)</translation>
     </message>
     <message>
         <source>Let the system cache the data file, as ordinary programs do</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejar que el sistema guarde el archivo de datos en la caché, como hacen los programas corrientes</translation>
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos mínimos entre dos puntos de medida (por omisión: 0.02)</translation>
     </message>
     <message>
         <source>Print one JSON object: the plan, every figure, every sample, date,
 folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
 &quot;remarks&quot; what was observed and what it says</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar un objeto JSON: el plan, cada valor, cada punto de medida,
+fecha, carpeta, volumen, sistema de archivos, unidad, núcleo y, en
+«evidence» y «remarks», lo que se observó y lo que significa</translation>
     </message>
     <message>
         <source>Write a run file there, for the window, for &quot;show&quot; and for others</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir ahí un archivo de medición, para la ventana, para «show» y para otros</translation>
     </message>
     <message>
         <source>Add the run to the window&apos;s history</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir la medición al historial de la ventana</translation>
     </message>
     <message>
         <source>Write a run file for the window and for &quot;show&quot;, and print its path
 as the last line; with --json: as &quot;handoffFile&quot; in the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir un archivo de medición para la ventana y para «show», y mostrar
+su ruta como última línea; con --json: como «handoffFile» en el objeto</translation>
     </message>
     <message>
         <source>Draw a picture of the run to share, in light or dark colours, and
 print its path as the last line; with --json: as &quot;cardFile&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar una imagen de la medición para compartir, con colores claros (light) u
+oscuros (dark), y mostrar su ruta como última línea; con --json: como «cardFile»</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; and &quot;run --output&quot; write, for one run. The window&apos;s history (history.json) and
 the output of &quot;show --format json&quot; have several. &quot;-&quot; is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo de medición es lo que escriben «run --handoff» y «run --output», para una medición. El historial
+de la ventana (history.json) y la salida de «show --format json» tienen varias. «-» es la entrada estándar.</translation>
     </message>
     <message>
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Como texto, unas barras comparan los valores de varias mediciones: el mayor de cada tipo llena su pista, y «--» figura donde una
+medición no tiene ninguno. Las líneas caben en el terminal, o en 80 columnas. Una tabla Markdown sirve para foros. CSV tiene una
+línea por medición, con números simples para hojas de cálculo y scripts. JSON es una lista del contenido de los archivos de medición.</translation>
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo que no se puede mostrar recibe una línea en el error estándar, y los demás se muestran.</translation>
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de salida: 0 se mostraron todos, 1 no todos, 2 uso incorrecto.</translation>
     </message>
     <message>
         <source>Show runs from their run files, and several side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar mediciones a partir de sus archivos, y varias lado a lado</translation>
     </message>
 </context>
 <context>
     <name>HostHistory</name>
     <message>
         <source>there is no run %1 in the history</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna medición %1 en el historial</translation>
     </message>
     <message>
         <source>%1 stands for several runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 designa varias mediciones</translation>
     </message>
     <message>
         <source>Run</source>
         <extracomment>A benchmark run.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Medición</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
 </context>
 <context>
@@ -2018,25 +2049,25 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciando</translation>
     </message>
     <message>
         <source>%1 left</source>
         <extracomment>%1: the time until the end, as &quot;2 min&quot;.</extracomment>
-        <translation>Quedan %1</translation>
+        <translation>quedan %1</translation>
     </message>
     <message>
         <source>Stopping, removing the test files</source>
-        <translation type="unfinished"></translation>
+        <translation>Deteniendo, eliminando los archivos de prueba</translation>
     </message>
     <message>
         <source>Preparing the test file, %1 s</source>
         <extracomment>%1: the seconds since the start.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Preparando el archivo de prueba, %1 s</translation>
     </message>
     <message>
         <source>Starting, %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciando, %1 s</translation>
     </message>
 </context>
 <context>
@@ -2047,169 +2078,169 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Sustained</source>
-        <translation type="unfinished"></translation>
+        <translation>Sostenida</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Pico</translation>
     </message>
     <message>
         <source>Lowest</source>
-        <translation type="unfinished"></translation>
+        <translation>Mínimo</translation>
     </message>
     <message>
         <source>Overall</source>
-        <translation type="unfinished"></translation>
+        <translation>Global</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Operaciones</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad</translation>
     </message>
     <message>
         <source>Worst</source>
         <extracomment>The slowest operation; &quot;p99&quot; is the time that 99 of 100 operations stay below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Peor</translation>
     </message>
     <message>
         <source>Create</source>
         <extracomment>What the file-operations test does with files; &quot;Stat&quot; asks for a file&apos;s size and dates.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Crear</translation>
     </message>
     <message>
         <source>Stat</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultar</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renombrar</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>
     <name>HostUsage</name>
     <message>
         <source>a RUNFILE to draw is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta un RUNFILE que dibujar</translation>
     </message>
     <message>
         <source>%1 is a year at most</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es un año como máximo</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe la opción %1</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no admite ningún valor</translation>
     </message>
     <message>
         <source>%1 needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita un valor: %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 only</source>
         <extracomment>Two options or commands of the program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 solo se usa con %2</translation>
     </message>
     <message>
         <source>%1 needs a whole number from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita un número entero de %2 a %3, no %4</translation>
     </message>
     <message>
         <source>%1 needs a number of bytes, such as 4096, 64K or 5GiB, from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita un número de bytes, como 4096, 64K o 5GiB, de %2 a %3, no %4</translation>
     </message>
     <message>
         <source>%1 needs a number of seconds, 0 or more, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita un número de segundos, 0 o más, no %2</translation>
     </message>
     <message>
         <source>a FOLDER is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta un FOLDER</translation>
     </message>
     <message>
         <source>one FOLDER at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>un solo FOLDER cada vez</translation>
     </message>
     <message>
         <source>%1 is text, markdown, csv or json, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es text, markdown, csv o json, no %2</translation>
     </message>
     <message>
         <source>%1 needs the name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita el nombre de un archivo</translation>
     </message>
     <message>
         <source>%1 takes no operand</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no admite ningún operando</translation>
     </message>
     <message>
         <source>%1 needs %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita %2</translation>
     </message>
     <message>
         <source>a run file holds one run, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un archivo de medición contiene una medición, no %1</translation>
     </message>
     <message>
         <source>%1 is needed where the FILE&apos;s name does not end in .tarnwickrun, .csv, .json, .md or .txt</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es necesario si el nombre de FILE no termina en .tarnwickrun, .csv, .json, .md o .txt</translation>
     </message>
     <message>
         <source>%1 needs either RUNs or %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita RUN o bien %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 and %3 only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 solo se usa con %2 y %3</translation>
     </message>
     <message>
         <source>%1 can list, show, export and delete, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 admite list, show, export y delete, no %2</translation>
     </message>
     <message>
         <source>a command is missing; see %1</source>
-        <translation type="unfinished"></translation>
+        <translation>falta una orden; véase %1</translation>
     </message>
     <message>
         <source>there is no command %1; see %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe la orden %1; véase %2</translation>
     </message>
     <message>
         <source>a FOLDER to measure is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta un FOLDER que medir</translation>
     </message>
     <message>
         <source>a FOLDER to check is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta un FOLDER que comprobar</translation>
     </message>
     <message>
         <source>one FOLDER at a time, not also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un solo FOLDER cada vez, no también %1</translation>
     </message>
     <message>
         <source>the FOLDER&apos;s name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre de FOLDER está vacío</translation>
     </message>
     <message>
         <source>%1: there is no test %2, only %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no existe la prueba %2, solo %3</translation>
     </message>
     <message>
         <source>%1 is light or dark, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es light o dark, no %2</translation>
     </message>
     <message>
         <source>a FILE to show is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta un FILE que mostrar</translation>
     </message>
 </context>
 <context>
@@ -2338,15 +2369,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>LiveRunText</name>
     <message>
         <source>done</source>
-        <extracomment>What a test does: it is done, it runs, or it has not begun</extracomment>
+        <extracomment>Of a test</extracomment>
         <translation>completada</translation>
     </message>
     <message>
         <source>running</source>
+        <extracomment>Of a test</extracomment>
         <translation>en curso</translation>
     </message>
     <message>
         <source>to come</source>
+        <extracomment>Of a test that has not begun</extracomment>
         <translation>pendiente</translation>
     </message>
     <message>
@@ -2360,59 +2393,59 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>A few seconds left</source>
-        <translation type="unfinished"></translation>
+        <translation>Quedan unos segundos</translation>
     </message>
     <message>
         <source>A few seconds left of this test</source>
-        <translation type="unfinished"></translation>
+        <translation>Quedan unos segundos de esta prueba</translation>
     </message>
     <message numerus="yes">
         <source>About %n s left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Queda cerca de %n s</numerusform>
+            <numerusform>Quedan unos %n s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Queda cerca de %n s de esta prueba</numerusform>
+            <numerusform>Quedan unos %n s de esta prueba</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Queda cerca de %n min</numerusform>
+            <numerusform>Quedan unos %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Queda cerca de %n min de esta prueba</numerusform>
+            <numerusform>Quedan unos %n min de esta prueba</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Queda cerca de %n h</numerusform>
+            <numerusform>Quedan unas %n h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Queda cerca de %n h de esta prueba</numerusform>
+            <numerusform>Quedan unas %n h de esta prueba</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 operations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 de %2 operación</numerusform>
+            <numerusform>%1 de %2 operaciones</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,185 +2540,185 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RemarkText</name>
     <message>
         <source>At most %1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durante la prueba llegó al disco como máximo el %1 de lo escrito.</translation>
     </message>
     <message>
         <source>%1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durante la prueba llegó al disco el %1 de lo escrito.</translation>
     </message>
     <message>
         <source>At most %1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Como máximo el %1 de lo leído procedía del disco.</translation>
     </message>
     <message>
         <source>%1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>El %1 de lo leído procedía del disco.</translation>
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No todo lo escrito pudo pasar de los búferes al disco: %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de prueba no pudo pasar de los búferes al disco: %1.</translation>
     </message>
     <message>
         <source>%1 for the first %2, then %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 durante los primeros %2, después %3.</translation>
     </message>
     <message>
         <source>The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower.</source>
-        <translation type="unfinished"></translation>
+        <translation>La unidad alcanzó %1 tras %2 (límite %3), y desde entonces la velocidad fue un %4 menor.</translation>
     </message>
     <message>
         <source>One pause over 1 s: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una pausa de más de 1 s: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%1 pauses over 1 s, the longest %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 pausa de más de 1 s, la más larga de %2.</numerusform>
+            <numerusform>%1 pausas de más de 1 s, la más larga de %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros transfirieron %1 en el mismo disco durante la prueba.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>El enlace %1 de la unidad funciona a %2; la unidad podría alcanzar %3.</translation>
     </message>
     <message>
         <source>The partition begins %1 into a physical block of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La partición empieza %1 después del inicio de un bloque físico de %2.</translation>
     </message>
     <message>
         <source>Only %1 of the volume was free.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo el %1 del volumen estaba libre.</translation>
     </message>
     <message>
         <source>The test’s %1 may fit into a cache of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los %1 de la prueba podrían caber en una caché de %2.</translation>
     </message>
     <message>
         <source>The machine ran on battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>El equipo funcionaba con batería.</translation>
     </message>
     <message>
         <source>The processor was set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>El procesador estaba configurado para ahorrar energía.</translation>
     </message>
     <message>
         <source>The machine ran on battery, its processor set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>El equipo funcionaba con batería, con el procesador configurado para ahorrar energía.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places and checksums data.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema de archivos escribe los cambios en lugares nuevos y calcula sumas de comprobación de los datos.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema de archivos escribe los cambios en lugares nuevos.</translation>
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Active «Omitir la caché». Si ya está activado, elija un tamaño mayor que la memoria del equipo.</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Consulte el estado S.M.A.R.T. de la unidad y el registro del sistema antes de confiarle datos.</translation>
     </message>
     <message>
         <source>Data went through a cache although the system was asked to bypass it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los datos pasaron por una caché aunque se pidió al sistema que la omitiera.</translation>
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un tamaño mayor que la memoria del equipo, o pruebe el disco subyacente mediante otro sistema de archivos.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuente con la velocidad más baja cuando se transfiera más que eso de una vez.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dé más aire a la unidad o póngale un disipador, y repita la medición cuando se haya enfriado.</translation>
     </message>
     <message>
         <source>Run again. If they come back, look at the drive’s S.M.A.R.T. status and its cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Repita la medición. Si las pausas vuelven, revise el estado S.M.A.R.T. de la unidad y su cable.</translation>
     </message>
     <message>
         <source>Run again while nothing else uses the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Repita la medición mientras nada más use el disco.</translation>
     </message>
     <message>
         <source>Try another port, slot or cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pruebe con otro puerto, ranura o cable.</translation>
     </message>
     <message>
         <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelva a crear la partición de modo que empiece en un múltiplo de 1 MiB. Eso la borra.</translation>
     </message>
     <message>
         <source>Free some space: many drives and file systems slow down when full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Libere espacio: muchas unidades y sistemas de archivos se ralentizan cuando están llenos.</translation>
     </message>
     <message>
         <source>Choose a larger size, and switch on Bypass cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un tamaño mayor y active «Omitir la caché».</translation>
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Repita la medición con la red eléctrica y sin ahorro de energía.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco que hay detrás de este volumen no es visible, por lo que nada muestra lo que hizo por sí mismo.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory; no disk was measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este volumen guarda sus archivos en la memoria; no se midió ningún disco.</translation>
     </message>
     <message>
         <source>Choose a folder on a disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una carpeta en un disco.</translation>
     </message>
     <message>
         <source>This volume is a file on another volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este volumen es un archivo en otro volumen.</translation>
     </message>
     <message>
         <source>To measure that volume itself, choose a folder on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para medir ese otro volumen en sí, elija una carpeta en él.</translation>
     </message>
     <message>
         <source>The disk is one of a virtual machine, whose host may cache it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco es de una máquina virtual, cuyo anfitrión puede guardarlo en caché.</translation>
     </message>
     <message>
         <source>The file system compresses. The test’s data does not, so other files may be faster.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema de archivos comprime. Los datos de la prueba no se comprimen, así que otros archivos pueden ser más rápidos.</translation>
     </message>
     <message>
         <source>The file system writes data twice, to its journal first.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema de archivos escribe los datos dos veces, primero en su diario.</translation>
     </message>
     <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>No válido</translation>
     </message>
     <message>
         <source>Caution</source>
         <extracomment>The weight of a remark: the figure may not be what it seems</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Precaución</translation>
     </message>
     <message>
         <source>Note</source>
         <extracomment>The weight of a remark: something to know</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nota</translation>
     </message>
 </context>
 <context>
@@ -2743,7 +2776,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>ReportImageText</name>
     <message>
         <source>Ondel Tarnwick — Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondel Tarnwick: comparación</translation>
     </message>
 </context>
 <context>
@@ -2813,11 +2846,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunExport</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Medición</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -2829,28 +2862,28 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetros</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>%1 (invalid)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (no válido)</translation>
     </message>
     <message>
         <source>Remarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Observaciones</translation>
     </message>
 </context>
 <context>
     <name>RunExportsText</name>
     <message numerus="yes">
         <source>Ondel Tarnwick — %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ondel Tarnwick: %n medición</numerusform>
+            <numerusform>Ondel Tarnwick: %n mediciones</numerusform>
         </translation>
     </message>
     <message>
@@ -2955,16 +2988,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Cache</source>
-        <extracomment>The system&apos;s cache was bypassed, or what it holds was taken from it</extracomment>
         <translation>Caché</translation>
     </message>
     <message>
         <source>Bypassed</source>
+        <extracomment>The system&apos;s cache was</extracomment>
         <translation>Omitida</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>Usada</translation>
+        <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
+        <translation>Con caché</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3095,16 +3129,16 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lectura aleatoria</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>Escritura aleatoria</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Op. archivos</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -3112,19 +3146,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetros</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>peak %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pico %1</translation>
     </message>
     <message>
         <source>lowest %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mín. %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3134,17 +3168,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1, peak</source>
         <extracomment>%1 is the name of a test, whose highest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, pico</translation>
     </message>
     <message>
         <source>%1, lowest</source>
         <extracomment>%1 is the name of a test, whose lowest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, mínimo</translation>
     </message>
     <message>
         <source>%1, latency</source>
         <extracomment>%1 is the name of a test, whose latency follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, latencia</translation>
     </message>
     <message>
         <source>About these figures</source>
@@ -3155,19 +3189,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunTitle</name>
     <message>
         <source>%1 Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Servidor %1</translation>
     </message>
     <message>
         <source>Network Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Servidor de red</translation>
     </message>
     <message>
         <source>External Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidad externa</translation>
     </message>
     <message>
         <source>Network volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumen de red</translation>
     </message>
 </context>
 <context>
@@ -3193,12 +3227,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1:</source>
         <extracomment>%1 is the name of a figure, which follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>%1  (attention)</source>
         <extracomment>Behind a figure that is a concern</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  (atención)</translation>
     </message>
     <message>
         <source>Drive</source>
@@ -3206,20 +3240,20 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Interfaz</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Ondel Tarnwick S.M.A.R.T. report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe S.M.A.R.T. de Ondel Tarnwick</translation>
     </message>
 </context>
 <context>
@@ -3251,7 +3285,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1  ·  optimal</source>
         <extracomment>%1 is a size of blocks; it is the one that the volume prefers</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  óptimo</translation>
     </message>
 </context>
 <context>
@@ -3442,22 +3476,22 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1 · %2 external</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 externo</translation>
     </message>
     <message>
         <source>%1 · %2 internal</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 interno</translation>
     </message>
     <message>
         <source>%1 · %2 removable</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 extraíble</translation>
     </message>
     <message>
         <source>%1 · %2 network</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 red</translation>
     </message>
     <message>
         <source>The folder couldn&apos;t be opened.</source>
@@ -3485,9 +3519,9 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message numerus="yes">
         <source>%1 chars</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 carácter</numerusform>
+            <numerusform>%1 caracteres</numerusform>
         </translation>
     </message>
     <message>
@@ -3516,12 +3550,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TargetText</name>
     <message>
         <source>Choose a folder on the volume to test (a temporary working folder is written there and removed).</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una carpeta del volumen que se va a probar (ahí se crea una carpeta de trabajo temporal que luego se elimina).</translation>
     </message>
     <message>
         <source>Select</source>
         <extracomment>The button that accepts the folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar</translation>
     </message>
 </context>
 <context>
@@ -3634,7 +3668,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickKit::views::LanguageSetting</name>
     <message>
         <source>Like the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Como el escritorio</translation>
     </message>
 </context>
 <context>
@@ -3661,23 +3695,23 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Language of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma de la ventana</translation>
     </message>
     <message>
         <source>The window follows when Tarnwick is started the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se aplica a la ventana la próxima vez que se inicie Tarnwick.</translation>
     </message>
     <message>
         <source>Shared pictures in English</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes compartidas en inglés</translation>
     </message>
     <message>
         <source>Off, their texts are in the language of the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si está desactivado, sus textos están en el idioma de la ventana.</translation>
     </message>
     <message>
         <source>Support Tarnwick</source>
@@ -3720,11 +3754,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
         <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: de %2 a %3 %6 en %4, último %5 %6.</translation>
     </message>
     <message>
         <source>No measurements yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay valores.</translation>
     </message>
 </context>
 <context>
@@ -3953,17 +3987,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Internal</source>
         <extracomment>How a volume is attached: the drive is built into the machine</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Interno</translation>
     </message>
     <message>
         <source>External</source>
         <extracomment>How a volume is attached: the drive has a case and a cable of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Externo</translation>
     </message>
     <message>
         <source>Removable</source>
         <extracomment>How a volume is attached: a stick, a card or a disc</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Extraíble</translation>
     </message>
     <message>
         <source>Network</source>
@@ -3978,17 +4012,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Root</source>
         <extracomment>The name of the volume at &quot;/&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Raíz</translation>
     </message>
     <message>
         <source>Shared Folder</source>
         <extracomment>A kind of file system: a folder that a virtual machine shares with its host</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta compartida</translation>
     </message>
     <message>
         <source>Fill disk</source>
         <extracomment>The size of a test: as much as there is free space</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Llenar disco</translation>
     </message>
 </context>
 <context>

@@ -54,35 +54,35 @@
     <name>BenchmarkText</name>
     <message>
         <source>Not enough space: needs %1, only %2 free.</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace insuffisant : il faut %1, seuls %2 sont libres.</translation>
     </message>
     <message>
         <source>I/O error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur d’E/S : %1</translation>
     </message>
     <message>
         <source>Couldn’t write there. The volume may be read-only, or the folder may not allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’y écrire. Le volume est peut-être en lecture seule, ou le dossier ne le permet pas.</translation>
     </message>
     <message>
         <source>The test file is too small for the random block size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de test est trop petit pour la taille de bloc aléatoire.</translation>
     </message>
     <message>
         <source>Sequential write</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture séquentielle</translation>
     </message>
     <message>
         <source>Sequential read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture séquentielle</translation>
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture aléatoire</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture aléatoire</translation>
     </message>
     <message>
         <source>File operations</source>
@@ -91,53 +91,53 @@
     <message>
         <source>files/s</source>
         <extracomment>A unit, like MB/s</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>fichiers/s</translation>
     </message>
     <message>
         <source>p99 %1</source>
         <extracomment>The time within which 99 % of all operations were done</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>p99 %1</translation>
     </message>
     <message>
         <source>worst %1</source>
         <extracomment>The longest time that an operation took</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>pire %1</translation>
     </message>
     <message>
         <source>The folder was removed or its volume unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier a été supprimé ou son volume débranché pendant la mesure.</translation>
     </message>
     <message>
         <source>The volume was unplugged, or its server is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le volume a été débranché, ou son serveur a disparu.</translation>
     </message>
     <message>
         <source>The drive reported an error, or was unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque a signalé une erreur, ou a été débranché pendant la mesure.</translation>
     </message>
     <message>
         <source>The volume can only be read: systems switch to that when they find an error on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le volume ne peut être que lu : les systèmes passent dans ce mode lorsqu’ils y trouvent une erreur.</translation>
     </message>
     <message>
         <source>The volume became full during the run, or your share of it is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le volume s’est rempli pendant la mesure, ou votre part du volume est épuisée.</translation>
     </message>
     <message>
         <source>The file system, or a limit of this session, does not allow files of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système de fichiers, ou une limite de cette session, n’autorise pas les fichiers de cette taille.</translation>
     </message>
     <message>
         <source>The permissions of the folder changed during the run, or the system forbids this there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les droits d’accès du dossier ont changé pendant la mesure, ou le système l’interdit à cet endroit.</translation>
     </message>
     <message>
         <source>There is not enough memory for blocks of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mémoire ne suffit pas pour des blocs de cette taille.</translation>
     </message>
     <message>
         <source>Too many files are open at the moment; close some programs and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop de fichiers sont ouverts en ce moment ; fermez quelques programmes et réessayez.</translation>
     </message>
 </context>
 <context>
@@ -174,7 +174,7 @@ min %2</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’envoyer le signalement depuis ce bac à sable, qui n’a pas de réseau.</translation>
     </message>
     <message>
         <source>The server rejected the report (%1).</source>
@@ -458,7 +458,7 @@ min %2</translation>
     </message>
     <message>
         <source>This file system cannot spread samples: only %1 in one place were checked, and hold what was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce système de fichiers ne peut pas répartir les échantillons : seuls %1 en un seul endroit ont été vérifiés, et ils contiennent ce qui a été écrit.</translation>
     </message>
     <message>
         <source>Samples all over %1 hold what was written, which is no proof.</source>
@@ -498,7 +498,7 @@ min %2</translation>
     </message>
     <message>
         <source>about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>environ %1</translation>
     </message>
     <message>
         <source>Space to check</source>
@@ -518,7 +518,7 @@ min %2</translation>
     </message>
     <message>
         <source>In one place</source>
-        <translation type="unfinished"></translation>
+        <translation>En un seul endroit</translation>
     </message>
     <message>
         <source>It was right at the first reading.</source>
@@ -577,11 +577,11 @@ min %2</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce système de fichiers ne réserve pas d’espace sans l’écrire ; les échantillons n’ont donc pas pu être répartis. Le résultat ne dit rien de la taille du volume : lancez une vérification qui ne soit pas rapide.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une vérification rapide n’écrit qu’à quelques endroits : ce qui se trouve entre eux n’a pas été examiné.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
@@ -589,7 +589,7 @@ min %2</translation>
     </message>
     <message>
         <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’espace vérifié est moindre que prévu : le volume a été plein trop tôt. Il a peut-être perdu des données du système de fichiers lui-même.</translation>
     </message>
     <message>
         <source>Less was checked than planned: other programs may have taken the space.</source>
@@ -609,7 +609,7 @@ min %2</translation>
     </message>
     <message>
         <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est écrit au-delà de sa taille réelle est perdu, ou détruit ce qui se trouve ailleurs sur ce volume. Copiez ce dont vous avez besoin, et ne lui faites pas confiance.</translation>
     </message>
     <message>
         <source>The check was stopped: what it had not read back is not known.</source>
@@ -617,7 +617,7 @@ min %2</translation>
     </message>
     <message>
         <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce système de fichiers ne restitue rien qui ne corresponde à ses sommes de contrôle : des données altérées ne peuvent pas y être lues.</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -657,7 +657,7 @@ min %2</translation>
     </message>
     <message>
         <source>Only at a second try</source>
-        <translation>Au second essai</translation>
+        <translation>Au second essai seulement</translation>
     </message>
     <message>
         <source>Read from the disk</source>
@@ -774,7 +774,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1, %2: %3 %4</source>
         <extracomment>%1 is what was measured, %2 the name of a run, %3 the figure, %4 its unit</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 : %3 %4</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -844,63 +844,64 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture aléatoire</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture aléatoire</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Op. fichiers</translation>
     </message>
     <message>
         <source>ops/s</source>
         <extracomment>A unit, like IOPS: file operations per second</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>op./s</translation>
     </message>
     <message>
         <source>%1 free</source>
         <extracomment>%1 is the free space of a volume</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 libres</translation>
     </message>
     <message>
         <source>Fill disk test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test de remplissage</translation>
     </message>
     <message>
         <source>%1 test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test de %1</translation>
     </message>
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L/É %1</translation>
     </message>
     <message>
         <source>W %1</source>
         <extracomment>%1 is the size of the blocks that were written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>É %1</translation>
     </message>
     <message>
         <source>R %1</source>
         <extracomment>%1 is the size of the blocks that were read</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L %1</translation>
     </message>
     <message>
         <source>Rnd %1</source>
         <extracomment>%1 is the size of the blocks that were read and written at random</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aléat. %1</translation>
     </message>
     <message>
         <source>Uncached</source>
-        <extracomment>The system&apos;s cache was bypassed, or it was not</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>The system&apos;s cache was bypassed</extracomment>
+        <translation>Sans cache</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>Utilisé</translation>
+        <extracomment>It was not bypassed</extracomment>
+        <translation>Avec cache</translation>
     </message>
 </context>
 <context>
@@ -954,24 +955,24 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>DisplayText</name>
     <message>
         <source>“%1” is damaged or not a Tarnwick run.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est endommagé ou n’est pas une mesure de Tarnwick.</translation>
     </message>
     <message>
         <source>“%1” is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est ni un dossier ni un fichier de mesure pouvant être ouvert.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are damaged or not Tarnwick runs.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>« %1 » et %2 autre sont endommagés ou ne sont pas des mesures de Tarnwick.</numerusform>
+            <numerusform>« %1 » et %2 autres sont endommagés ou ne sont pas des mesures de Tarnwick.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are not folders or run files that can be opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>« %1 » et %2 autre ne sont ni des dossiers ni des fichiers de mesure pouvant être ouverts.</numerusform>
+            <numerusform>« %1 » et %2 autres ne sont ni des dossiers ni des fichiers de mesure pouvant être ouverts.</numerusform>
         </translation>
     </message>
 </context>
@@ -1023,11 +1024,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>FiguresText</name>
     <message>
         <source>Run: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure : %1 · %2</translation>
     </message>
     <message>
         <source>not the disk’s figure</source>
-        <translation type="unfinished"></translation>
+        <translation>ne vient pas du disque</translation>
     </message>
 </context>
 <context>
@@ -1078,11 +1079,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthSection</name>
     <message>
         <source>Failing</source>
-        <extracomment>The drive&apos;s own verdict: it is going to break, or it finds itself sound</extracomment>
+        <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
         <translation>Défaillant</translation>
     </message>
     <message>
         <source>Verified</source>
+        <extracomment>The drive&apos;s own verdict: it finds itself sound</extracomment>
         <translation>Vérifié</translation>
     </message>
     <message>
@@ -1099,230 +1101,231 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthText</name>
     <message>
         <source>Critical warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement critique</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Température</translation>
     </message>
     <message>
         <source>Life used</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de vie utilisée</translation>
     </message>
     <message>
         <source>Spare available</source>
         <extracomment>Of a solid state drive: how much of its reserve of memory cells is left</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Réserve disponible</translation>
     </message>
     <message>
         <source>Spare threshold</source>
         <extracomment>Of a solid state drive: the least reserve of memory cells before it warns</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Seuil de la réserve</translation>
     </message>
     <message>
         <source>Power-on time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de fonctionnement</translation>
     </message>
     <message>
         <source>Power cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cycles d’alimentation</translation>
     </message>
     <message>
         <source>Load cycles</source>
         <extracomment>How often the heads were parked and loaded again</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cycles de chargement des têtes</translation>
     </message>
     <message>
         <source>Unsafe shutdowns</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêts non sécurisés</translation>
     </message>
     <message>
         <source>Data written</source>
-        <translation type="unfinished"></translation>
+        <translation>Données écrites</translation>
     </message>
     <message>
         <source>Data read</source>
-        <translation type="unfinished"></translation>
+        <translation>Données lues</translation>
     </message>
     <message>
         <source>Host read commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes de lecture de l’hôte</translation>
     </message>
     <message>
         <source>Host write commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes d’écriture de l’hôte</translation>
     </message>
     <message>
         <source>Controller busy</source>
         <extracomment>How long the drive&apos;s controller was busy</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Temps d’occupation du contrôleur</translation>
     </message>
     <message>
         <source>Reallocated sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs réalloués</translation>
     </message>
     <message>
         <source>Pending sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs en attente</translation>
     </message>
     <message>
         <source>Uncorrectable sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs non corrigibles</translation>
     </message>
     <message>
         <source>Reported uncorrectable</source>
         <extracomment>Errors that the drive reported and could not correct</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Erreurs non corrigibles signalées</translation>
     </message>
     <message>
         <source>Spin retries</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelles tentatives de mise en rotation</translation>
     </message>
     <message>
         <source>Interface CRC errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreurs CRC d’interface</translation>
     </message>
     <message>
         <source>Media errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreurs de support</translation>
     </message>
     <message>
         <source>Error log entries</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrées du journal d’erreurs</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Disks</source>
-        <translation type="unfinished"></translation>
+        <translation>Disques</translation>
     </message>
     <message>
         <source>Spare below threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>Réserve sous le seuil</translation>
     </message>
     <message>
         <source>Reliability degraded</source>
-        <translation type="unfinished"></translation>
+        <translation>Fiabilité dégradée</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture seule</translation>
     </message>
     <message>
         <source>Backup failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la sauvegarde de la mémoire volatile</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>What a drive warns of</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>What a drive warns of, in a bit that is not known</extracomment>
+        <translation>Inconnu</translation>
     </message>
     <message>
         <source>%1 years</source>
         <extracomment>How long a drive has been switched on; %1 is a number with one decimal, as 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 ans</translation>
     </message>
     <message>
         <source>%1 of %2 disks answered</source>
-        <translation type="unfinished"></translation>
+        <translation>Réponse de %1 disques sur %2</translation>
     </message>
     <message>
         <source>no device is behind this path</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun périphérique ne se trouve derrière ce chemin</translation>
     </message>
     <message>
         <source>no disk is behind %1</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
+        <translation>aucun disque ne se trouve derrière %1</translation>
     </message>
     <message>
         <source>%1 is no block device</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas un périphérique de bloc</translation>
     </message>
     <message>
         <source>%1 does not tell whether it sleeps, so it was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’indique pas s’il est en veille et n’a donc pas été interrogé</translation>
     </message>
     <message>
         <source>%1 is asleep and was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est en veille et n’a pas été interrogé</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T., or it is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas de S.M.A.R.T., ou il est désactivé</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T. interface</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas d’interface S.M.A.R.T.</translation>
     </message>
     <message>
         <source>%1 does not pass S.M.A.R.T. commands on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne transmet pas les commandes S.M.A.R.T.</translation>
     </message>
     <message>
         <source>%1 does not give its NVMe health log</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne fournit pas son journal de santé NVMe</translation>
     </message>
     <message>
         <source>%1 may only be asked by an administrator</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut être interrogé que par un administrateur</translation>
     </message>
     <message>
         <source>%1 is out of this process&apos;s reach</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est hors de portée de ce processus</translation>
     </message>
     <message>
         <source>UDisks2 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 ne répond pas</translation>
     </message>
     <message>
         <source>UDisks2 does not answer for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 ne répond pas pour %1</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne répond pas</translation>
     </message>
     <message>
         <source>UDisks2 %1 does not read the health of NVMe drives (version 2.10 does)</source>
         <extracomment>%1 is the version of UDisks2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 %1 ne lit pas l’état des disques NVMe (la version 2.10 le fait)</translation>
     </message>
     <message>
         <source>UDisks2 has no health figures of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 n’a pas de valeurs d’état pour %1</translation>
     </message>
     <message>
         <source>UDisks2 has no health verdict on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 n’a pas de verdict sur l’état de %1</translation>
     </message>
     <message>
         <source>UDisks2 knows no drive behind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 ne connaît aucun disque derrière %1</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1, which gave its verdict without figures</source>
-        <translation type="unfinished"></translation>
+        <translation>S.M.A.R.T. ATA de %1, qui a donné son verdict sans valeurs</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>S.M.A.R.T. ATA de %1</translation>
     </message>
     <message>
         <source>NVMe health log of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal de santé NVMe de %1</translation>
     </message>
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 pour %1, lu il y a %2 min</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 pour %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1332,18 +1335,18 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1; %2</source>
         <extracomment>Two sentences, the first on one disk and the second on another</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 ; %2</translation>
     </message>
     <message>
         <source>%1, and %2</source>
         <extracomment>Two sentences: why a disk gives no figures itself, and why the system&apos;s service gives none</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, et %2</translation>
     </message>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 jour</numerusform>
+            <numerusform>%1 jours</numerusform>
         </translation>
     </message>
     <message>
@@ -1409,11 +1412,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HostCheck</name>
     <message>
         <source>Stopping, removing the files</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt, suppression des fichiers</translation>
     </message>
     <message>
         <source>The check could not be told as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vérification n’a pas pu être rendue en JSON.</translation>
     </message>
 </context>
 <context>
@@ -1424,7 +1427,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Case-preserving</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserve la casse</translation>
     </message>
     <message>
         <source>Sparse files</source>
@@ -1436,19 +1439,19 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>Liens symboliques</translation>
     </message>
     <message>
         <source>Extended attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Attributs étendus</translation>
     </message>
     <message>
         <source>Named streams</source>
-        <translation type="unfinished"></translation>
+        <translation>Flux nommés</translation>
     </message>
     <message>
         <source>Access control lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes de contrôle d’accès</translation>
     </message>
     <message>
         <source>Cloning</source>
@@ -1460,32 +1463,32 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>Journal active</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal actif</translation>
     </message>
     <message>
         <source>Sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>Scellé</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>oui</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>non</translation>
     </message>
     <message>
         <source>not known</source>
         <comment>whether a file system can do something</comment>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Format</source>
@@ -1497,35 +1500,35 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture seule</translation>
     </message>
     <message>
         <source>Encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffré</translation>
     </message>
     <message>
         <source>Mounted at</source>
-        <translation type="unfinished"></translation>
+        <translation>Monté sur</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Périphérique</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Block size</source>
@@ -1533,43 +1536,43 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Optimal transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Transfert optimal</translation>
     </message>
     <message>
         <source>Longest name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom le plus long</translation>
     </message>
     <message>
         <source>Longest path</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin le plus long</translation>
     </message>
     <message>
         <source>Most links</source>
-        <translation type="unfinished"></translation>
+        <translation>Liens au maximum</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Attached by</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccordé par</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Source</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Interface</translation>
     </message>
     <message>
         <source>(attention)</source>
-        <translation type="unfinished"></translation>
+        <translation>(attention)</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -1585,47 +1588,47 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Santé</translation>
     </message>
     <message>
         <source>no S.M.A.R.T. figures: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>pas de valeurs S.M.A.R.T. : %1</translation>
     </message>
 </context>
 <context>
     <name>HostFiles</name>
     <message>
         <source>%1, which comes with the window, could not be started</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, fourni avec la fenêtre, n’a pas pu être lancé</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne répond pas</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est un dossier</translation>
     </message>
     <message>
         <source>%1 is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>%1 exists and holds no runs; --force would replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 existe et ne contient pas de mesures ; --force le remplacerait</translation>
     </message>
     <message>
         <source>A figure of this run is beyond what a file can hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une valeur de cette mesure dépasse ce qu’un fichier peut contenir.</translation>
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être écrit : %2</translation>
     </message>
     <message>
         <source>The history could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’historique n’a pas pu être écrit.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1634,251 +1637,267 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>The result could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Le résultat n’a pas pu être écrit</translation>
     </message>
     <message>
         <source>%1 is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas un dossier</translation>
     </message>
     <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des fichiers d’une autre mesure dans ce dossier sont en cours d’utilisation et n’ont pas été supprimés.</translation>
     </message>
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le vidage des tampons sur le disque a échoué (%2) ; tout ce qui a été écrit n’y est peut-être pas.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Préparation : le vidage des tampons sur le disque a échoué (%1) ; tout ce qui a été écrit n’y est peut-être pas.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de mesure n’a pas pu être écrit dans votre dossier temporaire.</translation>
     </message>
     <message>
         <source>The run could not be added to the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mesure n’a pas pu être ajoutée à l’historique.</translation>
     </message>
     <message>
         <source>%1 is larger than a run file can be (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est plus grand que ne peut l’être un fichier de mesure (%2)</translation>
     </message>
     <message>
         <source>%1 could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être lu</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>entrée standard</translation>
     </message>
     <message>
         <source>standard input is larger than a run file can be (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>l’entrée standard est plus grande que ne peut l’être un fichier de mesure (%1)</translation>
     </message>
     <message>
         <source>standard input is not a run file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’entrée standard n’est pas un fichier de mesure : %1</translation>
     </message>
     <message>
         <source>%1 is not a run file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas un fichier de mesure : %2</translation>
     </message>
     <message>
         <source>The picture could not be drawn: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L’image n’a pas pu être dessinée : %1</translation>
     </message>
     <message>
         <source>The picture could not be drawn, or not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image n’a pas pu être dessinée, ou pas écrite dans votre dossier temporaire.</translation>
     </message>
 </context>
 <context>
     <name>HostHelp</name>
     <message>
         <source>Draw it in the dark colours</source>
-        <translation type="unfinished"></translation>
+        <translation>La dessiner en couleurs sombres</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
 transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
 it stays until your session ends, or until the system empties its temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier de mesure est ce qu’écrit « run --handoff », pour une mesure. L’image est un fichier PNG de 1616 pixels de
+large, à marge transparente ; son chemin est affiché. Aucun écran n’est nécessaire. Une image de même titre remplace
+la précédente ; elle reste jusqu’à la fin de votre session, ou jusqu’à ce que le système vide son dossier temporaire.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Code de retour : 0 terminé, 1 un fichier n’a pas pu être lu ou l’image créée, 2 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>Draw a picture of a run to share, or of several compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner une image d’une mesure à partager, ou de plusieurs comparées</translation>
     </message>
     <message>
         <source>How much to write and read back (default: all free space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantité à écrire et relire (par défaut : tout l’espace libre)</translation>
     </message>
     <message>
         <source>How much stays free in any case (default: 64MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace qui reste libre dans tous les cas (par défaut : 64MiB)</translation>
     </message>
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillons répartis sur l’étendue, en quelques secondes : décèle
+une fausse capacité, et ne prouve rien si aucune n’est trouvée</translation>
     </message>
     <message>
         <source>Read everything once more, S seconds later</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout relire une fois de plus, S secondes plus tard</translation>
     </message>
     <message>
         <source>Print one JSON object: the verdict, the sentence, and all that was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher un objet JSON : le verdict, la phrase et tout ce qui a été trouvé</translation>
     </message>
     <message>
         <source>Writes files that differ in every block into a hidden folder inside FOLDER, reads them back past the system&apos;s
 cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit des fichiers dont chaque bloc diffère dans un dossier caché de FOLDER, les relit hors du cache du système, compare le
+tout et les supprime, même après Ctrl+C. Aucun de vos fichiers n’est touché ; mais sur un appareil à fausse capacité, toute
+écriture au-delà de sa taille réelle peut détruire ce qui s’y trouve, comme n’importe quel usage. --quick n’écrit que des
+échantillons. Les fichiers d’une vérification tuée sont supprimés par la prochaine mesure ou vérification dans FOLDER.</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES : de simples chiffres, ou des chiffres suivis de K, M, G, T (KiB, MiB, GiB, TiB : par pas de 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Code de retour : 0 rien d’anormal, 1 échec, 2 mauvaise utilisation, 3 défauts
+trouvés, 130 arrêt par un signal ; ce qui avait été trouvé jusque-là est affiché.</translation>
     </message>
     <message>
         <source>Check whether a volume is as large as it says and keeps what it is given</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier si un volume est aussi grand qu’il l’annonce et conserve ce qu’on lui confie</translation>
     </message>
     <message>
         <source>As text (default), markdown, csv or json</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous forme de text (par défaut), markdown, csv ou json</translation>
     </message>
     <message>
         <source>Let --output replace a file of any content</source>
-        <translation type="unfinished"></translation>
+        <translation>Permettre à --output de remplacer un fichier au contenu quelconque</translation>
     </message>
     <message>
         <source>Print the facts as one JSON object</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les informations sous forme d’un objet JSON</translation>
     </message>
     <message>
         <source>Print the list as one JSON array</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la liste sous forme d’un tableau JSON</translation>
     </message>
     <message>
         <source>Nothing is written anywhere. What the system does not tell reads &quot;--&quot; or &quot;not known&quot;, and is left out of the JSON
 object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’est écrit nulle part. Ce que le système n’indique pas
+s’affiche « -- » ou « inconnu », et ne figure pas dans l’objet JSON.</translation>
     </message>
     <message>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque système de fichiers figure une seule fois, à son point de montage le plus court. Ce que le système, ses
+paquets et ses conteneurs montent pour eux-mêmes est omis. Un serveur qui ne répond pas à temps n’a pas de capacité.</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est seulement consulté : s’il est en veille, il n’est pas réveillé, et rien n’y
+est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, « facts » l’indique.</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer ce qui contient FOLDER : volume, système de fichiers, disque et son état de santé</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister les volumes montés</translation>
     </message>
     <message>
         <source>Print the health of the drive that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’état de santé du disque qui contient FOLDER</translation>
     </message>
     <message>
         <source>Usage: %1</source>
         <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation : %1</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Show this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher ce texte</translation>
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondel Tarnwick dans un terminal : la vitesse d’un disque, mesurée sur lui sans rien y laisser.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher ce texte, ou derrière une commande les options de celle-ci</translation>
     </message>
     <message>
         <source>Show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la version</translation>
     </message>
     <message>
         <source>The file that &quot;export&quot; writes</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier qu’écrit « export »</translation>
     </message>
     <message>
         <source>Let &quot;delete&quot; delete all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Permettre à « delete » de supprimer toutes les mesures</translation>
     </message>
     <message>
         <source>ACTION is one of</source>
-        <translation type="unfinished"></translation>
+        <translation>ACTION est l’une des suivantes</translation>
     </message>
     <message>
         <source>a line for each run, newest first, which begins with its name (default)</source>
-        <translation type="unfinished"></translation>
+        <translation>une ligne par mesure, la plus récente d’abord, commençant par son nom (par défaut)</translation>
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher des mesures comme le fait « show », dans la forme donnée par --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation type="unfinished"></translation>
+        <translation>écrire des mesures dans le FILE de --output, dans la forme de --format ou du
+nom de FILE : .csv, .json, .md, .txt, ou .tarnwickrun pour une seule mesure</translation>
     </message>
     <message>
         <source>delete runs, without a question and for good</source>
-        <translation type="unfinished"></translation>
+        <translation>supprimer des mesures, sans confirmation et définitivement</translation>
     </message>
     <message>
         <source>A RUN is named as the list has it, or by four or more characters that begin its id. Without one, all runs are meant;
 &quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
 file only if it is empty or holds runs; with --force any other file too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un RUN se nomme comme dans la liste, ou par les quatre premiers caractères au moins de son identifiant. Sans RUN, il s’agit
+de toutes les mesures ; « delete » exige alors --all. Une fenêtre ouverte se met à jour dès que vous y revenez. --output ne
+remplace un fichier existant que s’il est vide ou contient des mesures ; avec --force, tout autre fichier aussi.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Code de retour : 0 terminé, 1 mesure inexistante ou échec, 2 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>List, show, export or delete the runs that the window keeps</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister, montrer, exporter ou supprimer les mesures que garde la fenêtre</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES : de simples chiffres, ou des chiffres suivis de K, M, G, T (KiB, MiB, GiB, TiB : par pas de 1024). Les blocs sont
+arrondis à des pages entières de 4096. Les valeurs par défaut sont celles de la fenêtre, afin que ses valeurs et celles-ci
+soient comparables, sauf pour les blocs des tests séquentiels : la fenêtre prend le « Transfert optimal » qu’affiche « facts ».</translation>
     </message>
     <message>
         <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start; files that are still in use stay, after a second&apos;s wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout est écrit dans un dossier caché de FOLDER et supprimé à la fin, même après Ctrl+C. Ce qu’une mesure tuée a laissé
+dans FOLDER est supprimé avant le démarrage ; les fichiers encore utilisés restent, après une seconde d’attente.</translation>
     </message>
     <message>
         <source>The files of --handoff and --card stay until your session ends, or until the system empties its temporary folder.
@@ -1886,127 +1905,139 @@ run left behind in FOLDER is removed before the start; files that are still in u
 &quot;history export&quot; write as json or csv); with --force any other file too. A window that is open shows a run that
 --keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
 and the run counts as failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers de --handoff et --card restent jusqu’à la fin de votre session, ou jusqu’à ce que le système vide
+son dossier temporaire. --output ne remplace un fichier existant que s’il est vide ou contient des mesures (un
+fichier de mesure, ou ce que « show --format » et « history export » écrivent en json ou csv) ; avec --force,
+tout autre fichier aussi. Une fenêtre ouverte montre une mesure ajoutée par --keep dès que vous y revenez. Si
+quelque chose ne peut pas être écrit, les valeurs sont tout de même affichées et la mesure compte comme un échec.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Code de retour : 0 terminé, 1 échec, 2 mauvaise utilisation, 130 arrêt par un signal.</translation>
     </message>
     <message>
         <source>Measure the file system that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesurer le système de fichiers qui contient FOLDER</translation>
     </message>
     <message>
         <source>Tests to run, always in this order: sequentialWrite, sequentialRead,
 randomRead, randomWrite, fileOps (default: all)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests à exécuter, toujours dans cet ordre : sequentialWrite,
+sequentialRead, randomRead, randomWrite, fileOps (par défaut : tous)</translation>
     </message>
     <message>
         <source>Size of the data file, or fill the disk (default: 5GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille du fichier de données, ou fill pour remplir le disque (par défaut : 5GiB)</translation>
     </message>
     <message>
         <source>What --size fill leaves free (default: 1GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que --size fill laisse libre (par défaut : 1GiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential write (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Octets par appel, écriture séquentielle (par défaut : 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential read (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Octets par appel, lecture séquentielle (par défaut : 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per random operation (default: 4KiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Octets par opération aléatoire (par défaut : 4KiB)</translation>
     </message>
     <message>
         <source>Operations in each random test (default: 10000)</source>
-        <translation type="unfinished"></translation>
+        <translation>Opérations dans chaque test aléatoire (par défaut : 10000)</translation>
     </message>
     <message>
         <source>Files in the file-operations test (default: 1000)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers dans le test des opérations sur les fichiers (par défaut : 1000)</translation>
     </message>
     <message>
         <source>Let the system cache the data file, as ordinary programs do</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisser le système mettre le fichier de données en cache, comme les programmes ordinaires</translation>
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes au moins entre deux points de mesure (par défaut : 0.02)</translation>
     </message>
     <message>
         <source>Print one JSON object: the plan, every figure, every sample, date,
 folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
 &quot;remarks&quot; what was observed and what it says</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher un objet JSON : le plan, chaque valeur, chaque point de mesure,
+date, dossier, volume, système de fichiers, disque, noyau, et sous
+« evidence » et « remarks » ce qui a été observé et ce que cela signifie</translation>
     </message>
     <message>
         <source>Write a run file there, for the window, for &quot;show&quot; and for others</source>
-        <translation type="unfinished"></translation>
+        <translation>Y écrire un fichier de mesure, pour la fenêtre, pour « show » et pour d’autres</translation>
     </message>
     <message>
         <source>Add the run to the window&apos;s history</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter la mesure à l’historique de la fenêtre</translation>
     </message>
     <message>
         <source>Write a run file for the window and for &quot;show&quot;, and print its path
 as the last line; with --json: as &quot;handoffFile&quot; in the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire un fichier de mesure pour la fenêtre et pour « show », et afficher son
+chemin en dernière ligne ; avec --json : comme « handoffFile » dans l’objet</translation>
     </message>
     <message>
         <source>Draw a picture of the run to share, in light or dark colours, and
 print its path as the last line; with --json: as &quot;cardFile&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner une image de la mesure à partager, en couleurs claires (light) ou sombres
+(dark), et afficher son chemin en dernière ligne ; avec --json : comme « cardFile »</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; and &quot;run --output&quot; write, for one run. The window&apos;s history (history.json) and
 the output of &quot;show --format json&quot; have several. &quot;-&quot; is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier de mesure est ce qu’écrivent « run --handoff » et « run --output », pour une mesure. L’historique de
+la fenêtre (history.json) et la sortie de « show --format json » en ont plusieurs. « - » est l’entrée standard.</translation>
     </message>
     <message>
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation type="unfinished"></translation>
+        <translation>En texte, des barres comparent les valeurs de plusieurs mesures : la plus grande de chaque sorte remplit sa piste, et « -- » figure
+là où une mesure n’en a pas. Les lignes tiennent dans le terminal, ou dans 80 colonnes. Un tableau Markdown convient aux forums. CSV
+a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON est une liste des contenus de fichiers de mesure.</translation>
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier qui ne peut pas être montré reçoit une ligne sur l’erreur standard, et les autres sont montrés.</translation>
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Code de retour : 0 tous ont été montrés, 1 pas tous, 2 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>Show runs from their run files, and several side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer des mesures à partir de leurs fichiers, et plusieurs côte à côte</translation>
     </message>
 </context>
 <context>
     <name>HostHistory</name>
     <message>
         <source>there is no run %1 in the history</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de mesure %1 dans l’historique</translation>
     </message>
     <message>
         <source>%1 stands for several runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 désigne plusieurs mesures</translation>
     </message>
     <message>
         <source>Run</source>
         <extracomment>A benchmark run.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mesure</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
 </context>
 <context>
@@ -2018,25 +2049,25 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrage</translation>
     </message>
     <message>
         <source>%1 left</source>
         <extracomment>%1: the time until the end, as &quot;2 min&quot;.</extracomment>
-        <translation>Encore %1</translation>
+        <translation>encore %1</translation>
     </message>
     <message>
         <source>Stopping, removing the test files</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt, suppression des fichiers de test</translation>
     </message>
     <message>
         <source>Preparing the test file, %1 s</source>
         <extracomment>%1: the seconds since the start.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Préparation du fichier de test, %1 s</translation>
     </message>
     <message>
         <source>Starting, %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrage, %1 s</translation>
     </message>
 </context>
 <context>
@@ -2047,169 +2078,169 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Sustained</source>
-        <translation type="unfinished"></translation>
+        <translation>Soutenu</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Pic</translation>
     </message>
     <message>
         <source>Lowest</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Overall</source>
-        <translation type="unfinished"></translation>
+        <translation>Global</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Opérations</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit</translation>
     </message>
     <message>
         <source>Worst</source>
         <extracomment>The slowest operation; &quot;p99&quot; is the time that 99 of 100 operations stay below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pire</translation>
     </message>
     <message>
         <source>Create</source>
         <extracomment>What the file-operations test does with files; &quot;Stat&quot; asks for a file&apos;s size and dates.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Créer</translation>
     </message>
     <message>
         <source>Stat</source>
-        <translation type="unfinished"></translation>
+        <translation>Consulter</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
     <name>HostUsage</name>
     <message>
         <source>a RUNFILE to draw is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque un RUNFILE à dessiner</translation>
     </message>
     <message>
         <source>%1 is a year at most</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vaut un an au plus</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’option %1 n’existe pas</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’accepte pas de valeur</translation>
     </message>
     <message>
         <source>%1 needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 exige une valeur : %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 only</source>
         <extracomment>Two options or commands of the program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne va qu’avec %2</translation>
     </message>
     <message>
         <source>%1 needs a whole number from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 exige un nombre entier de %2 à %3, et non %4</translation>
     </message>
     <message>
         <source>%1 needs a number of bytes, such as 4096, 64K or 5GiB, from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 exige un nombre d’octets, comme 4096, 64K ou 5GiB, de %2 à %3, et non %4</translation>
     </message>
     <message>
         <source>%1 needs a number of seconds, 0 or more, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 exige un nombre de secondes, 0 ou plus, et non %2</translation>
     </message>
     <message>
         <source>a FOLDER is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque un FOLDER</translation>
     </message>
     <message>
         <source>one FOLDER at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>un seul FOLDER à la fois</translation>
     </message>
     <message>
         <source>%1 is text, markdown, csv or json, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est text, markdown, csv ou json, et non %2</translation>
     </message>
     <message>
         <source>%1 needs the name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 exige le nom d’un fichier</translation>
     </message>
     <message>
         <source>%1 takes no operand</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’accepte pas d’opérande</translation>
     </message>
     <message>
         <source>%1 needs %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 exige %2</translation>
     </message>
     <message>
         <source>a run file holds one run, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier de mesure contient une mesure, et non %1</translation>
     </message>
     <message>
         <source>%1 is needed where the FILE&apos;s name does not end in .tarnwickrun, .csv, .json, .md or .txt</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est nécessaire si le nom de FILE ne finit pas par .tarnwickrun, .csv, .json, .md ou .txt</translation>
     </message>
     <message>
         <source>%1 needs either RUNs or %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 exige soit RUN, soit %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 and %3 only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne va qu’avec %2 et %3</translation>
     </message>
     <message>
         <source>%1 can list, show, export and delete, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 connaît list, show, export et delete, et non %2</translation>
     </message>
     <message>
         <source>a command is missing; see %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque une commande ; voir %1</translation>
     </message>
     <message>
         <source>there is no command %1; see %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la commande %1 n’existe pas ; voir %2</translation>
     </message>
     <message>
         <source>a FOLDER to measure is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque un FOLDER à mesurer</translation>
     </message>
     <message>
         <source>a FOLDER to check is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque un FOLDER à vérifier</translation>
     </message>
     <message>
         <source>one FOLDER at a time, not also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un seul FOLDER à la fois, et non aussi %1</translation>
     </message>
     <message>
         <source>the FOLDER&apos;s name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom de FOLDER est vide</translation>
     </message>
     <message>
         <source>%1: there is no test %2, only %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le test %2 n’existe pas, seulement %3</translation>
     </message>
     <message>
         <source>%1 is light or dark, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est light ou dark, et non %2</translation>
     </message>
     <message>
         <source>a FILE to show is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque un FILE à montrer</translation>
     </message>
 </context>
 <context>
@@ -2338,15 +2369,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>LiveRunText</name>
     <message>
         <source>done</source>
-        <extracomment>What a test does: it is done, it runs, or it has not begun</extracomment>
+        <extracomment>Of a test</extracomment>
         <translation>terminé</translation>
     </message>
     <message>
         <source>running</source>
+        <extracomment>Of a test</extracomment>
         <translation>en cours</translation>
     </message>
     <message>
         <source>to come</source>
+        <extracomment>Of a test that has not begun</extracomment>
         <translation>à venir</translation>
     </message>
     <message>
@@ -2360,59 +2393,59 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>A few seconds left</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore quelques secondes</translation>
     </message>
     <message>
         <source>A few seconds left of this test</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore quelques secondes pour ce test</translation>
     </message>
     <message numerus="yes">
         <source>About %n s left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Encore environ %n s</numerusform>
+            <numerusform>Encore environ %n s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Encore environ %n s pour ce test</numerusform>
+            <numerusform>Encore environ %n s pour ce test</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Encore environ %n min</numerusform>
+            <numerusform>Encore environ %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Encore environ %n min pour ce test</numerusform>
+            <numerusform>Encore environ %n min pour ce test</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Encore environ %n h</numerusform>
+            <numerusform>Encore environ %n h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Encore environ %n h pour ce test</numerusform>
+            <numerusform>Encore environ %n h pour ce test</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 operations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 opération sur %2</numerusform>
+            <numerusform>%1 opérations sur %2</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,185 +2540,185 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RemarkText</name>
     <message>
         <source>At most %1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendant le test, le disque a reçu au plus %1 de ce qui a été écrit.</translation>
     </message>
     <message>
         <source>%1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendant le test, le disque a reçu %1 de ce qui a été écrit.</translation>
     </message>
     <message>
         <source>At most %1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque a fourni au plus %1 de ce qui a été lu.</translation>
     </message>
     <message>
         <source>%1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque a fourni %1 de ce qui a été lu.</translation>
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce qui a été écrit n’a pas pu être transféré des tampons sur le disque : %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de test n’a pas pu être transféré des tampons sur le disque : %1.</translation>
     </message>
     <message>
         <source>%1 for the first %2, then %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pour les premiers %2, puis %3.</translation>
     </message>
     <message>
         <source>The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque a atteint %1 après %2 (limite %3), et dès lors le débit a été inférieur de %4.</translation>
     </message>
     <message>
         <source>One pause over 1 s: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une pause de plus de 1 s : %1.</translation>
     </message>
     <message numerus="yes">
         <source>%1 pauses over 1 s, the longest %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 pause de plus de 1 s, la plus longue %2.</numerusform>
+            <numerusform>%1 pauses de plus de 1 s, la plus longue %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’autres ont transféré %1 sur le même disque pendant le test.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liaison %1 du disque fonctionne à %2 ; le disque pourrait atteindre %3.</translation>
     </message>
     <message>
         <source>The partition begins %1 into a physical block of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La partition commence à %1 du début d’un bloc physique de %2.</translation>
     </message>
     <message>
         <source>Only %1 of the volume was free.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls %1 du volume étaient libres.</translation>
     </message>
     <message>
         <source>The test’s %1 may fit into a cache of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 du test tiennent peut-être dans un cache de %2.</translation>
     </message>
     <message>
         <source>The machine ran on battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine fonctionnait sur batterie.</translation>
     </message>
     <message>
         <source>The processor was set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le processeur était réglé pour économiser l’énergie.</translation>
     </message>
     <message>
         <source>The machine ran on battery, its processor set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine fonctionnait sur batterie, son processeur réglé pour économiser l’énergie.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places and checksums data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système de fichiers écrit les modifications à de nouveaux endroits et calcule des sommes de contrôle des données.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système de fichiers écrit les modifications à de nouveaux endroits.</translation>
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Activez « Contourner le cache ». Si c’est déjà le cas, choisissez une taille supérieure à la mémoire de la machine.</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultez l’état S.M.A.R.T. du disque et le journal du système avant de lui confier des données.</translation>
     </message>
     <message>
         <source>Data went through a cache although the system was asked to bypass it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des données sont passées par un cache bien que le système ait été prié de le contourner.</translation>
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une taille supérieure à la mémoire de la machine, ou testez le disque sous-jacent par un autre système de fichiers.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Attendez-vous au débit inférieur quand davantage est transféré en une fois.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donnez au disque plus d’air ou un dissipateur, et relancez la mesure une fois qu’il a refroidi.</translation>
     </message>
     <message>
         <source>Run again. If they come back, look at the drive’s S.M.A.R.T. status and its cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Relancez la mesure. Si les pauses reviennent, examinez l’état S.M.A.R.T. du disque et son câble.</translation>
     </message>
     <message>
         <source>Run again while nothing else uses the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Relancez la mesure quand rien d’autre n’utilise le disque.</translation>
     </message>
     <message>
         <source>Try another port, slot or cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Essayez un autre port, emplacement ou câble.</translation>
     </message>
     <message>
         <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recréez la partition en la faisant commencer à un multiple de 1 MiB. Cela l’efface.</translation>
     </message>
     <message>
         <source>Free some space: many drives and file systems slow down when full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Libérez de l’espace : bien des disques et systèmes de fichiers ralentissent une fois pleins.</translation>
     </message>
     <message>
         <source>Choose a larger size, and switch on Bypass cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une taille plus grande, et activez « Contourner le cache ».</translation>
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Relancez la mesure sur secteur, sans économie d’énergie.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque derrière ce volume n’est pas visible ; rien ne montre donc ce qu’il a fait lui-même.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory; no disk was measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce volume garde ses fichiers en mémoire ; aucun disque n’a été mesuré.</translation>
     </message>
     <message>
         <source>Choose a folder on a disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un dossier sur un disque.</translation>
     </message>
     <message>
         <source>This volume is a file on another volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce volume est un fichier sur un autre volume.</translation>
     </message>
     <message>
         <source>To measure that volume itself, choose a folder on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour mesurer cet autre volume lui-même, choisissez-y un dossier.</translation>
     </message>
     <message>
         <source>The disk is one of a virtual machine, whose host may cache it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est celui d’une machine virtuelle, dont l’hôte le met peut-être en cache.</translation>
     </message>
     <message>
         <source>The file system compresses. The test’s data does not, so other files may be faster.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système de fichiers compresse. Les données du test ne se compressent pas, d’autres fichiers peuvent donc être plus rapides.</translation>
     </message>
     <message>
         <source>The file system writes data twice, to its journal first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système de fichiers écrit les données deux fois, d’abord dans son journal.</translation>
     </message>
     <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Non valable</translation>
     </message>
     <message>
         <source>Caution</source>
         <extracomment>The weight of a remark: the figure may not be what it seems</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Prudence</translation>
     </message>
     <message>
         <source>Note</source>
         <extracomment>The weight of a remark: something to know</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>À noter</translation>
     </message>
 </context>
 <context>
@@ -2743,7 +2776,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>ReportImageText</name>
     <message>
         <source>Ondel Tarnwick — Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondel Tarnwick – Comparaison</translation>
     </message>
 </context>
 <context>
@@ -2813,11 +2846,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunExport</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -2829,28 +2862,28 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Système</translation>
     </message>
     <message>
         <source>%1 (invalid)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (non valable)</translation>
     </message>
     <message>
         <source>Remarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarques</translation>
     </message>
 </context>
 <context>
     <name>RunExportsText</name>
     <message numerus="yes">
         <source>Ondel Tarnwick — %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ondel Tarnwick – %n mesure</numerusform>
+            <numerusform>Ondel Tarnwick – %n mesures</numerusform>
         </translation>
     </message>
     <message>
@@ -2955,16 +2988,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Cache</source>
-        <extracomment>The system&apos;s cache was bypassed, or what it holds was taken from it</extracomment>
         <translation>Cache</translation>
     </message>
     <message>
         <source>Bypassed</source>
+        <extracomment>The system&apos;s cache was</extracomment>
         <translation>Contourné</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>Utilisé</translation>
+        <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
+        <translation>Avec cache</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3095,16 +3129,16 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture aléatoire</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture aléatoire</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Op. fichiers</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -3112,19 +3146,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Système</translation>
     </message>
     <message>
         <source>peak %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pic %1</translation>
     </message>
     <message>
         <source>lowest %1</source>
-        <translation type="unfinished"></translation>
+        <translation>min %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3134,17 +3168,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1, peak</source>
         <extracomment>%1 is the name of a test, whose highest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, pic</translation>
     </message>
     <message>
         <source>%1, lowest</source>
         <extracomment>%1 is the name of a test, whose lowest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, minimum</translation>
     </message>
     <message>
         <source>%1, latency</source>
         <extracomment>%1 is the name of a test, whose latency follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, latence</translation>
     </message>
     <message>
         <source>About these figures</source>
@@ -3155,19 +3189,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunTitle</name>
     <message>
         <source>%1 Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveur %1</translation>
     </message>
     <message>
         <source>Network Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveur réseau</translation>
     </message>
     <message>
         <source>External Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Disque externe</translation>
     </message>
     <message>
         <source>Network volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume réseau</translation>
     </message>
 </context>
 <context>
@@ -3193,12 +3227,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1:</source>
         <extracomment>%1 is the name of a figure, which follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 :</translation>
     </message>
     <message>
         <source>%1  (attention)</source>
         <extracomment>Behind a figure that is a concern</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  (attention)</translation>
     </message>
     <message>
         <source>Drive</source>
@@ -3206,20 +3240,20 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Interface</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Ondel Tarnwick S.M.A.R.T. report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport S.M.A.R.T. d’Ondel Tarnwick</translation>
     </message>
 </context>
 <context>
@@ -3251,7 +3285,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1  ·  optimal</source>
         <extracomment>%1 is a size of blocks; it is the one that the volume prefers</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  optimal</translation>
     </message>
 </context>
 <context>
@@ -3442,22 +3476,22 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1 · %2 external</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 externe</translation>
     </message>
     <message>
         <source>%1 · %2 internal</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 interne</translation>
     </message>
     <message>
         <source>%1 · %2 removable</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 amovible</translation>
     </message>
     <message>
         <source>%1 · %2 network</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 réseau</translation>
     </message>
     <message>
         <source>The folder couldn&apos;t be opened.</source>
@@ -3485,9 +3519,9 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message numerus="yes">
         <source>%1 chars</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 caractère</numerusform>
+            <numerusform>%1 caractères</numerusform>
         </translation>
     </message>
     <message>
@@ -3516,12 +3550,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TargetText</name>
     <message>
         <source>Choose a folder on the volume to test (a temporary working folder is written there and removed).</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un dossier sur le volume à tester (un dossier de travail temporaire y est créé puis supprimé).</translation>
     </message>
     <message>
         <source>Select</source>
         <extracomment>The button that accepts the folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner</translation>
     </message>
 </context>
 <context>
@@ -3634,7 +3668,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickKit::views::LanguageSetting</name>
     <message>
         <source>Like the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme le bureau</translation>
     </message>
 </context>
 <context>
@@ -3661,23 +3695,23 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Language of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue de la fenêtre</translation>
     </message>
     <message>
         <source>The window follows when Tarnwick is started the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>S’applique à la fenêtre au prochain démarrage de Tarnwick.</translation>
     </message>
     <message>
         <source>Shared pictures in English</source>
-        <translation type="unfinished"></translation>
+        <translation>Images partagées en anglais</translation>
     </message>
     <message>
         <source>Off, their texts are in the language of the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si cette option est désactivée, leurs textes sont dans la langue de la fenêtre.</translation>
     </message>
     <message>
         <source>Support Tarnwick</source>
@@ -3720,11 +3754,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
         <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 : de %2 à %3 %6 en %4, dernier %5 %6.</translation>
     </message>
     <message>
         <source>No measurements yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de valeurs.</translation>
     </message>
 </context>
 <context>
@@ -3953,17 +3987,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Internal</source>
         <extracomment>How a volume is attached: the drive is built into the machine</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Interne</translation>
     </message>
     <message>
         <source>External</source>
         <extracomment>How a volume is attached: the drive has a case and a cable of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Externe</translation>
     </message>
     <message>
         <source>Removable</source>
         <extracomment>How a volume is attached: a stick, a card or a disc</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Amovible</translation>
     </message>
     <message>
         <source>Network</source>
@@ -3978,17 +4012,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Root</source>
         <extracomment>The name of the volume at &quot;/&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Racine</translation>
     </message>
     <message>
         <source>Shared Folder</source>
         <extracomment>A kind of file system: a folder that a virtual machine shares with its host</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dossier partagé</translation>
     </message>
     <message>
         <source>Fill disk</source>
         <extracomment>The size of a test: as much as there is free space</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Remplir le disque</translation>
     </message>
 </context>
 <context>

@@ -54,35 +54,35 @@
     <name>BenchmarkText</name>
     <message>
         <source>Not enough space: needs %1, only %2 free.</source>
-        <translation type="unfinished"></translation>
+        <translation>אין מספיק שטח: דרושים %1, ורק %2 פנויים.</translation>
     </message>
     <message>
         <source>I/O error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>שגיאת קלט/פלט: %1</translation>
     </message>
     <message>
         <source>Couldn’t write there. The volume may be read-only, or the folder may not allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן לכתוב לשם. ייתכן שהכרך הוא לקריאה בלבד, או שהתיקייה אינה מאפשרת זאת.</translation>
     </message>
     <message>
         <source>The test file is too small for the random block size.</source>
-        <translation type="unfinished"></translation>
+        <translation>קובץ המבחן קטן מדי עבור גודל הבלוק האקראי.</translation>
     </message>
     <message>
         <source>Sequential write</source>
-        <translation type="unfinished"></translation>
+        <translation>כתיבה רציפה</translation>
     </message>
     <message>
         <source>Sequential read</source>
-        <translation type="unfinished"></translation>
+        <translation>קריאה רציפה</translation>
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>קריאה אקראית</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>כתיבה אקראית</translation>
     </message>
     <message>
         <source>File operations</source>
@@ -91,53 +91,53 @@
     <message>
         <source>files/s</source>
         <extracomment>A unit, like MB/s</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>קבצים/שנייה</translation>
     </message>
     <message>
         <source>p99 %1</source>
         <extracomment>The time within which 99 % of all operations were done</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>p99 %1</translation>
     </message>
     <message>
         <source>worst %1</source>
         <extracomment>The longest time that an operation took</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>מרבי %1</translation>
     </message>
     <message>
         <source>The folder was removed or its volume unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>התיקייה הוסרה או שהכרך שלה נותק במהלך ההרצה.</translation>
     </message>
     <message>
         <source>The volume was unplugged, or its server is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>הכרך נותק, או שהשרת שלו אינו זמין עוד.</translation>
     </message>
     <message>
         <source>The drive reported an error, or was unplugged during the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>הכונן דיווח על שגיאה, או נותק במהלך ההרצה.</translation>
     </message>
     <message>
         <source>The volume can only be read: systems switch to that when they find an error on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ניתן רק לקרוא מהכרך: מערכות עוברות למצב זה כשהן מוצאות בו שגיאה.</translation>
     </message>
     <message>
         <source>The volume became full during the run, or your share of it is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>הכרך התמלא במהלך ההרצה, או שהמכסה שלך בו נוצלה במלואה.</translation>
     </message>
     <message>
         <source>The file system, or a limit of this session, does not allow files of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת הקבצים, או מגבלה של הפעלה זו, אינה מאפשרת קבצים בגודל כזה.</translation>
     </message>
     <message>
         <source>The permissions of the folder changed during the run, or the system forbids this there.</source>
-        <translation type="unfinished"></translation>
+        <translation>הרשאות התיקייה השתנו במהלך ההרצה, או שהמערכת אוסרת זאת שם.</translation>
     </message>
     <message>
         <source>There is not enough memory for blocks of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>אין מספיק זיכרון לבלוקים בגודל כזה.</translation>
     </message>
     <message>
         <source>Too many files are open at the moment; close some programs and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>יותר מדי קבצים פתוחים כרגע; יש לסגור כמה תוכניות ולנסות שוב.</translation>
     </message>
 </context>
 <context>
@@ -174,7 +174,7 @@ min %2</source>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן לשלוח את הדיווח מארגז החול הזה, שאין בו רשת.</translation>
     </message>
     <message>
         <source>The server rejected the report (%1).</source>
@@ -458,7 +458,7 @@ min %2</source>
     </message>
     <message>
         <source>This file system cannot spread samples: only %1 in one place were checked, and hold what was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת קבצים זו אינה מאפשרת לפזר דגימות: רק %1 במקום אחד נבדקו, והם שומרים את מה שנכתב.</translation>
     </message>
     <message>
         <source>Samples all over %1 hold what was written, which is no proof.</source>
@@ -498,7 +498,7 @@ min %2</source>
     </message>
     <message>
         <source>about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>כ־%1</translation>
     </message>
     <message>
         <source>Space to check</source>
@@ -518,7 +518,7 @@ min %2</source>
     </message>
     <message>
         <source>In one place</source>
-        <translation type="unfinished"></translation>
+        <translation>במקום אחד</translation>
     </message>
     <message>
         <source>It was right at the first reading.</source>
@@ -577,11 +577,11 @@ min %2</source>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת קבצים זו אינה מקצה שטח בלי לכתוב אליו, ולכן לא ניתן היה לפזר את הדגימות. התוצאה אינה מעידה על גודל הכרך: יש להריץ בדיקה שאינה מהירה.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation type="unfinished"></translation>
+        <translation>בדיקה מהירה כותבת רק למקומות ספורים: מה שביניהם לא נבדק.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
@@ -589,7 +589,7 @@ min %2</source>
     </message>
     <message>
         <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>נבדק פחות מהמתוכנן: הכרך התמלא מוקדם מדי. ייתכן שאבדו בו נתונים של מערכת הקבצים עצמה.</translation>
     </message>
     <message>
         <source>Less was checked than planned: other programs may have taken the space.</source>
@@ -609,7 +609,7 @@ min %2</source>
     </message>
     <message>
         <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation type="unfinished"></translation>
+        <translation>מה שנכתב מעבר לקיבולת האמיתית אובד, או הורס את מה שנמצא בו במקום אחר. יש להעתיק ממנו את מה שדרוש ולא לסמוך עליו.</translation>
     </message>
     <message>
         <source>The check was stopped: what it had not read back is not known.</source>
@@ -617,7 +617,7 @@ min %2</source>
     </message>
     <message>
         <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת קבצים זו אינה מחזירה דבר שאינו תואם לסכומי הביקורת שלה: לא ניתן לקרוא בה נתונים שהשתנו.</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -774,7 +774,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1, %2: %3 %4</source>
         <extracomment>%1 is what was measured, %2 the name of a run, %3 the figure, %4 its unit</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3 %4</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -844,63 +844,64 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>קריאה אקראית</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>כתיבה אקראית</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>פעולות קבצים</translation>
     </message>
     <message>
         <source>ops/s</source>
         <extracomment>A unit, like IOPS: file operations per second</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>פעולות/שנייה</translation>
     </message>
     <message>
         <source>%1 free</source>
         <extracomment>%1 is the free space of a volume</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 פנויים</translation>
     </message>
     <message>
         <source>Fill disk test</source>
-        <translation type="unfinished"></translation>
+        <translation>מבחן מילוי הדיסק</translation>
     </message>
     <message>
         <source>%1 test</source>
-        <translation type="unfinished"></translation>
+        <translation>מבחן %1</translation>
     </message>
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>קריאה/כתיבה %1</translation>
     </message>
     <message>
         <source>W %1</source>
         <extracomment>%1 is the size of the blocks that were written</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>כתיבה %1</translation>
     </message>
     <message>
         <source>R %1</source>
         <extracomment>%1 is the size of the blocks that were read</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>קריאה %1</translation>
     </message>
     <message>
         <source>Rnd %1</source>
         <extracomment>%1 is the size of the blocks that were read and written at random</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>אקראי %1</translation>
     </message>
     <message>
         <source>Uncached</source>
-        <extracomment>The system&apos;s cache was bypassed, or it was not</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>The system&apos;s cache was bypassed</extracomment>
+        <translation>ללא מטמון</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>בשימוש</translation>
+        <extracomment>It was not bypassed</extracomment>
+        <translation>עם מטמון</translation>
     </message>
 </context>
 <context>
@@ -954,24 +955,24 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>DisplayText</name>
     <message>
         <source>“%1” is damaged or not a Tarnwick run.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” פגום או אינו הרצה של Tarnwick.</translation>
     </message>
     <message>
         <source>“%1” is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” אינו תיקייה או קובץ הרצה שניתן לפתוח.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are damaged or not Tarnwick runs.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1” ועוד קובץ אחד (%2) פגומים או אינם הרצות של Tarnwick.</numerusform>
+            <numerusform>„%1” ועוד %2 קבצים פגומים או אינם הרצות של Tarnwick.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are not folders or run files that can be opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1” ועוד פריט אחד (%2) אינם תיקיות או קובצי הרצה שניתן לפתוח.</numerusform>
+            <numerusform>„%1” ועוד %2 פריטים אינם תיקיות או קובצי הרצה שניתן לפתוח.</numerusform>
         </translation>
     </message>
 </context>
@@ -1023,11 +1024,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>FiguresText</name>
     <message>
         <source>Run: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>הרצה: %1 · %2</translation>
     </message>
     <message>
         <source>not the disk’s figure</source>
-        <translation type="unfinished"></translation>
+        <translation>לא נתון של הדיסק</translation>
     </message>
 </context>
 <context>
@@ -1078,11 +1079,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthSection</name>
     <message>
         <source>Failing</source>
-        <extracomment>The drive&apos;s own verdict: it is going to break, or it finds itself sound</extracomment>
+        <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
         <translation>לפני כשל</translation>
     </message>
     <message>
         <source>Verified</source>
+        <extracomment>The drive&apos;s own verdict: it finds itself sound</extracomment>
         <translation>תקין</translation>
     </message>
     <message>
@@ -1099,230 +1101,231 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthText</name>
     <message>
         <source>Critical warning</source>
-        <translation type="unfinished"></translation>
+        <translation>אזהרה קריטית</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>טמפרטורה</translation>
     </message>
     <message>
         <source>Life used</source>
-        <translation type="unfinished"></translation>
+        <translation>אורך חיים שנוצל</translation>
     </message>
     <message>
         <source>Spare available</source>
         <extracomment>Of a solid state drive: how much of its reserve of memory cells is left</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>רזרבה זמינה</translation>
     </message>
     <message>
         <source>Spare threshold</source>
         <extracomment>Of a solid state drive: the least reserve of memory cells before it warns</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>סף הרזרבה</translation>
     </message>
     <message>
         <source>Power-on time</source>
-        <translation type="unfinished"></translation>
+        <translation>זמן פעולה</translation>
     </message>
     <message>
         <source>Power cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>מחזורי הפעלה</translation>
     </message>
     <message>
         <source>Load cycles</source>
         <extracomment>How often the heads were parked and loaded again</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>מחזורי טעינת ראשים</translation>
     </message>
     <message>
         <source>Unsafe shutdowns</source>
-        <translation type="unfinished"></translation>
+        <translation>כיבויים לא תקינים</translation>
     </message>
     <message>
         <source>Data written</source>
-        <translation type="unfinished"></translation>
+        <translation>נתונים שנכתבו</translation>
     </message>
     <message>
         <source>Data read</source>
-        <translation type="unfinished"></translation>
+        <translation>נתונים שנקראו</translation>
     </message>
     <message>
         <source>Host read commands</source>
-        <translation type="unfinished"></translation>
+        <translation>פקודות קריאה מהמארח</translation>
     </message>
     <message>
         <source>Host write commands</source>
-        <translation type="unfinished"></translation>
+        <translation>פקודות כתיבה מהמארח</translation>
     </message>
     <message>
         <source>Controller busy</source>
         <extracomment>How long the drive&apos;s controller was busy</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>זמן עומס הבקר</translation>
     </message>
     <message>
         <source>Reallocated sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>מגזרים שהוקצו מחדש</translation>
     </message>
     <message>
         <source>Pending sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>מגזרים ממתינים</translation>
     </message>
     <message>
         <source>Uncorrectable sectors</source>
-        <translation type="unfinished"></translation>
+        <translation>מגזרים שאינם ניתנים לתיקון</translation>
     </message>
     <message>
         <source>Reported uncorrectable</source>
         <extracomment>Errors that the drive reported and could not correct</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>שגיאות מדווחות שאינן ניתנות לתיקון</translation>
     </message>
     <message>
         <source>Spin retries</source>
-        <translation type="unfinished"></translation>
+        <translation>ניסיונות סיבוב חוזרים</translation>
     </message>
     <message>
         <source>Interface CRC errors</source>
-        <translation type="unfinished"></translation>
+        <translation>שגיאות CRC בממשק</translation>
     </message>
     <message>
         <source>Media errors</source>
-        <translation type="unfinished"></translation>
+        <translation>שגיאות מדיה</translation>
     </message>
     <message>
         <source>Error log entries</source>
-        <translation type="unfinished"></translation>
+        <translation>רשומות ביומן השגיאות</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>מצב</translation>
     </message>
     <message>
         <source>Disks</source>
-        <translation type="unfinished"></translation>
+        <translation>דיסקים</translation>
     </message>
     <message>
         <source>Spare below threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>רזרבה מתחת לסף</translation>
     </message>
     <message>
         <source>Reliability degraded</source>
-        <translation type="unfinished"></translation>
+        <translation>אמינות ירודה</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>קריאה בלבד</translation>
     </message>
     <message>
         <source>Backup failed</source>
-        <translation type="unfinished"></translation>
+        <translation>הגיבוי נכשל</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>What a drive warns of</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>What a drive warns of, in a bit that is not known</extracomment>
+        <translation>לא ידוע</translation>
     </message>
     <message>
         <source>%1 years</source>
         <extracomment>How long a drive has been switched on; %1 is a number with one decimal, as 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 שנים</translation>
     </message>
     <message>
         <source>%1 of %2 disks answered</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 מתוך %2 דיסקים השיבו</translation>
     </message>
     <message>
         <source>no device is behind this path</source>
-        <translation type="unfinished"></translation>
+        <translation>אין התקן מאחורי נתיב זה</translation>
     </message>
     <message>
         <source>no disk is behind %1</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
+        <translation>אין דיסק מאחורי %1</translation>
     </message>
     <message>
         <source>%1 is no block device</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו התקן בלוקים</translation>
     </message>
     <message>
         <source>%1 does not tell whether it sleeps, so it was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו מדווח אם הוא במצב שינה, ולכן לא הופרע</translation>
     </message>
     <message>
         <source>%1 is asleep and was left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 במצב שינה, ולכן לא הופרע</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T., or it is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>ל־%1 אין S.M.A.R.T., או שהוא כבוי</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T. interface</source>
-        <translation type="unfinished"></translation>
+        <translation>ל־%1 אין ממשק S.M.A.R.T.</translation>
     </message>
     <message>
         <source>%1 does not pass S.M.A.R.T. commands on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו מעביר הלאה פקודות S.M.A.R.T.</translation>
     </message>
     <message>
         <source>%1 does not give its NVMe health log</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו מספק את יומן הבריאות של NVMe</translation>
     </message>
     <message>
         <source>%1 may only be asked by an administrator</source>
-        <translation type="unfinished"></translation>
+        <translation>רק מנהל מערכת רשאי לתשאל את %1</translation>
     </message>
     <message>
         <source>%1 is out of this process&apos;s reach</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 מחוץ להישג ידו של תהליך זה</translation>
     </message>
     <message>
         <source>UDisks2 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 אינו משיב</translation>
     </message>
     <message>
         <source>UDisks2 does not answer for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 אינו משיב לגבי %1</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו משיב</translation>
     </message>
     <message>
         <source>UDisks2 %1 does not read the health of NVMe drives (version 2.10 does)</source>
         <extracomment>%1 is the version of UDisks2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 %1 אינו קורא את הבריאות של כונני NVMe (גרסה 2.10 קוראת)</translation>
     </message>
     <message>
         <source>UDisks2 has no health figures of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ל־UDisks2 אין נתוני בריאות של %1</translation>
     </message>
     <message>
         <source>UDisks2 has no health verdict on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ל־UDisks2 אין הערכת בריאות של %1</translation>
     </message>
     <message>
         <source>UDisks2 knows no drive behind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 אינו מכיר כונן מאחורי %1</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1, which gave its verdict without figures</source>
-        <translation type="unfinished"></translation>
+        <translation>ATA S.M.A.R.T. של %1, שמסר הערכה ללא נתונים</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ATA S.M.A.R.T. של %1</translation>
     </message>
     <message>
         <source>NVMe health log of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>יומן הבריאות של NVMe של %1</translation>
     </message>
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 עבור %1, נקרא לפני %2 דק׳</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UDisks2 עבור %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1332,18 +1335,18 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1; %2</source>
         <extracomment>Two sentences, the first on one disk and the second on another</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1; %2</translation>
     </message>
     <message>
         <source>%1, and %2</source>
         <extracomment>Two sentences: why a disk gives no figures itself, and why the system&apos;s service gives none</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, וכן %2</translation>
     </message>
     <message numerus="yes">
         <source>%1 days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>יום אחד (%1)</numerusform>
+            <numerusform>%1 ימים</numerusform>
         </translation>
     </message>
     <message>
@@ -1409,11 +1412,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HostCheck</name>
     <message>
         <source>Stopping, removing the files</source>
-        <translation type="unfinished"></translation>
+        <translation>מתבצעת עצירה, הקבצים מוסרים</translation>
     </message>
     <message>
         <source>The check could not be told as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה להציג את הבדיקה כ־JSON.</translation>
     </message>
 </context>
 <context>
@@ -1424,7 +1427,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Case-preserving</source>
-        <translation type="unfinished"></translation>
+        <translation>משמר רישיות</translation>
     </message>
     <message>
         <source>Sparse files</source>
@@ -1436,19 +1439,19 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>קישורים סמליים</translation>
     </message>
     <message>
         <source>Extended attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>מאפיינים מורחבים</translation>
     </message>
     <message>
         <source>Named streams</source>
-        <translation type="unfinished"></translation>
+        <translation>זרמים בעלי שם</translation>
     </message>
     <message>
         <source>Access control lists</source>
-        <translation type="unfinished"></translation>
+        <translation>רשימות בקרת גישה</translation>
     </message>
     <message>
         <source>Cloning</source>
@@ -1460,32 +1463,32 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>יומן</translation>
     </message>
     <message>
         <source>Journal active</source>
-        <translation type="unfinished"></translation>
+        <translation>יומן פעיל</translation>
     </message>
     <message>
         <source>Sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>חתום</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>כן</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>לא</translation>
     </message>
     <message>
         <source>not known</source>
         <comment>whether a file system can do something</comment>
-        <translation type="unfinished"></translation>
+        <translation>לא ידוע</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>שם</translation>
     </message>
     <message>
         <source>Format</source>
@@ -1497,35 +1500,35 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>זמין</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>בשימוש</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>חיבור</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>קריאה בלבד</translation>
     </message>
     <message>
         <source>Encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>מוצפן</translation>
     </message>
     <message>
         <source>Mounted at</source>
-        <translation type="unfinished"></translation>
+        <translation>נקודת עיגון</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>התקן</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>סוג</translation>
     </message>
     <message>
         <source>Block size</source>
@@ -1533,43 +1536,43 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Optimal transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>גודל העברה מיטבי</translation>
     </message>
     <message>
         <source>Longest name</source>
-        <translation type="unfinished"></translation>
+        <translation>אורך שם מרבי</translation>
     </message>
     <message>
         <source>Longest path</source>
-        <translation type="unfinished"></translation>
+        <translation>אורך נתיב מרבי</translation>
     </message>
     <message>
         <source>Most links</source>
-        <translation type="unfinished"></translation>
+        <translation>מספר קישורים מרבי</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>דגם</translation>
     </message>
     <message>
         <source>Attached by</source>
-        <translation type="unfinished"></translation>
+        <translation>אופן החיבור</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>מקור</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>מצב</translation>
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>ממשק</translation>
     </message>
     <message>
         <source>(attention)</source>
-        <translation type="unfinished"></translation>
+        <translation>(לתשומת לב)</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -1585,47 +1588,47 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>בריאות</translation>
     </message>
     <message>
         <source>no S.M.A.R.T. figures: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>אין נתוני S.M.A.R.T.: %1</translation>
     </message>
 </context>
 <context>
     <name>HostFiles</name>
     <message>
         <source>%1, which comes with the window, could not be started</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה להפעיל את %1, שמגיע עם החלון</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו משיב</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 הוא תיקייה</translation>
     </message>
     <message>
         <source>%1 is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו קובץ רגיל</translation>
     </message>
     <message>
         <source>%1 exists and holds no runs; --force would replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 קיים ואינו מכיל הרצות; --force יחליף אותו</translation>
     </message>
     <message>
         <source>A figure of this run is beyond what a file can hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>נתון של הרצה זו חורג ממה שקובץ יכול להכיל.</translation>
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה לכתוב את %1: %2</translation>
     </message>
     <message>
         <source>The history could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה לכתוב את ההיסטוריה.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1634,251 +1637,267 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>The result could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה לכתוב את התוצאה</translation>
     </message>
     <message>
         <source>%1 is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו תיקייה</translation>
     </message>
     <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>קבצים של הרצה אחרת בתיקייה זו נמצאים בשימוש ולא הוסרו.</translation>
     </message>
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: הריקון למדיה נכשל (%2); ייתכן שלא כל מה שנכתב נמצא שם.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>הכנה: הריקון למדיה נכשל (%1); ייתכן שלא כל מה שנכתב נמצא שם.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה לכתוב את קובץ ההרצה לתיקייה הזמנית שלך.</translation>
     </message>
     <message>
         <source>The run could not be added to the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה להוסיף את ההרצה להיסטוריה.</translation>
     </message>
     <message>
         <source>%1 is larger than a run file can be (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 גדול מהגודל המרבי של קובץ הרצה (%2)</translation>
     </message>
     <message>
         <source>%1 could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה לקרוא את %1</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>קלט תקני</translation>
     </message>
     <message>
         <source>standard input is larger than a run file can be (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>הקלט התקני גדול מהגודל המרבי של קובץ הרצה (%1)</translation>
     </message>
     <message>
         <source>standard input is not a run file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>הקלט התקני אינו קובץ הרצה: %1</translation>
     </message>
     <message>
         <source>%1 is not a run file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו קובץ הרצה: %2</translation>
     </message>
     <message>
         <source>The picture could not be drawn: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה לצייר את התמונה: %1</translation>
     </message>
     <message>
         <source>The picture could not be drawn, or not be written to your temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה לצייר את התמונה, או לכתוב אותה לתיקייה הזמנית שלך.</translation>
     </message>
 </context>
 <context>
     <name>HostHelp</name>
     <message>
         <source>Draw it in the dark colours</source>
-        <translation type="unfinished"></translation>
+        <translation>ציור בצבעים הכהים</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
 transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
 it stays until your session ends, or until the system empties its temporary folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>קובץ הרצה הוא מה שהפקודה &quot;run --handoff&quot; כותבת, עבור הרצה אחת. התמונה היא קובץ PNG ברוחב 1616 פיקסלים עם שוליים
+שקופים; הנתיב שלה מודפס. אין צורך בתצוגה. תמונה בעלת אותה כותרת מחליפה את הקודמת; היא נשמרת עד לסיום ההפעלה שלך,
+או עד שהמערכת מרוקנת את התיקייה הזמנית.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>קוד יציאה: 0 הסתיים, 1 לא ניתן היה לקרוא קובץ או ליצור את התמונה, 2 שימוש שגוי.</translation>
     </message>
     <message>
         <source>Draw a picture of a run to share, or of several compared</source>
-        <translation type="unfinished"></translation>
+        <translation>ציור תמונה לשיתוף של הרצה, או של כמה הרצות בהשוואה</translation>
     </message>
     <message>
         <source>How much to write and read back (default: all free space)</source>
-        <translation type="unfinished"></translation>
+        <translation>כמה לכתוב ולקרוא בחזרה (ברירת מחדל: כל השטח הפנוי)</translation>
     </message>
     <message>
         <source>How much stays free in any case (default: 64MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>כמה יישאר פנוי בכל מקרה (ברירת מחדל: 64MiB)</translation>
     </message>
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation type="unfinished"></translation>
+        <translation>דגימות לאורך כל הטווח, תוך שניות: מגלה קיבולת מזויפת,
+ואינה מוכיחה דבר אם לא נמצאה כזו</translation>
     </message>
     <message>
         <source>Read everything once more, S seconds later</source>
-        <translation type="unfinished"></translation>
+        <translation>קריאה חוזרת של הכול כעבור S שניות</translation>
     </message>
     <message>
         <source>Print one JSON object: the verdict, the sentence, and all that was found</source>
-        <translation type="unfinished"></translation>
+        <translation>הדפסת אובייקט JSON אחד: ההערכה, המשפט וכל מה שנמצא</translation>
     </message>
     <message>
         <source>Writes files that differ in every block into a hidden folder inside FOLDER, reads them back past the system&apos;s
 cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
-        <translation type="unfinished"></translation>
+        <translation>כותב לתיקייה נסתרת בתוך FOLDER קבצים ששונים בכל בלוק, קורא אותם בחזרה שלא דרך מטמון המערכת, משווה את הכול
+ומסיר אותם, גם אחרי Ctrl+C. הקבצים שלך אינם מושפעים; אך בהתקן בעל קיבולת מזויפת, כל כתיבה מעבר לקיבולת האמיתית
+עלולה להרוס את מה שנמצא שם, כמו בכל שימוש אחר בו. --quick כותב דגימות בלבד.
+קבצים של בדיקה שחוסלה מוסרים בהרצה או בבדיקה הבאה ב־FOLDER.</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES הוא ספרות בלבד, או ספרות עם K, M, G, T (KiB, MiB, GiB, TiB: צעדים של 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>קוד יציאה: 0 לא נמצאה בעיה, 1 כשל, 2 שימוש שגוי, 3 נמצאו פגמים, 130 נעצר בידי אות;
+מה שנמצא עד אז מודפס.</translation>
     </message>
     <message>
         <source>Check whether a volume is as large as it says and keeps what it is given</source>
-        <translation type="unfinished"></translation>
+        <translation>בדיקה אם כרך גדול כפי שהוא מצהיר ושומר את מה שנכתב אליו</translation>
     </message>
     <message>
         <source>As text (default), markdown, csv or json</source>
-        <translation type="unfinished"></translation>
+        <translation>כ־text (ברירת מחדל), markdown, csv או json</translation>
     </message>
     <message>
         <source>Let --output replace a file of any content</source>
-        <translation type="unfinished"></translation>
+        <translation>התרה ל־--output להחליף קובץ בעל תוכן כלשהו</translation>
     </message>
     <message>
         <source>Print the facts as one JSON object</source>
-        <translation type="unfinished"></translation>
+        <translation>הדפסת העובדות כאובייקט JSON אחד</translation>
     </message>
     <message>
         <source>Print the list as one JSON array</source>
-        <translation type="unfinished"></translation>
+        <translation>הדפסת הרשימה כמערך JSON אחד</translation>
     </message>
     <message>
         <source>Nothing is written anywhere. What the system does not tell reads &quot;--&quot; or &quot;not known&quot;, and is left out of the JSON
 object.</source>
-        <translation type="unfinished"></translation>
+        <translation>שום דבר אינו נכתב. מה שהמערכת אינה מוסרת מוצג כ־&quot;--&quot; או כ„לא ידוע”, ואינו נכלל באובייקט
+ה־JSON.</translation>
     </message>
     <message>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>כל מערכת קבצים מופיעה פעם אחת, בנקודת העיגון הקצרה ביותר שלה. מה שהמערכת, החבילות שלה והמכולות שלה מעגנות לעצמן
+אינו נכלל. לשרת שאינו משיב בזמן לא מוצגת קיבולת.</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>הכונן רק נבחן: כונן ישן אינו מוער ודבר אינו מופעל בו. מקור נתוני הבריאות, או הסיבה להיעדרם, מוצגים
+בפקודה &quot;facts&quot;.</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation type="unfinished"></translation>
+        <translation>הצגת מה שמכיל את FOLDER: כרך, מערכת קבצים, כונן ובריאותו</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>הצגת רשימת הכרכים המעוגנים</translation>
     </message>
     <message>
         <source>Print the health of the drive that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>הדפסת הבריאות של הכונן שמכיל את FOLDER</translation>
     </message>
     <message>
         <source>Usage: %1</source>
         <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>שימוש: %1</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Show this text</source>
-        <translation type="unfinished"></translation>
+        <translation>הצגת טקסט זה</translation>
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondel Tarnwick במסוף: מהירותו של דיסק, נמדדת בכתיבה אליו ומוסרת ממנו בסיום.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
-        <translation type="unfinished"></translation>
+        <translation>הצגת טקסט זה, או אחרי פקודה: האפשרויות של אותה פקודה</translation>
     </message>
     <message>
         <source>Show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>הצגת הגרסה</translation>
     </message>
     <message>
         <source>The file that &quot;export&quot; writes</source>
-        <translation type="unfinished"></translation>
+        <translation>הקובץ שהפקודה &quot;export&quot; כותבת</translation>
     </message>
     <message>
         <source>Let &quot;delete&quot; delete all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>התרה ל־&quot;delete&quot; למחוק את כל ההרצות</translation>
     </message>
     <message>
         <source>ACTION is one of</source>
-        <translation type="unfinished"></translation>
+        <translation>ACTION הוא אחד מאלה</translation>
     </message>
     <message>
         <source>a line for each run, newest first, which begins with its name (default)</source>
-        <translation type="unfinished"></translation>
+        <translation>שורה לכל הרצה, מהחדשה לישנה, שנפתחת בשם ההרצה (ברירת מחדל)</translation>
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation type="unfinished"></translation>
+        <translation>הדפסת הרצות כמו &quot;show&quot;, בתבנית של --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation type="unfinished"></translation>
+        <translation>כתיבת הרצות ל־FILE של --output, בתבנית של --format או לפי שם ה־FILE: .csv, .json, .md,
+.txt, או .tarnwickrun להרצה אחת</translation>
     </message>
     <message>
         <source>delete runs, without a question and for good</source>
-        <translation type="unfinished"></translation>
+        <translation>מחיקת הרצות, ללא שאלה ולצמיתות</translation>
     </message>
     <message>
         <source>A RUN is named as the list has it, or by four or more characters that begin its id. Without one, all runs are meant;
 &quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
 file only if it is empty or holds runs; with --force any other file too.</source>
-        <translation type="unfinished"></translation>
+        <translation>RUN מצוין בשמו כפי שהוא ברשימה, או בארבעה תווים או יותר שפותחים את ה־id שלו. בלעדיו הכוונה לכל ההרצות;
+הפקודה &quot;delete&quot; דורשת אז --all. חלון פתוח מתעדכן מיד עם החזרה אליו. --output מחליף קובץ קיים רק אם הוא ריק
+או מכיל הרצות; עם --force גם כל קובץ אחר.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>קוד יציאה: 0 הסתיים, 1 אין הרצה כזו או כשל, 2 שימוש שגוי.</translation>
     </message>
     <message>
         <source>List, show, export or delete the runs that the window keeps</source>
-        <translation type="unfinished"></translation>
+        <translation>רשימה, הצגה, ייצוא או מחיקה של ההרצות שהחלון שומר</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>BYTES הוא ספרות בלבד, או ספרות עם K, M, G, T (KiB, MiB, GiB, TiB: צעדים של 1024). בלוקים מעוגלים כלפי מעלה
+לדפים שלמים של 4096. ברירות המחדל הן של החלון, כדי שניתן יהיה להשוות בין הנתונים, למעט הבלוקים של המבחנים
+הרציפים: החלון משתמש ב„גודל העברה מיטבי” שמציגה הפקודה &quot;facts&quot;.</translation>
     </message>
     <message>
         <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start; files that are still in use stay, after a second&apos;s wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>הכול נכתב לתיקייה נסתרת בתוך FOLDER ומוסר בסוף, גם אחרי Ctrl+C. מה שהרצה שחוסלה השאירה ב־FOLDER מוסר
+לפני ההתחלה; קבצים שעדיין בשימוש נשארים, לאחר המתנה של שנייה.</translation>
     </message>
     <message>
         <source>The files of --handoff and --card stay until your session ends, or until the system empties its temporary folder.
@@ -1886,127 +1905,139 @@ run left behind in FOLDER is removed before the start; files that are still in u
 &quot;history export&quot; write as json or csv); with --force any other file too. A window that is open shows a run that
 --keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
 and the run counts as failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>הקבצים של --handoff ו־--card נשמרים עד לסיום ההפעלה שלך, או עד שהמערכת מרוקנת את התיקייה הזמנית.
+--output מחליף קובץ קיים רק אם הוא ריק או מכיל הרצות (קובץ הרצה, או מה שכותבות הפקודות &quot;show --format&quot;
+ו־&quot;history export&quot; כ־json או כ־csv); עם --force גם כל קובץ אחר. חלון פתוח מציג הרצה שנוספה באמצעות --keep
+מיד עם החזרה אליו. כשלא ניתן לכתוב דבר מה, הנתונים מודפסים בכל זאת
+וההרצה נחשבת ככושלת.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>קוד יציאה: 0 הסתיים, 1 כשל, 2 שימוש שגוי, 130 נעצר בידי אות.</translation>
     </message>
     <message>
         <source>Measure the file system that holds FOLDER</source>
-        <translation type="unfinished"></translation>
+        <translation>מדידת מערכת הקבצים שמכילה את FOLDER</translation>
     </message>
     <message>
         <source>Tests to run, always in this order: sequentialWrite, sequentialRead,
 randomRead, randomWrite, fileOps (default: all)</source>
-        <translation type="unfinished"></translation>
+        <translation>המבחנים להרצה, תמיד בסדר הזה: sequentialWrite, sequentialRead,
+randomRead, randomWrite, fileOps (ברירת מחדל: הכול)</translation>
     </message>
     <message>
         <source>Size of the data file, or fill the disk (default: 5GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>גודל קובץ הנתונים, או fill למילוי הדיסק (ברירת מחדל: 5GiB)</translation>
     </message>
     <message>
         <source>What --size fill leaves free (default: 1GiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>מה ש־--size fill משאיר פנוי (ברירת מחדל: 1GiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential write (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>בתים לקריאת מערכת, כתיבה רציפה (ברירת מחדל: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential read (default: 1MiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>בתים לקריאת מערכת, קריאה רציפה (ברירת מחדל: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per random operation (default: 4KiB)</source>
-        <translation type="unfinished"></translation>
+        <translation>בתים לפעולה אקראית (ברירת מחדל: 4KiB)</translation>
     </message>
     <message>
         <source>Operations in each random test (default: 10000)</source>
-        <translation type="unfinished"></translation>
+        <translation>פעולות בכל מבחן אקראי (ברירת מחדל: 10000)</translation>
     </message>
     <message>
         <source>Files in the file-operations test (default: 1000)</source>
-        <translation type="unfinished"></translation>
+        <translation>קבצים במבחן פעולות הקבצים (ברירת מחדל: 1000)</translation>
     </message>
     <message>
         <source>Let the system cache the data file, as ordinary programs do</source>
-        <translation type="unfinished"></translation>
+        <translation>התרה למערכת לשמור את קובץ הנתונים במטמון, כמו בתוכניות רגילות</translation>
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
-        <translation type="unfinished"></translation>
+        <translation>המספר המזערי של שניות בין שתי דגימות (ברירת מחדל: 0.02)</translation>
     </message>
     <message>
         <source>Print one JSON object: the plan, every figure, every sample, date,
 folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
 &quot;remarks&quot; what was observed and what it says</source>
-        <translation type="unfinished"></translation>
+        <translation>הדפסת אובייקט JSON אחד: התוכנית, כל נתון, כל דגימה, תאריך,
+תיקייה, כרך, מערכת קבצים, כונן, ליבה, ותחת &quot;evidence&quot; ו־&quot;remarks&quot;
+מה שנצפה ומה משמעותו</translation>
     </message>
     <message>
         <source>Write a run file there, for the window, for &quot;show&quot; and for others</source>
-        <translation type="unfinished"></translation>
+        <translation>כתיבת קובץ הרצה לשם, עבור החלון, עבור &quot;show&quot; ועבור אחרים</translation>
     </message>
     <message>
         <source>Add the run to the window&apos;s history</source>
-        <translation type="unfinished"></translation>
+        <translation>הוספת ההרצה להיסטוריה של החלון</translation>
     </message>
     <message>
         <source>Write a run file for the window and for &quot;show&quot;, and print its path
 as the last line; with --json: as &quot;handoffFile&quot; in the object</source>
-        <translation type="unfinished"></translation>
+        <translation>כתיבת קובץ הרצה עבור החלון ועבור &quot;show&quot;, והדפסת הנתיב שלו
+בשורה האחרונה; עם --json: בתור &quot;handoffFile&quot; באובייקט</translation>
     </message>
     <message>
         <source>Draw a picture of the run to share, in light or dark colours, and
 print its path as the last line; with --json: as &quot;cardFile&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ציור תמונה של ההרצה לשיתוף, בצבעים בהירים או כהים, והדפסת
+הנתיב שלה בשורה האחרונה; עם --json: בתור &quot;cardFile&quot;</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; and &quot;run --output&quot; write, for one run. The window&apos;s history (history.json) and
 the output of &quot;show --format json&quot; have several. &quot;-&quot; is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>קובץ הרצה הוא מה שכותבות הפקודות &quot;run --handoff&quot; ו־&quot;run --output&quot;, עבור הרצה אחת. בהיסטוריה של החלון
+(history.json) ובפלט של &quot;show --format json&quot; יש כמה. &quot;-&quot; הוא הקלט התקני.</translation>
     </message>
     <message>
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation type="unfinished"></translation>
+        <translation>כטקסט, פסים משווים בין הנתונים של כמה הרצות: הגדול מכל סוג ממלא את המסלול שלו, ו־&quot;--&quot; מופיע היכן שלהרצה אין נתון.
+השורות מתאימות לרוחב המסוף, או ל־80 עמודות. טבלת Markdown מיועדת לפורומים. ב־CSV יש שורה לכל הרצה, עם מספרים
+פשוטים לגיליונות אלקטרוניים ולתסריטים. JSON הוא רשימה של תוכני קובצי הרצה.</translation>
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>קובץ שלא ניתן להציג מקבל שורה בפלט השגיאות התקני, והאחרים מוצגים.</translation>
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>קוד יציאה: 0 כולם הוצגו, 1 לא כולם, 2 שימוש שגוי.</translation>
     </message>
     <message>
         <source>Show runs from their run files, and several side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>הצגת הרצות מקובצי ההרצה שלהן, וכמה מהן זו לצד זו</translation>
     </message>
 </context>
 <context>
     <name>HostHistory</name>
     <message>
         <source>there is no run %1 in the history</source>
-        <translation type="unfinished"></translation>
+        <translation>אין בהיסטוריה הרצה %1</translation>
     </message>
     <message>
         <source>%1 stands for several runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 מתאים לכמה הרצות</translation>
     </message>
     <message>
         <source>Run</source>
         <extracomment>A benchmark run.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>הרצה</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>תאריך</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>כותרת</translation>
     </message>
 </context>
 <context>
@@ -2018,7 +2049,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>מתחיל</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -2027,16 +2058,16 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Stopping, removing the test files</source>
-        <translation type="unfinished"></translation>
+        <translation>מתבצעת עצירה, קובצי המבחן מוסרים</translation>
     </message>
     <message>
         <source>Preparing the test file, %1 s</source>
         <extracomment>%1: the seconds since the start.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>הכנת קובץ המבחן, %1 s</translation>
     </message>
     <message>
         <source>Starting, %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>מתחיל, %1 s</translation>
     </message>
 </context>
 <context>
@@ -2047,169 +2078,169 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Sustained</source>
-        <translation type="unfinished"></translation>
+        <translation>מתמשך</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>שיא</translation>
     </message>
     <message>
         <source>Lowest</source>
-        <translation type="unfinished"></translation>
+        <translation>מזערי</translation>
     </message>
     <message>
         <source>Overall</source>
-        <translation type="unfinished"></translation>
+        <translation>כולל</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>פעולות</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>קצב</translation>
     </message>
     <message>
         <source>Worst</source>
         <extracomment>The slowest operation; &quot;p99&quot; is the time that 99 of 100 operations stay below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>מרבי</translation>
     </message>
     <message>
         <source>Create</source>
         <extracomment>What the file-operations test does with files; &quot;Stat&quot; asks for a file&apos;s size and dates.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>יצירה</translation>
     </message>
     <message>
         <source>Stat</source>
-        <translation type="unfinished"></translation>
+        <translation>קריאת פרטים</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>שינוי שם</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>מחיקה</translation>
     </message>
 </context>
 <context>
     <name>HostUsage</name>
     <message>
         <source>a RUNFILE to draw is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>חסר RUNFILE לציור</translation>
     </message>
     <message>
         <source>%1 is a year at most</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 הוא שנה לכל היותר</translation>
     </message>
     <message>
         <source>there is no option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>אין אפשרות בשם %1</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו מקבל ערך</translation>
     </message>
     <message>
         <source>%1 needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 דורש ערך: %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 only</source>
         <extracomment>Two options or commands of the program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 אפשרי רק עם %2</translation>
     </message>
     <message>
         <source>%1 needs a whole number from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 דורש מספר שלם מ־%2 עד %3, ולא %4</translation>
     </message>
     <message>
         <source>%1 needs a number of bytes, such as 4096, 64K or 5GiB, from %2 to %3, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 דורש מספר בתים, כגון 4096, 64K או 5GiB, מ־%2 עד %3, ולא %4</translation>
     </message>
     <message>
         <source>%1 needs a number of seconds, 0 or more, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 דורש מספר שניות, 0 או יותר, ולא %2</translation>
     </message>
     <message>
         <source>a FOLDER is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>חסר FOLDER</translation>
     </message>
     <message>
         <source>one FOLDER at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>FOLDER אחד בכל פעם</translation>
     </message>
     <message>
         <source>%1 is text, markdown, csv or json, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 הוא text, markdown, csv או json, ולא %2</translation>
     </message>
     <message>
         <source>%1 needs the name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 דורש שם קובץ</translation>
     </message>
     <message>
         <source>%1 takes no operand</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו מקבל ארגומנט</translation>
     </message>
     <message>
         <source>%1 needs %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 דורש %2</translation>
     </message>
     <message>
         <source>a run file holds one run, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>קובץ הרצה מכיל הרצה אחת, ולא %1</translation>
     </message>
     <message>
         <source>%1 is needed where the FILE&apos;s name does not end in .tarnwickrun, .csv, .json, .md or .txt</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 דרוש כששם ה־FILE אינו מסתיים ב־.tarnwickrun, .csv, .json, .md או .txt</translation>
     </message>
     <message>
         <source>%1 needs either RUNs or %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 דורש RUN אחד או יותר, או %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 and %3 only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אפשרי רק עם %2 ועם %3</translation>
     </message>
     <message>
         <source>%1 can list, show, export and delete, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 יכול לבצע list, show, export ו־delete, ולא %2</translation>
     </message>
     <message>
         <source>a command is missing; see %1</source>
-        <translation type="unfinished"></translation>
+        <translation>חסרה פקודה; פרטים: %1</translation>
     </message>
     <message>
         <source>there is no command %1; see %2</source>
-        <translation type="unfinished"></translation>
+        <translation>אין פקודה בשם %1; פרטים: %2</translation>
     </message>
     <message>
         <source>a FOLDER to measure is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>חסר FOLDER למדידה</translation>
     </message>
     <message>
         <source>a FOLDER to check is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>חסר FOLDER לבדיקה</translation>
     </message>
     <message>
         <source>one FOLDER at a time, not also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>FOLDER אחד בכל פעם, בלי %1 נוסף</translation>
     </message>
     <message>
         <source>the FOLDER&apos;s name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>השם של FOLDER ריק</translation>
     </message>
     <message>
         <source>%1: there is no test %2, only %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: אין מבחן בשם %2, רק %3</translation>
     </message>
     <message>
         <source>%1 is light or dark, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 הוא light או dark, ולא %2</translation>
     </message>
     <message>
         <source>a FILE to show is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>חסר FILE להצגה</translation>
     </message>
 </context>
 <context>
@@ -2338,15 +2369,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>LiveRunText</name>
     <message>
         <source>done</source>
-        <extracomment>What a test does: it is done, it runs, or it has not begun</extracomment>
+        <extracomment>Of a test</extracomment>
         <translation>הסתיים</translation>
     </message>
     <message>
         <source>running</source>
+        <extracomment>Of a test</extracomment>
         <translation>פועל</translation>
     </message>
     <message>
         <source>to come</source>
+        <extracomment>Of a test that has not begun</extracomment>
         <translation>ממתין</translation>
     </message>
     <message>
@@ -2360,59 +2393,59 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>A few seconds left</source>
-        <translation type="unfinished"></translation>
+        <translation>נותרו מספר שניות</translation>
     </message>
     <message>
         <source>A few seconds left of this test</source>
-        <translation type="unfinished"></translation>
+        <translation>נותרו מספר שניות למבחן זה</translation>
     </message>
     <message numerus="yes">
         <source>About %n s left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>נותרה כשנייה (%n)</numerusform>
+            <numerusform>נותרו כ־%n שניות</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>נותרה כשנייה (%n) למבחן זה</numerusform>
+            <numerusform>נותרו כ־%n שניות למבחן זה</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>נותרה כדקה (%n)</numerusform>
+            <numerusform>נותרו כ־%n דקות</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>נותרה כדקה (%n) למבחן זה</numerusform>
+            <numerusform>נותרו כ־%n דקות למבחן זה</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>נותרה כשעה (%n)</numerusform>
+            <numerusform>נותרו כ־%n שעות</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>נותרה כשעה (%n) למבחן זה</numerusform>
+            <numerusform>נותרו כ־%n שעות למבחן זה</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 operations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 מתוך פעולה אחת (%2)</numerusform>
+            <numerusform>%1 מתוך %2 פעולות</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,185 +2540,185 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RemarkText</name>
     <message>
         <source>At most %1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>לכל היותר %1 ממה שנכתב הגיעו לדיסק במהלך המבחן.</translation>
     </message>
     <message>
         <source>%1 of what was written reached the disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ממה שנכתב הגיעו לדיסק במהלך המבחן.</translation>
     </message>
     <message>
         <source>At most %1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>לכל היותר %1 ממה שנקרא הגיעו מהדיסק.</translation>
     </message>
     <message>
         <source>%1 of what was read came from the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ממה שנקרא הגיעו מהדיסק.</translation>
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה לרוקן לדיסק את כל מה שנכתב: %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן היה לרוקן לדיסק את קובץ המבחן: %1.</translation>
     </message>
     <message>
         <source>%1 for the first %2, then %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 עבור %2 הראשונים, ואחר כך %3.</translation>
     </message>
     <message>
         <source>The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower.</source>
-        <translation type="unfinished"></translation>
+        <translation>הכונן הגיע ל־%1 אחרי %2 (הגבול: %3), ומאותו רגע הקצב היה נמוך ב־%4.</translation>
     </message>
     <message>
         <source>One pause over 1 s: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>הפסקה אחת של יותר משנייה: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%1 pauses over 1 s, the longest %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>הפסקה אחת (%1) של יותר משנייה, הארוכה ביותר %2.</numerusform>
+            <numerusform>%1 הפסקות של יותר משנייה, הארוכה ביותר %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>תוכניות אחרות העבירו %1 באותו דיסק במהלך המבחן.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>ערוץ ה־%1 של הכונן פועל ב־%2; הכונן מסוגל ל־%3.</translation>
     </message>
     <message>
         <source>The partition begins %1 into a physical block of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>המחיצה מתחילה %1 בתוך בלוק פיזי של %2.</translation>
     </message>
     <message>
         <source>Only %1 of the volume was free.</source>
-        <translation type="unfinished"></translation>
+        <translation>רק %1 מהכרך היו פנויים.</translation>
     </message>
     <message>
         <source>The test’s %1 may fit into a cache of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 של המבחן עשויים להיכנס למטמון של %2.</translation>
     </message>
     <message>
         <source>The machine ran on battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>המחשב פעל על סוללה.</translation>
     </message>
     <message>
         <source>The processor was set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>המעבד היה מוגדר לחיסכון בחשמל.</translation>
     </message>
     <message>
         <source>The machine ran on battery, its processor set to save power.</source>
-        <translation type="unfinished"></translation>
+        <translation>המחשב פעל על סוללה, והמעבד היה מוגדר לחיסכון בחשמל.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places and checksums data.</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת הקבצים כותבת שינויים למקומות חדשים ומחשבת סכומי ביקורת לנתונים.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places.</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת הקבצים כותבת שינויים למקומות חדשים.</translation>
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש להפעיל את „עקיפת המטמון”. אם היא כבר מופעלת, יש לבחור גודל שעולה על זיכרון המחשב.</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש לעיין במצב ה־S.M.A.R.T. של הכונן וביומן המערכת לפני שמפקידים בו נתונים.</translation>
     </message>
     <message>
         <source>Data went through a cache although the system was asked to bypass it.</source>
-        <translation type="unfinished"></translation>
+        <translation>נתונים עברו דרך מטמון אף שהמערכת התבקשה לעקוף אותו.</translation>
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש לבחור גודל שעולה על זיכרון המחשב, או לבחון את הדיסק שמתחת דרך מערכת קבצים אחרת.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש לצפות לקצב הנמוך יותר כשמועברת בבת אחת כמות גדולה מזו.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש לספק לכונן יותר אוויר או גוף קירור, ולהריץ שוב לאחר שהתקרר.</translation>
     </message>
     <message>
         <source>Run again. If they come back, look at the drive’s S.M.A.R.T. status and its cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש להריץ שוב. אם ההפסקות חוזרות, יש לבדוק את מצב ה־S.M.A.R.T. של הכונן ואת הכבל שלו.</translation>
     </message>
     <message>
         <source>Run again while nothing else uses the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש להריץ שוב כשדבר אחר אינו משתמש בדיסק.</translation>
     </message>
     <message>
         <source>Try another port, slot or cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>כדאי לנסות שקע, חריץ או כבל אחר.</translation>
     </message>
     <message>
         <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש ליצור את המחיצה מחדש, כך שתתחיל בכפולה של 1 MiB. פעולה זו מוחקת אותה.</translation>
     </message>
     <message>
         <source>Free some space: many drives and file systems slow down when full.</source>
-        <translation type="unfinished"></translation>
+        <translation>כדאי לפנות שטח: כוננים ומערכות קבצים רבים מאטים כשהם מלאים.</translation>
     </message>
     <message>
         <source>Choose a larger size, and switch on Bypass cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש לבחור גודל גדול יותר ולהפעיל את „עקיפת המטמון”.</translation>
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש להריץ שוב בחיבור לרשת החשמל, עם חיסכון בחשמל כבוי.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן לראות את הדיסק שמאחורי כרך זה, ולכן אין דרך לדעת מה הוא עצמו עשה.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory; no disk was measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>כרך זה שומר את קבציו בזיכרון; שום דיסק לא נמדד.</translation>
     </message>
     <message>
         <source>Choose a folder on a disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש לבחור תיקייה בדיסק.</translation>
     </message>
     <message>
         <source>This volume is a file on another volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>כרך זה הוא קובץ בכרך אחר.</translation>
     </message>
     <message>
         <source>To measure that volume itself, choose a folder on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>כדי למדוד את אותו כרך עצמו, יש לבחור תיקייה בו.</translation>
     </message>
     <message>
         <source>The disk is one of a virtual machine, whose host may cache it.</source>
-        <translation type="unfinished"></translation>
+        <translation>הדיסק שייך למכונה וירטואלית, וייתכן שהמארח שלה שומר אותו במטמון.</translation>
     </message>
     <message>
         <source>The file system compresses. The test’s data does not, so other files may be faster.</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת הקבצים דוחסת. נתוני המבחן אינם נדחסים, ולכן קבצים אחרים עשויים להיות מהירים יותר.</translation>
     </message>
     <message>
         <source>The file system writes data twice, to its journal first.</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת הקבצים כותבת נתונים פעמיים, תחילה ליומן שלה.</translation>
     </message>
     <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>לא תקף</translation>
     </message>
     <message>
         <source>Caution</source>
         <extracomment>The weight of a remark: the figure may not be what it seems</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>זהירות</translation>
     </message>
     <message>
         <source>Note</source>
         <extracomment>The weight of a remark: something to know</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>הערה</translation>
     </message>
 </context>
 <context>
@@ -2743,7 +2776,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>ReportImageText</name>
     <message>
         <source>Ondel Tarnwick — Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondel Tarnwick — השוואה</translation>
     </message>
 </context>
 <context>
@@ -2813,11 +2846,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunExport</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>הרצה</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>תאריך</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -2829,28 +2862,28 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>פרמטרים</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת</translation>
     </message>
     <message>
         <source>%1 (invalid)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (לא תקף)</translation>
     </message>
     <message>
         <source>Remarks</source>
-        <translation type="unfinished"></translation>
+        <translation>הערות</translation>
     </message>
 </context>
 <context>
     <name>RunExportsText</name>
     <message numerus="yes">
         <source>Ondel Tarnwick — %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ondel Tarnwick — הרצה אחת (%n)</numerusform>
+            <numerusform>Ondel Tarnwick — %n הרצות</numerusform>
         </translation>
     </message>
     <message>
@@ -2955,16 +2988,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Cache</source>
-        <extracomment>The system&apos;s cache was bypassed, or what it holds was taken from it</extracomment>
         <translation>מטמון</translation>
     </message>
     <message>
         <source>Bypassed</source>
+        <extracomment>The system&apos;s cache was</extracomment>
         <translation>נעקף</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>בשימוש</translation>
+        <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
+        <translation>עם מטמון</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3095,16 +3129,16 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Random read</source>
-        <translation type="unfinished"></translation>
+        <translation>קריאה אקראית</translation>
     </message>
     <message>
         <source>Random write</source>
-        <translation type="unfinished"></translation>
+        <translation>כתיבה אקראית</translation>
     </message>
     <message>
         <source>File ops</source>
         <extracomment>File operations, where there is little room</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>פעולות קבצים</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -3112,19 +3146,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>פרמטרים</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>מערכת</translation>
     </message>
     <message>
         <source>peak %1</source>
-        <translation type="unfinished"></translation>
+        <translation>שיא %1</translation>
     </message>
     <message>
         <source>lowest %1</source>
-        <translation type="unfinished"></translation>
+        <translation>מזערי %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3134,17 +3168,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1, peak</source>
         <extracomment>%1 is the name of a test, whose highest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, שיא</translation>
     </message>
     <message>
         <source>%1, lowest</source>
         <extracomment>%1 is the name of a test, whose lowest rate follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, מזערי</translation>
     </message>
     <message>
         <source>%1, latency</source>
         <extracomment>%1 is the name of a test, whose latency follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, השהיה</translation>
     </message>
     <message>
         <source>About these figures</source>
@@ -3155,19 +3189,19 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunTitle</name>
     <message>
         <source>%1 Server</source>
-        <translation type="unfinished"></translation>
+        <translation>שרת %1</translation>
     </message>
     <message>
         <source>Network Server</source>
-        <translation type="unfinished"></translation>
+        <translation>שרת רשת</translation>
     </message>
     <message>
         <source>External Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>כונן חיצוני</translation>
     </message>
     <message>
         <source>Network volume</source>
-        <translation type="unfinished"></translation>
+        <translation>כרך רשת</translation>
     </message>
 </context>
 <context>
@@ -3193,12 +3227,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1:</source>
         <extracomment>%1 is the name of a figure, which follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>%1  (attention)</source>
         <extracomment>Behind a figure that is a concern</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  (לתשומת לב)</translation>
     </message>
     <message>
         <source>Drive</source>
@@ -3206,20 +3240,20 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>ממשק</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>תאריך</translation>
     </message>
     <message>
         <source>Status</source>
         <extracomment>The drive&apos;s own verdict follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>מצב</translation>
     </message>
     <message>
         <source>Ondel Tarnwick S.M.A.R.T. report</source>
-        <translation type="unfinished"></translation>
+        <translation>דוח S.M.A.R.T. של Ondel Tarnwick</translation>
     </message>
 </context>
 <context>
@@ -3251,7 +3285,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1  ·  optimal</source>
         <extracomment>%1 is a size of blocks; it is the one that the volume prefers</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  מיטבי</translation>
     </message>
 </context>
 <context>
@@ -3442,22 +3476,22 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1 · %2 external</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 חיצוני</translation>
     </message>
     <message>
         <source>%1 · %2 internal</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 פנימי</translation>
     </message>
     <message>
         <source>%1 · %2 removable</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 נשלף</translation>
     </message>
     <message>
         <source>%1 · %2 network</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 רשת</translation>
     </message>
     <message>
         <source>The folder couldn&apos;t be opened.</source>
@@ -3485,9 +3519,9 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message numerus="yes">
         <source>%1 chars</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>תו אחד (%1)</numerusform>
+            <numerusform>%1 תווים</numerusform>
         </translation>
     </message>
     <message>
@@ -3516,12 +3550,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TargetText</name>
     <message>
         <source>Choose a folder on the volume to test (a temporary working folder is written there and removed).</source>
-        <translation type="unfinished"></translation>
+        <translation>יש לבחור תיקייה בכרך למבחן (תיקיית עבודה זמנית נכתבת שם ומוסרת).</translation>
     </message>
     <message>
         <source>Select</source>
         <extracomment>The button that accepts the folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>בחירה</translation>
     </message>
 </context>
 <context>
@@ -3634,7 +3668,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickKit::views::LanguageSetting</name>
     <message>
         <source>Like the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>כמו שולחן העבודה</translation>
     </message>
 </context>
 <context>
@@ -3661,23 +3695,23 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>שפה</translation>
     </message>
     <message>
         <source>Language of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>שפת החלון</translation>
     </message>
     <message>
         <source>The window follows when Tarnwick is started the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>השינוי בחלון ייכנס לתוקף בהפעלה הבאה של Tarnwick.</translation>
     </message>
     <message>
         <source>Shared pictures in English</source>
-        <translation type="unfinished"></translation>
+        <translation>תמונות משותפות באנגלית</translation>
     </message>
     <message>
         <source>Off, their texts are in the language of the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>כשהאפשרות כבויה, הטקסט בתמונות הוא בשפת החלון.</translation>
     </message>
     <message>
         <source>Support Tarnwick</source>
@@ -3720,11 +3754,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
         <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: מ־%2 עד %3 %6 במשך %4, לאחרונה %5 %6.</translation>
     </message>
     <message>
         <source>No measurements yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>אין עדיין מדידות.</translation>
     </message>
 </context>
 <context>
@@ -3953,17 +3987,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Internal</source>
         <extracomment>How a volume is attached: the drive is built into the machine</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>פנימי</translation>
     </message>
     <message>
         <source>External</source>
         <extracomment>How a volume is attached: the drive has a case and a cable of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>חיצוני</translation>
     </message>
     <message>
         <source>Removable</source>
         <extracomment>How a volume is attached: a stick, a card or a disc</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>נשלף</translation>
     </message>
     <message>
         <source>Network</source>
@@ -3978,17 +4012,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Root</source>
         <extracomment>The name of the volume at &quot;/&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>שורש</translation>
     </message>
     <message>
         <source>Shared Folder</source>
         <extracomment>A kind of file system: a folder that a virtual machine shares with its host</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>תיקייה משותפת</translation>
     </message>
     <message>
         <source>Fill disk</source>
         <extracomment>The size of a test: as much as there is free space</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>מילוי הדיסק</translation>
     </message>
 </context>
 <context>

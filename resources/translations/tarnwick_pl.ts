@@ -25,7 +25,7 @@
     <message>
         <source>%1 % – %2</source>
         <extracomment>The title of the window during a run: how much is done, and the program&apos;s name</extracomment>
-        <translation>%1% – %2</translation>
+        <translation>%1 % – %2</translation>
     </message>
 </context>
 <context>
@@ -246,7 +246,7 @@ min. %2</translation>
     </message>
     <message>
         <source>%1: %2 %</source>
-        <translation>%1: %2%</translation>
+        <translation>%1: %2 %</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -614,7 +614,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Tylko %1% odczytanych danych pochodzi z dysku. Sprawdź więcej, niż pomieści pamięć komputera.</translation>
+        <translation>Tylko %1 % odczytanych danych pochodzi z dysku. Sprawdź więcej, niż pomieści pamięć komputera.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
@@ -911,12 +911,13 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Uncached</source>
-        <extracomment>The system&apos;s cache was bypassed, or it was not</extracomment>
+        <extracomment>The system&apos;s cache was bypassed</extracomment>
         <translation>Bez buforowania</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>Używana</translation>
+        <extracomment>It was not bypassed</extracomment>
+        <translation>Z buforowaniem</translation>
     </message>
 </context>
 <context>
@@ -1096,11 +1097,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthSection</name>
     <message>
         <source>Failing</source>
-        <extracomment>The drive&apos;s own verdict: it is going to break, or it finds itself sound</extracomment>
+        <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
         <translation>Awaria</translation>
     </message>
     <message>
         <source>Verified</source>
+        <extracomment>The drive&apos;s own verdict: it finds itself sound</extracomment>
         <translation>W normie</translation>
     </message>
     <message>
@@ -1235,7 +1237,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>What a drive warns of</extracomment>
+        <extracomment>What a drive warns of, in a bit that is not known</extracomment>
         <translation>Nieznane</translation>
     </message>
     <message>
@@ -1253,6 +1255,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>no disk is behind %1</source>
+        <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
         <translation>za %1 nie ma żadnego dysku</translation>
     </message>
     <message>
@@ -2323,7 +2326,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>%1 % of the check</source>
-        <translation>%1% sprawdzania</translation>
+        <translation>%1 % sprawdzania</translation>
     </message>
     <message>
         <source>in one part</source>
@@ -2369,7 +2372,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>%1: %2 %</source>
         <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
-        <translation>%1: %2%</translation>
+        <translation>%1: %2 %</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
@@ -2386,15 +2389,17 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <name>LiveRunText</name>
     <message>
         <source>done</source>
-        <extracomment>What a test does: it is done, it runs, or it has not begun</extracomment>
+        <extracomment>Of a test</extracomment>
         <translation>gotowe</translation>
     </message>
     <message>
         <source>running</source>
+        <extracomment>Of a test</extracomment>
         <translation>w toku</translation>
     </message>
     <message>
         <source>to come</source>
+        <extracomment>Of a test that has not begun</extracomment>
         <translation>oczekuje</translation>
     </message>
     <message>
@@ -2481,7 +2486,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1%</translation>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -3013,16 +3018,17 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>Cache</source>
-        <extracomment>The system&apos;s cache was bypassed, or what it holds was taken from it</extracomment>
         <translation>Pamięć podręczna</translation>
     </message>
     <message>
         <source>Bypassed</source>
+        <extracomment>The system&apos;s cache was</extracomment>
         <translation>Pominięta</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>Używana</translation>
+        <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
+        <translation>Z buforowaniem</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3840,7 +3846,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>%1 %2 %</source>
         <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
-        <translation>%1 %2%</translation>
+        <translation>%1 %2 %</translation>
     </message>
     <message>
         <source>Skip This Version</source>

@@ -25,7 +25,7 @@
     <message>
         <source>%1 % – %2</source>
         <extracomment>The title of the window during a run: how much is done, and the program&apos;s name</extracomment>
-        <translation>%1% – %2</translation>
+        <translation>%1 % – %2</translation>
     </message>
 </context>
 <context>
@@ -246,7 +246,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>%1: %2 %</source>
-        <translation>%1: %2%</translation>
+        <translation>%1: %2 %</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -601,7 +601,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Só %1% do que foi lido veio do disco. Verifique mais do que cabe na memória do computador.</translation>
+        <translation>Só %1 % do que foi lido veio do disco. Verifique mais do que cabe na memória do computador.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
@@ -895,11 +895,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Uncached</source>
-        <extracomment>The system&apos;s cache was bypassed, or it was not</extracomment>
+        <extracomment>The system&apos;s cache was bypassed</extracomment>
         <translation>Sem cache</translation>
     </message>
     <message>
         <source>Cached</source>
+        <extracomment>It was not bypassed</extracomment>
         <translation>Com cache</translation>
     </message>
 </context>
@@ -1078,11 +1079,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthSection</name>
     <message>
         <source>Failing</source>
-        <extracomment>The drive&apos;s own verdict: it is going to break, or it finds itself sound</extracomment>
+        <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
         <translation>Com falha</translation>
     </message>
     <message>
         <source>Verified</source>
+        <extracomment>The drive&apos;s own verdict: it finds itself sound</extracomment>
         <translation>Aprovado</translation>
     </message>
     <message>
@@ -1217,7 +1219,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>What a drive warns of</extracomment>
+        <extracomment>What a drive warns of, in a bit that is not known</extracomment>
         <translation>Desconhecido</translation>
     </message>
     <message>
@@ -1235,6 +1237,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>no disk is behind %1</source>
+        <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
         <translation>não há disco por trás de %1</translation>
     </message>
     <message>
@@ -2304,7 +2307,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>%1 % of the check</source>
-        <translation>%1% da verificação</translation>
+        <translation>%1 % da verificação</translation>
     </message>
     <message>
         <source>in one part</source>
@@ -2349,7 +2352,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message>
         <source>%1: %2 %</source>
         <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
-        <translation>%1: %2%</translation>
+        <translation>%1: %2 %</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
@@ -2366,15 +2369,17 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <name>LiveRunText</name>
     <message>
         <source>done</source>
-        <extracomment>What a test does: it is done, it runs, or it has not begun</extracomment>
+        <extracomment>Of a test</extracomment>
         <translation>concluído</translation>
     </message>
     <message>
         <source>running</source>
+        <extracomment>Of a test</extracomment>
         <translation>em andamento</translation>
     </message>
     <message>
         <source>to come</source>
+        <extracomment>Of a test that has not begun</extracomment>
         <translation>pendente</translation>
     </message>
     <message>
@@ -2454,7 +2459,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1%</translation>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -2983,15 +2988,16 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Cache</source>
-        <extracomment>The system&apos;s cache was bypassed, or what it holds was taken from it</extracomment>
         <translation>Cache</translation>
     </message>
     <message>
         <source>Bypassed</source>
+        <extracomment>The system&apos;s cache was</extracomment>
         <translation>Ignorado</translation>
     </message>
     <message>
         <source>Cached</source>
+        <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
         <translation>Com cache</translation>
     </message>
     <message>
@@ -3808,7 +3814,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message>
         <source>%1 %2 %</source>
         <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
-        <translation>%1 %2%</translation>
+        <translation>%1 %2 %</translation>
     </message>
     <message>
         <source>Skip This Version</source>

@@ -91,7 +91,7 @@
     <message>
         <source>files/s</source>
         <extracomment>A unit, like MB/s</extracomment>
-        <translation>文件/s</translation>
+        <translation>文件/秒</translation>
     </message>
     <message>
         <source>p99 %1</source>
@@ -842,7 +842,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>ops/s</source>
         <extracomment>A unit, like IOPS: file operations per second</extracomment>
-        <translation>次/s</translation>
+        <translation>次/秒</translation>
     </message>
     <message>
         <source>%1 free</source>
@@ -879,12 +879,13 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Uncached</source>
-        <extracomment>The system&apos;s cache was bypassed, or it was not</extracomment>
+        <extracomment>The system&apos;s cache was bypassed</extracomment>
         <translation>绕过缓存</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>已使用</translation>
+        <extracomment>It was not bypassed</extracomment>
+        <translation>使用缓存</translation>
     </message>
 </context>
 <context>
@@ -1060,11 +1061,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>HealthSection</name>
     <message>
         <source>Failing</source>
-        <extracomment>The drive&apos;s own verdict: it is going to break, or it finds itself sound</extracomment>
+        <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
         <translation>即将失效</translation>
     </message>
     <message>
         <source>Verified</source>
+        <extracomment>The drive&apos;s own verdict: it finds itself sound</extracomment>
         <translation>已验证</translation>
     </message>
     <message>
@@ -1199,7 +1201,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>What a drive warns of</extracomment>
+        <extracomment>What a drive warns of, in a bit that is not known</extracomment>
         <translation>未知</translation>
     </message>
     <message>
@@ -1217,6 +1219,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>no disk is behind %1</source>
+        <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
         <translation>%1 背后没有磁盘</translation>
     </message>
     <message>
@@ -1687,9 +1690,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <source>A run file is what &quot;run --handoff&quot; writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
 transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
 it stays until your session ends, or until the system empties its temporary folder.</source>
-        <translation>记录文件是 &quot;run --handoff&quot; 为单次测试写入的文件。图片为 PNG 文件，宽 1616
-像素，边缘透明；其路径会输出到终端。无需显示器。同名图片会替换之前的图片；
-图片会保留到会话结束，或系统清空其临时文件夹为止。</translation>
+        <translation>记录文件是 &quot;run --handoff&quot; 为单次测试写入的文件。图片为 PNG
+文件，宽 1616
+像素，边缘透明；其路径会输出到终端。无需显示器。同名图片会替换之前的图片；图片会保留到会话结束，或系统清空其临时文件夹为止。</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
@@ -1770,8 +1773,8 @@ object.</source>
     <message>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
-        <translation>每个文件系统只列出一次，取其最短的挂载点。系统及其软件包和容器为自身挂载的内容不会列出。未及时应答的服务器
-没有容量数据。</translation>
+        <translation>每个文件系统只列出一次，取其最短的挂载点。系统及其软件包和容器为自身挂载的内容不会列出。
+未及时应答的服务器没有容量数据。</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
@@ -1978,8 +1981,7 @@ the output of &quot;show --format json&quot; have several. &quot;-&quot; is stan
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
         <translation>以文本显示时，用条形比较多条测试记录的数值：每类中最大的数值占满整条，没有数值处显示
-&quot;--&quot;。行宽适应终端，或为 80 列。Markdown 表格适用于论坛。CSV 每条记录一行，
-数值为纯数字，适用于电子表格和脚本。JSON
+&quot;--&quot;。行宽适应终端，或为 80 列。Markdown 表格适用于论坛。CSV 每条记录一行，数值为纯数字，适用于电子表格和脚本。JSON
 是记录文件内容的列表。</translation>
     </message>
     <message>
@@ -2347,15 +2349,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>LiveRunText</name>
     <message>
         <source>done</source>
-        <extracomment>What a test does: it is done, it runs, or it has not begun</extracomment>
+        <extracomment>Of a test</extracomment>
         <translation>已完成</translation>
     </message>
     <message>
         <source>running</source>
+        <extracomment>Of a test</extracomment>
         <translation>进行中</translation>
     </message>
     <message>
         <source>to come</source>
+        <extracomment>Of a test that has not begun</extracomment>
         <translation>待进行</translation>
     </message>
     <message>
@@ -2954,16 +2958,17 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Cache</source>
-        <extracomment>The system&apos;s cache was bypassed, or what it holds was taken from it</extracomment>
         <translation>缓存</translation>
     </message>
     <message>
         <source>Bypassed</source>
+        <extracomment>The system&apos;s cache was</extracomment>
         <translation>已绕过</translation>
     </message>
     <message>
         <source>Cached</source>
-        <translation>已使用</translation>
+        <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
+        <translation>使用缓存</translation>
     </message>
     <message>
         <source>%1: %2</source>

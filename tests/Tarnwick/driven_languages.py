@@ -122,7 +122,7 @@ def during_and_after_a_run(start, folder):
         look("its result")
         window.press("Collapse")
         window.press("Samsung SSD 990 PRO", "push button")
-        window.find("About these figures")
+        window.find("Collapse")
         look("a result with remarks")
         window.press("Share")
         window.find("Copy Image", "menu item")
