@@ -3,7 +3,14 @@ action, which is installed beside it."""
 
 import pathlib
 
-from gi.repository import Gdk, Gio, GLib, GObject, Nautilus
+import gi
+from gi.repository import Gio, GLib, GObject, Nautilus
+
+try:  # without it, the window may have to wait for the focus
+    gi.require_version("Gdk", "4.0")
+    from gi.repository import Gdk
+except (ImportError, ValueError):
+    Gdk = None
 
 APPLICATION = "tools.ondel.tarnwick"
 
@@ -15,11 +22,11 @@ def words():
 
 
 class MeasureThisFolder(GObject.GObject, Nautilus.MenuProvider):
-    def get_file_items(self, *arguments):  # up to 3.x, the window comes first
-        return self.items("selection", arguments[-1])
+    def get_file_items(self, files):
+        return self.items("selection", files)
 
-    def get_background_items(self, *arguments):
-        return self.items("ground", [arguments[-1]])
+    def get_background_items(self, folder):
+        return self.items("ground", [folder])
 
     def items(self, place, files):
         application = Gio.DesktopAppInfo.new(f"{APPLICATION}.desktop")
@@ -31,5 +38,5 @@ class MeasureThisFolder(GObject.GObject, Nautilus.MenuProvider):
         return [item]
 
     def measure(self, _item, application, url):
-        display = Gdk.Display.get_default()
+        display = Gdk and Gdk.Display.get_default()
         application.launch_uris([url], display and display.get_app_launch_context())
