@@ -297,6 +297,58 @@ min %2</source>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>ما لا يكشفه أي فحص: هل المساحة التي تشغلها ملفاتك سليمة، وما الذي يحتفظ به المحرك احتياطيًا، وهل ستدوم الكتلة التي أُصلحت.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>لا يحجز نظام الملفات هذا مساحة دون الكتابة فيها، لذا لم يمكن توزيع العيّنات. لا تدل النتيجة على سعة وحدة التخزين: أجرِ فحصًا غير سريع.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>لا يكتب الفحص السريع إلا في مواضع قليلة: ما بينها لم يُفحص.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>لا يكتب الفحص السريع إلا في مواضع قليلة. يكشف معظم السعات الزائفة في ثوانٍ؛ وعدم العثور على شيء لا يثبت شيئًا.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>فُحص أقل مما خُطط له: امتلأت وحدة التخزين قبل الأوان. ربما فقدت بيانات تخص نظام الملفات نفسه.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>فُحص أقل مما خُطط له: ربما شغلت برامج أخرى المساحة.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>تُبقي وحدة التخزين هذه ملفاتها في الذاكرة: لم يُفحص أي قرص.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>جاء من القرص %1% فقط مما قُرئ. افحص أكثر مما تتسع له ذاكرة الجهاز.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>لا يمكن رؤية القرص الذي تقع عليه وحدة التخزين هذه، لذا ربما جاء ما عاد من ذاكرة مخبئية.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>ما يُكتب بعد سعتها الفعلية يضيع، أو يتلف ما في مواضع أخرى منها. انسخ منها ما تحتاج إليه، ولا تثق بها.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>أُوقف الفحص: لا يُعرف حال ما لم تُعَد قراءته.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>لا يعيد نظام الملفات هذا ما لا يطابق المجاميع الاختبارية: لا يمكن قراءة بيانات متغيّرة عليه.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>سعة %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>لا تحفظ وحدة التخزين هذه سوى أول %1 مما يُكتب عليها.</translation>
     </message>
@@ -624,54 +676,6 @@ min %2</source>
         <translation>عند %1 (%2): عاد محتوى لم يُكتب هناك قط.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>ما لا يكشفه أي فحص: هل المساحة التي تشغلها ملفاتك سليمة، وما الذي يحتفظ به المحرك احتياطيًا، وهل ستدوم الكتلة التي أُصلحت.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>لا يحجز نظام الملفات هذا مساحة دون الكتابة فيها، لذا لم يمكن توزيع العيّنات. لا تدل النتيجة على سعة وحدة التخزين: أجرِ فحصًا غير سريع.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>لا يكتب الفحص السريع إلا في مواضع قليلة: ما بينها لم يُفحص.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>لا يكتب الفحص السريع إلا في مواضع قليلة. يكشف معظم السعات الزائفة في ثوانٍ؛ وعدم العثور على شيء لا يثبت شيئًا.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>فُحص أقل مما خُطط له: امتلأت وحدة التخزين قبل الأوان. ربما فقدت بيانات تخص نظام الملفات نفسه.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>فُحص أقل مما خُطط له: ربما شغلت برامج أخرى المساحة.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>تُبقي وحدة التخزين هذه ملفاتها في الذاكرة: لم يُفحص أي قرص.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>جاء من القرص %1% فقط مما قُرئ. افحص أكثر مما تتسع له ذاكرة الجهاز.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>لا يمكن رؤية القرص الذي تقع عليه وحدة التخزين هذه، لذا ربما جاء ما عاد من ذاكرة مخبئية.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>ما يُكتب بعد سعتها الفعلية يضيع، أو يتلف ما في مواضع أخرى منها. انسخ منها ما تحتاج إليه، ولا تثق بها.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>أُوقف الفحص: لا يُعرف حال ما لم تُعَد قراءته.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>لا يعيد نظام الملفات هذا ما لا يطابق المجاميع الاختبارية: لا يمكن قراءة بيانات متغيّرة عليه.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>وحدة التخزين</translation>
     </message>
@@ -729,10 +733,6 @@ min %2</source>
             <numerusform>وفي %1 موضعًا آخر.</numerusform>
             <numerusform>وفي %1 موضع آخر.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>سعة %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1890,14 +1890,14 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
         <translation>اطبع سلامة المحرك الذي يحوي FOLDER</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>الاستخدام: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>الاستخدام: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

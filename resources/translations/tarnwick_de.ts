@@ -297,6 +297,58 @@ min. %2</translation>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>Was keine Prüfung sagen kann: ob der Speicher unter Ihren Dateien in Ordnung ist, was das Laufwerk in Reserve hält und ob ein reparierter Block hält.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>Dieses Dateisystem reserviert keinen Speicher, ohne ihn zu beschreiben; die Stichproben konnten daher nicht verteilt werden. Das Ergebnis sagt nichts über die Größe des Datenträgers: Führen Sie eine Prüfung durch, die nicht schnell ist.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>Eine schnelle Prüfung beschreibt nur wenige Stellen: Was dazwischen liegt, wurde nicht untersucht.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Eine schnelle Prüfung beschreibt nur wenige Stellen. Sie findet die meisten falschen Kapazitäten in Sekunden; findet sie nichts, beweist das nichts.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>Es wurde weniger geprüft als geplant: Der Datenträger war zu früh voll. Möglicherweise hat er Daten des Dateisystems selbst verloren.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>Es wurde weniger geprüft als geplant: Andere Programme haben womöglich den Speicher belegt.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>Dieser Datenträger hält seine Dateien im Arbeitsspeicher: Es wurde kein Laufwerk geprüft.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>Nur %1 % des Gelesenen kamen vom Laufwerk. Prüfen Sie mehr, als der Arbeitsspeicher des Rechners fasst.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>Das Laufwerk hinter diesem Datenträger ist nicht sichtbar; was zurückkam, kann daher aus einem Cache stammen.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>Was über seine tatsächliche Größe hinaus geschrieben wird, geht verloren oder zerstört, was an anderer Stelle auf ihm liegt. Kopieren Sie, was Sie von ihm benötigen, und vertrauen Sie ihm nicht.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>Die Prüfung wurde gestoppt: Über das, was noch nicht zurückgelesen war, ist nichts bekannt.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>Dieses Dateisystem gibt nichts heraus, was nicht zu seinen Prüfsummen passt: Veränderte Daten lassen sich auf ihm nicht lesen.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>Kapazität von %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>Dieser Datenträger behält nur die ersten %1 dessen, was auf ihn geschrieben wird.</translation>
     </message>
@@ -572,54 +624,6 @@ min. %2</translation>
         <translation>Bei %1, %2: Es kam etwas zurück, das nie dort geschrieben wurde.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>Was keine Prüfung sagen kann: ob der Speicher unter Ihren Dateien in Ordnung ist, was das Laufwerk in Reserve hält und ob ein reparierter Block hält.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Dieses Dateisystem reserviert keinen Speicher, ohne ihn zu beschreiben; die Stichproben konnten daher nicht verteilt werden. Das Ergebnis sagt nichts über die Größe des Datenträgers: Führen Sie eine Prüfung durch, die nicht schnell ist.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Eine schnelle Prüfung beschreibt nur wenige Stellen: Was dazwischen liegt, wurde nicht untersucht.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Eine schnelle Prüfung beschreibt nur wenige Stellen. Sie findet die meisten falschen Kapazitäten in Sekunden; findet sie nichts, beweist das nichts.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>Es wurde weniger geprüft als geplant: Der Datenträger war zu früh voll. Möglicherweise hat er Daten des Dateisystems selbst verloren.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>Es wurde weniger geprüft als geplant: Andere Programme haben womöglich den Speicher belegt.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Dieser Datenträger hält seine Dateien im Arbeitsspeicher: Es wurde kein Laufwerk geprüft.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Nur %1 % des Gelesenen kamen vom Laufwerk. Prüfen Sie mehr, als der Arbeitsspeicher des Rechners fasst.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>Das Laufwerk hinter diesem Datenträger ist nicht sichtbar; was zurückkam, kann daher aus einem Cache stammen.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>Was über seine tatsächliche Größe hinaus geschrieben wird, geht verloren oder zerstört, was an anderer Stelle auf ihm liegt. Kopieren Sie, was Sie von ihm benötigen, und vertrauen Sie ihm nicht.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>Die Prüfung wurde gestoppt: Über das, was noch nicht zurückgelesen war, ist nichts bekannt.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Dieses Dateisystem gibt nichts heraus, was nicht zu seinen Prüfsummen passt: Veränderte Daten lassen sich auf ihm nicht lesen.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>Datenträger</translation>
     </message>
@@ -673,10 +677,6 @@ min. %2</translation>
             <numerusform>Und an %1 weiteren Stelle.</numerusform>
             <numerusform>Und an %1 weiteren Stellen.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>Kapazität von %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1814,14 +1814,14 @@ eingeschaltet. Woher die Angaben zum Zustand kommen oder warum es keine gibt, sa
         <translation>Den Zustand des Laufwerks ausgeben, auf dem FOLDER liegt</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Aufruf: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>Aufruf: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

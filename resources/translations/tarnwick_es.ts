@@ -297,6 +297,58 @@ mín. %2</translation>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>Lo que ninguna comprobación puede saber: si el espacio que ocupan sus archivos está en buen estado, qué guarda la unidad en reserva y si un bloque reparado durará.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>Este sistema de archivos no reserva espacio sin escribirlo, así que no se pudieron repartir las muestras. El resultado no dice nada del tamaño del volumen: realice una comprobación que no sea rápida.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>Una comprobación rápida escribe solo en unos pocos lugares: lo que hay entre ellos no se examinó.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Una comprobación rápida escribe solo en unos pocos lugares. Detecta la mayoría de las capacidades falsas en segundos; no encontrar nada no demuestra nada.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>Se comprobó menos de lo previsto: el volumen se llenó demasiado pronto. Puede que haya perdido datos del propio sistema de archivos.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>Se comprobó menos de lo previsto: puede que otros programas hayan ocupado el espacio.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>Este volumen guarda sus archivos en la memoria: no se comprobó ningún disco.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>Solo el %1 % de lo leído procedía del disco. Compruebe más de lo que cabe en la memoria del equipo.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>El disco que hay detrás de este volumen no es visible, por lo que lo devuelto puede proceder de una caché.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>Lo que se escribe más allá de su tamaño real se pierde o destruye lo que hay en otro lugar del volumen. Copie lo que necesite de él y no se fíe de él.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>La comprobación se detuvo: de lo que no había releído no se sabe nada.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>Este sistema de archivos no devuelve nada que no coincida con sus sumas de comprobación: en él no se pueden leer datos alterados.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>Capacidad de %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>Este volumen conserva solo los primeros %1 de lo que se escribe en él.</translation>
     </message>
@@ -572,54 +624,6 @@ mín. %2</translation>
         <translation>En %1, %2: se devolvió algo que nunca se escribió ahí.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>Lo que ninguna comprobación puede saber: si el espacio que ocupan sus archivos está en buen estado, qué guarda la unidad en reserva y si un bloque reparado durará.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Este sistema de archivos no reserva espacio sin escribirlo, así que no se pudieron repartir las muestras. El resultado no dice nada del tamaño del volumen: realice una comprobación que no sea rápida.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Una comprobación rápida escribe solo en unos pocos lugares: lo que hay entre ellos no se examinó.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Una comprobación rápida escribe solo en unos pocos lugares. Detecta la mayoría de las capacidades falsas en segundos; no encontrar nada no demuestra nada.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>Se comprobó menos de lo previsto: el volumen se llenó demasiado pronto. Puede que haya perdido datos del propio sistema de archivos.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>Se comprobó menos de lo previsto: puede que otros programas hayan ocupado el espacio.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Este volumen guarda sus archivos en la memoria: no se comprobó ningún disco.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Solo el %1 % de lo leído procedía del disco. Compruebe más de lo que cabe en la memoria del equipo.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>El disco que hay detrás de este volumen no es visible, por lo que lo devuelto puede proceder de una caché.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>Lo que se escribe más allá de su tamaño real se pierde o destruye lo que hay en otro lugar del volumen. Copie lo que necesite de él y no se fíe de él.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>La comprobación se detuvo: de lo que no había releído no se sabe nada.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Este sistema de archivos no devuelve nada que no coincida con sus sumas de comprobación: en él no se pueden leer datos alterados.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>Volumen</translation>
     </message>
@@ -673,10 +677,6 @@ mín. %2</translation>
             <numerusform>Y en %1 lugar más.</numerusform>
             <numerusform>Y en %1 lugares más.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>Capacidad de %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1814,14 +1814,14 @@ en ella. De dónde procede su estado de salud, o por qué no lo hay, lo dice «f
         <translation>Mostrar la salud de la unidad que contiene FOLDER</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Uso: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>Uso: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

@@ -297,6 +297,58 @@ min %2</translation>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>Ce qu’aucune vérification ne peut dire : si l’espace occupé par vos fichiers est sain, ce que le disque garde en réserve, et si un bloc réparé tiendra.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>Ce système de fichiers ne réserve pas d’espace sans l’écrire ; les échantillons n’ont donc pas pu être répartis. Le résultat ne dit rien de la taille du volume : lancez une vérification qui ne soit pas rapide.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>Une vérification rapide n’écrit qu’à quelques endroits : ce qui se trouve entre eux n’a pas été examiné.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Une vérification rapide n’écrit qu’à quelques endroits. Elle décèle la plupart des fausses capacités en quelques secondes ; ne rien trouver ne prouve rien.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>L’espace vérifié est moindre que prévu : le volume a été plein trop tôt. Il a peut-être perdu des données du système de fichiers lui-même.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>L’espace vérifié est moindre que prévu : d’autres programmes ont pu l’occuper.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>Ce volume garde ses fichiers en mémoire : aucun disque n’a été vérifié.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>Seuls %1 % de ce qui a été lu venaient du disque. Vérifiez plus que ce que la mémoire de la machine peut contenir.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>Le disque derrière ce volume n’est pas visible ; ce qui a été restitué a donc pu venir d’un cache.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>Ce qui est écrit au-delà de sa taille réelle est perdu, ou détruit ce qui se trouve ailleurs sur ce volume. Copiez ce dont vous avez besoin, et ne lui faites pas confiance.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>La vérification a été arrêtée : ce qu’elle n’avait pas relu n’est pas connu.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>Ce système de fichiers ne restitue rien qui ne corresponde à ses sommes de contrôle : des données altérées ne peuvent pas y être lues.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>Capacité de %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>Ce volume ne conserve que les premiers %1 de ce qu’on y écrit.</translation>
     </message>
@@ -572,54 +624,6 @@ min %2</translation>
         <translation>À %1, %2 : quelque chose qui n’y a jamais été écrit a été restitué.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>Ce qu’aucune vérification ne peut dire : si l’espace occupé par vos fichiers est sain, ce que le disque garde en réserve, et si un bloc réparé tiendra.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Ce système de fichiers ne réserve pas d’espace sans l’écrire ; les échantillons n’ont donc pas pu être répartis. Le résultat ne dit rien de la taille du volume : lancez une vérification qui ne soit pas rapide.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Une vérification rapide n’écrit qu’à quelques endroits : ce qui se trouve entre eux n’a pas été examiné.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Une vérification rapide n’écrit qu’à quelques endroits. Elle décèle la plupart des fausses capacités en quelques secondes ; ne rien trouver ne prouve rien.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>L’espace vérifié est moindre que prévu : le volume a été plein trop tôt. Il a peut-être perdu des données du système de fichiers lui-même.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>L’espace vérifié est moindre que prévu : d’autres programmes ont pu l’occuper.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Ce volume garde ses fichiers en mémoire : aucun disque n’a été vérifié.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Seuls %1 % de ce qui a été lu venaient du disque. Vérifiez plus que ce que la mémoire de la machine peut contenir.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>Le disque derrière ce volume n’est pas visible ; ce qui a été restitué a donc pu venir d’un cache.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>Ce qui est écrit au-delà de sa taille réelle est perdu, ou détruit ce qui se trouve ailleurs sur ce volume. Copiez ce dont vous avez besoin, et ne lui faites pas confiance.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>La vérification a été arrêtée : ce qu’elle n’avait pas relu n’est pas connu.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Ce système de fichiers ne restitue rien qui ne corresponde à ses sommes de contrôle : des données altérées ne peuvent pas y être lues.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>Volume</translation>
     </message>
@@ -673,10 +677,6 @@ min %2</translation>
             <numerusform>Et à %1 autre endroit.</numerusform>
             <numerusform>Et à %1 autres endroits.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>Capacité de %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1814,14 +1814,14 @@ est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, �
         <translation>Afficher l’état de santé du disque qui contient FOLDER</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Utilisation : %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>Utilisation : %1</translation>
     </message>
     <message>
         <source>Show this text</source>

@@ -297,6 +297,58 @@ min %2</source>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>מה ששום בדיקה אינה יכולה לגלות: האם השטח שבו שמורים הקבצים שלך תקין, מה נותר ברזרבה של הכונן והאם בלוק שתוקן יחזיק מעמד.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>מערכת קבצים זו אינה מקצה שטח בלי לכתוב אליו, ולכן לא ניתן היה לפזר את הדגימות. התוצאה אינה מעידה על גודל הכרך: יש להריץ בדיקה שאינה מהירה.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>בדיקה מהירה כותבת רק למקומות ספורים: מה שביניהם לא נבדק.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>בדיקה מהירה כותבת רק למקומות ספורים. היא מגלה את רוב הקיבולות המזויפות בתוך שניות; אם לא נמצא דבר, אין בכך הוכחה.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>נבדק פחות מהמתוכנן: הכרך התמלא מוקדם מדי. ייתכן שאבדו בו נתונים של מערכת הקבצים עצמה.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>נבדק פחות מהמתוכנן: ייתכן שתוכניות אחרות תפסו את השטח.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>כרך זה שומר את קבציו בזיכרון: שום דיסק לא נבדק.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>רק %1% ממה שנקרא הגיעו מהדיסק. יש לבדוק יותר ממה שזיכרון המחשב יכול להכיל.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>לא ניתן לראות את הדיסק שמאחורי כרך זה, ולכן ייתכן שמה שחזר הגיע ממטמון.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>מה שנכתב מעבר לקיבולת האמיתית אובד, או הורס את מה שנמצא בו במקום אחר. יש להעתיק ממנו את מה שדרוש ולא לסמוך עליו.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>הבדיקה נעצרה: אין מידע על מה שלא נקרא בחזרה.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>מערכת קבצים זו אינה מחזירה דבר שאינו תואם לסכומי הביקורת שלה: לא ניתן לקרוא בה נתונים שהשתנו.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>הקיבולת של %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>כרך זה שומר רק את %1 הראשונים ממה שנכתב אליו.</translation>
     </message>
@@ -572,54 +624,6 @@ min %2</source>
         <translation>במיקום %1 (%2): חזר משהו שמעולם לא נכתב שם.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>מה ששום בדיקה אינה יכולה לגלות: האם השטח שבו שמורים הקבצים שלך תקין, מה נותר ברזרבה של הכונן והאם בלוק שתוקן יחזיק מעמד.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>מערכת קבצים זו אינה מקצה שטח בלי לכתוב אליו, ולכן לא ניתן היה לפזר את הדגימות. התוצאה אינה מעידה על גודל הכרך: יש להריץ בדיקה שאינה מהירה.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>בדיקה מהירה כותבת רק למקומות ספורים: מה שביניהם לא נבדק.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>בדיקה מהירה כותבת רק למקומות ספורים. היא מגלה את רוב הקיבולות המזויפות בתוך שניות; אם לא נמצא דבר, אין בכך הוכחה.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>נבדק פחות מהמתוכנן: הכרך התמלא מוקדם מדי. ייתכן שאבדו בו נתונים של מערכת הקבצים עצמה.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>נבדק פחות מהמתוכנן: ייתכן שתוכניות אחרות תפסו את השטח.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>כרך זה שומר את קבציו בזיכרון: שום דיסק לא נבדק.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>רק %1% ממה שנקרא הגיעו מהדיסק. יש לבדוק יותר ממה שזיכרון המחשב יכול להכיל.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>לא ניתן לראות את הדיסק שמאחורי כרך זה, ולכן ייתכן שמה שחזר הגיע ממטמון.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>מה שנכתב מעבר לקיבולת האמיתית אובד, או הורס את מה שנמצא בו במקום אחר. יש להעתיק ממנו את מה שדרוש ולא לסמוך עליו.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>הבדיקה נעצרה: אין מידע על מה שלא נקרא בחזרה.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>מערכת קבצים זו אינה מחזירה דבר שאינו תואם לסכומי הביקורת שלה: לא ניתן לקרוא בה נתונים שהשתנו.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>כרך</translation>
     </message>
@@ -673,10 +677,6 @@ min %2</source>
             <numerusform>ובמקום אחד נוסף (%1).</numerusform>
             <numerusform>וב־%1 מקומות נוספים.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>הקיבולת של %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1814,14 +1814,14 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
         <translation>הדפסת הבריאות של הכונן שמכיל את FOLDER</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>שימוש: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>שימוש: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

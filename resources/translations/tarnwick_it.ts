@@ -297,6 +297,58 @@ min %2</translation>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>Ciò che nessun controllo può dire: se lo spazio occupato dai tuoi file è sano, che cosa l’unità tiene di riserva e se un blocco riparato durerà.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>Questo file system non riserva spazio senza scriverlo, perciò non è stato possibile distribuire i campioni. Il risultato non dice nulla sulla dimensione del volume: esegui un controllo non rapido.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>Un controllo rapido scrive solo in pochi punti: ciò che sta tra l’uno e l’altro non è stato esaminato.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Un controllo rapido scrive solo in pochi punti. Trova la maggior parte delle capacità false in pochi secondi; non trovare nulla non prova nulla.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>È stato controllato meno del previsto: il volume si è riempito troppo presto. Potrebbe aver perso dati del file system stesso.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>È stato controllato meno del previsto: altri programmi potrebbero aver occupato lo spazio.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>Questo volume tiene i suoi file in memoria: nessun disco è stato controllato.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>Dal disco proveniva solo %1 % di quanto letto. Controlla più di quanto la memoria del computer possa contenere.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>Il disco dietro questo volume non è visibile, perciò quanto restituito può provenire da una cache.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>Ciò che viene scritto oltre la sua dimensione reale va perso o distrugge ciò che si trova altrove sul volume. Copia quello che ti serve e non fidarti di esso.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>Il controllo è stato fermato: di ciò che non aveva riletto non si sa nulla.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>Questo file system non restituisce nulla che non corrisponda alle proprie somme di controllo: i dati alterati non si possono leggere.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>Capacità di %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>Questo volume conserva solo i primi %1 di ciò che vi viene scritto.</translation>
     </message>
@@ -572,54 +624,6 @@ min %2</translation>
         <translation>A %1, %2: è stato restituito qualcosa che non vi è mai stato scritto.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>Ciò che nessun controllo può dire: se lo spazio occupato dai tuoi file è sano, che cosa l’unità tiene di riserva e se un blocco riparato durerà.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Questo file system non riserva spazio senza scriverlo, perciò non è stato possibile distribuire i campioni. Il risultato non dice nulla sulla dimensione del volume: esegui un controllo non rapido.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Un controllo rapido scrive solo in pochi punti: ciò che sta tra l’uno e l’altro non è stato esaminato.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Un controllo rapido scrive solo in pochi punti. Trova la maggior parte delle capacità false in pochi secondi; non trovare nulla non prova nulla.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>È stato controllato meno del previsto: il volume si è riempito troppo presto. Potrebbe aver perso dati del file system stesso.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>È stato controllato meno del previsto: altri programmi potrebbero aver occupato lo spazio.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Questo volume tiene i suoi file in memoria: nessun disco è stato controllato.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Dal disco proveniva solo %1 % di quanto letto. Controlla più di quanto la memoria del computer possa contenere.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>Il disco dietro questo volume non è visibile, perciò quanto restituito può provenire da una cache.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>Ciò che viene scritto oltre la sua dimensione reale va perso o distrugge ciò che si trova altrove sul volume. Copia quello che ti serve e non fidarti di esso.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>Il controllo è stato fermato: di ciò che non aveva riletto non si sa nulla.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Questo file system non restituisce nulla che non corrisponda alle proprie somme di controllo: i dati alterati non si possono leggere.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>Volume</translation>
     </message>
@@ -673,10 +677,6 @@ min %2</translation>
             <numerusform>E in %1 altro punto.</numerusform>
             <numerusform>E in altri %1 punti.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>Capacità di %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1814,14 +1814,14 @@ attivato. Da dove proviene il suo stato di salute, o perché manca, lo dice «fa
         <translation>Stampa la salute dell’unità che contiene FOLDER</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Uso: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>Uso: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

@@ -297,6 +297,58 @@ min %2</source>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>どの検査でも分からないこと: 既存のファイルが占める領域が健全か、ドライブがどれだけ予備を残しているか、修復されたブロックが今後も持つか。</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>このファイルシステムは書き込まずに領域を確保できないため、サンプルを分散できませんでした。結果からボリュームの容量については何も言えません。簡易ではない検査を実行してください。</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>簡易検査は数か所にしか書き込みません。その間の部分は調べていません。</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>簡易検査は数か所にしか書き込みません。容量の偽装の大半は数秒で見つかりますが、見つからなくても問題がない証明にはなりません。</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>予定より少ない量しか検査されませんでした。ボリュームが早くいっぱいになりすぎました。ファイルシステム自体のデータが失われた可能性があります。</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>予定より少ない量しか検査されませんでした。ほかのプログラムが領域を使用した可能性があります。</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>このボリュームはファイルをメモリーに置いています。ディスクは検査されていません。</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>読み取った内容のうち、ディスクから読み取られたのは %1% だけです。このコンピューターのメモリーに収まらない量を検査してください。</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>このボリュームの背後にあるディスクを特定できないため、読み戻した内容はキャッシュから返された可能性があります。</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>実容量を超えて書き込んだ内容は、失われるか、ほかの場所の内容を破壊します。必要なものをコピーして取り出し、このボリュームは信用しないでください。</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>検査が停止されたため、読み戻していない部分については分かりません。</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>このファイルシステムはチェックサムと一致しない内容を返しません。変わったデータをこの上で読み取ることはできません。</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>%1の容量</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>このボリュームは、書き込まれた内容のうち先頭の %1 しか保持しません。</translation>
     </message>
@@ -559,54 +611,6 @@ min %2</source>
         <translation>%1（%2）: そこに書き込んだことのない内容が返されました。</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>どの検査でも分からないこと: 既存のファイルが占める領域が健全か、ドライブがどれだけ予備を残しているか、修復されたブロックが今後も持つか。</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>このファイルシステムは書き込まずに領域を確保できないため、サンプルを分散できませんでした。結果からボリュームの容量については何も言えません。簡易ではない検査を実行してください。</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>簡易検査は数か所にしか書き込みません。その間の部分は調べていません。</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>簡易検査は数か所にしか書き込みません。容量の偽装の大半は数秒で見つかりますが、見つからなくても問題がない証明にはなりません。</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>予定より少ない量しか検査されませんでした。ボリュームが早くいっぱいになりすぎました。ファイルシステム自体のデータが失われた可能性があります。</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>予定より少ない量しか検査されませんでした。ほかのプログラムが領域を使用した可能性があります。</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>このボリュームはファイルをメモリーに置いています。ディスクは検査されていません。</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>読み取った内容のうち、ディスクから読み取られたのは %1% だけです。このコンピューターのメモリーに収まらない量を検査してください。</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>このボリュームの背後にあるディスクを特定できないため、読み戻した内容はキャッシュから返された可能性があります。</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>実容量を超えて書き込んだ内容は、失われるか、ほかの場所の内容を破壊します。必要なものをコピーして取り出し、このボリュームは信用しないでください。</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>検査が停止されたため、読み戻していない部分については分かりません。</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>このファイルシステムはチェックサムと一致しない内容を返しません。変わったデータをこの上で読み取ることはできません。</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>ボリューム</translation>
     </message>
@@ -659,10 +663,6 @@ min %2</source>
         <translation>
             <numerusform>ほかに %1 か所。</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>%1の容量</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1795,14 +1795,14 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
         <translation>FOLDER があるドライブの健康状態を出力する</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>使い方: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>使い方: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

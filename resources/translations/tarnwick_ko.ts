@@ -297,6 +297,58 @@ min %2</source>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>어떤 검사로도 알 수 없는 것: 기존 파일이 차지한 공간이 온전한지, 드라이브에 예비 공간이 얼마나 남았는지, 복구된 블록이 오래갈지 여부.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>이 파일 시스템은 기록하지 않고는 공간을 확보하지 못하므로 샘플을 분산할 수 없었습니다. 결과로는 볼륨의 크기를 알 수 없습니다. 빠른 검사가 아닌 검사를 실행하십시오.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>빠른 검사는 몇 곳에만 기록합니다. 그 사이는 살펴보지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>빠른 검사는 몇 곳에만 기록합니다. 대부분의 가짜 용량을 몇 초 만에 찾아내지만, 찾지 못했다고 해서 문제가 없다는 증명은 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>계획보다 적게 검사했습니다. 볼륨이 너무 일찍 가득 찼습니다. 파일 시스템 자체의 데이터가 손실되었을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>계획보다 적게 검사했습니다. 다른 프로그램이 공간을 차지했을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>이 볼륨은 파일을 메모리에 보관합니다. 디스크는 검사하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>읽은 내용 중 %1%만 디스크에서 왔습니다. 컴퓨터의 메모리보다 많은 양을 검사하십시오.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>이 볼륨이 있는 디스크를 확인할 수 없으므로, 읽은 내용이 캐시에서 왔을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>실제 크기를 넘어 기록한 내용은 손실되거나 다른 곳의 내용을 파괴합니다. 필요한 내용을 복사해 두고, 이 볼륨을 신뢰하지 마십시오.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>검사가 중지되어 다시 읽지 않은 부분은 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>이 파일 시스템은 체크섬과 일치하지 않는 내용을 돌려주지 않습니다. 변경된 데이터를 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>%1의 용량</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>이 볼륨은 기록한 내용 중 처음 %1만 유지합니다.</translation>
     </message>
@@ -559,54 +611,6 @@ min %2</source>
         <translation>%1(%2): 이곳에 기록한 적이 없는 내용이 읽혔습니다.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>어떤 검사로도 알 수 없는 것: 기존 파일이 차지한 공간이 온전한지, 드라이브에 예비 공간이 얼마나 남았는지, 복구된 블록이 오래갈지 여부.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>이 파일 시스템은 기록하지 않고는 공간을 확보하지 못하므로 샘플을 분산할 수 없었습니다. 결과로는 볼륨의 크기를 알 수 없습니다. 빠른 검사가 아닌 검사를 실행하십시오.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>빠른 검사는 몇 곳에만 기록합니다. 그 사이는 살펴보지 않았습니다.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>빠른 검사는 몇 곳에만 기록합니다. 대부분의 가짜 용량을 몇 초 만에 찾아내지만, 찾지 못했다고 해서 문제가 없다는 증명은 아닙니다.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>계획보다 적게 검사했습니다. 볼륨이 너무 일찍 가득 찼습니다. 파일 시스템 자체의 데이터가 손실되었을 수 있습니다.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>계획보다 적게 검사했습니다. 다른 프로그램이 공간을 차지했을 수 있습니다.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>이 볼륨은 파일을 메모리에 보관합니다. 디스크는 검사하지 않았습니다.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>읽은 내용 중 %1%만 디스크에서 왔습니다. 컴퓨터의 메모리보다 많은 양을 검사하십시오.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>이 볼륨이 있는 디스크를 확인할 수 없으므로, 읽은 내용이 캐시에서 왔을 수 있습니다.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>실제 크기를 넘어 기록한 내용은 손실되거나 다른 곳의 내용을 파괴합니다. 필요한 내용을 복사해 두고, 이 볼륨을 신뢰하지 마십시오.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>검사가 중지되어 다시 읽지 않은 부분은 알 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>이 파일 시스템은 체크섬과 일치하지 않는 내용을 돌려주지 않습니다. 변경된 데이터를 읽을 수 없습니다.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>볼륨</translation>
     </message>
@@ -659,10 +663,6 @@ min %2</source>
         <translation>
             <numerusform>그 외 %1곳 더 있습니다.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>%1의 용량</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1795,14 +1795,14 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
         <translation>FOLDER가 있는 드라이브의 상태를 출력합니다</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>사용법: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>사용법: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

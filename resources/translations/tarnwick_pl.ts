@@ -297,6 +297,58 @@ min. %2</translation>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>Czego nie wykaże żadne sprawdzanie: czy miejsce zajęte przez pliki jest sprawne, ile napęd trzyma w rezerwie i czy naprawiony blok wytrzyma.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>Ten system plików nie rezerwuje miejsca bez zapisywania go, więc nie udało się rozproszyć próbek. Wynik nic nie mówi o rozmiarze woluminu: wykonaj sprawdzanie inne niż szybkie.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>Szybkie sprawdzanie zapisuje tylko w kilku miejscach: tego, co leży między nimi, nie zbadano.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Szybkie sprawdzanie zapisuje tylko w kilku miejscach. W kilka sekund wykrywa większość fałszywych pojemności; jeśli niczego nie znajdzie, niczego to nie dowodzi.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>Sprawdzono mniej, niż planowano: wolumin zapełnił się zbyt wcześnie. Mógł utracić dane samego systemu plików.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>Sprawdzono mniej, niż planowano: miejsce mogły zająć inne programy.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>Ten wolumin trzyma pliki w pamięci: nie sprawdzono żadnego dysku.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>Tylko %1 % odczytanych danych pochodzi z dysku. Sprawdź więcej, niż pomieści pamięć komputera.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>Dysku tego woluminu nie widać, więc odczytane dane mogły pochodzić z pamięci podręcznej.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>To, co zapisano ponad rzeczywisty rozmiar, przepada albo niszczy inne dane na woluminie. Skopiuj z niego to, co potrzebne, i nie polegaj na nim.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>Sprawdzanie zatrzymano: nie wiadomo, w jakim stanie jest to, czego nie odczytano.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>Ten system plików nie zwraca niczego, co nie zgadza się z jego sumami kontrolnymi: nie można na nim odczytać zmienionych danych.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>Pojemność %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>Ten wolumin zachowuje tylko pierwsze %1 z tego, co na nim zapisano.</translation>
     </message>
@@ -585,54 +637,6 @@ min. %2</translation>
         <translation>W miejscu %1, %2: odczytano coś, czego nigdy tam nie zapisano.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>Czego nie wykaże żadne sprawdzanie: czy miejsce zajęte przez pliki jest sprawne, ile napęd trzyma w rezerwie i czy naprawiony blok wytrzyma.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Ten system plików nie rezerwuje miejsca bez zapisywania go, więc nie udało się rozproszyć próbek. Wynik nic nie mówi o rozmiarze woluminu: wykonaj sprawdzanie inne niż szybkie.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Szybkie sprawdzanie zapisuje tylko w kilku miejscach: tego, co leży między nimi, nie zbadano.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Szybkie sprawdzanie zapisuje tylko w kilku miejscach. W kilka sekund wykrywa większość fałszywych pojemności; jeśli niczego nie znajdzie, niczego to nie dowodzi.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>Sprawdzono mniej, niż planowano: wolumin zapełnił się zbyt wcześnie. Mógł utracić dane samego systemu plików.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>Sprawdzono mniej, niż planowano: miejsce mogły zająć inne programy.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Ten wolumin trzyma pliki w pamięci: nie sprawdzono żadnego dysku.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Tylko %1 % odczytanych danych pochodzi z dysku. Sprawdź więcej, niż pomieści pamięć komputera.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>Dysku tego woluminu nie widać, więc odczytane dane mogły pochodzić z pamięci podręcznej.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>To, co zapisano ponad rzeczywisty rozmiar, przepada albo niszczy inne dane na woluminie. Skopiuj z niego to, co potrzebne, i nie polegaj na nim.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>Sprawdzanie zatrzymano: nie wiadomo, w jakim stanie jest to, czego nie odczytano.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Ten system plików nie zwraca niczego, co nie zgadza się z jego sumami kontrolnymi: nie można na nim odczytać zmienionych danych.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>Wolumin</translation>
     </message>
@@ -687,10 +691,6 @@ min. %2</translation>
             <numerusform>I w jeszcze %1 miejscach.</numerusform>
             <numerusform>I w jeszcze %1 miejscach.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>Pojemność %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1833,14 +1833,14 @@ albo dlaczego ich nie ma, podaje &quot;facts&quot;.</translation>
         <translation>Wypisuje kondycję napędu, na którym jest FOLDER</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Użycie: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>Użycie: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

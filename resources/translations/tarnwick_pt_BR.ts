@@ -297,6 +297,58 @@ mín. %2</translation>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>O que nenhuma verificação revela: se o espaço ocupado pelos seus arquivos está íntegro, o que a unidade mantém de reserva e se um bloco reparado vai durar.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>Este sistema de arquivos não reserva espaço sem gravá-lo, por isso não foi possível espalhar as amostras. O resultado não diz nada sobre o tamanho do volume: faça uma verificação que não seja a rápida.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>Uma verificação rápida grava só em alguns lugares: o que há entre eles não foi examinado.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Uma verificação rápida grava só em alguns lugares. Ela descobre a maioria das capacidades falsas em segundos; não encontrar nada não prova nada.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>Foi verificado menos que o planejado: o volume ficou cheio cedo demais. Ele pode ter perdido dados do próprio sistema de arquivos.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>Foi verificado menos que o planejado: outros programas podem ter ocupado o espaço.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>Este volume mantém os arquivos na memória: nenhum disco foi verificado.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>Só %1 % do que foi lido veio do disco. Verifique mais do que cabe na memória do computador.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>O disco por trás deste volume não pode ser visto, então o que voltou pode ter vindo de um cache.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>O que for gravado além do tamanho real se perde ou destrói o que está em outro lugar do volume. Copie dele o que precisar e não confie nele.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>A verificação foi interrompida: não se sabe como está o que ela não leu de volta.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>Este sistema de arquivos não devolve nada que não corresponda às suas somas de verificação: nele não é possível ler dados alterados.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>Capacidade de %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>Este volume só conserva os primeiros %1 do que é gravado nele.</translation>
     </message>
@@ -572,54 +624,6 @@ mín. %2</translation>
         <translation>Na posição %1, %2: voltou algo que nunca foi gravado ali.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>O que nenhuma verificação revela: se o espaço ocupado pelos seus arquivos está íntegro, o que a unidade mantém de reserva e se um bloco reparado vai durar.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Este sistema de arquivos não reserva espaço sem gravá-lo, por isso não foi possível espalhar as amostras. O resultado não diz nada sobre o tamanho do volume: faça uma verificação que não seja a rápida.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Uma verificação rápida grava só em alguns lugares: o que há entre eles não foi examinado.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Uma verificação rápida grava só em alguns lugares. Ela descobre a maioria das capacidades falsas em segundos; não encontrar nada não prova nada.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>Foi verificado menos que o planejado: o volume ficou cheio cedo demais. Ele pode ter perdido dados do próprio sistema de arquivos.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>Foi verificado menos que o planejado: outros programas podem ter ocupado o espaço.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Este volume mantém os arquivos na memória: nenhum disco foi verificado.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Só %1 % do que foi lido veio do disco. Verifique mais do que cabe na memória do computador.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>O disco por trás deste volume não pode ser visto, então o que voltou pode ter vindo de um cache.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>O que for gravado além do tamanho real se perde ou destrói o que está em outro lugar do volume. Copie dele o que precisar e não confie nele.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>A verificação foi interrompida: não se sabe como está o que ela não leu de volta.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Este sistema de arquivos não devolve nada que não corresponda às suas somas de verificação: nele não é possível ler dados alterados.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>Volume</translation>
     </message>
@@ -673,10 +677,6 @@ mín. %2</translation>
             <numerusform>E em mais %1 lugar.</numerusform>
             <numerusform>E em mais %1 lugares.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>Capacidade de %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1814,14 +1814,14 @@ que não há nenhuma, é informado por &quot;facts&quot;.</translation>
         <translation>Exibe a saúde da unidade que contém FOLDER</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Uso: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>Uso: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

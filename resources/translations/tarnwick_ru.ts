@@ -297,6 +297,58 @@ min %2</source>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>Чего не покажет ни одна проверка: исправно ли место под вашими файлами, что накопитель держит в резерве и надолго ли хватит исправленного блока.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>Эта файловая система не резервирует место без записи, поэтому разнести пробные блоки не удалось. О размере тома результат ничего не говорит: проведите не быструю, а полную проверку.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>Быстрая проверка пишет лишь в несколько мест: то, что лежит между ними, не проверено.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Быстрая проверка пишет лишь в несколько мест. Она за секунды находит большинство подделок; если ничего не найдено, это ничего не доказывает.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>Проверено меньше, чем намечалось: том заполнился слишком рано. Возможно, он потерял данные самой файловой системы.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>Проверено меньше, чем намечалось: место могли занять другие программы.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>Этот том хранит файлы в памяти: ни один диск не проверен.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>Лишь %1 % прочитанного получено с диска. Проверьте больше, чем вмещает память компьютера.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>Диск, на котором лежит этот том, не виден, поэтому прочитанное могло поступить из кэша.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>Записанное сверх реального размера теряется или уничтожает другие данные на томе. Скопируйте с него нужное и не доверяйте ему.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>Проверка остановлена: о том, что она не прочитала, ничего не известно.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>Эта файловая система не выдаёт ничего, что не совпадает с её контрольными суммами: изменённые данные на ней прочитать нельзя.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>Ёмкость %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>Из записанного этот том хранит лишь первые %1.</translation>
     </message>
@@ -585,54 +637,6 @@ min %2</source>
         <translation>На отметке %1, %2: прочитано то, что сюда никогда не записывалось.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>Чего не покажет ни одна проверка: исправно ли место под вашими файлами, что накопитель держит в резерве и надолго ли хватит исправленного блока.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Эта файловая система не резервирует место без записи, поэтому разнести пробные блоки не удалось. О размере тома результат ничего не говорит: проведите не быструю, а полную проверку.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Быстрая проверка пишет лишь в несколько мест: то, что лежит между ними, не проверено.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Быстрая проверка пишет лишь в несколько мест. Она за секунды находит большинство подделок; если ничего не найдено, это ничего не доказывает.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>Проверено меньше, чем намечалось: том заполнился слишком рано. Возможно, он потерял данные самой файловой системы.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>Проверено меньше, чем намечалось: место могли занять другие программы.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Этот том хранит файлы в памяти: ни один диск не проверен.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Лишь %1 % прочитанного получено с диска. Проверьте больше, чем вмещает память компьютера.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>Диск, на котором лежит этот том, не виден, поэтому прочитанное могло поступить из кэша.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>Записанное сверх реального размера теряется или уничтожает другие данные на томе. Скопируйте с него нужное и не доверяйте ему.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>Проверка остановлена: о том, что она не прочитала, ничего не известно.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Эта файловая система не выдаёт ничего, что не совпадает с её контрольными суммами: изменённые данные на ней прочитать нельзя.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>Том</translation>
     </message>
@@ -687,10 +691,6 @@ min %2</source>
             <numerusform>И ещё в %1 местах.</numerusform>
             <numerusform>И ещё в %1 местах.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>Ёмкость %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1833,14 +1833,14 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
         <translation>Вывести состояние накопителя, на котором лежит FOLDER</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Использование: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>Использование: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

@@ -297,6 +297,58 @@ en düşük %2</translation>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>Hiçbir denetimin söyleyemeyeceği şeyler: dosyalarınızın altındaki alanın sağlam olup olmadığı, sürücünün yedekte ne tuttuğu ve onarılan bir bloğun dayanıp dayanmayacağı.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>Bu dosya sistemi, yazmadan yer ayırmadığından örnekler dağıtılamadı. Sonuç, birimin boyutu hakkında bir şey söylemez: Hızlı olmayan bir denetim yapın.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>Hızlı denetim yalnızca birkaç yere yazar: Aralarında kalan yerlere bakılmadı.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Hızlı denetim yalnızca birkaç yere yazar. Sahte kapasitelerin çoğunu saniyeler içinde bulur; bir şey bulmaması hiçbir şeyi kanıtlamaz.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>Planlanandan azı denetlendi: Birim çok erken doldu. Dosya sisteminin kendi verilerini yitirmiş olabilir.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>Planlanandan azı denetlendi: Alanı başka programlar kaplamış olabilir.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>Bu birim dosyalarını bellekte tutuyor: Hiçbir disk denetlenmedi.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>Okunanların diskten gelen bölümü yalnızca %1 %. Makinenin belleğine sığandan fazlasını denetleyin.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>Bu birimin arkasındaki disk görülemiyor; bu yüzden geri okunanlar bir önbellekten gelmiş olabilir.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>Gerçek boyutunun ötesine yazılanlar kaybolur veya birimdeki başka verileri yok eder. Gerekenleri kopyalayıp alın ve bu birime güvenmeyin.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>Denetim durduruldu: Geri okumadıklarının durumu bilinmiyor.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>Bu dosya sistemi, sağlama toplamlarıyla uyuşmayan hiçbir şeyi döndürmez: Değişmiş veriler bu birimde okunamaz.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>%1 kapasitesi</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>Bu birim, üzerine yazılanların yalnızca ilk %1 kadarını koruyor.</translation>
     </message>
@@ -559,54 +611,6 @@ en düşük %2</translation>
         <translation>%1 konumunda, %2: oraya hiç yazılmamış bir şey geri okundu.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>Hiçbir denetimin söyleyemeyeceği şeyler: dosyalarınızın altındaki alanın sağlam olup olmadığı, sürücünün yedekte ne tuttuğu ve onarılan bir bloğun dayanıp dayanmayacağı.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Bu dosya sistemi, yazmadan yer ayırmadığından örnekler dağıtılamadı. Sonuç, birimin boyutu hakkında bir şey söylemez: Hızlı olmayan bir denetim yapın.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Hızlı denetim yalnızca birkaç yere yazar: Aralarında kalan yerlere bakılmadı.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Hızlı denetim yalnızca birkaç yere yazar. Sahte kapasitelerin çoğunu saniyeler içinde bulur; bir şey bulmaması hiçbir şeyi kanıtlamaz.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>Planlanandan azı denetlendi: Birim çok erken doldu. Dosya sisteminin kendi verilerini yitirmiş olabilir.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>Planlanandan azı denetlendi: Alanı başka programlar kaplamış olabilir.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Bu birim dosyalarını bellekte tutuyor: Hiçbir disk denetlenmedi.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Okunanların diskten gelen bölümü yalnızca %1 %. Makinenin belleğine sığandan fazlasını denetleyin.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>Bu birimin arkasındaki disk görülemiyor; bu yüzden geri okunanlar bir önbellekten gelmiş olabilir.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>Gerçek boyutunun ötesine yazılanlar kaybolur veya birimdeki başka verileri yok eder. Gerekenleri kopyalayıp alın ve bu birime güvenmeyin.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>Denetim durduruldu: Geri okumadıklarının durumu bilinmiyor.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Bu dosya sistemi, sağlama toplamlarıyla uyuşmayan hiçbir şeyi döndürmez: Değişmiş veriler bu birimde okunamaz.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>Birim</translation>
     </message>
@@ -659,10 +663,6 @@ en düşük %2</translation>
         <translation>
             <numerusform>Ve %1 yerde daha.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>%1 kapasitesi</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1795,14 +1795,14 @@ geldiğini veya neden olmadığını &quot;facts&quot; bildirir.</translation>
         <translation>FOLDER klasörünü barındıran sürücünün sağlığını yazdırır</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Kullanım: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>Kullanım: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

@@ -297,6 +297,58 @@ min %2</source>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>Чого не покаже жодна перевірка: чи справне місце під вашими файлами, що накопичувач тримає в резерві та чи надовго вистачить виправленого блоку.</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>Ця файлова система не резервує місця без запису, тому розподілити пробні блоки не вдалося. Про розмір тому результат нічого не говорить: виконайте не швидку, а повну перевірку.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>Швидка перевірка пише лише в кілька місць: те, що лежить між ними, не перевірено.</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>Швидка перевірка пише лише в кілька місць. Вона за секунди виявляє більшість підробок; якщо нічого не виявлено, це нічого не доводить.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>Перевірено менше, ніж планувалося: том заповнився зарано. Можливо, він утратив дані самої файлової системи.</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>Перевірено менше, ніж планувалося: місце могли зайняти інші програми.</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>Цей том зберігає файли в пам’яті: жодного диска не перевірено.</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>Лише %1 % прочитаного надійшло з диска. Перевірте більше, ніж уміщує пам’ять комп’ютера.</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>Диск, на якому розташовано цей том, не видно, тому прочитане могло надійти з кешу.</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>Записане понад справжній розмір втрачається або знищує інші дані на томі. Скопіюйте з нього потрібне і не довіряйте йому.</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>Перевірку зупинено: про те, чого вона не прочитала, нічого не відомо.</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>Ця файлова система не видає нічого, що не збігається з її контрольними сумами: змінених даних на ній прочитати не можна.</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>Місткість %1</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>Із записаного цей том зберігає лише перші %1.</translation>
     </message>
@@ -585,54 +637,6 @@ min %2</source>
         <translation>На позначці %1, %2: прочитано те, чого сюди ніколи не записували.</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>Чого не покаже жодна перевірка: чи справне місце під вашими файлами, що накопичувач тримає в резерві та чи надовго вистачить виправленого блоку.</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Ця файлова система не резервує місця без запису, тому розподілити пробні блоки не вдалося. Про розмір тому результат нічого не говорить: виконайте не швидку, а повну перевірку.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Швидка перевірка пише лише в кілька місць: те, що лежить між ними, не перевірено.</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Швидка перевірка пише лише в кілька місць. Вона за секунди виявляє більшість підробок; якщо нічого не виявлено, це нічого не доводить.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>Перевірено менше, ніж планувалося: том заповнився зарано. Можливо, він утратив дані самої файлової системи.</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>Перевірено менше, ніж планувалося: місце могли зайняти інші програми.</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Цей том зберігає файли в пам’яті: жодного диска не перевірено.</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Лише %1 % прочитаного надійшло з диска. Перевірте більше, ніж уміщує пам’ять комп’ютера.</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>Диск, на якому розташовано цей том, не видно, тому прочитане могло надійти з кешу.</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>Записане понад справжній розмір втрачається або знищує інші дані на томі. Скопіюйте з нього потрібне і не довіряйте йому.</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>Перевірку зупинено: про те, чого вона не прочитала, нічого не відомо.</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Ця файлова система не видає нічого, що не збігається з її контрольними сумами: змінених даних на ній прочитати не можна.</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>Том</translation>
     </message>
@@ -687,10 +691,6 @@ min %2</source>
             <numerusform>І ще в %1 місцях.</numerusform>
             <numerusform>І ще в %1 місцях.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>Місткість %1</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1833,14 +1833,14 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
         <translation>Вивести стан накопичувача, на якому лежить FOLDER</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Використання: %1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>Використання: %1</translation>
     </message>
     <message>
         <source>Show this text</source>

@@ -297,6 +297,58 @@ min %2</source>
 <context>
     <name>CapacityText</name>
     <message>
+        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
+        <translation>任何检查都无法判断：您的文件所占的空间是否完好、驱动器还留有多少备用，以及修复过的块能否持久。</translation>
+    </message>
+    <message>
+        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
+        <translation>此文件系统不写入就无法预留空间，因此样本无法分散。结果不能说明卷的容量：请运行非快速检查。</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
+        <translation>快速检查只写入少数位置：其间的部分未经检查。</translation>
+    </message>
+    <message>
+        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
+        <translation>快速检查只写入少数位置，几秒内即可发现大多数虚假容量；但未发现问题并不能证明没有问题。</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
+        <translation>检查的范围小于计划：此卷过早写满，可能已丢失文件系统自身的数据。</translation>
+    </message>
+    <message>
+        <source>Less was checked than planned: other programs may have taken the space.</source>
+        <translation>检查的范围小于计划：空间可能已被其他程序占用。</translation>
+    </message>
+    <message>
+        <source>This volume keeps its files in memory: no disk was checked.</source>
+        <translation>此卷将文件保存在内存中：未检查任何磁盘。</translation>
+    </message>
+    <message>
+        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
+        <translation>读取的数据中只有 %1% 来自磁盘。请检查比本机内存更大的范围。</translation>
+    </message>
+    <message>
+        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
+        <translation>无法识别此卷背后的磁盘，读回的数据可能来自缓存。</translation>
+    </message>
+    <message>
+        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
+        <translation>超出实际容量写入的数据会丢失，或破坏其他位置的内容。请将所需数据从中复制出来，不要再信任它。</translation>
+    </message>
+    <message>
+        <source>The check was stopped: what it had not read back is not known.</source>
+        <translation>检查已停止：尚未读回的部分情况未知。</translation>
+    </message>
+    <message>
+        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
+        <translation>此文件系统不会返回与校验和不符的内容：在其上无法读到已改变的数据。</translation>
+    </message>
+    <message>
+        <source>Capacity of %1</source>
+        <translation>%1 的容量</translation>
+    </message>
+    <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
         <translation>写入此卷的数据仅能保留前 %1。</translation>
     </message>
@@ -559,54 +611,6 @@ min %2</source>
         <translation>%1 处（%2）：读回了从未写入此处的内容。</translation>
     </message>
     <message>
-        <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>任何检查都无法判断：您的文件所占的空间是否完好、驱动器还留有多少备用，以及修复过的块能否持久。</translation>
-    </message>
-    <message>
-        <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>此文件系统不写入就无法预留空间，因此样本无法分散。结果不能说明卷的容量：请运行非快速检查。</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>快速检查只写入少数位置：其间的部分未经检查。</translation>
-    </message>
-    <message>
-        <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>快速检查只写入少数位置，几秒内即可发现大多数虚假容量；但未发现问题并不能证明没有问题。</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>检查的范围小于计划：此卷过早写满，可能已丢失文件系统自身的数据。</translation>
-    </message>
-    <message>
-        <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>检查的范围小于计划：空间可能已被其他程序占用。</translation>
-    </message>
-    <message>
-        <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>此卷将文件保存在内存中：未检查任何磁盘。</translation>
-    </message>
-    <message>
-        <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>读取的数据中只有 %1% 来自磁盘。请检查比本机内存更大的范围。</translation>
-    </message>
-    <message>
-        <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>无法识别此卷背后的磁盘，读回的数据可能来自缓存。</translation>
-    </message>
-    <message>
-        <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
-        <translation>超出实际容量写入的数据会丢失，或破坏其他位置的内容。请将所需数据从中复制出来，不要再信任它。</translation>
-    </message>
-    <message>
-        <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>检查已停止：尚未读回的部分情况未知。</translation>
-    </message>
-    <message>
-        <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>此文件系统不会返回与校验和不符的内容：在其上无法读到已改变的数据。</translation>
-    </message>
-    <message>
         <source>Volume</source>
         <translation>卷</translation>
     </message>
@@ -659,10 +663,6 @@ min %2</source>
         <translation>
             <numerusform>另有 %1 处。</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Capacity of %1</source>
-        <translation>%1 的容量</translation>
     </message>
     <message>
         <source>Preparing…</source>
@@ -1795,14 +1795,14 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
         <translation>输出 FOLDER 所在驱动器的健康状况</translation>
     </message>
     <message>
-        <source>Usage: %1</source>
-        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>用法：%1</translation>
-    </message>
-    <message>
         <source>%1.</source>
         <extracomment>%1: a sentence without its full stop.</extracomment>
         <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
+        <translation>用法：%1</translation>
     </message>
     <message>
         <source>Show this text</source>
