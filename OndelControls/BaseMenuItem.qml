@@ -15,6 +15,7 @@ T.MenuItem {
     property bool isHeading: false
     /// The keyboard shortcut to show.
     property string keys: ""
+    readonly property string keyNames: keys === "" ? "" : ViewMath.keyName(keys)
 
     property real leastHeight: 26
     property real corner: 5
@@ -44,7 +45,7 @@ T.MenuItem {
     Accessible.role: isHeading ? Accessible.Heading : Accessible.MenuItem
     Accessible.name: text
     // Qt does not report the disabled state to assistive technology.
-    Accessible.description: enabled || isHeading ? keys : qsTr("Not available now")
+    Accessible.description: enabled || isHeading ? keyNames : qsTr("Not available now")
     Accessible.onPressAction: if (item.enabled) item.clicked()
 
     contentItem: RowLayout {
@@ -72,7 +73,7 @@ T.MenuItem {
         PlainText {
             Layout.leftMargin: 20
             visible: item.keys.length > 0
-            text: item.keys
+            text: item.keyNames
             font: item.keysFont
             color: item.keysColor
             Accessible.ignored: true

@@ -40,6 +40,8 @@ T.TextField {
         font.pixelSize: field.font.pixelSize
         font.weight: field.font.weight
         color: field.promptColor
+        fontSizeMode: Text.HorizontalFit // some languages take more room
+        minimumPixelSize: Math.min(font.pixelSize, Metrics.noteSize)
         elide: Text.ElideRight
         Accessible.ignored: true
     }

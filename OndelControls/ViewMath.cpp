@@ -1,5 +1,7 @@
 #include "OndelControls/ViewMath.h"
 
+#include <QKeySequence>
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -20,6 +22,10 @@ double ViewMath::spacingInLine(double width, double taken, int count, double usu
 
 int ViewMath::lastIndexOf(const QList<double>& values, double value) {
     return static_cast<int>(values.lastIndexOf(value));
+}
+
+QString ViewMath::keyName(const QString& shortcut) {
+    return QKeySequence(shortcut, QKeySequence::PortableText).toString(QKeySequence::NativeText);
 }
 
 } // namespace OndelControls

@@ -3,10 +3,11 @@
 #include <QList>
 #include <QObject>
 #include <QQmlEngine>
+#include <QString>
 
 namespace OndelControls {
 
-/// Arithmetic of views, kept out of them to be tested. Units: logical pixels.
+/// Functions of views, kept out of them to be tested. Units: logical pixels.
 class ViewMath : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -26,6 +27,9 @@ public:
 
     /// Where `value` stands last in `values`; -1 where it does not.
     Q_INVOKABLE static int lastIndexOf(const QList<double>& values, double value);
+
+    /// A shortcut ("Ctrl+Return") as keyboards of the user's language name its keys.
+    Q_INVOKABLE static QString keyName(const QString& shortcut);
 };
 
 } // namespace OndelControls

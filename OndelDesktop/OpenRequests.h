@@ -16,9 +16,9 @@ class ApplicationBusAdaptor;
 /// A request of the desktop, a terminal or another program. Without URLs and an action it asks the window to
 /// come to the front.
 struct OpenRequest {
-    std::vector<std::string> urls;
-    std::string action;          ///< a name, as the desktop entry lists them
-    std::string activationToken; ///< permits a window to take the focus; may be empty
+    std::vector<std::string> urls; ///< of an action: what it is about, such as a folder's URL
+    std::string action;            ///< a name, as the desktop entry lists them
+    std::string activationToken;   ///< permits a window to take the focus; may be empty
 };
 
 /// The result of handing a request over.

@@ -10,12 +10,17 @@
 #include "TarnwickKit/model/capacity/CapacityChecks.h"
 #include "TarnwickKit/model/session/AnswerLater.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QSocketNotifier>
+#include <QUuid>
 
+#include <algorithm>
+#include <array>
 #include <chrono>
+#include <string_view>
 #include <utility>
 
 namespace fs = std::filesystem;
@@ -23,11 +28,26 @@ namespace platform = OndelCore::platform;
 
 namespace {
 
+struct AppDelegateText {
+    Q_DECLARE_TR_FUNCTIONS(AppDelegateText)
+};
+
+QString titleDuringRun(int percent, const QString& name) {
+    //: The title of the window during a run: how much is done, and the program's name
+    return AppDelegateText::tr("%1 % – %2").arg(percent).arg(name);
+}
+
 /// Desktops move the focus at once, or not at all.
 constexpr std::chrono::milliseconds focusPatience = std::chrono::seconds(1);
 
 /// On X11 the launch feedback lasts until the desktop is told that the start is complete.
 bool hasLaunchFeedback() { return QGuiApplication::platformName() == QLatin1String("xcb"); }
+
+constexpr std::string_view checkCapacity = "check-capacity";
+constexpr std::string_view chooseFolder = "choose-folder";
+constexpr std::string_view openFile = "open-run-file";
+constexpr std::string_view showRun = "show-run";
+constexpr std::array actions{checkCapacity, chooseFolder, openFile, showRun};
 
 std::vector<std::string> encodedUrls(const QList<QUrl>& urls) {
     std::vector<std::string> encoded;
@@ -84,7 +104,7 @@ OndelAppSupport::UpdaterEnvironment AppDelegate::updaterEnvironment() {
 QString AppDelegate::windowTitle() const {
     const QString name = QString::fromLatin1(product::name);
     const auto percent = m_notifier.percent();
-    return percent ? tr("%1 % – %2").arg(*percent).arg(name) : name;
+    return percent ? titleDuringRun(*percent, name) : name;
 }
 
 QUrl AppDelegate::website() { return OndelAppSupport::AppIdentity::current().website; }
@@ -127,7 +147,11 @@ void AppDelegate::endOfSession() {
 }
 
 void AppDelegate::open(const std::vector<std::string>& urls, const std::string& activationToken) {
-    m_toOpen.push_back({.urls = urls, .action = {}, .activationToken = activationToken});
+    queue({.urls = urls, .action = {}, .activationToken = activationToken});
+}
+
+void AppDelegate::queue(const OndelDesktop::OpenRequest& request) {
+    m_toOpen.push_back(request);
     if (m_toOpen.size() == 1)
         openNext();
 }
@@ -140,19 +164,21 @@ void AppDelegate::openNext() {
             if (!sorted.ignored.empty())
                 m_model.refuse(sorted.ignoredNames(m_toOpen.front().urls));
             if (!sorted.isEmpty())
-                open(sorted, m_toOpen.front().activationToken);
+                open(sorted, m_toOpen.front());
             m_toOpen.pop_front();
             if (!m_toOpen.empty())
                 openNext();
         });
 }
 
-void AppDelegate::open(const OpenUrls& sorted, const std::string& activationToken) {
+void AppDelegate::open(const OpenUrls& sorted, const OndelDesktop::OpenRequest& request) {
     // The target must not change during a run.
     if (sorted.folder && !m_model.isBusy())
         m_model.select(*sorted.folder);
     m_model.importRuns(sorted.runs);
-    comeToFront(activationToken);
+    comeToFront(request.activationToken);
+    if (sorted.folder && request.action == checkCapacity)
+        m_model.openCheck();
 }
 
 void AppDelegate::drop(const QList<QUrl>& urls) { open(encodedUrls(urls)); }
@@ -189,18 +215,26 @@ bool AppDelegate::take(const OndelDesktop::OpenRequest& request) {
 }
 
 bool AppDelegate::answer(const OndelDesktop::OpenRequest& request) {
-    if (!request.action.empty() && request.action != "choose-folder" && request.action != "open-run-file")
+    if (!request.action.empty() && std::ranges::find(actions, request.action) == actions.end())
         return false;
-    if (!request.urls.empty()) {
-        open(request.urls, request.activationToken);
+    if (!request.urls.empty() && (request.action.empty() || request.action == checkCapacity)) {
+        queue(request);
         return true;
     }
     comeToFront(request.activationToken);
-    if (request.action == "choose-folder")
-        m_model.chooseFolder();
-    if (request.action == "open-run-file")
-        openRunFile();
+    act(request);
     return true;
+}
+
+void AppDelegate::act(const OndelDesktop::OpenRequest& request) {
+    if (request.action == chooseFolder)
+        m_model.chooseFolder();
+    else if (request.action == openFile)
+        openRunFile();
+    else if (request.action == checkCapacity)
+        m_model.openCheck();
+    else if (request.action == showRun && !request.urls.empty())
+        m_model.showRun(QUuid(QString::fromStdString(request.urls.front())));
 }
 
 void AppDelegate::comeToFront(const std::string& activationToken) {

@@ -83,7 +83,8 @@ public:
     /// Adds run files that the user chooses in a dialog.
     Q_INVOKABLE void openRunFile();
 
-    /// Handles a request from outside. Fails: false for an unknown action.
+    /// Handles a request from outside. Actions: "choose-folder", "open-run-file", "check-capacity" with at most a
+    /// folder's URL, "show-run" with a stored run's id. Fails: false for an unknown action.
     bool take(const OndelDesktop::OpenRequest& request);
 
     /// Shows the window above others, where the desktop allows it.
@@ -92,7 +93,9 @@ public:
 private:
     OndelAppSupport::UpdaterEnvironment updaterEnvironment();
     bool answer(const OndelDesktop::OpenRequest& request);
-    void open(const OpenUrls& sorted, const std::string& activationToken);
+    void act(const OndelDesktop::OpenRequest& request);
+    void queue(const OndelDesktop::OpenRequest& request);
+    void open(const OpenUrls& sorted, const OndelDesktop::OpenRequest& request);
     void openNext();
     void setDragWelcome(bool welcome);
     void endOfSession();

@@ -6,21 +6,52 @@
 #include "Tarnwick/OpenUrls.h"
 #include "Tarnwick/Product.h"
 #include "TarnwickKit/model/format/DisplayText.h"
+#include "TarnwickKit/model/language/Language.h"
 
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* usage =
-    "Usage: tarnwick [FOLDER | FILE | URL]...\n"
-    "Opens the disk speed and volume analyzer, with the first folder chosen and run files "
-    "(*.tarnwickrun) shown.\n";
+/// Those that the desktop entry lists. An option has an action's name.
+constexpr std::array<std::string_view, 2> optionActions{"check-capacity", "choose-folder"};
+
+std::string_view actionOf(std::string_view word) {
+    if (!word.starts_with("--"))
+        return {};
+    const auto* const found = std::ranges::find(optionActions, word.substr(2));
+    return found == optionActions.end() ? std::string_view() : *found;
+}
+
+struct CommandLineText {
+    Q_DECLARE_TR_FUNCTIONS(CommandLineText)
+};
+
+QString usage() {
+    //: tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay
+    return CommandLineText::tr(
+        "Usage: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...\n"
+        "Opens the disk speed and volume analyzer, with the first folder chosen and "
+        "run files (*.tarnwickrun) shown.\n"
+        "  --check-capacity  go on to the check of that folder's volume\n"
+        "  --choose-folder   ask for a folder\n");
+}
+
+void complain(const char* word) {
+    const QString sentence = CommandLineText::tr("%1 is not a folder or a run file that can be opened.")
+                                 .arg(QString::fromStdString(TarnwickKit::model::quoted(word)));
+    std::fprintf(stderr, "tarnwick: %s\n", qUtf8Printable(sentence));
+}
 
 std::span<char*> wordsOf(int argc, char** argv) {
     return std::span(argv, static_cast<std::size_t>(argc)).subspan(argc > 0 ? 1 : 0);
@@ -50,7 +81,9 @@ std::optional<int> CommandLine::answerWithoutWindow(int argc, char** argv) {
         if (word == "--")
             break;
         if (word == "--help" || word == "-h") {
-            std::fputs(usage, stdout);
+            const QCoreApplication application(argc, argv); // it holds the catalogue
+            TarnwickKit::model::Language::install();
+            std::fputs(qUtf8Printable(usage()), stdout);
             return EXIT_SUCCESS;
         }
         if (word == "--version") {
@@ -68,8 +101,10 @@ std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
     for (const char* word : wordsOf(argc, argv)) {
         if (!optionsHaveEnded && std::string_view(word) == "--") {
             optionsHaveEnded = true;
+        } else if (const auto action = actionOf(optionsHaveEnded ? "" : word); !action.empty()) {
+            line.action = action;
         } else if (!optionsHaveEnded && *word == '-') {
-            std::fputs(usage, stderr);
+            std::fputs(qUtf8Printable(usage()), stderr);
             return std::nullopt;
         } else {
             words.push_back(word);
@@ -80,7 +115,6 @@ std::optional<CommandLine> CommandLine::parse(int argc, char** argv) {
     if (OndelCore::platform::isStandardErrorLogged())
         return line;
     for (const std::size_t place : OpenUrls::from(line.urls).ignored)
-        std::fprintf(stderr, "tarnwick: %s is not a folder or a run file that can be opened.\n",
-                     TarnwickKit::model::quoted(words[place]).c_str());
+        complain(words[place]);
     return line;
 }

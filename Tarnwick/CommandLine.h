@@ -7,6 +7,7 @@
 /// What a start of the program was asked for.
 struct CommandLine {
     std::vector<std::string> urls;
+    std::string action; ///< as in OpenRequest
 
     /// Answers --help and --version, with the exit status. Absent: a window is wanted.
     static std::optional<int> answerWithoutWindow(int argc, char** argv);

@@ -5,6 +5,7 @@
 #include "TarnwickKit/model/capacity/CapacityText.h"
 #include "TarnwickKit/model/format/Format.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QStringList>
 #include <QWindow>
@@ -18,6 +19,39 @@ using TarnwickKit::model::CapacitySession;
 using TarnwickKit::model::RunRecord;
 
 namespace Format = TarnwickKit::model::Format;
+
+namespace {
+
+struct RunNotifierText {
+    Q_DECLARE_TR_FUNCTIONS(RunNotifierText)
+};
+
+QString reasonToStayAwake(bool isCheck) {
+    return isCheck ? RunNotifierText::tr("A capacity check is running")
+                   : RunNotifierText::tr("A benchmark is running");
+}
+
+/// "Backup · write 1.24 GB/s · read 3.08 GB/s"
+QString summaryOf(const RunRecord& run) {
+    QStringList facts{run.title()};
+    if (run.writeBps) {
+        //: %1 is the rate of the sequential write test, as 540 MB/s
+        facts.append(RunNotifierText::tr("write %1").arg(Format::rate(*run.writeBps)));
+    }
+    if (run.readBps) {
+        //: %1 is the rate of the sequential read test, as 540 MB/s
+        facts.append(RunNotifierText::tr("read %1").arg(Format::rate(*run.readBps)));
+    }
+    return facts.join(QStringLiteral(" · "));
+}
+
+// The titles of notices.
+QString benchmarkFailed() { return RunNotifierText::tr("Benchmark failed"); }
+QString benchmarkComplete() { return RunNotifierText::tr("Benchmark complete"); }
+QString checkFailed() { return RunNotifierText::tr("Capacity check failed"); }
+QString checkComplete() { return RunNotifierText::tr("Capacity check complete"); }
+
+} // namespace
 
 RunNotifier::RunNotifier(AnalyzerModel& model, std::function<void(const std::string&)> comeToFront)
     : m_model(model)
@@ -42,9 +76,7 @@ void RunNotifier::busyChanged() {
         m_notice.withdraw();
         m_isCheck = m_model.isChecking();
         m_finding.reset();
-        m_awake.emplace(
-            product::name,
-            (m_isCheck ? tr("A capacity check is running") : tr("A benchmark is running")).toStdString());
+        m_awake.emplace(product::name, reasonToStayAwake(m_isCheck).toStdString());
         m_clock.start();
         updatePercent();
     } else if (m_awake) {
@@ -74,22 +106,14 @@ void RunNotifier::updatePercent() {
 /// A run or a check that the user has stopped needs no notice.
 void RunNotifier::showResult() {
     if (m_model.phase() == AnalyzerModel::Phase::Failed)
-        m_notice.show(tr("Benchmark failed").toStdString(), m_model.failureMessage().toStdString());
-    if (m_model.phase() != AnalyzerModel::Phase::Done || !m_model.currentRun())
-        return;
-    const RunRecord& run = *m_model.currentRun();
-    QStringList facts{run.title()};
-    if (run.writeBps)
-        facts.append(tr("write %1").arg(Format::rate(*run.writeBps)));
-    if (run.readBps)
-        facts.append(tr("read %1").arg(Format::rate(*run.readBps)));
-    m_notice.show(tr("Benchmark complete").toStdString(), facts.join(QStringLiteral(" · ")).toStdString());
+        m_notice.show(benchmarkFailed().toStdString(), m_model.failureMessage().toStdString());
+    if (m_model.phase() == AnalyzerModel::Phase::Done && m_model.currentRun())
+        m_notice.show(benchmarkComplete().toStdString(), summaryOf(*m_model.currentRun()).toStdString());
 }
 
 void RunNotifier::showFinding() {
     if (m_finding)
-        m_notice.show(tr("Capacity check complete").toStdString(),
-                      capacitySentence(*m_finding).toStdString());
+        m_notice.show(checkComplete().toStdString(), capacitySentence(*m_finding).toStdString());
     else if (const QString& failure = m_model.capacity().failure().message; !failure.isEmpty())
-        m_notice.show(tr("Capacity check failed").toStdString(), failure.toStdString());
+        m_notice.show(checkFailed().toStdString(), failure.toStdString());
 }

@@ -8,17 +8,21 @@
 #include "Tarnwick/CommandLine.h"
 #include "Tarnwick/Product.h"
 #include "Tarnwick/Toolkit.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
+#include "TarnwickKit/views/window/LanguageSetting.h"
 
+#include <QCoreApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTimer>
 
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <string>
+#include <optional>
 
 using OndelDesktop::HandOver;
 using OndelDesktop::OpenRequest;
@@ -41,6 +45,21 @@ const QUrl& windowFile() {
     return file;
 }
 
+struct TarnwickAppText {
+    Q_DECLARE_TR_FUNCTIONS(TarnwickAppText)
+};
+
+QString noAnswerFrom(const std::optional<std::uint32_t>& process) {
+    if (!process)
+        return TarnwickAppText::tr(
+            "the window that is already open does not answer; it will do what was asked "
+            "as soon as it can.");
+    return TarnwickAppText::tr(
+               "the window that is already open (process %1) does not answer; it will do what "
+               "was asked as soon as it can.")
+        .arg(*process);
+}
+
 constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(1);
 
 /// Enough for the first process to reach its event loop on a machine that is busy starting both.
@@ -58,12 +77,16 @@ int TarnwickApp::run(int argc, char** argv) {
     if (!OndelCore::platform::sessionBusAnswers(busPatience))
         OndelCore::platform::doWithoutSessionBus();
     const auto application = startToolkit(argc, argv);
+    TarnwickKit::model::Language::install(TarnwickKit::views::LanguageSetting::code());
+    if (TarnwickKit::model::Language::isRightToLeft())
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     OpenRequests requests(product::id);
     OndelAppSupport::AppIdentity::current() = OndelAppSupport::AppIdentity::tarnwick();
     const auto commandLine = CommandLine::parse(argc, argv);
     if (!commandLine)
         return 2;
     start.urls = commandLine->urls;
+    start.action = commandLine->action;
     if (const auto status = handOver(requests, start))
         return *status;
 
@@ -82,12 +105,7 @@ std::optional<int> TarnwickApp::handOver(OpenRequests& requests, const OpenReque
     if (outcome == HandOver::Outcome::taken)
         return EXIT_SUCCESS;
     // It keeps the name and the messages sent to it until it continues or ends.
-    const std::string who = process ? " (process " + std::to_string(*process) + ")" : std::string();
-    std::fprintf(
-        stderr,
-        "tarnwick: the window that is already open%s does not answer; it will do what was asked as soon "
-        "as it can.\n",
-        who.c_str());
+    std::fprintf(stderr, "tarnwick: %s\n", qUtf8Printable(noAnswerFrom(process)));
     return EXIT_FAILURE;
 }
 
@@ -133,6 +151,9 @@ void TarnwickApp::finishWindow(QQuickWindow* window) {
 
 void TarnwickApp::finishLaunching(const OpenRequest& start) {
     m_delegate->applicationDidFinishLaunching();
-    m_delegate->open(start.urls, start.activationToken);
+    if (start.action.empty())
+        m_delegate->open(start.urls, start.activationToken);
+    else
+        m_delegate->take(start);
     m_requests.deliverTo([this](const OpenRequest& request) { return m_delegate->take(request); });
 }

@@ -83,6 +83,7 @@ MenuStrip {
                 onTriggered: commands.app.openRunFile()
             },
             Command {
+                //: Menu entry: closes the window
                 text: qsTr("Close")
                 keys: "Ctrl+W"
                 shortcut: commands.inWindow(keys)
@@ -93,6 +94,7 @@ MenuStrip {
         ]
     }
     CommandMenu {
+        //: Title of a menu: a run of the benchmark
         title: qsTr("&Run")
         commands: [
             Command {
@@ -115,6 +117,7 @@ MenuStrip {
                 onTriggered: commands.analyzer.showsCheck = true
             },
             Command {
+                //: Menu entry: begins to choose runs
                 text: qsTr("Compare")
                 beginsGroup: true
                 enabled: commands.analyzer.compareMode ? commands.analyzer.compareSelectionCount >= 2

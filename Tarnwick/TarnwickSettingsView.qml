@@ -4,7 +4,6 @@ import QtQuick
 import QtQuick.Layouts
 import OndelAppSupport.views
 import OndelControls
-import OndelControls
 import TarnwickKit.views
 import Tarnwick
 
@@ -18,6 +17,9 @@ Item {
     implicitWidth: Metrics.scaled(440)
     implicitHeight: form.implicitHeight + 40
 
+    LanguageSetting {
+        id: language
+    }
     ColumnLayout {
         id: form
 
@@ -45,6 +47,29 @@ Item {
                 Layout.fillWidth: true
                 visible: !view.updater.isConfigured
                 text: qsTr("This build doesn’t update itself. Development builds are built without the update feed, so they can’t replace themselves with a release.")
+            }
+        }
+        SettingsSection {
+            title: qsTr("Language")
+
+            SettingMenu {
+                Layout.fillWidth: true
+                label: qsTr("Language of the window")
+                options: language.names
+                current: language.chosen
+                onChosen: index => language.chosen = index
+            }
+            Caption {
+                Layout.fillWidth: true
+                visible: language.isPending
+                text: qsTr("The window follows when Tarnwick is started the next time.")
+            }
+            ToggleSwitch {
+                Layout.fillWidth: true
+                label: qsTr("Shared pictures in English")
+                explanation: qsTr("Off, their texts are in the language of the window.")
+                on: language.englishCards
+                onWanted: on => language.englishCards = on
             }
         }
         SettingsSection {

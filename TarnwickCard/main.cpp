@@ -1,8 +1,10 @@
 // tarnwick-host-card: draws the cards of tarnwick-host, which starts it. Usage: [--dark] RUNFILE…
 
 #include "TarnwickHost/Command.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/RunFiles.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/views/sharing/ReportImage.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
 
@@ -11,6 +13,8 @@
 #include <array>
 #include <cstdlib>
 #include <exception>
+#include <string_view>
+#include <vector>
 
 using namespace TarnwickHost;
 using namespace TarnwickKit;
@@ -23,7 +27,8 @@ constexpr std::array options{Option{"--dark", "", ""}};
 void explainFailure(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type != QtCriticalMsg && type != QtFatalMsg)
         return;
-    complain("The picture could not be drawn: " + message.simplified().toStdString());
+    //: %1: the reason.
+    complain(HostFiles::tr("The picture could not be drawn: %1").arg(message.simplified()));
     if (type == QtFatalMsg)
         std::_Exit(failed);
 }
@@ -39,7 +44,8 @@ int draw(const CommandLine& line) {
             ? views::reportImage({runs.front()}, isDark)
             : views::ComparisonImage::render(runs, isDark ? views::Palette::dark() : views::Palette::light());
     if (!file) {
-        complain("The picture could not be drawn, or not be written to your temporary folder.");
+        complain(
+            HostFiles::tr("The picture could not be drawn, or not be written to your temporary folder."));
         return failed;
     }
     print(file->string() + '\n');
@@ -53,12 +59,13 @@ int main(int argc, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 0); // NOLINT(concurrency-mt-unsafe): no other thread runs yet
     qInstallMessageHandler(explainFailure);
     try {
-        const std::span<const char* const> words(argv, static_cast<std::size_t>(argc));
-        const CommandLine line(options, words.subspan(1));
+        const std::vector<const char*> words(argv + 1, argv + argc); // Qt takes some of them away
         const QGuiApplication application(argc, argv);
+        model::Language::install();
+        const CommandLine line(options, words);
         return draw(line);
     } catch (const std::exception& error) {
-        complain(error.what());
+        complain(std::string_view(error.what()));
         return failed;
     }
 }

@@ -2,6 +2,7 @@
 
 #include "OndelCore/platform/storage/FileDescriptor.h"
 #include "TarnwickHost/Command.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 
 #include <fcntl.h>
@@ -25,7 +26,9 @@ namespace {
 void check(int error) {
     if (error != 0)
         throw std::system_error(error, std::generic_category(),
-                                "tarnwick-host-card, which comes with the window, could not be started");
+                                HostFiles::tr("%1, which comes with the window, could not be started")
+                                    .arg(isolated("tarnwick-host-card"))
+                                    .toStdString());
 }
 
 /// In a build folder it lies beside this program, installed in libexec. Fails: throws std::system_error if
@@ -105,12 +108,12 @@ CardAnswer answerTo(const std::vector<std::string>& arguments) {
 }
 
 constexpr std::array cardOptions{
-    Option{"--dark", "", "Draw it in the dark colours"},
+    Option{"--dark", "", QT_TRANSLATE_NOOP("HostHelp", "Draw it in the dark colours")},
 };
 
 int executeCard(const CommandLine& line) {
     if (line.operands().empty())
-        throw UsageError("a RUNFILE to draw is missing");
+        throw UsageError(HostUsage::tr("a RUNFILE to draw is missing"));
     std::vector<std::string> arguments;
     if (line.has("--dark"))
         arguments.emplace_back("--dark");
@@ -121,28 +124,37 @@ int executeCard(const CommandLine& line) {
     return answer.status;
 }
 
+constexpr std::array cardNotes{
+    Note{"", QT_TRANSLATE_NOOP(
+                 "HostHelp",
+                 "A run file is what \"run --handoff\" writes, for one run. The picture is a PNG file, 1616 "
+                 "pixels wide, with a\n"
+                 "transparent margin; its path is printed. It needs no display. A picture of the same title "
+                 "replaces the one before;\n"
+                 "it stays until your session ends, or until the system empties its temporary folder.")},
+    Note{"",
+         QT_TRANSLATE_NOOP(
+             "HostHelp",
+             "Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.")},
+};
+
 } // namespace
 
 CardAnswer drawCard(const std::vector<std::string>& arguments) {
     try {
         return answerTo(arguments);
     } catch (const std::system_error& error) {
-        complain(error.what());
+        complain(std::string_view(error.what()));
         return {failed, {}};
     }
 }
 
-const Command cardCommand{.name = "card",
-                          .operands = "RUNFILE…",
-                          .summary = "Draw a picture of a run to share, or of several compared",
-                          .options = cardOptions,
-                          .notes = R"(
-A run file is what "run --handoff" writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
-transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
-it stays until your session ends, or until the system empties its temporary folder.
-
-Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.
-)",
-                          .execute = &executeCard};
+const Command cardCommand{
+    .name = "card",
+    .operands = "RUNFILE…",
+    .summary = QT_TRANSLATE_NOOP("HostHelp", "Draw a picture of a run to share, or of several compared"),
+    .options = cardOptions,
+    .notes = cardNotes,
+    .execute = &executeCard};
 
 } // namespace TarnwickHost

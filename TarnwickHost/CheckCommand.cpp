@@ -1,6 +1,7 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "OndelCore/capacity/CapacityCheck.h"
 #include "TarnwickHost/Command.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/Place.h"
 #include "TarnwickHost/Progress.h"
@@ -9,7 +10,9 @@
 #include "TarnwickKit/model/capacity/CapacityCodec.h"
 #include "TarnwickKit/model/capacity/CapacityCourse.h"
 #include "TarnwickKit/model/capacity/CapacityRecord.h"
+#include "TarnwickKit/model/capacity/CapacityReport.h"
 #include "TarnwickKit/model/capacity/CapacityText.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/model/session/AnalyzerModel.h"
 
 #include <QDateTime>
@@ -33,14 +36,22 @@ namespace TarnwickHost {
 
 namespace {
 
+struct HostCheck {
+    Q_DECLARE_TR_FUNCTIONS(HostCheck)
+};
+
 constexpr std::array checkOptions{
-    Option{"--size", "BYTES|all", "How much to write and read back (default: all free space)"},
-    Option{"--leave-free", "BYTES", "How much stays free in any case (default: 64MiB)"},
+    Option{"--size", "BYTES|all",
+           QT_TRANSLATE_NOOP("HostHelp", "How much to write and read back (default: all free space)")},
+    Option{"--leave-free", "BYTES",
+           QT_TRANSLATE_NOOP("HostHelp", "How much stays free in any case (default: 64MiB)")},
     Option{"--quick", "",
-           "Samples across the range, in seconds: finds a false capacity, and\n"
-           "proves nothing when it finds none"},
-    Option{"--again", "S", "Read everything once more, S seconds later"},
-    Option{"--json", "", "Print one JSON object: the verdict, the sentence, and all that was found"},
+           QT_TRANSLATE_NOOP("HostHelp", "Samples across the range, in seconds: finds a false capacity, and\n"
+                                         "proves nothing when it finds none")},
+    Option{"--again", "S", QT_TRANSLATE_NOOP("HostHelp", "Read everything once more, S seconds later")},
+    Option{"--json", "",
+           QT_TRANSLATE_NOOP("HostHelp",
+                             "Print one JSON object: the verdict, the sentence, and all that was found")},
 };
 
 // Above, a size is nonsense and a pause is longer than a year.
@@ -58,10 +69,10 @@ CapacityPlan askedPlan(const CommandLine& line) {
     if (const auto again = line.value("--again")) {
         const double pause = seconds("--again", *again);
         if (pause > longestPause)
-            throw UsageError("--again is a year at most");
+            throw UsageError(HostUsage::tr("%1 is a year at most").arg(isolated("--again")));
         plan.again = std::chrono::seconds(static_cast<std::int64_t>(pause));
     }
-    plan.folder = folderTo("check", line);
+    plan.folder = folderTo(Purpose::check, line);
     return plan;
 }
 
@@ -126,9 +137,11 @@ void follow(Check& check, RunEventLoop& watch) {
             isStopping = true;
             [[fallthrough]];
         case RunEventLoop::Event::frameDue:
+            const LineStyle style = lineStyle(STDERR_FILENO);
             if (isShown)
-                replaceLine(isStopping ? "Stopping, removing the files"
-                                       : check.line(lineStyle(STDERR_FILENO)));
+                replaceLine(isStopping
+                                ? beginningOf(HostCheck::tr("Stopping, removing the files"), style.columns)
+                                : check.line(style));
         }
     }
 }
@@ -136,9 +149,10 @@ void follow(Check& check, RunEventLoop& watch) {
 void printRecord(const CapacityRecord& check, bool asJson) {
     if (!asJson)
         return print(capacityReport(check, lineStyle(STDOUT_FILENO)).toStdString());
+    const EnglishTexts english;
     const auto json = checkJson(check);
     if (!json)
-        throw std::runtime_error("The check could not be told as JSON.");
+        throw std::runtime_error(HostCheck::tr("The check could not be told as JSON.").toStdString());
     print(json->toStdString() + "\n");
 }
 
@@ -174,24 +188,32 @@ int executeCheck(const CommandLine& line) {
     return record->wasStopped ? interrupted : record->isBad() ? defectsFound : done;
 }
 
+constexpr std::array checkNotes{
+    Note{"", QT_TRANSLATE_NOOP("HostHelp", "Writes files that differ in every block into a hidden folder "
+                                           "inside FOLDER, reads them back past the system's\n"
+                                           "cache, compares all of it, and removes them, also after Ctrl+C. "
+                                           "No file of yours is touched; but on a device\n"
+                                           "with a false capacity every write beyond its real size may "
+                                           "destroy what lies there, as any use of it would.\n"
+                                           "--quick writes samples only. Files of a killed check are removed "
+                                           "by the next run or check in FOLDER.")},
+    Note{"", QT_TRANSLATE_NOOP(
+                 "HostHelp",
+                 "BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).")},
+    Note{"", QT_TRANSLATE_NOOP("HostHelp", "Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, "
+                                           "3 defects were found, 130 stopped by a signal;\n"
+                                           "what had been found until then is printed.")},
+};
+
 } // namespace
 
-const Command checkCommand{.name = "check",
-                           .operands = "FOLDER",
-                           .summary =
-                               "Check whether a volume is as large as it says and keeps what it is given",
-                           .options = checkOptions,
-                           .notes = R"(
-Writes files that differ in every block into a hidden folder inside FOLDER, reads them back past the system's
-cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
-with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
---quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.
-
-BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).
-
-Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
-what had been found until then is printed.
-)",
-                           .execute = &executeCheck};
+const Command checkCommand{
+    .name = "check",
+    .operands = "FOLDER",
+    .summary = QT_TRANSLATE_NOOP("HostHelp",
+                                 "Check whether a volume is as large as it says and keeps what it is given"),
+    .options = checkOptions,
+    .notes = checkNotes,
+    .execute = &executeCheck};
 
 } // namespace TarnwickHost

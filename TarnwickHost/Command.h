@@ -9,13 +9,19 @@ namespace TarnwickHost {
 
 enum ExitStatus : int { done = 0, failed = 1, wrongUsage = 2, defectsFound = 3, interrupted = 130 };
 
+/// A paragraph of a command's --help, or a line that explains a word.
+struct Note {
+    std::string_view term; ///< the word; empty for a paragraph
+    const char* text;      ///< of the context "HostHelp"
+};
+
 /// One thing that the program can do: "tarnwick-host NAME …".
 struct Command {
     std::string_view name;
     std::string_view operands; ///< as the usage line shows them: "FOLDER"
-    std::string_view summary;  ///< for the list of commands, without a full stop
+    const char* summary;       ///< for the list of commands, without a full stop; of the context "HostHelp"
     std::span<const Option> options;
-    std::string_view notes; ///< further lines for the command's --help; may be empty
+    std::span<const Note> notes; ///< for the command's --help; may be empty
 
     /// Does it and answers the exit status.
     /// Fails: a UsageError becomes one line and `wrongUsage`, any other exception its text and `failed`.

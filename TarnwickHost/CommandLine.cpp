@@ -1,6 +1,7 @@
 #include "TarnwickHost/CommandLine.h"
 
 #include "OndelCore/platform/volumes/PathFacts.h"
+#include "TarnwickHost/HostText.h"
 
 #include <algorithm>
 #include <array>
@@ -19,7 +20,7 @@ const Option& find(std::span<const Option> options, std::string_view name) {
     const auto found = std::find_if(options.begin(), options.end(),
                                     [&](const Option& option) { return option.name == name; });
     if (found == options.end())
-        throw UsageError("there is no option " + quoted(name));
+        throw UsageError(HostUsage::tr("there is no option %1").arg(inQuotes(name)));
     return *found;
 }
 
@@ -52,11 +53,10 @@ std::optional<int> binaryShift(std::string_view unit) {
     return std::nullopt;
 }
 
-[[noreturn]] void refuse(std::string_view option, std::string_view text, std::string_view wanted,
-                         Range range) {
-    throw UsageError(std::string(option) + " needs " + std::string(wanted) + " from " +
-                     std::to_string(range.least) + " to " + std::to_string(range.most) + ", not " +
-                     quoted(text));
+/// `sentence`: on the option, both limits and what was typed.
+UsageError outside(Range range, const QString& sentence, std::string_view option, std::string_view text) {
+    return UsageError(sentence.arg(isolated(option), QString::number(range.least),
+                                   QString::number(range.most), inQuotes(text)));
 }
 
 } // namespace
@@ -84,13 +84,14 @@ void CommandLine::takeOption(std::span<const Option> options, std::span<const ch
     std::string_view value;
     if (option.argument.empty()) {
         if (equals != std::string_view::npos)
-            throw UsageError(std::string(option.name) + " takes no value");
+            throw UsageError(HostUsage::tr("%1 takes no value").arg(isolated(option.name)));
     } else if (equals != std::string_view::npos) {
         value = word.substr(equals + 1);
     } else if (++index < words.size()) {
         value = words[index];
     } else {
-        throw UsageError(std::string(option.name) + " needs a value: " + std::string(option.argument));
+        throw UsageError(
+            HostUsage::tr("%1 needs a value: %2").arg(isolated(option.name), isolated(option.argument)));
     }
     m_values.insert_or_assign(option.name, value);
 }
@@ -100,15 +101,19 @@ std::optional<std::string_view> CommandLine::value(std::string_view option) cons
     return found == m_values.end() ? std::nullopt : std::optional(found->second);
 }
 
+UsageError goesOnlyWith(std::string_view option, std::string_view other) {
+    //: Two options or commands of the program.
+    return UsageError(HostUsage::tr("%1 goes with %2 only").arg(isolated(option), isolated(other)));
+}
+
 std::int64_t wholeNumber(std::string_view option, std::string_view text, Range range) {
     const auto number = parsed<std::int64_t>(text);
     if (!number || *number < range.least || *number > range.most)
-        refuse(option, text, "a whole number", range);
+        throw outside(range, HostUsage::tr("%1 needs a whole number from %2 to %3, not %4"), option, text);
     return *number;
 }
 
 std::int64_t byteCount(std::string_view option, std::string_view text, Range range) {
-    static constexpr std::string_view wanted = "a number of bytes, such as 4096, 64K or 5GiB,";
     const std::size_t digitsEnd = std::min(text.find_first_not_of("-0123456789"), text.size());
     std::string_view unit = text.substr(digitsEnd);
     if (unit.starts_with(' '))
@@ -118,14 +123,18 @@ std::int64_t byteCount(std::string_view option, std::string_view text, Range ran
     std::int64_t bytes = 0;
     if (!number || !shift || __builtin_mul_overflow(*number, std::int64_t{1} << *shift, &bytes) ||
         bytes < range.least || bytes > range.most)
-        refuse(option, text, wanted, range);
+        throw outside(
+            range,
+            HostUsage::tr("%1 needs a number of bytes, such as 4096, 64K or 5GiB, from %2 to %3, not %4"),
+            option, text);
     return bytes;
 }
 
 double seconds(std::string_view option, std::string_view text) {
     const auto number = parsed<double>(text);
     if (!number || !std::isfinite(*number) || std::signbit(*number))
-        throw UsageError(std::string(option) + " needs a number of seconds, 0 or more, not " + quoted(text));
+        throw UsageError(HostUsage::tr("%1 needs a number of seconds, 0 or more, not %2")
+                             .arg(isolated(option), inQuotes(text)));
     return *number;
 }
 
@@ -133,18 +142,18 @@ FolderLook look(std::string_view folder, const OndelCore::platform::MountTable& 
     using namespace OndelCore::platform;
     const auto facts = pathFacts(folder, PathQuestion::place, mounts.mounts(), {.patience = defaultPatience});
     if (!facts)
-        throw std::runtime_error(quoted(folder) + " does not answer");
+        throw std::runtime_error(HostFiles::tr("%1 does not answer").arg(inQuotes(folder)).toStdString());
     return {.error = facts->error, .isFolder = facts->isFolder};
 }
 
 std::filesystem::path folderIn(const CommandLine& line, const OndelCore::platform::MountTable& mounts) {
     if (line.operands().empty())
-        throw UsageError("a FOLDER is missing");
+        throw UsageError(HostUsage::tr("a FOLDER is missing"));
     if (line.operands().size() > 1)
-        throw UsageError("one FOLDER at a time");
+        throw UsageError(HostUsage::tr("one FOLDER at a time"));
     const std::string_view folder = line.operands().front();
     if (const int error = look(folder, mounts).error; error != 0)
-        throw UsageError(quoted(folder) + ": " + std::generic_category().message(error));
+        throw UsageError(because(inQuotes(folder), error));
     return folder;
 }
 

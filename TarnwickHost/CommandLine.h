@@ -1,7 +1,8 @@
 #pragma once
 
 #include "OndelCore/platform/volumes/Mounts.h"
-#include "TarnwickKit/model/format/DisplayText.h"
+
+#include <QString>
 
 #include <cstdint>
 #include <filesystem>
@@ -15,19 +16,18 @@
 
 namespace TarnwickHost {
 
-using TarnwickKit::model::quoted;
-
 /// The program was called wrongly. `what` is one line for people, without the program's name.
 class UsageError : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    explicit UsageError(const QString& text)
+        : std::runtime_error(text.toStdString()) {}
 };
 
 /// One option as a command declares it.
 struct Option {
     std::string_view name;     ///< with its dashes: "--size"
     std::string_view argument; ///< what --help calls its value: "BYTES|fill"; empty for a switch
-    std::string_view help;     ///< without a full stop; line breaks are kept
+    const char* help;          ///< without a full stop; of the context "HostHelp"
 };
 
 /// The words behind a command's name, sorted into options and operands.
@@ -54,6 +54,9 @@ private:
     std::vector<std::string_view> m_operands;
     bool m_wantsHelp = false;
 };
+
+/// For an option that another one needs.
+UsageError goesOnlyWith(std::string_view option, std::string_view other);
 
 /// The limits of a whole number on the command line; both ends are allowed.
 struct Range {

@@ -4,6 +4,7 @@
 #include "TarnwickKit/model/runs/RunExport.h"
 
 #include <QByteArray>
+#include <QtGlobal>
 
 #include <filesystem>
 #include <optional>
@@ -16,8 +17,10 @@ namespace TarnwickHost {
 using TarnwickKit::model::ExportForm;
 
 /// The options of commands that print or write runs.
-inline constexpr Option formatOption{"--format", "FORM", "As text (default), markdown, csv or json"};
-inline constexpr Option forceOption{"--force", "", "Let --output replace a file of any content"};
+inline constexpr Option formatOption{
+    "--format", "FORM", QT_TRANSLATE_NOOP("HostHelp", "As text (default), markdown, csv or json")};
+inline constexpr Option forceOption{
+    "--force", "", QT_TRANSLATE_NOOP("HostHelp", "Let --output replace a file of any content")};
 
 /// What --format asks for. Fails: absent without that option; throws UsageError for a form that is unknown.
 std::optional<ExportForm> exportForm(const CommandLine& line);

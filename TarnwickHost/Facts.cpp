@@ -1,7 +1,10 @@
 #include "TarnwickHost/Facts.h"
 
 #include "OndelCore/health/OndelSMARTFields.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/HealthText.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 
 #include <QJsonArray>
 
@@ -10,8 +13,7 @@
 
 using namespace OndelCore::health;
 using namespace OndelCore::volumes;
-using TarnwickKit::model::DriveIdentity;
-namespace Format = TarnwickKit::model::Format;
+using namespace TarnwickKit::model;
 
 namespace TarnwickHost {
 
@@ -19,31 +21,42 @@ namespace {
 
 struct Feature {
     const char* name;
-    const char* label;
+    const char* label; ///< of the context "HostFacts"
     Capability VolumeCapabilities::* field;
 };
 constexpr std::array features = {
-    Feature{"isCaseSensitive", "Case-sensitive", &VolumeCapabilities::isCaseSensitive},
-    Feature{"isCasePreserving", "Case-preserving", &VolumeCapabilities::isCasePreserving},
-    Feature{"supportsSparseFiles", "Sparse files", &VolumeCapabilities::supportsSparseFiles},
-    Feature{"supportsHardLinks", "Hard links", &VolumeCapabilities::supportsHardLinks},
-    Feature{"supportsSymbolicLinks", "Symbolic links", &VolumeCapabilities::supportsSymbolicLinks},
-    Feature{"supportsExtendedAttributes", "Extended attributes",
+    Feature{"isCaseSensitive", QT_TRANSLATE_NOOP("HostFacts", "Case-sensitive"),
+            &VolumeCapabilities::isCaseSensitive},
+    Feature{"isCasePreserving", QT_TRANSLATE_NOOP("HostFacts", "Case-preserving"),
+            &VolumeCapabilities::isCasePreserving},
+    Feature{"supportsSparseFiles", QT_TRANSLATE_NOOP("HostFacts", "Sparse files"),
+            &VolumeCapabilities::supportsSparseFiles},
+    Feature{"supportsHardLinks", QT_TRANSLATE_NOOP("HostFacts", "Hard links"),
+            &VolumeCapabilities::supportsHardLinks},
+    Feature{"supportsSymbolicLinks", QT_TRANSLATE_NOOP("HostFacts", "Symbolic links"),
+            &VolumeCapabilities::supportsSymbolicLinks},
+    Feature{"supportsExtendedAttributes", QT_TRANSLATE_NOOP("HostFacts", "Extended attributes"),
             &VolumeCapabilities::supportsExtendedAttributes},
-    Feature{"supportsNamedStreams", "Named streams", &VolumeCapabilities::supportsNamedStreams},
-    Feature{"supportsExtendedSecurity", "Access control lists",
+    Feature{"supportsNamedStreams", QT_TRANSLATE_NOOP("HostFacts", "Named streams"),
+            &VolumeCapabilities::supportsNamedStreams},
+    Feature{"supportsExtendedSecurity", QT_TRANSLATE_NOOP("HostFacts", "Access control lists"),
             &VolumeCapabilities::supportsExtendedSecurity},
-    Feature{"supportsCloning", "Cloning", &VolumeCapabilities::supportsCloning},
-    Feature{"supportsSnapshots", "Snapshots", &VolumeCapabilities::supportsSnapshots},
-    Feature{"supportsJournal", "Journal", &VolumeCapabilities::supportsJournal},
-    Feature{"isJournalActive", "Journal active", &VolumeCapabilities::isJournalActive},
-    Feature{"isSealed", "Sealed", &VolumeCapabilities::isSealed},
+    Feature{"supportsCloning", QT_TRANSLATE_NOOP("HostFacts", "Cloning"),
+            &VolumeCapabilities::supportsCloning},
+    Feature{"supportsSnapshots", QT_TRANSLATE_NOOP("HostFacts", "Snapshots"),
+            &VolumeCapabilities::supportsSnapshots},
+    Feature{"supportsJournal", QT_TRANSLATE_NOOP("HostFacts", "Journal"),
+            &VolumeCapabilities::supportsJournal},
+    Feature{"isJournalActive", QT_TRANSLATE_NOOP("HostFacts", "Journal active"),
+            &VolumeCapabilities::isJournalActive},
+    Feature{"isSealed", QT_TRANSLATE_NOOP("HostFacts", "Sealed"), &VolumeCapabilities::isSealed},
 };
 
 QString pathText(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
-QString yesOrNo(bool value) { return value ? "yes" : "no"; }
+QString yesOrNo(bool value) { return value ? HostFacts::tr("yes") : HostFacts::tr("no"); }
 QString answerText(Capability capability) {
-    return capability.isKnown() ? yesOrNo(bool{capability}) : QString("not known");
+    return capability.isKnown() ? yesOrNo(bool{capability})
+                                : HostFacts::tr("not known", "whether a file system can do something");
 }
 
 void add(QJsonObject& object, const char* name, const std::optional<QString>& text) {
@@ -156,35 +169,37 @@ QJsonObject mountedVolumeJson(const MountedVolume& volume) {
 }
 
 std::vector<TextRow> volumeRows(const VolumeInfo& volume) {
-    return {{"Name", volume.name},
-            {"Format", volume.format},
-            {"Capacity", Format::bytes(volume.total)},
-            {"Available", Format::bytes(volume.available)},
-            {"Used",
-             Format::bytes(volume.used()) + QString(" (%1 %)").arg(volume.usedFraction() * 100.0, 0, 'f', 0)},
-            {"Connection", volume.connection()},
-            {"Read-only", yesOrNo(volume.isReadOnly)},
-            {"Encrypted", yesOrNo(volume.isEncrypted)},
-            {"Mounted at", volume.volumeURL ? pathText(*volume.volumeURL) : QString("--")},
-            {"Device", volume.device ? QString::fromStdString(*volume.device) : QString("--")}};
+    return {
+        {HostFacts::tr("Name"), volumeNameText(volume.name)},
+        {HostFacts::tr("Format"), volumeFormatText(volume.format)},
+        {HostFacts::tr("Capacity"), Format::bytes(volume.total)},
+        {HostFacts::tr("Available"), Format::bytes(volume.available)},
+        {HostFacts::tr("Used"),
+         Format::bytes(volume.used()) + QString(" (%1 %)").arg(volume.usedFraction() * 100.0, 0, 'f', 0)},
+        {HostFacts::tr("Connection"), connectionText(volume.connection())},
+        {HostFacts::tr("Read-only"), yesOrNo(volume.isReadOnly)},
+        {HostFacts::tr("Encrypted"), yesOrNo(volume.isEncrypted)},
+        {HostFacts::tr("Mounted at"), volume.volumeURL ? pathText(*volume.volumeURL) : QString("--")},
+        {HostFacts::tr("Device"), volume.device ? QString::fromStdString(*volume.device) : QString("--")}};
 }
 
 std::vector<TextRow> capabilityRows(const VolumeCapabilities& capabilities) {
-    std::vector<TextRow> rows{{"Type", capabilities.filesystemType},
-                              {"Block size", Format::bytes(capabilities.blockSize)},
-                              {"Optimal transfer", capabilities.optimalIOSize > 0
-                                                       ? Format::bytes(capabilities.optimalIOSize)
-                                                       : QString("--")},
-                              {"Longest name", numberText(capabilities.maxNameLength)},
-                              {"Longest path", numberText(capabilities.maxPathLength)},
-                              {"Most links", numberText(capabilities.maxLinkCount)}};
+    std::vector<TextRow> rows{
+        {HostFacts::tr("Type"), capabilities.filesystemType},
+        {HostFacts::tr("Block size"), Format::bytes(capabilities.blockSize)},
+        {HostFacts::tr("Optimal transfer"),
+         capabilities.optimalIOSize > 0 ? Format::bytes(capabilities.optimalIOSize) : QString("--")},
+        {HostFacts::tr("Longest name"), numberText(capabilities.maxNameLength)},
+        {HostFacts::tr("Longest path"), numberText(capabilities.maxPathLength)},
+        {HostFacts::tr("Most links"), numberText(capabilities.maxLinkCount)}};
     for (const Feature& feature : features)
-        rows.push_back({feature.label, answerText(capabilities.*feature.field)});
+        rows.push_back({HostFacts::tr(feature.label), answerText(capabilities.*feature.field)});
     return rows;
 }
 
 std::vector<TextRow> driveRows(const DriveIdentity& drive) {
-    return {{"Model", drive.model.value_or("--")}, {"Attached by", drive.protocolName.value_or("--")}};
+    return {{HostFacts::tr("Model"), drive.model.value_or("--")},
+            {HostFacts::tr("Attached by"), drive.protocolName.value_or("--")}};
 }
 
 QJsonObject healthJson(const HealthReading& reading) {
@@ -207,16 +222,15 @@ QJsonObject healthJson(const HealthReading& reading) {
 }
 
 std::vector<TextRow> healthRows(const HealthReading& reading) {
-    std::vector<TextRow> rows{{"Source", QString::fromStdString(reading.source)}};
+    std::vector<TextRow> rows{{HostFacts::tr("Source"), healthSource(reading.source)}};
     if (!reading.smart || !reading.smart->isSupported())
         return rows;
-    const bool isFailing = reading.smart->status == DiskSMART::Status::failing;
-    rows.push_back({"Status", isFailing ? QString("Failing") : QString("Verified")});
-    rows.push_back({"Interface", QString::fromStdString(reading.smart->kind)});
+    rows.push_back({HostFacts::tr("Status"), healthVerdict(reading.smart->status)});
+    rows.push_back({HostFacts::tr("Interface"), QString::fromStdString(reading.smart->kind)});
     for (const DiskSMART::Attribute& attribute : reading.smart->attributes)
-        rows.push_back({QString::fromStdString(attribute.label),
-                        QString::fromStdString(attribute.value) +
-                            (attribute.warning ? QString("  (attention)") : QString())});
+        rows.push_back(
+            {healthLabel(attribute),
+             healthValue(attribute) + (attribute.warning ? "  " + HostFacts::tr("(attention)") : QString())});
     return rows;
 }
 

@@ -2,9 +2,12 @@
 #include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickHost/Command.h"
 #include "TarnwickHost/Facts.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/HealthText.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/session/DriveInfo.h"
 #include "TarnwickKit/model/session/SMARTReport.h"
 
@@ -22,14 +25,18 @@ using OndelCore::platform::SystemSources;
 using TarnwickKit::model::DriveIdentity;
 using TarnwickKit::model::DriveInfo;
 using TarnwickKit::model::harmless;
+using TarnwickKit::model::healthSource;
 using TarnwickKit::model::SMARTReport;
 using TarnwickKit::model::textColumns;
+using TarnwickKit::model::volumeFormatText;
+using TarnwickKit::model::volumeNameText;
 
 namespace TarnwickHost {
 
 namespace {
 
-constexpr std::array factsOptions{Option{"--json", "", "Print the facts as one JSON object"}};
+constexpr std::array factsOptions{
+    Option{"--json", "", QT_TRANSLATE_NOOP("HostHelp", "Print the facts as one JSON object")}};
 
 struct Facts {
     std::optional<VolumeInfo> volume;
@@ -59,7 +66,7 @@ QJsonObject json(const Facts& facts) {
 
 QString text(const Facts& facts) {
     std::vector<TextRow> rows;
-    const auto add = [&rows](const char* title, const std::vector<TextRow>& section) {
+    const auto add = [&rows](const QString& title, const std::vector<TextRow>& section) {
         if (!rows.empty())
             rows.emplace_back();
         rows.push_back({title});
@@ -67,11 +74,11 @@ QString text(const Facts& facts) {
             rows.push_back({"  " + row.front(), row.back()});
     };
     if (facts.volume)
-        add("Volume", volumeRows(*facts.volume));
+        add(HostFacts::tr("Volume"), volumeRows(*facts.volume));
     if (facts.capabilities)
-        add("File system", capabilityRows(*facts.capabilities));
-    add("Drive", driveRows(facts.drive));
-    add("Health", healthRows(facts.health));
+        add(HostFacts::tr("File system"), capabilityRows(*facts.capabilities));
+    add(HostFacts::tr("Drive"), driveRows(facts.drive));
+    add(HostFacts::tr("Health"), healthRows(facts.health));
     return textColumns(rows);
 }
 
@@ -85,7 +92,8 @@ int executeFacts(const CommandLine& line) {
     return done;
 }
 
-constexpr std::array volumesOptions{Option{"--json", "", "Print the list as one JSON array"}};
+constexpr std::array volumesOptions{
+    Option{"--json", "", QT_TRANSLATE_NOOP("HostHelp", "Print the list as one JSON array")}};
 
 QJsonDocument json(const std::vector<MountedVolume>& volumes) {
     QJsonArray array;
@@ -95,9 +103,10 @@ QJsonDocument json(const std::vector<MountedVolume>& volumes) {
 }
 
 std::string text(const std::vector<MountedVolume>& volumes) {
-    std::vector<TextRow> rows{{"Name", "Format", "Capacity", "Mounted at"}};
+    std::vector<TextRow> rows{{HostFacts::tr("Name"), HostFacts::tr("Format"), HostFacts::tr("Capacity"),
+                               HostFacts::tr("Mounted at")}};
     for (const MountedVolume& volume : volumes)
-        rows.push_back({volume.name, volume.format,
+        rows.push_back({volumeNameText(volume.name), volumeFormatText(volume.format),
                         volume.total ? TarnwickKit::model::Format::bytes(*volume.total) : QString("--"),
                         QString::fromStdString(volume.url.string())});
     return textColumns(rows).toStdString();
@@ -105,7 +114,7 @@ std::string text(const std::vector<MountedVolume>& volumes) {
 
 int executeVolumes(const CommandLine& line) {
     if (!line.operands().empty())
-        throw UsageError("volumes takes no operand");
+        throw UsageError(HostUsage::tr("%1 takes no operand").arg(isolated("volumes")));
     const auto volumes = mountedVolumes();
     if (line.has("--json"))
         print(json(volumes));
@@ -127,7 +136,8 @@ int executeSmartReport(const CommandLine& line) {
     const std::filesystem::path folder = folderIn(line, sources.mountTable);
     const HealthReading reading = readHealth(folder, sources);
     if (!reading.smart || !reading.smart->isSupported()) {
-        complain("no S.M.A.R.T. figures: " + reading.source);
+        //: %1: the reason.
+        complain(HostFacts::tr("no S.M.A.R.T. figures: %1").arg(healthSource(reading.source)));
         return failed;
     }
     const QString text =
@@ -138,36 +148,50 @@ int executeSmartReport(const CommandLine& line) {
     return done;
 }
 
+constexpr std::array factsNotes{
+    Note{"", QT_TRANSLATE_NOOP("HostHelp", "Nothing is written anywhere. What the system does not tell reads "
+                                           "\"--\" or \"not known\", and is left out of the JSON\n"
+                                           "object.")},
+};
+
+constexpr std::array volumesNotes{
+    Note{"", QT_TRANSLATE_NOOP(
+                 "HostHelp",
+                 "Each file system is listed once, at its shortest mount point. What the system, its "
+                 "packages and its containers\n"
+                 "mount for themselves is left out. A server that does not answer in time has no capacity.")},
+};
+
+constexpr std::array smartReportNotes{
+    Note{"", QT_TRANSLATE_NOOP("HostHelp", "The drive is only looked at: a sleeping one is not woken and "
+                                           "nothing is switched on in it. Where its health comes\n"
+                                           "from, or why there is none, is told by \"facts\".")},
+};
+
 } // namespace
 
-const Command factsCommand{.name = "facts",
-                           .operands = "FOLDER",
-                           .summary = "Show what holds FOLDER: volume, file system, drive and its health",
-                           .options = factsOptions,
-                           .notes = R"(
-Nothing is written anywhere. What the system does not tell reads "--" or "not known", and is left out of the JSON
-object.
-)",
-                           .execute = &executeFacts};
+const Command factsCommand{
+    .name = "facts",
+    .operands = "FOLDER",
+    .summary =
+        QT_TRANSLATE_NOOP("HostHelp", "Show what holds FOLDER: volume, file system, drive and its health"),
+    .options = factsOptions,
+    .notes = factsNotes,
+    .execute = &executeFacts};
 
 const Command volumesCommand{.name = "volumes",
                              .operands = "",
-                             .summary = "List the mounted volumes",
+                             .summary = QT_TRANSLATE_NOOP("HostHelp", "List the mounted volumes"),
                              .options = volumesOptions,
-                             .notes = R"(
-Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
-mount for themselves is left out. A server that does not answer in time has no capacity.
-)",
+                             .notes = volumesNotes,
                              .execute = &executeVolumes};
 
-const Command smartReportCommand{.name = "smart-report",
-                                 .operands = "FOLDER",
-                                 .summary = "Print the health of the drive that holds FOLDER",
-                                 .options = {},
-                                 .notes = R"(
-The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
-from, or why there is none, is told by "facts".
-)",
-                                 .execute = &executeSmartReport};
+const Command smartReportCommand{
+    .name = "smart-report",
+    .operands = "FOLDER",
+    .summary = QT_TRANSLATE_NOOP("HostHelp", "Print the health of the drive that holds FOLDER"),
+    .options = {},
+    .notes = smartReportNotes,
+    .execute = &executeSmartReport};
 
 } // namespace TarnwickHost

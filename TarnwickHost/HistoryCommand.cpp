@@ -1,5 +1,6 @@
 #include "TarnwickHost/Command.h"
 #include "TarnwickHost/ExportOptions.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/Terminal.h"
 #include "TarnwickKit/model/format/DisplayText.h"
@@ -21,11 +22,15 @@ namespace TarnwickHost {
 
 namespace {
 
+struct HostHistory {
+    Q_DECLARE_TR_FUNCTIONS(HostHistory)
+};
+
 constexpr std::array historyOptions{
     formatOption,
-    Option{"--output", "FILE", "The file that \"export\" writes"},
+    Option{"--output", "FILE", QT_TRANSLATE_NOOP("HostHelp", "The file that \"export\" writes")},
     forceOption,
-    Option{"--all", "", "Let \"delete\" delete all runs"},
+    Option{"--all", "", QT_TRANSLATE_NOOP("HostHelp", "Let \"delete\" delete all runs")},
 };
 
 using Runs = std::vector<RunRecord>;
@@ -58,9 +63,11 @@ Runs named(const Runs& runs, Words words) {
         };
         const auto found = std::ranges::find_if(runs, isMeant);
         if (found == runs.end())
-            throw std::runtime_error("there is no run " + quoted(word) + " in the history");
+            throw std::runtime_error(
+                HostHistory::tr("there is no run %1 in the history").arg(inQuotes(word)).toStdString());
         if (std::ranges::count_if(runs, isMeant) > 1)
-            throw std::runtime_error(quoted(word) + " stands for several runs");
+            throw std::runtime_error(
+                HostHistory::tr("%1 stands for several runs").arg(inQuotes(word)).toStdString());
         if (std::ranges::find(chosen, found->id, &RunRecord::id) == chosen.end())
             chosen.push_back(*found);
     }
@@ -73,9 +80,10 @@ void list(const Runs& runs) {
     constexpr int titleColumns = 28;
     if (runs.empty())
         return;
-    TextRow header{"Run", "Date", "Title"};
+    //: A benchmark run.
+    TextRow header{HostHistory::tr("Run"), HostHistory::tr("Date"), HostHistory::tr("Title")};
     for (const CompareMetric& metric : CompareMetric::all())
-        header.push_back(metric.label);
+        header.push_back(labelOf(metric.test));
     std::vector<TextRow> rows{header};
     const QStringList names = namesOf(runs);
     for (std::size_t index = 0; index < runs.size(); ++index) {
@@ -84,7 +92,9 @@ void list(const Runs& runs) {
                     fitted(run.title(), titleColumns)};
         for (const CompareMetric& metric : CompareMetric::all()) {
             const auto figure = run.*metric.magnitude;
-            row.push_back(figure ? metric.format(*figure) + ' ' + metric.unit : QString("--"));
+            const bool isOfFiles = metric.test == OndelCore::benchmark::BenchmarkTest::fileOps;
+            const QString unit = isOfFiles ? operationsPerSecond() : metric.unit;
+            row.push_back(figure ? metric.format(*figure) + ' ' + unit : QString("--"));
         }
         rows.push_back(row);
     }
@@ -106,29 +116,32 @@ std::optional<ExportForm> formByName(const std::filesystem::path& file) {
 int exportRuns(const CommandLine& line, const Runs& runs) {
     const auto file = outputFile(line);
     if (!file)
-        throw UsageError("export needs --output FILE");
+        throw UsageError(HostUsage::tr("%1 needs %2").arg(isolated("export"), isolated("--output FILE")));
     const std::filesystem::path name = *line.value("--output");
     const auto asked = exportForm(line);
     if (!asked && name.extension() == "." + std::string(TarnwickFile::runExtension)) {
         if (runs.size() != 1)
-            throw UsageError("a run file holds one run, not " + std::to_string(runs.size()));
+            throw UsageError(HostUsage::tr("a run file holds one run, not %1").arg(runs.size()));
         return file->write(encodeRun(runs.front())) ? done : failed;
     }
     const auto form = asked ? asked : formByName(name);
     if (!form)
-        throw UsageError("--format is needed where the FILE's name does not end in .tarnwickrun, .csv, "
-                         ".json, .md or .txt");
+        throw UsageError(
+            HostUsage::tr("%1 is needed where the FILE's name does not end in .tarnwickrun, .csv, "
+                          ".json, .md or .txt")
+                .arg(isolated("--format")));
     return file->write(exported(runs, *form)) ? done : failed;
 }
 
 int deleteRuns(const CommandLine& line, HistoryStore& history, Words words) {
     if (words.empty() != line.has("--all"))
-        throw UsageError("delete needs either RUNs or --all");
+        throw UsageError(
+            HostUsage::tr("%1 needs either RUNs or %2").arg(isolated("delete"), isolated("--all")));
     for (const RunRecord& run : namedOrAll(history.runs(), words))
         history.deleteRun(run.id);
     if (history.isSaved())
         return done;
-    complain("The history could not be written.");
+    complain(HostFiles::tr("The history could not be written."));
     return failed;
 }
 
@@ -136,8 +149,9 @@ int deleteRuns(const CommandLine& line, HistoryStore& history, Words words) {
 void requireOwnOptions(const CommandLine& line, std::string_view action) {
     const auto requireFor = [&](std::string_view option, std::string_view one, std::string_view other) {
         if (line.has(option) && action != one && action != other)
-            throw UsageError(std::string(option) + " goes with " + std::string(one) +
-                             (other.empty() ? "" : " and ") + std::string(other) + " only");
+            throw other.empty() ? goesOnlyWith(option, one)
+                                : UsageError(HostUsage::tr("%1 goes with %2 and %3 only")
+                                                 .arg(isolated(option), isolated(one), isolated(other)));
     };
     requireFor("--format", "show", "export");
     requireFor("--output", "export", {});
@@ -151,7 +165,8 @@ int executeHistory(const CommandLine& line) {
     words = words.subspan(words.empty() ? 0 : 1);
     constexpr std::array<std::string_view, 4> actions{"list", "show", "export", "delete"};
     if (std::ranges::find(actions, action) == actions.end())
-        throw UsageError("history can list, show, export and delete, not " + quoted(action));
+        throw UsageError(HostUsage::tr("%1 can list, show, export and delete, not %2")
+                             .arg(isolated("history"), inQuotes(action)));
     requireOwnOptions(line, action);
     const auto form = exportForm(line);
     HistoryStore history;
@@ -167,27 +182,33 @@ int executeHistory(const CommandLine& line) {
     return done;
 }
 
+constexpr std::array historyNotes{
+    Note{"", QT_TRANSLATE_NOOP("HostHelp", "ACTION is one of")},
+    Note{"list", QT_TRANSLATE_NOOP(
+                     "HostHelp", "a line for each run, newest first, which begins with its name (default)")},
+    Note{"show", QT_TRANSLATE_NOOP("HostHelp", "print runs as \"show\" does, in the form of --format")},
+    Note{"export", QT_TRANSLATE_NOOP("HostHelp", "write runs to the FILE of --output, in the form of "
+                                                 "--format or of the FILE's name: .csv, .json, .md,\n"
+                                                 ".txt, or .tarnwickrun for one run")},
+    Note{"delete", QT_TRANSLATE_NOOP("HostHelp", "delete runs, without a question and for good")},
+    Note{"", QT_TRANSLATE_NOOP("HostHelp",
+                               "A RUN is named as the list has it, or by four or more characters that begin "
+                               "its id. Without one, all runs are meant;\n"
+                               "\"delete\" then needs --all. A window that is open follows as soon as you "
+                               "come back to it. --output replaces an existing\n"
+                               "file only if it is empty or holds runs; with --force any other file too.")},
+    Note{"", QT_TRANSLATE_NOOP("HostHelp",
+                               "Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.")},
+};
+
 } // namespace
 
-const Command historyCommand{.name = "history",
-                             .operands = "[ACTION] [RUN]…",
-                             .summary = "List, show, export or delete the runs that the window keeps",
-                             .options = historyOptions,
-                             .notes = R"(
-ACTION is one of
-
-  list      a line for each run, newest first, which begins with its name (default)
-  show      print runs as "show" does, in the form of --format
-  export    write runs to the FILE of --output, in the form of --format or of the FILE's name: .csv, .json, .md,
-            .txt, or .tarnwickrun for one run
-  delete    delete runs, without a question and for good
-
-A RUN is named as the list has it, or by four or more characters that begin its id. Without one, all runs are meant;
-"delete" then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
-file only if it is empty or holds runs; with --force any other file too.
-
-Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.
-)",
-                             .execute = &executeHistory};
+const Command historyCommand{
+    .name = "history",
+    .operands = "[ACTION] [RUN]…",
+    .summary = QT_TRANSLATE_NOOP("HostHelp", "List, show, export or delete the runs that the window keeps"),
+    .options = historyOptions,
+    .notes = historyNotes,
+    .execute = &executeHistory};
 
 } // namespace TarnwickHost

@@ -1,5 +1,6 @@
 #include "TarnwickHost/Output.h"
 
+#include "TarnwickHost/HostText.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 
 #include <QJsonDocument>
@@ -16,7 +17,8 @@ namespace TarnwickHost {
 namespace {
 
 [[noreturn]] void throwOutputError() {
-    throw std::system_error(errno, std::generic_category(), "The result could not be written");
+    throw std::system_error(errno, std::generic_category(),
+                            HostFiles::tr("The result could not be written").toStdString());
 }
 
 } // namespace
@@ -55,5 +57,7 @@ void complain(std::string_view line) {
     text += '\n';
     [[maybe_unused]] const ssize_t ignored = write(STDERR_FILENO, text.data(), text.size());
 }
+
+void complain(const QString& line) { complain(std::string_view(line.toStdString())); }
 
 } // namespace TarnwickHost

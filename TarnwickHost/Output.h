@@ -3,6 +3,7 @@
 #include <string_view>
 
 class QJsonDocument;
+class QString;
 
 namespace TarnwickHost {
 
@@ -22,5 +23,6 @@ void requireStandardOutput();
 
 /// Writes `line` and a line break to standard error, as one write. Fails: silently.
 void complain(std::string_view line);
+void complain(const QString& line);
 
 } // namespace TarnwickHost

@@ -2,32 +2,34 @@
 
 #include "OndelCore/benchmark/BenchmarkEngine.h"
 #include "OndelCore/volumes/VolumeQuestions.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 
 #include <cerrno>
 #include <chrono>
-#include <string>
-#include <system_error>
+#include <string_view>
 
 using namespace OndelCore::volumes;
 using OndelCore::benchmark::BenchmarkEngine;
 
 namespace TarnwickHost {
 
-std::filesystem::path folderTo(std::string_view purpose, const CommandLine& line) {
+std::filesystem::path folderTo(Purpose purpose, const CommandLine& line) {
     if (line.operands().empty())
-        throw UsageError("a FOLDER to " + std::string(purpose) + " is missing");
+        throw UsageError(purpose == Purpose::measure ? HostUsage::tr("a FOLDER to measure is missing")
+                                                     : HostUsage::tr("a FOLDER to check is missing"));
     if (line.operands().size() > 1)
-        throw UsageError("one FOLDER at a time, not also " + quoted(line.operands().at(1)));
+        throw UsageError(
+            HostUsage::tr("one FOLDER at a time, not also %1").arg(inQuotes(line.operands().at(1))));
     const std::string_view folder = line.operands().front();
     if (folder.empty())
-        throw UsageError("the FOLDER's name is empty");
+        throw UsageError(HostUsage::tr("the FOLDER's name is empty"));
 
     const auto [error, isFolder] = look(folder);
     if (error == 0 && !isFolder)
-        throw UsageError(quoted(folder) + " is not a folder");
+        throw UsageError(HostFiles::tr("%1 is not a folder").arg(inQuotes(folder)));
     if (error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP)
-        throw UsageError(quoted(folder) + ": " + std::generic_category().message(error));
+        throw UsageError(because(inQuotes(folder), error));
     return folder;
 }
 
@@ -41,7 +43,7 @@ RunPlace placeOf(const std::filesystem::path& folder) {
 void sweep(const std::filesystem::path& folder) {
     constexpr std::chrono::seconds patience{1};
     if (BenchmarkEngine::cleanupOrphans(folder, patience) > 0)
-        complain("Files of another run in this folder are in use and were not removed.");
+        complain(HostFiles::tr("Files of another run in this folder are in use and were not removed."));
 }
 
 } // namespace TarnwickHost

@@ -6,7 +6,6 @@
 
 #include <filesystem>
 #include <optional>
-#include <string_view>
 
 namespace TarnwickHost {
 
@@ -17,9 +16,12 @@ struct RunPlace {
     std::optional<OndelCore::volumes::VolumeCapabilities> capabilities;
 };
 
+/// What a folder is wanted for.
+enum class Purpose { measure, check };
+
 /// The one operand of a command that writes into a folder, which must exist: the bytes as given. Whether it
-/// can be written to is left to the engine. `purpose`: "measure". Fails: throws UsageError.
-std::filesystem::path folderTo(std::string_view purpose, const CommandLine& line);
+/// can be written to is left to the engine. Fails: throws UsageError.
+std::filesystem::path folderTo(Purpose purpose, const CommandLine& line);
 
 /// What is told of a place. Blocks on asking for the volume that holds it. Fails: never, what is not told is
 /// absent.

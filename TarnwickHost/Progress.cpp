@@ -2,9 +2,13 @@
 
 #include "TarnwickKit/model/capacity/CapacityText.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
+#include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/Comparison.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
+#include <QTextBoundaryFinder>
 
 #include <poll.h>
 #include <unistd.h>
@@ -20,9 +24,17 @@ namespace TarnwickHost {
 
 namespace {
 
-constexpr qsizetype titleColumns = 20;
-constexpr qsizetype leastBarColumns = 8;
-constexpr qsizetype mostBarColumns = 40;
+constexpr int titleColumns = 20;
+constexpr int leastBarColumns = 8;
+constexpr int mostBarColumns = 40;
+
+struct HostProgress {
+    Q_DECLARE_TR_FUNCTIONS(HostProgress)
+};
+
+QString blanksUpTo(int columns, const QString& text) {
+    return QString(std::max(0, columns - columnsOf(text)), u' ');
+}
 
 /// The right end of the line: how much is done, and how fast. Fixed widths keep the line from jumping.
 struct Amount {
@@ -30,11 +42,16 @@ struct Amount {
     QString rate;
 };
 
+/// Both are sizes, or counts.
+QString partOf(const QString& done, const QString& all) {
+    //: "1.2 GiB of 5.0 GiB" are written; the numbers stand in columns of a fixed width.
+    return HostProgress::tr("%1 of %2").arg(done, all);
+}
+
 Amount bytesAmount(const BenchmarkProgress& progress) {
-    QString done = Format::bytes(progress.completedBytes).rightJustified(10);
-    if (progress.totalBytes > 0)
-        done += " of " + Format::bytes(progress.totalBytes);
-    return {done, Format::rate(progress.instantBytesPerSecond).rightJustified(9)};
+    const QString done = Format::bytes(progress.completedBytes).rightJustified(10);
+    return {progress.totalBytes > 0 ? partOf(done, Format::bytes(progress.totalBytes)) : done,
+            Format::rate(progress.instantBytesPerSecond).rightJustified(9)};
 }
 
 Amount operationsAmount(const BenchmarkProgress& progress, std::int64_t perOperation, const QString& unit) {
@@ -42,7 +59,7 @@ Amount operationsAmount(const BenchmarkProgress& progress, std::int64_t perOpera
     const std::int64_t all = progress.totalBytes / perOperation;
     const QString total = Format::grouped(static_cast<double>(all));
     const double rate = progress.elapsed > 0 ? static_cast<double>(completed) / progress.elapsed : 0;
-    return {Format::grouped(static_cast<double>(completed)).rightJustified(total.size()) + " of " + total,
+    return {partOf(Format::grouped(static_cast<double>(completed)).rightJustified(total.size()), total),
             (Format::compact(rate) + ' ' + unit).rightJustified(12)};
 }
 
@@ -52,7 +69,7 @@ Amount amountOf(const BenchmarkProgress& progress, const BenchmarkPlan& plan) {
     case BenchmarkTest::randomWrite:
         return operationsAmount(progress, BenchmarkPlan::alignedBlock(plan.randomBlockSize), "IOPS");
     case BenchmarkTest::fileOps:
-        return operationsAmount(progress, 1, "ops/s");
+        return operationsAmount(progress, 1, operationsPerSecond());
     case BenchmarkTest::sequentialWrite:
     case BenchmarkTest::sequentialRead:
         break;
@@ -60,19 +77,19 @@ Amount amountOf(const BenchmarkProgress& progress, const BenchmarkPlan& plan) {
     return bytesAmount(progress);
 }
 
-QString bar(double fraction, qsizetype columns, bool unicode) {
-    const auto filled = static_cast<qsizetype>(fraction * static_cast<double>(columns));
+QString bar(double fraction, int columns, bool unicode) {
+    const auto filled = static_cast<int>(fraction * columns);
     const QChar full = unicode ? QChar(0x2501) : '#';
     const QChar empty = unicode ? QChar(0x2500) : '.';
     return QString(filled, full) + QString(columns - filled, empty);
 }
 
 /// The line with as many of the pieces behind it as fit.
-QString withPieces(QString line, const QStringList& pieces, qsizetype columns) {
+QString withPieces(QString line, const QStringList& pieces, int columns) {
     for (const QString& piece : pieces)
-        if (line.size() + 2 + piece.size() <= columns)
+        if (columnsOf(line) + 2 + columnsOf(piece) <= columns)
             line += "  " + piece;
-    return line.left(columns);
+    return beginningOf(line, columns);
 }
 
 /// Without a sequential write the engine prepares the data file first, and tells no progress meanwhile.
@@ -84,7 +101,7 @@ bool preparesFile(const BenchmarkPlan& plan) {
 } // namespace
 
 QString progressLine(const BenchmarkProgress& progress, const BenchmarkPlan& plan, LineStyle style) {
-    const qsizetype columns = std::max(style.columns, 0);
+    const int columns = std::max(style.columns, 0);
     const Amount amount = amountOf(progress, plan);
     QString line = title(progress.test, BenchmarkPlan::alignedBlock(plan.randomBlockSize));
 
@@ -93,11 +110,12 @@ QString progressLine(const BenchmarkProgress& progress, const BenchmarkPlan& pla
                                                static_cast<double>(progress.totalBytes),
                                            0.0, 1.0);
         const QString percent = QString::number(static_cast<int>(fraction * 100)).rightJustified(3) + " %";
-        const qsizetype full =
-            titleColumns + 2 + percent.size() + 2 + amount.done.size() + 2 + amount.rate.size();
-        const qsizetype barColumns = std::min(columns - full - 2, mostBarColumns);
+        const QString blanks = blanksUpTo(titleColumns, line);
+        const int full = columnsOf(line + blanks) + 2 + columnsOf(percent) + 2 + columnsOf(amount.done) + 2 +
+                         columnsOf(amount.rate);
+        const int barColumns = std::min(columns - full - 2, mostBarColumns);
         if (barColumns >= leastBarColumns)
-            line = line.leftJustified(titleColumns) + "  " + bar(fraction, barColumns, style.unicode);
+            line += blanks + "  " + bar(fraction, barColumns, style.unicode);
         line += "  " + percent;
     }
     return withPieces(line, {amount.done, amount.rate}, columns);
@@ -106,23 +124,34 @@ QString progressLine(const BenchmarkProgress& progress, const BenchmarkPlan& pla
 QString checkLine(const CapacityCourse& course, LineStyle style) {
     const auto& last = course.last();
     if (!last)
-        return "Starting";
-    const qsizetype columns = std::max(style.columns, 0);
-    QString line = capacityPhaseName(last->phase).leftJustified(titleColumns);
+        return HostProgress::tr("Starting");
+    const int columns = std::max(style.columns, 0);
+    QString line = capacityPhaseName(last->phase);
+    line += blanksUpTo(titleColumns, line);
     if (const auto fraction = course.fraction()) {
-        const qsizetype barColumns = std::min<qsizetype>(columns - 70, mostBarColumns / 2);
+        const int barColumns = std::min(columns - 70, mostBarColumns / 2);
         if (barColumns >= leastBarColumns)
             line += bar(*fraction, barColumns, style.unicode) + "  ";
         line += QString::number(static_cast<int>(*fraction * 100)).rightJustified(3) + " %";
     }
     QStringList pieces;
     if (const auto rate = course.rate()) {
-        pieces << Format::bytes(last->done).rightJustified(10) + " of " + Format::bytes(last->total)
+        pieces << partOf(Format::bytes(last->done).rightJustified(10), Format::bytes(last->total))
                << Format::rate(*rate).rightJustified(9);
     }
     if (const auto left = course.timeLeft())
-        pieces << spanText(*left) + " left";
+        //: %1: the time until the end, as "2 min".
+        pieces << HostProgress::tr("%1 left").arg(spanText(*left));
     return withPieces(line, pieces, columns);
+}
+
+QString beginningOf(const QString& line, int columns) {
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, line);
+    qsizetype fits = 0;
+    for (qsizetype end = 0;
+         (end = characters.toNextBoundary()) != -1 && columnsOf(line.left(end)) <= columns;)
+        fits = end;
+    return line.left(fits);
 }
 
 void replaceLine(const QString& line) {
@@ -148,9 +177,9 @@ void ProgressBar::note(const BenchmarkProgress& progress) {
 
 void ProgressBar::draw(bool stopping) {
     const LineStyle style = lineStyle(STDERR_FILENO);
-    const auto shown = [&](const QString& text) { replaceLine(text.left(style.columns)); };
+    const auto shown = [&](const QString& text) { replaceLine(beginningOf(text, style.columns)); };
     if (stopping)
-        return shown("Stopping, removing the test files");
+        return shown(HostProgress::tr("Stopping, removing the test files"));
 
     std::unique_lock guard(m_lock);
     const auto latest = m_latest;
@@ -158,8 +187,11 @@ void ProgressBar::draw(bool stopping) {
     if (latest)
         return replaceLine(progressLine(*latest, m_plan, style));
     const auto waited = std::chrono::floor<std::chrono::seconds>(std::chrono::steady_clock::now() - m_start);
-    shown((preparesFile(m_plan) ? "Preparing the test file, " : "Starting, ") +
-          QString::number(waited.count()) + " s");
+    //: %1: the seconds since the start.
+    const QString what = preparesFile(m_plan) ? HostProgress::tr("Preparing the test file, %1 s")
+                                              //: %1: the seconds since the start.
+                                              : HostProgress::tr("Starting, %1 s");
+    shown(what.arg(waited.count()));
 }
 
 } // namespace TarnwickHost

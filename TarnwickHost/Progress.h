@@ -22,6 +22,9 @@ QString progressLine(const OndelCore::benchmark::BenchmarkProgress& progress,
 /// check is done, amount, rate and the time left, as much of it as fits.
 QString checkLine(const TarnwickKit::model::CapacityCourse& course, LineStyle style);
 
+/// So much of `line` as fits into `columns`.
+QString beginningOf(const QString& line, int columns);
+
 /// Writes a line over the last one on the terminal behind standard error; an empty one erases it. A terminal
 /// that takes nothing at the moment (Ctrl+S) is left alone.
 void replaceLine(const QString& line);

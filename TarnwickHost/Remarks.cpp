@@ -1,6 +1,7 @@
 #include "TarnwickHost/Remarks.h"
 
 #include "TarnwickKit/model/format/RemarkText.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/model/runs/EvidenceCodec.h"
 
 #include <QJsonDocument>
@@ -21,6 +22,7 @@ QJsonDocument document(const auto& value) {
 } // namespace
 
 QJsonArray remarksJson(const std::vector<Remark>& remarks) {
+    const EnglishTexts english;
     QJsonArray array;
     for (const Remark& remark : remarks) {
         QJsonObject object = document(std::vector{remark}).array().first().toObject();

@@ -4,10 +4,12 @@
 #include "TarnwickHost/Remarks.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 #include "TarnwickKit/model/runs/RunText.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -22,10 +24,14 @@ namespace TarnwickHost {
 
 namespace {
 
+struct HostResults {
+    Q_DECLARE_TR_FUNCTIONS(HostResults)
+};
+
 /// The columns of the table that hold a test's title and figures.
 constexpr std::size_t figureColumns = 5;
 
-QString countRate(double perSecond, const char* unit) { return Format::compact(perSecond) + ' ' + unit; }
+QString countRate(double perSecond, const QString& unit) { return Format::compact(perSecond) + ' ' + unit; }
 
 TextRow row(const QString& title, const ThroughputResult& result) {
     const auto lowest = result.lowestBytesPerSecond();
@@ -43,7 +49,9 @@ TextRow row(const QString& title, const IOPSResult& result) {
 bool hasLatency(const std::optional<IOPSResult>& result) { return result && result->latency; }
 
 TextRow row(const QString& title, const FileOpsResult& result) {
-    const auto rate = [](const FileOpResult& phase) { return countRate(phase.opsPerSecond(), "ops/s"); };
+    const auto rate = [](const FileOpResult& phase) {
+        return countRate(phase.opsPerSecond(), operationsPerSecond());
+    };
     return {title, rate(result.create), rate(result.stat), rate(result.rename), rate(result.remove)};
 }
 
@@ -53,7 +61,7 @@ QString driveLine(const DriveIdentity& drive, int columns) {
     for (const auto& name : {drive.model, drive.protocolName})
         if (const auto visible = visibleText(name))
             names << *visible;
-    const QString line = labelled("Drive  ", names, " · ", columns);
+    const QString line = labelled(HostResults::tr("Drive") + "  ", names, " · ", columns);
     return line.isEmpty() ? line : '\n' + line;
 }
 
@@ -188,17 +196,21 @@ QString resultTable(const MeasuredRun& run, int columns) {
         rows.push_back(figures);
     };
     if (result.sequentialWrite || result.sequentialRead)
-        beginBlock({"", "Sustained", "Peak", "Lowest", "Overall"});
+        beginBlock({"", HostResults::tr("Sustained"), HostResults::tr("Peak"), HostResults::tr("Lowest"),
+                    HostResults::tr("Overall")});
     add(BenchmarkTest::sequentialWrite, result.sequentialWrite);
     add(BenchmarkTest::sequentialRead, result.sequentialRead);
     if (result.randomRead || result.randomWrite)
-        beginBlock(hasLatency(result.randomRead) || hasLatency(result.randomWrite)
-                       ? TextRow{"", "Operations", "Rate", "p99", "Worst"}
-                       : TextRow{"", "Operations", "Rate"});
+        beginBlock({"", HostResults::tr("Operations"), HostResults::tr("Rate")});
+    if (hasLatency(result.randomRead) || hasLatency(result.randomWrite))
+        //: The slowest operation; "p99" is the time that 99 of 100 operations stay below.
+        rows.back().insert(rows.back().end(), {"p99", HostResults::tr("Worst")});
     add(BenchmarkTest::randomRead, result.randomRead);
     add(BenchmarkTest::randomWrite, result.randomWrite);
     if (result.fileOps)
-        beginBlock({"", "Create", "Stat", "Rename", "Delete"});
+        //: What the file-operations test does with files; "Stat" asks for a file's size and dates.
+        beginBlock({"", HostResults::tr("Create"), HostResults::tr("Stat"), HostResults::tr("Rename"),
+                    HostResults::tr("Delete")});
     add(BenchmarkTest::fileOps, result.fileOps);
     if (rows.empty())
         return {};

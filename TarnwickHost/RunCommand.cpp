@@ -2,6 +2,7 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickHost/Card.h"
 #include "TarnwickHost/Command.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickHost/Place.h"
 #include "TarnwickHost/Progress.h"
@@ -41,10 +42,17 @@ namespace {
 void complainOfFlushes(const RunOptions& options, const BenchmarkResult& result) {
     const std::int64_t block = BenchmarkPlan::alignedBlock(options.plan.randomBlockSize);
     for (const FlushFailure& failure : result.flushFailures()) {
-        const QString after =
-            failure.test ? TarnwickKit::model::title(*failure.test, block) : QString("Preparation");
-        complain(after.toStdString() + ": the flush to the medium failed (" + failure.error.message() +
-                 "); not all that was written may be there.");
+        const QString reason = QString::fromStdString(failure.error.message());
+        if (failure.test)
+            //: %1: a test, %2: what the system says.
+            complain(HostFiles::tr("%1: the flush to the medium failed (%2); not all that was written may be "
+                                   "there.")
+                         .arg(TarnwickKit::model::title(*failure.test, block), reason));
+        else
+            //: The preparation of the test file. %1: what the system says.
+            complain(HostFiles::tr("Preparation: the flush to the medium failed (%1); not all that was "
+                                   "written may be there.")
+                         .arg(reason));
     }
 }
 
@@ -96,7 +104,7 @@ Files temporaryFiles(const RunOptions& options, const RunRecord& record) {
         return {};
     Files files{.run = TarnwickReport{record}.handoffFile(), .card = std::nullopt};
     if (!files.run) {
-        complain("The run file could not be written to your temporary folder.");
+        complain(HostFiles::tr("The run file could not be written to your temporary folder."));
         files.isWhole = false;
         return files;
     }
@@ -126,7 +134,7 @@ Files written(const RunOptions& options, const RunRecord& record) {
         HistoryStore history;
         history.add(record);
         if (!history.isSaved()) {
-            complain("The run could not be added to the history.");
+            complain(HostFiles::tr("The run could not be added to the history."));
             files.isWhole = false;
         }
     }
@@ -195,28 +203,38 @@ int executeRun(const CommandLine& line) {
     return files.isWhole ? done : failed;
 }
 
+constexpr std::array runNotes{
+    Note{"", QT_TRANSLATE_NOOP("HostHelp", "BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, "
+                                           "GiB, TiB: steps of 1024). Blocks are rounded up to\n"
+                                           "whole pages of 4096. Defaults are those of the window, so that "
+                                           "its figures and these can be compared, but for the\n"
+                                           "blocks of the sequential tests: the window takes the \"Optimal "
+                                           "transfer\" that \"facts\" shows.")},
+    Note{"", QT_TRANSLATE_NOOP("HostHelp", "Everything is written into a hidden folder inside FOLDER and "
+                                           "removed at the end, also after Ctrl+C. What a killed\n"
+                                           "run left behind in FOLDER is removed before the start; files "
+                                           "that are still in use stay, after a second's wait.")},
+    Note{"", QT_TRANSLATE_NOOP("HostHelp", "The files of --handoff and --card stay until your session ends, "
+                                           "or until the system empties its temporary folder.\n"
+                                           "--output replaces an existing file only if it is empty or holds "
+                                           "runs (a run file, or what \"show --format\" and\n"
+                                           "\"history export\" write as json or csv); with --force any other "
+                                           "file too. A window that is open shows a run that\n"
+                                           "--keep adds as soon as you come back to it. When something "
+                                           "cannot be written, the figures are printed all the same\n"
+                                           "and the run counts as failed.")},
+    Note{"", QT_TRANSLATE_NOOP("HostHelp",
+                               "Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.")},
+};
+
 } // namespace
 
 const Command runCommand{.name = "run",
                          .operands = "FOLDER",
-                         .summary = "Measure the file system that holds FOLDER",
+                         .summary =
+                             QT_TRANSLATE_NOOP("HostHelp", "Measure the file system that holds FOLDER"),
                          .options = runOptionTable(),
-                         .notes = R"(
-BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
-whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
-blocks of the sequential tests: the window takes the "Optimal transfer" that "facts" shows.
-
-Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
-run left behind in FOLDER is removed before the start; files that are still in use stay, after a second's wait.
-
-The files of --handoff and --card stay until your session ends, or until the system empties its temporary folder.
---output replaces an existing file only if it is empty or holds runs (a run file, or what "show --format" and
-"history export" write as json or csv); with --force any other file too. A window that is open shows a run that
---keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
-and the run counts as failed.
-
-Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.
-)",
+                         .notes = runNotes,
                          .execute = &executeRun};
 
 } // namespace TarnwickHost

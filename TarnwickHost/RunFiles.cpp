@@ -1,6 +1,6 @@
 #include "TarnwickHost/RunFiles.h"
 
-#include "TarnwickHost/CommandLine.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
 #include "TarnwickKit/model/runs/JsonReader.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
@@ -13,7 +13,6 @@
 #include <cerrno>
 #include <optional>
 #include <string>
-#include <system_error>
 
 using namespace TarnwickKit::model;
 
@@ -21,26 +20,25 @@ namespace TarnwickHost {
 
 namespace {
 
-std::string tooLarge() {
-    return " is larger than a run file can be (" + std::to_string(maxRunFileBytes >> 20) + " MiB)";
-}
+QString mostBytes() { return QString::number(maxRunFileBytes >> 20) + " MiB"; }
 
-/// Why readRunFile gave nothing for `path`, to stand behind its name.
-std::string whyUnread(const std::string& path) {
+/// Why readRunFile gave nothing for `path`.
+QString whyUnread(const std::string& path) {
+    const QString file = inQuotes(path);
     struct stat facts{};
     if (stat(path.c_str(), &facts) != 0)
-        return ": " + std::generic_category().message(errno);
+        return because(file, errno);
     if (!S_ISREG(facts.st_mode))
-        return " is not a regular file";
+        return HostFiles::tr("%1 is not a regular file").arg(file);
     if (static_cast<std::uintmax_t>(facts.st_size) > maxRunFileBytes)
-        return tooLarge();
+        return HostFiles::tr("%1 is larger than a run file can be (%2)").arg(file, mostBytes());
     if (access(path.c_str(), R_OK) != 0)
-        return ": " + std::generic_category().message(errno);
-    return " could not be read";
+        return because(file, errno);
+    return HostFiles::tr("%1 could not be read").arg(file);
 }
 
 /// What stands on standard input. Fails: absent, and `reason` says why.
-std::optional<std::string> readInput(std::string& reason) {
+std::optional<std::string> readInput(QString& reason) {
     std::string all;
     std::array<char, 65536> buffer{};
     for (;;) {
@@ -50,11 +48,11 @@ std::optional<std::string> readInput(std::string& reason) {
         if (length > 0)
             all.append(buffer.data(), static_cast<std::size_t>(length));
         else if (errno != EINTR) {
-            reason = ": " + std::generic_category().message(errno);
+            reason = because(HostFiles::tr("standard input"), errno);
             return std::nullopt;
         }
         if (all.size() > maxRunFileBytes) {
-            reason = tooLarge();
+            reason = HostFiles::tr("standard input is larger than a run file can be (%1)").arg(mostBytes());
             return std::nullopt;
         }
     }
@@ -66,21 +64,23 @@ ReadRuns readRuns(std::span<const std::string_view> paths) {
     ReadRuns read;
     for (const std::string_view operand : paths) {
         const std::string path(operand);
-        std::string reason;
-        const auto content = path == "-" ? readInput(reason) : readRunFile(path);
+        const bool isInput = path == "-";
+        QString reason;
+        const auto content = isInput ? readInput(reason) : readRunFile(path);
         try {
             if (content) {
                 const auto runs = requireRuns(*content);
                 read.runs.insert(read.runs.end(), runs.begin(), runs.end());
                 continue;
             }
-            if (reason.empty())
+            if (reason.isEmpty())
                 reason = whyUnread(path);
         } catch (const JsonError& error) {
-            reason = std::string(" is not a run file: ") + error.what();
+            reason = isInput ? HostFiles::tr("standard input is not a run file: %1").arg(error.what())
+                             : HostFiles::tr("%1 is not a run file: %2").arg(inQuotes(path), error.what());
         }
         read.isWhole = false;
-        complain((path == "-" ? "standard input" : quoted(operand)) + reason);
+        complain(reason);
     }
     return read;
 }

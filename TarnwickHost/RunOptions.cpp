@@ -1,6 +1,7 @@
 #include "TarnwickHost/RunOptions.h"
 
 #include "TarnwickHost/CommandLine.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Place.h"
 
 #include <algorithm>
@@ -31,30 +32,44 @@ constexpr Range fileOpRange{0, 1'000'000};
 
 constexpr std::array options{
     Option{"--tests", "A,B",
-           "Tests to run, always in this order: sequentialWrite, sequentialRead,\n"
-           "randomRead, randomWrite, fileOps (default: all)"},
-    Option{"--size", "BYTES|fill", "Size of the data file, or fill the disk (default: 5GiB)"},
-    Option{"--leave-free", "BYTES", "What --size fill leaves free (default: 1GiB)"},
-    Option{"--write-block", "BYTES", "Bytes per call, sequential write (default: 1MiB)"},
-    Option{"--read-block", "BYTES", "Bytes per call, sequential read (default: 1MiB)"},
-    Option{"--random-block", "BYTES", "Bytes per random operation (default: 4KiB)"},
-    Option{"--random-ops", "N", "Operations in each random test (default: 10000)"},
-    Option{"--file-ops", "N", "Files in the file-operations test (default: 1000)"},
-    Option{"--cached", "", "Let the system cache the data file, as ordinary programs do"},
-    Option{"--sample-interval", "S", "Least seconds between two samples (default: 0.02)"},
+           QT_TRANSLATE_NOOP("HostHelp",
+                             "Tests to run, always in this order: sequentialWrite, sequentialRead,\n"
+                             "randomRead, randomWrite, fileOps (default: all)")},
+    Option{"--size", "BYTES|fill",
+           QT_TRANSLATE_NOOP("HostHelp", "Size of the data file, or fill the disk (default: 5GiB)")},
+    Option{"--leave-free", "BYTES",
+           QT_TRANSLATE_NOOP("HostHelp", "What --size fill leaves free (default: 1GiB)")},
+    Option{"--write-block", "BYTES",
+           QT_TRANSLATE_NOOP("HostHelp", "Bytes per call, sequential write (default: 1MiB)")},
+    Option{"--read-block", "BYTES",
+           QT_TRANSLATE_NOOP("HostHelp", "Bytes per call, sequential read (default: 1MiB)")},
+    Option{"--random-block", "BYTES",
+           QT_TRANSLATE_NOOP("HostHelp", "Bytes per random operation (default: 4KiB)")},
+    Option{"--random-ops", "N",
+           QT_TRANSLATE_NOOP("HostHelp", "Operations in each random test (default: 10000)")},
+    Option{"--file-ops", "N",
+           QT_TRANSLATE_NOOP("HostHelp", "Files in the file-operations test (default: 1000)")},
+    Option{"--cached", "",
+           QT_TRANSLATE_NOOP("HostHelp", "Let the system cache the data file, as ordinary programs do")},
+    Option{"--sample-interval", "S",
+           QT_TRANSLATE_NOOP("HostHelp", "Least seconds between two samples (default: 0.02)")},
     Option{"--json", "",
-           "Print one JSON object: the plan, every figure, every sample, date,\n"
-           "folder, volume, file system, drive, kernel, and under \"evidence\" and\n"
-           "\"remarks\" what was observed and what it says"},
-    Option{"--output", "FILE", "Write a run file there, for the window, for \"show\" and for others"},
+           QT_TRANSLATE_NOOP("HostHelp",
+                             "Print one JSON object: the plan, every figure, every sample, date,\n"
+                             "folder, volume, file system, drive, kernel, and under \"evidence\" and\n"
+                             "\"remarks\" what was observed and what it says")},
+    Option{
+        "--output", "FILE",
+        QT_TRANSLATE_NOOP("HostHelp", "Write a run file there, for the window, for \"show\" and for others")},
     forceOption,
-    Option{"--keep", "", "Add the run to the window's history"},
+    Option{"--keep", "", QT_TRANSLATE_NOOP("HostHelp", "Add the run to the window's history")},
     Option{"--handoff", "",
-           "Write a run file for the window and for \"show\", and print its path\n"
-           "as the last line; with --json: as \"handoffFile\" in the object"},
+           QT_TRANSLATE_NOOP("HostHelp",
+                             "Write a run file for the window and for \"show\", and print its path\n"
+                             "as the last line; with --json: as \"handoffFile\" in the object")},
     Option{"--card", "light|dark",
-           "Draw a picture of the run to share, in light or dark colours, and\n"
-           "print its path as the last line; with --json: as \"cardFile\""},
+           QT_TRANSLATE_NOOP("HostHelp", "Draw a picture of the run to share, in light or dark colours, and\n"
+                                         "print its path as the last line; with --json: as \"cardFile\"")},
 };
 
 std::set<BenchmarkTest> parsedTests(std::string_view list) {
@@ -67,7 +82,8 @@ std::set<BenchmarkTest> parsedTests(std::string_view list) {
             std::string known;
             for (const BenchmarkTest each : allBenchmarkTests)
                 known.append(known.empty() ? "" : ", ").append(rawValue(each));
-            throw UsageError("--tests: there is no test " + quoted(name) + ", only " + known);
+            throw UsageError(HostUsage::tr("%1: there is no test %2, only %3")
+                                 .arg(isolated("--tests"), inQuotes(name), isolated(known)));
         }
         tests.insert(*test);
         start = end + 1;
@@ -82,7 +98,7 @@ BenchmarkSize parsedSize(const CommandLine& line) {
         return BenchmarkSize::fillDisk(leaveFree ? byteCount("--leave-free", *leaveFree, sizeRange)
                                                  : BenchmarkSize::defaultLeaveFree);
     if (leaveFree)
-        throw UsageError("--leave-free goes with --size fill only");
+        throw goesOnlyWith("--leave-free", "--size fill");
     return size ? BenchmarkSize::fixed(byteCount("--size", *size, sizeRange)) : BenchmarkPlan().size;
 }
 
@@ -116,7 +132,8 @@ std::optional<CardColors> parsedCard(const CommandLine& line) {
     if (!colors)
         return std::nullopt;
     if (colors != "light" && colors != "dark")
-        throw UsageError("--card is light or dark, not " + quoted(*colors));
+        throw UsageError(
+            HostUsage::tr("%1 is light or dark, not %2").arg(isolated("--card"), inQuotes(*colors)));
     return colors == "dark" ? CardColors::dark : CardColors::light;
 }
 
@@ -127,7 +144,7 @@ std::span<const Option> runOptionTable() { return options; }
 RunOptions runOptions(const CommandLine& line) {
     RunOptions run;
     run.plan = parsedPlan(line);
-    run.folder = folderTo("measure", line);
+    run.folder = folderTo(Purpose::measure, line);
     run.json = line.has("--json");
     run.handOff = line.has("--handoff");
     run.output = outputFile(line);

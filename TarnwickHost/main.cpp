@@ -1,18 +1,26 @@
 // tarnwick-host: a host application on the library's public surface, for terminals and scripts.
 
 #include "TarnwickHost/Command.h"
+#include "TarnwickHost/Help.h"
+#include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
-#include "TarnwickKit/model/format/DisplayText.h"
+#include "TarnwickHost/Terminal.h"
+#include "TarnwickKit/model/language/Language.h"
+
+#include <QCoreApplication>
+
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <clocale>
 #include <csignal>
 #include <exception>
+#include <optional>
 #include <string>
+#include <vector>
 
 using namespace TarnwickHost;
-using TarnwickKit::model::columnsOf;
 
 namespace {
 
@@ -22,60 +30,20 @@ constexpr std::string_view program = "tarnwick-host";
 constexpr std::array commands{&runCommand,  &checkCommand, &showCommand,    &historyCommand,
                               &cardCommand, &factsCommand, &volumesCommand, &smartReportCommand};
 
-/// Two columns: the words on the left, what they mean on the right.
-class HelpLines {
-public:
-    explicit HelpLines(int leftColumns)
-        : m_leftColumns(leftColumns) {}
-
-    void add(std::string_view left, std::string_view right) {
-        std::string line = "  " + std::string(left);
-        // An ellipsis is three bytes, and one column.
-        line.append(spaces(m_leftColumns + 2 - std::min(m_leftColumns, columnsOf(QString::fromUtf8(left)))));
-        for (std::size_t start = 0; start <= right.size();) {
-            const std::size_t end = std::min(right.find('\n', start), right.size());
-            m_text.append(line).append(right.substr(start, end - start)).append("\n");
-            line = spaces(m_leftColumns + 4);
-            start = end + 1;
-        }
-    }
-    const std::string& text() const { return m_text; }
-
-private:
-    static std::string spaces(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
-
-    int m_leftColumns;
-    std::string m_text;
-};
-
-std::string helpOf(const Command& command) {
-    std::string usage = "Usage: " + std::string(program) + " " + std::string(command.name) + " [OPTION]…" +
-                        (command.operands.empty() ? "" : " ") + std::string(command.operands) + "\n";
-    HelpLines lines(24);
-    for (const Option& option : command.options)
-        lines.add(std::string(option.name) + (option.argument.empty() ? "" : " ") +
-                      std::string(option.argument),
-                  option.help);
-    lines.add("--help", "Show this text");
-    return usage + std::string(command.summary) + ".\n\n" + lines.text() + std::string(command.notes);
-}
-
-std::string helpOfProgram() {
-    HelpLines lines(24);
-    for (const Command* command : commands)
-        lines.add(std::string(command->name) + " " + std::string(command->operands), command->summary);
-    lines.add("--help", "Show this text, or behind a command that command's options");
-    lines.add("--version", "Show the version");
-    return "Usage: " + std::string(program) + " COMMAND [OPTION]… [OPERAND]…\n" +
-           "Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.\n\n" +
-           lines.text();
+/// The character encoding only: numbers and dates look up the locale themselves, and what the system says of
+/// errors stays as scripts and JSON have it.
+void takeEncoding() {
+    // NOLINTBEGIN(concurrency-mt-unsafe): no other thread runs yet.
+    std::setlocale(LC_ALL, "C");
+    std::setlocale(LC_CTYPE, "");
+    // NOLINTEND(concurrency-mt-unsafe)
 }
 
 int execute(const Command& command, std::span<const char* const> words) {
     try {
         const CommandLine line(command.options, words);
         if (line.wantsHelp()) {
-            print(helpOf(command));
+            print(helpOf(command, lineStyle(STDOUT_FILENO).columns).toStdString());
             return done;
         }
         return command.execute(line);
@@ -88,7 +56,7 @@ int execute(const Command& command, std::span<const char* const> words) {
 int dispatch(std::span<const char* const> words) {
     const std::string_view first = words.empty() ? std::string_view() : words.front();
     if (first == "--help" || first == "-h") {
-        print(helpOfProgram());
+        print(helpOfProgram(commands, lineStyle(STDOUT_FILENO).columns).toStdString());
         return done;
     }
     if (first == "--version") {
@@ -98,9 +66,11 @@ int dispatch(std::span<const char* const> words) {
     for (const Command* command : commands)
         if (first == command->name)
             return execute(*command, words.subspan(1));
-    const std::string hint = "; see " + std::string(program) + " --help";
-    complain(std::string(program) + ": " +
-             (words.empty() ? "a command is missing" : "there is no command " + quoted(first)) + hint);
+    const QString help = isolated(std::string(program) + " --help");
+    const QString why = words.empty()
+                            ? HostUsage::tr("a command is missing; see %1").arg(help)
+                            : HostUsage::tr("there is no command %1; see %2").arg(inQuotes(first), help);
+    complain(std::string(program) + ": " + why.toStdString());
     return wrongUsage;
 }
 
@@ -109,14 +79,20 @@ int dispatch(std::span<const char* const> words) {
 int main(int argc, char** argv) {
     occupyStandardDescriptors();
     std::signal(SIGPIPE, SIG_IGN);
-    // The character encoding only: numbers and dates look up the locale themselves.
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread runs yet.
-    std::setlocale(LC_CTYPE, "");
+    takeEncoding();
+    const std::vector<const char*> words(argv + std::min(1, argc), argv + argc); // Qt takes some of them away
+    // Without it texts are English, which a terminal of another encoding than UTF-8 needs. Qt would also
+    // print a warning there.
+    std::optional<QCoreApplication> application;
+    if (lineStyle(STDOUT_FILENO).unicode) {
+        application.emplace(argc, argv);
+        takeEncoding(); // Qt takes over all of the locale
+        TarnwickKit::model::Language::install();
+    }
     try {
-        const std::span<const char* const> words(argv, static_cast<std::size_t>(argc));
-        return dispatch(words.subspan(std::min<std::size_t>(1, words.size())));
+        return dispatch(words);
     } catch (const std::exception& error) {
-        complain(error.what());
+        complain(std::string_view(error.what()));
         return failed;
     }
 }

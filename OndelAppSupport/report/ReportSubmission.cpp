@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <exception>
+#include <string_view>
 #include <utility>
 
 namespace OndelAppSupport {
@@ -35,11 +36,25 @@ std::optional<QString> reason(const QByteArray& answer) {
     return error.isString() ? std::optional(error.toString()) : std::nullopt;
 }
 
+/// Why no report could be sent. The transfer's own library has English texts only.
+constexpr const char* transportTexts[] = {
+    QT_TRANSLATE_NOOP("BugReporter", "The answer's head is too long"),
+    QT_TRANSLATE_NOOP("BugReporter", "No proxy can be used"),
+    QT_TRANSLATE_NOOP("BugReporter", "libcurl.so.4 cannot be loaded"),
+};
+
+QString inWords(const https::TransportError& error) {
+    const auto* const known = std::ranges::find_if(
+        transportTexts, [&error](const char* text) { return std::string_view(text) == error.what(); });
+    return known == std::ranges::end(transportTexts) ? QString::fromUtf8(error.what())
+                                                     : QCoreApplication::translate("BugReporter", *known);
+}
+
 ReportError errorOf(const https::TransportError& error) {
     using Kind = https::TransportError::Kind;
     if (error.kind() == Kind::notHttps || error.kind() == Kind::notHttp)
         return ReportError(ReportError::Network());
-    return ReportError(ReportError::Transport{QString::fromUtf8(error.what())});
+    return ReportError(ReportError::Transport{inWords(error)});
 }
 
 /// Returns when the service has filed the report. Threads: blocks; may hang as https::exchange. Fails: throws
@@ -70,6 +85,7 @@ void sendReport(const QByteArray& body, const BugReporter::Service& service, con
     }
     if (status == filed)
         return;
+    //: %1 is a status of HTTP, as 500
     const QString rejected =
         QCoreApplication::translate("BugReporter", "The server rejected the report (%1).");
     throw ReportError(ReportError::Server{reason(answer).value_or(rejected.arg(status))});

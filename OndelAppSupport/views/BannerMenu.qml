@@ -15,6 +15,7 @@ BaseButton {
 
     implicitWidth: Metrics.leastTarget
     implicitHeight: Metrics.leastTarget
+    //: Button: opens a menu
     label: qsTr("More")
     hint: menu?.visible ? "" : label
     detail: ""

@@ -58,6 +58,7 @@ ColumnLayout {
             Layout.fillWidth: true
             secondary: true
             font.pixelSize: Metrics.noteSize
+            //: %1 is the program, %2 its version, %3 the system, %4 the machine
             text: qsTr("%1 %2 · %3 · %4 will be attached.")
                 .arg(page.app.name).arg(AppSupport.appVersion).arg(AppSupport.osVersion).arg(AppSupport.hardwareModel)
         }

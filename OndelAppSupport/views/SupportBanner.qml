@@ -4,15 +4,16 @@ import QtQuick
 import OndelControls
 import OndelAppSupport.views
 
-/// The note that asks for support. Its buttons move below the text when one row is too narrow.
+/// The note that asks for support. Its buttons move below the text when one row is too narrow, and into more lines.
 Card {
     id: banner
 
     property SupportNudges nudges: AppSupport.nudges
     property appIdentity app: AppSupport.app
     property bool highContrast: false
-    readonly property bool fitsOneRow: width >= 24 + heart.width + 8 + Math.max(free.implicitWidth, plea.implicitWidth) + 12 + buttons.width
-    readonly property real shownHeight: ask.height - 2 * ask.reach
+    readonly property real buttonsWidth: ask.width + later.width + more.width + 2 * buttons.spacing
+    readonly property bool fitsOneRow: width >= 24 + heart.width + 8 + Math.max(free.implicitWidth, plea.implicitWidth) + 12 + buttonsWidth
+    readonly property real shownHeight: buttons.height - 2 * ask.reach
 
     implicitHeight: 24 + (fitsOneRow ? Math.max(words.height, shownHeight) : words.height + 10 + shownHeight)
     radius: 10
@@ -59,9 +60,10 @@ Card {
             color: Qt.rgba(1, 1, 1, 0.78)
         }
     }
-    Row {
+    Flow {
         id: buttons
 
+        width: banner.fitsOneRow ? banner.buttonsWidth : banner.width - 24
         anchors.left: banner.fitsOneRow ? undefined : parent.left
         anchors.leftMargin: 12
         anchors.right: banner.fitsOneRow ? parent.right : undefined
@@ -72,20 +74,21 @@ Card {
         BannerButton {
             id: ask
 
-            anchors.verticalCenter: parent.verticalCenter
             prominent: true
             prominentColor: banner.highContrast ? OndelBrand.deepCoral : OndelBrand.coralButton
             label: qsTr("Support on Ko-fi")
             onClicked: banner.nudges.openSupportPage(true)
         }
         BannerButton {
-            anchors.verticalCenter: parent.verticalCenter
+            id: later
+
             label: qsTr("Not Now")
             hint: qsTr("Hide this for a week")
             onClicked: banner.nudges.notNow()
         }
         BannerMenu {
-            anchors.verticalCenter: parent.verticalCenter
+            id: more
+
             entry: qsTr("I’ve Already Supported %1").arg(banner.app.shortName)
             onChosen: banner.nudges.isSupporter = true
         }

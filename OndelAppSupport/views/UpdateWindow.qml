@@ -104,6 +104,7 @@ PanelWindow {
                 Layout.topMargin: 4
                 visible: window.state === UpdaterController.Loading
                 value: window.updater.length > 0 ? window.updater.loaded / window.updater.length : 0
+                //: %1 is a sentence (Downloading the update…), %2 how much is done
                 label: qsTr("%1 %2 %").arg(words.heading).arg(percent)
             }
             RowLayout {

@@ -9,6 +9,7 @@ QtObject {
 
     required property UpdaterController updater
     readonly property string product: updater.product
+    //: Sizes: how much of the update has been loaded
     readonly property string loaded: qsTr("%1 of %2").arg(size(updater.loaded)).arg(size(updater.length))
 
     readonly property string heading: {

@@ -55,6 +55,7 @@ Item {
 
         CaptionButton {
             visible: bar.isResizable && bar.width >= 150 // else there is too little to move a narrow window by
+            //: Of a window
             label: qsTr("Minimize")
             onClicked: bar.window.showMinimized()
 
@@ -67,6 +68,7 @@ Item {
         }
         CaptionButton {
             visible: bar.isResizable
+            //: Of a window: it gets back the size that it had, or it fills the screen
             label: bar.isMaximized ? qsTr("Restore") : qsTr("Maximize")
             onClicked: bar.toggleMaximized()
 
@@ -93,6 +95,7 @@ Item {
             }
         }
         CaptionButton {
+            //: Of a window
             label: qsTr("Close")
             onClicked: bar.window.close()
 

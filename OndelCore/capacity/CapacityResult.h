@@ -99,10 +99,10 @@ struct CapacityPass {
 
 /// How a quick check spread its samples. Units: bytes.
 struct CapacitySampling {
-    /// The file system reserved space for the whole range, so that the samples lie all over it. If not, they
-    /// lie close together and show little more than themselves.
+    /// The samples lie all over the range: the file system reserved space for it, or spreads sparse files. If
+    /// not, they lie close together and show little more than themselves.
     bool isSpread = false;
-    std::int64_t reserved = 0; ///< for how much of the range it did
+    std::int64_t reserved = 0; ///< for how much of the range space was reserved
     std::int64_t samples = 0;  ///< how many places were written
     std::int64_t spacing = 0;  ///< from one to the next
 

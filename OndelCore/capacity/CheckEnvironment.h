@@ -18,6 +18,7 @@ struct CheckEnvironment : benchmark::EngineEnvironment {
     std::function<void(int folder)> dropDeviceCache = platform::dropDeviceCache;
     std::function<bool(int descriptor, std::int64_t length)> reserveSpace = platform::reserveSpace;
     std::function<bool(int descriptor)> lacksSparseFiles = platform::lacksSparseFiles;
+    std::function<bool(int descriptor)> spreadsSparseFiles = platform::spreadsSparseFiles;
     std::function<std::vector<platform::FileExtent>(int descriptor, std::size_t most)> fileExtents =
         platform::fileExtents;
 };

@@ -26,9 +26,16 @@ namespace {
 
 using benchmark::BenchmarkError;
 
+/// What stays free. Once all space is reserved, Btrfs searches for more before each write into it.
+std::int64_t reserveOf(const CapacityPlan& plan, std::int64_t free) {
+    constexpr std::int64_t ample = 67108864;
+    const std::int64_t least = plan.isQuick && !plan.size ? std::min(ample, free / 64) : 0;
+    return std::max(least, plan.leaveFree);
+}
+
 /// How long the range becomes. Fails: throws BenchmarkError::InsufficientSpace.
 std::int64_t plannedBytes(const CapacityPlan& plan, std::int64_t free) {
-    const std::int64_t reserve = std::max<std::int64_t>(0, plan.leaveFree);
+    const std::int64_t reserve = reserveOf(plan, free);
     const std::int64_t available = std::max<std::int64_t>(0, free - reserve) / blockBytes * blockBytes;
     const std::int64_t wanted =
         plan.size

@@ -121,6 +121,8 @@ public:
     void read(Chunk& chunk);
     void close();
     void tell(CapacityPass& pass) const;
+    /// The error with which the last of it failed, over more than a few blocks; else 0.
+    int finalFailure() const { return m_failedInRow >= chunkBytes ? m_lastError : 0; }
 
 private:
     ssize_t transfer(Chunk& chunk, std::int64_t from, std::int64_t length);
@@ -132,6 +134,7 @@ private:
     const CheckRun& m_run;
     std::optional<PieceFile> m_file;
     std::int64_t m_failedInRow = 0;
+    int m_lastError = 0;
     std::int64_t m_refused = 0;
     bool m_isBypassRefused = false;
 };
@@ -192,6 +195,7 @@ void RangeReader::fail(Chunk& chunk, std::int64_t from, std::int64_t length, int
         chunk.unreadable[static_cast<std::size_t>(at / blockBytes)] = true;
     const std::int64_t before = m_failedInRow;
     m_failedInRow += length;
+    m_lastError = error;
     const bool isAnotherStretch = m_failedInRow / mostFailedInRow > before / mostFailedInRow;
     if (isAnotherStretch && isVolumeGone(m_run))
         throw benchmark::ioError("read: ", error);
@@ -249,6 +253,8 @@ CapacityPass readWritten(const CheckRun& run, CapacityPhase phase, DefectList& d
     }
     run.throwIfStopped();
     reader.close();
+    if (const int error = reader.finalFailure(); error != 0 && isVolumeGone(run))
+        throw benchmark::ioError("read: ", error);
     CapacityPass pass = meter.finish();
     reader.tell(pass);
     return pass;

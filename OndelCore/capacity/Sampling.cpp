@@ -173,15 +173,30 @@ Samples samplesBetween(const CheckRun& run) {
     return samples;
 }
 
+/// Samples in one sparse file, with nothing reserved between them.
+Samples samplesAmongHoles(const CheckRun& run) {
+    run.files.append(run.bytes); // writing tells why it fails
+    Samples samples = spreadSamples(run.bytes);
+    samples.sampling.reserved = 0;
+    return samples;
+}
+
+/// Samples side by side.
+Samples samplesInOnePlace(const CheckRun& run) {
+    constexpr std::int64_t most = 64 * mebibyte;
+    return {.stretches = {{0, std::min(run.bytes, most)}}, .sampling = {.isSpread = false, .samples = 1}};
+}
+
 } // namespace
 
 Samples prepareSamples(const CheckRun& run) {
-    constexpr std::int64_t unspread = 64 * mebibyte;
     Samples samples = run.system.lacksSparseFiles(run.folder) ? samplesBetween(run) : samplesInside(run);
-    if (samples.sampling.reserved == 0) {
-        samples.stretches = {{0, std::min(run.bytes, unspread)}};
-        samples.sampling = {.isSpread = false, .samples = 1};
-    }
+    if (samples.sampling.reserved > 0)
+        return samples;
+    const auto end = samples.end;
+    samples =
+        !end && run.system.spreadsSparseFiles(run.folder) ? samplesAmongHoles(run) : samplesInOnePlace(run);
+    samples.end = end;
     return samples;
 }
 

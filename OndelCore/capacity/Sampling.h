@@ -26,7 +26,8 @@ Samples spreadSamples(std::int64_t bytes, std::int64_t places = 1024);
 /// Reserves space for the whole range, which takes most file systems little time, and places the samples in
 /// it. FAT would fill a file with zeros up to each sample: there each is a file of its own, and between them
 /// lie files that have space and no content. A file system that cannot reserve would put all samples side by
-/// side: there a short stretch at the beginning is all there is to write. A reservation that fails for damage
+/// side, unless it is known to spread a sparse file: there a short stretch at the beginning is all there is
+/// to write. A reservation that fails for damage
 /// is a defect. Fails: throws BenchmarkError::Io if the volume is gone, or Cancelled.
 Samples prepareSamples(const CheckRun& run);
 

@@ -92,6 +92,8 @@ public:
         m_error = error;
     }
     void tell(WriteOutcome& outcome) const;
+    /// Whether the last of what was to be written failed, over more than a few blocks.
+    bool endsInFailure() const { return m_failedInRow >= chunkBytes; }
 
 private:
     bool open(std::int64_t offset);
@@ -319,7 +321,7 @@ WriteOutcome writeStretches(const CheckRun& run, CapacityPhase phase, const std:
     writer.close();
     WriteOutcome outcome{.pass = meter.finish()};
     writer.tell(outcome);
-    if (outcome.end == EarlyEnd::writeErrors && isVolumeGone(run))
+    if ((outcome.end == EarlyEnd::writeErrors || writer.endsInFailure()) && isVolumeGone(run))
         throw benchmark::ioError("write: ", outcome.error);
     return outcome;
 }

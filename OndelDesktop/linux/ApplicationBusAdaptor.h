@@ -36,7 +36,7 @@ public:
 
     Q_SCRIPTABLE Q_SLOT void Activate(const QVariantMap& platformData);
     Q_SCRIPTABLE Q_SLOT void Open(const QStringList& uris, const QVariantMap& platformData);
-    Q_SCRIPTABLE Q_SLOT void ActivateAction(const QString& name, const QVariantList& parameter,
+    Q_SCRIPTABLE Q_SLOT void ActivateAction(const QString& name, const QVariantList& parameters,
                                             const QVariantMap& platformData);
 
 private:

@@ -65,6 +65,15 @@ std::string within(std::size_t longest, const QString& text) {
     return static_cast<std::size_t>(text.size()) <= longest ? text.toStdString() : std::string();
 }
 
+std::vector<std::string> urlsOf(const QStringList& uris) {
+    constexpr qsizetype most = OpenRequests::mostUrls;
+    const QStringList taken = uris.size() > most ? uris.first(most / 2) + uris.last(most - most / 2) : uris;
+    std::vector<std::string> urls;
+    for (const QString& uri : taken)
+        urls.push_back(within(OpenRequests::longestUrl, uri));
+    return urls;
+}
+
 } // namespace
 
 ApplicationBusAdaptor::ApplicationBusAdaptor(const QDBusConnection& bus, const QString& name)
@@ -96,9 +105,13 @@ std::vector<QDBusMessage> ApplicationBusAdaptor::messagesFor(const OpenRequest& 
         message.setAutoStartService(false);
         return message;
     };
-    if (!request.action.empty())
+    if (!request.action.empty()) {
+        QVariantList parameters;
+        for (const std::string& url : request.urls)
+            parameters.append(QString::fromStdString(url));
         return {call(QStringLiteral("ActivateAction"),
-                     {QString::fromStdString(request.action), QVariantList(), platformData(request)})};
+                     {QString::fromStdString(request.action), parameters, platformData(request)})};
+    }
     if (request.urls.empty())
         return {call(QStringLiteral("Activate"), {platformData(request)})};
     std::vector<QDBusMessage> messages;
@@ -150,17 +163,15 @@ void ApplicationBusAdaptor::close() {
 void ApplicationBusAdaptor::Activate(const QVariantMap& platformData) { accept({}, platformData); }
 
 void ApplicationBusAdaptor::Open(const QStringList& uris, const QVariantMap& platformData) {
-    constexpr qsizetype most = OpenRequests::mostUrls;
-    const QStringList taken = uris.size() > most ? uris.first(most / 2) + uris.last(most - most / 2) : uris;
-    OpenRequest request;
-    for (const QString& uri : taken)
-        request.urls.push_back(within(OpenRequests::longestUrl, uri));
-    accept(std::move(request), platformData);
+    accept({.urls = urlsOf(uris), .action = {}, .activationToken = {}}, platformData);
 }
 
-void ApplicationBusAdaptor::ActivateAction(const QString& action, const QVariantList&,
+void ApplicationBusAdaptor::ActivateAction(const QString& action, const QVariantList& parameters,
                                            const QVariantMap& platformData) {
-    accept({.urls = {}, .action = action.toStdString(), .activationToken = {}}, platformData);
+    QStringList texts;
+    for (const QVariant& parameter : parameters)
+        texts.append(parameter.toString()); // "" for anything else
+    accept({.urls = urlsOf(texts), .action = action.toStdString(), .activationToken = {}}, platformData);
 }
 
 void ApplicationBusAdaptor::accept(OpenRequest request, const QVariantMap& platformData) {

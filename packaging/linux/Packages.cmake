@@ -61,7 +61,8 @@ its own health. Leaves nothing on the disk.
 .
 The package has the window. The package tarnwick-host measures in a terminal."
   DEPENDS "libcurl4, qml6-module-qtquick-controls, ${views_need}"
-  RECOMMENDS "ca-certificates, qt6-wayland, tarnwick-host, udisks2, xdg-utils")
+  RECOMMENDS "ca-certificates, qt6-translations-l10n, qt6-wayland, tarnwick-host, udisks2, xdg-utils"
+  SUGGESTS "gir1.2-gtk-4.0, python3-nautilus")
 
 # Before 0.2 one package had all. What was built on the way to 0.2.0 has that number already.
 package(tarnwick-host SECTION utils

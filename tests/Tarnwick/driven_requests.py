@@ -204,6 +204,40 @@ def opens_what_it_is_given(program, folder):
         window.quits()
 
 
+def does_what_its_entries_say(program, folder):
+    """The actions of the desktop entry, of sticks that are plugged in and of the desktop's search."""
+    saved_runs.lay_down([saved_runs.run(index, customTitle=f"Run {index}") for index in range(3)])
+    (stick := folder / "stick 100% ü").mkdir()
+    with driver.Window(program, "--choose-folder") as window:
+        driver.focus("Choose a folder")
+        driver.display.press("Escape")
+        window.until("the end of the dialog", lambda: not driver.windows("Choose a folder"))
+        check(call("ActivateAction", "check-capacity", "[]"), "the check is refused")
+        driver.focus("Choose a folder")  # there is none to check
+        driver.display.press("Escape")
+        window.until("the end of the dialog", lambda: not driver.windows("Choose a folder"))
+        check(not window.look("Start Check"), "a check of nothing")
+
+        check(subprocess.run([program, "--check-capacity", stick]).returncode == 0, "a second start does not hand over")
+        window.find("Start Check")
+        check(window.enabled("Run Benchmark"), "the stick is not the target")
+        for run, parameters in ((1, [saved_runs.run(1)["id"].lower()]), (1, ["nonsense", "x"]), (1, []), (2, [saved_runs.run(2)["id"]])):
+            shown = "[" + ",".join(f"<{json.dumps(text)}>" for text in parameters) + "]"
+            check(call("ActivateAction", "show-run", shown if parameters else "@av []"), f"{parameters} are refused")
+            window.until(f"run {run} above the others", lambda: [
+                node.get_name() for node, _ in window.nodes() if re.fullmatch(r"Run \d", node.get_name())][:1] == [f"Run {run}"])
+            check(not window.look("Start Check"), "a run beside the check")
+        check(call("ActivateAction", "check-capacity", "[]"), "the check is refused")
+        window.find("Start Check")
+        check(call("ActivateAction", "check-capacity", "[<\"http://x/\">, <5>]"), "garbage is refused")
+        window.find("“http://x/” and 1 more are not folders or run files that can be opened.")
+        status, words = ended(program, "--check-capacities")
+        check(status == 2 and words.startswith("Usage: "), f"an unknown option: {status}, {words}")
+        window.settled()  # Qt warns about an end during an animation
+        window.quits()
+    check(len(saved_runs.stored()) == 3, "showing changes the history")
+
+
 def leaves_nothing_without_a_display(program, folder):
     """The process ends with its display, as at the end of a session."""
     with subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1400x1000x24", "-nolisten", "tcp"], stdout=subprocess.PIPE,
@@ -545,7 +579,7 @@ if __name__ == "__main__":
     driver.enter_display()
     program, source, *only = sys.argv[1:]
     cases = (two_starts_give_one_window, many_runs_come_in_one_go, waits_for_a_stopped_process,
-                 starts_without_a_bus, opens_what_it_is_given, goes_by_menu,
+                 starts_without_a_bus, opens_what_it_is_given, does_what_its_entries_say, goes_by_menu,
                  ends_the_launch_feedback, asks_for_attention_behind_others, notifies_the_desktop_of_runs,
                  stays_awake_when_the_portal_refuses, asks_the_desktop_for_files,
                  follows_the_theme_without_a_portal, ends_in_every_phase,

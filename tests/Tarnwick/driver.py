@@ -53,7 +53,7 @@ def environment(home, services, variables):
     bus_configuration(home, folder)
     runtime = pathlib.Path(home, "run")
     runtime.mkdir(mode=0o700)
-    kept = {name: value for name, value in os.environ.items() if name in ("PATH", "LD_LIBRARY_PATH", "TZ", "USER", "LOGNAME", "ONDEL_DISPLAY", "ONDEL_GUARD_SECONDS")}
+    kept = {name: value for name, value in os.environ.items() if name in ("PICTURES", "PATH", "LD_LIBRARY_PATH", "TZ", "USER", "LOGNAME", "ONDEL_DISPLAY", "ONDEL_GUARD_SECONDS")}
     return kept | {
         "ONDEL_DRIVEN": "1", "HOME": home, "XDG_RUNTIME_DIR": str(runtime), "TMPDIR": home, "LC_ALL": "C.UTF-8",
         "XDG_CONFIG_HOME": f"{home}/config", "XDG_DATA_HOME": f"{home}/data", "XDG_STATE_HOME": f"{home}/state",

@@ -1,18 +1,21 @@
-"""What tarnwick-host writes is what its schemas and docs/run-file.md describe. Usage: schemas.py HOST DOCS"""
+"""What tarnwick-host writes is what its schemas and docs/run-file.md describe. Usage: schemas.py HOST DOCS FAULTY-DISK"""
 
+import contextlib
 import copy
 import json
 import os
 import pathlib
+import pty
 import re
+import signal
 import subprocess
 import sys
 import tempfile
 
 import jsonschema
 
-host, docs = sys.argv[1], pathlib.Path(sys.argv[2])
-NAMES = ("run-file.schema.json", "run-output.schema.json")
+host, docs, faulty_disk = sys.argv[1], pathlib.Path(sys.argv[2]), sys.argv[3]
+NAMES = ("run-file.schema.json", "run-output.schema.json", "check-output.schema.json")
 published = {name: json.loads((docs / name).read_text()) for name in NAMES}
 
 
@@ -60,6 +63,69 @@ def outputs(folder):
         yield NAMES[0], one
 
 
+def check(status, *arguments):
+    done = subprocess.run([host, "check", "--json", *map(str, arguments)], stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+    assert done.returncode == status, f"status {done.returncode} instead of {status}: {done.stderr}"
+    return json.loads(done.stdout) if done.stdout else None
+
+
+def stopped_check(folder):
+    """Of a check that was stopped between its two readings."""
+    screen, terminal = pty.openpty()
+    words = [host, "check", "--json", "--size", "1M", "--again", "86400", folder]
+    with subprocess.Popen(words, stdout=subprocess.PIPE, stderr=terminal) as process:
+        os.close(terminal)
+        shown = b""
+        while b"Waiting" not in shown:
+            shown += os.read(screen, 4096)
+        process.send_signal(signal.SIGTERM)
+        with contextlib.suppress(OSError):
+            while os.read(screen, 4096):
+                pass
+        printed = process.stdout.read()
+        assert process.wait() == 130, f"status {process.returncode}"
+    os.close(screen)
+    return json.loads(printed)
+
+
+@contextlib.contextmanager
+def bad_volume(folder):
+    """A file system on a disk of 64 MiB that keeps 16; None where this machine forbids it."""
+    point = folder / "bad"
+    point.mkdir()
+    with subprocess.Popen([faulty_disk, str(64 << 20), "wrap", str(16 << 20)], stdout=subprocess.PIPE, text=True) as disk:
+        device = subprocess.run(["losetup", "--find", "--show", disk.stdout.readline().strip()], capture_output=True, text=True)
+        device = device.stdout.strip()
+        is_mounted = bool(device) and not any(
+            subprocess.run(command, capture_output=True).returncode
+            for command in (["mkfs.ext4", "-q", "-J", "size=4", device], ["mount", device, point]))
+        try:
+            if is_mounted:
+                disk.send_signal(signal.SIGUSR1)
+                disk.stdout.readline()
+            yield point if is_mounted else None
+        finally:
+            if is_mounted:
+                subprocess.run(["umount", "--lazy", point], check=True)
+            if device:
+                subprocess.run(["losetup", "--detach", device], check=True)
+            disk.terminate()
+
+
+def checks(folder):
+    """(outcome, value) of real capacity checks."""
+    yield "good or unproven", check(0, "--size", "3M", "--again", 0, folder)
+    yield "unproven", check(0, "--size", "8M", "--quick", folder)
+    yield "unproven", stopped_check(folder)
+    assert check(1, "--size", "1000000T", folder) is None, "a failed check prints an object"
+    with contextlib.suppress(FileNotFoundError), bad_volume(folder) as volume:
+        if not volume:
+            print("left out: this machine allows no volume with faults")
+            return
+        yield "bad", check(3, "--leave-free", 0, volume)
+        yield "bad", check(3, "--leave-free", 0, "--quick", volume)
+
+
 def main():
     strict = {name: closed(schema) for name, schema in published.items()}
     for name, schema in published.items():
@@ -69,6 +135,10 @@ def main():
         for variable in ("HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "TMPDIR"):
             os.environ[variable] = folder
         checked = list(outputs(pathlib.Path(folder)))
+        for outcome, value in checks(pathlib.Path(folder)):
+            checked.append((NAMES[2], value))
+            if value["verdict"] not in outcome:
+                found.append(f"a check is {value['verdict']}, and should be {outcome}")
     for name, value in checked:
         found += faults(value, name, strict)
         later = {**value, "addedLater": 1}

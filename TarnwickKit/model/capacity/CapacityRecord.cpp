@@ -1,5 +1,7 @@
 #include "TarnwickKit/model/capacity/CapacityRecord.h"
 
+#include "TarnwickKit/model/format/VolumeText.h"
+
 #include <algorithm>
 
 namespace TarnwickKit::model {
@@ -64,7 +66,9 @@ CapacityVerdict CapacityRecord::verdict() const {
     return isWhole() && !isFromMemory() ? CapacityVerdict::good : CapacityVerdict::unproven;
 }
 
-QString CapacityRecord::title() const { return visibleText(volumeName).value_or(QStringLiteral("Volume")); }
+QString CapacityRecord::title() const {
+    return volumeNameText(visibleText(volumeName).value_or(QStringLiteral("Volume")));
+}
 
 CapacityResult resultWhenStopped(const CapacityProgress& last) {
     constexpr std::int64_t block = 4096;

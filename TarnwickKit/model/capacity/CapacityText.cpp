@@ -2,6 +2,8 @@
 
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/Plural.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/runs/RunRecord.h"
 
 #include <QCoreApplication>
@@ -9,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -29,11 +30,6 @@ constexpr std::int64_t blockBytes = 4096;
 constexpr std::int64_t countedBlocks = 10000;
 
 std::int64_t blocksIn(std::int64_t bytes) { return bytes / blockBytes + (bytes % blockBytes > 0 ? 1 : 0); }
-
-/// For a translation, which chooses its plural by it.
-int plural(std::int64_t count) {
-    return static_cast<int>(std::min<std::int64_t>(count, std::numeric_limits<int>::max()));
-}
 
 QString counted(std::int64_t count) { return Format::grouped(static_cast<double>(count)); }
 
@@ -92,12 +88,13 @@ struct BlockSentences {
 
 QString told(const BlockSentences& sentences, const CapacityResult& result, std::int64_t bytes) {
     const std::int64_t blocks = blocksIn(bytes);
+    // What could not be written is part of the whole, unless it is told alone, beside what was written.
+    const std::int64_t range = result.written + (bytes > result.writeFailed ? result.writeFailed : 0);
     const QString place = Format::bytes(firstDefect(result));
     if (blocks == 1)
         return CapacityText::tr(sentences.one).arg(place);
     if (blocks >= countedBlocks)
-        return CapacityText::tr(sentences.large)
-            .arg(Format::bytes(bytes), Format::bytes(result.written), place);
+        return CapacityText::tr(sentences.large).arg(Format::bytes(bytes), Format::bytes(range), place);
     const bool isTogether = mainDefects(result).size() == 1 && result.furtherDefects == 0;
     return CapacityText::tr(isTogether ? sentences.together : sentences.scattered, nullptr, plural(blocks))
         .arg(counted(blocks), place);
@@ -177,7 +174,9 @@ QString stoppedSentence(const CapacityResult& result) {
 QString quickSentence(const CapacityRecord& check) {
     const QString range = Format::bytes(check.result.planned);
     if (check.result.quick && !check.result.quick->isSpread)
-        return CapacityText::tr("The samples hold what was written, but they lie close together.");
+        return CapacityText::tr("This file system cannot spread samples: only %1 in one place were checked, "
+                                "and hold what was written.")
+            .arg(Format::bytes(check.result.written));
     return check.size
                ? CapacityText::tr("Samples all over %1 hold what was written, which is no proof.").arg(range)
                : CapacityText::tr(
@@ -234,15 +233,20 @@ void addSizes(std::vector<CapacityFact>& facts, const CapacityRecord& check) {
     const CapacityResult& result = check.result;
     if (result.volumeTotal)
         facts.push_back({CapacityText::tr("Claimed size"), decimalSize(*result.volumeTotal)});
-    if (result.realSize)
-        facts.push_back({CapacityText::tr("Real size"), decimalSize(result.realSize->bytes), true});
+    if (result.realSize) {
+        const QString size = decimalSize(result.realSize->bytes);
+        facts.push_back({CapacityText::tr("Real size"),
+                         result.realSize->isExact ? size : CapacityText::tr("about %1").arg(size), true});
+    }
     const QString range = Format::bytes(result.planned);
     facts.push_back({CapacityText::tr("Space to check"),
                      check.size ? range : CapacityText::tr("%1 of free space").arg(range)});
-    if (result.quick)
+    if (result.quick && result.quick->isSpread)
         facts.push_back({CapacityText::tr("Samples"),
                          CapacityText::tr("%1, one every %2")
                              .arg(counted(result.quick->samples), Format::block(result.quick->spacing))});
+    else if (result.quick && !check.wasStopped)
+        facts.push_back({CapacityText::tr("Samples"), CapacityText::tr("In one place")});
 }
 
 QString pausedSentence(const CapacityDefect& defect, const QString& sentence) {
@@ -299,24 +303,6 @@ QString defectSentence(const CapacityDefect& defect) {
     return failureSentence(defect, place, length);
 }
 
-QString limitsNote() {
-    return CapacityText::tr("What no check can tell: whether the space under your files is sound, what the "
-                            "drive keeps in reserve, and whether a repaired block will last.");
-}
-
-void addDataNotes(QStringList& notes, const CapacityRecord& check) {
-    const auto reach = check.result.circumstances.reach;
-    if (reach == OndelCore::platform::FileSystemReach::memory)
-        notes << CapacityText::tr("This volume keeps its files in memory: no disk was checked.");
-    else if (check.isFromMemory())
-        notes << CapacityText::tr("Only %1 % of what was read came from the disk. Check more than the "
-                                  "machine’s memory can hold.")
-                     .arg(static_cast<int>(100 * check.result.read.shareAtDisk.value_or(0)));
-    else if (!check.result.read.shareAtDisk && check.result.verified > 0)
-        notes << CapacityText::tr("The disk behind this volume cannot be seen, so what came back may have "
-                                  "come from a cache.");
-}
-
 } // namespace
 
 QString spanText(double seconds) {
@@ -353,25 +339,12 @@ QString capacitySentence(const CapacityRecord& check) {
     return check.isWhole() ? goodSentence(check) : shortSentence(check.result);
 }
 
-QStringList capacityNotes(const CapacityRecord& check) {
-    QStringList notes;
-    const CapacityResult& result = check.result;
-    if (check.wasStopped && check.isBad())
-        notes << CapacityText::tr("The check was stopped: what it had not read back is not known.");
-    if (result.quick)
-        notes << CapacityText::tr("A quick check writes a few places only. It finds most false capacities in "
-                                  "seconds; finding nothing proves nothing.");
-    if (result.earlyEnd && result.earlyEnd != EarlyEnd::writeErrors && !check.isWhole())
-        notes << CapacityText::tr("Less was checked than planned: other programs may have taken the space.");
-    addDataNotes(notes, check);
-    return notes << limitsNote();
-}
-
 std::vector<CapacityFact> capacityFacts(const CapacityRecord& check) {
     const CapacityResult& result = check.result;
     std::vector<CapacityFact> facts;
     addText(facts, CapacityText::tr("Volume"),
-            {check.volumeName, check.connection, check.fsType.value_or(QString())});
+            {volumeNameText(check.volumeName), connectionText(check.connection),
+             check.fsType.value_or(QString())});
     addText(facts, CapacityText::tr("Drive"),
             {check.deviceModel.value_or(QString()), check.deviceProtocol.value_or(QString())});
     addSizes(facts, check);
@@ -405,37 +378,6 @@ QStringList capacityDefects(const CapacityRecord& check, std::size_t most) {
                     ? CapacityText::tr("And at one more place.")
                     : CapacityText::tr("And at %1 more places.", nullptr, plural(more)).arg(counted(more)));
     return sentences;
-}
-
-QString capacityReport(const CapacityRecord& check, LineStyle style) {
-    constexpr int labelColumns = 22;
-    constexpr int leastColumns = 40;
-    constexpr std::size_t mostPlaces = 1000;
-    const int columns = std::max(style.columns, leastColumns);
-    const auto paragraph = [columns](const QString& sentence) {
-        return labelled({}, harmless(sentence).split(u' ', Qt::SkipEmptyParts), u" "_s, columns);
-    };
-    QString text = paragraph(capacitySentence(check)) +
-                   paragraph(Format::runStamp(check.date, 0).section(u" · "_s, 0, 1)) + u'\n';
-    for (const CapacityFact& fact : capacityFacts(check))
-        text +=
-            labelled(fact.label.leftJustified(labelColumns), fact.value.split(u" · "_s), u" · "_s, columns);
-    if (const QStringList places = capacityDefects(check, mostPlaces); !places.isEmpty()) {
-        text += u'\n';
-        for (const QString& place : places)
-            text += paragraph(place);
-    }
-    text += u'\n';
-    for (const QString& note : capacityNotes(check))
-        text += paragraph(note);
-    return text + (check.version ? u"\nOndel Tarnwick %1\n"_s.arg(harmless(*check.version)) : QString());
-}
-
-QString capacityReportName(const CapacityRecord& check) {
-    QString name = check.title();
-    name.replace(u'/', u'-').replace(u':', u'-');
-    return CapacityText::tr("Capacity of %1").arg(name) + u' ' +
-           check.date.toLocalTime().date().toString(Qt::ISODate) + u".txt"_s;
 }
 
 QString capacityPhaseName(CapacityPhase phase) {

@@ -3,7 +3,6 @@
 #include "OndelCore/Export.h"
 #include "OndelCore/capacity/CapacityProgress.h"
 #include "TarnwickKit/model/capacity/CapacityRecord.h"
-#include "TarnwickKit/model/format/TextLines.h"
 
 #include <QString>
 #include <QStringList>
@@ -36,12 +35,6 @@ ONDEL_KIT std::vector<CapacityFact> capacityFacts(const CapacityRecord& check);
 /// One sentence per place that did not come back as written, and one more on those that are not listed.
 /// `most`: so many places at most.
 ONDEL_KIT QStringList capacityDefects(const CapacityRecord& check, std::size_t most);
-
-/// The check in full, as text in lines of at most `style.columns`: for a file, the clipboard and the
-/// terminal. Nothing in it steers a terminal.
-ONDEL_KIT QString capacityReport(const CapacityRecord& check, LineStyle style = {});
-/// The name of a file with that text.
-ONDEL_KIT QString capacityReportName(const CapacityRecord& check);
 
 /// What a check is doing: "Writing", "Reading back".
 ONDEL_KIT QString capacityPhaseName(OndelCore::capacity::CapacityPhase phase);

@@ -3,6 +3,8 @@
 #include "OndelCore/benchmark/BenchmarkError.h"
 #include "TarnwickKit/model/format/Format.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <cstdlib>
 #include <system_error>
@@ -16,19 +18,24 @@ using OndelCore::benchmark::BenchmarkTest;
 
 namespace {
 
+struct BenchmarkText {
+    Q_DECLARE_TR_FUNCTIONS(BenchmarkText)
+};
+
 struct CauseInWords {
     QString operator()(const BenchmarkError::InsufficientSpace& cause) const {
-        return u"Not enough space: needs %1, only %2 free."_s.arg(Format::bytes(cause.needed),
-                                                                  Format::bytes(cause.available));
+        return BenchmarkText::tr("Not enough space: needs %1, only %2 free.")
+            .arg(Format::bytes(cause.needed), Format::bytes(cause.available));
     }
     QString operator()(const BenchmarkError::Io& cause) const {
-        return u"I/O error: "_s + QString::fromStdString(cause.text);
+        return BenchmarkText::tr("I/O error: %1").arg(QString::fromStdString(cause.text));
     }
     QString operator()(const BenchmarkError::NotWritable&) const {
-        return u"Couldn’t write there. The volume may be read-only, or the folder may not allow it."_s;
+        return BenchmarkText::tr(
+            "Couldn’t write there. The volume may be read-only, or the folder may not allow it.");
     }
     QString operator()(const BenchmarkError::FileTooSmallForRandom&) const {
-        return u"The test file is too small for the random block size."_s;
+        return BenchmarkText::tr("The test file is too small for the random block size.");
     }
 };
 
@@ -56,15 +63,15 @@ QString title(BenchmarkTest test, std::int64_t randomBlock) {
 QString shortTitle(BenchmarkTest test) {
     switch (test) {
     case BenchmarkTest::sequentialWrite:
-        return u"Sequential write"_s;
+        return BenchmarkText::tr("Sequential write");
     case BenchmarkTest::sequentialRead:
-        return u"Sequential read"_s;
+        return BenchmarkText::tr("Sequential read");
     case BenchmarkTest::randomRead:
-        return u"Random read"_s;
+        return BenchmarkText::tr("Random read");
     case BenchmarkTest::randomWrite:
-        return u"Random write"_s;
+        return BenchmarkText::tr("Random write");
     case BenchmarkTest::fileOps:
-        return u"File operations"_s;
+        return BenchmarkText::tr("File operations");
     }
     std::abort();
 }
@@ -78,7 +85,8 @@ QString rateUnit(BenchmarkTest test) {
     case BenchmarkTest::randomWrite:
         return u"IOPS"_s;
     case BenchmarkTest::fileOps:
-        return u"files/s"_s;
+        //: A unit, like MB/s
+        return BenchmarkText::tr("files/s");
     }
     std::abort();
 }
@@ -89,7 +97,11 @@ QString rateFigure(BenchmarkTest test, double rate) {
 }
 
 QStringList latencyFigures(const OndelCore::benchmark::Latency& latency) {
-    return {u"p99 "_s + Format::latency(latency.p99), u"worst "_s + Format::latency(latency.worst)};
+    //: The time within which 99 % of all operations were done
+    const QString p99 = BenchmarkText::tr("p99 %1");
+    //: The longest time that an operation took
+    const QString worst = BenchmarkText::tr("worst %1");
+    return {p99.arg(Format::latency(latency.p99)), worst.arg(Format::latency(latency.worst))};
 }
 
 std::optional<QString> headline(const BenchmarkResult& result, BenchmarkTest test) {
@@ -127,30 +139,33 @@ QString explain(const std::exception& error) {
     case ENOENT:
     case ENOTDIR:
     case ESTALE:
-        return u"The folder was removed or its volume unplugged during the run."_s;
+        return BenchmarkText::tr("The folder was removed or its volume unplugged during the run.");
     case ENODEV:
     case ENXIO:
     case ENOTCONN:
     case EHOSTDOWN:
     case ETIMEDOUT:
-        return u"The volume was unplugged, or its server is gone."_s;
+        return BenchmarkText::tr("The volume was unplugged, or its server is gone.");
     case EIO:
-        return u"The drive reported an error, or was unplugged during the run."_s;
+        return BenchmarkText::tr("The drive reported an error, or was unplugged during the run.");
     case EROFS:
-        return u"The volume can only be read: systems switch to that when they find an error on it."_s;
+        return BenchmarkText::tr(
+            "The volume can only be read: systems switch to that when they find an error on it.");
     case ENOSPC:
     case EDQUOT:
-        return u"The volume became full during the run, or your share of it is used up."_s;
+        return BenchmarkText::tr("The volume became full during the run, or your share of it is used up.");
     case EFBIG:
-        return u"The file system, or a limit of this session, does not allow files of this size."_s;
+        return BenchmarkText::tr(
+            "The file system, or a limit of this session, does not allow files of this size.");
     case EACCES:
     case EPERM:
-        return u"The permissions of the folder changed during the run, or the system forbids this there."_s;
+        return BenchmarkText::tr(
+            "The permissions of the folder changed during the run, or the system forbids this there.");
     case ENOMEM:
-        return u"There is not enough memory for blocks of this size."_s;
+        return BenchmarkText::tr("There is not enough memory for blocks of this size.");
     case EMFILE:
     case ENFILE:
-        return u"Too many files are open at the moment; close some programs and try again."_s;
+        return BenchmarkText::tr("Too many files are open at the moment; close some programs and try again.");
     default:
         return {};
     }

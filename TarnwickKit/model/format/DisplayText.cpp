@@ -1,5 +1,8 @@
 #include "TarnwickKit/model/format/DisplayText.h"
 
+#include "TarnwickKit/model/language/Language.h"
+
+#include <QCoreApplication>
 #include <QList>
 #include <QTextBoundaryFinder>
 
@@ -10,6 +13,10 @@ namespace TarnwickKit::model {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct DisplayText {
+    Q_DECLARE_TR_FUNCTIONS(DisplayText)
+};
 
 constexpr char32_t mark = QChar::ReplacementCharacter;
 constexpr char32_t zeroWidthNonJoiner = 0x200C; // Persian and Indic scripts need it
@@ -32,7 +39,7 @@ bool isHarmless(char32_t character) {
     }
 }
 
-int columnsOf(char32_t character) {
+int columnsOfCharacter(char32_t character) {
     const auto point = static_cast<UChar32>(character);
     switch (u_charType(point)) {
     case U_NON_SPACING_MARK:
@@ -55,6 +62,13 @@ QString harmless(const QString& text) {
     return shown;
 }
 
+QString isolated(const QString& text) {
+    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar popDirectionalIsolate(0x2069);
+    return Language::isRightToLeft() && !text.isEmpty() ? firstStrongIsolate + text + popDirectionalIsolate
+                                                        : text;
+}
+
 QByteArray harmlessJson(const QByteArray& json) {
     constexpr char32_t firstBeyondAscii = 0x7F; // below it JSON's own blanks, and escapes already
     QString safe;
@@ -72,7 +86,7 @@ QByteArray harmlessJson(const QByteArray& json) {
 int columnsOf(const QString& text) {
     int columns = 0;
     for (const char32_t character : text.toUcs4())
-        columns += columnsOf(character);
+        columns += columnsOfCharacter(character);
     return columns;
 }
 
@@ -102,14 +116,16 @@ QString fitted(const QString& text, int columns) {
 
 QString refusal(const std::vector<std::string>& names, bool isRun) {
     constexpr int nameColumns = 40;
-    const QString first =
-        QChar(0x201C) + fitted(QString::fromStdString(names.front()), nameColumns) + QChar(0x201D);
+    const QString first = fitted(QString::fromStdString(names.front()), nameColumns);
     if (names.size() == 1)
-        return first + (isRun ? u" is damaged or not a Tarnwick run."_s
-                              : u" is not a folder or a run file that can be opened."_s);
-    return first + u" and %1 more "_s.arg(names.size() - 1) +
-           (isRun ? u"are damaged or not Tarnwick runs."_s
-                  : u"are not folders or run files that can be opened."_s);
+        return (isRun ? DisplayText::tr("“%1” is damaged or not a Tarnwick run.")
+                      : DisplayText::tr("“%1” is not a folder or a run file that can be opened."))
+            .arg(first);
+    const auto more = static_cast<int>(names.size() - 1);
+    return (isRun ? DisplayText::tr("“%1” and %2 more are damaged or not Tarnwick runs.", nullptr, more)
+                  : DisplayText::tr("“%1” and %2 more are not folders or run files that can be opened.",
+                                    nullptr, more))
+        .arg(first, QString::number(more));
 }
 
 std::string quoted(std::string_view typed) {

@@ -13,6 +13,10 @@ namespace TarnwickKit::model {
 /// direction marks and lone surrogates become replacement characters.
 QString harmless(const QString& text);
 
+/// A name, a path or a cell of a table beside others, which must be harmless. In a language that is written
+/// from right to left, invisible marks around it keep its own order.
+QString isolated(const QString& text);
+
 /// JSON with the same meaning, in UTF-8, whose texts hold such characters as escapes only.
 QByteArray harmlessJson(const QByteArray& json);
 

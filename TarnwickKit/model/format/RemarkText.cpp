@@ -2,8 +2,9 @@
 
 #include "OndelCore/platform/process/SystemCalls.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/Plural.h"
 
-#include <QStringView>
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <array>
@@ -18,6 +19,10 @@ using OndelCore::benchmark::RemarkCode;
 using OndelCore::benchmark::RemarkWeight;
 
 namespace {
+
+struct RemarkText {
+    Q_DECLARE_TR_FUNCTIONS(RemarkText)
+};
 
 /// A remark with numbers that can be spelled: their count fits, and none is negative or beyond what is real.
 class Spelled {
@@ -43,10 +48,7 @@ public:
     QString count(std::size_t index) const { return Format::grouped(number(index)); }
     QString percent(std::size_t index) const { return Format::grouped(number(index) * 100 + 1e-9) + u" %"_s; }
     /// Rounded up, for a share that is at most so much.
-    QString atMost(std::size_t index) const {
-        const double percents = std::ceil(number(index) * 100 - 1e-9);
-        return (percents > 0 ? u"At most "_s : QString()) + Format::grouped(percents) + u" %"_s;
-    }
+    double mostPercents(std::size_t index) const { return std::ceil(number(index) * 100 - 1e-9); }
     QString celsius(std::size_t index) const { return Format::grouped(std::round(number(index))) + u" °C"_s; }
     QString seconds(std::size_t index) const { return Format::decimals(number(index), 1) + u" s"_s; }
     /// Of a link: "480 Mbit/s", "5.0 Gbit/s".
@@ -64,9 +66,16 @@ private:
 QString fromMemory(const Spelled& remark) {
     if (!remark.hasTest() || remark.number(0) > 1)
         return {};
-    return remark.isWrite()
-               ? u"%1 of what was written reached the disk during the test."_s.arg(remark.atMost(0))
-               : u"%1 of what was read came from the disk."_s.arg(remark.atMost(0));
+    const double percents = remark.mostPercents(0);
+    const QString share = Format::grouped(percents) + u" %"_s;
+    if (remark.isWrite())
+        return (percents > 0
+                    ? RemarkText::tr("At most %1 of what was written reached the disk during the test.")
+                    : RemarkText::tr("%1 of what was written reached the disk during the test."))
+            .arg(share);
+    return (percents > 0 ? RemarkText::tr("At most %1 of what was read came from the disk.")
+                         : RemarkText::tr("%1 of what was read came from the disk."))
+        .arg(share);
 }
 
 QString flushFailed(const Spelled& remark) {
@@ -75,29 +84,32 @@ QString flushFailed(const Spelled& remark) {
     if (error < 1 || error > last || error != std::round(error))
         return {};
     const QString text = QString::fromStdString(OndelCore::platform::errorText(static_cast<int>(error)));
-    return remark.hasTest() ? u"What was written could not all be flushed to the disk: %1."_s.arg(text)
-                            : u"The test file could not be flushed to the disk: %1."_s.arg(text);
+    return remark.hasTest()
+               ? RemarkText::tr("What was written could not all be flushed to the disk: %1.").arg(text)
+               : RemarkText::tr("The test file could not be flushed to the disk: %1.").arg(text);
 }
 
 QString speedFell(const Spelled& remark) {
-    return u"%1 for the first %2, then %3."_s.arg(remark.rate(0), remark.size(2), remark.rate(1));
+    return RemarkText::tr("%1 for the first %2, then %3.")
+        .arg(remark.rate(0), remark.size(2), remark.rate(1));
 }
 
 QString gotHot(const Spelled& remark) {
     if (remark.number(3) > 1)
         return {};
-    return u"The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower."_s.arg(
-        remark.celsius(0), remark.seconds(1), remark.celsius(2), remark.percent(3));
+    return RemarkText::tr("The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower.")
+        .arg(remark.celsius(0), remark.seconds(1), remark.celsius(2), remark.percent(3));
 }
 
 QString stalls(const Spelled& remark) {
-    return remark.number(0) == 1
-               ? u"One pause over 1 s: %1."_s.arg(remark.seconds(1))
-               : u"%1 pauses over 1 s, the longest %2."_s.arg(remark.count(0), remark.seconds(1));
+    return remark.number(0) == 1 ? RemarkText::tr("One pause over 1 s: %1.").arg(remark.seconds(1))
+                                 : RemarkText::tr("%1 pauses over 1 s, the longest %2.", nullptr,
+                                                  plural(wholeNumber(remark.number(0))))
+                                       .arg(remark.count(0), remark.seconds(1));
 }
 
 QString otherTraffic(const Spelled& remark) {
-    return u"Others moved %1 on the same disk during the test."_s.arg(remark.size(0));
+    return RemarkText::tr("Others moved %1 on the same disk during the test.").arg(remark.size(0));
 }
 
 QString slowLink(const Spelled& remark) {
@@ -105,34 +117,38 @@ QString slowLink(const Spelled& remark) {
     const double kind = remark.number(2);
     if (kind != std::floor(kind) || kind >= static_cast<double>(kinds.size()))
         return {};
-    return u"The drive’s %1 link runs at %2; the drive could do %3."_s.arg(
-        kinds.at(static_cast<std::size_t>(kind)), remark.bitRate(0), remark.bitRate(1));
+    return RemarkText::tr("The drive’s %1 link runs at %2; the drive could do %3.")
+        .arg(kinds.at(static_cast<std::size_t>(kind)), remark.bitRate(0), remark.bitRate(1));
 }
 
 QString misaligned(const Spelled& remark) {
-    return u"The partition begins %1 into a physical block of %2."_s.arg(remark.block(0), remark.block(1));
+    return RemarkText::tr("The partition begins %1 into a physical block of %2.")
+        .arg(remark.block(0), remark.block(1));
 }
 
 QString nearlyFull(const Spelled& remark) {
-    return remark.number(0) > 1 ? QString() : u"Only %1 of the volume was free."_s.arg(remark.percent(0));
+    return remark.number(0) > 1 ? QString()
+                                : RemarkText::tr("Only %1 of the volume was free.").arg(remark.percent(0));
 }
 
 QString smallTest(const Spelled& remark) {
-    return u"The test’s %1 may fit into a cache of %2."_s.arg(remark.size(0), remark.size(1));
+    return RemarkText::tr("The test’s %1 may fit into a cache of %2.").arg(remark.size(0), remark.size(1));
 }
 
 QString powerSaving(const Spelled& remark) {
     if (remark.number(0) == 1)
-        return u"The machine ran on battery."_s;
+        return RemarkText::tr("The machine ran on battery.");
     if (remark.number(0) == 2)
-        return u"The processor was set to save power."_s;
-    return remark.number(0) == 3 ? u"The machine ran on battery, its processor set to save power."_s
-                                 : QString();
+        return RemarkText::tr("The processor was set to save power.");
+    return remark.number(0) == 3
+               ? RemarkText::tr("The machine ran on battery, its processor set to save power.")
+               : QString();
 }
 
 QString copiesOnWrite(const Spelled& remark) {
-    return remark.number(0) == 1 ? u"The file system writes changes to new places and checksums data."_s
-                                 : u"The file system writes changes to new places."_s;
+    return remark.number(0) == 1
+               ? RemarkText::tr("The file system writes changes to new places and checksums data.")
+               : RemarkText::tr("The file system writes changes to new places.");
 }
 
 using Sentence = QString (*)(const Spelled&);
@@ -141,46 +157,72 @@ using Sentence = QString (*)(const Spelled&);
 struct Words {
     RemarkCode code;
     Sentence sentence;
-    QStringView text;
-    QStringView advice; ///< empty: there is nothing to do
+    const char* text;
+    const char* advice; ///< without one there is nothing to do
 };
 
 constexpr std::array words{
-    Words{RemarkCode::fromMemory, fromMemory, u"",
-          u"Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory."},
-    Words{RemarkCode::flushFailed, flushFailed, u"",
-          u"Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data."},
+    Words{RemarkCode::fromMemory, fromMemory, nullptr,
+          QT_TRANSLATE_NOOP(
+              "RemarkText",
+              "Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.")},
+    Words{RemarkCode::flushFailed, flushFailed, nullptr,
+          QT_TRANSLATE_NOOP(
+              "RemarkText",
+              "Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.")},
     Words{RemarkCode::cachedBelow, nullptr,
-          u"Data went through a cache although the system was asked to bypass it.",
-          u"Choose a size larger than the machine’s memory, or test the disk below through another file "
-          u"system."},
-    Words{RemarkCode::speedFell, speedFell, u"",
-          u"Expect the lower rate where more than that is moved at once."},
-    Words{RemarkCode::gotHot, gotHot, u"",
-          u"Give the drive more air or a heat sink, and run again once it is cool."},
-    Words{RemarkCode::stalls, stalls, u"",
-          u"Run again. If they come back, look at the drive’s S.M.A.R.T. status and its cable."},
-    Words{RemarkCode::otherTraffic, otherTraffic, u"", u"Run again while nothing else uses the disk."},
-    Words{RemarkCode::slowLink, slowLink, u"", u"Try another port, slot or cable."},
-    Words{RemarkCode::misaligned, misaligned, u"",
-          u"Make the partition anew, beginning at a multiple of 1 MiB. That erases it."},
-    Words{RemarkCode::nearlyFull, nearlyFull, u"",
-          u"Free some space: many drives and file systems slow down when full."},
-    Words{RemarkCode::smallTest, smallTest, u"", u"Choose a larger size, and switch on Bypass cache."},
-    Words{RemarkCode::powerSaving, powerSaving, u"", u"Run again on mains power, with power saving off."},
-    Words{RemarkCode::notObservable, nullptr,
-          u"The disk behind this volume cannot be seen, so nothing shows what it did itself.", u""},
-    Words{RemarkCode::inMemory, nullptr, u"This volume keeps its files in memory; no disk was measured.",
-          u"Choose a folder on a disk."},
-    Words{RemarkCode::fileOnDisk, nullptr, u"This volume is a file on another volume.",
-          u"To measure that volume itself, choose a folder on it."},
-    Words{RemarkCode::virtualDisk, nullptr, u"The disk is one of a virtual machine, whose host may cache it.",
-          u""},
+          QT_TRANSLATE_NOOP("RemarkText",
+                            "Data went through a cache although the system was asked to bypass it."),
+          QT_TRANSLATE_NOOP(
+              "RemarkText",
+              "Choose a size larger than the machine’s memory, or test the disk below through another file "
+              "system.")},
+    Words{RemarkCode::speedFell, speedFell, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText", "Expect the lower rate where more than that is moved at once.")},
+    Words{RemarkCode::gotHot, gotHot, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText",
+                            "Give the drive more air or a heat sink, and run again once it is cool.")},
+    Words{RemarkCode::stalls, stalls, nullptr,
+          QT_TRANSLATE_NOOP(
+              "RemarkText",
+              "Run again. If they come back, look at the drive’s S.M.A.R.T. status and its cable.")},
+    Words{RemarkCode::otherTraffic, otherTraffic, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText", "Run again while nothing else uses the disk.")},
+    Words{RemarkCode::slowLink, slowLink, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText", "Try another port, slot or cable.")},
+    Words{RemarkCode::misaligned, misaligned, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText",
+                            "Make the partition anew, beginning at a multiple of 1 MiB. That erases it.")},
+    Words{RemarkCode::nearlyFull, nearlyFull, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText",
+                            "Free some space: many drives and file systems slow down when full.")},
+    Words{RemarkCode::smallTest, smallTest, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText", "Choose a larger size, and switch on Bypass cache.")},
+    Words{RemarkCode::powerSaving, powerSaving, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText", "Run again on mains power, with power saving off.")},
+    Words{
+        RemarkCode::notObservable, nullptr,
+        QT_TRANSLATE_NOOP("RemarkText",
+                          "The disk behind this volume cannot be seen, so nothing shows what it did itself."),
+        nullptr},
+    Words{RemarkCode::inMemory, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText", "This volume keeps its files in memory; no disk was measured."),
+          QT_TRANSLATE_NOOP("RemarkText", "Choose a folder on a disk.")},
+    Words{RemarkCode::fileOnDisk, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText", "This volume is a file on another volume."),
+          QT_TRANSLATE_NOOP("RemarkText", "To measure that volume itself, choose a folder on it.")},
+    Words{RemarkCode::virtualDisk, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText", "The disk is one of a virtual machine, whose host may cache it."),
+          nullptr},
     Words{RemarkCode::compresses, nullptr,
-          u"The file system compresses. The test’s data does not, so other files may be faster.", u""},
-    Words{RemarkCode::copiesOnWrite, copiesOnWrite, u"", u""},
-    Words{RemarkCode::journalsData, nullptr, u"The file system writes data twice, to its journal first.",
-          u""},
+          QT_TRANSLATE_NOOP(
+              "RemarkText",
+              "The file system compresses. The test’s data does not, so other files may be faster."),
+          nullptr},
+    Words{RemarkCode::copiesOnWrite, copiesOnWrite, nullptr, nullptr},
+    Words{RemarkCode::journalsData, nullptr,
+          QT_TRANSLATE_NOOP("RemarkText", "The file system writes data twice, to its journal first."),
+          nullptr},
 };
 
 const Words& wordsOf(RemarkCode code) { return *std::ranges::find(words, code, &Words::code); }
@@ -191,21 +233,27 @@ QString remarkSentence(const Remark& remark) {
     if (!Spelled::isPossible(remark))
         return {};
     const Words& found = wordsOf(remark.code);
-    return found.sentence != nullptr ? found.sentence(Spelled(remark)) : found.text.toString();
+    return found.sentence != nullptr ? found.sentence(Spelled(remark)) : RemarkText::tr(found.text);
 }
 
-QString remarkAdvice(const Remark& remark) { return wordsOf(remark.code).advice.toString(); }
+QString remarkAdvice(const Remark& remark) {
+    const char* advice = wordsOf(remark.code).advice;
+    return advice != nullptr ? RemarkText::tr(advice) : QString();
+}
 
 QString remarkWeightWord(RemarkWeight weight) {
     switch (weight) {
     case RemarkWeight::invalid:
-        return u"Invalid"_s;
+        //: The weight of a remark: the figure is not that of the disk
+        return RemarkText::tr("Invalid");
     case RemarkWeight::caution:
-        return u"Caution"_s;
+        //: The weight of a remark: the figure may not be what it seems
+        return RemarkText::tr("Caution");
     case RemarkWeight::note:
         break;
     }
-    return u"Note"_s;
+    //: The weight of a remark: something to know
+    return RemarkText::tr("Note");
 }
 
 } // namespace TarnwickKit::model

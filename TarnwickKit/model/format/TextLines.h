@@ -17,6 +17,13 @@ struct LineStyle {
 /// line are cut. Empty without parts.
 QString labelled(const QString& label, const QStringList& parts, const QString& between, int columns);
 
+/// A sentence behind a label, on as many lines of at most `columns` as it needs: it goes on below at blanks,
+/// and in scripts without blanks between characters. Empty without a word.
+QString wrapped(const QString& label, const QString& sentence, int columns);
+
+/// `text` with blanks behind it, in at least `columns` columns.
+QString padded(const QString& text, int columns);
+
 using TextRow = std::vector<QString>;
 
 /// Where the cells behind the first one stand in their columns: texts left, figures right.

@@ -2,6 +2,7 @@
 
 #include "TarnwickKit/model/format/Format.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -11,6 +12,38 @@ namespace TarnwickKit::model {
 
 using namespace Qt::StringLiterals;
 using OndelCore::benchmark::BenchmarkTest;
+
+namespace {
+
+struct ComparisonText {
+    Q_DECLARE_TR_FUNCTIONS(ComparisonText)
+};
+
+} // namespace
+
+QString labelOf(BenchmarkTest test) {
+    switch (test) {
+    case BenchmarkTest::sequentialWrite:
+        //: Noun: what was measured
+        return ComparisonText::tr("Write");
+    case BenchmarkTest::sequentialRead:
+        //: Noun: what was measured
+        return ComparisonText::tr("Read");
+    case BenchmarkTest::randomRead:
+        return ComparisonText::tr("Random read");
+    case BenchmarkTest::randomWrite:
+        return ComparisonText::tr("Random write");
+    case BenchmarkTest::fileOps:
+        break;
+    }
+    //: File operations, where there is little room
+    return ComparisonText::tr("File ops");
+}
+
+QString operationsPerSecond() {
+    //: A unit, like IOPS: file operations per second
+    return ComparisonText::tr("ops/s");
+}
 
 const std::array<CompareMetric, 5>& CompareMetric::all() {
     static const std::array<CompareMetric, 5> metrics{{
@@ -42,6 +75,11 @@ std::vector<CompareMetric> activeMetrics(const std::vector<RunRecord>& runs) {
         return std::ranges::any_of(runs,
                                    [&](const RunRecord& run) { return (run.*metric.magnitude).has_value(); });
     });
+    for (CompareMetric& metric : active) {
+        metric.label = labelOf(metric.test);
+        if (metric.test == BenchmarkTest::fileOps)
+            metric.unit = operationsPerSecond();
+    }
     return active;
 }
 
@@ -97,22 +135,33 @@ QString parameterSummary(const RunRecord& run) {
         parts << run.fsType->toUpper();
     if (run.capacityBytes)
         parts << Format::bytes(*run.capacityBytes);
-    if (run.freeBytes)
-        parts << Format::bytes(*run.freeBytes) + u" free"_s;
-    if (visibleText(run.sizeLabel))
-        parts << *run.sizeLabel + u" test"_s;
-    if (run.writeBlock && run.writeBlock == run.readBlock) {
-        parts << u"R/W "_s + Format::block(*run.writeBlock);
-    } else {
-        if (run.writeBlock)
-            parts << u"W "_s + Format::block(*run.writeBlock);
-        if (run.readBlock)
-            parts << u"R "_s + Format::block(*run.readBlock);
+    if (run.freeBytes) {
+        //: %1 is the free space of a volume
+        parts << ComparisonText::tr("%1 free").arg(Format::bytes(*run.freeBytes));
     }
-    if (run.randomBlock)
-        parts << u"Rnd "_s + Format::block(*run.randomBlock);
+    if (visibleText(run.sizeLabel))
+        parts << (run.sizeLabel == u"Fill disk" ? ComparisonText::tr("Fill disk test")
+                                                //: %1 is the size of the test's file
+                                                : ComparisonText::tr("%1 test").arg(*run.sizeLabel));
+    if (run.writeBlock && run.writeBlock == run.readBlock) {
+        //: %1 is the size of the blocks that were read and written
+        parts << ComparisonText::tr("R/W %1").arg(Format::block(*run.writeBlock));
+    } else {
+        if (run.writeBlock) {
+            //: %1 is the size of the blocks that were written
+            parts << ComparisonText::tr("W %1").arg(Format::block(*run.writeBlock));
+        }
+        if (run.readBlock)
+            //: %1 is the size of the blocks that were read
+            parts << ComparisonText::tr("R %1").arg(Format::block(*run.readBlock));
+    }
+    if (run.randomBlock) {
+        //: %1 is the size of the blocks that were read and written at random
+        parts << ComparisonText::tr("Rnd %1").arg(Format::block(*run.randomBlock));
+    }
     if (run.bypassCache)
-        parts << (*run.bypassCache ? u"Uncached"_s : u"Cached"_s);
+        parts << (*run.bypassCache ? /*: The system's cache was bypassed */ ComparisonText::tr("Uncached")
+                                   : /*: It was not bypassed */ ComparisonText::tr("Cached"));
     return parts.join(u"  ·  "_s);
 }
 

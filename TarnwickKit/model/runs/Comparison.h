@@ -13,8 +13,8 @@ namespace TarnwickKit::model {
 
 /// One figure by which runs are compared.
 struct ONDEL_PUBLIC CompareMetric {
-    QString label;
-    QString unit;
+    QString label;                                ///< in English, but for `ComparisonChart::activeMetrics`
+    QString unit;                                 ///< as the label
     std::optional<double> RunRecord::* magnitude; ///< in its raw unit
     QString (*format)(double);
     OndelCore::benchmark::BenchmarkTest test;
@@ -22,6 +22,12 @@ struct ONDEL_PUBLIC CompareMetric {
     /// All of them, in the order to show them.
     static const std::array<CompareMetric, 5>& all();
 };
+
+/// What a metric of `CompareMetric::all` is called in the user's language.
+QString labelOf(OndelCore::benchmark::BenchmarkTest test);
+
+/// The unit of file operations: "ops/s".
+QString operationsPerSecond();
 
 /// Whether two runs measured the same volume, as far as their records tell: the name is equal, and so are the
 /// drive's model, the file system and, but for a tenth, the capacity where both know them. The capacity of
@@ -31,7 +37,7 @@ ONDEL_PUBLIC bool areOfOneVolume(const RunRecord& one, const RunRecord& other);
 /// What a comparison of runs shows; the views draw it.
 namespace ComparisonChart {
 
-/// The metrics for which at least one run has a figure.
+/// The metrics for which at least one run has a figure, with labels and units in the user's language.
 ONDEL_PUBLIC std::vector<CompareMetric> activeMetrics(const std::vector<RunRecord>& runs);
 
 /// One run's line in a metric's group.

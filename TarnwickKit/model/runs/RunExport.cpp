@@ -3,6 +3,7 @@
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/model/runs/JsonWriter.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
@@ -10,6 +11,7 @@
 #include "TarnwickKit/model/runs/RunText.h"
 #include "TarnwickKit/model/runs/TarnwickReport.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -125,6 +127,10 @@ QString markdownCell(const QString& text) {
     return cell.replace(u"://"_s, u"\\://"_s).replace(host, u"\\1\\."_s);
 }
 
+struct RunExport {
+    Q_DECLARE_TR_FUNCTIONS(RunExport)
+};
+
 struct MarkdownRow {
     QString label;
     QStringList values; ///< one per run; "" where it has none
@@ -147,42 +153,47 @@ QString visibleParts(const std::vector<std::optional<QString>>& parts) {
 
 std::vector<MarkdownRow> factRows(const std::vector<RunRecord>& runs) {
     return {
-        markdownRow(u"Run"_s, runs, [](const RunRecord& run) { return run.title(); }),
-        markdownRow(u"Date"_s, runs,
+        markdownRow(RunExport::tr("Run"), runs, [](const RunRecord& run) { return run.title(); }),
+        markdownRow(RunExport::tr("Date"), runs,
                     [](const RunRecord& run) { return Format::runStamp(run.date, run.duration); }),
-        markdownRow(u"Volume"_s, runs,
-                    [](const RunRecord& run) { return visibleParts({run.volumeName, run.connection}); }),
-        markdownRow(u"Drive"_s, runs,
+        markdownRow(RunExport::tr("Volume"), runs,
+                    [](const RunRecord& run) {
+                        return visibleParts({volumeNameText(run.volumeName), connectionText(run.connection)});
+                    }),
+        markdownRow(RunExport::tr("Drive"), runs,
                     [](const RunRecord& run) { return visibleParts({run.deviceModel, run.deviceProtocol}); }),
-        markdownRow(u"Parameters"_s, runs,
+        markdownRow(RunExport::tr("Parameters"), runs,
                     [](const RunRecord& run) { return ComparisonChart::parameterSummary(run); }),
-        markdownRow(u"System"_s, runs, [](const RunRecord& run) { return systemNames(run).join(u" · "_s); }),
+        markdownRow(RunExport::tr("System"), runs,
+                    [](const RunRecord& run) { return systemNames(run).join(u" · "_s); }),
     };
 }
 
 struct MarkdownRate {
     BenchmarkTest test;
-    const char16_t* suffix;
+    FigureKind kind;
     std::optional<double> RunRecord::* value;
     std::optional<Latency> RunEvidence::* latency = nullptr;
 };
 constexpr MarkdownRate markdownRates[] = {
-    {BenchmarkTest::sequentialWrite, u"", &RunRecord::writeBps},
-    {BenchmarkTest::sequentialWrite, u", peak", &RunRecord::writePeakBps},
-    {BenchmarkTest::sequentialWrite, u", lowest", &RunRecord::writeMinBps},
-    {BenchmarkTest::sequentialRead, u"", &RunRecord::readBps},
-    {BenchmarkTest::sequentialRead, u", peak", &RunRecord::readPeakBps},
-    {BenchmarkTest::sequentialRead, u", lowest", &RunRecord::readMinBps},
-    {BenchmarkTest::randomRead, u"", &RunRecord::randomReadIOPS, &RunEvidence::randomReadLatency},
-    {BenchmarkTest::randomWrite, u"", &RunRecord::randomWriteIOPS, &RunEvidence::randomWriteLatency},
-    {BenchmarkTest::fileOps, u"", &RunRecord::fileOpsPerSec}};
+    {BenchmarkTest::sequentialWrite, FigureKind::sustained, &RunRecord::writeBps},
+    {BenchmarkTest::sequentialWrite, FigureKind::peak, &RunRecord::writePeakBps},
+    {BenchmarkTest::sequentialWrite, FigureKind::lowest, &RunRecord::writeMinBps},
+    {BenchmarkTest::sequentialRead, FigureKind::sustained, &RunRecord::readBps},
+    {BenchmarkTest::sequentialRead, FigureKind::peak, &RunRecord::readPeakBps},
+    {BenchmarkTest::sequentialRead, FigureKind::lowest, &RunRecord::readMinBps},
+    {BenchmarkTest::randomRead, FigureKind::sustained, &RunRecord::randomReadIOPS,
+     &RunEvidence::randomReadLatency},
+    {BenchmarkTest::randomWrite, FigureKind::sustained, &RunRecord::randomWriteIOPS,
+     &RunEvidence::randomWriteLatency},
+    {BenchmarkTest::fileOps, FigureKind::sustained, &RunRecord::fileOpsPerSec}};
 
 QString markdownFigure(const MarkdownRate& rate, const RunRecord& run) {
     const auto value = run.*rate.value;
     if (!value)
         return {};
     const QString figure = rateFigure(rate.test, *value) + u' ' + rateUnit(rate.test);
-    return run.isInvalid(rate.test) ? figure + u" (invalid)"_s : figure;
+    return run.isInvalid(rate.test) ? RunExport::tr("%1 (invalid)").arg(figure) : figure;
 }
 
 QString markdownLatency(const MarkdownRate& rate, const RunRecord& run) {
@@ -194,13 +205,14 @@ std::vector<MarkdownRow> figureRows(const std::vector<RunRecord>& runs) {
     std::vector<MarkdownRow> rows;
     for (const MarkdownRate& rate : markdownRates) {
         const QString label = shortTitle(rate.test);
-        rows.push_back(markdownRow(label + QString::fromUtf16(rate.suffix), runs,
+        rows.push_back(markdownRow(figureTitle(label, rate.kind), runs,
                                    [&](const RunRecord& run) { return markdownFigure(rate, run); }));
-        rows.push_back(markdownRow(label + u", latency"_s, runs,
+        rows.push_back(markdownRow(figureTitle(label, FigureKind::latency), runs,
                                    [&](const RunRecord& run) { return markdownLatency(rate, run); }));
     }
-    rows.push_back(markdownRow(
-        u"Remarks"_s, runs, [](const RunRecord& run) { return TarnwickReport{run}.remarks().join(u' '); }));
+    rows.push_back(markdownRow(RunExport::tr("Remarks"), runs, [](const RunRecord& run) {
+        return TarnwickReport{run}.remarks().join(u' ');
+    }));
     return rows;
 }
 

@@ -2,9 +2,12 @@
 
 #include "OndelCore/Hashing.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/runs/JsonFields.h"
 #include "TarnwickKit/model/runs/RunFields.h"
 #include "TarnwickKit/model/session/DriveInfo.h"
+
+#include <QCoreApplication>
 
 #include <unicode/brkiter.h>
 
@@ -144,6 +147,10 @@ void fillEvidence(RunRecord& run, const BenchmarkPlan& plan, const BenchmarkResu
 
 // --- Titles
 
+struct RunTitle {
+    Q_DECLARE_TR_FUNCTIONS(RunTitle)
+};
+
 constexpr int longestTitle = 60;
 const QString partSeparator = u" · "_s;
 
@@ -217,7 +224,7 @@ RunRecord RunRecord::withThinnedCurves() const {
 QString RunRecord::title() const {
     if (const auto own = visibleText(customTitle))
         return *own;
-    return visibleText(volumeName).value_or(u"Volume"_s);
+    return volumeNameText(visibleText(volumeName).value_or(u"Volume"_s));
 }
 
 QString RunRecord::screenshotTitle() const {
@@ -226,17 +233,20 @@ QString RunRecord::screenshotTitle() const {
     if (isOnNetwork(*this)) {
         const auto told = visibleText(deviceProtocol);
         const auto protocol = told ? told : DriveInfo::networkProtocol(fsType);
-        return protocol.value_or(u"Network"_s) + u" Server"_s;
+        return protocol ? RunTitle::tr("%1 Server").arg(*protocol) : RunTitle::tr("Network Server");
     }
-    return kind == Kind::internalDrive ? title() : visibleText(deviceModel).value_or(u"External Drive"_s);
+    return kind == Kind::internalDrive ? title()
+                                       : visibleText(deviceModel).value_or(RunTitle::tr("External Drive"));
 }
 
 QString RunRecord::screenshotSubtitle() const {
     if (isOnNetwork(*this))
-        return u"Network volume"_s;
+        return RunTitle::tr("Network volume");
     if (kind == Kind::internalDrive)
-        return u"Internal"_s + (visibleText(fsType) ? partSeparator + fsType->toUpper() : QString());
-    return u"External"_s + (visibleText(deviceProtocol) ? partSeparator + *deviceProtocol : QString());
+        return connectionText(u"Internal"_s) +
+               (visibleText(fsType) ? partSeparator + fsType->toUpper() : QString());
+    return connectionText(u"External"_s) +
+           (visibleText(deviceProtocol) ? partSeparator + *deviceProtocol : QString());
 }
 
 std::optional<QString> RunRecord::customTitleFrom(const QString& text) {

@@ -58,7 +58,7 @@ struct ONDEL_PUBLIC RunRecord {
 
     QUuid id;
     QString volumeName;
-    QString connection; ///< "Internal", "External", "Removable" or "Network"
+    QString connection; ///< "Internal", "External", "Removable" or "Network"; connectionText is for people
     QDateTime date;     ///< when the run began
     double duration = 0;
     std::optional<double> writeBps; ///< sustained

@@ -4,7 +4,10 @@
 #include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/model/format/RemarkText.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/runs/Comparison.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -19,15 +22,42 @@ using OndelCore::benchmark::RemarkWeight;
 
 namespace {
 
-/// As wide as the labels above the list.
-constexpr int weightColumns = 14;
+struct RunText {
+    Q_DECLARE_TR_FUNCTIONS(RunText)
+};
 
 QString weightMark(RemarkWeight weight) {
     return (weight == RemarkWeight::invalid ? "! " : "") + remarkWeightWord(weight);
 }
 
 constexpr int leastColumns = 24;
-constexpr int labelColumns = 14;
+
+/// A run's labels, which stand above each other.
+struct Labels {
+    //: Noun, before the rates of the sequential write test
+    const QString write = RunText::tr("Write");
+    //: Noun, before the rates of the sequential read test
+    const QString read = RunText::tr("Read");
+    const QString randomRead = RunText::tr("Random read");
+    const QString randomWrite = RunText::tr("Random write");
+    //: File operations, where there is little room
+    const QString fileOps = RunText::tr("File ops");
+    const QString volume = RunText::tr("Volume");
+    const QString parameters = RunText::tr("Parameters");
+    const QString system = RunText::tr("System");
+
+    /// With two blanks behind the widest.
+    int columns() const {
+        constexpr int usual = 14;
+        int widest = usual - 2;
+        for (const QString& label : {write, read, randomRead, randomWrite, fileOps, volume, parameters,
+                                     system, weightMark(RemarkWeight::invalid),
+                                     weightMark(RemarkWeight::caution), weightMark(RemarkWeight::note)})
+            widest = std::max(widest, columnsOf(label));
+        return widest + 2;
+    }
+};
+
 const QString dot = " · ";
 const QString wideDot = "  ·  ";
 
@@ -35,7 +65,7 @@ QString rateOrNone(std::optional<double> bytesPerSecond) {
     return bytesPerSecond ? Format::rate(*bytesPerSecond) : "--";
 }
 
-QString countOrNone(std::optional<double> perSecond, const char* unit) {
+QString countOrNone(std::optional<double> perSecond, const QString& unit) {
     return perSecond ? Format::compact(*perSecond) + ' ' + unit : "--";
 }
 
@@ -43,7 +73,8 @@ QStringList sequentialFigures(std::optional<double> sustained, std::optional<dou
                               std::optional<double> lowest) {
     if (!sustained && !peak && !lowest)
         return {};
-    return {rateOrNone(sustained), "peak " + rateOrNone(peak), "lowest " + rateOrNone(lowest)};
+    return {rateOrNone(sustained), RunText::tr("peak %1").arg(rateOrNone(peak)),
+            RunText::tr("lowest %1").arg(rateOrNone(lowest))};
 }
 
 QStringList randomFigures(std::optional<double> iops, std::optional<double> bytesPerSecond,
@@ -55,34 +86,37 @@ QStringList randomFigures(std::optional<double> iops, std::optional<double> byte
 }
 
 QString runText(const RunRecord& run, const QString& number, int columns) {
-    const auto row = [columns](const char* label, const QStringList& parts, const QString& between = dot) {
-        return labelled(QString(label).leftJustified(labelColumns), parts, between, columns);
+    const Labels labels;
+    const auto row = [&](const QString& label, const QStringList& parts, const QString& between = dot) {
+        return labelled(padded(label, labels.columns()), parts, between, columns);
     };
-    const auto test = [&](const char* label, BenchmarkTest of, const QStringList& figures) {
+    const auto test = [&](const QString& label, BenchmarkTest of, const QStringList& figures) {
         return row(label,
                    figures.isEmpty() || !run.isInvalid(of) ? figures : figures + QStringList(invalidMark()));
     };
     const RunEvidence evidence = run.evidence.value_or(RunEvidence());
     QStringList volume;
-    for (const QString& part : {run.volumeName, run.connection, run.deviceModel.value_or(QString()),
-                                run.deviceProtocol.value_or(QString())})
+    for (const QString& part : {volumeNameText(run.volumeName), connectionText(run.connection),
+                                run.deviceModel.value_or(QString()), run.deviceProtocol.value_or(QString())})
         if (!part.isEmpty())
             volume << part;
     const QStringList stamp = Format::runStamp(run.date, run.duration).split(dot);
     const QStringList parameters = ComparisonChart::parameterSummary(run).split(wideDot, Qt::SkipEmptyParts);
     return number + fitted(run.screenshotTitle(), columns - static_cast<int>(number.size())) + '\n' +
            labelled({}, stamp, dot, columns) +
-           test("Write", BenchmarkTest::sequentialWrite,
+           test(labels.write, BenchmarkTest::sequentialWrite,
                 sequentialFigures(run.writeBps, run.writePeakBps, run.writeMinBps)) +
-           test("Read", BenchmarkTest::sequentialRead,
+           test(labels.read, BenchmarkTest::sequentialRead,
                 sequentialFigures(run.readBps, run.readPeakBps, run.readMinBps)) +
-           test("Random read", BenchmarkTest::randomRead,
+           test(labels.randomRead, BenchmarkTest::randomRead,
                 randomFigures(run.randomReadIOPS, run.randomReadBps, evidence.randomReadLatency)) +
-           test("Random write", BenchmarkTest::randomWrite,
+           test(labels.randomWrite, BenchmarkTest::randomWrite,
                 randomFigures(run.randomWriteIOPS, run.randomWriteBps, evidence.randomWriteLatency)) +
-           test("File ops", BenchmarkTest::fileOps,
-                run.fileOpsPerSec ? QStringList(countOrNone(run.fileOpsPerSec, "ops/s")) : QStringList()) +
-           row("Volume", volume) + row("Parameters", parameters, wideDot) + row("System", systemNames(run)) +
+           test(labels.fileOps, BenchmarkTest::fileOps,
+                run.fileOpsPerSec ? QStringList(countOrNone(run.fileOpsPerSec, operationsPerSecond()))
+                                  : QStringList()) +
+           row(labels.volume, volume) + row(labels.parameters, parameters, wideDot) +
+           row(labels.system, systemNames(run)) +
            remarkList(run.remarks.value_or(std::vector<Remark>()), run.randomBlock.value_or(0), columns);
 }
 
@@ -135,22 +169,44 @@ QStringList systemNames(const RunRecord& run) {
     return names;
 }
 
+QString aboutTest(const QString& title, const QString& sentence) {
+    //: %1 is the name of a test, %2 a sentence on it
+    return RunText::tr("%1: %2").arg(title, sentence);
+}
+
+QString figureTitle(const QString& title, FigureKind kind) {
+    switch (kind) {
+    case FigureKind::peak:
+        //: %1 is the name of a test, whose highest rate follows
+        return RunText::tr("%1, peak").arg(title);
+    case FigureKind::lowest:
+        //: %1 is the name of a test, whose lowest rate follows
+        return RunText::tr("%1, lowest").arg(title);
+    case FigureKind::latency:
+        //: %1 is the name of a test, whose latency follows
+        return RunText::tr("%1, latency").arg(title);
+    case FigureKind::sustained:
+        break;
+    }
+    return title;
+}
+
 QString invalidMark() { return weightMark(RemarkWeight::invalid); }
 
 QString remarkList(const std::vector<Remark>& remarks, std::int64_t randomBlock, int columns) {
     std::vector<Remark> worstFirst = remarks;
     std::ranges::stable_sort(worstFirst, std::greater(), &Remark::weight);
+    const int labelColumns = Labels().columns();
     QString list;
     for (const Remark& remark : worstFirst) {
         QStringList sentences{remarkSentence(remark), remarkAdvice(remark)};
         if (sentences.front().isEmpty()) // numbers of a file that mean nothing
             continue;
         if (remark.test)
-            sentences.prepend(title(*remark.test, randomBlock) + ':');
-        list += labelled(weightMark(remark.weight).leftJustified(weightColumns),
-                         sentences.join(' ').split(' ', Qt::SkipEmptyParts), " ", columns);
+            sentences.front() = aboutTest(title(*remark.test, randomBlock), sentences.front());
+        list += wrapped(padded(weightMark(remark.weight), labelColumns), sentences.join(' '), columns);
     }
-    return list.isEmpty() ? list : "\nAbout these figures\n" + list;
+    return list.isEmpty() ? list : "\n" + RunText::tr("About these figures") + "\n" + list;
 }
 
 QString runTexts(const std::vector<RunRecord>& runs, LineStyle style) {

@@ -21,6 +21,13 @@ QString invalidMark();
 QString remarkList(const std::vector<OndelCore::benchmark::Remark>& remarks, std::int64_t randomBlock,
                    int columns);
 
+/// What a test is about, and a sentence on it: "Random read (4 KiB): One pause over 1 s: 1.2 s."
+QString aboutTest(const QString& title, const QString& sentence);
+
+/// A test's title with what one of its figures is: "Sequential read, peak".
+enum class FigureKind { sustained, peak, lowest, latency };
+QString figureTitle(const QString& title, FigureKind kind);
+
 /// "Linux 6.1.0-18-amd64" and "Ondel Tarnwick 0.2.0", as far as they are recorded.
 QStringList systemNames(const RunRecord& run);
 

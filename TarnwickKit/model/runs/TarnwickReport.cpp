@@ -7,6 +7,7 @@
 #include "TarnwickKit/model/format/RemarkText.h"
 #include "TarnwickKit/model/runs/RunCodec.h"
 #include "TarnwickKit/model/runs/RunFile.h"
+#include "TarnwickKit/model/runs/RunText.h"
 
 #include <algorithm>
 #include <functional>
@@ -53,10 +54,11 @@ QStringList TarnwickReport::remarks() const {
     QStringList lines;
     for (const auto& remark : worstFirst) {
         const QString sentence = remarkSentence(remark);
-        const QString about =
-            remark.test ? title(*remark.test, run.randomBlock.value_or(0)) + ": " : QString();
-        if (!sentence.isEmpty())
-            lines << remarkWeightWord(remark.weight) + QStringLiteral(" · ") + about + sentence;
+        if (sentence.isEmpty())
+            continue;
+        const QString whole =
+            remark.test ? aboutTest(title(*remark.test, run.randomBlock.value_or(0)), sentence) : sentence;
+        lines << remarkWeightWord(remark.weight) + QStringLiteral(" · ") + whole;
     }
     return lines;
 }

@@ -320,6 +320,18 @@ bool AnalyzerModel::showsCheck() const { return m_parts->showsCheck; }
 void AnalyzerModel::setShowsCheck(bool shows) {
     changeProperty(*this, m_parts->showsCheck, shows, &AnalyzerModel::showsCheckChanged);
 }
+void AnalyzerModel::openCheck() {
+    if (isRunning())
+        return;
+    if (targetFolder())
+        return setShowsCheck(true);
+    m_parts->target.askForFolder(std::nullopt, [model = QPointer(this)](const std::filesystem::path& folder) {
+        if (!model || model->isBusy())
+            return;
+        model->select(folder);
+        model->setShowsCheck(true);
+    });
+}
 
 // --- … to the stored runs
 
@@ -340,6 +352,12 @@ void AnalyzerModel::renameRun(const QUuid& id, const QString& text) { m_parts->l
 void AnalyzerModel::clearHistory() { m_parts->library.clear(); }
 int AnalyzerModel::undoableRuns() const { return static_cast<int>(m_parts->library.undoableRuns()); }
 void AnalyzerModel::undoDeletion() { m_parts->library.undoDeletion(); }
+void AnalyzerModel::showRun(const QUuid& id) {
+    if (isBusy() || !m_parts->library.show(id))
+        return;
+    endComparison();
+    setShowsCheck(false);
+}
 bool AnalyzerModel::importRun(const std::filesystem::path& file) { return m_parts->library.importRun(file); }
 void AnalyzerModel::importRuns(const std::vector<std::filesystem::path>& files) {
     m_parts->library.importRuns(files);

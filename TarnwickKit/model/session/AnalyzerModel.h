@@ -179,6 +179,8 @@ public:
     bool showsCheck() const;
     void setShowsCheck(bool shows);
     Q_SIGNAL void showsCheckChanged();
+    /// Shows it, after asking for a folder where none is chosen. Does nothing during a run.
+    void openCheck();
 
     // --- Stored runs: see RunLibrary
 
@@ -207,6 +209,9 @@ public:
     int undoableRuns() const;
     Q_INVOKABLE void undoDeletion();
     Q_SIGNAL void undoableRunsChanged();
+    /// Shows a stored run instead of what the main pane shows. Does nothing during a run or a check, or if no
+    /// run has that id.
+    void showRun(const QUuid& id);
     /// Stores the run of a file and, unless there is a run under way, shows it.
     /// Fails: false, with a line in the log and nothing changed.
     bool importRun(const std::filesystem::path& file);

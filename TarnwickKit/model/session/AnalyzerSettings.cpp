@@ -2,7 +2,10 @@
 
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/session/PropertyChange.h"
+
+#include <QCoreApplication>
 
 #include <utility>
 
@@ -15,6 +18,10 @@ using OndelCore::benchmark::BenchmarkSize;
 using OndelCore::benchmark::BenchmarkTest;
 
 namespace {
+
+struct SettingsText {
+    Q_DECLARE_TR_FUNCTIONS(SettingsText)
+};
 
 const BenchmarkSize::Preset& preset(int index) {
     const auto& presets = BenchmarkSize::presets();
@@ -33,8 +40,11 @@ QStringList names(const auto& tests) {
 std::vector<AnalyzerSettings::BlockOption> options(const auto& values, std::optional<std::int64_t> optimal) {
     std::vector<AnalyzerSettings::BlockOption> options;
     options.reserve(values.size());
-    for (const std::int64_t value : values)
-        options.push_back({Format::block(value) + (value == optimal ? u"  ·  optimal"_s : QString()), value});
+    for (const std::int64_t value : values) {
+        const QString size = Format::block(value);
+        //: %1 is a size of blocks; it is the one that the volume prefers
+        options.push_back({value == optimal ? SettingsText::tr("%1  ·  optimal").arg(size) : size, value});
+    }
     return options;
 }
 
@@ -65,7 +75,7 @@ void AnalyzerSettings::setSizeIndex(int index) {
 QStringList AnalyzerSettings::sizeLabels() {
     QStringList labels;
     for (const auto& [label, size] : BenchmarkSize::presets())
-        labels.append(QString::fromUtf8(label));
+        labels.append(testSizeText(QString::fromUtf8(label)));
     return labels;
 }
 

@@ -9,9 +9,11 @@
 #include "OndelCore/platform/volumes/PathFacts.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/session/PropertyChange.h"
 #include "TarnwickKit/model/session/SMARTReport.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <QStringList>
 
@@ -25,6 +27,10 @@ using OndelCore::benchmark::BenchmarkPlan;
 using OndelCore::health::DiskSMART;
 
 namespace {
+
+struct TargetText {
+    Q_DECLARE_TR_FUNCTIONS(TargetText)
+};
 
 /// The process's mask reduces these to what other files of this user have.
 constexpr auto anyone = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write |
@@ -73,13 +79,13 @@ std::optional<std::int64_t> VolumeFacts::suitableBlock() const {
 VolumeMenuItem VolumeMenuItem::from(const OndelCore::volumes::MountedVolume& volume) {
     VolumeMenuItem item;
     item.url = volume.url;
-    item.name = volume.name;
+    item.name = volumeNameText(volume.name);
     item.systemImage = isNetworkFilesystem(volume.filesystemType)
                            ? networkSymbol
                            : driveSymbol(volume.isInternal && !volume.isRemovable);
     QStringList details;
     if (!volume.format.isEmpty())
-        details << volume.format;
+        details << volumeFormatText(volume.format);
     if (volume.total.value_or(0) > 0)
         details << Format::bytes(*volume.total);
     item.detail = details.join(u" · "_s);
@@ -113,9 +119,10 @@ void AnalyzerTarget::askForFolder(const std::optional<std::filesystem::path>& st
     auto start = startingAt == "/" ? OndelCore::platform::homeFolder() : startingAt;
     if (start && !answersInTime(*start, m_services.volumePatience))
         start.reset(); // the dialog would hang with it
-    m_dialogs->askForFolder(
-        u"Choose a folder on the volume to test (a temporary working folder is written there and removed)."_s,
-        u"Select"_s, start, std::move(chosen));
+    m_dialogs->askForFolder(TargetText::tr("Choose a folder on the volume to test (a temporary working "
+                                           "folder is written there and removed)."),
+                            //: The button that accepts the folder
+                            TargetText::tr("Select"), start, std::move(chosen));
 }
 
 void AnalyzerTarget::sweepOrphans() {

@@ -32,6 +32,20 @@ void RunLibrary::setCurrentRunCollapsed(bool collapsed) {
     changeProperty(*this, m_currentRunCollapsed, collapsed, &RunLibrary::currentRunCollapsedChanged);
 }
 
+bool RunLibrary::show(const QUuid& id) {
+    m_history.refresh(); // another program may have saved it
+    const bool isShown = m_currentRun && m_currentRun->id == id;
+    const auto stored = m_history.placeOf(id);
+    if (!isShown && !stored)
+        return false;
+    setCurrentRunCollapsed(false);
+    if (isShown)
+        return true;
+    setCurrentRun(stored->run);
+    Q_EMIT importShown();
+    return true;
+}
+
 void RunLibrary::add(const RunRecord& run) {
     setCurrentRun(run);
     setCurrentRunCollapsed(false);

@@ -36,6 +36,8 @@ public:
     bool currentRunCollapsed() const { return m_currentRunCollapsed; }
     void setCurrentRunCollapsed(bool collapsed);
     Q_SIGNAL void currentRunCollapsedChanged();
+    /// Shows a stored run. Fails: false, if no run has that id.
+    bool show(const QUuid& id);
     /// Shows a run and stores it.
     void add(const RunRecord& run);
 
@@ -77,7 +79,7 @@ public:
     void setShowsImports(bool shows) { m_showsImports = shows; }
     /// Files turned out to be no runs.
     Q_SIGNAL void unreadable(const std::vector<std::filesystem::path>& files);
-    /// An imported run is shown.
+    /// An imported run or one of the list is shown.
     Q_SIGNAL void importShown();
 
 private:

@@ -1,7 +1,10 @@
 #include "TarnwickKit/model/session/SMARTReport.h"
 
+#include "TarnwickKit/model/format/DisplayText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/HealthText.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QStringList>
 
@@ -14,24 +17,31 @@ using OndelCore::health::DiskSMART;
 
 namespace {
 
+struct SMARTReportText {
+    Q_DECLARE_TR_FUNCTIONS(SMARTReportText)
+};
+
 struct Row {
     QString label;
     QString value;
     bool warning = false;
 };
 
-qsizetype characterCount(const QString& text) { return text.toUcs4().size(); }
-
 /// Lines with their values in one column, one blank behind the longest label's colon.
 QStringList aligned(const QList<Row>& rows) {
-    qsizetype width = 0;
-    for (const Row& row : rows)
-        width = std::max(width, characterCount(row.label) + 2);
     QStringList lines;
+    int width = 0;
     for (const Row& row : rows) {
-        const QString head = row.label + u':';
-        lines << head + QString(width - characterCount(head), u' ') + row.value +
-                     (row.warning ? u"  (attention)"_s : QString());
+        //: %1 is the name of a figure, which follows
+        lines << SMARTReportText::tr("%1:").arg(row.label);
+        width = std::max(width, columnsOf(lines.last()) + 1);
+    }
+    for (qsizetype index = 0; index < rows.size(); ++index) {
+        const Row& row = rows[index];
+        QString& line = lines[index];
+        line += QString(width - columnsOf(line), u' ');
+        //: Behind a figure that is a concern
+        line += row.warning ? SMARTReportText::tr("%1  (attention)").arg(row.value) : row.value;
     }
     return lines;
 }
@@ -39,25 +49,25 @@ QStringList aligned(const QList<Row>& rows) {
 QList<Row> header(const DiskSMART& smart, const std::optional<QString>& drive, const QString& date) {
     QList<Row> rows;
     if (drive)
-        rows << Row{u"Drive"_s, *drive};
+        rows << Row{SMARTReportText::tr("Drive"), *drive};
     if (!smart.kind.empty())
-        rows << Row{u"Interface"_s, QString::fromStdString(smart.kind)};
-    const bool isFailing = smart.status == DiskSMART::Status::failing;
-    return rows << Row{u"Date"_s, date} << Row{u"Status"_s, isFailing ? u"Failing"_s : u"Verified"_s};
+        rows << Row{SMARTReportText::tr("Interface"), QString::fromStdString(smart.kind)};
+    rows << Row{SMARTReportText::tr("Date"), date};
+    //: The drive's own verdict follows
+    return rows << Row{SMARTReportText::tr("Status"), healthVerdict(smart.status)};
 }
 
 QList<Row> healthRows(const DiskSMART& smart) {
     QList<Row> rows;
     for (const DiskSMART::Attribute& attribute : smart.attributes)
-        rows << Row{QString::fromStdString(attribute.label), QString::fromStdString(attribute.value),
-                    attribute.warning};
+        rows << Row{healthLabel(attribute), healthValue(attribute), attribute.warning};
     return rows;
 }
 
 } // namespace
 
 QString SMARTReport::fileName(const std::optional<QString>& drive, const QDateTime& date) {
-    QString name = drive.value_or(u"Drive"_s);
+    QString name = drive.value_or(SMARTReportText::tr("Drive"));
     name.replace(u'/', u'-').replace(u':', u'-');
     return u"S.M.A.R.T. "_s + name + u' ' + date.toLocalTime().date().toString(Qt::ISODate) + u".txt"_s;
 }
@@ -69,7 +79,7 @@ QString SMARTReport::text(const DiskSMART& smart, const std::optional<QString>& 
 
 QString SMARTReport::text(const DiskSMART& smart, const std::optional<QString>& drive, const QDateTime& date,
                           const Formatter& formatter) {
-    QStringList lines{u"Ondel Tarnwick S.M.A.R.T. report"_s, QString()};
+    QStringList lines{SMARTReportText::tr("Ondel Tarnwick S.M.A.R.T. report"), QString()};
     lines << aligned(header(smart, drive, formatter.dateAndTime(date))) << QString()
           << aligned(healthRows(smart));
     return lines.join(u'\n') + u'\n';

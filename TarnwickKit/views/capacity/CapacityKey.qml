@@ -12,7 +12,7 @@ Row {
 
     spacing: 6
     Accessible.role: Accessible.StaticText
-    Accessible.name: kind.amount ? qsTr("%1: %2").arg(kind.name).arg(kind.amount) : kind.name
+    Accessible.name: qsTr("%1: %2").arg(kind.name).arg(kind.amount)
 
     CapacityMap {
         anchors.verticalCenter: parent.verticalCenter
@@ -27,7 +27,6 @@ Row {
         Accessible.ignored: true
     }
     PlainText {
-        visible: text.length > 0
         text: key.kind.amount
         font: Typeface.mono(11)
         color: PaletteKey.palette.text

@@ -10,7 +10,8 @@ CardFrame {
     id: pane
 
     required property AnalyzerModel analyzer
-    required property string volumeName
+    required property string volumeName ///< "" while it is not known
+    readonly property string shownName: check.hasRecord ? check.title : volumeName
     readonly property bool showsChoices: !check.isRunning && !check.hasRecord
 
     headerPadding: 14
@@ -27,7 +28,7 @@ CardFrame {
             id: heading
 
             Layout.fillWidth: true
-            text: qsTr("Capacity of %1").arg(check.hasRecord ? check.title : pane.volumeName)
+            text: pane.shownName ? qsTr("Capacity of %1").arg(pane.shownName) : qsTr("Capacity of the volume")
             font: Typeface.display(16)
             color: PaletteKey.palette.text
             elide: Text.ElideRight
@@ -40,6 +41,7 @@ CardFrame {
             }
         },
         IconButton {
+            //: Button: leaves the capacity check
             label: qsTr("Close")
             hint: qsTr("Back to the runs")
             symbol: "xmark"

@@ -67,10 +67,12 @@ ColumnLayout {
         }
         LegendItem {
             color: PaletteKey.palette.coral
+            //: Noun: what a curve shows
             label: qsTr("Write")
         }
         LegendItem {
             color: PaletteKey.palette.teal
+            //: Noun: what a curve shows
             label: qsTr("Read")
         }
     }

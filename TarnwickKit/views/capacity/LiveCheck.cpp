@@ -1,6 +1,7 @@
 #include "TarnwickKit/views/capacity/LiveCheck.h"
 
 #include "TarnwickKit/model/capacity/CapacityChecks.h"
+#include "TarnwickKit/model/capacity/CapacityReport.h"
 #include "TarnwickKit/model/capacity/CapacitySession.h"
 #include "TarnwickKit/model/capacity/CapacityText.h"
 #include "TarnwickKit/model/format/Format.h"
@@ -8,6 +9,7 @@
 #include "TarnwickKit/views/sharing/FileWriting.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QFile>
 #include <QGuiApplication>
 #include <QQuickItem>
@@ -27,6 +29,10 @@ using OndelCore::capacity::CapacityPlan;
 namespace Format = model::Format;
 
 namespace {
+
+struct LiveCheckText {
+    Q_DECLARE_TR_FUNCTIONS(LiveCheckText)
+};
 
 constexpr std::int64_t gibibyte = 1073741824;
 /// The first choice is all free space.
@@ -49,6 +55,24 @@ QList<QPointF> pointsOf(const OndelCore::capacity::CapacityPass& pass, std::int6
         if (range > 0)
             list.append({static_cast<double>(offset) / static_cast<double>(range), rate / 1e6});
     return list;
+}
+
+/// 0: the result does not tell.
+std::int64_t bytesIn(BlockState state, const OndelCore::capacity::CapacityResult& result) {
+    switch (state) {
+    case BlockState::untouched:
+    case BlockState::written:
+        break;
+    case BlockState::verified:
+        return result.verified;
+    case BlockState::wrong:
+        return result.wrong;
+    case BlockState::unreadable:
+        return result.unreadable;
+    case BlockState::writeFailed:
+        return result.writeFailed;
+    }
+    return 0;
 }
 
 QByteArray bytesOf(const std::vector<BlockState>& states) {
@@ -101,34 +125,39 @@ void LiveCheck::setAnalyzer(model::AnalyzerModel* analyzer) {
 // --- Choices
 
 QStringList LiveCheck::sizes() {
-    QStringList labels{tr("All free space")};
+    QStringList labels{LiveCheckText::tr("All free space")};
     for (const std::int64_t size : checkSizes)
         labels << Format::block(size);
     return labels;
 }
 
 QStringList LiveCheck::pauses() {
-    QStringList labels{tr("No")};
+    //: Whether everything is read a second time
+    QStringList labels{LiveCheckText::tr("No")};
     for (const std::chrono::seconds pause : checkPauses)
-        labels << tr("After %1").arg(model::spanText(static_cast<double>(pause.count())));
+        labels << LiveCheckText::tr("After %1").arg(model::spanText(static_cast<double>(pause.count())));
     return labels;
 }
 
 QString LiveCheck::announcement() const {
     const auto& info = m_analyzer ? m_analyzer->volumeInfo() : std::nullopt;
     if (m_quick)
-        return tr("Samples all over the chosen space are written, read back and removed. It takes seconds, "
-                  "finds most false capacities, and proves nothing if it finds none.");
+        return LiveCheckText::tr(
+            "Samples all over the chosen space are written, read back and removed. It takes seconds, "
+            "finds most false capacities, and proves nothing if it finds none.");
     if (m_sizeIndex > 0)
-        return tr("%1 are written, read back, compared and removed. Your files are not touched.")
+        return LiveCheckText::tr(
+                   "%1 are written, read back, compared and removed. Your files are not touched.")
             .arg(sizes().value(m_sizeIndex));
     if (!info)
-        return tr("All free space is written, read back, compared and removed. Your files are not touched.");
+        return LiveCheckText::tr(
+            "All free space is written, read back, compared and removed. Your files are not touched.");
     const std::int64_t planned =
         std::max<std::int64_t>(0, info->rawAvailable - CapacityPlan::defaultLeaveFree);
-    return tr("All free space, about %1, is written, read back, compared and removed. On a large volume that "
-              "takes hours; meanwhile the volume is full for other programs. Your files are not touched.")
-        .arg(Format::bytes(planned));
+    return LiveCheckText::
+        tr("All free space, about %1, is written, read back, compared and removed. On a large volume that "
+           "takes hours; meanwhile the volume is full for other programs. Your files are not touched.")
+            .arg(Format::bytes(planned));
 }
 
 void LiveCheck::start() {
@@ -199,11 +228,12 @@ void LiveCheck::tell() {
     const auto shown = [&](std::int64_t value) {
         return isWaiting ? model::spanText(static_cast<double>(value)) : Format::bytes(value);
     };
-    m_amount =
-        last && last->total > 0 ? tr("%1 of %2").arg(shown(last->done), shown(last->total)) : QString();
+    m_amount = last && last->total > 0
+                   ? LiveCheckText::tr("%1 of %2").arg(shown(last->done), shown(last->total))
+                   : QString();
     QStringList parts;
     if (const auto fraction = course.fraction())
-        parts << tr("%1 % of the check").arg(static_cast<int>(100 * *fraction));
+        parts << LiveCheckText::tr("%1 % of the check").arg(static_cast<int>(100 * *fraction));
     if (const auto left = m_countdown.left(static_cast<double>(m_time.elapsed()) / 1000))
         parts << timeLeftText(*left, true);
     m_runLine = parts.join(QStringLiteral(" · "));
@@ -219,10 +249,9 @@ void LiveCheck::setMap(const std::vector<BlockState>& states, std::int64_t range
     for (const BlockState state : {BlockState::untouched, BlockState::written, BlockState::verified,
                                    BlockState::wrong, BlockState::unreadable, BlockState::writeFailed}) {
         const auto count = std::ranges::count(states, state);
-        if (count == 0 && state == BlockState::writeFailed)
-            continue; // it is rare
-        m_kinds.append(
-            {QByteArray(1, static_cast<char>(state)), model::blockStateName(state), amountOf(state, count)});
+        if (count > 0)
+            m_kinds.append({QByteArray(1, static_cast<char>(state)), model::blockStateName(state),
+                            amountOf(state, count)});
     }
     Q_EMIT mapChanged();
 }
@@ -230,27 +259,12 @@ void LiveCheck::setMap(const std::vector<BlockState>& states, std::int64_t range
 /// Of what is wrong a cell tells no more than that there is some; a record knows how much. `cells`: those in
 /// this state.
 QString LiveCheck::amountOf(BlockState state, std::int64_t cells) const {
-    if (cells == 0)
-        return {};
-    if (m_record && !m_record->wasStopped) {
-        const auto& result = m_record->result;
-        switch (state) {
-        case BlockState::untouched:
-        case BlockState::written:
-            break;
-        case BlockState::verified:
-            return Format::bytes(result.verified);
-        case BlockState::wrong:
-            return Format::bytes(result.wrong);
-        case BlockState::unreadable:
-            return Format::bytes(result.unreadable);
-        case BlockState::writeFailed:
-            return Format::bytes(result.writeFailed);
-        }
-    }
+    const std::int64_t known = m_record && !m_record->wasStopped ? bytesIn(state, m_record->result) : 0;
+    if (known > 0)
+        return Format::bytes(known);
     if (state >= BlockState::wrong)
-        return cells == 1 ? tr("in one part")
-                          : tr("in %1 parts", nullptr, static_cast<int>(cells)).arg(cells);
+        return cells == 1 ? LiveCheckText::tr("in one part")
+                          : LiveCheckText::tr("in %1 parts", nullptr, static_cast<int>(cells)).arg(cells);
     return Format::bytes(static_cast<std::int64_t>(m_range * static_cast<double>(cells) /
                                                    static_cast<double>(m_cells.size())));
 }
@@ -269,7 +283,9 @@ QString LiveCheck::rowText(int /*revision*/, int first, int count, int all) cons
     for (std::size_t state = 0; state < counts.size(); ++state)
         if (counts.at(state) > 0)
             states << model::blockStateName(static_cast<BlockState>(state));
-    return tr("%1 to %2: %3").arg(place(first), place(first + count), states.join(QStringLiteral(", ")));
+    //: %1 and %2 are places on the volume, %3 what was found between them
+    return LiveCheckText::tr("%1 to %2: %3")
+        .arg(place(first), place(first + count), states.join(QStringLiteral(", ")));
 }
 
 // --- The shown check
@@ -308,8 +324,11 @@ QList<InfoItem> LiveCheck::facts() const {
         return items;
     for (const auto& [label, value, isWarning] : model::capacityFacts(*m_record))
         items.append({label, value, isWarning});
-    items.append({tr("Checked"), Format::runStamp(m_record->date, 0).section(QStringLiteral(" · "), 0, 1) +
-                                     QStringLiteral(" · ") + model::spanText(m_record->result.duration)});
+    QString when = Format::runStamp(m_record->date, 0).section(QStringLiteral(" · "), 0, 1);
+    if (m_record->result.duration > 0) // of a stopped check it is not known
+        when += QStringLiteral(" · ") + model::spanText(m_record->result.duration);
+    //: When the check began, and how long it took
+    items.append({LiveCheckText::tr("Checked"), when});
     return items;
 }
 
@@ -323,7 +342,8 @@ void LiveCheck::copy() {
         return;
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->setText(model::capacityReport(*m_record));
-    Q_EMIT noted(clipboard->ownsClipboard() ? tr("Text copied") : tr("The text couldn't be copied."));
+    Q_EMIT noted(clipboard->ownsClipboard() ? LiveCheckText::tr("Text copied")
+                                            : LiveCheckText::tr("The text couldn't be copied."));
 }
 
 void LiveCheck::save(QQuickItem* item) {
@@ -333,14 +353,15 @@ void LiveCheck::save(QQuickItem* item) {
         m_dialogs = std::make_unique<Dialogs>();
     m_dialogs->setWindow(item->window());
     const QByteArray text = model::capacityReport(*m_record).toUtf8();
-    m_dialogs->askForTextFile(
-        model::capacityReportName(*m_record), [this, text](const std::filesystem::path& target) {
-            writeLater(this, target, text, [this, target](const std::error_code& error) {
-                Q_EMIT noted(
-                    error ? tr("The file couldn't be saved: %1").arg(QString::fromStdString(error.message()))
-                          : tr("Saved as “%1”").arg(QFile::decodeName(target.filename().c_str())));
-            });
+    m_dialogs->askForTextFile(model::capacityReportName(*m_record), [this, text](
+                                                                        const std::filesystem::path& target) {
+        writeLater(this, target, text, [this, target](const std::error_code& error) {
+            Q_EMIT noted(
+                error ? LiveCheckText::tr("The file couldn't be saved: %1")
+                            .arg(QString::fromStdString(error.message()))
+                      : LiveCheckText::tr("Saved as “%1”").arg(QFile::decodeName(target.filename().c_str())));
         });
+    });
 }
 
 // --- The list

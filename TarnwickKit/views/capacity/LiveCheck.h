@@ -35,7 +35,7 @@ struct CellKind {
 public:
     QByteArray cell;
     QString name;
-    QString amount; ///< how much of the range; "" for none
+    QString amount; ///< how much of the range
 
     bool operator==(const CellKind&) const = default;
 };

@@ -15,6 +15,7 @@ Column {
 
         ComparedChart {
             width: curves.width
+            //: Title of a chart: the rate of the write test
             title: qsTr("Write over time")
             runs: curves.runs
             curve: RunSeries.Write
@@ -25,6 +26,7 @@ Column {
 
         ComparedChart {
             width: curves.width
+            //: Title of a chart: the rate of the read test
             title: qsTr("Read over time")
             runs: curves.runs
             curve: RunSeries.Read

@@ -32,10 +32,12 @@ ColumnLayout {
         }
         LegendItem {
             color: PaletteKey.palette.coral
+            //: Noun: what a curve shows
             label: qsTr("Write")
         }
         LegendItem {
             color: PaletteKey.palette.teal
+            //: Noun: what a curve shows
             label: qsTr("Read")
         }
     }
@@ -52,6 +54,7 @@ ColumnLayout {
         RunSeries {
             id: reading
 
+            //: Noun: what a curve shows
             name: qsTr("Read")
             run: view.run
             curve: RunSeries.Read
@@ -61,6 +64,7 @@ ColumnLayout {
         RunSeries {
             id: writing
 
+            //: Noun: what a curve shows
             name: qsTr("Write")
             run: view.run
             curve: RunSeries.Write

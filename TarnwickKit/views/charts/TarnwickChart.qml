@@ -15,12 +15,14 @@ ThroughputChart {
     PaletteKey.palette: dark ? Appearance.darkPalette : Appearance.lightPalette
 
     ChartSeries {
+        //: Noun: what a curve shows
         name: qsTr("Read")
         points: chart.read
         color: PaletteKey.palette.teal
         fill: PaletteKey.palette.readFill
     }
     ChartSeries {
+        //: Noun: what a curve shows
         name: qsTr("Write")
         points: chart.write
         color: PaletteKey.palette.coral

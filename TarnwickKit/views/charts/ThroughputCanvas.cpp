@@ -9,8 +9,15 @@
 
 namespace TarnwickKit::views {
 
+namespace {
+
+struct ThroughputText {
+    Q_DECLARE_TR_FUNCTIONS(ThroughputText)
+};
+
+} // namespace
+
 QString throughputSummary(const QList<ChartSeries*>& series) {
-    const auto words = [](const char* text) { return QCoreApplication::translate("ThroughputChart", text); };
     const auto rate = [](double megabytes) { return model::Format::mbValue(megabytes * 1'000'000); };
     QStringList sentences;
     for (const ChartSeries* one : series) {
@@ -18,11 +25,13 @@ QString throughputSummary(const QList<ChartSeries*>& series) {
         if (points.isEmpty())
             continue;
         const auto [lowest, highest] = std::ranges::minmax(points, {}, &QPointF::y);
-        sentences << words("%1: %2 to %3 %6 over %4, last %5 %6.")
+        //: Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5
+        sentences << ThroughputText::tr("%1: %2 to %3 %6 over %4, last %5 %6.")
                          .arg(one->name(), rate(lowest.y()), rate(highest.y()), seconds(points.last().x()),
                               rate(points.last().y()), one->unit());
     }
-    return sentences.isEmpty() ? words("No measurements yet.") : sentences.join(QLatin1Char(' '));
+    return sentences.isEmpty() ? ThroughputText::tr("No measurements yet.")
+                               : sentences.join(QLatin1Char(' '));
 }
 
 ThroughputCanvas::ThroughputCanvas(QQuickItem* parent)

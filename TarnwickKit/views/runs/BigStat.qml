@@ -93,6 +93,7 @@ ColumnLayout {
         elide: Text.ElideRight
         visible: !isNaN(stat.peak) && !isNaN(stat.least)
         text: !visible || !stat.inTwoLines ? whole.text
+            //: The highest and the lowest rate, on two lines
             : qsTr("peak %1\nmin %2").arg(Format.mbValue(stat.peak)).arg(Format.mbValue(stat.least))
         font: Typeface.mono(11)
         color: PaletteKey.palette.text3

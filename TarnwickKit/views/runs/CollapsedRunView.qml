@@ -87,6 +87,7 @@ PlainButton {
 
             RunSummaryStat {
                 Layout.preferredWidth: ViewMetrics.statWidth
+                //: Noun, before the rate of the sequential write test
                 label: qsTr("Write")
                 value: view.facts.writeBps
                 isMarked: view.facts.isWriteMarked
@@ -94,6 +95,7 @@ PlainButton {
             }
             RunSummaryStat {
                 Layout.preferredWidth: ViewMetrics.statWidth
+                //: Noun, before the rate of the sequential read test
                 label: qsTr("Read")
                 value: view.facts.readBps
                 isMarked: view.facts.isReadMarked

@@ -5,11 +5,21 @@
 #include "TarnwickKit/views/runs/RunFacts.h"
 #include "TarnwickKit/views/style/LegibleText.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace TarnwickKit::views {
 
 namespace ComparisonChart = model::ComparisonChart;
+
+namespace {
+
+struct ComparedRunsText {
+    Q_DECLARE_TR_FUNCTIONS(ComparedRunsText)
+};
+
+} // namespace
 
 QVariantList ComparedRuns::entries() const {
     QVariantList all;
@@ -54,11 +64,13 @@ QVariantList ComparedRuns::metrics(double trackWidth, int reference) const {
         const auto bars = ComparisonChart::bars(metric, runs, trackWidth);
         const auto differences = ComparisonChart::differences(metric, runs, base);
         for (std::size_t i = 0; i < bars.size(); ++i) {
-            const QString difference = i == base        ? Runs::tr("reference")
+            //: The run that the others are compared with
+            const QString difference = i == base        ? ComparedRunsText::tr("reference")
                                        : differences[i] ? ComparisonChart::differenceText(*differences[i])
                                                         : QString();
             const QString figure = Runs::spoken(
-                QStringLiteral("%1, %2: %3 %4")
+                //: %1 is what was measured, %2 the name of a run, %3 the figure, %4 its unit
+                ComparedRunsText::tr("%1, %2: %3 %4")
                     .arg(metric.label, legible(runs[i].screenshotTitle()), bars[i].text, metric.unit),
                 bars[i].isInvalid);
             group.bars << QVariant::fromValue(ComparedBar{
@@ -66,7 +78,8 @@ QVariantList ComparedRuns::metrics(double trackWidth, int reference) const {
                 .text = bars[i].text,
                 .isMarked = bars[i].isInvalid,
                 .difference = difference,
-                .sentence = difference.isEmpty() ? figure : figure + QStringLiteral(", ") + difference});
+                .sentence =
+                    difference.isEmpty() ? figure : ComparedRunsText::tr("%1, %2").arg(figure, difference)});
         }
         all << QVariant::fromValue(group);
     }

@@ -28,7 +28,7 @@ CardFrame {
         },
         PlainText {
             Layout.fillWidth: true
-            text: qsTr("Comparing %1 runs").arg(pane.runs.count)
+            text: qsTr("Comparing %n runs", "", pane.runs.count)
             font: Typeface.display(16)
             color: PaletteKey.palette.text
             elide: Text.ElideRight
@@ -40,6 +40,7 @@ CardFrame {
             onClicked: image.makeComparison(pane.runs, pane.PaletteKey.palette)
         },
         IconButton {
+            //: Button: leaves the comparison
             label: qsTr("Close")
             symbol: "xmark"
             onClicked: pane.close()
@@ -51,6 +52,7 @@ CardFrame {
         Layout.leftMargin: ViewMetrics.figurePadding - ViewMetrics.sidebarInset
         Layout.topMargin: 14
         widestValue: pane.width - 200
+        //: A list of runs follows, of which one is the reference
         label: qsTr("Differences from")
         options: pane.runs.names
         current: pane.analyzer.comparisonReference

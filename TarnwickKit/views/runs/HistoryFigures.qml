@@ -13,6 +13,7 @@ RowLayout {
 
     RunSummaryStat {
         Layout.preferredWidth: ViewMetrics.statWidth
+        //: Noun, before the rate of the sequential write test
         label: qsTr("Write")
         value: figures.facts.writeBps
         isMarked: figures.facts.isWriteMarked
@@ -20,6 +21,7 @@ RowLayout {
     }
     RunSummaryStat {
         Layout.preferredWidth: ViewMetrics.statWidth
+        //: Noun, before the rate of the sequential read test
         label: qsTr("Read")
         value: figures.facts.readBps
         isMarked: figures.facts.isReadMarked

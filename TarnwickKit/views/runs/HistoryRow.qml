@@ -94,6 +94,7 @@ PlainButton {
             Layout.column: row.hasTwoLines ? 3 : 4
             Layout.margins: -padding
             padding: (Metrics.leastTarget - implicitContentWidth) / 2
+            //: %1 is the title of a run
             label: qsTr("Delete %1").arg(row.facts.title)
             hint: qsTr("Delete this run")
             corner: 4

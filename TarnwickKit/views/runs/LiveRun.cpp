@@ -2,7 +2,10 @@
 
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/Plural.h"
 #include "TarnwickKit/views/charts/ChartSeries.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <chrono>
@@ -21,6 +24,10 @@ namespace Format = model::Format;
 
 namespace {
 
+struct LiveRunText {
+    Q_DECLARE_TR_FUNCTIONS(LiveRunText)
+};
+
 constexpr std::chrono::milliseconds pace(40);
 constexpr int ticksPerBeat = 2;
 constexpr int ticksPerTelling = 13; ///< a little more than half a second
@@ -35,11 +42,12 @@ LiveTest itemOf(const LiveProgress::Test& test) {
     item.isRunning = test.stage == LiveProgress::Stage::running;
     if (item.isDone && test.result > 0)
         item.figure = model::rateFigure(test.test, test.result) + u' ' + model::rateUnit(test.test);
-    const QString state = item.isDone      ? LiveRun::tr("done")
-                          : item.isRunning ? LiveRun::tr("running")
-                                           : LiveRun::tr("to come");
-    item.sentence = item.figure.isEmpty() ? LiveRun::tr("%1: %2").arg(item.title, state)
-                                          : LiveRun::tr("%1: %2, %3").arg(item.title, state, item.figure);
+    const QString state = item.isDone      ? /*: Of a test */ LiveRunText::tr("done")
+                          : item.isRunning ? /*: Of a test */ LiveRunText::tr("running")
+                                           : /*: Of a test that has not begun */ LiveRunText::tr("to come");
+    //: %1 is the name of a test, %2 what it does (done, running, to come), %3 its rate
+    item.sentence = item.figure.isEmpty() ? LiveRunText::tr("%1: %2").arg(item.title, state)
+                                          : LiveRunText::tr("%1: %2, %3").arg(item.title, state, item.figure);
     return item;
 }
 
@@ -47,16 +55,20 @@ LiveTest itemOf(const LiveProgress::Test& test) {
 
 QString timeLeftText(double left, bool isOfRun) {
     const auto minutes = static_cast<int>(std::lround(left / 60));
-    QString time;
     if (left <= 5)
-        time = LiveRun::tr("A few seconds");
-    else if (left <= 95)
-        time = LiveRun::tr("About %1 s").arg(5 * static_cast<int>(std::ceil(left / 5)));
-    else if (minutes < 100)
-        time = LiveRun::tr("About %1 min").arg(minutes);
-    else
-        time = LiveRun::tr("About %1 h").arg(static_cast<int>(std::lround(left / 3600)));
-    return (isOfRun ? LiveRun::tr("%1 left") : LiveRun::tr("%1 left of this test")).arg(time);
+        return isOfRun ? LiveRunText::tr("A few seconds left")
+                       : LiveRunText::tr("A few seconds left of this test");
+    if (left <= 95) {
+        const int seconds = 5 * static_cast<int>(std::ceil(left / 5));
+        return isOfRun ? LiveRunText::tr("About %n s left", nullptr, seconds)
+                       : LiveRunText::tr("About %n s left of this test", nullptr, seconds);
+    }
+    if (minutes < 100)
+        return isOfRun ? LiveRunText::tr("About %n min left", nullptr, minutes)
+                       : LiveRunText::tr("About %n min left of this test", nullptr, minutes);
+    const auto hours = static_cast<int>(std::lround(left / 3600));
+    return isOfRun ? LiveRunText::tr("About %n h left", nullptr, hours)
+                   : LiveRunText::tr("About %n h left of this test", nullptr, hours);
 }
 
 LiveRun::LiveRun(QObject* parent)
@@ -178,13 +190,15 @@ void LiveRun::tell() {
     m_unit = test ? model::rateUnit(*test) : QString();
     m_share = m_totalBytes > 0 ? std::clamp(m_completedBytes / m_totalBytes, 0.0, 1.0) : 0;
     m_figure = test ? rateNow(*test) : QString();
-    const auto amount = [&](auto&& show) {
-        return tr("%1 of %2").arg(show(m_completedBytes), show(m_totalBytes));
-    };
-    if (test == BenchmarkTest::fileOps)
-        m_amount = tr("%1 operations").arg(amount(Format::grouped));
-    else
-        m_amount = amount([](double bytes) { return Format::bytes(static_cast<std::int64_t>(bytes)); });
+    const auto bytes = [](double count) { return Format::bytes(static_cast<std::int64_t>(count)); };
+    if (test == BenchmarkTest::fileOps) {
+        const int all = model::plural(static_cast<std::int64_t>(m_totalBytes));
+        m_amount = LiveRunText::tr("%1 of %2 operations", nullptr, all)
+                       .arg(Format::grouped(m_completedBytes), Format::grouped(m_totalBytes));
+    } else {
+        //: Sizes: how much is done of how much
+        m_amount = LiveRunText::tr("%1 of %2").arg(bytes(m_completedBytes), bytes(m_totalBytes));
+    }
     tellRun();
     Q_EMIT told();
 }
@@ -205,9 +219,9 @@ void LiveRun::tellRun() {
     const auto fraction = m_analyzer ? m_analyzer->liveProgress().fraction() : std::nullopt;
     QStringList parts;
     if (m_analyzer && !m_analyzer->liveTest())
-        parts << tr("Preparing…"); // the data file may take minutes
+        parts << LiveRunText::tr("Preparing…"); // the data file may take minutes
     else if (fraction)
-        parts << tr("%1 %").arg(static_cast<int>(100 * *fraction));
+        parts << LiveRunText::tr("%1 %").arg(static_cast<int>(100 * *fraction));
     if (const auto left = m_countdown.left(static_cast<double>(m_time.elapsed()) / 1000))
         parts << timeLeftText(*left, m_countsRun);
     m_runLine = parts.join(QStringLiteral(" · "));

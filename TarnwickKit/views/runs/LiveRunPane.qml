@@ -68,7 +68,9 @@ CardFrame {
 
         ProgressTrack {
             Layout.fillWidth: true
+            //: %1 is the name of a test, %2 how much of it is done
             label: pane.analyzer.liveTestTitle ? qsTr("%1: %2 %").arg(pane.analyzer.liveTestTitle).arg(live.spokenPercent) : live.runLine
+            //: %1 is a rate, %2 its unit, %3 how much is done of how much
             Accessible.description: live.figure ? qsTr("%1 %2, %3").arg(live.figure).arg(live.unit).arg(live.amount) : live.amount
             trackColor: PaletteKey.palette.track
             fillColor: PaletteKey.palette.accent
@@ -92,6 +94,7 @@ CardFrame {
 
                     Layout.maximumHeight: Metrics.scaled(14)
                     color: PaletteKey.palette.text2
+                    //: The temperature of the drive
                     label: qsTr("Drive %1 °C").arg(Math.round(live.celsius))
                     Accessible.role: Accessible.StaticText
                     Accessible.name: drive.label

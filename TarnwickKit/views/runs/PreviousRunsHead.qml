@@ -30,10 +30,12 @@ RowLayout {
 
             TextButton {
                 visible: head.analyzer.canCompare
+                //: Button: begins to choose runs
                 label: qsTr("Compare")
                 onClicked: head.analyzer.toggleCompareMode()
             }
             TextButton {
+                //: Button: deletes all saved runs, after a question
                 label: qsTr("Clear")
                 onClicked: head.clearWanted()
             }
@@ -47,7 +49,8 @@ RowLayout {
 
             TextButton {
                 enabled: head.analyzer.compareSelectionCount >= 2
-                label: qsTr("Compare %1").arg(head.analyzer.compareSelectionCount)
+                //: Button: compares so many chosen runs
+                label: qsTr("Compare %n", "", head.analyzer.compareSelectionCount)
                 textFont: Typeface.text(11, Font.DemiBold)
                 textColor: PaletteKey.palette.heading
                 onClicked: head.analyzer.beginComparison()

@@ -32,7 +32,7 @@ Row {
         Accessible.ignored: true
     }
     Column {
-        width: row.width - x
+        width: row.width - ViewMetrics.markSide - word.width - 2 * row.spacing
         spacing: 1
 
         PlainText {

@@ -3,11 +3,13 @@
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/model/format/RemarkText.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/model/runs/Comparison.h"
 #include "TarnwickKit/model/runs/FiguresText.h"
 #include "TarnwickKit/views/style/LegibleText.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QtNumeric>
 
@@ -21,6 +23,10 @@ using OndelCore::benchmark::RemarkWeight;
 namespace Format = model::Format;
 
 namespace {
+
+struct RunFactsText {
+    Q_DECLARE_TR_FUNCTIONS(RunFactsText)
+};
 
 constexpr std::int64_t usualRandomBlock = 4096;
 
@@ -58,8 +64,9 @@ QString lineOfMarks(const RunRecord& run) {
             titles << testTitle(metric.test, run);
     if (titles.isEmpty())
         return {};
-    return (titles.size() == 1 ? Runs::tr("Not the disk’s figure: %1")
-                               : Runs::tr("Not the disk’s figures: %1"))
+    //: Names of tests follow
+    return (titles.size() == 1 ? RunFactsText::tr("Not the disk’s figure: %1")
+                               : RunFactsText::tr("Not the disk’s figures: %1"))
         .arg(titles.join(QStringLiteral(", ")));
 }
 
@@ -88,11 +95,13 @@ QVariantList minorFigures(const RunRecord& run) {
                            .test = model::name(test)});
     };
     const QString iops = QStringLiteral(" IOPS");
-    add(BenchmarkTest::randomRead, Runs::tr("Random %1 read").arg(block), run.randomReadIOPS, iops,
+    //: %1 is the size of a block, as 4 KiB
+    add(BenchmarkTest::randomRead, RunFactsText::tr("Random %1 read").arg(block), run.randomReadIOPS, iops,
         &model::RunEvidence::randomReadLatency);
-    add(BenchmarkTest::randomWrite, Runs::tr("Random %1 write").arg(block), run.randomWriteIOPS, iops,
+    //: %1 is the size of a block, as 4 KiB
+    add(BenchmarkTest::randomWrite, RunFactsText::tr("Random %1 write").arg(block), run.randomWriteIOPS, iops,
         &model::RunEvidence::randomWriteLatency);
-    add(BenchmarkTest::fileOps, Runs::tr("File operations"), run.fileOpsPerSec, QStringLiteral(" /s"),
+    add(BenchmarkTest::fileOps, RunFactsText::tr("File operations"), run.fileOpsPerSec, QStringLiteral(" /s"),
         nullptr);
     return items.take();
 }
@@ -104,26 +113,37 @@ void addBlocks(ItemList& items, const RunRecord& run) {
     const auto write = block(run.writeBps.has_value(), run.writeBlock);
     const auto read = block(run.readBps.has_value(), run.readBlock);
     if (write && read && run.writeBlock == run.readBlock) {
-        items.add(Runs::tr("Read/Write"), write);
+        //: The size of the blocks that were read and written
+        items.add(RunFactsText::tr("Read/Write"), write);
     } else {
-        items.add(Runs::tr("Write"), write);
-        items.add(Runs::tr("Read"), read);
+        //: The size of the blocks that were written
+        items.add(RunFactsText::tr("Write"), write);
+        //: The size of the blocks that were read
+        items.add(RunFactsText::tr("Read"), read);
     }
-    items.add(Runs::tr("Random"), block(run.randomReadBps || run.randomWriteBps, run.randomBlock));
+    //: The size of the blocks that were read and written at random
+    items.add(RunFactsText::tr("Random"), block(run.randomReadBps || run.randomWriteBps, run.randomBlock));
 }
 
 QVariantList capturedFacts(const RunRecord& run) {
     ItemList items;
     if (const QString drive = driveOf(run); !drive.isEmpty())
-        items.add(Runs::tr("Drive"), drive);
-    items.add(Runs::tr("File system"), words(model::visibleText(run.fsType),
-                                             [](const QString& type) { return legible(type).toUpper(); }));
-    items.add(Runs::tr("Capacity"), words(run.capacityBytes, Format::bytes));
-    items.add(Runs::tr("Free"), words(run.freeBytes, Format::bytes));
-    items.add(Runs::tr("Size"), words(model::visibleText(run.sizeLabel), legible));
+        items.add(RunFactsText::tr("Drive"), drive);
+    items.add(RunFactsText::tr("File system"), words(model::visibleText(run.fsType), [](const QString& type) {
+                  return legible(type).toUpper();
+              }));
+    items.add(RunFactsText::tr("Capacity"), words(run.capacityBytes, Format::bytes));
+    //: The free space of the volume
+    items.add(RunFactsText::tr("Free"), words(run.freeBytes, Format::bytes));
+    //: The size of the test's file
+    items.add(RunFactsText::tr("Size"), words(model::visibleText(run.sizeLabel), [](const QString& size) {
+                  return legible(model::testSizeText(size));
+              }));
     addBlocks(items, run);
-    items.add(Runs::tr("Cache"), words(run.bypassCache, [](bool bypassed) {
-                  return bypassed ? Runs::tr("Bypassed") : Runs::tr("Cached");
+    items.add(RunFactsText::tr("Cache"), words(run.bypassCache, [](bool bypassed) {
+                  return bypassed ? /*: The system's cache was */ RunFactsText::tr("Bypassed")
+                                  : /*: Reads and writes went through the system's cache */ RunFactsText::tr(
+                                        "Cached");
               }));
     return items.take();
 }
@@ -159,13 +179,13 @@ QList<RemarkItem> remarkItems(const RunRecord& run) {
         const QString sentence = model::remarkSentence(remark);
         if (sentence.isEmpty())
             continue;
-        items << RemarkItem{.weight = static_cast<int>(remark.weight),
-                            .word = model::remarkWeightWord(remark.weight),
-                            .symbol = symbolOf(remark.weight),
-                            .sentence = remark.test
-                                            ? testTitle(*remark.test, run) + QStringLiteral(": ") + sentence
-                                            : sentence,
-                            .advice = model::remarkAdvice(remark)};
+        items << RemarkItem{
+            .weight = static_cast<int>(remark.weight),
+            .word = model::remarkWeightWord(remark.weight),
+            .symbol = symbolOf(remark.weight),
+            .sentence = remark.test ? RunFactsText::tr("%1: %2").arg(testTitle(*remark.test, run), sentence)
+                                    : sentence,
+            .advice = model::remarkAdvice(remark)};
     }
     return items;
 }
@@ -184,11 +204,12 @@ bool Runs::hasRemarks(const RunRecord& run) { return !remarkItems(run).isEmpty()
 QString Runs::copyFigures(const RunRecord& run) {
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->setText(model::figuresText(run));
-    return clipboard->ownsClipboard() ? tr("Figures copied") : tr("The figures couldn't be copied.");
+    return clipboard->ownsClipboard() ? RunFactsText::tr("Figures copied")
+                                      : RunFactsText::tr("The figures couldn't be copied.");
 }
 
 QString Runs::spoken(const QString& figure, bool isMarked) {
-    return isMarked ? tr("%1, not the disk’s figure").arg(figure) : figure;
+    return isMarked ? RunFactsText::tr("%1, not the disk’s figure").arg(figure) : figure;
 }
 
 RunFacts RunFacts::of(const RunRecord& run) {
@@ -196,28 +217,29 @@ RunFacts RunFacts::of(const RunRecord& run) {
         run.kind == RunRecord::Kind::network || (run.fsType && model::isNetworkFilesystem(*run.fsType));
     const auto kind = isNetwork ? RunRecord::Kind::network : run.kind;
     const auto orNone = [](const std::optional<double>& rate) { return rate.value_or(qQNaN()); };
-    return RunFacts{.id = run.id,
-                    .title = legible(run.title()),
-                    .screenshotTitle = legible(run.screenshotTitle()),
-                    .screenshotSubtitle = legible(run.screenshotSubtitle()),
-                    .badgeSymbol = symbolOf(kind),
-                    .customTitle = legible(run.customTitle.value_or(QString())),
-                    .stamp = Format::runStamp(run.date, run.duration),
-                    .shortStamp = Format::shortStamp(run.date),
-                    .connection = isNetwork ? Runs::tr("Network") : legible(run.connection),
-                    .isNetwork = isNetwork,
-                    .kind = static_cast<int>(kind),
-                    .writeBps = orNone(run.writeBps),
-                    .writePeakBps = orNone(run.writePeakBps),
-                    .writeMinBps = orNone(run.writeMinBps),
-                    .readBps = orNone(run.readBps),
-                    .readPeakBps = orNone(run.readPeakBps),
-                    .readMinBps = orNone(run.readMinBps),
-                    .isWriteMarked = run.writeBps && run.isInvalid(BenchmarkTest::sequentialWrite),
-                    .isReadMarked = run.readBps && run.isInvalid(BenchmarkTest::sequentialRead),
-                    .markedLine = lineOfMarks(run),
-                    .minor = minorFigures(run),
-                    .captured = capturedFacts(run)};
+    return RunFacts{
+        .id = run.id,
+        .title = legible(run.title()),
+        .screenshotTitle = legible(run.screenshotTitle()),
+        .screenshotSubtitle = legible(run.screenshotSubtitle()),
+        .badgeSymbol = symbolOf(kind),
+        .customTitle = legible(run.customTitle.value_or(QString())),
+        .stamp = Format::runStamp(run.date, run.duration),
+        .shortStamp = Format::shortStamp(run.date),
+        .connection = legible(model::connectionText(isNetwork ? QStringLiteral("Network") : run.connection)),
+        .isNetwork = isNetwork,
+        .kind = static_cast<int>(kind),
+        .writeBps = orNone(run.writeBps),
+        .writePeakBps = orNone(run.writePeakBps),
+        .writeMinBps = orNone(run.writeMinBps),
+        .readBps = orNone(run.readBps),
+        .readPeakBps = orNone(run.readPeakBps),
+        .readMinBps = orNone(run.readMinBps),
+        .isWriteMarked = run.writeBps && run.isInvalid(BenchmarkTest::sequentialWrite),
+        .isReadMarked = run.readBps && run.isInvalid(BenchmarkTest::sequentialRead),
+        .markedLine = lineOfMarks(run),
+        .minor = minorFigures(run),
+        .captured = capturedFacts(run)};
 }
 
 } // namespace TarnwickKit::views

@@ -27,7 +27,7 @@ Card {
 
         PlainText {
             anchors.verticalCenter: parent.verticalCenter
-            text: note.analyzer.undoableRuns > 1 ? qsTr("%1 runs deleted").arg(note.analyzer.undoableRuns) : qsTr("Run deleted")
+            text: note.analyzer.undoableRuns > 1 ? qsTr("%n runs deleted", "", note.analyzer.undoableRuns) : qsTr("Run deleted")
             font: Typeface.text(13)
             color: PaletteKey.palette.text
         }
@@ -41,7 +41,7 @@ Card {
         TextButton {
             anchors.verticalCenter: parent.verticalCenter
             label: qsTr("Undo")
-            hint: qsTr("Ctrl+Z")
+            hint: ViewMath.keyName("Ctrl+Z")
             textFont: Typeface.text(13, Font.DemiBold)
             textColor: PaletteKey.palette.link
             onClicked: note.analyzer.undoDeletion()

@@ -1,6 +1,7 @@
 #include "TarnwickKit/views/sharing/CardView.h"
 
 #include "OndelControls/ViewEngine.h"
+#include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/views/style/PaletteKey.h"
 
 #include <QCoreApplication>
@@ -26,8 +27,8 @@ QQmlEngine& engine() {
 
 } // namespace
 
-std::unique_ptr<QQuickItem> newCard(const QString& name, const QVariantMap& properties,
-                                    const Palette& palette) {
+std::unique_ptr<QQuickItem> newCard(const QString& name, QVariantMap properties, const Palette& palette) {
+    properties.insert(QStringLiteral("isMirrored"), model::Language::isRightToLeft());
     QQmlComponent component(&engine(),
                             QUrl(QStringLiteral("qrc:/qt/qml/TarnwickKit/views/%1.qml").arg(name)));
     // Text from distance fields differs between processes and may have coloured fringes; native text does

@@ -61,7 +61,7 @@ ImageCard {
                     color: PaletteKey.palette.text
                 }
                 PlainText {
-                    text: qsTr("%1 benchmarks compared").arg(card.runs.count)
+                    text: qsTr("%n benchmarks compared", "", card.runs.count)
                     font: Typeface.mono(11)
                     color: PaletteKey.palette.text3
                 }

@@ -8,12 +8,16 @@ import TarnwickKit.views
 Item {
     id: view
 
+    /// Written from right to left.
+    required property bool isMirrored
     default property alias content: pieces.data
     readonly property real margin: 24
     readonly property real corner: 16
 
     width: 760 + 2 * margin
     height: pieces.height + 2 * margin
+    LayoutMirroring.enabled: isMirrored
+    LayoutMirroring.childrenInherit: true
 
     Card {
         x: view.margin

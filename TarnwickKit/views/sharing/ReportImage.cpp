@@ -9,6 +9,7 @@
 #include "TarnwickKit/views/sharing/ViewPicture.h"
 #include "TarnwickKit/views/style/LegibleText.h"
 
+#include <QCoreApplication>
 #include <QPromise>
 #include <QQuickItem>
 #include <QTextBoundaryFinder>
@@ -24,8 +25,13 @@ using model::RunRecord;
 namespace {
 
 const auto titlePrefix = QStringLiteral("Ondel Tarnwick — ");
-const auto comparisonName = QStringLiteral("Ondel Tarnwick — Comparison");
+struct ReportImageText {
+    Q_DECLARE_TR_FUNCTIONS(ReportImageText)
+};
+
 constexpr qsizetype longestFileName = 255; // bytes; NAME_MAX of every file system in use
+
+QString comparisonName() { return ReportImageText::tr("Ondel Tarnwick — Comparison"); }
 
 /// The longest prefix of `text` with at most `bytes` bytes in UTF-8 that ends at a character boundary.
 QString cut(const QString& text, qsizetype bytes) {
@@ -108,12 +114,12 @@ SharedPngLater ReportImage::renderLater(const RunRecord& run, const Palette& pal
 
 ImageFile ComparisonImage::render(const std::vector<RunRecord>& runs, const Palette& palette) {
     const auto card = comparisonCard(runs, palette);
-    return card ? ReportImage::png(*card, comparisonName) : std::nullopt;
+    return card ? ReportImage::png(*card, comparisonName()) : std::nullopt;
 }
 
 SharedPngLater ComparisonImage::renderLater(const std::vector<RunRecord>& runs, const Palette& palette) {
     const auto card = comparisonCard(runs, palette);
-    return ReportImage::pngLater(card.get(), comparisonName);
+    return ReportImage::pngLater(card.get(), comparisonName());
 }
 
 } // namespace TarnwickKit::views

@@ -27,6 +27,7 @@ IconButton {
         note.active = true;
     }
 
+    //: Button: opens a menu
     label: qsTr("Share")
     symbol: "square.and.arrow.up"
     symbolSize: 12

@@ -20,11 +20,15 @@ Column {
     CollapsibleSection {
         id: health
 
-        readonly property string verdict: section.target.isFailing ? qsTr("Failing") : qsTr("Verified")
+        //: The drive's own verdict: it is going to break
+        readonly property string verdict: section.target.isFailing ? qsTr("Failing")
+            //: The drive's own verdict: it finds itself sound
+            : qsTr("Verified")
 
         width: parent.width
         label: qsTr("S.M.A.R.T.")
         // The note is a text of its own. Read alone, the verdict would seem to cover all disks.
+        //: %1 is the verdict (Failing, Verified), %2 a sentence without its full stop
         detail: section.target.healthNote === "" ? verdict : qsTr("%1. %2").arg(verdict).arg(section.target.healthNote)
         isExpanded: section.kept.healthExpanded
         onToggled: expanded => section.kept.healthExpanded = expanded

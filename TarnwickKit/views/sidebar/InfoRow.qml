@@ -16,6 +16,7 @@ Item {
     implicitHeight: line.implicitHeight + 13
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + value
+    //: Spoken: the figure is a concern
     Accessible.description: warning ? qsTr("Warning") : ""
 
     CutTip {

@@ -26,6 +26,8 @@ RowLayout {
         text: setting.label
         font: Typeface.text(13, Font.Medium)
         color: PaletteKey.palette.text2
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
         elide: Text.ElideRight
         Accessible.ignored: true
     }

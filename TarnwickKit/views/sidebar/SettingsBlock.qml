@@ -14,6 +14,7 @@ Column {
 
     SettingMenu {
         width: parent.width
+        //: The size of the test's file
         label: qsTr("Size")
         options: block.analyzer.sizeLabels
         current: block.analyzer.sizeIndex

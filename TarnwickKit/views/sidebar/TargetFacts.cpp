@@ -2,8 +2,12 @@
 
 #include "OndelDesktop/FileHandOff.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/HealthText.h"
+#include "TarnwickKit/model/format/Plural.h"
+#include "TarnwickKit/model/format/VolumeText.h"
 #include "TarnwickKit/views/style/LegibleText.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QPointer>
 #include <QUrl>
@@ -20,32 +24,42 @@ namespace Format = model::Format;
 
 namespace {
 
+struct TargetFactsText {
+    Q_DECLARE_TR_FUNCTIONS(TargetFactsText)
+};
+
 struct Feature {
     const char* name;
     Capability VolumeCapabilities::* flag;
 };
 constexpr std::array featureTable{
-    Feature{QT_TRANSLATE_NOOP("TarnwickKit::views::TargetFacts", "Sparse files"),
-            &VolumeCapabilities::supportsSparseFiles},
-    Feature{QT_TRANSLATE_NOOP("TarnwickKit::views::TargetFacts", "Cloning"),
-            &VolumeCapabilities::supportsCloning},
-    Feature{QT_TRANSLATE_NOOP("TarnwickKit::views::TargetFacts", "Snapshots"),
-            &VolumeCapabilities::supportsSnapshots},
-    Feature{QT_TRANSLATE_NOOP("TarnwickKit::views::TargetFacts", "Hard links"),
-            &VolumeCapabilities::supportsHardLinks},
-    Feature{QT_TRANSLATE_NOOP("TarnwickKit::views::TargetFacts", "Symlinks"),
-            &VolumeCapabilities::supportsSymbolicLinks},
-    Feature{QT_TRANSLATE_NOOP("TarnwickKit::views::TargetFacts", "Xattr"),
-            &VolumeCapabilities::supportsExtendedAttributes}};
+    Feature{QT_TRANSLATE_NOOP("TargetFactsText", "Sparse files"), &VolumeCapabilities::supportsSparseFiles},
+    Feature{QT_TRANSLATE_NOOP("TargetFactsText", "Cloning"), &VolumeCapabilities::supportsCloning},
+    Feature{QT_TRANSLATE_NOOP("TargetFactsText", "Snapshots"), &VolumeCapabilities::supportsSnapshots},
+    Feature{QT_TRANSLATE_NOOP("TargetFactsText", "Hard links"), &VolumeCapabilities::supportsHardLinks},
+    Feature{QT_TRANSLATE_NOOP("TargetFactsText", "Symlinks"), &VolumeCapabilities::supportsSymbolicLinks},
+    Feature{QT_TRANSLATE_NOOP("TargetFactsText", "Xattr"), &VolumeCapabilities::supportsExtendedAttributes}};
 
 QString letterCase(Capability isCaseSensitive) {
     if (!isCaseSensitive.isKnown())
-        return TargetFacts::tr("Case not known");
-    return isCaseSensitive ? TargetFacts::tr("Case-sensitive") : TargetFacts::tr("Case-insensitive");
+        return TargetFactsText::tr("Case not known");
+    return isCaseSensitive ? TargetFactsText::tr("Case-sensitive") : TargetFactsText::tr("Case-insensitive");
 }
 
-QString orMissing(const std::optional<std::int64_t>& number, const QString& words) {
-    return number ? words.arg(*number) : QStringLiteral("--");
+/// "Ext4 · 460 GiB internal"
+QString lineOf(const OndelCore::volumes::VolumeInfo& volume, const QString& connection) {
+    //: %1 is a kind of file system, %2 the volume's size
+    const char* line = QT_TRANSLATE_NOOP("TargetFactsText", "%1 · %2 external");
+    if (connection == QStringLiteral("Internal"))
+        //: %1 is a kind of file system, %2 the volume's size
+        line = QT_TRANSLATE_NOOP("TargetFactsText", "%1 · %2 internal");
+    else if (connection == QStringLiteral("Removable"))
+        //: %1 is a kind of file system, %2 the volume's size
+        line = QT_TRANSLATE_NOOP("TargetFactsText", "%1 · %2 removable");
+    else if (connection == QStringLiteral("Network"))
+        //: %1 is a kind of file system, %2 the volume's size
+        line = QT_TRANSLATE_NOOP("TargetFactsText", "%1 · %2 network");
+    return TargetFactsText::tr(line).arg(model::volumeFormatText(volume.format), Format::bytes(volume.total));
 }
 
 } // namespace
@@ -73,20 +87,20 @@ void TargetFacts::showFolder() {
         return;
     OndelDesktop::showFolder(*m_analyzer->targetFolder(), [self = QPointer(this)] {
         if (self)
-            Q_EMIT self->told(tr("The folder couldn't be opened."));
+            Q_EMIT self->told(TargetFactsText::tr("The folder couldn't be opened."));
     });
 }
 
 QString TargetFacts::volumeName() const {
-    return m_analyzer && m_analyzer->volumeInfo() ? legible(m_analyzer->volumeInfo()->name) : QString();
+    return m_analyzer && m_analyzer->volumeInfo()
+               ? legible(model::volumeNameText(m_analyzer->volumeInfo()->name))
+               : QString();
 }
 
 QString TargetFacts::volumeLine() const {
     if (!m_analyzer || !m_analyzer->volumeInfo())
         return {};
-    const auto& volume = *m_analyzer->volumeInfo();
-    return volume.format + QStringLiteral(" · ") + Format::bytes(volume.total) + u' ' +
-           m_analyzer->connectionLabel().toLower();
+    return lineOf(*m_analyzer->volumeInfo(), m_analyzer->connectionLabel());
 }
 
 int TargetFacts::volumeKind() const {
@@ -101,16 +115,21 @@ QList<InfoItem> TargetFacts::capabilities() const {
     const auto add = [&](const QString& label, const QString& value) {
         items.append(InfoItem{label, value});
     };
-    add(tr("File system"), can.filesystemType.toUpper());
-    add(tr("Format"), letterCase(can.isCaseSensitive));
-    add(tr("Optimal I/O size"),
+    add(TargetFactsText::tr("File system"), can.filesystemType.toUpper());
+    add(TargetFactsText::tr("Format"), letterCase(can.isCaseSensitive));
+    add(TargetFactsText::tr("Optimal I/O size"),
         can.optimalIOSize > 0 ? Format::block(can.optimalIOSize) : QStringLiteral("--"));
-    add(tr("Block size"), Format::block(can.blockSize));
-    add(tr("Max filename"), orMissing(can.maxNameLength, tr("%1 chars")));
-    add(tr("Max path"), orMissing(can.maxPathLength, QStringLiteral("%1")));
+    add(TargetFactsText::tr("Block size"), Format::block(can.blockSize));
+    add(TargetFactsText::tr("Max filename"),
+        can.maxNameLength ? TargetFactsText::tr("%1 chars", nullptr, model::plural(*can.maxNameLength))
+                                .arg(*can.maxNameLength)
+                          : QStringLiteral("--"));
+    add(TargetFactsText::tr("Max path"),
+        can.maxPathLength ? QString::number(*can.maxPathLength) : QStringLiteral("--"));
     if (const auto& volume = m_analyzer->volumeInfo()) {
-        add(tr("Capacity"), Format::bytes(volume->total));
-        add(tr("Free"), Format::bytes(volume->available));
+        add(TargetFactsText::tr("Capacity"), Format::bytes(volume->total));
+        //: The free space of the volume
+        add(TargetFactsText::tr("Free"), Format::bytes(volume->available));
     }
     return items;
 }
@@ -120,7 +139,7 @@ QStringList TargetFacts::features() const {
     if (hasCapabilities())
         for (const Feature& feature : featureTable)
             if ((*m_analyzer->capabilities()).*feature.flag)
-                names.append(tr(feature.name));
+                names.append(TargetFactsText::tr(feature.name));
     return names;
 }
 
@@ -129,13 +148,14 @@ QStringList TargetFacts::unknownFeatures() const {
     if (hasCapabilities())
         for (const Feature& feature : featureTable)
             if (!((*m_analyzer->capabilities()).*feature.flag).isKnown())
-                names.append(tr(feature.name));
+                names.append(TargetFactsText::tr(feature.name));
     return names;
 }
 
 QString TargetFacts::featuresNote() const {
     const QStringList names = unknownFeatures();
-    return names.isEmpty() ? QString() : tr("Not known: %1").arg(names.join(tr(", ")));
+    return names.isEmpty() ? QString()
+                           : TargetFactsText::tr("Not known: %1").arg(names.join(QStringLiteral(", ")));
 }
 
 bool TargetFacts::hasHealth() const {
@@ -150,16 +170,16 @@ QList<InfoItem> TargetFacts::health() const {
     QList<InfoItem> items;
     if (hasHealth())
         for (const DiskSMART::Attribute& attribute : m_analyzer->smart()->attributes)
-            items.append(InfoItem{QString::fromStdString(attribute.label),
-                                  QString::fromStdString(attribute.value), attribute.warning});
+            items.append(
+                InfoItem{model::healthLabel(attribute), model::healthValue(attribute), attribute.warning});
     return items;
 }
 
 QString TargetFacts::healthNote() const {
     if (!m_analyzer || !m_analyzer->smart())
         return {};
-    const QString note = legible(QString::fromStdString(m_analyzer->smart()->note));
-    return hasHealth() || note.isEmpty() ? note : tr("No S.M.A.R.T. figures: %1").arg(note);
+    const QString note = legible(model::healthSource(m_analyzer->smart()->note));
+    return hasHealth() || note.isEmpty() ? note : TargetFactsText::tr("No S.M.A.R.T. figures: %1").arg(note);
 }
 
 QVariantList TargetFacts::mountedVolumes() {

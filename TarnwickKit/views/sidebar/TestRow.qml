@@ -23,6 +23,7 @@ ToggleButton {
 
     hint: explanation
     explains: true
+    //: %1 is the figure of a test, %2 what the test does
     detail: figure === "" ? explanation : qsTr("%1. %2").arg(Runs.spoken(figure, isMarked)).arg(explanation)
 
     background: Card {
@@ -52,6 +53,8 @@ ToggleButton {
             text: row.title
             font: Typeface.text(13.5, Font.Medium)
             color: row.PaletteKey.palette.text
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             elide: Text.ElideRight
             Accessible.ignored: true
         }

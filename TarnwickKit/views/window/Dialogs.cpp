@@ -2,6 +2,7 @@
 
 #include "TarnwickKit/model/runs/RunFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileDialog>
 #include <QGridLayout>
@@ -21,6 +22,10 @@ using model::TarnwickFile;
 using OndelDesktop::FileQuestion;
 
 namespace {
+
+struct DialogsText {
+    Q_DECLARE_TR_FUNCTIONS(DialogsText)
+};
 
 /// Whose dialog is open.
 Dialogs* asking = nullptr;
@@ -117,8 +122,8 @@ void Dialogs::askForFolder(const QString& message, const QString& prompt,
         .kind = Question::Kind::Folder,
         .title = message.toStdString(),
         .acceptLabel = prompt.toStdString(),
-        .note = {QFileDialog::tr("Working folder:").toStdString(),
-                 QFileDialog::tr("temporary, is written there and removed").toStdString()},
+        .note = {DialogsText::tr("Working folder:").toStdString(),
+                 DialogsText::tr("temporary, is written there and removed").toStdString()},
         .startingAt = startingAt,
         .proposedName = {},
         .type = {}};
@@ -131,7 +136,7 @@ void Dialogs::askForNewFile(const QString& proposedName, const char* mimeType, c
     const QString type = QString::fromLatin1(mimeType);
     const Question question{
         .kind = Question::Kind::NewFile,
-        .title = QFileDialog::tr("Save As").toStdString(),
+        .title = DialogsText::tr("Save As").toStdString(),
         .acceptLabel = {},
         .note = {},
         .startingAt = folder.isEmpty() ? std::nullopt : std::optional(pathOf(folder)),
@@ -155,7 +160,7 @@ void Dialogs::askForExportFile(const QString& proposedName, const QString& kind,
     const std::string ending = fs::path(proposedName.toStdString()).extension();
     const Question question{
         .kind = Question::Kind::NewFile,
-        .title = QFileDialog::tr("Save As").toStdString(),
+        .title = DialogsText::tr("Save As").toStdString(),
         .acceptLabel = {},
         .note = {},
         .startingAt = pathOf(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
@@ -166,12 +171,13 @@ void Dialogs::askForExportFile(const QString& proposedName, const QString& kind,
 
 void Dialogs::askForRunFiles(const std::function<void(const std::vector<fs::path>&)>& chosen) {
     const Question question{.kind = Question::Kind::Files,
-                            .title = QFileDialog::tr("Open").toStdString(),
+                            //: The title of a dialog that asks for files
+                            .title = DialogsText::tr("Open").toStdString(),
                             .acceptLabel = {},
                             .note = {},
                             .startingAt = {},
                             .proposedName = {},
-                            .type = Question::Type{.name = QFileDialog::tr("Tarnwick runs").toStdString(),
+                            .type = Question::Type{.name = DialogsText::tr("Tarnwick runs").toStdString(),
                                                    .pattern = "*." + std::string(TarnwickFile::runExtension),
                                                    .mimeType = {}}};
     ask(question, chosen);

@@ -61,7 +61,7 @@ Rectangle {
                 // By its file's name: else it would be compiled with this view for nothing.
                 onActiveChanged: setSource(active ? "CapacityPane.qml" : "", active ? {
                     analyzer: main.analyzer,
-                    volumeName: Qt.binding(() => main.target.volumeName || qsTr("the volume"))
+                    volumeName: Qt.binding(() => main.target.volumeName)
                 } : {})
             }
             // Each pane exists only while its state holds.
@@ -89,6 +89,7 @@ Rectangle {
                 LiveRunPane {
                     width: column.width
                     analyzer: main.analyzer
+                    //: Stands for the name of a volume that is not known
                     volumeName: main.target.volumeName || qsTr("Volume")
                 }
             }

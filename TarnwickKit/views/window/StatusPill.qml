@@ -13,6 +13,7 @@ Row {
             return qsTr("Checking…");
         switch (analyzer.phase) {
         case AnalyzerModel.Running: return qsTr("Running…");
+        //: Adjective: the run has come to its end
         case AnalyzerModel.Done: return qsTr("Complete");
         case AnalyzerModel.Failed: return qsTr("Failed");
         default: return qsTr("Ready");

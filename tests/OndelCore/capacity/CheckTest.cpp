@@ -20,6 +20,8 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 namespace OndelCore::capacity {
 namespace {
@@ -216,6 +218,17 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"goneWhileReading",
              [](Bent& bent) { bent.pread = Bent::failing(::pread, 3 * mebibyte, ENOTCONN); },
              "fails: read: Transport endpoint is not connected"},
+        Case{"nothingAnswersAnyMore",
+             [](Bent& bent) {
+                 bent.endWritingAt(3 * mebibyte, EIO);
+                 bent.pread = [](int, void*, std::size_t, off_t) { return errno = EIO, ssize_t{-1}; };
+             },
+             "fails: write: Input/output error"},
+        Case{"nothingCanBeReadBack",
+             [](Bent& bent) {
+                 bent.pread = [](int, void*, std::size_t, off_t) { return errno = EIO, ssize_t{-1}; };
+             },
+             "fails: read: Input/output error"},
         Case{"noRoomAtTheFlush",
              [](Bent& bent) {
                  bent.fileBytes = 4 * mebibyte;
@@ -293,7 +306,14 @@ TEST(CapacityCheck, quicklyChecksWhereSamplesCanBeSpread) {
     EXPECT_LT(spread.written, 16 * mebibyte);
     EXPECT_FALSE(spread.isProof());
 
+    system.freeBytes = [](int) { return 512 * mebibyte; };
+    reserved = 0;
+    const auto all =
+        runCheck(system, {.folder = folder.path(), .leaveFree = 0, .isQuick = true}, {}, [](auto&) {});
+    EXPECT_EQ(all.planned, 504 * mebibyte) << "a file system without any room is slow";
+
     reserved = 4;
+    system.freeBytes = Bent().freeBytes;
     system.reserveSpace = [&reserved](int, std::int64_t) { return errno = EUCLEAN, ++reserved <= 8; };
     EXPECT_EQ(saidOf(runCheck(system, plan, {}, [](auto&) {})),
               "writeFailed 268435456+4096; writeErrors after 5525504");
@@ -302,6 +322,12 @@ TEST(CapacityCheck, quicklyChecksWhereSamplesCanBeSpread) {
     const auto packed = runCheck(system, plan, {}, [](auto&) {});
     EXPECT_FALSE(packed.quick.value().isSpread);
     EXPECT_EQ(packed.written, 64 * mebibyte);
+
+    system.spreadsSparseFiles = [](int) { return true; };
+    const auto sparse = runCheck(system, plan, {}, [](auto&) {});
+    EXPECT_EQ(saidOf(sparse), "");
+    EXPECT_TRUE(sparse.quick.value().isSpread);
+    EXPECT_EQ(sparse.written, spread.written);
 }
 
 TEST(CapacityCheck, stopsInEachPhaseAndRemovesItsFolder) {
@@ -325,13 +351,19 @@ TEST(CapacityCheck, stopsInEachPhaseAndRemovesItsFolder) {
 }
 
 TEST(CapacityCheck, leavesAFolderForTheSweepWhenItIsKilled) {
-    for (const char* phase : {"writing", "reading", "waiting"}) {
+    const std::vector<std::string> whole{"--again", "3600"};
+    const std::vector<std::string> quick{"--quick", "--again", "3600"};
+    const std::vector<std::pair<const char*, const std::vector<std::string>*>> table{
+        {"writing", &whole},  {"reading", &whole}, {"waiting", &whole}, {"preparing", &quick},
+        {"sampling", &quick}, {"reading", &quick}, {"waiting", &quick}};
+    for (const auto& [phase, options] : table) {
         const test::TemporaryFolder folder;
         {
-            test::Program check(
-                {CHECK_FOLDER, folder.path().string(), "--size", "67108864", "--again", "3600", "--phases"});
-            while (check.line() != std::string("phase ") + phase) {
-            }
+            std::vector<std::string> command{
+                CHECK_FOLDER, folder.path().string(), "--size", "67108864", "--stay-in", phase};
+            command.insert(command.end(), options->begin(), options->end());
+            test::Program check(command);
+            ASSERT_EQ(check.line(), std::string("phase ") + phase);
             EXPECT_EQ(benchmark::BenchmarkEngine::cleanupOrphans(folder.path(), std::chrono::milliseconds(0)),
                       1U)
                 << "a folder in use was swept";

@@ -1,10 +1,15 @@
 // Checks a folder's volume and prints what was found, for scripts/check-capacity and for looking.
 //
 //   check-folder FOLDER [--size BYTES] [--leave-free BYTES] [--quick] [--again SECONDS] [--phases]
+//                [--stay-in PHASE]
+//
+// --stay-in: says so when that phase begins, and does nothing more.
 //
 // Status 0: all good, 3: defects, 1: the check failed.
 
 #include "OndelCore/capacity/CapacityCheck.h"
+
+#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -77,6 +82,7 @@ void print(const CapacityResult& result) {
 int main(int argc, char** argv) {
     CapacityPlan plan{.leaveFree = 0};
     bool showsPhases = false;
+    std::string lastPhase;
     for (int i = 1; i < argc; ++i) {
         const std::string word = argv[i];
         const auto number = [&] { return i + 1 < argc ? std::atoll(argv[++i]) : 0; };
@@ -90,6 +96,8 @@ int main(int argc, char** argv) {
             plan.isQuick = true;
         else if (word == "--phases")
             showsPhases = true;
+        else if (word == "--stay-in" && i + 1 < argc)
+            lastPhase = argv[++i];
         else
             plan.folder = word;
     }
@@ -97,8 +105,10 @@ int main(int argc, char** argv) {
         std::string last;
         const auto result = CapacityCheck().run(plan, {}, [&](const CapacityProgress& now) {
             const std::string phase(rawValue(now.phase));
-            if (showsPhases && phase != last)
+            if ((showsPhases || phase == lastPhase) && phase != last)
                 std::printf("phase %s\n", phase.c_str()), std::fflush(stdout);
+            while (phase == lastPhase)
+                pause();
             last = phase;
         });
         print(result);

@@ -158,6 +158,36 @@ TEST_F(AnalyzerModelRuns, ImportsARunFile) {
     EXPECT_EQ(model.failureMessage(), "");
 }
 
+TEST_F(AnalyzerModelRuns, ShowsAStoredRun) {
+    const QUuid first = complete();
+    const QUuid second = complete();
+    HistoryStore other(engine.history.path());
+    other.add(fullRun(2));
+    const QUuid others = fullRun(2).id;
+    model.setShowsCheck(true);
+    for (const QUuid& id : {first, others, first, second}) {
+        model.setCurrentRunCollapsed(true);
+        model.showRun(id);
+        ASSERT_TRUE(model.currentRun());
+        EXPECT_EQ(model.currentRun()->id, id);
+        EXPECT_FALSE(model.currentRunCollapsed());
+        EXPECT_FALSE(model.showsCheck());
+        EXPECT_EQ(model.sidebarValues().join(QString()), QString()) << "figures of another run beside it";
+        EXPECT_EQ(model.phase(), Phase::Done);
+    }
+    model.setShowsCheck(true);
+    model.showRun(QUuid::createUuid());
+    model.showRun({});
+    EXPECT_EQ(model.currentRun()->id, second);
+    EXPECT_TRUE(model.showsCheck());
+    EXPECT_EQ(HistoryStore(engine.history.path()).runs().size(), 3u);
+    engine.begin(model);
+    model.showRun(first);
+    EXPECT_TRUE(model.isRunning());
+    EXPECT_FALSE(model.currentRun());
+    engine.finish(model);
+}
+
 TEST_F(AnalyzerModelRuns, ImportsManyFilesWithOneSave) {
     std::vector<RunRecord> runs;
     std::vector<std::filesystem::path> files;

@@ -244,6 +244,26 @@ TEST_F(AnalyzerModelTarget, AsksForAFolder) {
     EXPECT_EQ(model.targetFolder(), "/tmp");
 }
 
+TEST_F(AnalyzerModelTarget, OpensTheCheckOfAFolder) {
+    AnalyzerModel model(services);
+    model.setDialogs(&dialogs);
+    model.openCheck();
+    EXPECT_EQ(dialogs.asked.size(), 2) << "a check of nothing";
+    EXPECT_FALSE(model.showsCheck());
+    dialogs.answer = "/tmp";
+    model.openCheck();
+    EXPECT_EQ(model.targetFolder(), "/tmp");
+    EXPECT_TRUE(model.showsCheck());
+    model.setShowsCheck(false);
+    model.openCheck();
+    EXPECT_TRUE(model.showsCheck());
+    EXPECT_EQ(dialogs.asked.size(), 4) << "the folder that is chosen is asked for";
+    engine.begin(model);
+    model.openCheck();
+    EXPECT_FALSE(model.showsCheck()) << "a check beside a run";
+    engine.finish(model);
+}
+
 TEST_F(AnalyzerModelTarget, ExportsTheHealth) {
     services.readHealth = [](const auto&) { return std::optional(health("NVMe")); };
     services.driveIdentity = [](const auto&) { return DriveIdentity{"ACME", std::nullopt}; };

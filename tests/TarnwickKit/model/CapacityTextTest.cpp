@@ -3,6 +3,7 @@
 #include "SampleCheck.h"
 #include "TarnwickKit/model/capacity/CapacityCodec.h"
 #include "TarnwickKit/model/capacity/CapacityFields.h"
+#include "TarnwickKit/model/capacity/CapacityReport.h"
 
 #include <QFile>
 
@@ -64,8 +65,14 @@ const std::vector<Outcome>& outcomes() {
          "All 118.0 GiB came back as written, but mostly from memory: that says little about the disk."},
         {with(goodCheck(), [](auto& check) { check.result.quick.emplace().isSpread = true; }), unproven,
          "Samples all over 118.0 GiB of free space hold what was written, which is no proof."},
-        {with(goodCheck(), [](auto& check) { check.result.quick.emplace(); }), unproven,
-         "The samples hold what was written, but they lie close together."},
+        {with(goodCheck(),
+              [](auto& check) {
+                  check.result.quick.emplace();
+                  check.result.written = check.result.verified = 64 * mebi;
+              }),
+         unproven,
+         "This file system cannot spread samples: only 64.0 MiB in one place were checked, and hold what was "
+         "written."},
         {stoppedCheck(0), unproven, "The check was stopped before anything was read back."},
         {stoppedCheck(118 * gibi), unproven, // before the second reading
          "The check was stopped when 118.0 GiB of 118.0 GiB had come back as written."},
@@ -104,6 +111,10 @@ const std::vector<Outcome>& outcomes() {
          bad, "The volume could be written up to 41.2 GiB of 118.0 GiB, and refused everything beyond."},
         {badCheck({defect(DefectKind::zeros, somewhere, 1), defect(DefectKind::unreadable, 60 * gibi, 2)}),
          bad, "3 blocks did not come back as they were written, the first at 41.2 GiB."},
+        {with(badCheck({defect(DefectKind::unreadable, 0, gibi / 4096),
+                        defect(DefectKind::writeFailed, gibi, 2 * gibi / 4096)}),
+              [](auto& check) { check.result.written = gibi; }),
+         bad, "3.0 GiB of 3.0 GiB did not come back as they were written, the first block at 0 B."},
         {with(badCheck({defect(DefectKind::bitFlips, somewhere, 2)}),
               [](auto& check) { check.result.defects.front().isOnlyLater = true; }),
          bad, "2 blocks at 41.2 GiB were right at first, and changed later."},
@@ -163,26 +174,76 @@ TEST(CapacityText, TellsWhatCameBackAndWhere) {
 
 TEST(CapacityText, SaysWhatItDoesNotKnow) {
     using OndelCore::platform::FileSystemReach;
-    const auto note = [](const CapacityRecord& check, qsizetype index) {
-        const QStringList notes = capacityNotes(check);
-        EXPECT_TRUE(notes.last().startsWith("What no check can tell: whether the space under your files"));
-        return notes.value(index).toStdString();
-    };
     EXPECT_EQ(capacityNotes(goodCheck()).size(), 1);
-    EXPECT_EQ(note(with(goodCheck(), [](auto& check) { check.result.quick.emplace(); }), 0),
-              "A quick check writes a few places only. It finds most false capacities in seconds; finding "
-              "nothing proves nothing.");
-    EXPECT_EQ(
-        note(with(goodCheck(), [](auto& check) { check.result.read.shareAtDisk = 0.12; }), 0),
-        "Only 12 % of what was read came from the disk. Check more than the machine’s memory can hold.");
-    EXPECT_EQ(note(with(goodCheck(), [](auto& check) { check.result.read.shareAtDisk.reset(); }), 0),
-              "The disk behind this volume cannot be seen, so what came back may have come from a cache.");
-    EXPECT_EQ(note(with(goodCheck(),
-                        [](auto& check) { check.result.circumstances.reach = FileSystemReach::memory; }),
-                   0),
-              "This volume keeps its files in memory: no disk was checked.");
-    EXPECT_EQ(note(with(stoppedCheck(0), [](auto& check) { check.result.wrong = 4096; }), 0),
-              "The check was stopped: what it had not read back is not known.");
+    const auto quick = [](CapacityRecord check, bool isSpread) {
+        check.result.quick = {.isSpread = isSpread};
+        return check;
+    };
+    const auto filled = [](CapacityRecord check) {
+        check.result.written = mebi;
+        check.result.earlyEnd = capacity::EarlyEnd::full;
+        return check;
+    };
+    const CapacityRecord changed = badCheck({defect(DefectKind::zeros, 0, 1)});
+    const CapacityRecord unreadable = badCheck({defect(DefectKind::unreadable, 0, 1)});
+    const std::vector<std::pair<CapacityRecord, const char*>> table{
+        {quick(goodCheck(), true),
+         "A quick check writes a few places only. It finds most false capacities in seconds; finding nothing "
+         "proves nothing."},
+        {quick(changed, true),
+         "A quick check writes a few places only: what lies between them was not looked at."},
+        {quick(goodCheck(), false),
+         "This file system sets no space aside without writing it, so the samples could not be spread. The "
+         "result says nothing about the size of the volume: run a check that is not quick."},
+        {quick(stoppedCheck(0), false),
+         "A quick check writes a few places only. It finds most false capacities in seconds; finding nothing "
+         "proves nothing."},
+        {stoppedCheck(31 * gibi), // what the disk had to do is not known
+         "What no check can tell: whether the space under your files is sound, what the drive keeps in "
+         "reserve, and whether a repaired block will last."},
+        {filled(goodCheck()), "Less was checked than planned: other programs may have taken the space."},
+        {filled(changed), "Less was checked than planned: the volume was full too early. It may have lost "
+                          "data of the file system itself."},
+        {falseCheck(31'400'000'000, true),
+         "What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you "
+         "need from it, and do not trust it."},
+        {with(unreadable, [](auto& check) { check.result.circumstances.checksumsData = true; }),
+         "This file system returns nothing that does not match its checksums: changed data cannot be read on "
+         "it."},
+        {unreadable,
+         "What no check can tell: whether the space under your files is sound, what the drive keeps "
+         "in reserve, and whether a repaired block will last."},
+        {with(goodCheck(), [](auto& check) { check.result.read.shareAtDisk = 0.12; }),
+         "Only 12 % of what was read came from the disk. Check more than the machine’s memory can hold."},
+        {with(goodCheck(), [](auto& check) { check.result.read.shareAtDisk.reset(); }),
+         "The disk behind this volume cannot be seen, so what came back may have come from a cache."},
+        {with(goodCheck(), [](auto& check) { check.result.circumstances.reach = FileSystemReach::memory; }),
+         "This volume keeps its files in memory: no disk was checked."},
+        {with(stoppedCheck(0), [](auto& check) { check.result.wrong = 4096; }),
+         "The check was stopped: what it had not read back is not known."},
+    };
+    for (const auto& [check, first] : table) {
+        const QStringList notes = capacityNotes(check);
+        EXPECT_EQ(notes.first().toStdString(), first);
+        EXPECT_TRUE(notes.last().startsWith("What no check can tell: whether the space under your files"));
+    }
+}
+
+TEST(CapacityText, TellsHowTheSamplesLie) {
+    const auto samples = [](const CapacityRecord& check) {
+        for (const CapacityFact& fact : capacityFacts(check))
+            if (fact.label == "Samples")
+                return fact.value.toStdString();
+        return std::string();
+    };
+    CapacityRecord check = goodCheck();
+    EXPECT_EQ(samples(check), "");
+    check.result.quick = {.isSpread = true, .reserved = gibi, .samples = 1030, .spacing = mebi};
+    EXPECT_EQ(samples(check), "1,030, one every 1 MiB");
+    check.result.quick = {.samples = 1};
+    EXPECT_EQ(samples(check), "In one place");
+    check.wasStopped = true; // nobody knows
+    EXPECT_EQ(samples(check), "");
 }
 
 TEST(CapacityText, ReportsInFullWithinTheWidth) {

@@ -5,22 +5,38 @@
 #include <linux/fs.h>
 #include <linux/magic.h>
 #include <sys/ioctl.h>
+#include <sys/utsname.h>
 #include <sys/vfs.h>
+#include <sys/xattr.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstddef>
+#include <cstdio>
 #include <cstring>
+#include <utility>
 
 namespace OndelCore::platform {
 
 namespace {
 
 constexpr std::uint32_t extentsPerCall = 128;
+constexpr unsigned long exfatMagic = 0x2011BAB0; // EXFAT_SUPER_MAGIC; not in the headers
 
 /// 0: unknown.
 unsigned long typeOf(int descriptor) {
     struct statfs facts{};
     return fstatfs(descriptor, &facts) == 0 ? static_cast<unsigned long>(facts.f_type) : 0;
+}
+
+/// Since Linux 6.8 exFAT keeps how much of a file is valid, and fills what it is enlarged by only when
+/// something is written behind it.
+bool enlargesExfatWithoutWriting() {
+    constexpr std::pair since{6, 8};
+    utsname system{};
+    std::pair release{0, 0};
+    return uname(&system) == 0 &&
+           std::sscanf(system.release, "%d.%d", &release.first, &release.second) == 2 && release >= since;
 }
 
 } // namespace
@@ -65,13 +81,21 @@ bool reserveSpace(int descriptor, std::int64_t length) {
         errno = EOPNOTSUPP;
         return false;
     }
-    return fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, length) == 0;
+    if (fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, length) == 0)
+        return true;
+    return errno == EOPNOTSUPP && type == exfatMagic && enlargesExfatWithoutWriting() &&
+           ftruncate(descriptor, length) == 0;
 }
 
 bool lacksSparseFiles(int descriptor) {
-    constexpr unsigned long exfat = 0x2011BAB0; // EXFAT_SUPER_MAGIC; not in the headers
     const unsigned long type = typeOf(descriptor);
-    return type == MSDOS_SUPER_MAGIC || type == exfat;
+    return type == MSDOS_SUPER_MAGIC || type == exfatMagic;
+}
+
+bool spreadsSparseFiles(int descriptor) {
+    // NTFS-3G: a program behind FUSE, which has this attribute alone.
+    return typeOf(descriptor) == FUSE_SUPER_MAGIC &&
+           fgetxattr(descriptor, "system.ntfs_attrib", nullptr, 0) > 0;
 }
 
 void dropFromCache(int descriptor) { posix_fadvise(descriptor, 0, 0, POSIX_FADV_DONTNEED); }
