@@ -151,7 +151,7 @@ QString Language::install(const QString& code) {
     const QString file = qEnvironmentVariable("TARNWICK_CATALOGUE");
     auto* given = new Catalogue(QCoreApplication::instance());
     if (add(given, !file.isEmpty() && given->read(file))) {
-        if (const QString language = given->language(); !language.isEmpty())
+        if (const QString language = given->language(); QLocale(language).language() != QLocale::C)
             chosen = language;
     } else if (chosen != u"en" && !addOwn(chosen))
         chosen = u"en"_s;

@@ -240,7 +240,7 @@ TEST_F(GivenCatalogue, MayBeDamaged) {
                                       "<translation>Y</translation></message>",
                                       "-compress");
     for (qsizetype place = 0; place < whole.size(); ++place)
-        for (const char value : {'\0', '\x7f', '\x80', '\xfe'}) {
+        for (const char value : {'\x7f', '\xfe'}) {
             QByteArray damaged = whole;
             damaged[place] = value;
             const QString said = saysWith(damaged);
