@@ -9,6 +9,7 @@ Card {
 
     required property bool on
     property bool moves: true
+    readonly property bool isMirrored: LayoutMirroring.enabled
     property color activeColor: palette.highlight
     property color idleColor: palette.mid
     property color activeKnob: palette.highlightedText
@@ -20,7 +21,7 @@ Card {
     color: on ? activeColor : idleColor
 
     Card {
-        x: track.on ? track.width - width - 2 : 2
+        x: track.on !== track.isMirrored ? track.width - width - 2 : 2
         anchors.verticalCenter: parent.verticalCenter
         width: 16
         height: 16

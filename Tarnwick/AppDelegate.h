@@ -83,8 +83,8 @@ public:
     /// Adds run files that the user chooses in a dialog.
     Q_INVOKABLE void openRunFile();
 
-    /// Handles a request from outside. Actions: "choose-folder", "open-run-file", "check-capacity" with at most a
-    /// folder's URL, "show-run" with a stored run's id. Fails: false for an unknown action.
+    /// Handles a request from outside. Actions: "choose-folder", "open-run-file", "check-capacity" with at
+    /// most a folder's URL, "show-run" with a stored run's id. Fails: false for an unknown action.
     bool take(const OndelDesktop::OpenRequest& request);
 
     /// Shows the window above others, where the desktop allows it.

@@ -35,6 +35,8 @@ Window {
     color: view.color
     palette: StandardPalettes.current
     PaletteKey.palette: Appearance.palette
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true // menus and sheets too
 
     Component.onCompleted: delegate.setWindow(window)
     onClosing: close => {
@@ -47,6 +49,9 @@ Window {
 
         width: parent.width
         window: window
+        // In a title bar of ours they stand before the title.
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft && !WindowFrames.areOurs
+        LayoutMirroring.childrenInherit: true
     }
     TarnwickView {
         id: view

@@ -21,14 +21,16 @@ Column {
         onCheckedChanged: option.form.attachDiagnostics = checked
     }
     BodyText {
-        x: Metrics.checkIndent
-        width: parent.width - x
+        anchors.left: parent.left
+        anchors.leftMargin: Metrics.checkIndent
+        anchors.right: parent.right
         secondary: true
         font.pixelSize: Metrics.noteSize
         text: qsTr("Recent activity from this session. File names, servers and accounts are replaced with anonymous tokens before anything is written down.")
     }
     LinkButton {
-        x: Metrics.checkIndent
+        anchors.left: parent.left
+        anchors.leftMargin: Metrics.checkIndent
         textSize: Metrics.noteSize
         label: qsTr("View…")
         onClicked: {

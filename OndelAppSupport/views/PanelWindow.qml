@@ -23,6 +23,8 @@ Window {
     maximumHeight: wholeHeight
     flags: Qt.Dialog | (drawsFrame ? Qt.FramelessWindowHint : Qt.WindowTitleHint | Qt.WindowCloseButtonHint)
     color: palette.window
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
 
     /// Opens the window, or brings the open one to the front.
     function show(): void {

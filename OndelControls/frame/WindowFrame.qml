@@ -12,6 +12,9 @@ Item {
     property alias titleHeight: bar.height
     /// The width that the title bar leaves to something else at its beginning.
     property alias titleIndent: bar.x
+    // The buttons stand where those of other windows do.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
     readonly property bool isFloating: window.visibility === Window.Windowed
     readonly property bool isResizable: window.minimumWidth < window.maximumWidth
 

@@ -162,15 +162,15 @@ min %2</source>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>ترويسة الرد أطول مما ينبغي</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد خادوم وكيل يمكن استخدامه</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذر تحميل libcurl.so.4</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min %2</source>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>سعة وحدة التخزين</translation>
     </message>
     <message>
         <source>Close</source>
@@ -793,11 +793,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الاستخدام: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+يفتح محلل سرعة الأقراص ووحدات التخزين، ويختار المجلد الأول، ويعرض ملفات القياس (*.tarnwickrun).
+  --check-capacity  انتقل إلى فحص وحدة التخزين التي فيها ذلك المجلد
+  --choose-folder   اسأل عن مجلد
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ليس مجلدًا ولا ملف قياس يمكن فتحه.</translation>
     </message>
 </context>
 <context>
@@ -845,13 +849,13 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>مقارنة %n قياس أداء</numerusform>
+            <numerusform>مقارنة قياس أداء واحد (%n)</numerusform>
+            <numerusform>مقارنة قياسي أداء (%n)</numerusform>
+            <numerusform>مقارنة %n قياسات أداء</numerusform>
+            <numerusform>مقارنة %n قياس أداء</numerusform>
+            <numerusform>مقارنة %n قياس أداء</numerusform>
         </translation>
     </message>
     <message>
@@ -870,13 +874,13 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>مقارنة %n قياس</numerusform>
+            <numerusform>مقارنة قياس واحد (%n)</numerusform>
+            <numerusform>مقارنة قياسين (%n)</numerusform>
+            <numerusform>مقارنة %n قياسات</numerusform>
+            <numerusform>مقارنة %n قياسًا</numerusform>
+            <numerusform>مقارنة %n قياس</numerusform>
         </translation>
     </message>
     <message>
@@ -2615,13 +2619,13 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>قارن (%n)</numerusform>
+            <numerusform>قارن (%n)</numerusform>
+            <numerusform>قارن (%n)</numerusform>
+            <numerusform>قارن (%n)</numerusform>
+            <numerusform>قارن (%n)</numerusform>
+            <numerusform>قارن (%n)</numerusform>
         </translation>
     </message>
     <message>
@@ -3686,11 +3690,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تجيب النافذة المفتوحة بالفعل؛ وستنفّذ المطلوب حالما تستطيع.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تجيب النافذة المفتوحة بالفعل (العملية %1)؛ وستنفّذ المطلوب حالما تستطيع.</translation>
     </message>
 </context>
 <context>
@@ -3911,13 +3915,13 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>حُذف %n قياس</numerusform>
+            <numerusform>حُذف قياس واحد (%n)</numerusform>
+            <numerusform>حُذف قياسان (%n)</numerusform>
+            <numerusform>حُذفت %n قياسات</numerusform>
+            <numerusform>حُذف %n قياسًا</numerusform>
+            <numerusform>حُذف %n قياس</numerusform>
         </translation>
     </message>
     <message>

@@ -162,15 +162,15 @@ min. %2</translation>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kopf der Antwort ist zu lang</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Proxy ist verwendbar</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>libcurl.so.4 lässt sich nicht laden</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapazität des Datenträgers</translation>
     </message>
     <message>
         <source>Close</source>
@@ -737,11 +737,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+Öffnet die Laufwerks- und Datenträgeranalyse, wählt den ersten Ordner und zeigt Messdateien (*.tarnwickrun).
+  --check-capacity  weiter zur Prüfung des Datenträgers dieses Ordners
+  --choose-folder   nach einem Ordner fragen
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Ordner und keine Messdatei, die sich öffnen lässt.</translation>
     </message>
 </context>
 <context>
@@ -789,9 +793,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Messung verglichen</numerusform>
+            <numerusform>%n Messungen verglichen</numerusform>
         </translation>
     </message>
     <message>
@@ -810,9 +814,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Messung im Vergleich</numerusform>
+            <numerusform>%n Messungen im Vergleich</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,9 +2511,9 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vergleichen</numerusform>
+            <numerusform>%n vergleichen</numerusform>
         </translation>
     </message>
     <message>
@@ -3562,11 +3566,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>das bereits geöffnete Fenster antwortet nicht; es erledigt das Verlangte, sobald es kann.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>das bereits geöffnete Fenster (Prozess %1) antwortet nicht; es erledigt das Verlangte, sobald es kann.</translation>
     </message>
 </context>
 <context>
@@ -3787,9 +3791,9 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Messung gelöscht</numerusform>
+            <numerusform>%n Messungen gelöscht</numerusform>
         </translation>
     </message>
     <message>

@@ -162,15 +162,15 @@ mín. %2</translation>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>El encabezado de la respuesta es demasiado largo</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar ningún proxy</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede cargar libcurl.so.4</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad del volumen</translation>
     </message>
     <message>
         <source>Close</source>
@@ -737,11 +737,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+Abre el analizador de discos y volúmenes, elige la primera carpeta y muestra los archivos de medición (*.tarnwickrun).
+  --check-capacity  pasar a la comprobación del volumen de esa carpeta
+  --choose-folder   preguntar por una carpeta
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es una carpeta ni un archivo de medición que se pueda abrir.</translation>
     </message>
 </context>
 <context>
@@ -789,9 +793,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n medición comparada</numerusform>
+            <numerusform>%n mediciones comparadas</numerusform>
         </translation>
     </message>
     <message>
@@ -810,9 +814,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Comparación de %n medición</numerusform>
+            <numerusform>Comparación de %n mediciones</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,9 +2511,9 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Comparar %n</numerusform>
+            <numerusform>Comparar %n</numerusform>
         </translation>
     </message>
     <message>
@@ -3562,11 +3566,11 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>la ventana que ya está abierta no responde; hará lo solicitado en cuanto pueda.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>la ventana que ya está abierta (proceso %1) no responde; hará lo solicitado en cuanto pueda.</translation>
     </message>
 </context>
 <context>
@@ -3787,9 +3791,9 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n medición eliminada</numerusform>
+            <numerusform>%n mediciones eliminadas</numerusform>
         </translation>
     </message>
     <message>

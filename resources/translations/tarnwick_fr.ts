@@ -162,15 +162,15 @@ min %2</translation>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>L’en-tête de la réponse est trop long</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun proxy n’est utilisable</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger libcurl.so.4</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min %2</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité du volume</translation>
     </message>
     <message>
         <source>Close</source>
@@ -737,11 +737,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation : tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et montre les fichiers de mesure (*.tarnwickrun).
+  --check-capacity  passer à la vérification du volume de ce dossier
+  --choose-folder   demander un dossier
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est ni un dossier ni un fichier de mesure pouvant être ouvert.</translation>
     </message>
 </context>
 <context>
@@ -789,9 +793,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mesure comparée</numerusform>
+            <numerusform>%n mesures comparées</numerusform>
         </translation>
     </message>
     <message>
@@ -810,9 +814,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Comparaison de %n mesure</numerusform>
+            <numerusform>Comparaison de %n mesures</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,9 +2511,9 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Comparer %n</numerusform>
+            <numerusform>Comparer %n</numerusform>
         </translation>
     </message>
     <message>
@@ -3562,11 +3566,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>la fenêtre déjà ouverte ne répond pas ; elle fera ce qui a été demandé dès qu’elle le pourra.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>la fenêtre déjà ouverte (processus %1) ne répond pas ; elle fera ce qui a été demandé dès qu’elle le pourra.</translation>
     </message>
 </context>
 <context>
@@ -3787,9 +3791,9 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mesure supprimée</numerusform>
+            <numerusform>%n mesures supprimées</numerusform>
         </translation>
     </message>
     <message>

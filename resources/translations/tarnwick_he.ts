@@ -162,15 +162,15 @@ min %2</source>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>כותרת התשובה ארוכה מדי</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>אין שרת מתווך שניתן להשתמש בו</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>לא ניתן לטעון את libcurl.so.4</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min %2</source>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>קיבולת הכרך</translation>
     </message>
     <message>
         <source>Close</source>
@@ -737,11 +737,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>שימוש: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+פתיחת מנתח מהירות הדיסקים והכרכים, בחירת התיקייה הראשונה והצגת קובצי הרצה (*.tarnwickrun).
+  --check-capacity  מעבר לבדיקת הכרך של אותה תיקייה
+  --choose-folder   בקשה לבחור תיקייה
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 אינו תיקייה או קובץ הרצה שניתן לפתוח.</translation>
     </message>
 </context>
 <context>
@@ -789,9 +793,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>הושווה מבחן ביצועים אחד (%n)</numerusform>
+            <numerusform>הושוו %n מבחני ביצועים</numerusform>
         </translation>
     </message>
     <message>
@@ -810,9 +814,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>השוואת הרצה אחת (%n)</numerusform>
+            <numerusform>השוואת %n הרצות</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,9 +2511,9 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>השוואת %n</numerusform>
+            <numerusform>השוואת %n</numerusform>
         </translation>
     </message>
     <message>
@@ -3562,11 +3566,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>החלון שכבר פתוח אינו משיב; הוא יבצע את המבוקש ברגע שיוכל.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>החלון שכבר פתוח (תהליך %1) אינו משיב; הוא יבצע את המבוקש ברגע שיוכל.</translation>
     </message>
 </context>
 <context>
@@ -3787,9 +3791,9 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>נמחקה הרצה אחת (%n)</numerusform>
+            <numerusform>נמחקו %n הרצות</numerusform>
         </translation>
     </message>
     <message>

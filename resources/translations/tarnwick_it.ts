@@ -162,15 +162,15 @@ min %2</translation>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>L’intestazione della risposta è troppo lunga</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun proxy utilizzabile</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile caricare libcurl.so.4</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min %2</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità del volume</translation>
     </message>
     <message>
         <source>Close</source>
@@ -737,11 +737,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+Apre l’analizzatore di dischi e volumi, sceglie la prima cartella e mostra i file di misurazione (*.tarnwickrun).
+  --check-capacity  passa al controllo del volume di quella cartella
+  --choose-folder   chiedi una cartella
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è una cartella né un file di misurazione che si possa aprire.</translation>
     </message>
 </context>
 <context>
@@ -789,9 +793,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n misurazione a confronto</numerusform>
+            <numerusform>%n misurazioni a confronto</numerusform>
         </translation>
     </message>
     <message>
@@ -810,9 +814,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Confronto di %n misurazione</numerusform>
+            <numerusform>Confronto di %n misurazioni</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,9 +2511,9 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Confronta %n</numerusform>
+            <numerusform>Confronta %n</numerusform>
         </translation>
     </message>
     <message>
@@ -3562,11 +3566,11 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>la finestra già aperta non risponde; farà ciò che è stato chiesto appena possibile.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>la finestra già aperta (processo %1) non risponde; farà ciò che è stato chiesto appena possibile.</translation>
     </message>
 </context>
 <context>
@@ -3787,9 +3791,9 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n misurazione eliminata</numerusform>
+            <numerusform>%n misurazioni eliminate</numerusform>
         </translation>
     </message>
     <message>

@@ -162,15 +162,15 @@ min %2</source>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>応答のヘッダーが長すぎます</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>使用できるプロキシがありません</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>libcurl.so.4 を読み込めません</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min %2</source>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>ボリュームの容量</translation>
     </message>
     <message>
         <source>Close</source>
@@ -723,11 +723,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>使い方: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+ディスク速度・ボリューム分析ツールを開き、最初のフォルダーを選択し、計測ファイル (*.tarnwickrun) を表示します。
+  --check-capacity  そのフォルダーのボリュームの検査に進む
+  --choose-folder   フォルダーを尋ねる
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は、開くことのできるフォルダーや計測ファイルではありません。</translation>
     </message>
 </context>
 <context>
@@ -775,8 +779,8 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 件のベンチマークを比較</numerusform>
         </translation>
     </message>
     <message>
@@ -795,8 +799,8 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 件の計測を比較中</numerusform>
         </translation>
     </message>
     <message>
@@ -2480,8 +2484,8 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 件を比較</numerusform>
         </translation>
     </message>
     <message>
@@ -3531,11 +3535,11 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>すでに開いているウィンドウが応答しません。指示された操作は、可能になりしだい実行されます。</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>すでに開いているウィンドウ（プロセス %1）が応答しません。指示された操作は、可能になりしだい実行されます。</translation>
     </message>
 </context>
 <context>
@@ -3756,8 +3760,8 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 件の計測を削除しました</numerusform>
         </translation>
     </message>
     <message>

@@ -162,15 +162,15 @@ min %2</source>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>응답 헤더가 너무 깁니다</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>사용할 수 있는 프록시가 없습니다</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>libcurl.so.4를 불러올 수 없습니다</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min %2</source>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>볼륨의 용량</translation>
     </message>
     <message>
         <source>Close</source>
@@ -723,11 +723,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>사용법: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+디스크 속도 및 볼륨 분석기를 열어 첫 번째 폴더를 선택하고 측정 파일(*.tarnwickrun)을 표시합니다.
+  --check-capacity  해당 폴더가 있는 볼륨의 검사로 이동합니다
+  --choose-folder   폴더를 묻습니다
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 열 수 있는 폴더나 측정 파일이 아닙니다.</translation>
     </message>
 </context>
 <context>
@@ -775,8 +779,8 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>벤치마크 %n개 비교</numerusform>
         </translation>
     </message>
     <message>
@@ -795,8 +799,8 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>측정 %n개 비교</numerusform>
         </translation>
     </message>
     <message>
@@ -2480,8 +2484,8 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n개 비교</numerusform>
         </translation>
     </message>
     <message>
@@ -3531,11 +3535,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미 열려 있는 창이 응답하지 않습니다. 가능해지는 대로 요청한 작업을 수행합니다.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미 열려 있는 창(프로세스 %1)이 응답하지 않습니다. 가능해지는 대로 요청한 작업을 수행합니다.</translation>
     </message>
 </context>
 <context>
@@ -3756,8 +3760,8 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>측정 %n개를 삭제했습니다</numerusform>
         </translation>
     </message>
     <message>

@@ -162,15 +162,15 @@ min. %2</translation>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>Nagłówek odpowiedzi jest za długi</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można użyć żadnego serwera proxy</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można załadować libcurl.so.4</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojemność woluminu</translation>
     </message>
     <message>
         <source>Close</source>
@@ -751,11 +751,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Użycie: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i pokazuje pliki pomiarów (*.tarnwickrun).
+  --check-capacity  przechodzi do sprawdzania woluminu tego katalogu
+  --choose-folder   pyta o katalog
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nie jest katalogiem ani plikiem pomiaru, który można otworzyć.</translation>
     </message>
 </context>
 <context>
@@ -803,10 +807,10 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Porównano %n pomiar</numerusform>
+            <numerusform>Porównano %n pomiary</numerusform>
+            <numerusform>Porównano %n pomiarów</numerusform>
         </translation>
     </message>
     <message>
@@ -825,10 +829,10 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Porównanie %n pomiaru</numerusform>
+            <numerusform>Porównanie %n pomiarów</numerusform>
+            <numerusform>Porównanie %n pomiarów</numerusform>
         </translation>
     </message>
     <message>
@@ -2534,10 +2538,10 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Porównaj (%n)</numerusform>
+            <numerusform>Porównaj (%n)</numerusform>
+            <numerusform>Porównaj (%n)</numerusform>
         </translation>
     </message>
     <message>
@@ -3593,11 +3597,11 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>otwarte już okno nie odpowiada; wykona to, o co poproszono, gdy tylko będzie mogło.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>otwarte już okno (proces %1) nie odpowiada; wykona to, o co poproszono, gdy tylko będzie mogło.</translation>
     </message>
 </context>
 <context>
@@ -3818,10 +3822,10 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Usunięto %n pomiar</numerusform>
+            <numerusform>Usunięto %n pomiary</numerusform>
+            <numerusform>Usunięto %n pomiarów</numerusform>
         </translation>
     </message>
     <message>

@@ -162,15 +162,15 @@ mín. %2</translation>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>O cabeçalho da resposta é longo demais</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum proxy pode ser usado</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível carregar libcurl.so.4</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidade do volume</translation>
     </message>
     <message>
         <source>Close</source>
@@ -737,11 +737,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arquivos de medição (*.tarnwickrun).
+  --check-capacity  passa à verificação do volume dessa pasta
+  --choose-folder   pede uma pasta
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não é uma pasta nem um arquivo de medição que possa ser aberto.</translation>
     </message>
 </context>
 <context>
@@ -789,9 +793,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n medição comparada</numerusform>
+            <numerusform>%n medições comparadas</numerusform>
         </translation>
     </message>
     <message>
@@ -810,9 +814,9 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Comparando %n medição</numerusform>
+            <numerusform>Comparando %n medições</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,9 +2511,9 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Comparar (%n)</numerusform>
+            <numerusform>Comparar (%n)</numerusform>
         </translation>
     </message>
     <message>
@@ -3562,11 +3566,11 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>a janela que já está aberta não responde; ela fará o que foi pedido assim que puder.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>a janela que já está aberta (processo %1) não responde; ela fará o que foi pedido assim que puder.</translation>
     </message>
 </context>
 <context>
@@ -3787,9 +3791,9 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n medição excluída</numerusform>
+            <numerusform>%n medições excluídas</numerusform>
         </translation>
     </message>
     <message>

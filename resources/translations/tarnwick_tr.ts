@@ -162,15 +162,15 @@ en düşük %2</translation>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>Yanıtın üst bilgisi çok uzun</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Kullanılabilecek bir vekil sunucu yok</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>libcurl.so.4 yüklenemiyor</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ en düşük %2</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Birimin kapasitesi</translation>
     </message>
     <message>
         <source>Close</source>
@@ -723,11 +723,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kullanım: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+Disk hızı ve birim çözümleyicisini açar, ilk klasörü seçer ve ölçüm dosyalarını (*.tarnwickrun) gösterir.
+  --check-capacity  o klasörün biriminin denetimine geçer
+  --choose-folder   bir klasör sorar
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, açılabilecek bir klasör veya ölçüm dosyası değil.</translation>
     </message>
 </context>
 <context>
@@ -775,8 +779,8 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ölçüm karşılaştırıldı</numerusform>
         </translation>
     </message>
     <message>
@@ -795,8 +799,8 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ölçüm karşılaştırılıyor</numerusform>
         </translation>
     </message>
     <message>
@@ -2480,8 +2484,8 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Karşılaştır (%n)</numerusform>
         </translation>
     </message>
     <message>
@@ -3531,11 +3535,11 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>zaten açık olan pencere yanıt vermiyor; isteneni yapabildiği anda yapacak.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>zaten açık olan pencere (süreç %1) yanıt vermiyor; isteneni yapabildiği anda yapacak.</translation>
     </message>
 </context>
 <context>
@@ -3756,8 +3760,8 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ölçüm silindi</numerusform>
         </translation>
     </message>
     <message>

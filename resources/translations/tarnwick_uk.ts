@@ -162,15 +162,15 @@ min %2</source>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>Заголовок відповіді задовгий</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Немає доступного проксі-сервера</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося завантажити libcurl.so.4</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min %2</source>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Місткість тому</translation>
     </message>
     <message>
         <source>Close</source>
@@ -751,11 +751,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Використання: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+Відкриває аналізатор швидкості дисків і томів, вибирає першу теку й показує файли вимірювань (*.tarnwickrun).
+  --check-capacity  перейти до перевірки тому цієї теки
+  --choose-folder   запитати теку
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 — не тека і не файл вимірювання, який можна відкрити.</translation>
     </message>
 </context>
 <context>
@@ -803,10 +807,10 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Порівняно %n вимірювання</numerusform>
+            <numerusform>Порівняно %n вимірювання</numerusform>
+            <numerusform>Порівняно %n вимірювань</numerusform>
         </translation>
     </message>
     <message>
@@ -825,10 +829,10 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Порівняння %n вимірювання</numerusform>
+            <numerusform>Порівняння %n вимірювань</numerusform>
+            <numerusform>Порівняння %n вимірювань</numerusform>
         </translation>
     </message>
     <message>
@@ -2534,10 +2538,10 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Порівняти (%n)</numerusform>
+            <numerusform>Порівняти (%n)</numerusform>
+            <numerusform>Порівняти (%n)</numerusform>
         </translation>
     </message>
     <message>
@@ -3593,11 +3597,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>уже відкрите вікно не відповідає; воно виконає запитане, щойно зможе.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>уже відкрите вікно (процес %1) не відповідає; воно виконає запитане, щойно зможе.</translation>
     </message>
 </context>
 <context>
@@ -3818,10 +3822,10 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Вилучено %n вимірювання</numerusform>
+            <numerusform>Вилучено %n вимірювання</numerusform>
+            <numerusform>Вилучено %n вимірювань</numerusform>
         </translation>
     </message>
     <message>

@@ -162,15 +162,15 @@ min %2</source>
     </message>
     <message>
         <source>The answer&apos;s head is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>应答的标头过长</translation>
     </message>
     <message>
         <source>No proxy can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可用的代理</translation>
     </message>
     <message>
         <source>libcurl.so.4 cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载 libcurl.so.4</translation>
     </message>
     <message>
         <source>The report can’t be sent from this sandbox, which has no network.</source>
@@ -261,7 +261,7 @@ min %2</source>
     </message>
     <message>
         <source>Capacity of the volume</source>
-        <translation type="unfinished"></translation>
+        <translation>卷的容量</translation>
     </message>
     <message>
         <source>Close</source>
@@ -723,11 +723,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>用法：tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+打开磁盘速度与卷分析工具，选中第一个文件夹，并显示记录文件 (*.tarnwickrun)。
+  --check-capacity  转到该文件夹所在卷的检查
+  --choose-folder   询问要使用的文件夹
+</translation>
     </message>
     <message>
         <source>%1 is not a folder or a run file that can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是可以打开的文件夹或记录文件。</translation>
     </message>
 </context>
 <context>
@@ -775,8 +779,8 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message numerus="yes">
         <source>%n benchmarks compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已比较 %n 次基准测试</numerusform>
         </translation>
     </message>
     <message>
@@ -795,8 +799,8 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>ComparisonPane</name>
     <message numerus="yes">
         <source>Comparing %n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>正在比较 %n 条记录</numerusform>
         </translation>
     </message>
     <message>
@@ -2480,8 +2484,8 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>Compare %n</source>
         <extracomment>Button: compares so many chosen runs</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>比较 %n 条</numerusform>
         </translation>
     </message>
     <message>
@@ -3531,11 +3535,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开的窗口没有应答；它会尽快执行所请求的操作。</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开的窗口（进程 %1）没有应答；它会尽快执行所请求的操作。</translation>
     </message>
 </context>
 <context>
@@ -3756,8 +3760,8 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>UndoNote</name>
     <message numerus="yes">
         <source>%n runs deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已删除 %n 条记录</numerusform>
         </translation>
     </message>
     <message>

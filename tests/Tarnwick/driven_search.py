@@ -121,7 +121,9 @@ def opens_the_window(shell):
 def ends_by_itself(shell):
     first = shell.process()
     check(first, "the bus did not start it")
+    end = time.monotonic() + driver.GUARD_SECONDS
     while shell.process():
+        check(time.monotonic() < end, "it stays")
         time.sleep(0.2)
     check(shell.search("backup") == ids(1) and shell.process() not in (None, first), "it is not started again")
 

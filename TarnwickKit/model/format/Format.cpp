@@ -1,5 +1,7 @@
 #include "TarnwickKit/model/format/Format.h"
 
+#include "TarnwickKit/model/language/Language.h"
+
 #include <QtGlobal>
 
 #include <unicode/dtptngen.h>
@@ -245,6 +247,12 @@ QString Formatter::runStamp(const QDateTime& date, double durationSeconds) const
 
 QString Formatter::dateAndTime(const QDateTime& date) const {
     return m_icu->stamp(&Icu::Dates::dateAndTime, m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime());
+}
+
+QString Format::leftToRight(const QString& figure) {
+    constexpr QChar leftToRightIsolate(0x2066);
+    constexpr QChar popDirectionalIsolate(0x2069);
+    return Language::isRightToLeft() ? leftToRightIsolate + figure + popDirectionalIsolate : figure;
 }
 
 } // namespace TarnwickKit::model

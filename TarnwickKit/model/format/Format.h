@@ -73,17 +73,21 @@ private:
     std::unique_ptr<Icu> m_icu;
 };
 
-/// The user's formatter.
+/// The user's formatter, for texts of the user's language.
 namespace Format {
+
+/// A figure with its unit for a text that is written from right to left: the unit stays behind the figure.
+/// Other texts get it as it is.
+ONDEL_PUBLIC QString leftToRight(const QString& figure);
 
 /// As the user's formatter has it.
 ///@{
-inline QString block(std::int64_t bytes) { return Formatter::user().block(bytes); }
-inline QString bytes(std::int64_t bytes) { return Formatter::user().bytes(bytes); }
+inline QString block(std::int64_t bytes) { return leftToRight(Formatter::user().block(bytes)); }
+inline QString bytes(std::int64_t bytes) { return leftToRight(Formatter::user().bytes(bytes)); }
 inline QString mbValue(double bytesPerSecond) { return Formatter::user().mbValue(bytesPerSecond); }
 inline QString compact(double value) { return Formatter::user().compact(value); }
-inline QString rate(double bytesPerSecond) { return Formatter::user().rate(bytesPerSecond); }
-inline QString latency(double seconds) { return Formatter::user().latency(seconds); }
+inline QString rate(double bytesPerSecond) { return leftToRight(Formatter::user().rate(bytesPerSecond)); }
+inline QString latency(double seconds) { return leftToRight(Formatter::user().latency(seconds)); }
 inline QString grouped(double value) { return Formatter::user().grouped(value); }
 inline QString decimals(double value, int digits) { return Formatter::user().decimals(value, digits); }
 inline QString shortStamp(const QDateTime& date) { return Formatter::user().shortStamp(date); }

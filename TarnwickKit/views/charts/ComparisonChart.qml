@@ -31,6 +31,7 @@ Column {
     FlowLayout {
         width: chart.room
         spacing: 16
+        mirrored: LayoutMirroring.enabled
 
         Repeater {
             model: chart.runs.entries

@@ -49,16 +49,16 @@ ColumnLayout {
     Row {
         id: line
 
-        Layout.fillWidth: true
         Layout.leftMargin: ViewMetrics.figurePadding
         Layout.rightMargin: ViewMetrics.figurePadding
         Layout.bottomMargin: extremes.visible ? 0 : ViewMetrics.figureMargin
+        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight // mirrored once more: a unit stands behind its figure
         spacing: 6
 
         PlainText {
             id: figure
 
-            width: Math.min(implicitWidth, line.width - unit.width - line.spacing - (stat.isMarked ? ViewMetrics.markSide + line.spacing : 0))
+            width: Math.min(implicitWidth, stat.width - 2 * ViewMetrics.figurePadding - unit.width - line.spacing - (stat.isMarked ? ViewMetrics.markSide + line.spacing : 0))
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 9
             text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)

@@ -59,8 +59,9 @@ Item {
         }
 
         Symbol { // in the space beside the title, so that nothing moves when it is shown
-            x: button.width + 1
-            y: (button.height - height) / 2
+            anchors.left: parent.right
+            anchors.leftMargin: 1
+            anchors.verticalCenter: parent.verticalCenter
             name: "pencil"
             size: 11
             color: PaletteKey.palette.text3
@@ -71,8 +72,10 @@ Item {
         active: title.isEditing
 
         TextLine {
-            x: -leftPadding // the text stays where the title was
+            anchors.left: parent?.left
+            anchors.leftMargin: -leftPadding // the text stays where the title was
             leftPadding: 5
+            rightPadding: 5
             y: Math.round((title.height - height) / 2)
             width: Math.min(title.fieldWidth, title.room)
             font: Typeface.display(16)

@@ -17,6 +17,7 @@ Item {
         id: line
 
         anchors.verticalCenter: parent.verticalCenter
+        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight // mirrored once more: a unit stands behind its figure
         spacing: 6
 
         PlainText {

@@ -29,6 +29,7 @@ CardFoot {
             return ViewMath.spacingInLine(width, taken, each.count, 22, 12);
         }
         lineSpacing: 8
+        mirrored: LayoutMirroring.enabled
 
         Repeater {
             id: each

@@ -18,6 +18,7 @@ Column {
     Accessible.name: label + ": " + Runs.spoken(figure.text + " MB/s", isMarked)
 
     Row {
+        anchors.left: parent.left
         spacing: 6
 
         Card {
@@ -35,6 +36,8 @@ Column {
         }
     }
     Row {
+        anchors.left: parent.left
+        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight // mirrored once more: a unit stands behind its figure
         spacing: 3
 
         PlainText {

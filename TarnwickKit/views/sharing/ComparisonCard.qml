@@ -20,7 +20,8 @@ ImageCard {
         Brand {
             id: brand
 
-            x: ViewMetrics.cardPadding
+            anchors.left: parent.left
+            anchors.leftMargin: ViewMetrics.cardPadding
             y: 15
             nameSize: 16
             link: card.link

@@ -82,7 +82,9 @@ ImageCard {
                 color: PaletteKey.palette.borderSoft
             }
             MarkedLine {
+                width: card.width - 2 * card.margin
                 leftPadding: ViewMetrics.figurePadding
+                rightPadding: ViewMetrics.figurePadding
                 topPadding: 11
                 bottomPadding: 11
                 words: card.facts.markedLine

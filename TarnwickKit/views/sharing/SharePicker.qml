@@ -14,7 +14,7 @@ PopupMenu {
     required property comparedRuns runs
 
     parent: button
-    x: button.width - width
+    x: button.mirrored ? 0 : button.width - width
     y: button.height + Metrics.menuGap
 
     PopupMenuItem {

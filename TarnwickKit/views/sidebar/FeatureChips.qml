@@ -11,6 +11,7 @@ FlowLayout {
     required property TargetFacts target
 
     spacing: 6
+    mirrored: LayoutMirroring.enabled
 
     Repeater {
         model: chips.target.features

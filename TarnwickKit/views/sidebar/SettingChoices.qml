@@ -12,7 +12,7 @@ PopupMenu {
     required property SettingMenu setting
 
     parent: button
-    x: button.width - width
+    x: button.mirrored ? 0 : button.width - width
     y: button.height + Metrics.menuGap
     onAboutToShow: (contentItem as ListView).forceLayout()
     onOpened: currentIndex = setting.current

@@ -52,6 +52,14 @@ void FlowLayout::setLineSpacing(double spacing) {
     Q_EMIT spacingChanged();
 }
 
+void FlowLayout::setMirrored(bool mirrored) {
+    if (mirrored == m_isMirrored)
+        return;
+    m_isMirrored = mirrored;
+    polish();
+    Q_EMIT spacingChanged();
+}
+
 void FlowLayout::follow(QQuickItem* child) {
     connect(child, &QQuickItem::widthChanged, this, &QQuickItem::polish);
     connect(child, &QQuickItem::heightChanged, this, &QQuickItem::polish);
@@ -85,8 +93,12 @@ void FlowLayout::updatePolish() {
             sizes.push_back(child->size());
         }
     const Flow flow = flowLayout(sizes, width(), m_spacing, m_lineSpacing);
-    for (std::size_t i = 0; i < children.size(); ++i)
-        children[i]->setPosition(flow.places[static_cast<qsizetype>(i)]);
+    for (std::size_t i = 0; i < children.size(); ++i) {
+        QPointF place = flow.places[static_cast<qsizetype>(i)];
+        if (m_isMirrored)
+            place.setX(width() - place.x() - sizes[i].width());
+        children[i]->setPosition(place);
+    }
     setImplicitHeight(flow.height);
 }
 

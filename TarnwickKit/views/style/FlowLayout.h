@@ -29,6 +29,8 @@ class FlowLayout : public QQuickItem {
     Q_PROPERTY(double spacing READ spacing WRITE setSpacing NOTIFY spacingChanged)
     /// Between lines; equals `spacing` until it is set.
     Q_PROPERTY(double lineSpacing READ lineSpacing WRITE setLineSpacing NOTIFY spacingChanged)
+    /// Lines begin at the right.
+    Q_PROPERTY(bool mirrored READ isMirrored WRITE setMirrored NOTIFY spacingChanged)
 
 public:
     /// The implicit width.
@@ -40,6 +42,8 @@ public:
     void setSpacing(double spacing);
     double lineSpacing() const { return m_lineSpacing.value_or(m_spacing); }
     void setLineSpacing(double spacing);
+    bool isMirrored() const { return m_isMirrored; }
+    void setMirrored(bool mirrored);
     Q_SIGNAL void spacingChanged();
 
 protected:
@@ -52,6 +56,7 @@ private:
 
     double m_spacing = 0;
     std::optional<double> m_lineSpacing;
+    bool m_isMirrored = false;
 };
 
 } // namespace TarnwickKit::views

@@ -162,10 +162,10 @@ TEST_F(AnalyzerModelRuns, ShowsAStoredRun) {
     const QUuid first = complete();
     const QUuid second = complete();
     HistoryStore other(engine.history.path());
-    other.add(fullRun(2));
-    const QUuid others = fullRun(2).id;
+    const RunRecord others = fullRun(2);
+    other.add(others);
     model.setShowsCheck(true);
-    for (const QUuid& id : {first, others, first, second}) {
+    for (const QUuid& id : {first, others.id, first, second}) {
         model.setCurrentRunCollapsed(true);
         model.showRun(id);
         ASSERT_TRUE(model.currentRun());

@@ -252,7 +252,7 @@ TEST_F(AnalyzerModelTarget, OpensTheCheckOfAFolder) {
     EXPECT_FALSE(model.showsCheck());
     dialogs.answer = "/tmp";
     model.openCheck();
-    EXPECT_EQ(model.targetFolder(), "/tmp");
+    ASSERT_EQ(model.targetFolder(), "/tmp");
     EXPECT_TRUE(model.showsCheck());
     model.setShowsCheck(false);
     model.openCheck();

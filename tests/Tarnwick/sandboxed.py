@@ -1,0 +1,259 @@
+#!/usr/bin/python3
+"""The programs in a sandbox as Flatpak makes one from packaging/flatpak: a root folder of its own, no device files, no udev, no network,
+buses that let through what the manifest names. Usage: sandboxed.py WINDOW-PROGRAM TERMINAL-PROGRAM [CASE]..."""
+
+import contextlib
+import json
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+
+import driver
+from driven_requests import child, desktop_of, hears_of
+from driven_window import nothing_left
+from driver import check
+
+NAME = "tools.ondel.tarnwick"
+REFUSED = "Couldn’t write there. The volume may be read-only, or the folder may not allow it."
+DESCRIPTION = f"[Application]\nname={NAME}\n\n[Context]\nshared=ipc;\nsockets=wayland;fallback-x11;\nfilesystems=host;\n"
+SESSION_BUS = ["--filter", f"--own={NAME}", f"--own={NAME}.*", "--call=org.freedesktop.portal.*=*",
+               "--broadcast=org.freedesktop.portal.*=@/org/freedesktop/portal/*"]
+SYSTEM_BUS = ["--filter", "--talk=org.freedesktop.UDisks2"]
+UDISKS = "org.freedesktop.UDisks2"
+CONTROLLER = f"{UDISKS}.NVMe.Controller"
+INTERFACES = f"""<node>
+<interface name="org.freedesktop.DBus.ObjectManager">
+  <method name="GetManagedObjects"><arg type="a{{oa{{sa{{sv}}}}}}" direction="out"/></method>
+</interface>
+<interface name="org.freedesktop.DBus.Properties">
+  <method name="GetAll"><arg type="s" direction="in"/><arg type="a{{sv}}" direction="out"/></method>
+</interface>
+<interface name="{CONTROLLER}">
+  <method name="SmartUpdate"><arg type="a{{sv}}" direction="in"/></method>
+  <method name="SmartGetAttributes"><arg type="a{{sv}}" direction="in"/><arg type="a{{sv}}" direction="out"/></method>
+</interface></node>"""
+
+
+def folders():
+    """The host's folders that a sandbox has at their own places."""
+    own = {"app", "bin", "boot", "dev", "etc", "proc", "root", "run", "sbin", "sys", "tmp", "usr", "var"}
+    for folder in sorted(pathlib.Path("/").iterdir()):
+        if folder.is_dir() and not folder.is_symlink() and folder.name not in own and not folder.name.startswith("lib"):
+            yield str(folder)
+
+
+class Sandbox:
+    """What is started in it. `sysfs`: a folder that it has for the device tree."""
+
+    def __init__(self, folder, sysfs="/sys"):
+        home = os.environ["HOME"]
+        (description := folder / "description").write_text(DESCRIPTION)
+        self.words = ["bwrap", "--unshare-user", "--unshare-pid", "--unshare-ipc", "--unshare-net", "--cap-drop", "ALL", "--new-session",
+                      "--die-with-parent", "--clearenv", "--proc", "/proc", "--dev", "/dev", "--dir", "/tmp", "--dir", "/var/tmp"]
+        for name in ("lib", "lib32", "lib64", "bin", "sbin"):
+            if os.path.islink(f"/{name}"):
+                self.words += ["--symlink", os.readlink(f"/{name}"), f"/{name}"]
+        for part in ("block", "bus", "class", "dev", "devices"):
+            if os.path.exists(f"{sysfs}/{part}"):
+                self.words += ["--ro-bind", f"{sysfs}/{part}", f"/sys/{part}"]
+        for path in folders():
+            self.words += ["--bind", path, path]
+        for path, place in (("/usr", "/usr"), ("/etc", "/etc"), ("/usr", "/run/host/usr"), ("/usr/lib/os-release", "/run/host/os-release"),
+                            (pathlib.Path(sys.argv[1]).parent, "/app/bin"), (description, "/.flatpak-info")):
+            self.words += ["--ro-bind", str(path), place]
+        self.words += ["--bind", home, home]
+        self.set(HOME=home, PATH="/app/bin:/usr/bin", FLATPAK_ID=NAME, container="flatpak", LC_ALL="C.UTF-8",
+                 DBUS_SYSTEM_BUS_ADDRESS="unix:path=/run/dbus/system_bus_socket", XDG_RUNTIME_DIR="/run/user/1")
+        for kind in ("data", "config", "cache", "state"):
+            self.set(**{f"XDG_{kind.upper()}_HOME": f"{home}/.var/app/{NAME}/{kind}"})
+        self.words += ["--dir", "/run/user/1"]
+
+    def set(self, **variables):
+        for name, value in variables.items():
+            self.words += ["--setenv", name, value]
+
+    def bind(self, path, place=None):
+        self.words += ["--bind", str(path), str(place or path)]
+
+    def command(self, *words):
+        return [*self.words, "--remount-ro", "/", *map(str, words)]
+
+    def tells(self, *words):
+        """Exit status, output and complaints of the terminal program."""
+        done = subprocess.run(self.command("tarnwick-host", *words), capture_output=True, text=True)
+        return done.returncode, done.stdout, done.stderr
+
+
+@contextlib.contextmanager
+def filtered(address, rules):
+    """A socket at which xdg-dbus-proxy answers for a bus."""
+    with tempfile.TemporaryDirectory(prefix="ondel-bus-") as folder:
+        socket = pathlib.Path(folder, "bus")
+        with subprocess.Popen(["xdg-dbus-proxy", address, socket, *rules]) as proxy:
+            try:
+                end = time.monotonic() + driver.GUARD_SECONDS
+                while not socket.exists():
+                    check(proxy.poll() is None and time.monotonic() < end, "xdg-dbus-proxy does not start")
+                    time.sleep(0.02)
+                yield socket
+            finally:
+                proxy.terminate()
+
+
+class Health:
+    """UDisks2 with one drive that is behind a device, on the session bus, which serves as the system's."""
+
+    def __init__(self, device):
+        from gi.repository import Gio, GLib
+        self.glib = GLib
+        self.drive = {"SmartUpdated": GLib.Variant("t", int(time.time())), "SmartCriticalWarning": GLib.Variant("as", []),
+                      "SmartTemperature": GLib.Variant("q", 311), "SmartPowerOnHours": GLib.Variant("t", 1234)}
+        self.block = {"DeviceNumber": GLib.Variant("t", device), "Drive": GLib.Variant("o", "/org/freedesktop/UDisks2/drives/D")}
+        self.loop = GLib.MainLoop(GLib.MainContext())
+        self.thread = threading.Thread(target=self.serve, args=(Gio, threading.Event()), daemon=True)
+        self.ready = self.thread._args[1]
+        self.thread.start()
+        check(self.ready.wait(driver.GUARD_SECONDS), "the health service does not start")
+
+    def serve(self, gio, ready):
+        context = self.loop.get_context()
+        context.push_thread_default()
+        address = gio.dbus_address_get_for_bus_sync(gio.BusType.SESSION)
+        flags = gio.DBusConnectionFlags
+        self.bus = gio.DBusConnection.new_for_address_sync(address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION)
+        node = gio.DBusNodeInfo.new_for_xml(INTERFACES)
+        for path, *names in (("/org/freedesktop/UDisks2", "org.freedesktop.DBus.ObjectManager"),
+                             ("/org/freedesktop/UDisks2/drives/D", "org.freedesktop.DBus.Properties", CONTROLLER)):
+            for name in names:
+                self.bus.register_object(path, node.lookup_interface(name), self.called, None, None)
+        gio.bus_own_name_on_connection(self.bus, UDISKS, gio.BusNameOwnerFlags.NONE, lambda *_: ready.set(), None)
+        self.loop.run()
+
+    def called(self, _bus, _sender, _path, _interface, method, _arguments, invocation):
+        variant = self.glib.Variant
+        answers = {"GetManagedObjects": lambda: variant("(a{oa{sa{sv}}})", ({
+            "/org/freedesktop/UDisks2/block_devices/b": {f"{UDISKS}.Block": self.block},
+            "/org/freedesktop/UDisks2/drives/D": {f"{UDISKS}.Drive": {}, CONTROLLER: self.drive}},)),
+            "GetAll": lambda: variant("(a{sv})", (self.drive,)),
+            "SmartUpdate": lambda: None,
+            "SmartGetAttributes": lambda: variant("(a{sv})", ({"percent_used": variant("y", 7)},))}
+        invocation.return_value(answers[method]())
+
+    def end(self):
+        self.loop.quit()
+        self.thread.join()
+        self.bus.close_sync()
+
+
+def measures_and_leaves_nothing(folder):
+    (target := folder / "measured").mkdir()
+    status, told, complaints = Sandbox(folder).tells("run", "--size", "64M", "--json", target)
+    check((status, complaints) == (0, ""), f"it ends with {status}: {complaints}")
+    tests = json.loads(told)["tests"] if "tests" in json.loads(told) else json.loads(told)
+    check(len(tests) >= 5, f"it has measured {tests}")
+    nothing_left(target)
+
+
+def shows_the_volumes_of_people(folder):
+    status, told, complaints = Sandbox(folder).tells("volumes")
+    places = {line.split()[-1] for line in told.splitlines()[1:]}
+    check((status, complaints) == (0, ""), f"it ends with {status}: {complaints}")
+    check(not places & {"/", "/app", "/usr", "/opt", "/mnt", "/srv", "/var/tmp"}, f"it lists {places}")
+
+
+def refuses_what_is_read_only(folder):
+    for place in ("/", "/usr", "/app/bin"):
+        ended = Sandbox(folder).tells("run", "--size", "64M", place)
+        check(ended == (1, "", REFUSED + "\n"), f"on {place} it ends with {ended}")
+
+
+@contextlib.contextmanager
+def disk(folder):
+    """A mounted file system and its device number."""
+    image, place = folder / "image", folder / "disk"
+    place.mkdir()
+    with open(image, "wb") as file:
+        file.truncate(16 << 20)
+    subprocess.run(["mkfs.ext4", "-q", image], check=True)
+    subprocess.run(["mount", "-o", "loop", image, place], check=True)
+    try:
+        yield place, os.stat(place).st_dev
+    finally:
+        subprocess.run(["umount", place], check=True)
+
+
+def device_tree(folder, device):
+    """One NVMe drive with the number of a device, as the kernel shows it."""
+    number = f"{os.major(device)}:{os.minor(device)}"
+    tree = folder / "sys"
+    drive = tree / "devices/nvme0/nvme0n1"
+    for path in (drive, tree / "class/nvme", tree / "class/block", tree / "dev/block"):
+        path.mkdir(parents=True)
+    (drive / "dev").write_text(number + "\n")
+    (drive / "device").symlink_to("..")
+    (drive.parent / "subsystem").symlink_to("../../class/nvme")
+    for link in (tree / "dev/block" / number, tree / "class/block/nvme0n1"):
+        link.symlink_to("../../devices/nvme0/nvme0n1")
+    return str(tree)
+
+
+def reads_health_through_udisks(folder):
+    if os.getuid() != 0 or not os.path.exists("/dev/loop-control"):
+        print("  skipped: needs root and loop devices")
+        return
+    with disk(folder) as (place, device), filtered(os.environ["DBUS_SESSION_BUS_ADDRESS"], SYSTEM_BUS) as bus:
+        sandbox = Sandbox(folder, device_tree(folder, device))
+        sandbox.bind(place)
+        status, told, complaints = sandbox.tells("facts", place)
+        check(status == 0 and "nvme0n1 is out of this process's reach, and UDisks2 does not answer" in " ".join(told.split()),
+              f"without a service: {status} {told} {complaints}")
+        sandbox.bind(bus, "/run/dbus/system_bus_socket")
+        health = Health(device)
+        try:
+            status, told, complaints = sandbox.tells("facts", place)
+        finally:
+            health.end()
+        words = " ".join(told.split())
+        check((status, complaints) == (0, "") and "UDisks2 for nvme0n1" in words and "Life used 7%" in words, f"{status} {told} {complaints}")
+
+
+def asks_the_portals(folder):
+    """Not through the accessibility tree: programs are known there by their numbers, which are others inside of a sandbox."""
+    with desktop_of(2, "files") as desktop, filtered(os.environ["DBUS_SESSION_BUS_ADDRESS"], SESSION_BUS) as bus:
+        told = hears_of(desktop)
+        told("ready")
+        sandbox = Sandbox(folder)
+        sandbox.bind(bus, "/run/flatpak/bus")
+        sandbox.bind("/tmp/.X11-unix")
+        sandbox.set(DBUS_SESSION_BUS_ADDRESS="unix:path=/run/flatpak/bus", DISPLAY=os.environ["DISPLAY"], QT_QPA_PLATFORM="xcb")
+        with child(*sandbox.command("tarnwick", folder)):
+            driver.focus(driver.MAIN)
+            driver.display.press("ctrl+o")
+            question = json.loads(told("asked").removeprefix("asked "))
+            check(question["directory"] and question["parent"].startswith("x11:"), f"asked {question}")
+
+
+def obstacle():
+    """Why no sandbox can be made here; absent: it can."""
+    with tempfile.TemporaryDirectory() as name:
+        try:
+            done = subprocess.run(Sandbox(pathlib.Path(name)).command("true"), capture_output=True, text=True)
+        except FileNotFoundError:
+            return "bwrap is not installed"
+    return done.stderr.strip() if done.returncode else None
+
+
+if __name__ == "__main__":
+    driver.enter_display()
+    if why := obstacle():
+        print("skipped, no sandbox can be made here:", why)
+        sys.exit(driver.SKIP)
+    cases = (measures_and_leaves_nothing, shows_the_volumes_of_people, refuses_what_is_read_only, reads_health_through_udisks,
+             asks_the_portals)
+    for case in driver.chosen(cases, sys.argv[3:]):
+        with tempfile.TemporaryDirectory(prefix="ondel-sandbox-", dir=os.environ["HOME"]) as name:
+            case(pathlib.Path(name))
