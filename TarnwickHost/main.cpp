@@ -7,6 +7,7 @@
 #include "TarnwickHost/Terminal.h"
 #include "TarnwickKit/model/language/Language.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 
 #include <unistd.h>
@@ -30,12 +31,22 @@ constexpr std::string_view program = "tarnwick-host";
 constexpr std::array commands{&runCommand,  &checkCommand, &showCommand,    &historyCommand,
                               &cardCommand, &factsCommand, &volumesCommand, &smartReportCommand};
 
+/// Whether the user's locale has this encoding by its name.
+bool isNamedUtf8() {
+    for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"})
+        if (const QByteArray locale = qgetenv(variable).toLower(); !locale.isEmpty())
+            return locale.contains(".utf-8") || locale.contains(".utf8");
+    return false;
+}
+
 /// The character encoding only: numbers and dates look up the locale themselves, and what the system says of
-/// errors stays as scripts and JSON have it.
+/// errors stays as scripts and JSON have it. That of a locale that is not installed, as after a login from
+/// another machine, is in its name.
 void takeEncoding() {
     // NOLINTBEGIN(concurrency-mt-unsafe): no other thread runs yet.
     std::setlocale(LC_ALL, "C");
-    std::setlocale(LC_CTYPE, "");
+    if (std::setlocale(LC_CTYPE, "") == nullptr && isNamedUtf8())
+        std::setlocale(LC_CTYPE, "C.UTF-8");
     // NOLINTEND(concurrency-mt-unsafe)
 }
 

@@ -116,6 +116,15 @@ class Languages(unittest.TestCase):
             plain = self.call(*command.split(), "--help", language="ja", locale="C")
             self.assertEqual((plain.stdout, plain.stderr), (self.call(*command.split(), "--help").stdout, ""))
 
+    def test_locale_that_is_not_installed_has_its_language_and_encoding(self):
+        shown = {}
+        for locale in ("xx_YY.UTF-8", "de_LU.UTF-8", "de_LU.utf8@nonsense", "de_LU.ISO-8859-1", "de_LU"):
+            environment = {"PATH": os.environ["PATH"], "HOME": self.folder.name, "LANG": locale}
+            told = subprocess.run([PROGRAM, "facts", "/"], env=environment, capture_output=True, text=True, check=True, timeout=600)
+            self.assertEqual(told.stderr, "")
+            shown[locale] = "Blockgröße" in told.stdout
+        self.assertEqual(list(shown.values()), [False, True, True, False, False])
+
 
 if __name__ == "__main__":
     unittest.main(argv=sys.argv[:1])

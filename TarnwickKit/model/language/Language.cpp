@@ -1,6 +1,10 @@
 #include "TarnwickKit/model/language/Language.h"
 
+#include "TarnwickKit/model/language/CatalogueFile.h"
+
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QResource>
@@ -20,19 +24,36 @@ thread_local int englishDepth = 0;
 
 bool rightToLeft = false;
 
-/// A catalogue that is silent while EnglishTexts exist.
+/// A catalogue that is silent while EnglishTexts exist, and where it has an empty text.
 class Catalogue final : public QTranslator {
 public:
     using QTranslator::QTranslator;
 
+    /// From a file that may be damaged. What is in it is read now: others may write to it later.
+    bool read(const QString& path) {
+        QFile file(path);
+        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+            return false;
+        m_bytes = wholeCatalogue(file.readAll());
+        return load(reinterpret_cast<const uchar*>(m_bytes.constData()), static_cast<int>(m_bytes.size()));
+    }
+
     QString translate(const char* context, const char* source, const char* disambiguation,
                       int count) const override {
-        return englishDepth > 0 ? QString() : QTranslator::translate(context, source, disambiguation, count);
+        const QString text =
+            englishDepth > 0 ? QString() : QTranslator::translate(context, source, disambiguation, count);
+        return text.isEmpty() ? QString() : text; // an empty one that is not null would be shown
     }
+
+private:
+    QByteArray m_bytes;
 };
 
 /// The locale's name without its character set and variant: "de_AT" of "de_AT.UTF-8@euro".
 QString nameOf(const QString& locale) { return locale.section(u'.', 0, 0).section(u'@', 0, 0); }
+
+/// The locale without a language. It stands for English, in `LANGUAGE` as well.
+bool isPlain(const QString& name) { return name == u"C" || name == u"POSIX"; }
 
 bool has(const QString& code) {
     return std::ranges::any_of(Language::all(), [&](const auto& choice) { return choice.code == code; });
@@ -42,12 +63,14 @@ bool has(const QString& code) {
 QString catalogueFor(const QString& name) {
     if (has(name))
         return name;
+    if (isPlain(name))
+        return u"en"_s;
     const QStringList parts = name.split(u'_');
     const QString language = parts.first() == u"iw" ? u"he"_s : parts.first(); // the code of old systems
     if (language == u"zh") {
         const bool isTraditional = parts.contains(u"TW") || parts.contains(u"HK") || parts.contains(u"MO") ||
                                    parts.contains(u"Hant");
-        return isTraditional ? QString() : u"zh_CN"_s;
+        return isTraditional && !parts.contains(u"Hans") ? QString() : u"zh_CN"_s;
     }
     if (language == u"pt")
         return u"pt_BR"_s;
@@ -71,8 +94,9 @@ bool addOwn(const QString& code) {
 
 /// Those of the file dialog's and the editing menus' texts.
 void addOfToolkit(const QString& code) {
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     auto* catalogue = new Catalogue(QCoreApplication::instance());
-    add(catalogue, catalogue->load(u"qtbase_"_s + code, QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
+    add(catalogue, catalogue->read(u"%1/qtbase_%2.qm"_s.arg(folder, code)));
 }
 
 } // namespace
@@ -105,7 +129,7 @@ QStringList Language::wanted(const Environment& environment) {
     for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"})
         if (locale.isEmpty())
             locale = nameOf(environment(name));
-    if (locale.isEmpty() || locale == u"C" || locale == u"POSIX")
+    if (locale.isEmpty() || isPlain(locale))
         return {};
     QStringList wanted;
     for (const QString& language : environment("LANGUAGE").split(u':', Qt::SkipEmptyParts))
@@ -125,10 +149,10 @@ QString Language::install(const QString& code) {
     loadCatalogues();
     QString chosen = has(code) ? code : best(wanted());
     const QString file = qEnvironmentVariable("TARNWICK_CATALOGUE");
-    auto* given = file.isEmpty() ? nullptr : new Catalogue(QCoreApplication::instance());
-    if (given && given->load(file)) {
-        chosen = given->language();
-        QCoreApplication::installTranslator(given);
+    auto* given = new Catalogue(QCoreApplication::instance());
+    if (add(given, !file.isEmpty() && given->read(file))) {
+        if (const QString language = given->language(); QLocale(language).language() != QLocale::C)
+            chosen = language;
     } else if (chosen != u"en" && !addOwn(chosen))
         chosen = u"en"_s;
     if (chosen != u"en")

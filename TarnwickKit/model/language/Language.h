@@ -37,7 +37,8 @@ public:
 
     /// Has all later texts in the language `code`, or the best wanted one if no catalogue has this code.
     /// Qt's own texts follow if Qt's catalogue of the language is installed, and a window's direction if
-    /// there are windows. `TARNWICK_CATALOGUE` names a file to use instead, for translators.
+    /// there are windows. `TARNWICK_CATALOGUE` names a file to use instead, for translators; one that is no
+    /// catalogue or a damaged one is not used.
     /// Needs: the application object. Call it once. Returns: the code that is in use.
     static QString install(const QString& code = {});
     /// Whether texts are written from right to left. English ones are not.
