@@ -67,8 +67,8 @@ ColumnLayout {
             horizontalAlignment: Text.AlignLeft
             font: Typeface.mono(10.5)
             color: words.PaletteKey.palette.text3
-            wrapMode: Text.Wrap
-            maximumLineCount: 2
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
             elide: Text.ElideRight
             Accessible.ignored: true
         }

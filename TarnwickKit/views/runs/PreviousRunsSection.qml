@@ -15,7 +15,8 @@ Column {
     required property real viewTop
     required property real viewHeight
 
-    readonly property bool hasTwoLines: width > 0 && width < ViewMetrics.narrowCard
+    // The marks of the compare mode take a part of the width.
+    readonly property bool hasTwoLines: width > 0 && width - (analyzer.compareMode ? 30 : 0) < ViewMetrics.narrowCard
     readonly property int rowHeight: 26 + Metrics.scaled(hasTwoLines ? 84 : 39)
     /// How far below the visible part rows are made in advance. Units: logical pixels.
     readonly property real ahead: AssistiveTechnology.active ? Infinity : 12 * (rowHeight + spacing)
