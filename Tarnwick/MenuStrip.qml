@@ -37,6 +37,7 @@ T.MenuBar {
 
         implicitWidth: words.implicitWidth
         implicitHeight: words.implicitHeight
+        anchors.verticalCenter: parent?.verticalCenter // other scripts have higher lines
 
         // Qt gives each title the role of a menu bar. The text inside has the role of a menu item.
         Accessible.ignored: true

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <exception>
 #include <memory>
 #include <string>
@@ -223,6 +224,8 @@ private:
 
     TransportError failure(CURLcode code) const {
         const bool isHttp = code != CURLE_UNSUPPORTED_PROTOCOL && code != CURLE_WEIRD_SERVER_REPLY;
+        if (code == CURLE_OPERATION_TIMEDOUT) // in the words of whoever else limits the time
+            return {Kind::failed, OndelCore::platform::errorText(ETIMEDOUT).c_str()};
         long error = 0;
         m_curl.information(m_easy.get(), CURLINFO_OS_ERRNO, &error);
         if (code == CURLE_COULDNT_CONNECT && error != 0)

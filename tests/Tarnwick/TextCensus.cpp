@@ -1,7 +1,7 @@
 /// A plugin that the tests load into the program: it writes down every text that its windows show. Where a
 /// file "request" appears in the folder ONDEL_TEXT_CENSUS, it is replaced by a file "answer" of one JSON
-/// array: window, text, ink with its opacity, whether it is cut at its own width or at that of what it lies
-/// in, place in device pixels of the window, font size and weight.
+/// array: window, text, ink with its opacity, whether it is cut, or wider than what it lies in, place in
+/// device pixels of the window, font size and weight.
 
 #include <QColor>
 #include <QDir>
@@ -65,13 +65,17 @@ void addTexts(const QQuickItem& item, double opacity, QJsonArray& texts) {
         const double scale = item.window()->effectiveDevicePixelRatio();
         const QRectF whole = glyphs(item);
         const QRectF part = shownPart(item, whole);
+        const QQuickItem& parent = *item.parentItem();
+        const QRectF within = item.mapRectToItem(&parent, whole);
         const bool isNarrowed = part.height() > 0 && part.width() < whole.width() - 1;
+        const bool protrudes =
+            parent.width() > 0 && (within.left() < -2 || within.right() > parent.width() + 2);
         texts.append(QJsonObject{{"window", item.window()->title()},
                                  {"text", text},
                                  {"ink", QJsonArray{ink.red(), ink.green(), ink.blue()}},
                                  {"opacity", ink.alphaF() * opacity},
                                  {"enabled", item.isEnabled()},
-                                 {"cut", item.property("truncated").toBool() || isNarrowed},
+                                 {"cut", item.property("truncated").toBool() || isNarrowed || protrudes},
                                  {"place", QJsonArray{part.x() * scale, part.y() * scale,
                                                       part.width() * scale, part.height() * scale}},
                                  {"size", font.pixelSize()},

@@ -40,6 +40,8 @@ ColumnLayout {
             color: stat.dot
         }
         PlainText {
+            Layout.fillWidth: true
+            wrapMode: Text.Wrap
             text: stat.label
             font: Typeface.text(12)
             color: PaletteKey.palette.text2

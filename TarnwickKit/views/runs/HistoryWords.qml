@@ -15,7 +15,7 @@ ColumnLayout {
     /// The width that is there for the texts. Their actual width comes too late: it is known after the layout, and a
     /// change of their height would then need another one.
     required property real room
-    readonly property bool isCut: name.truncated || line.truncated
+    readonly property bool isCut: name.truncated || line.truncated || ((second.object as PlainText)?.truncated ?? false)
 
     Layout.fillWidth: true
     Layout.minimumWidth: 0
@@ -39,14 +39,13 @@ ColumnLayout {
         readonly property bool fits: whole.width <= words.room
 
         Layout.fillWidth: true
-        text: fits ? whole.text : words.stamp + "\n" + words.origin
+        text: fits ? whole.text : words.stamp
         horizontalAlignment: Text.AlignLeft
         font: Typeface.mono(10.5)
         color: words.PaletteKey.palette.text3
         elide: Text.ElideRight
         fontSizeMode: fits ? Text.FixedSize : Text.HorizontalFit
         minimumPixelSize: 8
-        lineHeight: fits ? 1 : 1.07
         Accessible.ignored: true
 
         TextMetrics {
@@ -54,6 +53,24 @@ ColumnLayout {
 
             text: words.stamp + " · " + words.origin
             font: Typeface.mono(10.5)
+        }
+    }
+    OnDemand {
+        id: second
+
+        active: !line.fits
+
+        PlainText {
+            Layout.fillWidth: true
+            Layout.topMargin: -1
+            text: words.origin
+            horizontalAlignment: Text.AlignLeft
+            font: Typeface.mono(10.5)
+            color: words.PaletteKey.palette.text3
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+            Accessible.ignored: true
         }
     }
 }

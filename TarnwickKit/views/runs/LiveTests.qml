@@ -89,6 +89,8 @@ ColumnLayout {
                         text: test.facts.title
                         font: Typeface.text(11, test.facts.isRunning ? Font.DemiBold : Font.Medium)
                         color: test.facts.isRunning ? PaletteKey.palette.text : PaletteKey.palette.text2
+                        wrapMode: Text.Wrap
+                        maximumLineCount: 3
                         elide: Text.ElideRight
                         Accessible.ignored: true
                     }

@@ -28,6 +28,8 @@ GridLayout {
         verticalItemAlignment: Grid.AlignBottom
 
         PlainText {
+            width: group.isNarrow ? implicitWidth : Math.min(implicitWidth, ViewMetrics.metricLabelWidth)
+            wrapMode: Text.Wrap
             text: group.metric.label
             font: Typeface.text(12, Font.Medium)
             color: PaletteKey.palette.text2
@@ -106,6 +108,8 @@ GridLayout {
                         font: Typeface.mono(11)
                         color: line.PaletteKey.palette.text2
                         horizontalAlignment: Text.AlignRight
+                        fontSizeMode: Text.HorizontalFit
+                        minimumPixelSize: 7
                         elide: Text.ElideRight
                         Accessible.ignored: true
                     }

@@ -29,6 +29,8 @@ ColumnLayout {
             text: stat.label
             font: Typeface.text(12)
             color: PaletteKey.palette.text2
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             elide: Text.ElideRight
             Accessible.ignored: true
         }
@@ -58,7 +60,7 @@ ColumnLayout {
             horizontalAlignment: Text.AlignRight
             font: Typeface.mono(10.5)
             color: stat.PaletteKey.palette.text2
-            elide: Text.ElideLeft
+            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
     }

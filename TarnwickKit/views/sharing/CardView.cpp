@@ -28,7 +28,6 @@ QQmlEngine& engine() {
 } // namespace
 
 std::unique_ptr<QQuickItem> newCard(const QString& name, QVariantMap properties, const Palette& palette) {
-    properties.insert(QStringLiteral("isMirrored"), model::Language::isRightToLeft());
     QQmlComponent component(&engine(),
                             QUrl(QStringLiteral("qrc:/qt/qml/TarnwickKit/views/%1.qml").arg(name)));
     // Text from distance fields differs between processes and may have coloured fringes; native text does
@@ -37,6 +36,9 @@ std::unique_ptr<QQuickItem> newCard(const QString& name, QVariantMap properties,
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     std::unique_ptr<QObject> view(component.beginCreate(engine().rootContext()));
     if (view) {
+        const auto mirrored = QStringLiteral("isMirrored"); // of whole pictures
+        if (view->metaObject()->indexOfProperty(qPrintable(mirrored)) >= 0)
+            properties.insert(mirrored, model::Language::isRightToLeft());
         component.setInitialProperties(view.get(), properties);
         PaletteKey::install(view.get(), palette);
         component.completeCreate();
