@@ -54,13 +54,18 @@ ColumnLayout {
         Layout.leftMargin: ViewMetrics.figurePadding
         Layout.rightMargin: ViewMetrics.figurePadding
         Layout.bottomMargin: extremes.visible ? 0 : ViewMetrics.figureMargin
+        Layout.fillWidth: true
+        Layout.preferredWidth: taken // without the padding
         layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight // mirrored once more: a unit stands behind its figure
+        leftPadding: LayoutMirroring.enabled ? Math.max(0, width - taken) : 0
         spacing: 6
+
+        readonly property real taken: figure.width + spacing + unit.width + (stat.isMarked ? ViewMetrics.markSide + spacing : 0)
 
         PlainText {
             id: figure
 
-            width: Math.min(implicitWidth, stat.width - 2 * ViewMetrics.figurePadding - unit.width - line.spacing - (stat.isMarked ? ViewMetrics.markSide + line.spacing : 0))
+            width: Math.min(implicitWidth, line.width - unit.width - line.spacing - (stat.isMarked ? ViewMetrics.markSide + line.spacing : 0))
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 9
             text: isNaN(stat.value) ? "--" : Format.mbValue(stat.value)
