@@ -25,7 +25,7 @@
     <message>
         <source>%1 % – %2</source>
         <extracomment>The title of the window during a run: how much is done, and the program&apos;s name</extracomment>
-        <translation>%1 % – %2</translation>
+        <translation>%1&#xa0;% – %2</translation>
     </message>
 </context>
 <context>
@@ -216,7 +216,7 @@ min. %2</translation>
     <name>CapacityFinding</name>
     <message>
         <source>Save Report…</source>
-        <translation>Bericht speichern …</translation>
+        <translation>Bericht speichern&#xa0;…</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -246,7 +246,7 @@ min. %2</translation>
     </message>
     <message>
         <source>%1: %2 %</source>
-        <translation>%1: %2 %</translation>
+        <translation>%1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -326,7 +326,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Nur %1 % des Gelesenen kamen vom Laufwerk. Prüfen Sie mehr, als der Arbeitsspeicher des Rechners fasst.</translation>
+        <translation>Nur %1&#xa0;% des Gelesenen kamen vom Laufwerk. Prüfen Sie mehr, als der Arbeitsspeicher des Rechners fasst.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
@@ -680,7 +680,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Preparing…</source>
-        <translation>Vorbereitung …</translation>
+        <translation>Vorbereitung&#xa0;…</translation>
     </message>
     <message>
         <source>Writing samples</source>
@@ -928,7 +928,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>View…</source>
-        <translation>Ansehen …</translation>
+        <translation>Ansehen&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -1380,11 +1380,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Save Runs…</source>
-        <translation>Messungen speichern …</translation>
+        <translation>Messungen speichern&#xa0;…</translation>
     </message>
     <message>
         <source>Export CSV…</source>
-        <translation>CSV exportieren …</translation>
+        <translation>CSV exportieren&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -2311,7 +2311,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>%1 % of the check</source>
-        <translation>%1 % der Prüfung</translation>
+        <translation>%1&#xa0;% der Prüfung</translation>
     </message>
     <message>
         <source>in one part</source>
@@ -2356,7 +2356,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <message>
         <source>%1: %2 %</source>
         <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
-        <translation>%1: %2 %</translation>
+        <translation>%1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
@@ -2459,11 +2459,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Preparing…</source>
-        <translation>Vorbereitung …</translation>
+        <translation>Vorbereitung&#xa0;…</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3036,11 +3036,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <name>RunMenu</name>
     <message>
         <source>Rename Report…</source>
-        <translation>Bericht umbenennen …</translation>
+        <translation>Bericht umbenennen&#xa0;…</translation>
     </message>
     <message>
         <source>Share Report Image…</source>
-        <translation>Berichtsbild teilen …</translation>
+        <translation>Berichtsbild teilen&#xa0;…</translation>
     </message>
     <message>
         <source>Copy Figures</source>
@@ -3056,11 +3056,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Save Run File…</source>
-        <translation>Messdatei speichern …</translation>
+        <translation>Messdatei speichern&#xa0;…</translation>
     </message>
     <message>
         <source>Export CSV…</source>
-        <translation>CSV exportieren …</translation>
+        <translation>CSV exportieren&#xa0;…</translation>
     </message>
     <message>
         <source>Compare with Last Run of This Volume</source>
@@ -3219,7 +3219,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <name>SMARTList</name>
     <message>
         <source>Export…</source>
-        <translation>Exportieren …</translation>
+        <translation>Exportieren&#xa0;…</translation>
     </message>
     <message>
         <source>Save these figures as a text file</source>
@@ -3315,7 +3315,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Save As…</source>
-        <translation>Speichern unter …</translation>
+        <translation>Speichern unter&#xa0;…</translation>
     </message>
     <message>
         <source>Show in Folder</source>
@@ -3323,7 +3323,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Send by Email…</source>
-        <translation>Per E-Mail senden …</translation>
+        <translation>Per E-Mail senden&#xa0;…</translation>
     </message>
     <message>
         <source>Copy as Text</source>
@@ -3335,15 +3335,15 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Save Run File…</source>
-        <translation>Messdatei speichern …</translation>
+        <translation>Messdatei speichern&#xa0;…</translation>
     </message>
     <message>
         <source>Save Runs…</source>
-        <translation>Messungen speichern …</translation>
+        <translation>Messungen speichern&#xa0;…</translation>
     </message>
     <message>
         <source>Export CSV…</source>
-        <translation>CSV exportieren …</translation>
+        <translation>CSV exportieren&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -3392,11 +3392,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <name>StatusPill</name>
     <message>
         <source>Checking…</source>
-        <translation>Prüfung läuft …</translation>
+        <translation>Prüfung läuft&#xa0;…</translation>
     </message>
     <message>
         <source>Running…</source>
-        <translation>Messung läuft …</translation>
+        <translation>Messung läuft&#xa0;…</translation>
     </message>
     <message>
         <source>Complete</source>
@@ -3598,11 +3598,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation>Nach Aktualisierungen suchen …</translation>
+        <translation>Nach Aktualisierungen suchen&#xa0;…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation>Einstellungen …</translation>
+        <translation>Einstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -3614,11 +3614,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Choose Folder…</source>
-        <translation>Ordner wählen …</translation>
+        <translation>Ordner wählen&#xa0;…</translation>
     </message>
     <message>
         <source>Open Run File…</source>
-        <translation>Messdatei öffnen …</translation>
+        <translation>Messdatei öffnen&#xa0;…</translation>
     </message>
     <message>
         <source>Close</source>
@@ -3640,7 +3640,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Check Capacity…</source>
-        <translation>Kapazität prüfen …</translation>
+        <translation>Kapazität prüfen&#xa0;…</translation>
     </message>
     <message>
         <source>Compare</source>
@@ -3661,11 +3661,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Report a Problem…</source>
-        <translation>Problem melden …</translation>
+        <translation>Problem melden&#xa0;…</translation>
     </message>
     <message>
         <source>Support Tarnwick…</source>
-        <translation>Tarnwick unterstützen …</translation>
+        <translation>Tarnwick unterstützen&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -3727,7 +3727,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Support on Ko-fi…</source>
-        <translation>Auf Ko-fi unterstützen …</translation>
+        <translation>Auf Ko-fi unterstützen&#xa0;…</translation>
     </message>
     <message>
         <source>I’ve already supported Tarnwick</source>
@@ -3818,7 +3818,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <message>
         <source>%1 %2 %</source>
         <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
-        <translation>%1 %2 %</translation>
+        <translation>%1 %2&#xa0;%</translation>
     </message>
     <message>
         <source>Skip This Version</source>
@@ -3838,7 +3838,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation>Suche nach Aktualisierungen …</translation>
+        <translation>Suche nach Aktualisierungen&#xa0;…</translation>
     </message>
     <message>
         <source>You’re up to date</source>
@@ -3850,11 +3850,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Downloading the update…</source>
-        <translation>Aktualisierung wird heruntergeladen …</translation>
+        <translation>Aktualisierung wird heruntergeladen&#xa0;…</translation>
     </message>
     <message>
         <source>Checking the update’s signature…</source>
-        <translation>Signatur der Aktualisierung wird geprüft …</translation>
+        <translation>Signatur der Aktualisierung wird geprüft&#xa0;…</translation>
     </message>
     <message>
         <source>The update is ready to install</source>
@@ -3975,7 +3975,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Choose Folder…</source>
-        <translation>Ordner wählen …</translation>
+        <translation>Ordner wählen&#xa0;…</translation>
     </message>
     <message>
         <source>Show in Folder</source>
@@ -3983,7 +3983,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Check Capacity…</source>
-        <translation>Kapazität prüfen …</translation>
+        <translation>Kapazität prüfen&#xa0;…</translation>
     </message>
 </context>
 <context>

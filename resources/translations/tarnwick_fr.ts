@@ -25,7 +25,7 @@
     <message>
         <source>%1 % – %2</source>
         <extracomment>The title of the window during a run: how much is done, and the program&apos;s name</extracomment>
-        <translation>%1 % – %2</translation>
+        <translation>%1&#xa0;% – %2</translation>
     </message>
 </context>
 <context>
@@ -54,11 +54,11 @@
     <name>BenchmarkText</name>
     <message>
         <source>Not enough space: needs %1, only %2 free.</source>
-        <translation>Espace insuffisant : il faut %1, seuls %2 sont libres.</translation>
+        <translation>Espace insuffisant&#xa0;: il faut %1, seuls %2 sont libres.</translation>
     </message>
     <message>
         <source>I/O error: %1</source>
-        <translation>Erreur d’E/S : %1</translation>
+        <translation>Erreur d’E/S&#xa0;: %1</translation>
     </message>
     <message>
         <source>Couldn’t write there. The volume may be read-only, or the folder may not allow it.</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>The volume can only be read: systems switch to that when they find an error on it.</source>
-        <translation>Le volume ne peut être que lu : les systèmes passent dans ce mode lorsqu’ils y trouvent une erreur.</translation>
+        <translation>Le volume ne peut être que lu&#xa0;: les systèmes passent dans ce mode lorsqu’ils y trouvent une erreur.</translation>
     </message>
     <message>
         <source>The volume became full during the run, or your share of it is used up.</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Too many files are open at the moment; close some programs and try again.</source>
-        <translation>Trop de fichiers sont ouverts en ce moment ; fermez quelques programmes et réessayez.</translation>
+        <translation>Trop de fichiers sont ouverts en ce moment&#xa0;; fermez quelques programmes et réessayez.</translation>
     </message>
 </context>
 <context>
@@ -193,7 +193,7 @@ min %2</translation>
     <name>CapacityChoices</name>
     <message>
         <source>Is the volume as large as it says, and does it keep what it is given?</source>
-        <translation>Le volume est-il aussi grand qu’il l’annonce, et conserve-t-il ce qu’on lui confie ?</translation>
+        <translation>Le volume est-il aussi grand qu’il l’annonce, et conserve-t-il ce qu’on lui confie&#xa0;?</translation>
     </message>
     <message>
         <source>Space to check</source>
@@ -205,7 +205,7 @@ min %2</translation>
     </message>
     <message>
         <source>Quick: samples only</source>
-        <translation>Rapide : échantillons seuls</translation>
+        <translation>Rapide&#xa0;: échantillons seuls</translation>
     </message>
     <message>
         <source>Start Check</source>
@@ -235,7 +235,7 @@ min %2</translation>
     <name>CapacityKey</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -246,7 +246,7 @@ min %2</translation>
     </message>
     <message>
         <source>%1: %2 %</source>
-        <translation>%1 : %2 %</translation>
+        <translation>%1&#xa0;: %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -298,39 +298,39 @@ min %2</translation>
     <name>CapacityText</name>
     <message>
         <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>Ce qu’aucune vérification ne peut dire : si l’espace occupé par vos fichiers est sain, ce que le disque garde en réserve, et si un bloc réparé tiendra.</translation>
+        <translation>Ce qu’aucune vérification ne peut dire&#xa0;: si l’espace occupé par vos fichiers est sain, ce que le disque garde en réserve, et si un bloc réparé tiendra.</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Ce système de fichiers ne réserve pas d’espace sans l’écrire ; les échantillons n’ont donc pas pu être répartis. Le résultat ne dit rien de la taille du volume : lancez une vérification qui ne soit pas rapide.</translation>
+        <translation>Ce système de fichiers ne réserve pas d’espace sans l’écrire&#xa0;; les échantillons n’ont donc pas pu être répartis. Le résultat ne dit rien de la taille du volume&#xa0;: lancez une vérification qui ne soit pas rapide.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only: what lies between them was not looked at.</source>
-        <translation>Une vérification rapide n’écrit qu’à quelques endroits : ce qui se trouve entre eux n’a pas été examiné.</translation>
+        <translation>Une vérification rapide n’écrit qu’à quelques endroits&#xa0;: ce qui se trouve entre eux n’a pas été examiné.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only. It finds most false capacities in seconds; finding nothing proves nothing.</source>
-        <translation>Une vérification rapide n’écrit qu’à quelques endroits. Elle décèle la plupart des fausses capacités en quelques secondes ; ne rien trouver ne prouve rien.</translation>
+        <translation>Une vérification rapide n’écrit qu’à quelques endroits. Elle décèle la plupart des fausses capacités en quelques secondes&#xa0;; ne rien trouver ne prouve rien.</translation>
     </message>
     <message>
         <source>Less was checked than planned: the volume was full too early. It may have lost data of the file system itself.</source>
-        <translation>L’espace vérifié est moindre que prévu : le volume a été plein trop tôt. Il a peut-être perdu des données du système de fichiers lui-même.</translation>
+        <translation>L’espace vérifié est moindre que prévu&#xa0;: le volume a été plein trop tôt. Il a peut-être perdu des données du système de fichiers lui-même.</translation>
     </message>
     <message>
         <source>Less was checked than planned: other programs may have taken the space.</source>
-        <translation>L’espace vérifié est moindre que prévu : d’autres programmes ont pu l’occuper.</translation>
+        <translation>L’espace vérifié est moindre que prévu&#xa0;: d’autres programmes ont pu l’occuper.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory: no disk was checked.</source>
-        <translation>Ce volume garde ses fichiers en mémoire : aucun disque n’a été vérifié.</translation>
+        <translation>Ce volume garde ses fichiers en mémoire&#xa0;: aucun disque n’a été vérifié.</translation>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Seuls %1 % de ce qui a été lu venaient du disque. Vérifiez plus que ce que la mémoire de la machine peut contenir.</translation>
+        <translation>Seuls %1&#xa0;% de ce qui a été lu venaient du disque. Vérifiez plus que ce que la mémoire de la machine peut contenir.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
-        <translation>Le disque derrière ce volume n’est pas visible ; ce qui a été restitué a donc pu venir d’un cache.</translation>
+        <translation>Le disque derrière ce volume n’est pas visible&#xa0;; ce qui a été restitué a donc pu venir d’un cache.</translation>
     </message>
     <message>
         <source>What is written beyond its real size is lost, or destroys what lies elsewhere on it. Copy what you need from it, and do not trust it.</source>
@@ -338,11 +338,11 @@ min %2</translation>
     </message>
     <message>
         <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>La vérification a été arrêtée : ce qu’elle n’avait pas relu n’est pas connu.</translation>
+        <translation>La vérification a été arrêtée&#xa0;: ce qu’elle n’avait pas relu n’est pas connu.</translation>
     </message>
     <message>
         <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>Ce système de fichiers ne restitue rien qui ne corresponde à ses sommes de contrôle : des données altérées ne peuvent pas y être lues.</translation>
+        <translation>Ce système de fichiers ne restitue rien qui ne corresponde à ses sommes de contrôle&#xa0;: des données altérées ne peuvent pas y être lues.</translation>
     </message>
     <message>
         <source>Capacity of %1</source>
@@ -510,7 +510,7 @@ min %2</translation>
     </message>
     <message>
         <source>This file system cannot spread samples: only %1 in one place were checked, and hold what was written.</source>
-        <translation>Ce système de fichiers ne peut pas répartir les échantillons : seuls %1 en un seul endroit ont été vérifiés, et ils contiennent ce qui a été écrit.</translation>
+        <translation>Ce système de fichiers ne peut pas répartir les échantillons&#xa0;: seuls %1 en un seul endroit ont été vérifiés, et ils contiennent ce qui a été écrit.</translation>
     </message>
     <message>
         <source>Samples all over %1 hold what was written, which is no proof.</source>
@@ -522,15 +522,15 @@ min %2</translation>
     </message>
     <message>
         <source>Your share of the volume was used up after %1 of %2; these hold what was written.</source>
-        <translation>Votre part du volume était épuisée après %1 sur %2 ; ceux-ci contiennent ce qui a été écrit.</translation>
+        <translation>Votre part du volume était épuisée après %1 sur %2&#xa0;; ceux-ci contiennent ce qui a été écrit.</translation>
     </message>
     <message>
         <source>The volume was full after %1 of %2; these hold what was written.</source>
-        <translation>Le volume était plein après %1 sur %2 ; ceux-ci contiennent ce qui a été écrit.</translation>
+        <translation>Le volume était plein après %1 sur %2&#xa0;; ceux-ci contiennent ce qui a été écrit.</translation>
     </message>
     <message>
         <source>All %1 came back as written, but mostly from memory: that says little about the disk.</source>
-        <translation>Les %1 ont tous été restitués intacts, mais surtout depuis la mémoire : cela en dit peu sur le disque.</translation>
+        <translation>Les %1 ont tous été restitués intacts, mais surtout depuis la mémoire&#xa0;: cela en dit peu sur le disque.</translation>
     </message>
     <message>
         <source>All %1 hold what was written.</source>
@@ -578,13 +578,13 @@ min %2</translation>
     </message>
     <message>
         <source>At %1, %2: one bit was flipped.</source>
-        <translation>À %1, %2 : un bit était inversé.</translation>
+        <translation>À %1, %2&#xa0;: un bit était inversé.</translation>
     </message>
     <message numerus="yes">
         <source>At %1, %2: %3 bits were flipped.</source>
         <translation>
-            <numerusform>À %1, %2 : %3 bit était inversé.</numerusform>
-            <numerusform>À %1, %2 : %3 bits étaient inversés.</numerusform>
+            <numerusform>À %1, %2&#xa0;: %3 bit était inversé.</numerusform>
+            <numerusform>À %1, %2&#xa0;: %3 bits étaient inversés.</numerusform>
         </translation>
     </message>
     <message>
@@ -593,35 +593,35 @@ min %2</translation>
     </message>
     <message>
         <source>At %1, %2: could not be read (%3).</source>
-        <translation>À %1, %2 : lecture impossible (%3).</translation>
+        <translation>À %1, %2&#xa0;: lecture impossible (%3).</translation>
     </message>
     <message>
         <source>At %1, %2: could not be written (%3).</source>
-        <translation>À %1, %2 : écriture impossible (%3).</translation>
+        <translation>À %1, %2&#xa0;: écriture impossible (%3).</translation>
     </message>
     <message>
         <source>At %1, %2: could be written or read only at a second try (%3).</source>
-        <translation>À %1, %2 : écriture ou lecture réussie au second essai seulement (%3).</translation>
+        <translation>À %1, %2&#xa0;: écriture ou lecture réussie au second essai seulement (%3).</translation>
     </message>
     <message>
         <source>At %1, %2: what was written elsewhere came back.</source>
-        <translation>À %1, %2 : ce qui avait été écrit ailleurs a été restitué.</translation>
+        <translation>À %1, %2&#xa0;: ce qui avait été écrit ailleurs a été restitué.</translation>
     </message>
     <message>
         <source>At %1, %2: the block that was written at %3 came back, again and again.</source>
-        <translation>À %1, %2 : le bloc écrit à %3 a été restitué, encore et encore.</translation>
+        <translation>À %1, %2&#xa0;: le bloc écrit à %3 a été restitué, encore et encore.</translation>
     </message>
     <message>
         <source>At %1, %2: what was written at %3 came back.</source>
-        <translation>À %1, %2 : ce qui avait été écrit à %3 a été restitué.</translation>
+        <translation>À %1, %2&#xa0;: ce qui avait été écrit à %3 a été restitué.</translation>
     </message>
     <message>
         <source>At %1, %2: zeros came back.</source>
-        <translation>À %1, %2 : des zéros ont été restitués.</translation>
+        <translation>À %1, %2&#xa0;: des zéros ont été restitués.</translation>
     </message>
     <message>
         <source>At %1, %2: something came back that was never written there.</source>
-        <translation>À %1, %2 : quelque chose qui n’y a jamais été écrit a été restitué.</translation>
+        <translation>À %1, %2&#xa0;: quelque chose qui n’y a jamais été écrit a été restitué.</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -737,7 +737,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
   --choose-folder   ask for a folder
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
-        <translation>Utilisation : tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
+        <translation>Utilisation&#xa0;: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
 Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et montre les fichiers de mesure (*.tarnwickrun).
   --check-capacity  passer à la vérification du volume de ce dossier
   --choose-folder   demander un dossier
@@ -778,7 +778,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <message>
         <source>%1, %2: %3 %4</source>
         <extracomment>%1 is what was measured, %2 the name of a run, %3 the figure, %4 its unit</extracomment>
-        <translation>%1, %2 : %3 %4</translation>
+        <translation>%1, %2&#xa0;: %3 %4</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -935,7 +935,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <name>DialogsText</name>
     <message>
         <source>Working folder:</source>
-        <translation>Dossier de travail :</translation>
+        <translation>Dossier de travail&#xa0;:</translation>
     </message>
     <message>
         <source>temporary, is written there and removed</source>
@@ -959,24 +959,24 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <name>DisplayText</name>
     <message>
         <source>“%1” is damaged or not a Tarnwick run.</source>
-        <translation>« %1 » est endommagé ou n’est pas une mesure de Tarnwick.</translation>
+        <translation>«&#xa0;%1&#xa0;» est endommagé ou n’est pas une mesure de Tarnwick.</translation>
     </message>
     <message>
         <source>“%1” is not a folder or a run file that can be opened.</source>
-        <translation>« %1 » n’est ni un dossier ni un fichier de mesure pouvant être ouvert.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est ni un dossier ni un fichier de mesure pouvant être ouvert.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are damaged or not Tarnwick runs.</source>
         <translation>
-            <numerusform>« %1 » et %2 autre sont endommagés ou ne sont pas des mesures de Tarnwick.</numerusform>
-            <numerusform>« %1 » et %2 autres sont endommagés ou ne sont pas des mesures de Tarnwick.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» et %2 autre sont endommagés ou ne sont pas des mesures de Tarnwick.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» et %2 autres sont endommagés ou ne sont pas des mesures de Tarnwick.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %2 more are not folders or run files that can be opened.</source>
         <translation>
-            <numerusform>« %1 » et %2 autre ne sont ni des dossiers ni des fichiers de mesure pouvant être ouverts.</numerusform>
-            <numerusform>« %1 » et %2 autres ne sont ni des dossiers ni des fichiers de mesure pouvant être ouverts.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» et %2 autre ne sont ni des dossiers ni des fichiers de mesure pouvant être ouverts.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» et %2 autres ne sont ni des dossiers ni des fichiers de mesure pouvant être ouverts.</numerusform>
         </translation>
     </message>
 </context>
@@ -1028,7 +1028,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <name>FiguresText</name>
     <message>
         <source>Run: %1 · %2</source>
-        <translation>Mesure : %1 · %2</translation>
+        <translation>Mesure&#xa0;: %1 · %2</translation>
     </message>
     <message>
         <source>not the disk’s figure</source>
@@ -1039,7 +1039,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <name>FillQuestion</name>
     <message>
         <source>Fill the disk?</source>
-        <translation>Remplir le disque ?</translation>
+        <translation>Remplir le disque&#xa0;?</translation>
     </message>
     <message>
         <source>The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.</source>
@@ -1062,7 +1062,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     </message>
     <message>
         <source>Show in Folder: %1</source>
-        <translation>Afficher dans le dossier : %1</translation>
+        <translation>Afficher dans le dossier&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1334,12 +1334,12 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <message>
         <source>%1: %2</source>
         <extracomment>Two sentences: how many disks answered, and why others did not</extracomment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1; %2</source>
         <extracomment>Two sentences, the first on one disk and the second on another</extracomment>
-        <translation>%1 ; %2</translation>
+        <translation>%1&#xa0;; %2</translation>
     </message>
     <message>
         <source>%1, and %2</source>
@@ -1597,7 +1597,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <message>
         <source>no S.M.A.R.T. figures: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation>pas de valeurs S.M.A.R.T. : %1</translation>
+        <translation>pas de valeurs S.M.A.R.T.&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1620,7 +1620,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     </message>
     <message>
         <source>%1 exists and holds no runs; --force would replace it</source>
-        <translation>%1 existe et ne contient pas de mesures ; --force le remplacerait</translation>
+        <translation>%1 existe et ne contient pas de mesures&#xa0;; --force le remplacerait</translation>
     </message>
     <message>
         <source>A figure of this run is beyond what a file can hold.</source>
@@ -1628,7 +1628,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation>%1 n’a pas pu être écrit : %2</translation>
+        <translation>%1 n’a pas pu être écrit&#xa0;: %2</translation>
     </message>
     <message>
         <source>The history could not be written.</source>
@@ -1637,7 +1637,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <message>
         <source>%1: %2</source>
         <extracomment>%1: a file or a folder, %2: what the system says about it.</extracomment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The result could not be written</source>
@@ -1654,12 +1654,12 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation>%1 : le vidage des tampons sur le disque a échoué (%2) ; tout ce qui a été écrit n’y est peut-être pas.</translation>
+        <translation>%1&#xa0;: le vidage des tampons sur le disque a échoué (%2)&#xa0;; tout ce qui a été écrit n’y est peut-être pas.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation>Préparation : le vidage des tampons sur le disque a échoué (%1) ; tout ce qui a été écrit n’y est peut-être pas.</translation>
+        <translation>Préparation&#xa0;: le vidage des tampons sur le disque a échoué (%1)&#xa0;; tout ce qui a été écrit n’y est peut-être pas.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
@@ -1687,16 +1687,16 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     </message>
     <message>
         <source>standard input is not a run file: %1</source>
-        <translation>l’entrée standard n’est pas un fichier de mesure : %1</translation>
+        <translation>l’entrée standard n’est pas un fichier de mesure&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 is not a run file: %2</source>
-        <translation>%1 n’est pas un fichier de mesure : %2</translation>
+        <translation>%1 n’est pas un fichier de mesure&#xa0;: %2</translation>
     </message>
     <message>
         <source>The picture could not be drawn: %1</source>
         <extracomment>%1: the reason.</extracomment>
-        <translation>L’image n’a pas pu être dessinée : %1</translation>
+        <translation>L’image n’a pas pu être dessinée&#xa0;: %1</translation>
     </message>
     <message>
         <source>The picture could not be drawn, or not be written to your temporary folder.</source>
@@ -1713,13 +1713,13 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
         <source>A run file is what &quot;run --handoff&quot; writes, for one run. The picture is a PNG file, 1616 pixels wide, with a
 transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
 it stays until your session ends, or until the system empties its temporary folder.</source>
-        <translation>Un fichier de mesure est ce qu’écrit « run --handoff », pour une mesure. L’image est un fichier PNG de 1616 pixels de
-large, à marge transparente ; son chemin est affiché. Aucun écran n’est nécessaire. Une image de même titre remplace
-la précédente ; elle reste jusqu’à la fin de votre session, ou jusqu’à ce que le système vide son dossier temporaire.</translation>
+        <translation>Un fichier de mesure est ce qu’écrit «&#xa0;run --handoff&#xa0;», pour une mesure. L’image est un fichier PNG de 1616 pixels de
+large, à marge transparente&#xa0;; son chemin est affiché. Aucun écran n’est nécessaire. Une image de même titre remplace
+la précédente&#xa0;; elle reste jusqu’à la fin de votre session, ou jusqu’à ce que le système vide son dossier temporaire.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
-        <translation>Code de retour : 0 terminé, 1 un fichier n’a pas pu être lu ou l’image créée, 2 mauvaise utilisation.</translation>
+        <translation>Code de retour&#xa0;: 0 terminé, 1 un fichier n’a pas pu être lu ou l’image créée, 2 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>Draw a picture of a run to share, or of several compared</source>
@@ -1727,16 +1727,16 @@ la précédente ; elle reste jusqu’à la fin de votre session, ou jusqu’à 
     </message>
     <message>
         <source>How much to write and read back (default: all free space)</source>
-        <translation>Quantité à écrire et relire (par défaut : tout l’espace libre)</translation>
+        <translation>Quantité à écrire et relire (par défaut&#xa0;: tout l’espace libre)</translation>
     </message>
     <message>
         <source>How much stays free in any case (default: 64MiB)</source>
-        <translation>Espace qui reste libre dans tous les cas (par défaut : 64MiB)</translation>
+        <translation>Espace qui reste libre dans tous les cas (par défaut&#xa0;: 64MiB)</translation>
     </message>
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation>Échantillons répartis sur l’étendue, en quelques secondes : décèle
+        <translation>Échantillons répartis sur l’étendue, en quelques secondes&#xa0;: décèle
 une fausse capacité, et ne prouve rien si aucune n’est trouvée</translation>
     </message>
     <message>
@@ -1745,7 +1745,7 @@ une fausse capacité, et ne prouve rien si aucune n’est trouvée</translation>
     </message>
     <message>
         <source>Print one JSON object: the verdict, the sentence, and all that was found</source>
-        <translation>Afficher un objet JSON : le verdict, la phrase et tout ce qui a été trouvé</translation>
+        <translation>Afficher un objet JSON&#xa0;: le verdict, la phrase et tout ce qui a été trouvé</translation>
     </message>
     <message>
         <source>Writes files that differ in every block into a hidden folder inside FOLDER, reads them back past the system&apos;s
@@ -1753,19 +1753,19 @@ cache, compares all of it, and removes them, also after Ctrl+C. No file of yours
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
         <translation>Écrit des fichiers dont chaque bloc diffère dans un dossier caché de FOLDER, les relit hors du cache du système, compare le
-tout et les supprime, même après Ctrl+C. Aucun de vos fichiers n’est touché ; mais sur un appareil à fausse capacité, toute
+tout et les supprime, même après Ctrl+C. Aucun de vos fichiers n’est touché&#xa0;; mais sur un appareil à fausse capacité, toute
 écriture au-delà de sa taille réelle peut détruire ce qui s’y trouve, comme n’importe quel usage. --quick n’écrit que des
 échantillons. Les fichiers d’une vérification tuée sont supprimés par la prochaine mesure ou vérification dans FOLDER.</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation>BYTES : de simples chiffres, ou des chiffres suivis de K, M, G, T (KiB, MiB, GiB, TiB : par pas de 1024).</translation>
+        <translation>BYTES&#xa0;: de simples chiffres, ou des chiffres suivis de K, M, G, T (KiB, MiB, GiB, TiB&#xa0;: par pas de 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation>Code de retour : 0 rien d’anormal, 1 échec, 2 mauvaise utilisation, 3 défauts
-trouvés, 130 arrêt par un signal ; ce qui avait été trouvé jusque-là est affiché.</translation>
+        <translation>Code de retour&#xa0;: 0 rien d’anormal, 1 échec, 2 mauvaise utilisation, 3 défauts
+trouvés, 130 arrêt par un signal&#xa0;; ce qui avait été trouvé jusque-là est affiché.</translation>
     </message>
     <message>
         <source>Check whether a volume is as large as it says and keeps what it is given</source>
@@ -1791,7 +1791,7 @@ trouvés, 130 arrêt par un signal ; ce qui avait été trouvé jusque-là est 
         <source>Nothing is written anywhere. What the system does not tell reads &quot;--&quot; or &quot;not known&quot;, and is left out of the JSON
 object.</source>
         <translation>Rien n’est écrit nulle part. Ce que le système n’indique pas
-s’affiche « -- » ou « inconnu », et ne figure pas dans l’objet JSON.</translation>
+s’affiche «&#xa0;--&#xa0;» ou «&#xa0;inconnu&#xa0;», et ne figure pas dans l’objet JSON.</translation>
     </message>
     <message>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
@@ -1802,12 +1802,12 @@ paquets et ses conteneurs montent pour eux-mêmes est omis. Un serveur qui ne r�
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation>Le disque est seulement consulté : s’il est en veille, il n’est pas réveillé, et rien n’y
-est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, « facts » l’indique.</translation>
+        <translation>Le disque est seulement consulté&#xa0;: s’il est en veille, il n’est pas réveillé, et rien n’y
+est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, «&#xa0;facts&#xa0;» l’indique.</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation>Montrer ce qui contient FOLDER : volume, système de fichiers, disque et son état de santé</translation>
+        <translation>Montrer ce qui contient FOLDER&#xa0;: volume, système de fichiers, disque et son état de santé</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
@@ -1825,7 +1825,7 @@ est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, �
     <message>
         <source>Usage: %1</source>
         <extracomment>%1: how a program is called, as &quot;tarnwick-host run [OPTION]… FOLDER&quot;.</extracomment>
-        <translation>Utilisation : %1</translation>
+        <translation>Utilisation&#xa0;: %1</translation>
     </message>
     <message>
         <source>Show this text</source>
@@ -1833,7 +1833,7 @@ est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, �
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation>Ondel Tarnwick dans un terminal : la vitesse d’un disque, mesurée sur lui sans rien y laisser.</translation>
+        <translation>Ondel Tarnwick dans un terminal&#xa0;: la vitesse d’un disque, mesurée sur lui sans rien y laisser.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
@@ -1845,11 +1845,11 @@ est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, �
     </message>
     <message>
         <source>The file that &quot;export&quot; writes</source>
-        <translation>Le fichier qu’écrit « export »</translation>
+        <translation>Le fichier qu’écrit «&#xa0;export&#xa0;»</translation>
     </message>
     <message>
         <source>Let &quot;delete&quot; delete all runs</source>
-        <translation>Permettre à « delete » de supprimer toutes les mesures</translation>
+        <translation>Permettre à «&#xa0;delete&#xa0;» de supprimer toutes les mesures</translation>
     </message>
     <message>
         <source>ACTION is one of</source>
@@ -1861,13 +1861,13 @@ est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, �
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation>afficher des mesures comme le fait « show », dans la forme donnée par --format</translation>
+        <translation>afficher des mesures comme le fait «&#xa0;show&#xa0;», dans la forme donnée par --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
         <translation>écrire des mesures dans le FILE de --output, dans la forme de --format ou du
-nom de FILE : .csv, .json, .md, .txt, ou .tarnwickrun pour une seule mesure</translation>
+nom de FILE&#xa0;: .csv, .json, .md, .txt, ou .tarnwickrun pour une seule mesure</translation>
     </message>
     <message>
         <source>delete runs, without a question and for good</source>
@@ -1878,12 +1878,12 @@ nom de FILE : .csv, .json, .md, .txt, ou .tarnwickrun pour une seule mesure</tr
 &quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
 file only if it is empty or holds runs; with --force any other file too.</source>
         <translation>Un RUN se nomme comme dans la liste, ou par les quatre premiers caractères au moins de son identifiant. Sans RUN, il s’agit
-de toutes les mesures ; « delete » exige alors --all. Une fenêtre ouverte se met à jour dès que vous y revenez. --output ne
-remplace un fichier existant que s’il est vide ou contient des mesures ; avec --force, tout autre fichier aussi.</translation>
+de toutes les mesures&#xa0;; «&#xa0;delete&#xa0;» exige alors --all. Une fenêtre ouverte se met à jour dès que vous y revenez. --output ne
+remplace un fichier existant que s’il est vide ou contient des mesures&#xa0;; avec --force, tout autre fichier aussi.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.</source>
-        <translation>Code de retour : 0 terminé, 1 mesure inexistante ou échec, 2 mauvaise utilisation.</translation>
+        <translation>Code de retour&#xa0;: 0 terminé, 1 mesure inexistante ou échec, 2 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>List, show, export or delete the runs that the window keeps</source>
@@ -1893,15 +1893,15 @@ remplace un fichier existant que s’il est vide ou contient des mesures ; avec
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation>BYTES : de simples chiffres, ou des chiffres suivis de K, M, G, T (KiB, MiB, GiB, TiB : par pas de 1024). Les blocs sont
+        <translation>BYTES&#xa0;: de simples chiffres, ou des chiffres suivis de K, M, G, T (KiB, MiB, GiB, TiB&#xa0;: par pas de 1024). Les blocs sont
 arrondis à des pages entières de 4096. Les valeurs par défaut sont celles de la fenêtre, afin que ses valeurs et celles-ci
-soient comparables, sauf pour les blocs des tests séquentiels : la fenêtre prend le « Transfert optimal » qu’affiche « facts ».</translation>
+soient comparables, sauf pour les blocs des tests séquentiels&#xa0;: la fenêtre prend le «&#xa0;Transfert optimal&#xa0;» qu’affiche «&#xa0;facts&#xa0;».</translation>
     </message>
     <message>
         <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start; files that are still in use stay, after a second&apos;s wait.</source>
         <translation>Tout est écrit dans un dossier caché de FOLDER et supprimé à la fin, même après Ctrl+C. Ce qu’une mesure tuée a laissé
-dans FOLDER est supprimé avant le démarrage ; les fichiers encore utilisés restent, après une seconde d’attente.</translation>
+dans FOLDER est supprimé avant le démarrage&#xa0;; les fichiers encore utilisés restent, après une seconde d’attente.</translation>
     </message>
     <message>
         <source>The files of --handoff and --card stay until your session ends, or until the system empties its temporary folder.
@@ -1911,13 +1911,13 @@ dans FOLDER est supprimé avant le démarrage ; les fichiers encore utilisés r
 and the run counts as failed.</source>
         <translation>Les fichiers de --handoff et --card restent jusqu’à la fin de votre session, ou jusqu’à ce que le système vide
 son dossier temporaire. --output ne remplace un fichier existant que s’il est vide ou contient des mesures (un
-fichier de mesure, ou ce que « show --format » et « history export » écrivent en json ou csv) ; avec --force,
+fichier de mesure, ou ce que «&#xa0;show --format&#xa0;» et «&#xa0;history export&#xa0;» écrivent en json ou csv)&#xa0;; avec --force,
 tout autre fichier aussi. Une fenêtre ouverte montre une mesure ajoutée par --keep dès que vous y revenez. Si
 quelque chose ne peut pas être écrit, les valeurs sont tout de même affichées et la mesure compte comme un échec.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
-        <translation>Code de retour : 0 terminé, 1 échec, 2 mauvaise utilisation, 130 arrêt par un signal.</translation>
+        <translation>Code de retour&#xa0;: 0 terminé, 1 échec, 2 mauvaise utilisation, 130 arrêt par un signal.</translation>
     </message>
     <message>
         <source>Measure the file system that holds FOLDER</source>
@@ -1926,36 +1926,36 @@ quelque chose ne peut pas être écrit, les valeurs sont tout de même affichée
     <message>
         <source>Tests to run, always in this order: sequentialWrite, sequentialRead,
 randomRead, randomWrite, fileOps (default: all)</source>
-        <translation>Tests à exécuter, toujours dans cet ordre : sequentialWrite,
-sequentialRead, randomRead, randomWrite, fileOps (par défaut : tous)</translation>
+        <translation>Tests à exécuter, toujours dans cet ordre&#xa0;: sequentialWrite,
+sequentialRead, randomRead, randomWrite, fileOps (par défaut&#xa0;: tous)</translation>
     </message>
     <message>
         <source>Size of the data file, or fill the disk (default: 5GiB)</source>
-        <translation>Taille du fichier de données, ou fill pour remplir le disque (par défaut : 5GiB)</translation>
+        <translation>Taille du fichier de données, ou fill pour remplir le disque (par défaut&#xa0;: 5GiB)</translation>
     </message>
     <message>
         <source>What --size fill leaves free (default: 1GiB)</source>
-        <translation>Ce que --size fill laisse libre (par défaut : 1GiB)</translation>
+        <translation>Ce que --size fill laisse libre (par défaut&#xa0;: 1GiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential write (default: 1MiB)</source>
-        <translation>Octets par appel, écriture séquentielle (par défaut : 1MiB)</translation>
+        <translation>Octets par appel, écriture séquentielle (par défaut&#xa0;: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per call, sequential read (default: 1MiB)</source>
-        <translation>Octets par appel, lecture séquentielle (par défaut : 1MiB)</translation>
+        <translation>Octets par appel, lecture séquentielle (par défaut&#xa0;: 1MiB)</translation>
     </message>
     <message>
         <source>Bytes per random operation (default: 4KiB)</source>
-        <translation>Octets par opération aléatoire (par défaut : 4KiB)</translation>
+        <translation>Octets par opération aléatoire (par défaut&#xa0;: 4KiB)</translation>
     </message>
     <message>
         <source>Operations in each random test (default: 10000)</source>
-        <translation>Opérations dans chaque test aléatoire (par défaut : 10000)</translation>
+        <translation>Opérations dans chaque test aléatoire (par défaut&#xa0;: 10000)</translation>
     </message>
     <message>
         <source>Files in the file-operations test (default: 1000)</source>
-        <translation>Fichiers dans le test des opérations sur les fichiers (par défaut : 1000)</translation>
+        <translation>Fichiers dans le test des opérations sur les fichiers (par défaut&#xa0;: 1000)</translation>
     </message>
     <message>
         <source>Let the system cache the data file, as ordinary programs do</source>
@@ -1963,19 +1963,19 @@ sequentialRead, randomRead, randomWrite, fileOps (par défaut : tous)</translat
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
-        <translation>Secondes au moins entre deux points de mesure (par défaut : 0.02)</translation>
+        <translation>Secondes au moins entre deux points de mesure (par défaut&#xa0;: 0.02)</translation>
     </message>
     <message>
         <source>Print one JSON object: the plan, every figure, every sample, date,
 folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
 &quot;remarks&quot; what was observed and what it says</source>
-        <translation>Afficher un objet JSON : le plan, chaque valeur, chaque point de mesure,
+        <translation>Afficher un objet JSON&#xa0;: le plan, chaque valeur, chaque point de mesure,
 date, dossier, volume, système de fichiers, disque, noyau, et sous
-« evidence » et « remarks » ce qui a été observé et ce que cela signifie</translation>
+«&#xa0;evidence&#xa0;» et «&#xa0;remarks&#xa0;» ce qui a été observé et ce que cela signifie</translation>
     </message>
     <message>
         <source>Write a run file there, for the window, for &quot;show&quot; and for others</source>
-        <translation>Y écrire un fichier de mesure, pour la fenêtre, pour « show » et pour d’autres</translation>
+        <translation>Y écrire un fichier de mesure, pour la fenêtre, pour «&#xa0;show&#xa0;» et pour d’autres</translation>
     </message>
     <message>
         <source>Add the run to the window&apos;s history</source>
@@ -1984,26 +1984,26 @@ date, dossier, volume, système de fichiers, disque, noyau, et sous
     <message>
         <source>Write a run file for the window and for &quot;show&quot;, and print its path
 as the last line; with --json: as &quot;handoffFile&quot; in the object</source>
-        <translation>Écrire un fichier de mesure pour la fenêtre et pour « show », et afficher son
-chemin en dernière ligne ; avec --json : comme « handoffFile » dans l’objet</translation>
+        <translation>Écrire un fichier de mesure pour la fenêtre et pour «&#xa0;show&#xa0;», et afficher son
+chemin en dernière ligne&#xa0;; avec --json&#xa0;: comme «&#xa0;handoffFile&#xa0;» dans l’objet</translation>
     </message>
     <message>
         <source>Draw a picture of the run to share, in light or dark colours, and
 print its path as the last line; with --json: as &quot;cardFile&quot;</source>
         <translation>Dessiner une image de la mesure à partager, en couleurs claires (light) ou sombres
-(dark), et afficher son chemin en dernière ligne ; avec --json : comme « cardFile »</translation>
+(dark), et afficher son chemin en dernière ligne&#xa0;; avec --json&#xa0;: comme «&#xa0;cardFile&#xa0;»</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; and &quot;run --output&quot; write, for one run. The window&apos;s history (history.json) and
 the output of &quot;show --format json&quot; have several. &quot;-&quot; is standard input.</source>
-        <translation>Un fichier de mesure est ce qu’écrivent « run --handoff » et « run --output », pour une mesure. L’historique de
-la fenêtre (history.json) et la sortie de « show --format json » en ont plusieurs. « - » est l’entrée standard.</translation>
+        <translation>Un fichier de mesure est ce qu’écrivent «&#xa0;run --handoff&#xa0;» et «&#xa0;run --output&#xa0;», pour une mesure. L’historique de
+la fenêtre (history.json) et la sortie de «&#xa0;show --format json&#xa0;» en ont plusieurs. «&#xa0;-&#xa0;» est l’entrée standard.</translation>
     </message>
     <message>
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation>En texte, des barres comparent les valeurs de plusieurs mesures : la plus grande de chaque sorte remplit sa piste, et « -- » figure
+        <translation>En texte, des barres comparent les valeurs de plusieurs mesures&#xa0;: la plus grande de chaque sorte remplit sa piste, et «&#xa0;--&#xa0;» figure
 là où une mesure n’en a pas. Les lignes tiennent dans le terminal, ou dans 80 colonnes. Un tableau Markdown convient aux forums. CSV
 a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON est une liste des contenus de fichiers de mesure.</translation>
     </message>
@@ -2013,7 +2013,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
-        <translation>Code de retour : 0 tous ont été montrés, 1 pas tous, 2 mauvaise utilisation.</translation>
+        <translation>Code de retour&#xa0;: 0 tous ont été montrés, 1 pas tous, 2 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>Show runs from their run files, and several side by side</source>
@@ -2147,7 +2147,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>%1 needs a value: %2</source>
-        <translation>%1 exige une valeur : %2</translation>
+        <translation>%1 exige une valeur&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 goes with %2 only</source>
@@ -2212,11 +2212,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>a command is missing; see %1</source>
-        <translation>il manque une commande ; voir %1</translation>
+        <translation>il manque une commande&#xa0;; voir %1</translation>
     </message>
     <message>
         <source>there is no command %1; see %2</source>
-        <translation>la commande %1 n’existe pas ; voir %2</translation>
+        <translation>la commande %1 n’existe pas&#xa0;; voir %2</translation>
     </message>
     <message>
         <source>a FOLDER to measure is missing</source>
@@ -2236,7 +2236,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>%1: there is no test %2, only %3</source>
-        <translation>%1 : le test %2 n’existe pas, seulement %3</translation>
+        <translation>%1&#xa0;: le test %2 n’existe pas, seulement %3</translation>
     </message>
     <message>
         <source>%1 is light or dark, not %2</source>
@@ -2259,7 +2259,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Adjust tests and settings on the left, then press Run Benchmark.</source>
-        <translation>Réglez les tests et les options à gauche, puis cliquez sur « Lancer la mesure ».</translation>
+        <translation>Réglez les tests et les options à gauche, puis cliquez sur «&#xa0;Lancer la mesure&#xa0;».</translation>
     </message>
     <message>
         <source>Pick a mounted volume or folder from the toolbar.</source>
@@ -2303,7 +2303,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
-        <translation>Tout l’espace libre, environ %1, est écrit, relu, comparé et libéré. Sur un grand volume, cela prend des heures ; pendant ce temps, le volume est plein pour les autres programmes. Vos fichiers ne sont pas touchés.</translation>
+        <translation>Tout l’espace libre, environ %1, est écrit, relu, comparé et libéré. Sur un grand volume, cela prend des heures&#xa0;; pendant ce temps, le volume est plein pour les autres programmes. Vos fichiers ne sont pas touchés.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -2311,7 +2311,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>%1 % of the check</source>
-        <translation>%1 % de la vérification</translation>
+        <translation>%1&#xa0;% de la vérification</translation>
     </message>
     <message>
         <source>in one part</source>
@@ -2327,7 +2327,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>%1 to %2: %3</source>
         <extracomment>%1 and %2 are places on the volume, %3 what was found between them</extracomment>
-        <translation>%1 à %2 : %3</translation>
+        <translation>%1 à %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>Checked</source>
@@ -2344,11 +2344,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>The file couldn&apos;t be saved: %1</source>
-        <translation>Impossible d’enregistrer le fichier : %1</translation>
+        <translation>Impossible d’enregistrer le fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Saved as “%1”</source>
-        <translation>Enregistré sous « %1 »</translation>
+        <translation>Enregistré sous «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -2356,7 +2356,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>%1: %2 %</source>
         <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
-        <translation>%1 : %2 %</translation>
+        <translation>%1&#xa0;: %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
@@ -2389,11 +2389,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>%1: %2</source>
         <extracomment>%1 is the name of a test, %2 what it does (done, running, to come), %3 its rate</extracomment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: %2, %3</source>
-        <translation>%1 : %2, %3</translation>
+        <translation>%1&#xa0;: %2, %3</translation>
     </message>
     <message>
         <source>A few seconds left</source>
@@ -2463,7 +2463,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2529,7 +2529,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Delete all saved runs?</source>
-        <translation>Supprimer toutes les mesures enregistrées ?</translation>
+        <translation>Supprimer toutes les mesures enregistrées&#xa0;?</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2560,11 +2560,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation>Tout ce qui a été écrit n’a pas pu être transféré des tampons sur le disque : %1.</translation>
+        <translation>Tout ce qui a été écrit n’a pas pu être transféré des tampons sur le disque&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
-        <translation>Le fichier de test n’a pas pu être transféré des tampons sur le disque : %1.</translation>
+        <translation>Le fichier de test n’a pas pu être transféré des tampons sur le disque&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1 for the first %2, then %3.</source>
@@ -2576,7 +2576,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>One pause over 1 s: %1.</source>
-        <translation>Une pause de plus de 1 s : %1.</translation>
+        <translation>Une pause de plus de 1 s&#xa0;: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%1 pauses over 1 s, the longest %2.</source>
@@ -2591,7 +2591,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
-        <translation>La liaison %1 du disque fonctionne à %2 ; le disque pourrait atteindre %3.</translation>
+        <translation>La liaison %1 du disque fonctionne à %2&#xa0;; le disque pourrait atteindre %3.</translation>
     </message>
     <message>
         <source>The partition begins %1 into a physical block of %2.</source>
@@ -2627,7 +2627,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation>Activez « Contourner le cache ». Si c’est déjà le cas, choisissez une taille supérieure à la mémoire de la machine.</translation>
+        <translation>Activez «&#xa0;Contourner le cache&#xa0;». Si c’est déjà le cas, choisissez une taille supérieure à la mémoire de la machine.</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
@@ -2667,11 +2667,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Free some space: many drives and file systems slow down when full.</source>
-        <translation>Libérez de l’espace : bien des disques et systèmes de fichiers ralentissent une fois pleins.</translation>
+        <translation>Libérez de l’espace&#xa0;: bien des disques et systèmes de fichiers ralentissent une fois pleins.</translation>
     </message>
     <message>
         <source>Choose a larger size, and switch on Bypass cache.</source>
-        <translation>Choisissez une taille plus grande, et activez « Contourner le cache ».</translation>
+        <translation>Choisissez une taille plus grande, et activez «&#xa0;Contourner le cache&#xa0;».</translation>
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
@@ -2679,11 +2679,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
-        <translation>Le disque derrière ce volume n’est pas visible ; rien ne montre donc ce qu’il a fait lui-même.</translation>
+        <translation>Le disque derrière ce volume n’est pas visible&#xa0;; rien ne montre donc ce qu’il a fait lui-même.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory; no disk was measured.</source>
-        <translation>Ce volume garde ses fichiers en mémoire ; aucun disque n’a été mesuré.</translation>
+        <translation>Ce volume garde ses fichiers en mémoire&#xa0;; aucun disque n’a été mesuré.</translation>
     </message>
     <message>
         <source>Choose a folder on a disk.</source>
@@ -2760,11 +2760,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>What would you like %1 to do?</source>
-        <translation>Que voudriez-vous que %1 fasse ?</translation>
+        <translation>Que voudriez-vous que %1 fasse&#xa0;?</translation>
     </message>
     <message>
         <source>What happened? Steps to reproduce, and what you expected.</source>
-        <translation>Que s’est-il passé ? Étapes pour reproduire, et ce que vous attendiez.</translation>
+        <translation>Que s’est-il passé&#xa0;? Étapes pour reproduire, et ce que vous attendiez.</translation>
     </message>
     <message>
         <source>Email — optional, if you’d like us to get back to you</source>
@@ -2773,7 +2773,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>%1 %2 · %3 · %4 will be attached.</source>
         <extracomment>%1 is the program, %2 its version, %3 the system, %4 the machine</extracomment>
-        <translation>Seront joints : %1 %2 · %3 · %4.</translation>
+        <translation>Seront joints&#xa0;: %1 %2 · %3 · %4.</translation>
     </message>
 </context>
 <context>
@@ -2799,7 +2799,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Report on the web:</source>
-        <translation>Signaler sur le Web :</translation>
+        <translation>Signaler sur le Web&#xa0;:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2843,7 +2843,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Shaded: the last third of each test, whose median is the sustained rate. Triangles: peak and lowest rate.</source>
-        <translation>Zone ombrée : le dernier tiers de chaque test, dont la médiane est le débit soutenu. Triangles : débit de pic et débit minimal.</translation>
+        <translation>Zone ombrée&#xa0;: le dernier tiers de chaque test, dont la médiane est le débit soutenu. Triangles&#xa0;: débit de pic et débit minimal.</translation>
     </message>
 </context>
 <context>
@@ -2916,11 +2916,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>The file couldn&apos;t be saved: %1</source>
-        <translation>Impossible d’enregistrer le fichier : %1</translation>
+        <translation>Impossible d’enregistrer le fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Saved as “%1”</source>
-        <translation>Enregistré sous « %1 »</translation>
+        <translation>Enregistré sous «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -2928,11 +2928,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>Not the disk’s figure: %1</source>
         <extracomment>Names of tests follow</extracomment>
-        <translation>Ne vient pas du disque : %1</translation>
+        <translation>Ne vient pas du disque&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not the disk’s figures: %1</source>
-        <translation>Ne viennent pas du disque : %1</translation>
+        <translation>Ne viennent pas du disque&#xa0;: %1</translation>
     </message>
     <message>
         <source>Random %1 read</source>
@@ -3006,7 +3006,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Figures copied</source>
@@ -3167,7 +3167,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>%1: %2</source>
         <extracomment>%1 is the name of a test, %2 a sentence on it</extracomment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1, peak</source>
@@ -3231,7 +3231,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>%1:</source>
         <extracomment>%1 is the name of a figure, which follows</extracomment>
-        <translation>%1 :</translation>
+        <translation>%1&#xa0;:</translation>
     </message>
     <message>
         <source>%1  (attention)</source>
@@ -3358,11 +3358,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>The image couldn&apos;t be saved: %1</source>
-        <translation>Impossible d’enregistrer l’image : %1</translation>
+        <translation>Impossible d’enregistrer l’image&#xa0;: %1</translation>
     </message>
     <message>
         <source>Saved as “%1”</source>
-        <translation>Enregistré sous « %1 »</translation>
+        <translation>Enregistré sous «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The folder couldn&apos;t be opened.</source>
@@ -3543,11 +3543,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Not known: %1</source>
-        <translation>Inconnu : %1</translation>
+        <translation>Inconnu&#xa0;: %1</translation>
     </message>
     <message>
         <source>No S.M.A.R.T. figures: %1</source>
-        <translation>Pas de valeurs S.M.A.R.T. : %1</translation>
+        <translation>Pas de valeurs S.M.A.R.T.&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -3566,11 +3566,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation>la fenêtre déjà ouverte ne répond pas ; elle fera ce qui a été demandé dès qu’elle le pourra.</translation>
+        <translation>la fenêtre déjà ouverte ne répond pas&#xa0;; elle fera ce qui a été demandé dès qu’elle le pourra.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation>la fenêtre déjà ouverte (processus %1) ne répond pas ; elle fera ce qui a été demandé dès qu’elle le pourra.</translation>
+        <translation>la fenêtre déjà ouverte (processus %1) ne répond pas&#xa0;; elle fera ce qui a été demandé dès qu’elle le pourra.</translation>
     </message>
 </context>
 <context>
@@ -3687,7 +3687,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Looks for a new version about once a day and asks before installing it. Off, Tarnwick only checks when you choose Check for Updates.</source>
-        <translation>Recherche une nouvelle version environ une fois par jour et demande avant de l’installer. Si cette option est désactivée, Tarnwick ne cherche que lorsque vous choisissez « Rechercher des mises à jour ».</translation>
+        <translation>Recherche une nouvelle version environ une fois par jour et demande avant de l’installer. Si cette option est désactivée, Tarnwick ne cherche que lorsque vous choisissez «&#xa0;Rechercher des mises à jour&#xa0;».</translation>
     </message>
     <message>
         <source>Check Now</source>
@@ -3758,7 +3758,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
         <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
-        <translation>%1 : de %2 à %3 %6 en %4, dernier %5 %6.</translation>
+        <translation>%1&#xa0;: de %2 à %3 %6 en %4, dernier %5 %6.</translation>
     </message>
     <message>
         <source>No measurements yet.</source>
@@ -3818,7 +3818,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>%1 %2 %</source>
         <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
-        <translation>%1 %2 %</translation>
+        <translation>%1 %2&#xa0;%</translation>
     </message>
     <message>
         <source>Skip This Version</source>
@@ -3834,7 +3834,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation>Rechercher automatiquement les mises à jour ?</translation>
+        <translation>Rechercher automatiquement les mises à jour&#xa0;?</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
@@ -3921,7 +3921,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>This build’s update server isn’t reached over a secure connection, so nothing was asked of it.</source>
-        <translation>Le serveur de mises à jour de cette version n’est pas accessible par une connexion sécurisée ; rien ne lui a donc été demandé.</translation>
+        <translation>Le serveur de mises à jour de cette version n’est pas accessible par une connexion sécurisée&#xa0;; rien ne lui a donc été demandé.</translation>
     </message>
     <message>
         <source>There is a new version of %1, but the update server doesn’t say what is needed to load it safely.</source>
@@ -3933,11 +3933,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>The download isn’t as long as the update should be, so it was thrown away.</source>
-        <translation>Le fichier téléchargé n’a pas la longueur que devrait avoir la mise à jour ; il a été supprimé.</translation>
+        <translation>Le fichier téléchargé n’a pas la longueur que devrait avoir la mise à jour&#xa0;; il a été supprimé.</translation>
     </message>
     <message>
         <source>The download isn’t signed by the maker of %1, so it was thrown away.</source>
-        <translation>Le fichier téléchargé n’est pas signé par l’éditeur de %1 ; il a été supprimé.</translation>
+        <translation>Le fichier téléchargé n’est pas signé par l’éditeur de %1&#xa0;; il a été supprimé.</translation>
     </message>
     <message>
         <source>There isn’t enough room for the update in the temporary folder.</source>
@@ -4033,7 +4033,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <name>Words</name>
     <message>
         <source>Sustained: the median rate of the test’s last third, which a long copy settles at; peak and lowest are its fastest and its slowest tenth of a second.</source>
-        <translation>Débit soutenu : le débit médian du dernier tiers du test, auquel une longue copie se stabilise ; pic et minimum sont le dixième de seconde le plus rapide et le plus lent.</translation>
+        <translation>Débit soutenu&#xa0;: le débit médian du dernier tiers du test, auquel une longue copie se stabilise&#xa0;; pic et minimum sont le dixième de seconde le plus rapide et le plus lent.</translation>
     </message>
     <message>
         <source>Has data go past the system’s memory, so that the disk is measured and not the cache.</source>
@@ -4049,15 +4049,15 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Reads blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Lit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes : plusieurs à la fois mesureraient la file d’attente du disque et non le temps d’attente ; les IOPS sont le nombre de telles opérations par seconde.</translation>
+        <translation>Lit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: plusieurs à la fois mesureraient la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
     </message>
     <message>
         <source>Writes blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Écrit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes : plusieurs à la fois mesureraient la file d’attente du disque et non le temps d’attente ; les IOPS sont le nombre de telles opérations par seconde.</translation>
+        <translation>Écrit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: plusieurs à la fois mesureraient la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Crée, recherche, renomme et supprime des fichiers vides ; la valeur indique combien il en a été créé par seconde.</translation>
+        <translation>Crée, recherche, renomme et supprime des fichiers vides&#xa0;; la valeur indique combien il en a été créé par seconde.</translation>
     </message>
 </context>
 </TS>

@@ -25,7 +25,7 @@
     <message>
         <source>%1 % – %2</source>
         <extracomment>The title of the window during a run: how much is done, and the program&apos;s name</extracomment>
-        <translation>%1 % – %2</translation>
+        <translation>%1&#xa0;% – %2</translation>
     </message>
 </context>
 <context>
@@ -246,7 +246,7 @@ min %2</source>
     </message>
     <message>
         <source>%1: %2 %</source>
-        <translation>%1: %2 %</translation>
+        <translation>%1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -326,7 +326,7 @@ min %2</source>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Лишь %1 % прочитанного получено с диска. Проверьте больше, чем вмещает память компьютера.</translation>
+        <translation>Лишь %1&#xa0;% прочитанного получено с диска. Проверьте больше, чем вмещает память компьютера.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
@@ -2330,7 +2330,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>%1 % of the check</source>
-        <translation>%1 % проверки</translation>
+        <translation>%1&#xa0;% проверки</translation>
     </message>
     <message>
         <source>in one part</source>
@@ -2376,7 +2376,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1: %2 %</source>
         <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
-        <translation>%1: %2 %</translation>
+        <translation>%1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
@@ -2490,7 +2490,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3850,7 +3850,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1 %2 %</source>
         <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
-        <translation>%1 %2 %</translation>
+        <translation>%1 %2&#xa0;%</translation>
     </message>
     <message>
         <source>Skip This Version</source>

@@ -25,7 +25,7 @@
     <message>
         <source>%1 % – %2</source>
         <extracomment>The title of the window during a run: how much is done, and the program&apos;s name</extracomment>
-        <translation>%1 % – %2</translation>
+        <translation>%1&#xa0;% – %2</translation>
     </message>
 </context>
 <context>
@@ -246,7 +246,7 @@ en düşük %2</translation>
     </message>
     <message>
         <source>%1: %2 %</source>
-        <translation>%1: %2 %</translation>
+        <translation>%1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -326,7 +326,7 @@ en düşük %2</translation>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Okunanların diskten gelen bölümü yalnızca %1 %. Makinenin belleğine sığandan fazlasını denetleyin.</translation>
+        <translation>Okunanların diskten gelen bölümü yalnızca %1&#xa0;%. Makinenin belleğine sığandan fazlasını denetleyin.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
@@ -2292,7 +2292,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>%1 % of the check</source>
-        <translation>Denetim: %1 %</translation>
+        <translation>Denetim: %1&#xa0;%</translation>
     </message>
     <message>
         <source>in one part</source>
@@ -2336,7 +2336,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <message>
         <source>%1: %2 %</source>
         <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
-        <translation>%1: %2 %</translation>
+        <translation>%1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
@@ -2436,7 +2436,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3786,7 +3786,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <message>
         <source>%1 %2 %</source>
         <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
-        <translation>%1 %2 %</translation>
+        <translation>%1 %2&#xa0;%</translation>
     </message>
     <message>
         <source>Skip This Version</source>
