@@ -10,11 +10,13 @@ T.CheckBox {
 
     implicitWidth: words.implicitWidth + leftPadding + rightPadding
     implicitHeight: Math.max(indicator.implicitHeight, words.implicitHeight)
-    leftPadding: Metrics.checkIndent
+    leftPadding: mirrored ? 0 : Metrics.checkIndent
+    rightPadding: mirrored ? Metrics.checkIndent : 0
     hoverEnabled: true
     Accessible.name: text
 
     indicator: TickBox {
+        x: box.mirrored ? box.width - width : 0
         y: Math.round((box.height - height) / 2)
         ticked: box.checked
         idleOutline: box.hovered ? box.palette.link : box.palette.mid

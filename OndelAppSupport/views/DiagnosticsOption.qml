@@ -16,6 +16,7 @@ Column {
     spacing: 4
 
     CheckRow {
+        anchors.left: parent.left
         text: qsTr("Attach diagnostics")
         checked: option.form.attachDiagnostics
         onCheckedChanged: option.form.attachDiagnostics = checked

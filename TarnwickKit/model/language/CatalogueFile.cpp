@@ -9,7 +9,7 @@ namespace {
 constexpr qsizetype magicSize = 16; // QTranslator compares it
 
 /// What stands before each part of the file.
-enum class Part : quint8 { contexts = 0x2f, places = 0x42, messages = 0x69, dependencies = 0x96 };
+enum class FilePart : quint8 { contexts = 0x2f, places = 0x42, messages = 0x69, dependencies = 0x96 };
 
 /// What stands before each part of a message that has a length. A message ends at any other.
 enum class MessagePart : quint8 { translation = 3, source = 6, context = 7, comment = 8 };
@@ -81,15 +81,15 @@ QByteArray wholeCatalogue(QByteArrayView file) {
     QByteArrayView allMessages;
     while (reader.size() > 0 && reader.isWhole()) {
         const QByteArrayView before = reader.rest();
-        const Part part{reader.number<quint8>()};
+        const FilePart part{reader.number<quint8>()};
         const QByteArrayView content = reader.block(reader.number<quint32>());
-        if (part == Part::places)
+        if (part == FilePart::places)
             allPlaces = content;
-        else if (part == Part::messages)
+        else if (part == FilePart::messages)
             allMessages = content;
-        else if (part == Part::dependencies)
+        else if (part == FilePart::dependencies)
             return {};
-        if (part != Part::contexts)
+        if (part != FilePart::contexts)
             whole += before.first(before.size() - reader.size());
     }
     return reader.isWhole() && areWholeMessages(allPlaces, allMessages) ? whole : QByteArray();

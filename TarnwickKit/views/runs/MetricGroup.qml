@@ -84,6 +84,7 @@ GridLayout {
                     anchors.verticalCenter: parent.verticalCenter
                     width: ViewMetrics.barFigureWidth
                     text: line.modelData.text
+                    horizontalAlignment: Text.AlignLeft
                     font: Typeface.mono(11)
                     color: PaletteKey.palette.text2
                     Accessible.ignored: true
