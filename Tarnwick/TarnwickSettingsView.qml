@@ -54,6 +54,8 @@ Item {
 
             SettingMenu {
                 Layout.fillWidth: true
+                Layout.leftMargin: -ViewMetrics.sidebarInset
+                Layout.rightMargin: -ViewMetrics.sidebarInset
                 label: qsTr("Language of the window")
                 options: language.names
                 current: language.chosen

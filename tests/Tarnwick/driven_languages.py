@@ -164,6 +164,42 @@ def checks_of_capacity(start, folder):
             window.press("New Check")
 
 
+def card_of(window):
+    """The bytes of the picture of the stored run."""
+    for picture in home.rglob("*.png"):
+        picture.unlink()
+    window.press("Backup", "push button")
+    window.press("Share")
+    window.find("Copy Image", "menu item")
+    return window.until("the picture", lambda: next(home.rglob("Ondel*.png"), None)).read_bytes()
+
+
+def follows_the_setting(program, plugin, folder):
+    """It overrides the desktop's language from the next start on. Pictures to share stay English if that is wanted."""
+    saved_runs.lay_down([saved_runs.run(1)])
+    desktop = plugin | {"LC_ALL": "", "LANG": "en_US.UTF-8", "LANGUAGE": "fr"}
+    with translated.Window(program, folder, words=str, env=desktop | {"LANGUAGE": "en"}) as window:
+        english = card_of(window)
+        window.keys("Escape")
+        window.press("Tarnwick", "menu item")
+        window.press("Settings…", "menu item")
+        window.press("Language of the window")
+        window.press("Deutsch", "menu item")
+        window.find("The window follows when Tarnwick is started the next time.")
+        window.terminate()
+    german = translated.words_of("de")
+    for name, is_english in (("as it is", False), ("in English", True)):
+        with translated.Window(program, folder, words=german, env=desktop) as window:
+            window.find("Ready to benchmark")
+            check((card_of(window) == english) == is_english, f"the picture is not {name}")
+            window.keys("Escape")
+            window.press("&Tarnwick", "menu item")
+            window.press("Settings…", "menu item")
+            window.press("Shared pictures in English", "check box")
+            window.until("the switch", lambda: window.shows(window.look("Shared pictures in English", "check box"), "CHECKED") != is_english)
+            window.terminate()
+
+
 def every_language(program, plugin, folder):
     """The window opens in its language, which LANGUAGE names, with room for a result."""
     saved_runs.lay_down([saved_runs.run(1)])
@@ -214,5 +250,5 @@ if __name__ == "__main__":
             for case in driver.chosen((before_a_run, during_and_after_a_run, checks_of_capacity), only):
                 case(start, pathlib.Path(name))
         del plugin["TARNWICK_CATALOGUE"]
-        for case in driver.chosen((every_language,), only):
+        for case in driver.chosen((every_language, follows_the_setting), only):
             case(program, plugin, pathlib.Path(name))
