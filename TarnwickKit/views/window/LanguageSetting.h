@@ -13,7 +13,7 @@ class LanguageSetting : public QObject {
     QML_ELEMENT
 
     /// The desktop's language, and then every language by the name that its speakers read.
-    Q_PROPERTY(QStringList names READ names CONSTANT)
+    Q_PROPERTY(QList<QString> names READ names CONSTANT)
     /// Index into `names`. The texts follow when the program is started the next time.
     Q_PROPERTY(int chosen READ chosen WRITE choose NOTIFY changed)
     /// The choice is another than the one at the program's start.
