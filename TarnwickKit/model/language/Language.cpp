@@ -140,7 +140,7 @@ QStringList Language::wanted(const Environment& environment) {
 
 QString Language::best(const QStringList& wanted) {
     for (const QString& locale : wanted)
-        if (const QString code = catalogueFor(nameOf(locale).replace(u'-', u'_')); !code.isEmpty())
+        if (QString code = catalogueFor(nameOf(locale).replace(u'-', u'_')); !code.isEmpty())
             return code;
     return u"en"_s;
 }
