@@ -31,8 +31,9 @@ QVariantList ChartCursor::values() const {
     for (const ChartSeries* series : m_chart->series())
         if (const auto rate = rateAt(series->points(), *m_time))
             values << QVariant::fromValue(ChartValue{
-                .text = QStringLiteral("%1: %2 %3")
-                            .arg(series->name(), model::Format::mbValue(*rate * 1e6), series->unit()),
+                .text = QStringLiteral("%1: %2").arg(
+                    series->name(),
+                    model::Format::leftToRight(model::Format::mbValue(*rate * 1e6) + u' ' + series->unit())),
                 .color = series->color(),
                 .y = plot.map({*m_time, *rate}).y()});
     return values;

@@ -108,11 +108,13 @@ TEST(Language, HasEachCatalogue) {
     for (const Language::Choice& language : Language::all()) {
         const QString said = inChild([&] {
             const QString code = Language::install(language.code);
-            return QStringList{code, Language::isRightToLeft() ? u"left"_s : u"right"_s, blockSize()}.join(
-                u'|');
+            return QStringList{code, Language::isRightToLeft() ? u"left"_s : u"right"_s, Format::block(4096),
+                               blockSize()}
+                .join(u'|');
         });
         const bool isToTheLeft = language.code == u"ar" || language.code == u"he";
-        const QString beginning = language.code + (isToTheLeft ? u"|left|"_s : u"|right|"_s);
+        const QString beginning =
+            language.code + (isToTheLeft ? u"|left|\u20664 KiB\u2069|"_s : u"|right|4 KiB|"_s);
         EXPECT_TRUE(said.startsWith(beginning) && said != beginning) << said.toStdString();
         EXPECT_EQ(said.endsWith(u"|Block size"), language.code == u"en") << said.toStdString();
     }
