@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """Is every text translated, and is there room for it? Goes through the window's states in the pseudo-language, from left to right
 and from right to left, and through the most crowded one in every language. Usage: driven_languages.py PROGRAM LRELEASE [CASE]...
+PICTURES=FOLDER keeps a picture of each state there.
 """
 
 import contextlib
