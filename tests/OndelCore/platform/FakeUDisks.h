@@ -95,38 +95,64 @@ inline UDisksObjects oneDrive(qulonglong deviceNumber, const QString& interface,
     return objects;
 }
 
-/// Serves org.freedesktop.UDisks2 on a bus, in a thread of its own. Fails: throws std::runtime_error if the
-/// bus refuses the name.
-class FakeUDisks {
+/// Serves an object and what lies under its path on a bus, in a thread of its own. Fails: throws
+/// std::runtime_error if the bus refuses the name.
+class ServedObject {
 public:
-    FakeUDisks(const std::string& address, UDisksScript script)
-        : m_name(u"fake-udisks"_s)
-        , m_service(std::make_unique<Service>(std::move(script))) {
-        qDBusRegisterMetaType<UDisksInterfaces>();
-        qDBusRegisterMetaType<UDisksObjects>();
-        QDBusConnection connection = QDBusConnection::connectToBus(QString::fromStdString(address), m_name);
-        const bool isRegistered = connection.registerVirtualObject(u"/org/freedesktop/UDisks2"_s,
-                                                                   m_service.get(), QDBusConnection::SubPath);
-        m_service->moveToThread(&m_thread);
+    ServedObject(const std::string& address, const QString& service, QString path, QDBusVirtualObject& object)
+        : m_name(u"serving-"_s + service)
+        , m_path(std::move(path))
+        , m_object(object) {
+        QDBusConnection bus = QDBusConnection::connectToBus(QString::fromStdString(address), m_name);
+        const bool isRegistered = bus.registerVirtualObject(m_path, &m_object, QDBusConnection::SubPath);
+        m_object.moveToThread(&m_thread);
         m_thread.start();
-        if (!isRegistered || !connection.registerService(u"org.freedesktop.UDisks2"_s))
+        if (!isRegistered || !bus.registerService(service)) {
+            end();
             throw std::runtime_error("the bus does not take the service");
+        }
     }
 
-    ~FakeUDisks() {
+    ~ServedObject() { end(); }
+
+    ServedObject(const ServedObject&) = delete;
+    ServedObject& operator=(const ServedObject&) = delete;
+
+private:
+    /// Qt closes the connection later, on its own thread, and still calls the objects that it knows then.
+    /// So it has to forget this one first.
+    void end() {
+        QDBusConnection(m_name).unregisterObject(m_path);
+        m_object.disconnect();
         QDBusConnection::disconnectFromBus(m_name);
         m_thread.quit();
         m_thread.wait();
     }
 
+    QThread m_thread;
+    QString m_name;
+    QString m_path;
+    QDBusVirtualObject& m_object;
+};
+
+/// Serves org.freedesktop.UDisks2 on a bus. Fails: throws std::runtime_error if the bus refuses the name.
+class FakeUDisks {
+public:
+    FakeUDisks(const std::string& address, UDisksScript script)
+        : m_service(std::move(script))
+        , m_served(address, u"org.freedesktop.UDisks2"_s, u"/org/freedesktop/UDisks2"_s, m_service) {}
+
     /// The number of S.M.A.R.T. calls without the options `nowakeup` and `auth.no_user_interaction`.
-    int carelessCalls() const { return m_service->carelessCalls; }
+    int carelessCalls() const { return m_service.carelessCalls; }
 
 private:
     class Service : public QDBusVirtualObject {
     public:
         explicit Service(UDisksScript script)
-            : m_script(std::move(script)) {}
+            : m_script(std::move(script)) {
+            qDBusRegisterMetaType<UDisksInterfaces>();
+            qDBusRegisterMetaType<UDisksObjects>();
+        }
 
         QString introspect(const QString&) const override { return {}; }
 
@@ -174,9 +200,8 @@ private:
         UDisksScript m_script;
     };
 
-    QThread m_thread;
-    QString m_name;
-    std::unique_ptr<Service> m_service;
+    Service m_service;
+    ServedObject m_served;
 };
 
 } // namespace test

@@ -40,19 +40,9 @@ TEST(PortalProxies, AreWhatThePortalAnswers) {
          {std::pair(QVariant(QStringList{u"http://a.example:1"_s, u"direct://"_s}), proxies),
           std::pair(QVariant(5), std::vector<std::string>())}) {
         FakePortal portal(answer);
-        QThread thread;
-        const QString name = u"fake-portal"_s;
-        {
-            auto connection = QDBusConnection::connectToBus(QString::fromStdString(bus.address()), name);
-            connection.registerVirtualObject(u"/org/freedesktop/portal/desktop"_s, &portal);
-            portal.moveToThread(&thread);
-            thread.start();
-            ASSERT_TRUE(connection.registerService(u"org.freedesktop.portal.Desktop"_s));
-        }
+        const test::ServedObject served(bus.address(), u"org.freedesktop.portal.Desktop"_s,
+                                        u"/org/freedesktop/portal/desktop"_s, portal);
         EXPECT_EQ(portalProxies(url, bus.address()), expected);
-        QDBusConnection::disconnectFromBus(name);
-        thread.quit();
-        thread.wait();
     }
 }
 
