@@ -2196,7 +2196,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>%1 is needed where the FILE&apos;s name does not end in .tarnwickrun, .csv, .json, .md or .txt</source>
-        <translation>%1 ist nötig, wo der Name von FILE nicht auf .tarnwickrun, .csv, .json, .md oder .txt endet</translation>
+        <translation>%1 ist nötig, wenn der Name von FILE nicht auf .tarnwickrun, .csv, .json, .md oder .txt endet</translation>
     </message>
     <message>
         <source>%1 needs either RUNs or %2</source>
@@ -2643,7 +2643,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation>Rechnen Sie mit der niedrigeren Rate, wo mehr als das auf einmal übertragen wird.</translation>
+        <translation>Rechnen Sie mit der niedrigeren Rate, wenn mehr als das auf einmal übertragen wird.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
@@ -4049,11 +4049,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Reads blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Liest Blöcke an verstreuten Stellen der Datei, einen nach dem anderen, wie die meisten Programme: Mehrere zugleich würden die Warteschlange des Laufwerks messen und nicht, wie lange man wartet; IOPS sind solche Operationen pro Sekunde.</translation>
+        <translation>Liest Blöcke an verstreuten Stellen der Datei, einen nach dem anderen, wie die meisten Programme: Mehrere zugleich zu lesen würde die Warteschlange des Laufwerks messen und nicht, wie lange man wartet; IOPS sind solche Operationen pro Sekunde.</translation>
     </message>
     <message>
         <source>Writes blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Schreibt Blöcke an verstreuten Stellen der Datei, einen nach dem anderen, wie die meisten Programme: Mehrere zugleich würden die Warteschlange des Laufwerks messen und nicht, wie lange man wartet; IOPS sind solche Operationen pro Sekunde.</translation>
+        <translation>Schreibt Blöcke an verstreuten Stellen der Datei, einen nach dem anderen, wie die meisten Programme: Mehrere zugleich zu schreiben würde die Warteschlange des Laufwerks messen und nicht, wie lange man wartet; IOPS sind solche Operationen pro Sekunde.</translation>
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
