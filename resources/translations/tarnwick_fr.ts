@@ -2228,7 +2228,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>one FOLDER at a time, not also %1</source>
-        <translation>un seul FOLDER à la fois, et non aussi %1</translation>
+        <translation>un seul FOLDER à la fois, %1 est de trop</translation>
     </message>
     <message>
         <source>the FOLDER&apos;s name is empty</source>
@@ -2448,8 +2448,8 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message numerus="yes">
         <source>%1 of %2 operations</source>
         <translation>
-            <numerusform>%1 opération sur %2</numerusform>
-            <numerusform>%1 opérations sur %2</numerusform>
+            <numerusform>%1 sur %2 opération</numerusform>
+            <numerusform>%1 sur %2 opérations</numerusform>
         </translation>
     </message>
     <message>
@@ -2764,7 +2764,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>What happened? Steps to reproduce, and what you expected.</source>
-        <translation>Que s’est-il passé&#xa0;? Étapes pour reproduire, et ce que vous attendiez.</translation>
+        <translation>Que s’est-il passé&#xa0;? Étapes pour reproduire le problème, et ce que vous attendiez.</translation>
     </message>
     <message>
         <source>Email — optional, if you’d like us to get back to you</source>
@@ -4049,11 +4049,11 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Reads blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Lit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: plusieurs à la fois mesureraient la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
+        <translation>Lit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: en lire plusieurs à la fois mesurerait la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
     </message>
     <message>
         <source>Writes blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Écrit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: plusieurs à la fois mesureraient la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
+        <translation>Écrit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: en écrire plusieurs à la fois mesurerait la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
