@@ -1654,12 +1654,12 @@ Apre l’analizzatore di velocità dei dischi e di volumi, sceglie la prima cart
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation>%1: lo svuotamento dei buffer sul disco non è riuscito (%2); forse non tutto ciò che è stato scritto è presente.</translation>
+        <translation>%1: lo svuotamento dei buffer sul disco non è riuscito (%2); potrebbe mancare una parte di ciò che è stato scritto.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation>Preparazione: lo svuotamento dei buffer sul disco non è riuscito (%1); forse non tutto ciò che è stato scritto è presente.</translation>
+        <translation>Preparazione: lo svuotamento dei buffer sul disco non è riuscito (%1); potrebbe mancare una parte di ciò che è stato scritto.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
@@ -1963,7 +1963,7 @@ sequentialRead, randomRead, randomWrite, fileOps (predefinito: tutti)</translati
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
-        <translation>Secondi minimi tra due campionamenti (predefinito: 0.02)</translation>
+        <translation>Intervallo minimo tra due campionamenti, in secondi (predefinito: 0.02)</translation>
     </message>
     <message>
         <source>Print one JSON object: the plan, every figure, every sample, date,
@@ -2643,7 +2643,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation>Quando si trasferisce di più in una volta, aspettati la velocità inferiore.</translation>
+        <translation>Quando si trasferisce di più in una volta, aspettati la velocità più bassa.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
