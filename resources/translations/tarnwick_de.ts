@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>Couldn’t write there. The volume may be read-only, or the folder may not allow it.</source>
-        <translation>Dort kann nicht geschrieben werden. Möglicherweise ist der Datenträger nur lesbar, oder der Ordner lässt es nicht zu.</translation>
+        <translation>Dort konnte nicht geschrieben werden. Möglicherweise ist der Datenträger nur lesbar, oder der Ordner lässt es nicht zu.</translation>
     </message>
     <message>
         <source>The test file is too small for the random block size.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>The volume became full during the run, or your share of it is used up.</source>
-        <translation>Der Datenträger ist während der Messung voll geworden, oder Ihr Anteil daran ist aufgebraucht.</translation>
+        <translation>Der Datenträger ist während der Messung voll geworden, oder Ihr Kontingent darauf ist aufgebraucht.</translation>
     </message>
     <message>
         <source>The file system, or a limit of this session, does not allow files of this size.</source>
@@ -302,7 +302,7 @@ min. %2</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Dieses Dateisystem reserviert keinen Speicher, ohne ihn zu beschreiben; die Stichproben konnten daher nicht verteilt werden. Das Ergebnis sagt nichts über die Größe des Datenträgers: Führen Sie eine Prüfung durch, die nicht schnell ist.</translation>
+        <translation>Dieses Dateisystem reserviert keinen Speicher, ohne ihn zu beschreiben; die Stichproben konnten daher nicht verteilt werden. Das Ergebnis sagt nichts über die Größe des Datenträgers: Führen Sie eine Prüfung durch, die sich nicht auf Stichproben beschränkt.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only: what lies between them was not looked at.</source>
@@ -522,7 +522,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Your share of the volume was used up after %1 of %2; these hold what was written.</source>
-        <translation>Ihr Anteil am Datenträger war nach %1 von %2 aufgebraucht; diese enthalten, was geschrieben wurde.</translation>
+        <translation>Ihr Kontingent auf dem Datenträger war nach %1 von %2 aufgebraucht; diese enthalten, was geschrieben wurde.</translation>
     </message>
     <message>
         <source>The volume was full after %1 of %2; these hold what was written.</source>
@@ -738,7 +738,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
         <translation>Aufruf: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
-Öffnet die Laufwerks- und Datenträgeranalyse, wählt den ersten Ordner und zeigt Messdateien (*.tarnwickrun).
+Öffnet die Laufwerkstempo- und Datenträgeranalyse, wählt den ersten Ordner und zeigt Messdateien (*.tarnwickrun).
   --check-capacity  weiter zur Prüfung des Datenträgers dieses Ordners
   --choose-folder   nach einem Ordner fragen
 </translation>
@@ -1136,7 +1136,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>Load cycles</source>
         <extracomment>How often the heads were parked and loaded again</extracomment>
-        <translation>Kopf-Ladezyklen</translation>
+        <translation>Kopf-Parkzyklen</translation>
     </message>
     <message>
         <source>Unsafe shutdowns</source>
@@ -1161,7 +1161,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>Controller busy</source>
         <extracomment>How long the drive&apos;s controller was busy</extracomment>
-        <translation>Controller ausgelastet</translation>
+        <translation>Controller-Aktivzeit</translation>
     </message>
     <message>
         <source>Reallocated sectors</source>
@@ -1736,7 +1736,7 @@ Titel ersetzt das vorige; es bleibt, bis Ihre Sitzung endet oder das System sein
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation>Stichproben über den Bereich, in Sekunden: findet eine falsche
+        <translation>Stichproben im ganzen Bereich, in wenigen Sekunden: findet eine falsche
 Kapazität und beweist nichts, wenn keine gefunden wird</translation>
     </message>
     <message>
@@ -1764,7 +1764,7 @@ schreibt nur Stichproben. Dateien einer gewaltsam beendeten Prüfung entfernt di
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation>Rückgabewert: 0 nichts Falsches gefunden, 1 fehlgeschlagen, 2 falscher Aufruf, 3 Mängel
+        <translation>Rückgabewert: 0 keine Mängel gefunden, 1 fehlgeschlagen, 2 falscher Aufruf, 3 Mängel
 gefunden, 130 durch ein Signal gestoppt; was bis dahin gefunden wurde, wird ausgegeben.</translation>
     </message>
     <message>
@@ -1833,7 +1833,7 @@ eingeschaltet. Woher die Angaben zum Zustand kommen oder warum es keine gibt, sa
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation>Ondel Tarnwick in einem Terminal: wie schnell ein Laufwerk ist, auf ihm gemessen und ohne Spuren.</translation>
+        <translation>Ondel Tarnwick in einem Terminal: wie schnell ein Laufwerk ist, auf ihm gemessen, ohne Spuren zu hinterlassen.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
@@ -1857,16 +1857,16 @@ eingeschaltet. Woher die Angaben zum Zustand kommen oder warum es keine gibt, sa
     </message>
     <message>
         <source>a line for each run, newest first, which begins with its name (default)</source>
-        <translation>eine Zeile pro Messung, die neueste zuerst, die mit ihrem Namen beginnt (Vorgabe)</translation>
+        <translation>pro Messung eine Zeile, die mit deren Namen beginnt, die neueste zuerst (Vorgabe)</translation>
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation>Messungen ausgeben wie „show“, in der Form von --format</translation>
+        <translation>Messungen ausgeben wie „show“, im Format von --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation>Messungen in die FILE von --output schreiben, in der Form von --format oder der
+        <translation>Messungen in die FILE von --output schreiben, im Format von --format oder dem
 des Namens von FILE: .csv, .json, .md, .txt, oder .tarnwickrun für eine Messung</translation>
     </message>
     <message>
@@ -1878,7 +1878,7 @@ des Namens von FILE: .csv, .json, .md, .txt, oder .tarnwickrun für eine Messung
 &quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
 file only if it is empty or holds runs; with --force any other file too.</source>
         <translation>Ein RUN wird so benannt wie in der Liste, oder mit vier oder mehr Zeichen, mit denen seine Kennung beginnt. Ohne RUN sind
-alle Messungen gemeint; „delete“ verlangt dann --all. Ein geöffnetes Fenster zieht nach, sobald Sie zu ihm zurückkehren.
+alle Messungen gemeint; „delete“ verlangt dann --all. Ein geöffnetes Fenster wird aktualisiert, sobald Sie zu ihm zurückkehren.
 --output ersetzt eine vorhandene Datei nur, wenn sie leer ist oder Messungen enthält; mit --force auch jede andere.</translation>
     </message>
     <message>
@@ -1947,7 +1947,7 @@ sequentialRead, randomRead, randomWrite, fileOps (Vorgabe: alle)</translation>
     </message>
     <message>
         <source>Bytes per random operation (default: 4KiB)</source>
-        <translation>Bytes pro zufälliger Operation (Vorgabe: 4KiB)</translation>
+        <translation>Bytes pro zufällige Operation (Vorgabe: 4KiB)</translation>
     </message>
     <message>
         <source>Operations in each random test (default: 10000)</source>
@@ -2003,7 +2003,7 @@ Fensters (history.json) und die Ausgabe von „show --format json“ haben mehre
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation>Als Text vergleichen Balken die Messwerte mehrerer Messungen: Der größte jeder Art füllt seine Spur, und „--“ steht, wo eine
+        <translation>Als Text vergleichen Balken die Messwerte mehrerer Messungen: Der größte jeder Art füllt die ganze Breite, und „--“ steht, wo eine
 Messung keinen hat. Die Zeilen passen ins Terminal oder in 80 Spalten. Eine Markdown-Tabelle ist für Foren. CSV hat eine Zeile
 pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON ist eine Liste der Inhalte von Messdateien.</translation>
     </message>
@@ -2135,7 +2135,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>%1 is a year at most</source>
-        <translation>%1 ist höchstens ein Jahr</translation>
+        <translation>%1 darf höchstens ein Jahr sein</translation>
     </message>
     <message>
         <source>there is no option %1</source>
@@ -2196,7 +2196,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>%1 is needed where the FILE&apos;s name does not end in .tarnwickrun, .csv, .json, .md or .txt</source>
-        <translation>%1 ist nötig, wo der Name von FILE nicht auf .tarnwickrun, .csv, .json, .md oder .txt endet</translation>
+        <translation>%1 ist nötig, wenn der Name von FILE nicht auf .tarnwickrun, .csv, .json, .md oder .txt endet</translation>
     </message>
     <message>
         <source>%1 needs either RUNs or %2</source>
@@ -2587,11 +2587,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation>Andere haben während des Tests %1 auf demselben Laufwerk übertragen.</translation>
+        <translation>Andere Programme haben während des Tests %1 auf demselben Laufwerk übertragen.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
-        <translation>Die %1-Anbindung des Laufwerks läuft mit %2; das Laufwerk könnte %3.</translation>
+        <translation>Die %1-Anbindung des Laufwerks läuft mit %2; das Laufwerk beherrscht %3.</translation>
     </message>
     <message>
         <source>The partition begins %1 into a physical block of %2.</source>
@@ -2643,7 +2643,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation>Rechnen Sie mit der niedrigeren Rate, wo mehr als das auf einmal übertragen wird.</translation>
+        <translation>Rechnen Sie mit der niedrigeren Rate, wenn mehr als das auf einmal übertragen wird.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
@@ -2671,7 +2671,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Choose a larger size, and switch on Bypass cache.</source>
-        <translation>Wählen Sie eine größere Größe, und schalten Sie „Cache umgehen“ ein.</translation>
+        <translation>Wählen Sie bei „Größe“ einen höheren Wert, und schalten Sie „Cache umgehen“ ein.</translation>
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
@@ -2679,7 +2679,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
-        <translation>Das Laufwerk hinter diesem Datenträger ist nicht sichtbar; daher zeigt nichts, was es selbst geleistet hat.</translation>
+        <translation>Das Laufwerk hinter diesem Datenträger ist nicht sichtbar; daher lässt sich nicht sagen, was es selbst geleistet hat.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory; no disk was measured.</source>
@@ -2729,7 +2729,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <name>ReportFooter</name>
     <message>
         <source>Disk speed &amp; volume analyzer</source>
-        <translation>Laufwerkstempo und Datenträgeranalyse</translation>
+        <translation>Laufwerkstempo- und Datenträgeranalyse</translation>
     </message>
     <message>
         <source>Scan to benchmark your own</source>
@@ -3475,7 +3475,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Case-insensitive</source>
-        <translation>Groß/klein egal</translation>
+        <translation>Groß/klein irrelevant</translation>
     </message>
     <message>
         <source>%1 · %2 external</source>
@@ -3566,11 +3566,11 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <name>TarnwickAppText</name>
     <message>
         <source>the window that is already open does not answer; it will do what was asked as soon as it can.</source>
-        <translation>das bereits geöffnete Fenster antwortet nicht; es erledigt das Verlangte, sobald es kann.</translation>
+        <translation>das bereits geöffnete Fenster antwortet nicht; es führt den Auftrag aus, sobald es kann.</translation>
     </message>
     <message>
         <source>the window that is already open (process %1) does not answer; it will do what was asked as soon as it can.</source>
-        <translation>das bereits geöffnete Fenster (Prozess %1) antwortet nicht; es erledigt das Verlangte, sobald es kann.</translation>
+        <translation>das bereits geöffnete Fenster (Prozess %1) antwortet nicht; es führt den Auftrag aus, sobald es kann.</translation>
     </message>
 </context>
 <context>
@@ -3695,7 +3695,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>This build doesn’t update itself. Development builds are built without the update feed, so they can’t replace themselves with a release.</source>
-        <translation>Diese Ausgabe aktualisiert sich nicht selbst. Entwicklerversionen werden ohne Aktualisierungsquelle erstellt und können sich daher nicht durch eine veröffentlichte Version ersetzen.</translation>
+        <translation>Diese Version aktualisiert sich nicht selbst. Entwicklerversionen werden ohne Aktualisierungsquelle erstellt und können sich daher nicht durch eine veröffentlichte Version ersetzen.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -3921,7 +3921,7 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>This build’s update server isn’t reached over a secure connection, so nothing was asked of it.</source>
-        <translation>Der Aktualisierungsserver dieser Ausgabe wird nicht über eine sichere Verbindung erreicht, daher wurde nichts bei ihm angefragt.</translation>
+        <translation>Der Aktualisierungsserver dieser Version wird nicht über eine sichere Verbindung erreicht, daher wurde nichts bei ihm angefragt.</translation>
     </message>
     <message>
         <source>There is a new version of %1, but the update server doesn’t say what is needed to load it safely.</source>
@@ -4049,15 +4049,15 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     </message>
     <message>
         <source>Reads blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Liest Blöcke an verstreuten Stellen der Datei, einen nach dem anderen, wie die meisten Programme: Mehrere zugleich würden die Warteschlange des Laufwerks messen und nicht, wie lange man wartet; IOPS sind solche Operationen pro Sekunde.</translation>
+        <translation>Liest Blöcke an verstreuten Stellen der Datei, einen nach dem anderen, wie die meisten Programme: Mehrere zugleich zu lesen würde die Warteschlange des Laufwerks messen und nicht, wie lange man wartet; IOPS sind solche Operationen pro Sekunde.</translation>
     </message>
     <message>
         <source>Writes blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Schreibt Blöcke an verstreuten Stellen der Datei, einen nach dem anderen, wie die meisten Programme: Mehrere zugleich würden die Warteschlange des Laufwerks messen und nicht, wie lange man wartet; IOPS sind solche Operationen pro Sekunde.</translation>
+        <translation>Schreibt Blöcke an verstreuten Stellen der Datei, einen nach dem anderen, wie die meisten Programme: Mehrere zugleich zu schreiben würde die Warteschlange des Laufwerks messen und nicht, wie lange man wartet; IOPS sind solche Operationen pro Sekunde.</translation>
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Legt leere Dateien an, sucht sie, benennt sie um und löscht sie; der Messwert gibt an, wie viele pro Sekunde angelegt wurden.</translation>
+        <translation>Legt leere Dateien an, fragt sie ab, benennt sie um und löscht sie; der Messwert gibt an, wie viele pro Sekunde angelegt wurden.</translation>
     </message>
 </context>
 </TS>

@@ -66,7 +66,7 @@
     </message>
     <message>
         <source>The test file is too small for the random block size.</source>
-        <translation>Le fichier de test est trop petit pour la taille de bloc aléatoire.</translation>
+        <translation>Le fichier de test est trop petit pour la taille du bloc aléatoire.</translation>
     </message>
     <message>
         <source>Sequential write</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>The volume became full during the run, or your share of it is used up.</source>
-        <translation>Le volume s’est rempli pendant la mesure, ou votre part du volume est épuisée.</translation>
+        <translation>Le volume s’est rempli pendant la mesure, ou votre quota sur ce volume est épuisé.</translation>
     </message>
     <message>
         <source>The file system, or a limit of this session, does not allow files of this size.</source>
@@ -302,7 +302,7 @@ min %2</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Ce système de fichiers ne réserve pas d’espace sans l’écrire&#xa0;; les échantillons n’ont donc pas pu être répartis. Le résultat ne dit rien de la taille du volume&#xa0;: lancez une vérification qui ne soit pas rapide.</translation>
+        <translation>Ce système de fichiers ne réserve pas d’espace sans l’écrire&#xa0;; les échantillons n’ont donc pas pu être répartis. Le résultat ne dit rien de la taille du volume&#xa0;: lancez une vérification qui ne se limite pas à des échantillons.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only: what lies between them was not looked at.</source>
@@ -338,7 +338,7 @@ min %2</translation>
     </message>
     <message>
         <source>The check was stopped: what it had not read back is not known.</source>
-        <translation>La vérification a été arrêtée&#xa0;: ce qu’elle n’avait pas relu n’est pas connu.</translation>
+        <translation>La vérification a été arrêtée&#xa0;: on ne sait rien de ce qu’elle n’avait pas relu.</translation>
     </message>
     <message>
         <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
@@ -522,7 +522,7 @@ min %2</translation>
     </message>
     <message>
         <source>Your share of the volume was used up after %1 of %2; these hold what was written.</source>
-        <translation>Votre part du volume était épuisée après %1 sur %2&#xa0;; ceux-ci contiennent ce qui a été écrit.</translation>
+        <translation>Votre quota sur le volume était épuisé après %1 sur %2&#xa0;; ceux-ci contiennent ce qui a été écrit.</translation>
     </message>
     <message>
         <source>The volume was full after %1 of %2; these hold what was written.</source>
@@ -738,7 +738,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
         <translation>Utilisation&#xa0;: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
-Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et montre les fichiers de mesure (*.tarnwickrun).
+Ouvre l’analyseur de vitesse des disques et de volumes, choisit le premier dossier et montre les fichiers de mesure (*.tarnwickrun).
   --check-capacity  passer à la vérification du volume de ce dossier
   --choose-folder   demander un dossier
 </translation>
@@ -1131,16 +1131,16 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     </message>
     <message>
         <source>Power cycles</source>
-        <translation>Cycles d’alimentation</translation>
+        <translation>Mises sous tension</translation>
     </message>
     <message>
         <source>Load cycles</source>
         <extracomment>How often the heads were parked and loaded again</extracomment>
-        <translation>Cycles de chargement des têtes</translation>
+        <translation>Cycles de parcage des têtes</translation>
     </message>
     <message>
         <source>Unsafe shutdowns</source>
-        <translation>Arrêts non sécurisés</translation>
+        <translation>Arrêts brutaux</translation>
     </message>
     <message>
         <source>Data written</source>
@@ -1246,7 +1246,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     </message>
     <message>
         <source>%1 is no block device</source>
-        <translation>%1 n’est pas un périphérique de bloc</translation>
+        <translation>%1 n’est pas un périphérique bloc</translation>
     </message>
     <message>
         <source>%1 does not tell whether it sleeps, so it was left alone</source>
@@ -1654,12 +1654,12 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation>%1&#xa0;: le vidage des tampons sur le disque a échoué (%2)&#xa0;; tout ce qui a été écrit n’y est peut-être pas.</translation>
+        <translation>%1&#xa0;: le vidage des tampons sur le disque a échoué (%2)&#xa0;; une partie de ce qui a été écrit n’y est peut-être pas.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation>Préparation&#xa0;: le vidage des tampons sur le disque a échoué (%1)&#xa0;; tout ce qui a été écrit n’y est peut-être pas.</translation>
+        <translation>Préparation&#xa0;: le vidage des tampons sur le disque a échoué (%1)&#xa0;; une partie de ce qui a été écrit n’y est peut-être pas.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
@@ -1700,7 +1700,7 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
     </message>
     <message>
         <source>The picture could not be drawn, or not be written to your temporary folder.</source>
-        <translation>L’image n’a pas pu être dessinée, ou pas écrite dans votre dossier temporaire.</translation>
+        <translation>L’image n’a pas pu être dessinée, ou n’a pas pu être écrite dans votre dossier temporaire.</translation>
     </message>
 </context>
 <context>
@@ -1752,10 +1752,10 @@ une fausse capacité, et ne prouve rien si aucune n’est trouvée</translation>
 cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
-        <translation>Écrit des fichiers dont chaque bloc diffère dans un dossier caché de FOLDER, les relit hors du cache du système, compare le
-tout et les supprime, même après Ctrl+C. Aucun de vos fichiers n’est touché&#xa0;; mais sur un appareil à fausse capacité, toute
+        <translation>Écrit dans un dossier caché de FOLDER des fichiers dont chaque bloc diffère, les relit en contournant le cache du système, compare le
+tout et les supprime, même après Ctrl+C. Aucun de vos fichiers n’est touché&#xa0;; mais sur un périphérique à fausse capacité, toute
 écriture au-delà de sa taille réelle peut détruire ce qui s’y trouve, comme n’importe quel usage. --quick n’écrit que des
-échantillons. Les fichiers d’une vérification tuée sont supprimés par la prochaine mesure ou vérification dans FOLDER.</translation>
+échantillons. Les fichiers d’une vérification interrompue de force sont supprimés par la prochaine mesure ou vérification dans FOLDER.</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
@@ -1837,7 +1837,7 @@ est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, �
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
-        <translation>Afficher ce texte, ou derrière une commande les options de celle-ci</translation>
+        <translation>Afficher ce texte, ou, après une commande, les options de celle-ci</translation>
     </message>
     <message>
         <source>Show the version</source>
@@ -1861,12 +1861,12 @@ est activé. D’où vient son état de santé, ou pourquoi il n’y en a pas, �
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation>afficher des mesures comme le fait «&#xa0;show&#xa0;», dans la forme donnée par --format</translation>
+        <translation>afficher des mesures comme le fait «&#xa0;show&#xa0;», au format donné par --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation>écrire des mesures dans le FILE de --output, dans la forme de --format ou du
+        <translation>écrire des mesures dans le FILE de --output, au format de --format ou du
 nom de FILE&#xa0;: .csv, .json, .md, .txt, ou .tarnwickrun pour une seule mesure</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@ soient comparables, sauf pour les blocs des tests séquentiels&#xa0;: la fenêtr
     <message>
         <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start; files that are still in use stay, after a second&apos;s wait.</source>
-        <translation>Tout est écrit dans un dossier caché de FOLDER et supprimé à la fin, même après Ctrl+C. Ce qu’une mesure tuée a laissé
+        <translation>Tout est écrit dans un dossier caché de FOLDER et supprimé à la fin, même après Ctrl+C. Ce qu’une mesure interrompue de force a laissé
 dans FOLDER est supprimé avant le démarrage&#xa0;; les fichiers encore utilisés restent, après une seconde d’attente.</translation>
     </message>
     <message>
@@ -1963,7 +1963,7 @@ sequentialRead, randomRead, randomWrite, fileOps (par défaut&#xa0;: tous)</tran
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
-        <translation>Secondes au moins entre deux points de mesure (par défaut&#xa0;: 0.02)</translation>
+        <translation>Intervalle minimal entre deux points de mesure, en secondes (par défaut&#xa0;: 0.02)</translation>
     </message>
     <message>
         <source>Print one JSON object: the plan, every figure, every sample, date,
@@ -2003,13 +2003,13 @@ la fenêtre (history.json) et la sortie de «&#xa0;show --format json&#xa0;» en
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation>En texte, des barres comparent les valeurs de plusieurs mesures&#xa0;: la plus grande de chaque sorte remplit sa piste, et «&#xa0;--&#xa0;» figure
+        <translation>En texte, des barres comparent les valeurs de plusieurs mesures&#xa0;: la plus grande de chaque sorte occupe toute la largeur, et «&#xa0;--&#xa0;» figure
 là où une mesure n’en a pas. Les lignes tiennent dans le terminal, ou dans 80 colonnes. Un tableau Markdown convient aux forums. CSV
 a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON est une liste des contenus de fichiers de mesure.</translation>
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
-        <translation>Un fichier qui ne peut pas être montré reçoit une ligne sur l’erreur standard, et les autres sont montrés.</translation>
+        <translation>Un fichier qui ne peut pas être montré est signalé par une ligne sur l’erreur standard&#xa0;; les autres sont montrés.</translation>
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
@@ -2228,7 +2228,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>one FOLDER at a time, not also %1</source>
-        <translation>un seul FOLDER à la fois, et non aussi %1</translation>
+        <translation>un seul FOLDER à la fois, %1 est de trop</translation>
     </message>
     <message>
         <source>the FOLDER&apos;s name is empty</source>
@@ -2259,7 +2259,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Adjust tests and settings on the left, then press Run Benchmark.</source>
-        <translation>Réglez les tests et les options à gauche, puis cliquez sur «&#xa0;Lancer la mesure&#xa0;».</translation>
+        <translation>Ajustez les tests et les réglages à gauche, puis cliquez sur «&#xa0;Lancer la mesure&#xa0;».</translation>
     </message>
     <message>
         <source>Pick a mounted volume or folder from the toolbar.</source>
@@ -2448,8 +2448,8 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message numerus="yes">
         <source>%1 of %2 operations</source>
         <translation>
-            <numerusform>%1 opération sur %2</numerusform>
-            <numerusform>%1 opérations sur %2</numerusform>
+            <numerusform>%1 sur %2 opération</numerusform>
+            <numerusform>%1 sur %2 opérations</numerusform>
         </translation>
     </message>
     <message>
@@ -2560,7 +2560,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation>Tout ce qui a été écrit n’a pas pu être transféré des tampons sur le disque&#xa0;: %1.</translation>
+        <translation>Une partie de ce qui a été écrit n’a pas pu être transférée des tampons sur le disque&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
@@ -2587,7 +2587,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation>D’autres ont transféré %1 sur le même disque pendant le test.</translation>
+        <translation>D’autres programmes ont transféré %1 sur le même disque pendant le test.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
@@ -2635,15 +2635,15 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Data went through a cache although the system was asked to bypass it.</source>
-        <translation>Des données sont passées par un cache bien que le système ait été prié de le contourner.</translation>
+        <translation>Des données sont passées par un cache alors que le système devait le contourner.</translation>
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation>Choisissez une taille supérieure à la mémoire de la machine, ou testez le disque sous-jacent par un autre système de fichiers.</translation>
+        <translation>Choisissez une taille supérieure à la mémoire de la machine, ou testez le disque sous-jacent à travers un autre système de fichiers.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation>Attendez-vous au débit inférieur quand davantage est transféré en une fois.</translation>
+        <translation>Pour des transferts plus volumineux, attendez-vous au débit le plus bas.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
@@ -2712,7 +2712,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
-        <translation>Non valable</translation>
+        <translation>Non valide</translation>
     </message>
     <message>
         <source>Caution</source>
@@ -2764,7 +2764,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>What happened? Steps to reproduce, and what you expected.</source>
-        <translation>Que s’est-il passé&#xa0;? Étapes pour reproduire, et ce que vous attendiez.</translation>
+        <translation>Que s’est-il passé&#xa0;? Étapes pour reproduire le problème, et ce que vous attendiez.</translation>
     </message>
     <message>
         <source>Email — optional, if you’d like us to get back to you</source>
@@ -2874,7 +2874,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>%1 (invalid)</source>
-        <translation>%1 (non valable)</translation>
+        <translation>%1 (non valide)</translation>
     </message>
     <message>
         <source>Remarks</source>
@@ -3723,7 +3723,7 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Tarnwick is free, and made by one developer. Support covers hosting and the time it takes to keep it going.</source>
-        <translation>Tarnwick est gratuit, et l’œuvre d’un seul développeur. Votre soutien couvre l’hébergement et le temps nécessaire pour le faire vivre.</translation>
+        <translation>Tarnwick est gratuit et développé par une seule personne. Votre soutien couvre l’hébergement et le temps nécessaire pour le faire vivre.</translation>
     </message>
     <message>
         <source>Support on Ko-fi…</source>
@@ -4049,15 +4049,15 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     </message>
     <message>
         <source>Reads blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Lit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: plusieurs à la fois mesureraient la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
+        <translation>Lit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: en lire plusieurs à la fois mesurerait la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
     </message>
     <message>
         <source>Writes blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Écrit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: plusieurs à la fois mesureraient la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
+        <translation>Écrit des blocs à des endroits dispersés du fichier, un à la fois comme la plupart des programmes&#xa0;: en écrire plusieurs à la fois mesurerait la file d’attente du disque et non le temps d’attente&#xa0;; les IOPS sont le nombre de telles opérations par seconde.</translation>
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Crée, recherche, renomme et supprime des fichiers vides&#xa0;; la valeur indique combien il en a été créé par seconde.</translation>
+        <translation>Crée, consulte, renomme et supprime des fichiers vides&#xa0;; la valeur indique combien il en a été créé par seconde.</translation>
     </message>
 </context>
 </TS>

@@ -302,7 +302,7 @@ min %2</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
-        <translation>Questo file system non riserva spazio senza scriverlo, perciò non è stato possibile distribuire i campioni. Il risultato non dice nulla sulla dimensione del volume: esegui un controllo non rapido.</translation>
+        <translation>Questo file system non riserva spazio senza scriverlo, perciò non è stato possibile distribuire i campioni. Il risultato non dice nulla sulla dimensione del volume: esegui un controllo che non si limiti ai campioni.</translation>
     </message>
     <message>
         <source>A quick check writes a few places only: what lies between them was not looked at.</source>
@@ -326,7 +326,7 @@ min %2</translation>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Dal disco proveniva solo %1&#xa0;% di quanto letto. Controlla più di quanto la memoria del computer possa contenere.</translation>
+        <translation>Dati letti provenienti dal disco: solo %1&#xa0;%. Controlla più di quanto la memoria del computer possa contenere.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
@@ -522,7 +522,7 @@ min %2</translation>
     </message>
     <message>
         <source>Your share of the volume was used up after %1 of %2; these hold what was written.</source>
-        <translation>La tua quota del volume si è esaurita dopo %1 su %2; questi contengono ciò che è stato scritto.</translation>
+        <translation>La tua quota sul volume si è esaurita dopo %1 su %2; questi contengono ciò che è stato scritto.</translation>
     </message>
     <message>
         <source>The volume was full after %1 of %2; these hold what was written.</source>
@@ -738,7 +738,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
 </source>
         <extracomment>tarnwick is the name of the command; FOLDER, FILE, URL and what begins with -- stay</extracomment>
         <translation>Uso: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
-Apre l’analizzatore di dischi e volumi, sceglie la prima cartella e mostra i file di misurazione (*.tarnwickrun).
+Apre l’analizzatore di velocità dei dischi e di volumi, sceglie la prima cartella e mostra i file di misurazione (*.tarnwickrun).
   --check-capacity  passa al controllo del volume di quella cartella
   --choose-folder   chiedi una cartella
 </translation>
@@ -995,7 +995,7 @@ Apre l’analizzatore di dischi e volumi, sceglie la prima cartella e mostra i f
     <name>EditableRunTitle</name>
     <message>
         <source>Rename this report. The name also appears on images you share.</source>
-        <translation>Rinomina questo rapporto. Il nome compare anche sulle immagini che condividi.</translation>
+        <translation>Rinomina questo rapporto. Il nome compare anche nelle immagini che condividi.</translation>
     </message>
     <message>
         <source>Report title</source>
@@ -1043,7 +1043,7 @@ Apre l’analizzatore di dischi e volumi, sceglie la prima cartella e mostra i f
     </message>
     <message>
         <source>The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.</source>
-        <translation>Il test scrive finché restano liberi %1, poi rimuove tutto. Su un’unità grande richiede molto tempo, e a tutto il resto mancherà lo spazio su di essa fino alla fine del test.</translation>
+        <translation>Il test scrive finché non restano liberi solo %1, poi rimuove tutto. Su un’unità grande richiede molto tempo, e fino alla fine del test mancherà spazio a tutto il resto che ne ha bisogno.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1136,7 +1136,7 @@ Apre l’analizzatore di dischi e volumi, sceglie la prima cartella e mostra i f
     <message>
         <source>Load cycles</source>
         <extracomment>How often the heads were parked and loaded again</extracomment>
-        <translation>Cicli di caricamento delle testine</translation>
+        <translation>Cicli di parcheggio delle testine</translation>
     </message>
     <message>
         <source>Unsafe shutdowns</source>
@@ -1654,12 +1654,12 @@ Apre l’analizzatore di dischi e volumi, sceglie la prima cartella e mostra i f
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation>%1: lo svuotamento dei buffer sul disco non è riuscito (%2); forse non tutto ciò che è stato scritto è presente.</translation>
+        <translation>%1: lo svuotamento dei buffer sul disco non è riuscito (%2); potrebbe mancare una parte di ciò che è stato scritto.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation>Preparazione: lo svuotamento dei buffer sul disco non è riuscito (%1); forse non tutto ciò che è stato scritto è presente.</translation>
+        <translation>Preparazione: lo svuotamento dei buffer sul disco non è riuscito (%1); potrebbe mancare una parte di ciò che è stato scritto.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
@@ -1752,7 +1752,7 @@ trova una capacità falsa e non prova nulla se non ne trova</translation>
 cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
-        <translation>Scrive file diversi in ogni blocco in una cartella nascosta dentro FOLDER, li rilegge ignorando la cache del sistema, confronta
+        <translation>Scrive in una cartella nascosta dentro FOLDER file diversi in ogni blocco, li rilegge ignorando la cache del sistema, confronta
 tutto e li rimuove, anche dopo Ctrl+C. Nessuno dei tuoi file viene toccato; ma su un dispositivo con una capacità falsa ogni
 scrittura oltre la dimensione reale può distruggere ciò che vi si trova, come qualsiasi altro uso. --quick scrive solo campioni.
 I file di un controllo interrotto con la forza vengono rimossi dalla misurazione o dal controllo successivo in FOLDER.</translation>
@@ -1861,12 +1861,12 @@ attivato. Da dove proviene il suo stato di salute, o perché manca, lo dice «fa
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation>stampa misurazioni come fa «show», nella forma indicata da --format</translation>
+        <translation>stampa misurazioni come fa «show», nel formato indicato da --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation>scrivi misurazioni nel FILE di --output, nella forma di --format o del nome
+        <translation>scrivi misurazioni nel FILE di --output, nel formato di --format o del nome
 di FILE: .csv, .json, .md, .txt, oppure .tarnwickrun per una sola misurazione</translation>
     </message>
     <message>
@@ -1963,7 +1963,7 @@ sequentialRead, randomRead, randomWrite, fileOps (predefinito: tutti)</translati
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
-        <translation>Secondi minimi tra due campionamenti (predefinito: 0.02)</translation>
+        <translation>Intervallo minimo tra due campionamenti, in secondi (predefinito: 0.02)</translation>
     </message>
     <message>
         <source>Print one JSON object: the plan, every figure, every sample, date,
@@ -2003,7 +2003,7 @@ della finestra (history.json) e l’output di «show --format json» ne hanno di
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation>Come testo, delle barre confrontano i valori di più misurazioni: il più grande di ogni tipo riempie la sua traccia, e «--» appare
+        <translation>Come testo, delle barre confrontano i valori di più misurazioni: il più grande di ogni tipo occupa tutta la larghezza, e «--» appare
 dove una misurazione non ne ha. Le righe stanno nel terminale, o in 80 colonne. Una tabella Markdown è per i forum. CSV ha una
 riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è un elenco dei contenuti dei file di misurazione.</translation>
     </message>
@@ -2017,7 +2017,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>Show runs from their run files, and several side by side</source>
-        <translation>Mostra misurazioni dai loro file, e più d’una fianco a fianco</translation>
+        <translation>Mostra misurazioni dai loro file, anche più d’una fianco a fianco</translation>
     </message>
 </context>
 <context>
@@ -2135,7 +2135,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>%1 is a year at most</source>
-        <translation>%1 è al massimo un anno</translation>
+        <translation>%1 può essere al massimo un anno</translation>
     </message>
     <message>
         <source>there is no option %1</source>
@@ -2196,7 +2196,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>%1 is needed where the FILE&apos;s name does not end in .tarnwickrun, .csv, .json, .md or .txt</source>
-        <translation>%1 è necessario se il nome di FILE non finisce in .tarnwickrun, .csv, .json, .md o .txt</translation>
+        <translation>%1 è necessario se il nome di FILE non termina con .tarnwickrun, .csv, .json, .md o .txt</translation>
     </message>
     <message>
         <source>%1 needs either RUNs or %2</source>
@@ -2544,19 +2544,19 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     <name>RemarkText</name>
     <message>
         <source>At most %1 of what was written reached the disk during the test.</source>
-        <translation>Durante il test il disco ha ricevuto al massimo %1 di quanto scritto.</translation>
+        <translation>Dati scritti arrivati al disco durante il test: al massimo %1.</translation>
     </message>
     <message>
         <source>%1 of what was written reached the disk during the test.</source>
-        <translation>Durante il test il disco ha ricevuto %1 di quanto scritto.</translation>
+        <translation>Dati scritti arrivati al disco durante il test: %1.</translation>
     </message>
     <message>
         <source>At most %1 of what was read came from the disk.</source>
-        <translation>Il disco ha fornito al massimo %1 di quanto letto.</translation>
+        <translation>Dati letti provenienti dal disco: al massimo %1.</translation>
     </message>
     <message>
         <source>%1 of what was read came from the disk.</source>
-        <translation>Il disco ha fornito %1 di quanto letto.</translation>
+        <translation>Dati letti provenienti dal disco: %1.</translation>
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
@@ -2572,7 +2572,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>The drive reached %1 after %2 (limit %3), and from then on the rate was %4 lower.</source>
-        <translation>L’unità ha raggiunto %1 dopo %2 (limite %3) e da allora la velocità è stata inferiore di %4.</translation>
+        <translation>L’unità ha raggiunto %1 dopo %2 (limite %3) e da allora la velocità è stata inferiore (−%4).</translation>
     </message>
     <message>
         <source>One pause over 1 s: %1.</source>
@@ -2587,7 +2587,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation>Durante il test altri hanno trasferito %1 sullo stesso disco.</translation>
+        <translation>Durante il test altri programmi hanno trasferito %1 sullo stesso disco.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
@@ -2599,7 +2599,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>Only %1 of the volume was free.</source>
-        <translation>Solo %1 del volume era libero.</translation>
+        <translation>Spazio libero sul volume: solo %1.</translation>
     </message>
     <message>
         <source>The test’s %1 may fit into a cache of %2.</source>
@@ -2639,11 +2639,11 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation>Scegli una dimensione maggiore della memoria del computer, oppure prova il disco sottostante con un altro file system.</translation>
+        <translation>Scegli una dimensione maggiore della memoria del computer, oppure prova il disco sottostante tramite un altro file system.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation>Quando si trasferisce di più in una volta, aspettati la velocità inferiore.</translation>
+        <translation>Quando si trasferisce di più in una volta, aspettati la velocità più bassa.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
@@ -2675,11 +2675,11 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
-        <translation>Ripeti la misurazione con l’alimentazione di rete e senza risparmio energetico.</translation>
+        <translation>Ripeti la misurazione con l’alimentazione dalla rete elettrica e senza risparmio energetico.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
-        <translation>Il disco dietro questo volume non è visibile, perciò nulla mostra che cosa abbia fatto da sé.</translation>
+        <translation>Il disco dietro questo volume non è visibile, perciò non si può dire quale sia stato il suo contributo.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory; no disk was measured.</source>
@@ -2695,7 +2695,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>To measure that volume itself, choose a folder on it.</source>
-        <translation>Per misurare quel volume stesso, scegline una cartella.</translation>
+        <translation>Per misurare direttamente quel volume, scegli una cartella al suo interno.</translation>
     </message>
     <message>
         <source>The disk is one of a virtual machine, whose host may cache it.</source>
@@ -2795,7 +2795,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>Your report has been filed. Thanks for helping make %1 better.</source>
-        <translation>La tua segnalazione è stata registrata. Grazie per l’aiuto a migliorare %1.</translation>
+        <translation>La tua segnalazione è stata registrata. Grazie per l’aiuto nel migliorare %1.</translation>
     </message>
     <message>
         <source>Report on the web:</source>
@@ -2843,7 +2843,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>Shaded: the last third of each test, whose median is the sustained rate. Triangles: peak and lowest rate.</source>
-        <translation>In ombra: l’ultimo terzo di ogni test, la cui mediana è la velocità sostenuta. Triangoli: velocità di picco e minima.</translation>
+        <translation>Area ombreggiata: l’ultimo terzo di ogni test, la cui mediana è la velocità sostenuta. Triangoli: velocità di picco e minima.</translation>
     </message>
 </context>
 <context>
@@ -3495,7 +3495,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     <message>
         <source>%1 · %2 network</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation>%1 · %2 rete</translation>
+        <translation>%1 · %2 di rete</translation>
     </message>
     <message>
         <source>The folder couldn&apos;t be opened.</source>
@@ -3554,7 +3554,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     <name>TargetText</name>
     <message>
         <source>Choose a folder on the volume to test (a temporary working folder is written there and removed).</source>
-        <translation>Scegli una cartella sul volume da provare (una cartella di lavoro temporanea viene creata lì e poi rimossa).</translation>
+        <translation>Scegli una cartella sul volume da testare (una cartella di lavoro temporanea viene creata lì e poi rimossa).</translation>
     </message>
     <message>
         <source>Select</source>
@@ -4033,7 +4033,7 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     <name>Words</name>
     <message>
         <source>Sustained: the median rate of the test’s last third, which a long copy settles at; peak and lowest are its fastest and its slowest tenth of a second.</source>
-        <translation>Velocità sostenuta: la velocità mediana dell’ultimo terzo del test, alla quale si assesta una lunga copia; picco e minimo sono il decimo di secondo più veloce e il più lento.</translation>
+        <translation>Velocità sostenuta: la velocità mediana dell’ultimo terzo del test, alla quale si assesta una lunga copia; picco e minimo sono il decimo di secondo più veloce e quello più lento.</translation>
     </message>
     <message>
         <source>Has data go past the system’s memory, so that the disk is measured and not the cache.</source>
@@ -4049,15 +4049,15 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     </message>
     <message>
         <source>Reads blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Legge blocchi in punti sparsi del file, uno alla volta come la maggior parte dei programmi: di più insieme misurerebbero la coda dell’unità e non quanto si aspetta; gli IOPS sono il numero di tali operazioni al secondo.</translation>
+        <translation>Legge blocchi in punti sparsi del file, uno alla volta come la maggior parte dei programmi: leggerne più di uno insieme misurerebbe la coda dell’unità e non quanto si aspetta; gli IOPS sono il numero di tali operazioni al secondo.</translation>
     </message>
     <message>
         <source>Writes blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>Scrive blocchi in punti sparsi del file, uno alla volta come la maggior parte dei programmi: di più insieme misurerebbero la coda dell’unità e non quanto si aspetta; gli IOPS sono il numero di tali operazioni al secondo.</translation>
+        <translation>Scrive blocchi in punti sparsi del file, uno alla volta come la maggior parte dei programmi: scriverne più di uno insieme misurerebbe la coda dell’unità e non quanto si aspetta; gli IOPS sono il numero di tali operazioni al secondo.</translation>
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Crea, cerca, rinomina ed elimina file vuoti; il valore indica quanti ne ha creati al secondo.</translation>
+        <translation>Crea, consulta, rinomina ed elimina file vuoti; il valore indica quanti ne ha creati al secondo.</translation>
     </message>
 </context>
 </TS>
