@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>The volume became full during the run, or your share of it is used up.</source>
-        <translation>El volumen se llenó durante la medición, o su parte de él se agotó.</translation>
+        <translation>El volumen se llenó durante la medición, o se agotó su cuota en él.</translation>
     </message>
     <message>
         <source>The file system, or a limit of this session, does not allow files of this size.</source>
@@ -514,19 +514,19 @@ mín. %2</translation>
     </message>
     <message>
         <source>Samples all over %1 hold what was written, which is no proof.</source>
-        <translation>Las muestras repartidas por %1 contienen lo que se escribió, lo cual no es una prueba.</translation>
+        <translation>Las muestras repartidas por %1 contienen lo que se escribió, lo que no demuestra nada.</translation>
     </message>
     <message>
         <source>Samples all over %1 of free space hold what was written, which is no proof.</source>
-        <translation>Las muestras repartidas por %1 de espacio libre contienen lo que se escribió, lo cual no es una prueba.</translation>
+        <translation>Las muestras repartidas por %1 de espacio libre contienen lo que se escribió, lo que no demuestra nada.</translation>
     </message>
     <message>
         <source>Your share of the volume was used up after %1 of %2; these hold what was written.</source>
-        <translation>Su parte del volumen se agotó después de %1 de %2; estos contienen lo que se escribió.</translation>
+        <translation>Su cuota en el volumen se agotó después de %1 de %2; esa parte contiene lo que se escribió.</translation>
     </message>
     <message>
         <source>The volume was full after %1 of %2; these hold what was written.</source>
-        <translation>El volumen se llenó después de %1 de %2; estos contienen lo que se escribió.</translation>
+        <translation>El volumen se llenó después de %1 de %2; esa parte contiene lo que se escribió.</translation>
     </message>
     <message>
         <source>All %1 came back as written, but mostly from memory: that says little about the disk.</source>
@@ -740,7 +740,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>Uso: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
 Abre el analizador de discos y volúmenes, elige la primera carpeta y muestra los archivos de medición (*.tarnwickrun).
   --check-capacity  pasar a la comprobación del volumen de esa carpeta
-  --choose-folder   preguntar por una carpeta
+  --choose-folder   pedir que se elija una carpeta
 </translation>
     </message>
     <message>
@@ -1043,7 +1043,7 @@ Abre el analizador de discos y volúmenes, elige la primera carpeta y muestra lo
     </message>
     <message>
         <source>The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.</source>
-        <translation>La prueba escribe hasta que quedan %1 libres y luego lo elimina todo. En una unidad grande esto tarda mucho, y a todo lo demás que necesite espacio en ella le faltará hasta que termine la prueba.</translation>
+        <translation>La prueba escribe hasta que quedan %1 libres y luego elimina todo lo escrito. En una unidad grande esto tarda mucho, y a todo lo demás que necesite espacio en ella le faltará hasta que termine la prueba.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1233,7 +1233,7 @@ Abre el analizador de discos y volúmenes, elige la primera carpeta y muestra lo
     </message>
     <message>
         <source>%1 of %2 disks answered</source>
-        <translation>Respuesta de %1 de %2 discos</translation>
+        <translation>%1 de %2 discos respondieron</translation>
     </message>
     <message>
         <source>no device is behind this path</source>
@@ -1295,7 +1295,7 @@ Abre el analizador de discos y volúmenes, elige la primera carpeta y muestra lo
     <message>
         <source>UDisks2 %1 does not read the health of NVMe drives (version 2.10 does)</source>
         <extracomment>%1 is the version of UDisks2</extracomment>
-        <translation>UDisks2 %1 no lee el estado de las unidades NVMe (la versión 2.10 sí)</translation>
+        <translation>UDisks2 %1 no lee la salud de las unidades NVMe (la versión 2.10 sí)</translation>
     </message>
     <message>
         <source>UDisks2 has no health figures of %1</source>
@@ -1628,7 +1628,7 @@ Abre el analizador de discos y volúmenes, elige la primera carpeta y muestra lo
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation>No se pudo escribir %1: %2</translation>
+        <translation>no se pudo escribir %1: %2</translation>
     </message>
     <message>
         <source>The history could not be written.</source>
@@ -1736,7 +1736,7 @@ título sustituye a la anterior; permanece hasta que termina la sesión o hasta 
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation>Muestras por todo el intervalo, en segundos: detecta una
+        <translation>Muestras por todo el intervalo, en unos segundos: detecta una
 capacidad falsa y no demuestra nada si no encuentra ninguna</translation>
     </message>
     <message>
@@ -1759,12 +1759,12 @@ muestras. Los archivos de una comprobación finalizada a la fuerza los elimina l
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation>BYTES son cifras solas, o cifras con K, M, G, T (KiB, MiB, GiB, TiB: pasos de 1024).</translation>
+        <translation>BYTES son cifras solas, o cifras con K, M, G, T (KiB, MiB, GiB, TiB: base 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation>Estado de salida: 0 no se encontró nada mal, 1 fallo, 2 uso incorrecto, 3 se encontraron
+        <translation>Estado de salida: 0 no se encontró ningún problema, 1 fallo, 2 uso incorrecto, 3 se encontraron
 defectos, 130 detenido por una señal; se muestra lo encontrado hasta entonces.</translation>
     </message>
     <message>
@@ -1797,17 +1797,17 @@ aparece como «--» o «no se sabe», y no figura en el objeto JSON.</translatio
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
         <translation>Cada sistema de archivos aparece una vez, en su punto de montaje más corto. Se omite lo que montan para sí
-mismos el sistema, sus paquetes y sus contenedores. Un servidor que no responde a tiempo no tiene capacidad.</translation>
+mismos el sistema, sus paquetes y sus contenedores. Un servidor que no responde a tiempo aparece sin capacidad.</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
         <translation>La unidad solo se consulta: si está en reposo no se despierta, y no se activa nada
-en ella. De dónde procede su estado de salud, o por qué no lo hay, lo dice «facts».</translation>
+en ella. De dónde proceden los datos de salud, o por qué no los hay, lo dice «facts».</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation>Mostrar lo que contiene FOLDER: volumen, sistema de archivos, unidad y su salud</translation>
+        <translation>Mostrar dónde está FOLDER: volumen, sistema de archivos, unidad y su salud</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
@@ -1837,7 +1837,7 @@ en ella. De dónde procede su estado de salud, o por qué no lo hay, lo dice «f
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
-        <translation>Mostrar este texto o, detrás de una orden, las opciones de esa orden</translation>
+        <translation>Mostrar este texto o, tras una orden, las opciones de esa orden</translation>
     </message>
     <message>
         <source>Show the version</source>
@@ -1861,12 +1861,12 @@ en ella. De dónde procede su estado de salud, o por qué no lo hay, lo dice «f
     </message>
     <message>
         <source>print runs as &quot;show&quot; does, in the form of --format</source>
-        <translation>mostrar mediciones como hace «show», en la forma de --format</translation>
+        <translation>mostrar mediciones como hace «show», en el formato de --format</translation>
     </message>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation>escribir mediciones en el FILE de --output, en la forma de --format o del
+        <translation>escribir mediciones en el FILE de --output, en el formato de --format o del
 nombre de FILE: .csv, .json, .md, .txt, o .tarnwickrun para una sola medición</translation>
     </message>
     <message>
@@ -1893,7 +1893,7 @@ todas las mediciones; «delete» exige entonces --all. Una ventana abierta se ac
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation>BYTES son cifras solas, o cifras con K, M, G, T (KiB, MiB, GiB, TiB: pasos de 1024). Los bloques se redondean hacia arriba
+        <translation>BYTES son cifras solas, o cifras con K, M, G, T (KiB, MiB, GiB, TiB: base 1024). Los bloques se redondean hacia arriba
 a páginas enteras de 4096. Los valores por omisión son los de la ventana, para que sus resultados y estos se puedan
 comparar, salvo en los bloques de las pruebas secuenciales: la ventana usa la «Transferencia óptima» que muestra «facts».</translation>
     </message>
@@ -2009,7 +2009,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
-        <translation>Un archivo que no se puede mostrar recibe una línea en el error estándar, y los demás se muestran.</translation>
+        <translation>Un archivo que no se puede mostrar recibe una línea en la salida de error estándar, y los demás se muestran.</translation>
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
@@ -2291,7 +2291,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     </message>
     <message>
         <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
-        <translation>Se escriben, releen y eliminan muestras repartidas por todo el espacio elegido. Tarda segundos, detecta la mayoría de las capacidades falsas y no demuestra nada si no encuentra ninguna.</translation>
+        <translation>Se escriben, releen y eliminan muestras repartidas por todo el espacio elegido. Tarda unos segundos, detecta la mayoría de las capacidades falsas y no demuestra nada si no encuentra ninguna.</translation>
     </message>
     <message>
         <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
@@ -2537,7 +2537,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     </message>
     <message>
         <source>Delete All</source>
-        <translation>Eliminar todo</translation>
+        <translation>Eliminar todas</translation>
     </message>
 </context>
 <context>
@@ -2587,7 +2587,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation>Otros transfirieron %1 en el mismo disco durante la prueba.</translation>
+        <translation>Otros programas transfirieron %1 en el mismo disco durante la prueba.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
@@ -2675,7 +2675,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
-        <translation>Repita la medición con la red eléctrica y sin ahorro de energía.</translation>
+        <translation>Repita la medición con el equipo conectado a la red eléctrica y sin ahorro de energía.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
@@ -2951,7 +2951,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <message>
         <source>Read/Write</source>
         <extracomment>The size of the blocks that were read and written</extracomment>
-        <translation>Lectura/Escritura</translation>
+        <translation>Lectura/escritura</translation>
     </message>
     <message>
         <source>Write</source>
@@ -3002,7 +3002,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <message>
         <source>Cached</source>
         <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
-        <translation>Con caché</translation>
+        <translation>Usada</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3495,7 +3495,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <message>
         <source>%1 · %2 network</source>
         <extracomment>%1 is a kind of file system, %2 the volume&apos;s size</extracomment>
-        <translation>%1 · %2 red</translation>
+        <translation>%1 · %2 de red</translation>
     </message>
     <message>
         <source>The folder couldn&apos;t be opened.</source>
@@ -3758,7 +3758,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <message>
         <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
         <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
-        <translation>%1: de %2 a %3 %6 en %4, último %5 %6.</translation>
+        <translation>%1: de %2 a %3 %6 en %4, último valor %5 %6.</translation>
     </message>
     <message>
         <source>No measurements yet.</source>
@@ -4033,7 +4033,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <name>Words</name>
     <message>
         <source>Sustained: the median rate of the test’s last third, which a long copy settles at; peak and lowest are its fastest and its slowest tenth of a second.</source>
-        <translation>Velocidad sostenida: la mediana de la velocidad en el último tercio de la prueba, en la que se estabiliza una copia larga; pico y mínimo son la décima de segundo más rápida y la más lenta.</translation>
+        <translation>Velocidad sostenida: la mediana de la velocidad en el último tercio de la prueba, a la que se estabiliza una copia larga; pico y mínimo son la décima de segundo más rápida y la más lenta.</translation>
     </message>
     <message>
         <source>Has data go past the system’s memory, so that the disk is measured and not the cache.</source>
@@ -4057,7 +4057,7 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Crea, busca, cambia de nombre y elimina archivos vacíos; el valor indica cuántos creó por segundo.</translation>
+        <translation>Crea, consulta, cambia de nombre y elimina archivos vacíos; el valor indica cuántos creó por segundo.</translation>
     </message>
 </context>
 </TS>

@@ -197,7 +197,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Space to check</source>
-        <translation>Miejsce do zbadania</translation>
+        <translation>Sprawdzane miejsce</translation>
     </message>
     <message>
         <source>Read a second time</source>
@@ -566,7 +566,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Space to check</source>
-        <translation>Miejsce do zbadania</translation>
+        <translation>Sprawdzane miejsce</translation>
     </message>
     <message>
         <source>%1 of free space</source>
@@ -896,7 +896,7 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation>Z/O %1</translation>
+        <translation>O/Z %1</translation>
     </message>
     <message>
         <source>W %1</source>
@@ -1061,7 +1061,7 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
     </message>
     <message>
         <source>The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.</source>
-        <translation>Test zapisuje dane, aż zostanie %1 wolnego miejsca, a potem wszystko usuwa. Na dużym napędzie trwa to długo, a do końca testu zabraknie na nim miejsca dla wszystkiego innego.</translation>
+        <translation>Test zapisuje dane, aż zostanie %1 wolnego miejsca, a potem usuwa wszystko, co zapisał. Na dużym napędzie trwa to długo, a do końca testu zabraknie na nim miejsca dla wszystkiego innego.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1251,7 +1251,7 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
     </message>
     <message>
         <source>%1 of %2 disks answered</source>
-        <translation>odpowiedziało dysków: %1 z %2</translation>
+        <translation>odpowiedź %1 z %2 dysków</translation>
     </message>
     <message>
         <source>no device is behind this path</source>
@@ -1317,11 +1317,11 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
     </message>
     <message>
         <source>UDisks2 has no health figures of %1</source>
-        <translation>UDisks2 nie ma wartości kondycji %1</translation>
+        <translation>UDisks2 nie ma wartości kondycji dysku %1</translation>
     </message>
     <message>
         <source>UDisks2 has no health verdict on %1</source>
-        <translation>UDisks2 nie ma oceny kondycji %1</translation>
+        <translation>UDisks2 nie ma oceny kondycji dysku %1</translation>
     </message>
     <message>
         <source>UDisks2 knows no drive behind %1</source>
@@ -1342,7 +1342,7 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation>UDisks2 dla %1, odczyt %2 min temu</translation>
+        <translation>UDisks2 dla %1, odczyt sprzed %2 min</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
@@ -1639,7 +1639,7 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
     </message>
     <message>
         <source>%1 exists and holds no runs; --force would replace it</source>
-        <translation>%1 istnieje i nie zawiera pomiarów; --force zastąpi ten plik</translation>
+        <translation>%1 istnieje i nie zawiera pomiarów; --force pozwoli go zastąpić</translation>
     </message>
     <message>
         <source>A figure of this run is beyond what a file can hold.</source>
@@ -1738,7 +1738,7 @@ tytule zastępuje poprzedni; pozostaje do końca sesji albo do opróżnienia kat
     </message>
     <message>
         <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
-        <translation>Stan wyjścia: 0 wykonano, 1 nie udało się odczytać pliku lub utworzyć obrazu, 2 błędne użycie.</translation>
+        <translation>Kod wyjścia: 0 wykonano, 1 nie udało się odczytać pliku lub utworzyć obrazu, 2 błędne użycie.</translation>
     </message>
     <message>
         <source>Draw a picture of a run to share, or of several compared</source>
@@ -1778,12 +1778,12 @@ o fałszywej pojemności każdy zapis ponad rzeczywisty rozmiar może zniszczyć
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation>BYTES to same cyfry albo cyfry z K, M, G, T (KiB, MiB, GiB, TiB: co 1024).</translation>
+        <translation>BYTES to same cyfry albo cyfry z K, M, G, T (KiB, MiB, GiB, TiB: mnożnik 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation>Stan wyjścia: 0 nie znaleziono nic złego, 1 niepowodzenie, 2 błędne użycie, 3 znaleziono defekty, 130
+        <translation>Kod wyjścia: 0 nie znaleziono nic złego, 1 niepowodzenie, 2 błędne użycie, 3 znaleziono defekty, 130
 zatrzymano sygnałem; wypisywane jest to, co znaleziono do tej chwili.</translation>
     </message>
     <message>
@@ -1821,16 +1821,16 @@ kontenery montują dla siebie, jest pomijane. Serwer, który nie odpowiada na cz
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation>Napęd jest tylko oglądany: uśpiony nie jest budzony i nic nie jest w nim włączane. Skąd pochodzą dane o kondycji
-albo dlaczego ich nie ma, podaje &quot;facts&quot;.</translation>
+        <translation>Stan napędu jest tylko odczytywany: uśpiony napęd nie jest budzony i nic nie jest w nim włączane. Skąd pochodzą
+dane o kondycji albo dlaczego ich nie ma, podaje &quot;facts&quot;.</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation>Pokazuje, co zawiera FOLDER: wolumin, system plików, napęd i jego kondycję</translation>
+        <translation>Pokazuje położenie FOLDER: wolumin, system plików, napęd i jego kondycję</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
-        <translation>Wymienia zamontowane woluminy</translation>
+        <translation>Wypisuje zamontowane woluminy</translation>
     </message>
     <message>
         <source>Print the health of the drive that holds FOLDER</source>
@@ -1852,7 +1852,7 @@ albo dlaczego ich nie ma, podaje &quot;facts&quot;.</translation>
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation>Ondel Tarnwick w terminalu: jak szybki jest dysk, zmierzone na nim samym i znów usunięte.</translation>
+        <translation>Ondel Tarnwick w terminalu: szybkość dysku, mierzona na nim samym, bez pozostawiania na nim danych.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
@@ -1902,18 +1902,18 @@ zastępuje istniejący plik tylko wtedy, gdy jest pusty lub zawiera pomiary; z -
     </message>
     <message>
         <source>Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.</source>
-        <translation>Stan wyjścia: 0 wykonano, 1 nie ma takiego pomiaru lub niepowodzenie, 2 błędne użycie.</translation>
+        <translation>Kod wyjścia: 0 wykonano, 1 nie ma takiego pomiaru lub niepowodzenie, 2 błędne użycie.</translation>
     </message>
     <message>
         <source>List, show, export or delete the runs that the window keeps</source>
-        <translation>Wymienia, pokazuje, eksportuje lub usuwa pomiary przechowywane przez okno</translation>
+        <translation>Wypisuje, pokazuje, eksportuje lub usuwa pomiary przechowywane przez okno</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation>BYTES to same cyfry albo cyfry z K, M, G, T (KiB, MiB, GiB, TiB: co 1024). Bloki są zaokrąglane w górę do pełnych
-stron po 4096. Wartości domyślne są takie jak w oknie, aby wyniki dało się porównać, z wyjątkiem bloków testów
+        <translation>BYTES to same cyfry albo cyfry z K, M, G, T (KiB, MiB, GiB, TiB: mnożnik 1024). Bloki są zaokrąglane w górę do
+pełnych stron po 4096. Wartości domyślne są takie jak w oknie, aby wyniki dało się porównać, z wyjątkiem bloków testów
 sekwencyjnych: okno używa wartości &quot;Optymalny transfer&quot;, którą pokazuje &quot;facts&quot;.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@ uznaje się za nieudany.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
-        <translation>Stan wyjścia: 0 wykonano, 1 niepowodzenie, 2 błędne użycie, 130 zatrzymano sygnałem.</translation>
+        <translation>Kod wyjścia: 0 wykonano, 1 niepowodzenie, 2 błędne użycie, 130 zatrzymano sygnałem.</translation>
     </message>
     <message>
         <source>Measure the file system that holds FOLDER</source>
@@ -2032,7 +2032,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
-        <translation>Stan wyjścia: 0 pokazano wszystkie, 1 nie wszystkie, 2 błędne użycie.</translation>
+        <translation>Kod wyjścia: 0 pokazano wszystkie, 1 nie wszystkie, 2 błędne użycie.</translation>
     </message>
     <message>
         <source>Show runs from their run files, and several side by side</source>
@@ -2077,7 +2077,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>%1 left</source>
         <extracomment>%1: the time until the end, as &quot;2 min&quot;.</extracomment>
-        <translation>Pozostało %1</translation>
+        <translation>pozostało %1</translation>
     </message>
     <message>
         <source>Stopping, removing the test files</source>
@@ -2588,11 +2588,11 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation>Nie udało się opróżnić na dysk buforów ze wszystkim, co zapisano: %1.</translation>
+        <translation>Nie wszystkie zapisane dane udało się przenieść z buforów na dysk: %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
-        <translation>Nie udało się opróżnić buforów pliku testowego na dysk: %1.</translation>
+        <translation>Nie udało się przenieść pliku testowego z buforów na dysk: %1.</translation>
     </message>
     <message>
         <source>%1 for the first %2, then %3.</source>
@@ -2656,7 +2656,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation>Włącz „Pomiń pamięć podręczną”. Jeśli jest włączone, wybierz rozmiar większy niż pamięć komputera.</translation>
+        <translation>Włącz „Pomiń pamięć podręczną”. Jeśli jest już włączone, wybierz rozmiar większy niż pamięć komputera.</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
@@ -2741,7 +2741,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
-        <translation>Nieważne</translation>
+        <translation>Błędny</translation>
     </message>
     <message>
         <source>Caution</source>
@@ -2903,7 +2903,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>%1 (invalid)</source>
-        <translation>%1 (nieważne)</translation>
+        <translation>%1 (błędny)</translation>
     </message>
     <message>
         <source>Remarks</source>
@@ -2981,7 +2981,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>Read/Write</source>
         <extracomment>The size of the blocks that were read and written</extracomment>
-        <translation>Zapis/odczyt</translation>
+        <translation>Odczyt/zapis</translation>
     </message>
     <message>
         <source>Write</source>
@@ -3032,7 +3032,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>Cached</source>
         <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
-        <translation>Z buforowaniem</translation>
+        <translation>Użyta</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3793,7 +3793,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>No measurements yet.</source>
-        <translation>Nie ma jeszcze pomiarów.</translation>
+        <translation>Nie ma jeszcze danych.</translation>
     </message>
 </context>
 <context>
@@ -4065,7 +4065,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <name>Words</name>
     <message>
         <source>Sustained: the median rate of the test’s last third, which a long copy settles at; peak and lowest are its fastest and its slowest tenth of a second.</source>
-        <translation>Ciągła: mediana szybkości z ostatniej trzeciej części testu, na której ustala się długie kopiowanie; szczytowa i najniższa to jego najszybsza i najwolniejsza dziesiąta część sekundy.</translation>
+        <translation>Ciągła: mediana szybkości z ostatniej trzeciej części testu, czyli poziom, na którym ustala się długie kopiowanie; szczytowa i najniższa to najszybsza i najwolniejsza dziesiąta część sekundy testu.</translation>
     </message>
     <message>
         <source>Has data go past the system’s memory, so that the disk is measured and not the cache.</source>
@@ -4089,7 +4089,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Tworzy, wyszukuje, przemianowuje i usuwa puste pliki; wynik to liczba plików utworzonych w ciągu sekundy.</translation>
+        <translation>Tworzy puste pliki, odczytuje ich atrybuty, zmienia im nazwy i usuwa je; wynik to liczba plików utworzonych w ciągu sekundy.</translation>
     </message>
 </context>
 </TS>

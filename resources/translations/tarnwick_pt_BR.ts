@@ -514,11 +514,11 @@ mín. %2</translation>
     </message>
     <message>
         <source>Samples all over %1 hold what was written, which is no proof.</source>
-        <translation>Amostras espalhadas por %1 contêm o que foi gravado, o que não é prova.</translation>
+        <translation>Amostras espalhadas por %1 contêm o que foi gravado, o que não prova nada.</translation>
     </message>
     <message>
         <source>Samples all over %1 of free space hold what was written, which is no proof.</source>
-        <translation>Amostras espalhadas por %1 de espaço livre contêm o que foi gravado, o que não é prova.</translation>
+        <translation>Amostras espalhadas por %1 de espaço livre contêm o que foi gravado, o que não prova nada.</translation>
     </message>
     <message>
         <source>Your share of the volume was used up after %1 of %2; these hold what was written.</source>
@@ -880,7 +880,7 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation>G/L %1</translation>
+        <translation>L/G %1</translation>
     </message>
     <message>
         <source>W %1</source>
@@ -995,7 +995,7 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
     <name>EditableRunTitle</name>
     <message>
         <source>Rename this report. The name also appears on images you share.</source>
-        <translation>Renomeie este relatório. O nome também aparece nas imagens que você compartilha.</translation>
+        <translation>Renomear este relatório. O nome também aparece nas imagens que você compartilha.</translation>
     </message>
     <message>
         <source>Report title</source>
@@ -1043,7 +1043,7 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
     </message>
     <message>
         <source>The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.</source>
-        <translation>O teste grava até restarem %1 livres e depois remove tudo. Em uma unidade grande isso demora, e até o fim do teste faltará espaço para tudo o mais que precisar dele.</translation>
+        <translation>O teste grava até restarem %1 livres e depois remove tudo o que gravou. Em uma unidade grande isso demora, e até o fim do teste faltará espaço para tudo o mais que precisar dele.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1084,7 +1084,7 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Com falha</translation>
+        <translation>Falhando</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -1219,7 +1219,7 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
     </message>
     <message>
         <source>Backup failed</source>
-        <translation>Falha no backup</translation>
+        <translation>Memória sem backup</translation>
     </message>
     <message>
         <source>Unknown</source>
@@ -1356,7 +1356,7 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Com falha</translation>
+        <translation>Falhando</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -1736,7 +1736,7 @@ anterior; ela permanece até sua sessão terminar ou até o sistema esvaziar a p
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation>Amostras por todo o intervalo, em segundos: descobre uma
+        <translation>Amostras por todo o intervalo, em poucos segundos: descobre uma
 capacidade falsa e não prova nada se não encontrar nenhuma</translation>
     </message>
     <message>
@@ -1754,12 +1754,12 @@ with a false capacity every write beyond its real size may destroy what lies the
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
         <translation>Grava arquivos diferentes em cada bloco em uma pasta oculta dentro de FOLDER, lê-os de volta sem passar pelo cache
 do sistema, compara tudo e os remove, também após Ctrl+C. Nenhum arquivo seu é tocado; mas em um dispositivo com
-capacidade falsa, cada gravação além do tamanho real pode destruir o que está lá, como em qualquer uso. --quick
-grava só amostras. Arquivos de uma verificação encerrada à força são removidos pela próxima execução em FOLDER.</translation>
+capacidade falsa, cada gravação além do tamanho real pode destruir o que está lá, como em qualquer uso. --quick grava
+só amostras. Arquivos de uma verificação encerrada à força são removidos pela próxima medição ou verificação em FOLDER.</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation>BYTES são só dígitos, ou dígitos com K, M, G, T (KiB, MiB, GiB, TiB: passos de 1024).</translation>
+        <translation>BYTES são só dígitos, ou dígitos com K, M, G, T (KiB, MiB, GiB, TiB: base 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
@@ -1781,7 +1781,7 @@ interrompido por um sinal; o que foi encontrado até então é exibido.</transla
     </message>
     <message>
         <source>Print the facts as one JSON object</source>
-        <translation>Exibe os fatos como um objeto JSON</translation>
+        <translation>Exibe as informações como um objeto JSON</translation>
     </message>
     <message>
         <source>Print the list as one JSON array</source>
@@ -1797,17 +1797,17 @@ objeto JSON.</translation>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
         <translation>Cada sistema de arquivos é listado uma vez, em seu ponto de montagem mais curto. O que o sistema, seus pacotes
-e seus contêineres montam para si é omitido. Um servidor que não responde a tempo não tem capacidade.</translation>
+e seus contêineres montam para si é omitido. Um servidor que não responde a tempo aparece sem capacidade.</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation>A unidade só é observada: se está em repouso, não é acordada, e nada é ligado nela. De onde vem sua saúde, ou por
-que não há nenhuma, é informado por &quot;facts&quot;.</translation>
+        <translation>A unidade só é observada: se está em repouso, não é acordada, e nada é ligado nela. A origem dos dados de saúde, ou por
+que não há nenhum, é informada por &quot;facts&quot;.</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation>Mostra o que contém FOLDER: volume, sistema de arquivos, unidade e sua saúde</translation>
+        <translation>Mostra onde está FOLDER: volume, sistema de arquivos, unidade e sua saúde</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
@@ -1893,8 +1893,8 @@ substitui um arquivo existente se ele estiver vazio ou contiver medições; com 
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation>BYTES são só dígitos, ou dígitos com K, M, G, T (KiB, MiB, GiB, TiB: passos de 1024). Blocos são arredondados
-para páginas inteiras de 4096. Os padrões são os da janela, para que os valores possam ser comparados, exceto os
+        <translation>BYTES são só dígitos, ou dígitos com K, M, G, T (KiB, MiB, GiB, TiB: base 1024). Blocos são arredondados para
+cima, até páginas inteiras de 4096. Os padrões são os da janela, para que os valores possam ser comparados, exceto os
 blocos dos testes sequenciais: a janela usa a &quot;Transferência ideal&quot; que &quot;facts&quot; mostra.</translation>
     </message>
     <message>
@@ -1959,7 +1959,7 @@ sequentialRead, randomRead, randomWrite, fileOps (padrão: todos)</translation>
     </message>
     <message>
         <source>Let the system cache the data file, as ordinary programs do</source>
-        <translation>Deixa o sistema usar o cache, como fazem os programas comuns</translation>
+        <translation>Deixa o sistema manter o arquivo de dados em cache, como os programas comuns</translation>
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
@@ -2009,7 +2009,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
-        <translation>Um arquivo que não pode ser mostrado ganha uma linha na saída de erro, e os outros são mostrados.</translation>
+        <translation>Um arquivo que não pode ser mostrado gera uma linha na saída de erro, e os outros são mostrados.</translation>
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
@@ -2291,7 +2291,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Samples all over the chosen space are written, read back and removed. It takes seconds, finds most false capacities, and proves nothing if it finds none.</source>
-        <translation>Amostras espalhadas por todo o espaço escolhido são gravadas, lidas de volta e removidas. Leva segundos, descobre a maioria das capacidades falsas e não prova nada se não encontrar nenhuma.</translation>
+        <translation>Amostras espalhadas por todo o espaço escolhido são gravadas, lidas de volta e removidas. Leva alguns segundos, descobre a maioria das capacidades falsas e não prova nada se não encontrar nenhuma.</translation>
     </message>
     <message>
         <source>%1 are written, read back, compared and removed. Your files are not touched.</source>
@@ -2537,7 +2537,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Delete All</source>
-        <translation>Excluir tudo</translation>
+        <translation>Excluir todas</translation>
     </message>
 </context>
 <context>
@@ -2587,7 +2587,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation>Outros programas moveram %1 no mesmo disco durante o teste.</translation>
+        <translation>Outros programas transferiram %1 no mesmo disco durante o teste.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
@@ -2627,7 +2627,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation>Ative “Ignorar o cache”. Onde já está ativado, escolha um tamanho maior que a memória do computador.</translation>
+        <translation>Ative “Ignorar o cache”. Se já estiver ativado, escolha um tamanho maior que a memória do computador.</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
@@ -2643,7 +2643,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation>Espere a velocidade menor onde mais do que isso for movido de uma vez.</translation>
+        <translation>Conte com a velocidade menor quando mais do que isso for transferido de uma vez.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
@@ -2667,7 +2667,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Free some space: many drives and file systems slow down when full.</source>
-        <translation>Libere espaço: muitas unidades e sistemas de arquivos ficam lentos quando cheios.</translation>
+        <translation>Libere espaço: muitas unidades e sistemas de arquivos ficam mais lentos quando cheios.</translation>
     </message>
     <message>
         <source>Choose a larger size, and switch on Bypass cache.</source>
@@ -2773,7 +2773,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message>
         <source>%1 %2 · %3 · %4 will be attached.</source>
         <extracomment>%1 is the program, %2 its version, %3 the system, %4 the machine</extracomment>
-        <translation>Será anexado: %1 %2 · %3 · %4.</translation>
+        <translation>Serão anexados: %1 %2 · %3 · %4.</translation>
     </message>
 </context>
 <context>
@@ -2951,7 +2951,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message>
         <source>Read/Write</source>
         <extracomment>The size of the blocks that were read and written</extracomment>
-        <translation>Gravação/leitura</translation>
+        <translation>Leitura/gravação</translation>
     </message>
     <message>
         <source>Write</source>
@@ -3002,7 +3002,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message>
         <source>Cached</source>
         <extracomment>Reads and writes went through the system&apos;s cache</extracomment>
-        <translation>Com cache</translation>
+        <translation>Usado</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3467,7 +3467,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Case not known</source>
-        <translation>Diferenciação desconhecida</translation>
+        <translation>Maiúsculas: desconhecido</translation>
     </message>
     <message>
         <source>Case-sensitive</source>
@@ -3687,7 +3687,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Looks for a new version about once a day and asks before installing it. Off, Tarnwick only checks when you choose Check for Updates.</source>
-        <translation>Procura uma nova versão cerca de uma vez por dia e pergunta antes de instalá-la. Com isto desligado, o Tarnwick só procura quando você escolhe “Procurar atualizações”.</translation>
+        <translation>Procura uma nova versão cerca de uma vez por dia e pergunta antes de instalá-la. Se desativado, o Tarnwick só procura quando você escolhe “Procurar atualizações”.</translation>
     </message>
     <message>
         <source>Check Now</source>
@@ -3695,7 +3695,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>This build doesn’t update itself. Development builds are built without the update feed, so they can’t replace themselves with a release.</source>
-        <translation>Esta compilação não se atualiza sozinha. As compilações de desenvolvimento são feitas sem o canal de atualizações, para que não possam ser substituídas por uma versão final.</translation>
+        <translation>Esta compilação não se atualiza sozinha. As compilações de desenvolvimento são feitas sem o canal de atualizações, por isso não podem se substituir por uma versão final.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -4057,7 +4057,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Cria, procura, renomeia e exclui arquivos vazios; o valor é quantos foram criados por segundo.</translation>
+        <translation>Cria, consulta, renomeia e exclui arquivos vazios; o valor é quantos foram criados por segundo.</translation>
     </message>
 </context>
 </TS>
