@@ -257,7 +257,7 @@ min %2</source>
     <name>CapacityPane</name>
     <message>
         <source>Capacity of %1</source>
-        <translation>Ёмкость %1</translation>
+        <translation>Ёмкость тома %1</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
@@ -346,7 +346,7 @@ min %2</source>
     </message>
     <message>
         <source>Capacity of %1</source>
-        <translation>Ёмкость %1</translation>
+        <translation>Ёмкость тома %1</translation>
     </message>
     <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
@@ -506,7 +506,7 @@ min %2</source>
     </message>
     <message>
         <source>Before it was stopped, the check met blocks that did not come back as they were written, the first at %1.</source>
-        <translation>До остановки проверка встретила блоки, которые при чтении не совпали с записанным, первый — на отметке %1.</translation>
+        <translation>До остановки проверка обнаружила блоки, которые при чтении не совпали с записанным, первый — на отметке %1.</translation>
     </message>
     <message>
         <source>The volume could be written up to %1 of %2, and refused everything beyond.</source>
@@ -754,7 +754,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>Использование: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
 Открывает анализатор скорости дисков и томов, выбирает первую папку и показывает файлы замеров (*.tarnwickrun).
   --check-capacity  перейти к проверке тома этой папки
-  --choose-folder   запросить папку
+  --choose-folder   предложить выбрать папку
 </translation>
     </message>
     <message>
@@ -896,17 +896,17 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation>З/Ч %1</translation>
+        <translation>Ч/З %1</translation>
     </message>
     <message>
         <source>W %1</source>
         <extracomment>%1 is the size of the blocks that were written</extracomment>
-        <translation>З %1</translation>
+        <translation>З: %1</translation>
     </message>
     <message>
         <source>R %1</source>
         <extracomment>%1 is the size of the blocks that were read</extracomment>
-        <translation>Ч %1</translation>
+        <translation>Ч: %1</translation>
     </message>
     <message>
         <source>Rnd %1</source>
@@ -1531,7 +1531,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Connection</source>
-        <translation>Подключение</translation>
+        <translation>Тип тома</translation>
     </message>
     <message>
         <source>Read-only</source>
@@ -1821,7 +1821,7 @@ mount for themselves is left out. A server that does not answer in time has no c
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation>Накопитель только осматривается: спящий не пробуждается, и ничего в нём не включается. Откуда взяты сведения о
+        <translation>Накопитель только опрашивается: спящий не пробуждается, и ничего в нём не включается. Откуда взяты сведения о
 его состоянии или почему их нет, сообщает &quot;facts&quot;.</translation>
     </message>
     <message>
@@ -2072,7 +2072,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Starting</source>
-        <translation>Начало</translation>
+        <translation>Запуск</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -2090,7 +2090,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Starting, %1 s</source>
-        <translation>Начало, %1 s</translation>
+        <translation>Запуск, %1 s</translation>
     </message>
 </context>
 <context>
@@ -2616,7 +2616,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation>Во время теста другие программы передали %1 на том же диске.</translation>
+        <translation>Во время теста другие программы прочитали и записали %1 на том же диске.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
@@ -2688,7 +2688,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Try another port, slot or cable.</source>
-        <translation>Попробуйте другой порт, разъём или кабель.</translation>
+        <translation>Попробуйте другой порт, слот или кабель.</translation>
     </message>
     <message>
         <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
@@ -2724,7 +2724,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>To measure that volume itself, choose a folder on it.</source>
-        <translation>Чтобы измерить сам тот том, выберите папку на нём.</translation>
+        <translation>Чтобы измерить именно тот том, выберите папку на нём.</translation>
     </message>
     <message>
         <source>The disk is one of a virtual machine, whose host may cache it.</source>
@@ -2828,7 +2828,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Report on the web:</source>
-        <translation>Сообщить через веб:</translation>
+        <translation>Сообщить на сайте:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2981,7 +2981,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Read/Write</source>
         <extracomment>The size of the blocks that were read and written</extracomment>
-        <translation>Запись/чтение</translation>
+        <translation>Чтение/запись</translation>
     </message>
     <message>
         <source>Write</source>
@@ -4038,7 +4038,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Network</source>
         <extracomment>How a volume is attached: a server keeps it</extracomment>
-        <translation>Сеть</translation>
+        <translation>Сетевой</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -4048,7 +4048,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Root</source>
         <extracomment>The name of the volume at &quot;/&quot;</extracomment>
-        <translation>Корневой</translation>
+        <translation>Корень</translation>
     </message>
     <message>
         <source>Shared Folder</source>
@@ -4065,7 +4065,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>Words</name>
     <message>
         <source>Sustained: the median rate of the test’s last third, which a long copy settles at; peak and lowest are its fastest and its slowest tenth of a second.</source>
-        <translation>Установившаяся: медиана скорости за последнюю треть теста, на которой держится долгое копирование; пиковая и наименьшая — его самая быстрая и самая медленная десятая доля секунды.</translation>
+        <translation>Установившаяся: медиана скорости за последнюю треть теста, на этом уровне держится долгое копирование; пиковая и наименьшая — самая быстрая и самая медленная десятая доля секунды теста.</translation>
     </message>
     <message>
         <source>Has data go past the system’s memory, so that the disk is measured and not the cache.</source>
@@ -4089,7 +4089,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Создаёт, ищет, переименовывает и удаляет пустые файлы; значение — сколько их создано за секунду.</translation>
+        <translation>Создаёт, опрашивает, переименовывает и удаляет пустые файлы; значение — сколько их создано за секунду.</translation>
     </message>
 </context>
 </TS>

@@ -246,7 +246,7 @@ en düşük %2</translation>
     </message>
     <message>
         <source>%1: %2 %</source>
-        <translation>%1: %2&#xa0;%</translation>
+        <translation>%1: %%2</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -326,7 +326,7 @@ en düşük %2</translation>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Okunanların diskten gelen bölümü yalnızca %1&#xa0;%. Makinenin belleğine sığandan fazlasını denetleyin.</translation>
+        <translation>Okunanların yalnızca %%1 kadarı diskten geldi. Bilgisayarın belleğine sığandan fazlasını denetleyin.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
@@ -864,7 +864,7 @@ Disk hızı ve birim çözümleyicisini açar, ilk klasörü seçer ve ölçüm 
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation>Y/O %1</translation>
+        <translation>O/Y %1</translation>
     </message>
     <message>
         <source>W %1</source>
@@ -908,7 +908,7 @@ Disk hızı ve birim çözümleyicisini açar, ilk klasörü seçer ve ölçüm 
     </message>
     <message>
         <source>Recent activity from this session. File names, servers and accounts are replaced with anonymous tokens before anything is written down.</source>
-        <translation>Bu oturumdaki son etkinlikler. Dosya, sunucu ve hesap adları, herhangi bir şey kaydedilmeden önce anonim simgelerle değiştirilir.</translation>
+        <translation>Bu oturumdaki son etkinlikler. Dosya, sunucu ve hesap adları, herhangi bir şey kaydedilmeden önce anonim belirteçlerle değiştirilir.</translation>
     </message>
     <message>
         <source>View…</source>
@@ -1025,7 +1025,7 @@ Disk hızı ve birim çözümleyicisini açar, ilk klasörü seçer ve ölçüm 
     </message>
     <message>
         <source>The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.</source>
-        <translation>Test, boş alan %1 kalana dek yazar, sonra hepsini siler. Büyük bir sürücüde bu uzun sürer ve test bitene dek orada yer gerektiren diğer her şey yersiz kalır.</translation>
+        <translation>Test, boş alan %1 kalana dek yazar, sonra hepsini siler. Büyük bir sürücüde bu uzun sürer ve test bitene dek orada yer gerektiren diğer her şey yer sıkıntısı çeker.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1788,7 +1788,7 @@ geldiğini veya neden olmadığını &quot;facts&quot; bildirir.</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation>FOLDER nerede duruyor, gösterir: birim, dosya sistemi, sürücü ve sağlığı</translation>
+        <translation>FOLDER klasörünü barındıranları gösterir: birim, dosya sistemi, sürücü ve sağlığı</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
@@ -1814,7 +1814,7 @@ geldiğini veya neden olmadığını &quot;facts&quot; bildirir.</translation>
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation>Terminalde Ondel Tarnwick: bir diskin ne kadar hızlı olduğu, disk üzerinde ölçülür ve iz bırakmaz.</translation>
+        <translation>Terminalde Ondel Tarnwick: bir diskin ne kadar hızlı olduğunu disk üzerinde ölçer ve iz bırakmaz.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
@@ -2292,7 +2292,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>%1 % of the check</source>
-        <translation>Denetim: %1&#xa0;%</translation>
+        <translation>Denetim: %%1</translation>
     </message>
     <message>
         <source>in one part</source>
@@ -2336,7 +2336,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <message>
         <source>%1: %2 %</source>
         <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
-        <translation>%1: %2&#xa0;%</translation>
+        <translation>%1: %%2</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
@@ -2436,7 +2436,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
+        <translation>%%1</translation>
     </message>
 </context>
 <context>
@@ -2497,7 +2497,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <name>PreviousRunsSection</name>
     <message>
         <source>current run</source>
-        <translation>geçerli ölçüm</translation>
+        <translation>şimdiki ölçüm</translation>
     </message>
     <message>
         <source>Delete all saved runs?</source>
@@ -2558,7 +2558,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation>Test sırasında başka programlar aynı diskte %1 aktardı.</translation>
+        <translation>Test sırasında başka programlar aynı diskte %1 okuyup yazdı.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
@@ -2578,7 +2578,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>The machine ran on battery.</source>
-        <translation>Makine pille çalışıyordu.</translation>
+        <translation>Bilgisayar pille çalışıyordu.</translation>
     </message>
     <message>
         <source>The processor was set to save power.</source>
@@ -2586,7 +2586,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>The machine ran on battery, its processor set to save power.</source>
-        <translation>Makine pille çalışıyordu, işlemcisi güç tasarrufuna ayarlıydı.</translation>
+        <translation>Bilgisayar pille çalışıyordu, işlemcisi güç tasarrufuna ayarlıydı.</translation>
     </message>
     <message>
         <source>The file system writes changes to new places and checksums data.</source>
@@ -2598,7 +2598,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation>“Önbelleği atla” seçeneğini açın. Açıksa makinenin belleğinden büyük bir boyut seçin.</translation>
+        <translation>“Önbelleği atla” seçeneğini açın. Açıksa bilgisayarın belleğinden büyük bir boyut seçin.</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
@@ -2610,11 +2610,11 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation>Makinenin belleğinden büyük bir boyut seçin veya alttaki diski başka bir dosya sistemi üzerinden test edin.</translation>
+        <translation>Bilgisayarın belleğinden büyük bir boyut seçin veya alttaki diski başka bir dosya sistemi üzerinden test edin.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
-        <translation>Bir seferde bundan fazlası aktarıldığında düşük hızı bekleyin.</translation>
+        <translation>Bir seferde bundan fazlasını aktarırken düşük hızı hesaba katın.</translation>
     </message>
     <message>
         <source>Give the drive more air or a heat sink, and run again once it is cool.</source>
@@ -2646,7 +2646,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>Run again on mains power, with power saving off.</source>
-        <translation>Makine prize takılıyken ve güç tasarrufu kapalıyken yeniden ölçün.</translation>
+        <translation>Bilgisayar prize takılıyken ve güç tasarrufu kapalıyken yeniden ölçün.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
@@ -2921,7 +2921,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <message>
         <source>Read/Write</source>
         <extracomment>The size of the blocks that were read and written</extracomment>
-        <translation>Yazma/okuma</translation>
+        <translation>Okuma/yazma</translation>
     </message>
     <message>
         <source>Write</source>
@@ -3786,7 +3786,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <message>
         <source>%1 %2 %</source>
         <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
-        <translation>%1 %2&#xa0;%</translation>
+        <translation>%1 %%2</translation>
     </message>
     <message>
         <source>Skip This Version</source>
@@ -3866,7 +3866,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>Don’t Check</source>
-        <translation>Denetleme</translation>
+        <translation>Denetlenmesin</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
@@ -4001,7 +4001,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <name>Words</name>
     <message>
         <source>Sustained: the median rate of the test’s last third, which a long copy settles at; peak and lowest are its fastest and its slowest tenth of a second.</source>
-        <translation>Sürdürülen: testin son üçte birinin ortanca hızı; uzun bir kopyalama bu hızda durulur. Tepe ve en düşük, testin en hızlı ve en yavaş onda bir saniyesidir.</translation>
+        <translation>Sürdürülen: testin son üçte birinin ortanca hızı; uzun bir kopyalama bu hıza oturur. Tepe ve en düşük, testin en hızlı ve en yavaş onda bir saniyesidir.</translation>
     </message>
     <message>
         <source>Has data go past the system’s memory, so that the disk is measured and not the cache.</source>
@@ -4025,7 +4025,7 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Boş dosyalar oluşturur, arar, yeniden adlandırır ve siler; değer, bir saniyede kaç dosya oluşturduğudur.</translation>
+        <translation>Boş dosyalar oluşturur, sorgular, yeniden adlandırır ve siler; değer, bir saniyede kaç dosya oluşturduğudur.</translation>
     </message>
 </context>
 </TS>

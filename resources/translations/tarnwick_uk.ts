@@ -257,7 +257,7 @@ min %2</source>
     <name>CapacityPane</name>
     <message>
         <source>Capacity of %1</source>
-        <translation>Місткість %1</translation>
+        <translation>Місткість тому %1</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
@@ -346,7 +346,7 @@ min %2</source>
     </message>
     <message>
         <source>Capacity of %1</source>
-        <translation>Місткість %1</translation>
+        <translation>Місткість тому %1</translation>
     </message>
     <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
@@ -754,7 +754,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>Використання: tarnwick [--check-capacity | --choose-folder] [FOLDER | FILE | URL]...
 Відкриває аналізатор швидкості дисків і томів, вибирає першу теку й показує файли вимірювань (*.tarnwickrun).
   --check-capacity  перейти до перевірки тому цієї теки
-  --choose-folder   запитати теку
+  --choose-folder   запропонувати вибрати теку
 </translation>
     </message>
     <message>
@@ -896,17 +896,17 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>R/W %1</source>
         <extracomment>%1 is the size of the blocks that were read and written</extracomment>
-        <translation>З/Ч %1</translation>
+        <translation>Ч/З %1</translation>
     </message>
     <message>
         <source>W %1</source>
         <extracomment>%1 is the size of the blocks that were written</extracomment>
-        <translation>З %1</translation>
+        <translation>З: %1</translation>
     </message>
     <message>
         <source>R %1</source>
         <extracomment>%1 is the size of the blocks that were read</extracomment>
-        <translation>Ч %1</translation>
+        <translation>Ч: %1</translation>
     </message>
     <message>
         <source>Rnd %1</source>
@@ -1187,7 +1187,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Pending sectors</source>
-        <translation>Очікувальні сектори</translation>
+        <translation>Сектори в очікуванні</translation>
     </message>
     <message>
         <source>Uncorrectable sectors</source>
@@ -1531,7 +1531,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Connection</source>
-        <translation>З’єднання</translation>
+        <translation>Тип тому</translation>
     </message>
     <message>
         <source>Read-only</source>
@@ -1821,7 +1821,7 @@ mount for themselves is left out. A server that does not answer in time has no c
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation>Накопичувач лише оглядається: сплячий не пробуджується, і нічого в ньому не вмикається. Звідки взято відомості
+        <translation>Накопичувач лише опитується: сплячий не пробуджується, і нічого в ньому не вмикається. Звідки взято відомості
 про його стан або чому їх немає, повідомляє &quot;facts&quot;.</translation>
     </message>
     <message>
@@ -2028,7 +2028,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
-        <translation>Про файл, який не можна показати, повідомляє рядок у стандартному виведенні помилок, решта показуються.</translation>
+        <translation>Про файл, який не можна показати, повідомляє рядок у стандартному виведенні помилок, решту буде показано.</translation>
     </message>
     <message>
         <source>Exit status: 0 all were shown, 1 not all, 2 wrong usage.</source>
@@ -2072,7 +2072,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Starting</source>
-        <translation>Початок</translation>
+        <translation>Запуск</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -2090,7 +2090,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Starting, %1 s</source>
-        <translation>Початок, %1 s</translation>
+        <translation>Запуск, %1 s</translation>
     </message>
 </context>
 <context>
@@ -2616,7 +2616,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Others moved %1 on the same disk during the test.</source>
-        <translation>Під час тесту інші програми передали %1 на тому самому диску.</translation>
+        <translation>Під час тесту інші програми прочитали й записали %1 на тому самому диску.</translation>
     </message>
     <message>
         <source>The drive’s %1 link runs at %2; the drive could do %3.</source>
@@ -2668,7 +2668,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation>Виберіть розмір, більший за обсяг пам’яті комп’ютера, або протестуйте нижчий диск через іншу файлову систему.</translation>
+        <translation>Виберіть розмір, більший за обсяг пам’яті комп’ютера, або протестуйте базовий диск через іншу файлову систему.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
@@ -2688,7 +2688,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Try another port, slot or cable.</source>
-        <translation>Спробуйте інший порт, роз’єм або кабель.</translation>
+        <translation>Спробуйте інший порт, слот або кабель.</translation>
     </message>
     <message>
         <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
@@ -2724,7 +2724,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>To measure that volume itself, choose a folder on it.</source>
-        <translation>Щоб виміряти сам той том, виберіть теку на ньому.</translation>
+        <translation>Щоб виміряти саме той том, виберіть теку на ньому.</translation>
     </message>
     <message>
         <source>The disk is one of a virtual machine, whose host may cache it.</source>
@@ -2828,7 +2828,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Report on the web:</source>
-        <translation>Повідомити через веб:</translation>
+        <translation>Повідомити на сайті:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2981,7 +2981,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Read/Write</source>
         <extracomment>The size of the blocks that were read and written</extracomment>
-        <translation>Запис/читання</translation>
+        <translation>Читання/запис</translation>
     </message>
     <message>
         <source>Write</source>
@@ -3307,7 +3307,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Random block</source>
-        <translation>Випадковий блок</translation>
+        <translation>Блок вип. доступу</translation>
     </message>
     <message>
         <source>Bypass cache</source>
@@ -4038,7 +4038,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Network</source>
         <extracomment>How a volume is attached: a server keeps it</extracomment>
-        <translation>Мережа</translation>
+        <translation>Мережевий</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -4048,7 +4048,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Root</source>
         <extracomment>The name of the volume at &quot;/&quot;</extracomment>
-        <translation>Кореневий</translation>
+        <translation>Корінь</translation>
     </message>
     <message>
         <source>Shared Folder</source>
@@ -4065,7 +4065,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>Words</name>
     <message>
         <source>Sustained: the median rate of the test’s last third, which a long copy settles at; peak and lowest are its fastest and its slowest tenth of a second.</source>
-        <translation>Усталена: медіана швидкості за останню третину тесту, на якій тримається тривале копіювання; пікова і найменша — його найшвидша і найповільніша десята частка секунди.</translation>
+        <translation>Усталена: медіана швидкості за останню третину тесту, на цьому рівні тримається тривале копіювання; пікова і найменша — найшвидша і найповільніша десята частка секунди тесту.</translation>
     </message>
     <message>
         <source>Has data go past the system’s memory, so that the disk is measured and not the cache.</source>
@@ -4089,7 +4089,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>Створює, шукає, перейменовує і вилучає порожні файли; значення — скільки їх створено за секунду.</translation>
+        <translation>Створює, опитує, перейменовує і вилучає порожні файли; значення — скільки їх створено за секунду.</translation>
     </message>
 </context>
 </TS>
