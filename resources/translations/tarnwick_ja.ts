@@ -66,7 +66,7 @@
     </message>
     <message>
         <source>The test file is too small for the random block size.</source>
-        <translation>テストファイルがランダムブロックサイズに対して小さすぎます。</translation>
+        <translation>テストファイルがランダムブロックのサイズに対して小さすぎます。</translation>
     </message>
     <message>
         <source>Sequential write</source>
@@ -257,7 +257,7 @@ min %2</source>
     <name>CapacityPane</name>
     <message>
         <source>Capacity of %1</source>
-        <translation>%1の容量</translation>
+        <translation>%1 の容量</translation>
     </message>
     <message>
         <source>Capacity of the volume</source>
@@ -270,7 +270,7 @@ min %2</source>
     </message>
     <message>
         <source>Back to the runs</source>
-        <translation>計測に戻る</translation>
+        <translation>計測一覧に戻る</translation>
     </message>
 </context>
 <context>
@@ -298,7 +298,7 @@ min %2</source>
     <name>CapacityText</name>
     <message>
         <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>どの検査でも分からないこと: 既存のファイルが占める領域が健全か、ドライブがどれだけ予備を残しているか、修復されたブロックが今後も持つか。</translation>
+        <translation>どの検査でも分からないこと: 既存のファイルが占める領域が健全か、ドライブに予備領域がどれだけ残っているか、修復されたブロックが今後も持つか。</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
@@ -346,7 +346,7 @@ min %2</source>
     </message>
     <message>
         <source>Capacity of %1</source>
-        <translation>%1の容量</translation>
+        <translation>%1 の容量</translation>
     </message>
     <message>
         <source>This volume keeps only the first %1 of what is written to it.</source>
@@ -800,7 +800,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message numerus="yes">
         <source>Comparing %n runs</source>
         <translation>
-            <numerusform>%n 件の計測を比較中</numerusform>
+            <numerusform>%n 件の計測を比較</numerusform>
         </translation>
     </message>
     <message>
@@ -1201,7 +1201,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Backup failed</source>
-        <translation>バックアップの失敗</translation>
+        <translation>バックアップ機構の故障</translation>
     </message>
     <message>
         <source>Unknown</source>
@@ -1219,12 +1219,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>no device is behind this path</source>
-        <translation>このパスの背後にデバイスがありません</translation>
+        <translation>このパスに対応するデバイスがありません</translation>
     </message>
     <message>
         <source>no disk is behind %1</source>
         <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
-        <translation>%1 の背後にディスクがありません</translation>
+        <translation>%1 に対応するディスクがありません</translation>
     </message>
     <message>
         <source>%1 is no block device</source>
@@ -1289,7 +1289,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>UDisks2 knows no drive behind %1</source>
-        <translation>UDisks2 は %1 の背後のドライブを認識していません</translation>
+        <translation>UDisks2 は %1 に対応するドライブを認識していません</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1, which gave its verdict without figures</source>
@@ -1306,7 +1306,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation>%1 の UDisks2 情報（%2 min 前に読み取り）</translation>
+        <translation>%1 の UDisks2 情報（%2 分前に読み取り）</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
@@ -1386,7 +1386,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>Delete %1</source>
         <extracomment>%1 is the title of a run</extracomment>
-        <translation>%1を削除</translation>
+        <translation>%1 を削除</translation>
     </message>
     <message>
         <source>Delete this run</source>
@@ -1601,7 +1601,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>%1 exists and holds no runs; --force would replace it</source>
-        <translation>%1 は既に存在し、計測を含んでいません。--force を付けると置き換えます</translation>
+        <translation>%1 はすでに存在し、計測を含んでいません。--force を付けると置き換えます</translation>
     </message>
     <message>
         <source>A figure of this run is beyond what a file can hold.</source>
@@ -1695,8 +1695,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
 transparent margin; its path is printed. It needs no display. A picture of the same title replaces the one before;
 it stays until your session ends, or until the system empties its temporary folder.</source>
         <translation>計測ファイルは、1 件の計測について &quot;run --handoff&quot; が書き込むファイルです。画像は幅 1616 ピクセルの PNG
-ファイルで、余白は透明です。画像のパスを出力します。ディスプレイは不要です。同じタイトルの画像は以前のものを置き換えます。
-画像は、セッションが終わるか、システムが一時フォルダーを空にするまで残ります。</translation>
+ファイルで、余白は透明です。画像のパスを出力します。ディスプレイは不要です。同じタイトルの画像は以前のものを置き換えます。画像は、セッションが終わるか、システムが一時フォルダーを空にするまで残ります。</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a file could not be read or the picture not be made, 2 wrong usage.</source>
@@ -1717,8 +1716,7 @@ it stays until your session ends, or until the system empties its temporary fold
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation>範囲全体のサンプルを数秒で検査する。容量の偽装は見つかるが、
-見つからなくても問題がない証明にはならない</translation>
+        <translation>範囲全体のサンプルを数秒で検査する。容量の偽装は見つかるが、見つからなくても問題がない証明にはならない</translation>
     </message>
     <message>
         <source>Read everything once more, S seconds later</source>
@@ -1733,20 +1731,16 @@ proves nothing when it finds none</source>
 cache, compares all of it, and removes them, also after Ctrl+C. No file of yours is touched; but on a device
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
-        <translation>FOLDER 内の隠しフォルダーに、どのブロックも異なるファイルを書き込み、システムのキャッシュを通さずに読み戻し、
-すべてを比較してから削除します。Ctrl+C の後でも削除します。既存のファイルには触れませんが、容量が偽装されたデバイスでは、
-実容量を超える書き込みはすべて、通常の使用と同じく、そこにある内容を破壊することがあります。
---quick はサンプルだけを書き込みます。強制終了された検査のファイルは、FOLDER での次の計測または検査が削除します。</translation>
+        <translation>FOLDER 内の隠しフォルダーに、どのブロックも異なるファイルを書き込み、システムのキャッシュを通さずに読み戻し、すべてを比較してから削除します。Ctrl+C の後でも削除します。既存のファイルには触れませんが、容量が偽装されたデバイスでは、実容量を超える書き込みはすべて、通常の使用と同じく、そこにある内容を破壊することがあります。--quick はサンプルだけを書き込みます。強制終了された検査のファイルは、FOLDER での次の計測または検査が削除します。</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation>BYTES は数字だけ、または K、M、G、T を付けた数字です（KiB、MiB、GiB、TiB: 1024 刻み）。</translation>
+        <translation>BYTES は数字だけ、または K、M、G、T を付けた数字です（KiB、MiB、GiB、TiB: 1024 倍ごと）。</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
 what had been found until then is printed.</source>
-        <translation>終了ステータス: 0 問題は見つからなかった、1 失敗、2 使い方の誤り、3 欠陥が見つかった、130 シグナルによる停止。
-停止までに見つかった内容は出力されます。</translation>
+        <translation>終了ステータス: 0 問題は見つからなかった、1 失敗、2 使い方の誤り、3 欠陥が見つかった、130 シグナルによる停止。停止までに見つかった内容は出力されます。</translation>
     </message>
     <message>
         <source>Check whether a volume is as large as it says and keeps what it is given</source>
@@ -1777,14 +1771,12 @@ object.</source>
     <message>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
-        <translation>各ファイルシステムを、最も短いマウントポイントで 1 回だけ表示します。
-システムやそのパッケージ、コンテナーが自身のためにマウントしたものは省きます。時間内に応答しないサーバーの容量は表示されません。</translation>
+        <translation>各ファイルシステムを、最も短いマウントポイントで 1 回だけ表示します。システムやそのパッケージ、コンテナーが自身のためにマウントしたものは省きます。時間内に応答しないサーバーの容量は表示されません。</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation>ドライブは見るだけです。スリープ中のドライブを起こすことも、機能を有効にすることもありません。
-健康状態の取得元、または取得できない理由は &quot;facts&quot; で確認できます。</translation>
+        <translation>ドライブは参照するだけです。スリープ中のドライブを起こすことも、機能を有効にすることもありません。健康状態の取得元、または取得できない理由は &quot;facts&quot; で確認できます。</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
@@ -1847,8 +1839,7 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation>--output の FILE に計測を書き込む。形式は --format または FILE の名前に従う: .csv、.json、.md、
-.txt、計測が 1 件なら .tarnwickrun も可</translation>
+        <translation>--output の FILE に計測を書き込む。形式は --format または FILE の名前に従う: .csv、.json、.md、.txt、計測が 1 件なら .tarnwickrun も可</translation>
     </message>
     <message>
         <source>delete runs, without a question and for good</source>
@@ -1858,9 +1849,7 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
         <source>A RUN is named as the list has it, or by four or more characters that begin its id. Without one, all runs are meant;
 &quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
 file only if it is empty or holds runs; with --force any other file too.</source>
-        <translation>RUN は、一覧にある名前、または id の先頭の 4 文字以上で指定します。指定しない場合はすべての計測が対象になり、
-&quot;delete&quot; には --all が必要です。開いているウィンドウには、そのウィンドウに戻るとすぐに反映されます。
---output が既存のファイルを置き換えるのは、空か、計測を含む場合だけです。--force を付けると、ほかのファイルも置き換えます。</translation>
+        <translation>RUN は、一覧にある名前、または id の先頭の 4 文字以上で指定します。指定しない場合はすべての計測が対象になり、&quot;delete&quot; には --all が必要です。開いているウィンドウには、そのウィンドウに戻るとすぐに反映されます。--output が既存のファイルを置き換えるのは、空か、計測を含む場合だけです。--force を付けると、ほかのファイルも置き換えます。</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 there is no such run or it failed, 2 wrong usage.</source>
@@ -1874,9 +1863,8 @@ file only if it is empty or holds runs; with --force any other file too.</source
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation>BYTES は数字だけ、または K、M、G、T を付けた数字です（KiB、MiB、GiB、TiB: 1024 刻み）。ブロックは 4096
-バイトのページ単位に切り上げられます。既定値はウィンドウと同じなので、測定値を互いに比較できます。
-ただし、シーケンシャルテストのブロックは異なり、ウィンドウは &quot;facts&quot; が示す「最適な転送サイズ」を使います。</translation>
+        <translation>BYTES は数字だけ、または K、M、G、T を付けた数字です（KiB、MiB、GiB、TiB: 1024 倍ごと）。ブロックは 4096
+バイトのページ単位に切り上げられます。既定値はウィンドウと同じなので、測定値を互いに比較できます。ただし、シーケンシャルテストのブロックは異なり、ウィンドウは &quot;facts&quot; が示す「最適な転送サイズ」を使います。</translation>
     </message>
     <message>
         <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
@@ -1890,11 +1878,8 @@ FOLDER に残したファイルは開始前に削除します。まだ使用中�
 &quot;history export&quot; write as json or csv); with --force any other file too. A window that is open shows a run that
 --keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
 and the run counts as failed.</source>
-        <translation>--handoff と --card のファイルは、セッションが終わるか、システムが一時フォルダーを空にするまで残ります。
---output が既存のファイルを置き換えるのは、空か、計測を含む場合だけです（計測ファイル、または
-&quot;show --format&quot; や &quot;history export&quot; が json か csv で書き込んだもの）。
---force を付けると、ほかのファイルも置き換えます。開いているウィンドウは、そのウィンドウに戻るとすぐに、
---keep が追加した計測を表示します。何かを書き込めない場合でも測定値は出力されますが、計測は失敗とみなされます。</translation>
+        <translation>--handoff と --card のファイルは、セッションが終わるか、システムが一時フォルダーを空にするまで残ります。--output が既存のファイルを置き換えるのは、空か、計測を含む場合だけです（計測ファイル、または
+&quot;show --format&quot; や &quot;history export&quot; が json か csv で書き込んだもの）。--force を付けると、ほかのファイルも置き換えます。開いているウィンドウは、そのウィンドウに戻るとすぐに、--keep が追加した計測を表示します。何かを書き込めない場合でも測定値は出力されますが、計測は失敗とみなされます。</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
@@ -1907,8 +1892,7 @@ and the run counts as failed.</source>
     <message>
         <source>Tests to run, always in this order: sequentialWrite, sequentialRead,
 randomRead, randomWrite, fileOps (default: all)</source>
-        <translation>実行するテスト。順序は常に次のとおり: sequentialWrite、sequentialRead、
-randomRead、randomWrite、fileOps（既定: すべて）</translation>
+        <translation>実行するテスト。順序は常に次のとおり: sequentialWrite、sequentialRead、randomRead、randomWrite、fileOps（既定: すべて）</translation>
     </message>
     <message>
         <source>Size of the data file, or fill the disk (default: 5GiB)</source>
@@ -1950,8 +1934,7 @@ randomRead、randomWrite、fileOps（既定: すべて）</translation>
         <source>Print one JSON object: the plan, every figure, every sample, date,
 folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
 &quot;remarks&quot; what was observed and what it says</source>
-        <translation>1 つの JSON オブジェクトを出力する: 計画、すべての測定値とサンプル、日時、
-フォルダー、ボリューム、ファイルシステム、ドライブ、カーネル、さらに
+        <translation>1 つの JSON オブジェクトを出力する: 計画、すべての測定値とサンプル、日時、フォルダー、ボリューム、ファイルシステム、ドライブ、カーネル、さらに
 &quot;evidence&quot; と &quot;remarks&quot; に、観測した内容とその意味</translation>
     </message>
     <message>
@@ -1965,28 +1948,23 @@ folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
     <message>
         <source>Write a run file for the window and for &quot;show&quot;, and print its path
 as the last line; with --json: as &quot;handoffFile&quot; in the object</source>
-        <translation>ウィンドウと &quot;show&quot; 用の計測ファイルを書き込み、最後の行にパスを出力する。
---json と併用した場合は、オブジェクトの &quot;handoffFile&quot; になる</translation>
+        <translation>ウィンドウと &quot;show&quot; 用の計測ファイルを書き込み、最後の行にパスを出力する。--json と併用した場合は、オブジェクトの &quot;handoffFile&quot; になる</translation>
     </message>
     <message>
         <source>Draw a picture of the run to share, in light or dark colours, and
 print its path as the last line; with --json: as &quot;cardFile&quot;</source>
-        <translation>共有する計測の画像を明るい配色または暗い配色で描画し、
-最後の行にパスを出力する。--json と併用した場合は &quot;cardFile&quot; になる</translation>
+        <translation>共有する計測の画像を明るい配色または暗い配色で描画し、最後の行にパスを出力する。--json と併用した場合は &quot;cardFile&quot; になる</translation>
     </message>
     <message>
         <source>A run file is what &quot;run --handoff&quot; and &quot;run --output&quot; write, for one run. The window&apos;s history (history.json) and
 the output of &quot;show --format json&quot; have several. &quot;-&quot; is standard input.</source>
-        <translation>計測ファイルは、1 件の計測について &quot;run --handoff&quot; や &quot;run --output&quot; が書き込むファイルです。
-ウィンドウの履歴 (history.json) と &quot;show --format json&quot; の出力には複数の計測が含まれます。&quot;-&quot; は標準入力です。</translation>
+        <translation>計測ファイルは、1 件の計測について &quot;run --handoff&quot; や &quot;run --output&quot; が書き込むファイルです。ウィンドウの履歴 (history.json) と &quot;show --format json&quot; の出力には複数の計測が含まれます。&quot;-&quot; は標準入力です。</translation>
     </message>
     <message>
         <source>As text, bars compare the figures of several runs: the largest of each kind fills its track, and &quot;--&quot; stands where a
 run has none. Lines fit the terminal, or 80 columns. A Markdown table is for forums. CSV has a line for each run, with
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
-        <translation>テキスト形式では、複数の計測の測定値を棒で比較します。種類ごとに最大の値が棒の幅いっぱいになり、
-値がない計測には &quot;--&quot; を表示します。行は端末の幅、または 80 桁に収まります。Markdown の表はフォーラム向けです。
-CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な数値です。JSON は計測ファイルの内容のリストです。</translation>
+        <translation>テキスト形式では、複数の計測の測定値を棒で比較します。種類ごとに最大の値が棒の幅いっぱいになり、値がない計測には &quot;--&quot; を表示します。行はターミナルの幅、または 80 桁に収まります。Markdown の表はフォーラム向けです。CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な数値です。JSON は計測ファイルの内容のリストです。</translation>
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
@@ -2296,12 +2274,12 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     </message>
     <message>
         <source>in one part</source>
-        <translation>1 か所の区間</translation>
+        <translation>1 区間</translation>
     </message>
     <message numerus="yes">
         <source>in %1 parts</source>
         <translation>
-            <numerusform>%1 か所の区間</numerusform>
+            <numerusform>%1 区間</numerusform>
         </translation>
     </message>
     <message>
@@ -2364,7 +2342,7 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     <message>
         <source>to come</source>
         <extracomment>Of a test that has not begun</extracomment>
-        <translation>これから</translation>
+        <translation>未実行</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2386,37 +2364,37 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     <message numerus="yes">
         <source>About %n s left</source>
         <translation>
-            <numerusform>残り約 %n s</numerusform>
+            <numerusform>残り約 %n 秒</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
         <translation>
-            <numerusform>このテストは残り約 %n s</numerusform>
+            <numerusform>このテストは残り約 %n 秒</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
         <translation>
-            <numerusform>残り約 %n min</numerusform>
+            <numerusform>残り約 %n 分</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
         <translation>
-            <numerusform>このテストは残り約 %n min</numerusform>
+            <numerusform>このテストは残り約 %n 分</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
         <translation>
-            <numerusform>残り約 %n h</numerusform>
+            <numerusform>残り約 %n 時間</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
         <translation>
-            <numerusform>このテストは残り約 %n h</numerusform>
+            <numerusform>このテストは残り約 %n 時間</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2598,7 +2576,7 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     </message>
     <message>
         <source>Switch on Bypass cache. Where it is on, choose a size larger than the machine’s memory.</source>
-        <translation>［キャッシュをバイパス］をオンにしてください。既にオンの場合は、コンピューターのメモリーより大きいサイズを選んでください。</translation>
+        <translation>［キャッシュをバイパス］をオンにしてください。すでにオンの場合は、コンピューターのメモリーより大きいサイズを選んでください。</translation>
     </message>
     <message>
         <source>Look at the drive’s S.M.A.R.T. status and the system’s log before you trust it with data.</source>
@@ -2723,7 +2701,7 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     </message>
     <message>
         <source>Summary — a one-line description</source>
-        <translation>概要 — 1 行での説明</translation>
+        <translation>概要（1 行での説明）</translation>
     </message>
     <message>
         <source>Details</source>
@@ -2739,7 +2717,7 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     </message>
     <message>
         <source>Email — optional, if you’d like us to get back to you</source>
-        <translation>メールアドレス — 任意、返信をご希望の場合</translation>
+        <translation>メールアドレス（任意、返信をご希望の場合）</translation>
     </message>
     <message>
         <source>%1 %2 · %3 · %4 will be attached.</source>
@@ -2907,12 +2885,12 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     <message>
         <source>Random %1 read</source>
         <extracomment>%1 is the size of a block, as 4 KiB</extracomment>
-        <translation>ランダム %1 読み取り</translation>
+        <translation>%1 ランダム読み取り</translation>
     </message>
     <message>
         <source>Random %1 write</source>
         <extracomment>%1 is the size of a block, as 4 KiB</extracomment>
-        <translation>ランダム %1 書き込み</translation>
+        <translation>%1 ランダム書き込み</translation>
     </message>
     <message>
         <source>File operations</source>
@@ -3193,7 +3171,7 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     </message>
     <message>
         <source>Save these figures as a text file</source>
-        <translation>これらの測定値をテキストファイルとして保存</translation>
+        <translation>これらの値をテキストファイルとして保存</translation>
     </message>
 </context>
 <context>
@@ -3838,7 +3816,7 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     </message>
     <message>
         <source>%1 can look for a new version about once a day. It sends nothing about you or your disks, and asks before it downloads anything.</source>
-        <translation>%1 は 1 日に 1 回ほど新しいバージョンを調べることができます。お使いの環境やディスクについての情報は一切送信せず、何かをダウンロードする前には確認します。</translation>
+        <translation>%1 は 1 日に 1 回ほど新しいバージョンを調べることができます。お客様やお使いのディスクについての情報は一切送信せず、何かをダウンロードする前には確認します。</translation>
     </message>
     <message>
         <source>%1 %2 is the newest version.</source>
@@ -4025,7 +4003,7 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>空のファイルを作成、検索、名前変更、削除します。測定値は 1 秒間に作成したファイルの数です。</translation>
+        <translation>空のファイルの作成、属性の取得、名前の変更、削除を行います。測定値は 1 秒間に作成したファイルの数です。</translation>
     </message>
 </context>
 </TS>

@@ -270,7 +270,7 @@ min %2</source>
     </message>
     <message>
         <source>Back to the runs</source>
-        <translation>측정으로 돌아가기</translation>
+        <translation>측정 목록으로 돌아가기</translation>
     </message>
 </context>
 <context>
@@ -298,7 +298,7 @@ min %2</source>
     <name>CapacityText</name>
     <message>
         <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>어떤 검사로도 알 수 없는 것: 기존 파일이 차지한 공간이 온전한지, 드라이브에 예비 공간이 얼마나 남았는지, 복구된 블록이 오래갈지 여부.</translation>
+        <translation>어떤 검사로도 알 수 없는 것: 기존 파일이 차지한 공간이 온전한지, 드라이브에 예비 블록이 얼마나 남았는지, 복구된 블록이 오래갈지 여부.</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
@@ -342,7 +342,7 @@ min %2</source>
     </message>
     <message>
         <source>This file system returns nothing that does not match its checksums: changed data cannot be read on it.</source>
-        <translation>이 파일 시스템은 체크섬과 일치하지 않는 내용을 돌려주지 않습니다. 변경된 데이터를 읽을 수 없습니다.</translation>
+        <translation>이 파일 시스템은 체크섬과 일치하지 않는 내용을 돌려주지 않습니다. 이 파일 시스템에서는 변경된 데이터를 읽을 수 없습니다.</translation>
     </message>
     <message>
         <source>Capacity of %1</source>
@@ -354,11 +354,11 @@ min %2</source>
     </message>
     <message>
         <source>This volume claims %1, but keeps only the first %2.</source>
-        <translation>이 볼륨은 %1라고 표시하지만, 처음 %2만 유지합니다.</translation>
+        <translation>이 볼륨은 %1로 표시되지만 처음 %2만 유지합니다.</translation>
     </message>
     <message>
         <source>This volume claims %1, but keeps only about the first %2.</source>
-        <translation>이 볼륨은 %1라고 표시하지만, 처음 약 %2만 유지합니다.</translation>
+        <translation>이 볼륨은 %1로 표시되지만 처음 약 %2만 유지합니다.</translation>
     </message>
     <message>
         <source>One block at %1 came back changed.</source>
@@ -510,11 +510,11 @@ min %2</source>
     </message>
     <message>
         <source>Your share of the volume was used up after %1 of %2; these hold what was written.</source>
-        <translation>%2 중 %1 이후 볼륨의 할당량을 모두 사용했습니다. 기록한 부분은 내용을 유지합니다.</translation>
+        <translation>%2 중 %1까지 쓰고 나서 볼륨의 할당량이 소진되었습니다. 기록한 부분은 내용을 유지합니다.</translation>
     </message>
     <message>
         <source>The volume was full after %1 of %2; these hold what was written.</source>
-        <translation>%2 중 %1 이후 볼륨이 가득 찼습니다. 기록한 부분은 내용을 유지합니다.</translation>
+        <translation>%2 중 %1까지 쓰고 나서 볼륨이 가득 찼습니다. 기록한 부분은 내용을 유지합니다.</translation>
     </message>
     <message>
         <source>All %1 came back as written, but mostly from memory: that says little about the disk.</source>
@@ -624,7 +624,7 @@ min %2</source>
     </message>
     <message>
         <source>Read back</source>
-        <translation>다시 읽음</translation>
+        <translation>읽어 확인함</translation>
     </message>
     <message>
         <source>Read again after %1</source>
@@ -656,12 +656,12 @@ min %2</source>
     </message>
     <message>
         <source>And at one more place.</source>
-        <translation>그 외 한 곳 더 있습니다.</translation>
+        <translation>그 외에 한 곳 더 있습니다.</translation>
     </message>
     <message numerus="yes">
         <source>And at %1 more places.</source>
         <translation>
-            <numerusform>그 외 %1곳 더 있습니다.</numerusform>
+            <numerusform>그 외에 %1곳 더 있습니다.</numerusform>
         </translation>
     </message>
     <message>
@@ -746,12 +746,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>Write over time</source>
         <extracomment>Title of a chart: the rate of the write test</extracomment>
-        <translation>시간에 따른 쓰기</translation>
+        <translation>시간에 따른 쓰기 속도</translation>
     </message>
     <message>
         <source>Read over time</source>
         <extracomment>Title of a chart: the rate of the read test</extracomment>
-        <translation>시간에 따른 읽기</translation>
+        <translation>시간에 따른 읽기 속도</translation>
     </message>
 </context>
 <context>
@@ -1025,7 +1025,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>The test writes until %1 is left free, then removes it all. On a large drive this takes a long time, and anything else that needs space on it will run short until the test ends.</source>
-        <translation>이 테스트는 %1만 남을 때까지 기록한 다음 모두 제거합니다. 큰 드라이브에서는 시간이 오래 걸리며, 테스트가 끝날 때까지 이 공간이 필요한 다른 프로그램은 공간이 부족해집니다.</translation>
+        <translation>이 테스트는 여유 공간이 %1만 남을 때까지 기록한 다음 모두 제거합니다. 대용량 드라이브에서는 시간이 오래 걸리며, 테스트가 끝날 때까지 드라이브의 공간이 필요한 다른 프로그램은 공간이 부족해집니다.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1201,7 +1201,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Backup failed</source>
-        <translation>백업 실패</translation>
+        <translation>백업 장치 고장</translation>
     </message>
     <message>
         <source>Unknown</source>
@@ -1252,7 +1252,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>%1 does not give its NVMe health log</source>
-        <translation>%1: NVMe 상태 로그를 제공하지 않습니다</translation>
+        <translation>%1: NVMe 건강 상태 로그를 제공하지 않습니다</translation>
     </message>
     <message>
         <source>%1 may only be asked by an administrator</source>
@@ -1277,15 +1277,15 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>UDisks2 %1 does not read the health of NVMe drives (version 2.10 does)</source>
         <extracomment>%1 is the version of UDisks2</extracomment>
-        <translation>UDisks2 %1 버전은 NVMe 드라이브의 상태를 읽지 않습니다(2.10 버전은 읽음)</translation>
+        <translation>UDisks2 %1 버전은 NVMe 드라이브의 건강 상태를 읽지 않습니다(2.10 버전은 읽음)</translation>
     </message>
     <message>
         <source>UDisks2 has no health figures of %1</source>
-        <translation>UDisks2에 %1의 상태 수치가 없습니다</translation>
+        <translation>UDisks2에 %1의 건강 상태 수치가 없습니다</translation>
     </message>
     <message>
         <source>UDisks2 has no health verdict on %1</source>
-        <translation>UDisks2에 %1의 상태 판정이 없습니다</translation>
+        <translation>UDisks2에 %1의 건강 상태 판정이 없습니다</translation>
     </message>
     <message>
         <source>UDisks2 knows no drive behind %1</source>
@@ -1301,12 +1301,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>NVMe health log of %1</source>
-        <translation>%1의 NVMe 상태 로그</translation>
+        <translation>%1의 NVMe 건강 상태 로그</translation>
     </message>
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation>%1의 UDisks2 정보, %2 min 전에 읽음</translation>
+        <translation>%1의 UDisks2 정보, %2분 전에 읽음</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
@@ -1573,7 +1573,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Health</source>
-        <translation>상태</translation>
+        <translation>건강 상태</translation>
     </message>
     <message>
         <source>no S.M.A.R.T. figures: %1</source>
@@ -1740,7 +1740,7 @@ with a false capacity every write beyond its real size may destroy what lies the
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation>BYTES는 숫자만 쓰거나 K, M, G, T를 붙여 씁니다(KiB, MiB, GiB, TiB: 1024 단위).</translation>
+        <translation>BYTES는 숫자만 쓰거나 K, M, G, T를 붙여 씁니다(KiB, MiB, GiB, TiB: 1024배씩).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
@@ -1783,12 +1783,12 @@ mount for themselves is left out. A server that does not answer in time has no c
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation>드라이브를 살펴보기만 합니다. 절전 중인 드라이브를 깨우거나 기능을 켜지 않습니다. 상태 정보의 출처 또는 정보가
+        <translation>드라이브를 살펴보기만 합니다. 절전 중인 드라이브를 깨우거나 기능을 켜지 않습니다. 건강 상태 정보의 출처 또는 정보가
 없는 이유는 &quot;facts&quot;로 확인할 수 있습니다.</translation>
     </message>
     <message>
         <source>Show what holds FOLDER: volume, file system, drive and its health</source>
-        <translation>FOLDER가 있는 볼륨, 파일 시스템, 드라이브와 그 상태를 표시합니다</translation>
+        <translation>FOLDER가 있는 볼륨, 파일 시스템, 드라이브와 그 건강 상태를 표시합니다</translation>
     </message>
     <message>
         <source>List the mounted volumes</source>
@@ -1796,7 +1796,7 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
     </message>
     <message>
         <source>Print the health of the drive that holds FOLDER</source>
-        <translation>FOLDER가 있는 드라이브의 상태를 출력합니다</translation>
+        <translation>FOLDER가 있는 드라이브의 건강 상태를 출력합니다</translation>
     </message>
     <message>
         <source>%1.</source>
@@ -1874,7 +1874,7 @@ file only if it is empty or holds runs; with --force any other file too.</source
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation>BYTES는 숫자만 쓰거나 K, M, G, T를 붙여 씁니다(KiB, MiB, GiB, TiB: 1024 단위). 블록은 4096바이트 페이지 단위로
+        <translation>BYTES는 숫자만 쓰거나 K, M, G, T를 붙여 씁니다(KiB, MiB, GiB, TiB: 1024배씩). 블록은 4096바이트 페이지 단위로
 올림합니다. 기본값은 창과 같으므로 측정값을 서로 비교할 수 있습니다. 단, 순차 테스트의 블록은 예외로, 창에서는
 &quot;facts&quot;에 표시되는 &quot;최적 전송 크기&quot;를 사용합니다.</translation>
     </message>
@@ -2112,7 +2112,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>HostUsage</name>
     <message>
         <source>a RUNFILE to draw is missing</source>
-        <translation>그릴 RUNFILE이 없습니다</translation>
+        <translation>그릴 RUNFILE이 지정되지 않았습니다</translation>
     </message>
     <message>
         <source>%1 is a year at most</source>
@@ -2149,7 +2149,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>a FOLDER is missing</source>
-        <translation>FOLDER가 없습니다</translation>
+        <translation>FOLDER가 지정되지 않았습니다</translation>
     </message>
     <message>
         <source>one FOLDER at a time</source>
@@ -2193,7 +2193,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>a command is missing; see %1</source>
-        <translation>명령이 없습니다. %1 참조</translation>
+        <translation>명령이 지정되지 않았습니다. %1 참조</translation>
     </message>
     <message>
         <source>there is no command %1; see %2</source>
@@ -2201,11 +2201,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>a FOLDER to measure is missing</source>
-        <translation>측정할 FOLDER가 없습니다</translation>
+        <translation>측정할 FOLDER가 지정되지 않았습니다</translation>
     </message>
     <message>
         <source>a FOLDER to check is missing</source>
-        <translation>검사할 FOLDER가 없습니다</translation>
+        <translation>검사할 FOLDER가 지정되지 않았습니다</translation>
     </message>
     <message>
         <source>one FOLDER at a time, not also %1</source>
@@ -2225,7 +2225,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>a FILE to show is missing</source>
-        <translation>표시할 FILE이 없습니다</translation>
+        <translation>표시할 FILE이 지정되지 않았습니다</translation>
     </message>
 </context>
 <context>
@@ -2284,7 +2284,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>All free space, about %1, is written, read back, compared and removed. On a large volume that takes hours; meanwhile the volume is full for other programs. Your files are not touched.</source>
-        <translation>모든 여유 공간(약 %1)에 쓰고, 다시 읽어 비교한 다음 제거합니다. 큰 볼륨에서는 몇 시간이 걸리며, 그동안 다른 프로그램에는 볼륨이 가득 찬 상태가 됩니다. 사용자의 파일은 건드리지 않습니다.</translation>
+        <translation>모든 여유 공간(약 %1)에 쓰고, 다시 읽어 비교한 다음 제거합니다. 대용량 볼륨에서는 몇 시간이 걸리며, 그동안 다른 프로그램에는 볼륨이 가득 찬 상태가 됩니다. 사용자의 파일은 건드리지 않습니다.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -2386,37 +2386,37 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>About %n s left</source>
         <translation>
-            <numerusform>약 %n s 남음</numerusform>
+            <numerusform>약 %n초 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
         <translation>
-            <numerusform>이 테스트 약 %n s 남음</numerusform>
+            <numerusform>이 테스트 약 %n초 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
         <translation>
-            <numerusform>약 %n min 남음</numerusform>
+            <numerusform>약 %n분 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
         <translation>
-            <numerusform>이 테스트 약 %n min 남음</numerusform>
+            <numerusform>이 테스트 약 %n분 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
         <translation>
-            <numerusform>약 %n h 남음</numerusform>
+            <numerusform>약 %n시간 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
         <translation>
-            <numerusform>이 테스트 약 %n h 남음</numerusform>
+            <numerusform>이 테스트 약 %n시간 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2723,7 +2723,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Summary — a one-line description</source>
-        <translation>요약 — 한 줄 설명</translation>
+        <translation>요약(한 줄 설명)</translation>
     </message>
     <message>
         <source>Details</source>
@@ -2739,7 +2739,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Email — optional, if you’d like us to get back to you</source>
-        <translation>이메일 — 선택 사항, 답장을 원하는 경우</translation>
+        <translation>이메일(선택 사항, 답장을 원하는 경우)</translation>
     </message>
     <message>
         <source>%1 %2 · %3 · %4 will be attached.</source>
@@ -2907,12 +2907,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Random %1 read</source>
         <extracomment>%1 is the size of a block, as 4 KiB</extracomment>
-        <translation>임의 %1 읽기</translation>
+        <translation>%1 임의 읽기</translation>
     </message>
     <message>
         <source>Random %1 write</source>
         <extracomment>%1 is the size of a block, as 4 KiB</extracomment>
-        <translation>임의 %1 쓰기</translation>
+        <translation>%1 임의 쓰기</translation>
     </message>
     <message>
         <source>File operations</source>
@@ -3193,7 +3193,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Save these figures as a text file</source>
-        <translation>이 측정값을 텍스트 파일로 저장</translation>
+        <translation>이 수치를 텍스트 파일로 저장</translation>
     </message>
 </context>
 <context>
@@ -3390,7 +3390,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>If it’s useful to you, your support helps keep it going.</source>
-        <translation>유용하셨다면 후원으로 개발이 이어지도록 도와주십시오.</translation>
+        <translation>도움이 되셨다면 후원으로 개발이 이어지도록 도와주십시오.</translation>
     </message>
     <message>
         <source>Support on Ko-fi</source>
@@ -3489,7 +3489,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Max filename</source>
-        <translation>최대 파일 이름</translation>
+        <translation>최대 파일 이름 길이</translation>
     </message>
     <message numerus="yes">
         <source>%1 chars</source>
@@ -3499,7 +3499,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Max path</source>
-        <translation>최대 경로</translation>
+        <translation>최대 경로 길이</translation>
     </message>
     <message>
         <source>Capacity</source>
@@ -4001,7 +4001,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>Words</name>
     <message>
         <source>Sustained: the median rate of the test’s last third, which a long copy settles at; peak and lowest are its fastest and its slowest tenth of a second.</source>
-        <translation>지속 속도: 테스트 마지막 3분의 1의 중앙값으로, 긴 복사가 안정되는 속도입니다. 최고와 최저는 가장 빠른 0.1초와 가장 느린 0.1초의 속도입니다.</translation>
+        <translation>지속 속도: 테스트 마지막 3분의 1 구간의 속도 중앙값으로, 긴 복사가 안정되는 속도입니다. 최고와 최저는 가장 빠른 0.1초와 가장 느린 0.1초의 속도입니다.</translation>
     </message>
     <message>
         <source>Has data go past the system’s memory, so that the disk is measured and not the cache.</source>
@@ -4025,7 +4025,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>빈 파일을 만들고, 찾고, 이름을 바꾸고, 삭제합니다. 측정값은 초당 만든 파일의 수입니다.</translation>
+        <translation>빈 파일을 만들고, 정보를 조회하고, 이름을 바꾸고, 삭제합니다. 측정값은 초당 만든 파일의 수입니다.</translation>
     </message>
 </context>
 </TS>

@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>The folder was removed or its volume unplugged during the run.</source>
-        <translation>测试期间，文件夹被移除，或其所在的卷被拔出。</translation>
+        <translation>测试期间，文件夹被删除，或其所在的卷被拔出。</translation>
     </message>
     <message>
         <source>The volume was unplugged, or its server is gone.</source>
@@ -298,7 +298,7 @@ min %2</source>
     <name>CapacityText</name>
     <message>
         <source>What no check can tell: whether the space under your files is sound, what the drive keeps in reserve, and whether a repaired block will last.</source>
-        <translation>任何检查都无法判断：您的文件所占的空间是否完好、驱动器还留有多少备用，以及修复过的块能否持久。</translation>
+        <translation>任何检查都无法判断：您的文件所占的空间是否完好、驱动器还留有多少备用空间，以及修复过的块能否持久。</translation>
     </message>
     <message>
         <source>This file system sets no space aside without writing it, so the samples could not be spread. The result says nothing about the size of the volume: run a check that is not quick.</source>
@@ -358,7 +358,7 @@ min %2</source>
     </message>
     <message>
         <source>This volume claims %1, but keeps only about the first %2.</source>
-        <translation>此卷标称 %1，但仅能保留约前 %2。</translation>
+        <translation>此卷标称 %1，但仅能保留大约前 %2。</translation>
     </message>
     <message>
         <source>One block at %1 came back changed.</source>
@@ -746,12 +746,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>Write over time</source>
         <extracomment>Title of a chart: the rate of the write test</extracomment>
-        <translation>写入随时间变化</translation>
+        <translation>写入速率随时间变化</translation>
     </message>
     <message>
         <source>Read over time</source>
         <extracomment>Title of a chart: the rate of the read test</extracomment>
-        <translation>读取随时间变化</translation>
+        <translation>读取速率随时间变化</translation>
     </message>
 </context>
 <context>
@@ -800,7 +800,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message numerus="yes">
         <source>Comparing %n runs</source>
         <translation>
-            <numerusform>正在比较 %n 条记录</numerusform>
+            <numerusform>比较 %n 条记录</numerusform>
         </translation>
     </message>
     <message>
@@ -1143,7 +1143,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>Controller busy</source>
         <extracomment>How long the drive&apos;s controller was busy</extracomment>
-        <translation>控制器忙时间</translation>
+        <translation>控制器忙碌时间</translation>
     </message>
     <message>
         <source>Reallocated sectors</source>
@@ -1160,7 +1160,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>Reported uncorrectable</source>
         <extracomment>Errors that the drive reported and could not correct</extracomment>
-        <translation>报告的不可校正错误</translation>
+        <translation>报告的无法校正错误</translation>
     </message>
     <message>
         <source>Spin retries</source>
@@ -1201,7 +1201,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Backup failed</source>
-        <translation>备份失败</translation>
+        <translation>备份机制失效</translation>
     </message>
     <message>
         <source>Unknown</source>
@@ -1219,12 +1219,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>no device is behind this path</source>
-        <translation>此路径背后没有设备</translation>
+        <translation>此路径没有对应的设备</translation>
     </message>
     <message>
         <source>no disk is behind %1</source>
         <extracomment>A clause without a full stop, as the others on disks; %1 is the name of a disk, as sda</extracomment>
-        <translation>%1 背后没有磁盘</translation>
+        <translation>%1 没有对应的磁盘</translation>
     </message>
     <message>
         <source>%1 is no block device</source>
@@ -1289,7 +1289,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>UDisks2 knows no drive behind %1</source>
-        <translation>UDisks2 不知道 %1 背后的驱动器</translation>
+        <translation>UDisks2 未找到 %1 对应的驱动器</translation>
     </message>
     <message>
         <source>ATA S.M.A.R.T. of %1, which gave its verdict without figures</source>
@@ -1306,7 +1306,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation>UDisks2（%1），%2 min 前读取</translation>
+        <translation>UDisks2（%1），%2 分钟前读取</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
@@ -1717,8 +1717,7 @@ it stays until your session ends, or until the system empties its temporary fold
     <message>
         <source>Samples across the range, in seconds: finds a false capacity, and
 proves nothing when it finds none</source>
-        <translation>在整个范围内抽样，只需几秒：可发现虚假容量，
-但未发现问题并不能证明没有问题</translation>
+        <translation>在整个范围内抽样，只需几秒：可发现虚假容量，但未发现问题并不能证明没有问题</translation>
     </message>
     <message>
         <source>Read everything once more, S seconds later</source>
@@ -1734,8 +1733,7 @@ cache, compares all of it, and removes them, also after Ctrl+C. No file of yours
 with a false capacity every write beyond its real size may destroy what lies there, as any use of it would.
 --quick writes samples only. Files of a killed check are removed by the next run or check in FOLDER.</source>
         <translation>在 FOLDER 内的隐藏文件夹中写入每个块都不相同的文件，绕过系统缓存读回，全部比较后删除，按 Ctrl+C
-中止时也会删除。不会触及您的文件；但在容量虚假的设备上，超出实际容量的每次写入都可能破坏该处的内容，
-正常使用该设备时也是如此。--quick 只写入样本。检查被强行终止时遗留的文件，会由下一次在
+中止时也会删除。不会触及您的文件；但在容量虚假的设备上，超出实际容量的每次写入都可能破坏该处的内容，正常使用该设备时也是如此。--quick 只写入样本。检查被强行终止时遗留的文件，会由下一次在
 FOLDER 中进行的测试或检查删除。</translation>
     </message>
     <message>
@@ -1777,8 +1775,7 @@ object.</source>
     <message>
         <source>Each file system is listed once, at its shortest mount point. What the system, its packages and its containers
 mount for themselves is left out. A server that does not answer in time has no capacity.</source>
-        <translation>每个文件系统只列出一次，取其最短的挂载点。系统及其软件包和容器为自身挂载的内容不会列出。
-未及时应答的服务器没有容量数据。</translation>
+        <translation>每个文件系统只列出一次，取其最短的挂载点。系统及其软件包和容器为自身挂载的内容不会列出。未及时应答的服务器没有容量数据。</translation>
     </message>
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
@@ -1847,8 +1844,7 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
     <message>
         <source>write runs to the FILE of --output, in the form of --format or of the FILE&apos;s name: .csv, .json, .md,
 .txt, or .tarnwickrun for one run</source>
-        <translation>将测试记录写入 --output 指定的 FILE，格式由 --format 或 FILE 的名称决定：.csv、.json、.md、
-.txt，单条记录还可为 .tarnwickrun</translation>
+        <translation>将测试记录写入 --output 指定的 FILE，格式由 --format 或 FILE 的名称决定：.csv、.json、.md、.txt，单条记录还可为 .tarnwickrun</translation>
     </message>
     <message>
         <source>delete runs, without a question and for good</source>
@@ -1890,8 +1886,7 @@ FOLDER 中的文件会在开始前删除；仍在使用的文件在等待一秒�
 &quot;history export&quot; write as json or csv); with --force any other file too. A window that is open shows a run that
 --keep adds as soon as you come back to it. When something cannot be written, the figures are printed all the same
 and the run counts as failed.</source>
-        <translation>--handoff 和 --card 的文件会保留到会话结束，或系统清空其临时文件夹为止。
---output 仅替换空文件或含有测试记录的文件（记录文件，或
+        <translation>--handoff 和 --card 的文件会保留到会话结束，或系统清空其临时文件夹为止。--output 仅替换空文件或含有测试记录的文件（记录文件，或
 &quot;show --format&quot; 和 &quot;history export&quot; 以 json 或 csv 写入的文件）；加上
 --force 则可替换任何其他文件。已打开的窗口会在您返回时显示 --keep
 添加的测试记录。如有内容无法写入，数值仍会输出，但该次测试视为失败。</translation>
@@ -1907,8 +1902,7 @@ and the run counts as failed.</source>
     <message>
         <source>Tests to run, always in this order: sequentialWrite, sequentialRead,
 randomRead, randomWrite, fileOps (default: all)</source>
-        <translation>要运行的测试，始终按以下顺序：sequentialWrite、sequentialRead、
-randomRead、randomWrite、fileOps（默认：全部）</translation>
+        <translation>要运行的测试，始终按以下顺序：sequentialWrite、sequentialRead、randomRead、randomWrite、fileOps（默认：全部）</translation>
     </message>
     <message>
         <source>Size of the data file, or fill the disk (default: 5GiB)</source>
@@ -1950,8 +1944,7 @@ randomRead、randomWrite、fileOps（默认：全部）</translation>
         <source>Print one JSON object: the plan, every figure, every sample, date,
 folder, volume, file system, drive, kernel, and under &quot;evidence&quot; and
 &quot;remarks&quot; what was observed and what it says</source>
-        <translation>输出一个 JSON 对象：计划、全部数值、全部采样、日期、
-文件夹、卷、文件系统、驱动器、内核，以及
+        <translation>输出一个 JSON 对象：计划、全部数值、全部采样、日期、文件夹、卷、文件系统、驱动器、内核，以及
 &quot;evidence&quot; 和 &quot;remarks&quot; 下的观察结果及其含义</translation>
     </message>
     <message>
@@ -2157,7 +2150,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>%1 is text, markdown, csv or json, not %2</source>
-        <translation>%1 可为 text、markdown、csv 或 json，而不是 %2</translation>
+        <translation>%1 只能是 text、markdown、csv 或 json，不能是 %2</translation>
     </message>
     <message>
         <source>%1 needs the name of a file</source>
@@ -2189,7 +2182,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>%1 can list, show, export and delete, not %2</source>
-        <translation>%1 可用 list、show、export 和 delete，而不是 %2</translation>
+        <translation>%1 只支持 list、show、export 和 delete，不支持 %2</translation>
     </message>
     <message>
         <source>a command is missing; see %1</source>
@@ -2221,7 +2214,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>%1 is light or dark, not %2</source>
-        <translation>%1 可为 light 或 dark，而不是 %2</translation>
+        <translation>%1 只能是 light 或 dark，不能是 %2</translation>
     </message>
     <message>
         <source>a FILE to show is missing</source>
@@ -2386,37 +2379,37 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>About %n s left</source>
         <translation>
-            <numerusform>剩余约 %n s</numerusform>
+            <numerusform>剩余约 %n 秒</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
         <translation>
-            <numerusform>本项测试剩余约 %n s</numerusform>
+            <numerusform>本项测试剩余约 %n 秒</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
         <translation>
-            <numerusform>剩余约 %n min</numerusform>
+            <numerusform>剩余约 %n 分钟</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
         <translation>
-            <numerusform>本项测试剩余约 %n min</numerusform>
+            <numerusform>本项测试剩余约 %n 分钟</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
         <translation>
-            <numerusform>剩余约 %n h</numerusform>
+            <numerusform>剩余约 %n 小时</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
         <translation>
-            <numerusform>本项测试剩余约 %n h</numerusform>
+            <numerusform>本项测试剩余约 %n 小时</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2574,11 +2567,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>The test’s %1 may fit into a cache of %2.</source>
-        <translation>测试的 %1 可能可以完全放入 %2 的缓存。</translation>
+        <translation>测试的 %1 数据可能全部落入 %2 的缓存中。</translation>
     </message>
     <message>
         <source>The machine ran on battery.</source>
-        <translation>本机使用电池运行。</translation>
+        <translation>本机使用电池供电。</translation>
     </message>
     <message>
         <source>The processor was set to save power.</source>
@@ -2586,7 +2579,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>The machine ran on battery, its processor set to save power.</source>
-        <translation>本机使用电池运行，且处理器设置为节能模式。</translation>
+        <translation>本机使用电池供电，且处理器设置为节能模式。</translation>
     </message>
     <message>
         <source>The file system writes changes to new places and checksums data.</source>
@@ -2723,7 +2716,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Summary — a one-line description</source>
-        <translation>摘要 — 一句话描述</translation>
+        <translation>摘要（一句话描述）</translation>
     </message>
     <message>
         <source>Details</source>
@@ -2739,7 +2732,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Email — optional, if you’d like us to get back to you</source>
-        <translation>电子邮件 — 可选，如果您希望收到回复</translation>
+        <translation>电子邮件（可选，如果您希望收到回复）</translation>
     </message>
     <message>
         <source>%1 %2 · %3 · %4 will be attached.</source>
@@ -2907,12 +2900,12 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Random %1 read</source>
         <extracomment>%1 is the size of a block, as 4 KiB</extracomment>
-        <translation>随机 %1 读取</translation>
+        <translation>%1 随机读取</translation>
     </message>
     <message>
         <source>Random %1 write</source>
         <extracomment>%1 is the size of a block, as 4 KiB</extracomment>
-        <translation>随机 %1 写入</translation>
+        <translation>%1 随机写入</translation>
     </message>
     <message>
         <source>File operations</source>
@@ -3727,7 +3720,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
         <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
-        <translation>%1：%4 内从 %2 到 %3 %6，最近 %5 %6。</translation>
+        <translation>%1：%4 内为 %2 至 %3 %6，最近 %5 %6。</translation>
     </message>
     <message>
         <source>No measurements yet.</source>
@@ -3838,7 +3831,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>%1 can look for a new version about once a day. It sends nothing about you or your disks, and asks before it downloads anything.</source>
-        <translation>%1 可以大约每天查找一次新版本。它不会发送任何有关您或您磁盘的信息，并且在下载任何内容之前都会询问。</translation>
+        <translation>%1 可以大约每天查找一次新版本。它不会发送任何有关您或您的磁盘的信息，并且在下载任何内容之前都会询问。</translation>
     </message>
     <message>
         <source>%1 %2 is the newest version.</source>
@@ -4001,11 +3994,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>Words</name>
     <message>
         <source>Sustained: the median rate of the test’s last third, which a long copy settles at; peak and lowest are its fastest and its slowest tenth of a second.</source>
-        <translation>持续速率：测试最后三分之一的速率中位数，即长时间复制最终稳定的速率；峰值和最低分别是最快和最慢的十分之一秒。</translation>
+        <translation>持续速率：测试最后三分之一的速率中位数，即长时间复制最终稳定的速率；峰值和最低分别是最快和最慢的十分之一秒内的速率。</translation>
     </message>
     <message>
         <source>Has data go past the system’s memory, so that the disk is measured and not the cache.</source>
-        <translation>让数据绕开系统内存，使测得的是磁盘而不是缓存。</translation>
+        <translation>让数据绕过系统内存，使测得的是磁盘而不是缓存。</translation>
     </message>
     <message>
         <source>Writes one large file from its beginning to its end and flushes it to the disk, as a long copy to this volume does.</source>
@@ -4017,15 +4010,15 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Reads blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>读取文件中分散位置的块，每次一个，与大多数程序相同：同时多个测得的是驱动器的队列，而不是需要等待多久；IOPS 即每秒完成的此类操作数。</translation>
+        <translation>读取文件中分散位置的块，每次一个，与大多数程序相同：若同时进行多个，测得的将是驱动器的队列，而不是需要等待多久；IOPS 即每秒完成的此类操作数。</translation>
     </message>
     <message>
         <source>Writes blocks at scattered places of the file, one at a time as most programs do: more at once would measure the drive’s queue and not how long one waits; IOPS are such operations in a second.</source>
-        <translation>写入文件中分散位置的块，每次一个，与大多数程序相同：同时多个测得的是驱动器的队列，而不是需要等待多久；IOPS 即每秒完成的此类操作数。</translation>
+        <translation>写入文件中分散位置的块，每次一个，与大多数程序相同：若同时进行多个，测得的将是驱动器的队列，而不是需要等待多久；IOPS 即每秒完成的此类操作数。</translation>
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>创建、查找、重命名并删除空文件；数值为每秒创建的文件数。</translation>
+        <translation>创建、查询、重命名并删除空文件；数值为每秒创建的文件数。</translation>
     </message>
 </context>
 </TS>
