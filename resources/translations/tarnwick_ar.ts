@@ -179,7 +179,7 @@ min %2</source>
     <message>
         <source>The server rejected the report (%1).</source>
         <extracomment>%1 is a status of HTTP, as 500</extracomment>
-        <translation>رفض الخادوم التقرير (%1).</translation>
+        <translation>رفض الخادوم البلاغ (%1).</translation>
     </message>
 </context>
 <context>
@@ -281,7 +281,7 @@ min %2</source>
     </message>
     <message>
         <source>Rate along the space, up to %1 MB/s</source>
-        <translation>السرعة على امتداد المساحة، حتى %1 MB/s</translation>
+        <translation>السرعة على امتداد المساحة، حتى %1MB/s</translation>
     </message>
     <message>
         <source>Write</source>
@@ -988,7 +988,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Recent activity from this session. File names, servers and accounts are replaced with anonymous tokens before anything is written down.</source>
-        <translation>النشاط الأخير في هذه الجلسة. تُستبدل أسماء الملفات والخواديم والحسابات برموز مجهولة قبل تدوين أي شيء.</translation>
+        <translation>النشاط الأخير في هذه الجلسة. تُستبدل أسماء الملفات والخواديم والحسابات برموز لا تكشف هويتها قبل تدوين أي شيء.</translation>
     </message>
     <message>
         <source>View…</source>
@@ -1067,7 +1067,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <name>EditableRunTitle</name>
     <message>
         <source>Rename this report. The name also appears on images you share.</source>
-        <translation>غيّر اسم هذا التقرير. يظهر الاسم أيضًا على الصور التي تشاركها.</translation>
+        <translation>غيّر اسم هذا التقرير. يظهر الاسم أيضًا في الصور التي تشاركها.</translation>
     </message>
     <message>
         <source>Report title</source>
@@ -1224,11 +1224,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Host read commands</source>
-        <translation>أوامر القراءة من المضيف</translation>
+        <translation>أوامر المضيف للقراءة</translation>
     </message>
     <message>
         <source>Host write commands</source>
-        <translation>أوامر الكتابة من المضيف</translation>
+        <translation>أوامر المضيف للكتابة</translation>
     </message>
     <message>
         <source>Controller busy</source>
@@ -1291,7 +1291,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Backup failed</source>
-        <translation>فشل النسخ الاحتياطي</translation>
+        <translation>فشل حفظ الذاكرة</translation>
     </message>
     <message>
         <source>Unknown</source>
@@ -1322,7 +1322,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>%1 does not tell whether it sleeps, so it was left alone</source>
-        <translation>لا يُعلم %1 هل هو في وضع السكون، لذا تُرك وشأنه</translation>
+        <translation>لا يبيّن %1 هل هو في وضع السكون، لذا تُرك وشأنه</translation>
     </message>
     <message>
         <source>%1 is asleep and was left alone</source>
@@ -1396,7 +1396,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation>UDisks2 عن %1، قُرئ قبل %2 min</translation>
+        <translation>UDisks2 عن %1، قُرئ قبل %2 د</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
@@ -1452,7 +1452,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Copy as Markdown Table</source>
-        <translation>انسخ جدول Markdown</translation>
+        <translation>انسخ جدولًا بصيغة Markdown</translation>
     </message>
     <message>
         <source>Save Runs…</source>
@@ -1543,11 +1543,11 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Journal</source>
-        <translation>سجل يومي</translation>
+        <translation>سجل عمليات</translation>
     </message>
     <message>
         <source>Journal active</source>
-        <translation>السجل اليومي مفعّل</translation>
+        <translation>سجل العمليات مفعّل</translation>
     </message>
     <message>
         <source>Sealed</source>
@@ -1835,7 +1835,7 @@ with a false capacity every write beyond its real size may destroy what lies the
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation>BYTES أرقام مجردة، أو أرقام مع K أو M أو G أو T (أي KiB وMiB وGiB وTiB: بخطوات من 1024).</translation>
+        <translation>القيمة BYTES أرقام مجردة، أو أرقام مع K أو M أو G أو T (أي KiB وMiB وGiB وTiB: بخطوات من 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
@@ -1929,7 +1929,7 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
     </message>
     <message>
         <source>ACTION is one of</source>
-        <translation>ACTION واحد مما يلي</translation>
+        <translation>الإجراء ACTION واحد مما يلي</translation>
     </message>
     <message>
         <source>a line for each run, newest first, which begins with its name (default)</source>
@@ -1969,7 +1969,7 @@ file only if it is empty or holds runs; with --force any other file too.</source
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation>BYTES أرقام مجردة، أو أرقام مع K أو M أو G أو T (أي KiB وMiB وGiB وTiB: بخطوات من 1024). تُقرَّب الكتل صعودًا
+        <translation>القيمة BYTES أرقام مجردة، أو أرقام مع K أو M أو G أو T (أي KiB وMiB وGiB وTiB: بخطوات من 1024). تُقرَّب الكتل صعودًا
 إلى صفحات كاملة من 4096. القيم المبدئية هي قيم النافذة لتسهل المقارنة بينهما، عدا كتل الاختبارات
 التتابعية: تأخذ النافذة «أمثل حجم نقل» الذي يعرضه &quot;facts&quot;.</translation>
     </message>
@@ -2081,7 +2081,7 @@ run has none. Lines fit the terminal, or 80 columns. A Markdown table is for for
 plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; contents.</source>
         <translation>في النص تقارن أشرطة بين قيم عدة قياسات: أكبر قيمة من كل نوع تملأ مسارها، ويظهر &quot;--&quot; حيث لا قيمة
 للقياس. تلائم الأسطر عرض الطرفية، أو 80 عمودًا. جدول Markdown مناسب للمنتديات. في CSV سطر لكل قياس،
-بأرقام مجردة للجداول والسكربتات. وJSON قائمة بمحتويات ملفات القياس.</translation>
+بأرقام مجردة لجداول البيانات والسكربتات. وJSON قائمة بمحتويات ملفات القياس.</translation>
     </message>
     <message>
         <source>A file that cannot be shown gets a line on standard error, and the others are shown.</source>
@@ -2143,11 +2143,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Preparing the test file, %1 s</source>
         <extracomment>%1: the seconds since the start.</extracomment>
-        <translation>يجري تحضير ملف الاختبار، %1 s</translation>
+        <translation>يجري تحضير ملف الاختبار، %1 ث</translation>
     </message>
     <message>
         <source>Starting, %1 s</source>
-        <translation>يجري البدء، %1 s</translation>
+        <translation>يجري البدء، %1 ث</translation>
     </message>
 </context>
 <context>
@@ -2446,7 +2446,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Drive %1 °C</source>
         <extracomment>The temperature of the drive</extracomment>
-        <translation>المحرك %1 °C</translation>
+        <translation>المحرك %1°C</translation>
     </message>
 </context>
 <context>
@@ -2672,11 +2672,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation>تعذر تفريغ كل ما كُتب إلى القرص: %1.</translation>
+        <translation>تعذر تفريغ كل ما كُتب من المخزن المؤقت إلى القرص: %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
-        <translation>تعذر تفريغ ملف الاختبار إلى القرص: %1.</translation>
+        <translation>تعذر تفريغ ملف الاختبار من المخزن المؤقت إلى القرص: %1.</translation>
     </message>
     <message>
         <source>%1 for the first %2, then %3.</source>
@@ -2755,7 +2755,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Choose a size larger than the machine’s memory, or test the disk below through another file system.</source>
-        <translation>اختر حجمًا أكبر من ذاكرة الجهاز، أو اختبر القرص الذي في الأسفل عبر نظام ملفات آخر.</translation>
+        <translation>اختر حجمًا أكبر من ذاكرة الجهاز، أو اختبر القرص نفسه عبر نظام ملفات آخر.</translation>
     </message>
     <message>
         <source>Expect the lower rate where more than that is moved at once.</source>
@@ -2779,7 +2779,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
-        <translation>أنشئ القسم من جديد بحيث يبدأ عند أحد مضاعفات 1 MiB. هذا يمحو محتواه.</translation>
+        <translation>أنشئ القسم من جديد بحيث يبدأ عند أحد مضاعفات 1MiB. هذا يمحو محتواه.</translation>
     </message>
     <message>
         <source>Free some space: many drives and file systems slow down when full.</source>
@@ -2795,7 +2795,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so nothing shows what it did itself.</source>
-        <translation>لا يمكن رؤية القرص الذي تقع عليه وحدة التخزين هذه، لذا لا يظهر شيء مما فعله بنفسه.</translation>
+        <translation>لا يمكن رؤية القرص الذي تقع عليه وحدة التخزين هذه، لذا لا شيء يبيّن ما فعله بنفسه.</translation>
     </message>
     <message>
         <source>This volume keeps its files in memory; no disk was measured.</source>
@@ -2823,7 +2823,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>The file system writes data twice, to its journal first.</source>
-        <translation>يكتب نظام الملفات البيانات مرتين، في سجله اليومي أولًا.</translation>
+        <translation>يكتب نظام الملفات البيانات مرتين، في سجل عملياته أولًا.</translation>
     </message>
     <message>
         <source>Invalid</source>
@@ -3172,7 +3172,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Copy as Markdown Table</source>
-        <translation>انسخ جدول Markdown</translation>
+        <translation>انسخ جدولًا بصيغة Markdown</translation>
     </message>
     <message>
         <source>Save Run File…</source>
@@ -3451,7 +3451,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Copy as Markdown Table</source>
-        <translation>انسخ جدول Markdown</translation>
+        <translation>انسخ جدولًا بصيغة Markdown</translation>
     </message>
     <message>
         <source>Save Run File…</source>
@@ -3639,7 +3639,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Max filename</source>
-        <translation>أقصى اسم ملف</translation>
+        <translation>أطول اسم ملف</translation>
     </message>
     <message numerus="yes">
         <source>%1 chars</source>
@@ -3654,7 +3654,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Max path</source>
-        <translation>أقصى مسار</translation>
+        <translation>أطول مسار</translation>
     </message>
     <message>
         <source>Capacity</source>
@@ -3752,7 +3752,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>&amp;Run</source>
         <extracomment>Title of a menu: a run of the benchmark</extracomment>
-        <translation>ت&amp;شغيل</translation>
+        <translation>&amp;قياس</translation>
     </message>
     <message>
         <source>Run Benchmark</source>
@@ -3998,7 +3998,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>%1 can look for a new version about once a day. It sends nothing about you or your disks, and asks before it downloads anything.</source>
-        <translation>يمكن أن يبحث %1 عن إصدار جديد مرة في اليوم تقريبًا. لا يرسل شيئًا عنك أو عن أقراصك، ويسأل قبل تنزيل أي شيء.</translation>
+        <translation>بإمكان %1 البحث عن إصدار جديد مرة في اليوم تقريبًا. لا يرسل شيئًا عنك أو عن أقراصك، ويسأل قبل تنزيل أي شيء.</translation>
     </message>
     <message>
         <source>%1 %2 is the newest version.</source>
@@ -4134,7 +4134,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Network</source>
         <extracomment>How a volume is attached: a server keeps it</extracomment>
-        <translation>الشبكة</translation>
+        <translation>شبكي</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -4169,7 +4169,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Writes one large file from its beginning to its end and flushes it to the disk, as a long copy to this volume does.</source>
-        <translation>يكتب ملفًا كبيرًا واحدًا من أوله إلى آخره ويفرغه إلى القرص، كما يفعل النسخ الطويل إلى وحدة التخزين هذه.</translation>
+        <translation>يكتب ملفًا كبيرًا واحدًا من أوله إلى آخره ثم يفرّغ المخزن المؤقت إلى القرص، كما يفعل النسخ الطويل إلى وحدة التخزين هذه.</translation>
     </message>
     <message>
         <source>Reads one large file from its beginning to its end, as a long copy from this volume does.</source>
@@ -4185,7 +4185,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>ينشئ ملفات فارغة ويبحث عنها ويغيّر أسماءها ويحذفها؛ والقيمة هي عدد ما أنشأه منها في الثانية.</translation>
+        <translation>ينشئ ملفات فارغة ويستعلم عنها ويغيّر أسماءها ويحذفها؛ والقيمة هي عدد ما أنشأه منها في الثانية.</translation>
     </message>
 </context>
 </TS>

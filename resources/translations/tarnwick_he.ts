@@ -281,7 +281,7 @@ min %2</source>
     </message>
     <message>
         <source>Rate along the space, up to %1 MB/s</source>
-        <translation>הקצב לאורך השטח, עד %1 MB/s</translation>
+        <translation>הקצב לאורך השטח, עד %1MB/s</translation>
     </message>
     <message>
         <source>Write</source>
@@ -530,15 +530,15 @@ min %2</source>
     </message>
     <message>
         <source>All %1 came back as written, but mostly from memory: that says little about the disk.</source>
-        <translation>כל %1 חזרו כפי שנכתבו, אך ברובם מהזיכרון: הדבר אינו מעיד הרבה על הדיסק.</translation>
+        <translation>כל ה־%1 חזרו כפי שנכתבו, אך ברובם מהזיכרון: הדבר אינו מעיד הרבה על הדיסק.</translation>
     </message>
     <message>
         <source>All %1 hold what was written.</source>
-        <translation>כל %1 שומרים את מה שנכתב.</translation>
+        <translation>כל ה־%1 שומרים את מה שנכתב.</translation>
     </message>
     <message>
         <source>All %1 of free space hold what was written.</source>
-        <translation>כל %1 של השטח הפנוי שומרים את מה שנכתב.</translation>
+        <translation>כל ה־%1 של השטח הפנוי שומרים את מה שנכתב.</translation>
     </message>
     <message>
         <source>Claimed size</source>
@@ -800,7 +800,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Scan to try it</source>
-        <translation>סריקה כדי לנסות</translation>
+        <translation>יש לסרוק כדי לנסות</translation>
     </message>
 </context>
 <context>
@@ -1152,16 +1152,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Host read commands</source>
-        <translation>פקודות קריאה מהמארח</translation>
+        <translation>פקודות קריאה של המארח</translation>
     </message>
     <message>
         <source>Host write commands</source>
-        <translation>פקודות כתיבה מהמארח</translation>
+        <translation>פקודות כתיבה של המארח</translation>
     </message>
     <message>
         <source>Controller busy</source>
         <extracomment>How long the drive&apos;s controller was busy</extracomment>
-        <translation>זמן עומס הבקר</translation>
+        <translation>זמן פעילות הבקר</translation>
     </message>
     <message>
         <source>Reallocated sectors</source>
@@ -1219,7 +1219,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>Backup failed</source>
-        <translation>הגיבוי נכשל</translation>
+        <translation>גיבוי הזיכרון נכשל</translation>
     </message>
     <message>
         <source>Unknown</source>
@@ -1258,7 +1258,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
     <message>
         <source>%1 has no S.M.A.R.T., or it is switched off</source>
-        <translation>ל־%1 אין S.M.A.R.T., או שהוא כבוי</translation>
+        <translation>ל־%1 אין S.M.A.R.T., או שהוא מושבת בו</translation>
     </message>
     <message>
         <source>%1 has no S.M.A.R.T. interface</source>
@@ -1654,12 +1654,12 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>%1: the flush to the medium failed (%2); not all that was written may be there.</source>
         <extracomment>%1: a test, %2: what the system says.</extracomment>
-        <translation>%1: הריקון למדיה נכשל (%2); ייתכן שלא כל מה שנכתב נמצא שם.</translation>
+        <translation>%1: ריקון המאגר למדיה נכשל (%2); ייתכן שלא כל מה שנכתב נמצא שם.</translation>
     </message>
     <message>
         <source>Preparation: the flush to the medium failed (%1); not all that was written may be there.</source>
         <extracomment>The preparation of the test file. %1: what the system says.</extracomment>
-        <translation>הכנה: הריקון למדיה נכשל (%1); ייתכן שלא כל מה שנכתב נמצא שם.</translation>
+        <translation>הכנה: ריקון המאגר למדיה נכשל (%1); ייתכן שלא כל מה שנכתב נמצא שם.</translation>
     </message>
     <message>
         <source>The run file could not be written to your temporary folder.</source>
@@ -1755,11 +1755,11 @@ with a false capacity every write beyond its real size may destroy what lies the
         <translation>כותב לתיקייה נסתרת בתוך FOLDER קבצים ששונים בכל בלוק, קורא אותם בחזרה שלא דרך מטמון המערכת, משווה את הכול
 ומסיר אותם, גם אחרי Ctrl+C. הקבצים שלך אינם מושפעים; אך בהתקן בעל קיבולת מזויפת, כל כתיבה מעבר לקיבולת האמיתית
 עלולה להרוס את מה שנמצא שם, כמו בכל שימוש אחר בו. --quick כותב דגימות בלבד.
-קבצים של בדיקה שחוסלה מוסרים בהרצה או בבדיקה הבאה ב־FOLDER.</translation>
+קבצים של בדיקה שהופסקה בכוח מוסרים בהרצה או בבדיקה הבאה ב־FOLDER.</translation>
     </message>
     <message>
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024).</source>
-        <translation>BYTES הוא ספרות בלבד, או ספרות עם K, M, G, T (KiB, MiB, GiB, TiB: צעדים של 1024).</translation>
+        <translation>הערך BYTES הוא ספרות בלבד, או ספרות עם K, M, G, T (KiB, MiB, GiB, TiB: צעדים של 1024).</translation>
     </message>
     <message>
         <source>Exit status: 0 nothing wrong was found, 1 failed, 2 wrong usage, 3 defects were found, 130 stopped by a signal;
@@ -1777,7 +1777,7 @@ what had been found until then is printed.</source>
     </message>
     <message>
         <source>Let --output replace a file of any content</source>
-        <translation>התרה ל־--output להחליף קובץ בעל תוכן כלשהו</translation>
+        <translation>מתן אפשרות ל־--output להחליף קובץ בעל תוכן כלשהו</translation>
     </message>
     <message>
         <source>Print the facts as one JSON object</source>
@@ -1802,7 +1802,7 @@ mount for themselves is left out. A server that does not answer in time has no c
     <message>
         <source>The drive is only looked at: a sleeping one is not woken and nothing is switched on in it. Where its health comes
 from, or why there is none, is told by &quot;facts&quot;.</source>
-        <translation>הכונן רק נבחן: כונן ישן אינו מוער ודבר אינו מופעל בו. מקור נתוני הבריאות, או הסיבה להיעדרם, מוצגים
+        <translation>הכונן רק נבחן: כונן במצב שינה אינו מוער ודבר אינו מופעל בו. מקור נתוני הבריאות, או הסיבה להיעדרם, מוצגים
 בפקודה &quot;facts&quot;.</translation>
     </message>
     <message>
@@ -1833,7 +1833,7 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
     </message>
     <message>
         <source>Ondel Tarnwick in a terminal: how fast a disk is, measured on it and removed again.</source>
-        <translation>Ondel Tarnwick במסוף: מהירותו של דיסק, נמדדת בכתיבה אליו ומוסרת ממנו בסיום.</translation>
+        <translation>התוכנה Ondel Tarnwick במסוף: מהירותו של דיסק, הנמדדת בכתיבה אליו; מה שנכתב מוסר בסיום.</translation>
     </message>
     <message>
         <source>Show this text, or behind a command that command&apos;s options</source>
@@ -1849,11 +1849,11 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
     </message>
     <message>
         <source>Let &quot;delete&quot; delete all runs</source>
-        <translation>התרה ל־&quot;delete&quot; למחוק את כל ההרצות</translation>
+        <translation>מתן אפשרות ל־&quot;delete&quot; למחוק את כל ההרצות</translation>
     </message>
     <message>
         <source>ACTION is one of</source>
-        <translation>ACTION הוא אחד מאלה</translation>
+        <translation>הערך ACTION הוא אחד מאלה</translation>
     </message>
     <message>
         <source>a line for each run, newest first, which begins with its name (default)</source>
@@ -1877,7 +1877,7 @@ from, or why there is none, is told by &quot;facts&quot;.</source>
         <source>A RUN is named as the list has it, or by four or more characters that begin its id. Without one, all runs are meant;
 &quot;delete&quot; then needs --all. A window that is open follows as soon as you come back to it. --output replaces an existing
 file only if it is empty or holds runs; with --force any other file too.</source>
-        <translation>RUN מצוין בשמו כפי שהוא ברשימה, או בארבעה תווים או יותר שפותחים את ה־id שלו. בלעדיו הכוונה לכל ההרצות;
+        <translation>כל RUN מצוין בשמו כפי שהוא ברשימה, או בארבעה תווים או יותר שפותחים את ה־id שלו. בלעדיו הכוונה לכל ההרצות;
 הפקודה &quot;delete&quot; דורשת אז --all. חלון פתוח מתעדכן מיד עם החזרה אליו. --output מחליף קובץ קיים רק אם הוא ריק
 או מכיל הרצות; עם --force גם כל קובץ אחר.</translation>
     </message>
@@ -1893,14 +1893,14 @@ file only if it is empty or holds runs; with --force any other file too.</source
         <source>BYTES are plain digits, or digits with K, M, G, T (KiB, MiB, GiB, TiB: steps of 1024). Blocks are rounded up to
 whole pages of 4096. Defaults are those of the window, so that its figures and these can be compared, but for the
 blocks of the sequential tests: the window takes the &quot;Optimal transfer&quot; that &quot;facts&quot; shows.</source>
-        <translation>BYTES הוא ספרות בלבד, או ספרות עם K, M, G, T (KiB, MiB, GiB, TiB: צעדים של 1024). בלוקים מעוגלים כלפי מעלה
+        <translation>הערך BYTES הוא ספרות בלבד, או ספרות עם K, M, G, T (KiB, MiB, GiB, TiB: צעדים של 1024). בלוקים מעוגלים כלפי מעלה
 לדפים שלמים של 4096. ברירות המחדל הן של החלון, כדי שניתן יהיה להשוות בין הנתונים, למעט הבלוקים של המבחנים
 הרציפים: החלון משתמש ב„גודל העברה מיטבי” שמציגה הפקודה &quot;facts&quot;.</translation>
     </message>
     <message>
         <source>Everything is written into a hidden folder inside FOLDER and removed at the end, also after Ctrl+C. What a killed
 run left behind in FOLDER is removed before the start; files that are still in use stay, after a second&apos;s wait.</source>
-        <translation>הכול נכתב לתיקייה נסתרת בתוך FOLDER ומוסר בסוף, גם אחרי Ctrl+C. מה שהרצה שחוסלה השאירה ב־FOLDER מוסר
+        <translation>הכול נכתב לתיקייה נסתרת בתוך FOLDER ומוסר בסוף, גם אחרי Ctrl+C. מה שהרצה שהופסקה בכוח השאירה ב־FOLDER מוסר
 לפני ההתחלה; קבצים שעדיין בשימוש נשארים, לאחר המתנה של שנייה.</translation>
     </message>
     <message>
@@ -1913,7 +1913,7 @@ and the run counts as failed.</source>
 --output מחליף קובץ קיים רק אם הוא ריק או מכיל הרצות (קובץ הרצה, או מה שכותבות הפקודות &quot;show --format&quot;
 ו־&quot;history export&quot; כ־json או כ־csv); עם --force גם כל קובץ אחר. חלון פתוח מציג הרצה שנוספה באמצעות --keep
 מיד עם החזרה אליו. כשלא ניתן לכתוב דבר מה, הנתונים מודפסים בכל זאת
-וההרצה נחשבת ככושלת.</translation>
+וההרצה נחשבת לכושלת.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 failed, 2 wrong usage, 130 stopped by a signal.</source>
@@ -1959,7 +1959,7 @@ randomRead, randomWrite, fileOps (ברירת מחדל: הכול)</translation>
     </message>
     <message>
         <source>Let the system cache the data file, as ordinary programs do</source>
-        <translation>התרה למערכת לשמור את קובץ הנתונים במטמון, כמו בתוכניות רגילות</translation>
+        <translation>מתן אפשרות למערכת לשמור את קובץ הנתונים במטמון, כמו בתוכניות רגילות</translation>
     </message>
     <message>
         <source>Least seconds between two samples (default: 0.02)</source>
@@ -2067,11 +2067,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Preparing the test file, %1 s</source>
         <extracomment>%1: the seconds since the start.</extracomment>
-        <translation>הכנת קובץ המבחן, %1 s</translation>
+        <translation>הכנת קובץ המבחן, %1 שנ׳</translation>
     </message>
     <message>
         <source>Starting, %1 s</source>
-        <translation>מתחיל, %1 s</translation>
+        <translation>מתחיל, %1 שנ׳</translation>
     </message>
 </context>
 <context>
@@ -2366,7 +2366,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Drive %1 °C</source>
         <extracomment>The temperature of the drive</extracomment>
-        <translation>כונן %1 °C</translation>
+        <translation>כונן %1°C</translation>
     </message>
 </context>
 <context>
@@ -2560,11 +2560,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>What was written could not all be flushed to the disk: %1.</source>
-        <translation>לא ניתן היה לרוקן לדיסק את כל מה שנכתב: %1.</translation>
+        <translation>לא כל מה שנכתב הועבר מהמאגר לדיסק: %1.</translation>
     </message>
     <message>
         <source>The test file could not be flushed to the disk: %1.</source>
-        <translation>לא ניתן היה לרוקן לדיסק את קובץ המבחן: %1.</translation>
+        <translation>לא ניתן היה להעביר את קובץ המבחן מהמאגר לדיסק: %1.</translation>
     </message>
     <message>
         <source>%1 for the first %2, then %3.</source>
@@ -2581,7 +2581,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>%1 pauses over 1 s, the longest %2.</source>
         <translation>
-            <numerusform>הפסקה אחת (%1) של יותר משנייה, הארוכה ביותר %2.</numerusform>
+            <numerusform>הפסקה אחת (%1) של יותר משנייה, באורך %2.</numerusform>
             <numerusform>%1 הפסקות של יותר משנייה, הארוכה ביותר %2.</numerusform>
         </translation>
     </message>
@@ -2655,7 +2655,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Run again while nothing else uses the disk.</source>
-        <translation>יש להריץ שוב כשדבר אחר אינו משתמש בדיסק.</translation>
+        <translation>יש להריץ שוב כששום דבר אחר אינו משתמש בדיסק.</translation>
     </message>
     <message>
         <source>Try another port, slot or cable.</source>
@@ -2663,7 +2663,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Make the partition anew, beginning at a multiple of 1 MiB. That erases it.</source>
-        <translation>יש ליצור את המחיצה מחדש, כך שתתחיל בכפולה של 1 MiB. פעולה זו מוחקת אותה.</translation>
+        <translation>יש ליצור את המחיצה מחדש, כך שתתחיל בכפולה של 1MiB. פעולה זו מוחקת אותה.</translation>
     </message>
     <message>
         <source>Free some space: many drives and file systems slow down when full.</source>
@@ -2703,7 +2703,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>The file system compresses. The test’s data does not, so other files may be faster.</source>
-        <translation>מערכת הקבצים דוחסת. נתוני המבחן אינם נדחסים, ולכן קבצים אחרים עשויים להיות מהירים יותר.</translation>
+        <translation>מערכת הקבצים דוחסת נתונים. נתוני המבחן אינם נדחסים, ולכן קבצים אחרים עשויים להיות מהירים יותר.</translation>
     </message>
     <message>
         <source>The file system writes data twice, to its journal first.</source>
@@ -2733,7 +2733,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Scan to benchmark your own</source>
-        <translation>סריקה כדי למדוד את הדיסק שלך</translation>
+        <translation>יש לסרוק כדי למדוד את הדיסק שלך</translation>
     </message>
 </context>
 <context>
@@ -3075,11 +3075,11 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <name>RunNotifierText</name>
     <message>
         <source>A capacity check is running</source>
-        <translation>בדיקת קיבולת פועלת</translation>
+        <translation>מתבצעת בדיקת קיבולת</translation>
     </message>
     <message>
         <source>A benchmark is running</source>
-        <translation>מבחן ביצועים פועל</translation>
+        <translation>מתבצע מבחן ביצועים</translation>
     </message>
     <message>
         <source>write %1</source>
@@ -3691,7 +3691,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Check Now</source>
-        <translation>לבדוק כעת</translation>
+        <translation>בדיקה כעת</translation>
     </message>
     <message>
         <source>This build doesn’t update itself. Development builds are built without the update feed, so they can’t replace themselves with a release.</source>
@@ -3758,7 +3758,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>%1: %2 to %3 %6 over %4, last %5 %6.</source>
         <extracomment>Rates of a test: from %2 to %3 in the unit %6, during a time of %4, the last rate is %5</extracomment>
-        <translation>%1: מ־%2 עד %3 %6 במשך %4, לאחרונה %5 %6.</translation>
+        <translation>%1: מ־%2 עד %3 %6 במשך %4, האחרון %5 %6.</translation>
     </message>
     <message>
         <source>No measurements yet.</source>
@@ -4041,7 +4041,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Writes one large file from its beginning to its end and flushes it to the disk, as a long copy to this volume does.</source>
-        <translation>כותב קובץ גדול אחד מתחילתו ועד סופו ומרוקן אותו לדיסק, כפי שעושה העתקה ארוכה אל כרך זה.</translation>
+        <translation>כותב קובץ גדול אחד מתחילתו ועד סופו ומרוקן את המאגר לדיסק, כפי שעושה העתקה ארוכה אל כרך זה.</translation>
     </message>
     <message>
         <source>Reads one large file from its beginning to its end, as a long copy from this volume does.</source>
@@ -4057,7 +4057,7 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     </message>
     <message>
         <source>Creates, looks up, renames and deletes empty files; the figure is how many it created in a second.</source>
-        <translation>יוצר קבצים ריקים, מאתר אותם, משנה את שמותיהם ומוחק אותם; הנתון הוא מספר הקבצים שנוצרו בשנייה.</translation>
+        <translation>יוצר קבצים ריקים, קורא את פרטיהם, משנה את שמותיהם ומוחק אותם; הנתון הוא מספר הקבצים שנוצרו בשנייה.</translation>
     </message>
 </context>
 </TS>
