@@ -1306,7 +1306,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation>%1 の UDisks2 情報（%2 分前に読み取り）</translation>
+        <translation>%1 の UDisks2 情報（%2 min 前に読み取り）</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
@@ -2364,37 +2364,37 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>About %n s left</source>
         <translation>
-            <numerusform>残り約 %n 秒</numerusform>
+            <numerusform>残り約 %n s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
         <translation>
-            <numerusform>このテストは残り約 %n 秒</numerusform>
+            <numerusform>このテストは残り約 %n s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
         <translation>
-            <numerusform>残り約 %n 分</numerusform>
+            <numerusform>残り約 %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
         <translation>
-            <numerusform>このテストは残り約 %n 分</numerusform>
+            <numerusform>このテストは残り約 %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
         <translation>
-            <numerusform>残り約 %n 時間</numerusform>
+            <numerusform>残り約 %n h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
         <translation>
-            <numerusform>このテストは残り約 %n 時間</numerusform>
+            <numerusform>このテストは残り約 %n h</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -1306,7 +1306,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation>%1의 UDisks2 정보, %2분 전에 읽음</translation>
+        <translation>%1의 UDisks2 정보, %2 min 전에 읽음</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
@@ -2386,37 +2386,37 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>About %n s left</source>
         <translation>
-            <numerusform>약 %n초 남음</numerusform>
+            <numerusform>약 %n s 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
         <translation>
-            <numerusform>이 테스트 약 %n초 남음</numerusform>
+            <numerusform>이 테스트 약 %n s 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
         <translation>
-            <numerusform>약 %n분 남음</numerusform>
+            <numerusform>약 %n min 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
         <translation>
-            <numerusform>이 테스트 약 %n분 남음</numerusform>
+            <numerusform>이 테스트 약 %n min 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
         <translation>
-            <numerusform>약 %n시간 남음</numerusform>
+            <numerusform>약 %n h 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
         <translation>
-            <numerusform>이 테스트 약 %n시간 남음</numerusform>
+            <numerusform>이 테스트 약 %n h 남음</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -1306,7 +1306,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>UDisks2 for %1, read %2 min ago</source>
         <extracomment>Where figures come from: UDisks2 has read disk %1 some minutes ago</extracomment>
-        <translation>UDisks2（%1），%2 分钟前读取</translation>
+        <translation>UDisks2（%1），%2 min 前读取</translation>
     </message>
     <message>
         <source>UDisks2 for %1</source>
@@ -2379,37 +2379,37 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message numerus="yes">
         <source>About %n s left</source>
         <translation>
-            <numerusform>剩余约 %n 秒</numerusform>
+            <numerusform>剩余约 %n s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n s left of this test</source>
         <translation>
-            <numerusform>本项测试剩余约 %n 秒</numerusform>
+            <numerusform>本项测试剩余约 %n s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left</source>
         <translation>
-            <numerusform>剩余约 %n 分钟</numerusform>
+            <numerusform>剩余约 %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n min left of this test</source>
         <translation>
-            <numerusform>本项测试剩余约 %n 分钟</numerusform>
+            <numerusform>本项测试剩余约 %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left</source>
         <translation>
-            <numerusform>剩余约 %n 小时</numerusform>
+            <numerusform>剩余约 %n h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %n h left of this test</source>
         <translation>
-            <numerusform>本项测试剩余约 %n 小时</numerusform>
+            <numerusform>本项测试剩余约 %n h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
