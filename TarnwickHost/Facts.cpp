@@ -174,8 +174,9 @@ std::vector<TextRow> volumeRows(const VolumeInfo& volume) {
         {HostFacts::tr("Format"), volumeFormatText(volume.format)},
         {HostFacts::tr("Capacity"), Format::bytes(volume.total)},
         {HostFacts::tr("Available"), Format::bytes(volume.available)},
-        {HostFacts::tr("Used"),
-         Format::bytes(volume.used()) + QString(" (%1 %)").arg(volume.usedFraction() * 100.0, 0, 'f', 0)},
+        {HostFacts::tr("Used"), Format::bytes(volume.used()) + " (" +
+                                    Format::percent(QString::number(volume.usedFraction() * 100.0, 'f', 0)) +
+                                    ")"},
         {HostFacts::tr("Connection"), connectionText(volume.connection())},
         {HostFacts::tr("Read-only"), yesOrNo(volume.isReadOnly)},
         {HostFacts::tr("Encrypted"), yesOrNo(volume.isEncrypted)},

@@ -1066,6 +1066,14 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
 </context>
 <context>
+    <name>Format</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>A percentage: %1 is the number</extracomment>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
     <name>FormerCheck</name>
     <message>
         <source>%1 · %2</source>
@@ -2460,10 +2468,6 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <message>
         <source>Preparing…</source>
         <translation>Vorbereitung&#xa0;…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>

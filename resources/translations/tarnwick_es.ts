@@ -1066,6 +1066,14 @@ Abre el analizador de discos y volúmenes, elige la primera carpeta y muestra lo
     </message>
 </context>
 <context>
+    <name>Format</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>A percentage: %1 is the number</extracomment>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
     <name>FormerCheck</name>
     <message>
         <source>%1 · %2</source>
@@ -2460,10 +2468,6 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <message>
         <source>Preparing…</source>
         <translation>Preparando…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>

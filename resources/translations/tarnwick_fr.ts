@@ -1066,6 +1066,14 @@ Ouvre l’analyseur de vitesse des disques et de volumes, choisit le premier dos
     </message>
 </context>
 <context>
+    <name>Format</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>A percentage: %1 is the number</extracomment>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
     <name>FormerCheck</name>
     <message>
         <source>%1 · %2</source>
@@ -1084,7 +1092,7 @@ Ouvre l’analyseur de vitesse des disques et de volumes, choisit le premier dos
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Défaillant</translation>
+        <translation>Panne imminente</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -1356,7 +1364,7 @@ Ouvre l’analyseur de vitesse des disques et de volumes, choisit le premier dos
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Défaillant</translation>
+        <translation>Panne imminente</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -2460,10 +2468,6 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>Preparing…</source>
         <translation>Préparation…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>

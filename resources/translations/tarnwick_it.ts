@@ -1066,6 +1066,14 @@ Apre l’analizzatore di velocità dei dischi e di volumi, sceglie la prima cart
     </message>
 </context>
 <context>
+    <name>Format</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>A percentage: %1 is the number</extracomment>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
     <name>FormerCheck</name>
     <message>
         <source>%1 · %2</source>
@@ -2460,10 +2468,6 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     <message>
         <source>Preparing…</source>
         <translation>Preparazione…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>

@@ -1048,6 +1048,14 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
 </context>
 <context>
+    <name>Format</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>A percentage: %1 is the number</extracomment>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
     <name>FormerCheck</name>
     <message>
         <source>%1 · %2</source>
@@ -2433,10 +2441,6 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Preparing…</source>
         <translation>준비 중…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1%</translation>
     </message>
 </context>
 <context>

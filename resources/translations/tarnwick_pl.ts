@@ -25,7 +25,7 @@
     <message>
         <source>%1 % – %2</source>
         <extracomment>The title of the window during a run: how much is done, and the program&apos;s name</extracomment>
-        <translation>%1&#xa0;% – %2</translation>
+        <translation>%1% – %2</translation>
     </message>
 </context>
 <context>
@@ -246,7 +246,7 @@ min. %2</translation>
     </message>
     <message>
         <source>%1: %2 %</source>
-        <translation>%1: %2&#xa0;%</translation>
+        <translation>%1: %2%</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -326,7 +326,7 @@ min. %2</translation>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Tylko %1&#xa0;% odczytanych danych pochodzi z dysku. Sprawdź więcej, niż pomieści pamięć komputera.</translation>
+        <translation>Tylko %1% odczytanych danych pochodzi z dysku. Sprawdź więcej, niż pomieści pamięć komputera.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
@@ -1084,6 +1084,14 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
     </message>
 </context>
 <context>
+    <name>Format</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>A percentage: %1 is the number</extracomment>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
     <name>FormerCheck</name>
     <message>
         <source>%1 · %2</source>
@@ -1102,7 +1110,7 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Awaria</translation>
+        <translation>Grozi awaria</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -1375,7 +1383,7 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Awaria</translation>
+        <translation>Grozi awaria</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -2330,7 +2338,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     </message>
     <message>
         <source>%1 % of the check</source>
-        <translation>%1&#xa0;% sprawdzania</translation>
+        <translation>%1% sprawdzania</translation>
     </message>
     <message>
         <source>in one part</source>
@@ -2376,7 +2384,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>%1: %2 %</source>
         <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
-        <translation>%1: %2&#xa0;%</translation>
+        <translation>%1: %2%</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
@@ -2487,10 +2495,6 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>Preparing…</source>
         <translation>Przygotowywanie…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3850,7 +3854,7 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>%1 %2 %</source>
         <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
-        <translation>%1 %2&#xa0;%</translation>
+        <translation>%1 %2%</translation>
     </message>
     <message>
         <source>Skip This Version</source>

@@ -25,7 +25,7 @@
     <message>
         <source>%1 % – %2</source>
         <extracomment>The title of the window during a run: how much is done, and the program&apos;s name</extracomment>
-        <translation>%1&#xa0;% – %2</translation>
+        <translation>%1% – %2</translation>
     </message>
 </context>
 <context>
@@ -246,7 +246,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>%1: %2 %</source>
-        <translation>%1: %2&#xa0;%</translation>
+        <translation>%1: %2%</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -326,7 +326,7 @@ mín. %2</translation>
     </message>
     <message>
         <source>Only %1 % of what was read came from the disk. Check more than the machine’s memory can hold.</source>
-        <translation>Só %1&#xa0;% do que foi lido veio do disco. Verifique mais do que cabe na memória do computador.</translation>
+        <translation>Só %1% do que foi lido veio do disco. Verifique mais do que cabe na memória do computador.</translation>
     </message>
     <message>
         <source>The disk behind this volume cannot be seen, so what came back may have come from a cache.</source>
@@ -1066,6 +1066,14 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
     </message>
 </context>
 <context>
+    <name>Format</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>A percentage: %1 is the number</extracomment>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
     <name>FormerCheck</name>
     <message>
         <source>%1 · %2</source>
@@ -1084,7 +1092,7 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Falhando</translation>
+        <translation>Falha iminente</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -1356,7 +1364,7 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Falhando</translation>
+        <translation>Falha iminente</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -2311,7 +2319,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     </message>
     <message>
         <source>%1 % of the check</source>
-        <translation>%1&#xa0;% da verificação</translation>
+        <translation>%1% da verificação</translation>
     </message>
     <message>
         <source>in one part</source>
@@ -2356,7 +2364,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message>
         <source>%1: %2 %</source>
         <extracomment>%1 is the name of a test, %2 how much of it is done</extracomment>
-        <translation>%1: %2&#xa0;%</translation>
+        <translation>%1: %2%</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>
@@ -2460,10 +2468,6 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message>
         <source>Preparing…</source>
         <translation>Preparando…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3818,7 +3822,7 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message>
         <source>%1 %2 %</source>
         <extracomment>%1 is a sentence (Downloading the update…), %2 how much is done</extracomment>
-        <translation>%1 %2&#xa0;%</translation>
+        <translation>%1 %2%</translation>
     </message>
     <message>
         <source>Skip This Version</source>

@@ -1048,6 +1048,14 @@ Disk hızı ve birim çözümleyicisini açar, ilk klasörü seçer ve ölçüm 
     </message>
 </context>
 <context>
+    <name>Format</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>A percentage: %1 is the number</extracomment>
+        <translation>%%1</translation>
+    </message>
+</context>
+<context>
     <name>FormerCheck</name>
     <message>
         <source>%1 · %2</source>
@@ -1066,7 +1074,7 @@ Disk hızı ve birim çözümleyicisini açar, ilk klasörü seçer ve ölçüm 
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Arızalı</translation>
+        <translation>Arıza yakın</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -1337,7 +1345,7 @@ Disk hızı ve birim çözümleyicisini açar, ilk klasörü seçer ve ölçüm 
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Arızalı</translation>
+        <translation>Arıza yakın</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -2433,10 +2441,6 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <message>
         <source>Preparing…</source>
         <translation>Hazırlanıyor…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%%1</translation>
     </message>
 </context>
 <context>

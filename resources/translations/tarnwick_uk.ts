@@ -1084,6 +1084,14 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     </message>
 </context>
 <context>
+    <name>Format</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>A percentage: %1 is the number</extracomment>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
     <name>FormerCheck</name>
     <message>
         <source>%1 · %2</source>
@@ -1102,7 +1110,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Збій</translation>
+        <translation>Можлива відмова</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -1375,7 +1383,7 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
     <message>
         <source>Failing</source>
         <extracomment>The drive&apos;s own verdict: it is going to break</extracomment>
-        <translation>Збій</translation>
+        <translation>Можлива відмова</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -2487,10 +2495,6 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>Preparing…</source>
         <translation>Приготування…</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>

@@ -309,14 +309,14 @@ QString spanText(double seconds) {
     constexpr double fewSeconds = 9.95; // more would read 10.0
     const auto whole = static_cast<std::int64_t>(std::lround(std::clamp(seconds, 0.0, 1e12)));
     if (seconds < fewSeconds && seconds != std::round(seconds))
-        return u"%1 s"_s.arg(Format::decimals(std::max(0.0, seconds), 1));
+        return Format::leftToRight(u"%1 s"_s.arg(Format::decimals(std::max(0.0, seconds), 1)));
     if (whole < 100)
-        return u"%1 s"_s.arg(whole);
+        return Format::leftToRight(u"%1 s"_s.arg(whole));
     const std::int64_t minutes = (whole + 30) / 60;
     if (minutes < 100)
-        return u"%1 min"_s.arg(minutes);
-    return minutes % 60 == 0 ? u"%1 h"_s.arg(minutes / 60)
-                             : u"%1 h %2 min"_s.arg(minutes / 60).arg(minutes % 60);
+        return Format::leftToRight(u"%1 min"_s.arg(minutes));
+    return Format::leftToRight(minutes % 60 == 0 ? u"%1 h"_s.arg(minutes / 60)
+                                                 : u"%1 h %2 min"_s.arg(minutes / 60).arg(minutes % 60));
 }
 
 QString decimalSize(std::int64_t bytes) {
@@ -326,7 +326,8 @@ QString decimalSize(std::int64_t bytes) {
     for (; value >= 999.95 && unit + 1 < units.size(); ++unit) // 999.95 would read 1000.0
         value /= 1000;
     const double tenths = std::round(value * 10) / 10;
-    return Format::decimals(tenths, tenths == std::round(tenths) ? 0 : 1) + u' ' + units.at(unit);
+    return Format::leftToRight(Format::decimals(tenths, tenths == std::round(tenths) ? 0 : 1) + u' ' +
+                               units.at(unit));
 }
 
 QString capacitySentence(const CapacityRecord& check) {
@@ -361,7 +362,8 @@ std::vector<CapacityFact> capacityFacts(const CapacityRecord& check) {
     addSize(facts, CapacityText::tr("Only at a second try"), result.recovered);
     if (const auto share = result.read.shareAtDisk)
         facts.push_back({CapacityText::tr("Read from the disk"),
-                         u"%1 %"_s.arg(static_cast<int>(100 * *share + 1e-9)), check.isFromMemory()});
+                         Format::percent(QString::number(static_cast<int>(100 * *share + 1e-9))),
+                         check.isFromMemory()});
     return facts;
 }
 

@@ -2,6 +2,7 @@
 
 #include "TarnwickKit/model/language/Language.h"
 
+#include <QCoreApplication>
 #include <QtGlobal>
 
 #include <unicode/dtptngen.h>
@@ -247,6 +248,11 @@ QString Formatter::runStamp(const QDateTime& date, double durationSeconds) const
 
 QString Formatter::dateAndTime(const QDateTime& date) const {
     return m_icu->stamp(&Icu::Dates::dateAndTime, m_zone ? date.toTimeZone(*m_zone) : date.toLocalTime());
+}
+
+QString Format::percent(const QString& number) {
+    //: A percentage: %1 is the number
+    return leftToRight(QCoreApplication::translate("Format", "%1 %").arg(number));
 }
 
 QString Format::leftToRight(const QString& figure) {

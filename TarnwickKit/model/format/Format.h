@@ -80,6 +80,9 @@ namespace Format {
 /// Other texts get it as it is.
 ONDEL_PUBLIC QString leftToRight(const QString& figure);
 
+/// A written number as a percentage, as the user's language has it: "40 %", in Turkish "%40".
+ONDEL_PUBLIC QString percent(const QString& number);
+
 /// As the user's formatter has it.
 ///@{
 inline QString block(std::int64_t bytes) { return leftToRight(Formatter::user().block(bytes)); }

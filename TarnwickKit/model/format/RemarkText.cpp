@@ -46,16 +46,22 @@ public:
     QString block(std::size_t index) const { return Format::block(wholeNumber(number(index))); }
     QString rate(std::size_t index) const { return Format::rate(number(index)); }
     QString count(std::size_t index) const { return Format::grouped(number(index)); }
-    QString percent(std::size_t index) const { return Format::grouped(number(index) * 100 + 1e-9) + u" %"_s; }
+    QString percent(std::size_t index) const {
+        return Format::percent(Format::grouped(number(index) * 100 + 1e-9));
+    }
     /// Rounded up, for a share that is at most so much.
     double mostPercents(std::size_t index) const { return std::ceil(number(index) * 100 - 1e-9); }
-    QString celsius(std::size_t index) const { return Format::grouped(std::round(number(index))) + u" °C"_s; }
-    QString seconds(std::size_t index) const { return Format::decimals(number(index), 1) + u" s"_s; }
+    QString celsius(std::size_t index) const {
+        return Format::leftToRight(Format::grouped(std::round(number(index))) + u" °C"_s);
+    }
+    QString seconds(std::size_t index) const {
+        return Format::leftToRight(Format::decimals(number(index), 1) + u" s"_s);
+    }
     /// Of a link: "480 Mbit/s", "5.0 Gbit/s".
     QString bitRate(std::size_t index) const {
         const double bits = number(index);
-        return bits >= 1e9 ? Format::decimals(bits / 1e9, 1) + u" Gbit/s"_s
-                           : Format::decimals(bits / 1e6, 0) + u" Mbit/s"_s;
+        return Format::leftToRight(bits >= 1e9 ? Format::decimals(bits / 1e9, 1) + u" Gbit/s"_s
+                                               : Format::decimals(bits / 1e6, 0) + u" Mbit/s"_s);
     }
 
 private:
@@ -67,7 +73,7 @@ QString fromMemory(const Spelled& remark) {
     if (!remark.hasTest() || remark.number(0) > 1)
         return {};
     const double percents = remark.mostPercents(0);
-    const QString share = Format::grouped(percents) + u" %"_s;
+    const QString share = Format::percent(Format::grouped(percents));
     if (remark.isWrite())
         return (percents > 0
                     ? RemarkText::tr("At most %1 of what was written reached the disk during the test.")

@@ -120,13 +120,12 @@ QString differenceText(double share) {
     constexpr double most = 99; // beyond it a percentage says nothing
     const double percent = std::abs(std::clamp(share, -most, most)) * 100;
     const QString sign = share < 0 ? u"−"_s : u"+"_s;
-    const QString unit = u" %"_s;
     if (share > most)
-        return u"> +"_s + Format::grouped(percent) + unit;
+        return Format::leftToRight(u"> +"_s + Format::percent(Format::grouped(percent)));
     if (percent < 0.05)
-        return u"0"_s + unit;
-    return sign + (percent < 9.95 ? Format::decimals(percent, 1) : Format::grouped(std::round(percent))) +
-           unit;
+        return Format::percent(u"0"_s);
+    return Format::leftToRight(sign + Format::percent(percent < 9.95 ? Format::decimals(percent, 1)
+                                                                     : Format::grouped(std::round(percent))));
 }
 
 QString parameterSummary(const RunRecord& run) {

@@ -221,7 +221,7 @@ void LiveRun::tellRun() {
     if (m_analyzer && !m_analyzer->liveTest())
         parts << LiveRunText::tr("Preparing…"); // the data file may take minutes
     else if (fraction)
-        parts << LiveRunText::tr("%1 %").arg(static_cast<int>(100 * *fraction));
+        parts << model::Format::percent(QString::number(static_cast<int>(100 * *fraction)));
     if (const auto left = m_countdown.left(static_cast<double>(m_time.elapsed()) / 1000))
         parts << timeLeftText(*left, m_countsRun);
     m_runLine = parts.join(QStringLiteral(" · "));

@@ -1,11 +1,15 @@
 #include "TarnwickKit/model/language/Language.h"
 
+#include "TarnwickKit/model/capacity/CapacityText.h"
 #include "TarnwickKit/model/format/Format.h"
+#include "TarnwickKit/model/format/RemarkText.h"
+#include "TarnwickKit/model/runs/Comparison.h"
 #include "support/Program.h"
 #include "support/TemporaryFolder.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -118,6 +122,57 @@ TEST(Language, HasEachCatalogue) {
         EXPECT_TRUE(said.startsWith(beginning) && said != beginning) << said.toStdString();
         EXPECT_EQ(said.endsWith(u"|Block size"), language.code == u"en") << said.toStdString();
     }
+}
+
+/// The texts in which figures have units.
+QStringList textsWithUnits() {
+    using namespace OndelCore::benchmark;
+    QStringList texts{Format::percent(u"40"_s),
+                      ComparisonChart::differenceText(-0.042),
+                      ComparisonChart::differenceText(1000),
+                      spanText(4.2),
+                      spanText(30),
+                      spanText(7500),
+                      decimalSize(31'400'000'000)};
+    for (int code = 0; code <= static_cast<int>(RemarkCode::journalsData); ++code)
+        for (const double number : {0.5, 1.0, 20.0}) {
+            Remark remark{.code = static_cast<RemarkCode>(code), .test = BenchmarkTest::sequentialWrite};
+            remark.numbers.assign(numbersOf(remark.code), number);
+            texts << remarkSentence(remark);
+        }
+    return texts;
+}
+
+/// Without what stands between marks of direction, which may be nested.
+QString outsideOfIsolates(const QString& text) {
+    QString outside;
+    int depth = 0;
+    for (const QChar letter : text) {
+        depth += letter == QChar(0x2066);
+        if (depth == 0)
+            outside += letter;
+        depth -= letter == QChar(0x2069);
+    }
+    return outside;
+}
+
+TEST(Language, KeepsUnitsBehindTheirFiguresFromRightToLeft) {
+    for (const QString& code : {u"ar"_s, u"he"_s}) {
+        const QString said = inChild([&] {
+            Language::install(code);
+            return textsWithUnits().join(u'\n');
+        });
+        EXPECT_GT(said.count(QChar(0x2066)), 20) << said.toStdString();
+        static const QRegularExpression apart(
+            u"[0-9][ \u00a0][%°A-Za-z]"_s); // a blank lets them change places
+        for (const QString& text : said.split(u'\n'))
+            EXPECT_FALSE(outsideOfIsolates(text).contains(apart)) << text.toStdString();
+    }
+    const QString turkish = inChild([] {
+        Language::install(u"tr"_s);
+        return Format::percent(u"40"_s);
+    });
+    EXPECT_EQ(turkish, u"%40");
 }
 
 TEST(Language, NumbersFollowALocaleOfTheirOwn) {
