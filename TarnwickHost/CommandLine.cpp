@@ -1,6 +1,7 @@
 #include "TarnwickHost/CommandLine.h"
 
 #include "OndelCore/platform/volumes/PathFacts.h"
+#include "OndelCore/platform/volumes/PortalFolder.h"
 #include "TarnwickHost/HostText.h"
 
 #include <algorithm>
@@ -154,7 +155,8 @@ std::filesystem::path folderIn(const CommandLine& line, const OndelCore::platfor
     const std::string_view folder = line.operands().front();
     if (const int error = look(folder, mounts).error; error != 0)
         throw UsageError(because(inQuotes(folder), error));
-    return folder;
+    return OndelCore::platform::folderBehindPortal(folder, mounts.mounts(),
+                                                   {.patience = OndelCore::platform::defaultPatience});
 }
 
 } // namespace TarnwickHost

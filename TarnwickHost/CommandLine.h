@@ -86,7 +86,8 @@ struct FolderLook {
 /// throws std::runtime_error with a sentence for people if it does not answer.
 FolderLook look(std::string_view folder, const OndelCore::platform::MountTable& mounts = {});
 
-/// The one operand of a command, which must exist. Fails: throws UsageError, else as `look`.
+/// The one operand of a command, which must exist, or the folder behind it (see folderBehindPortal). Fails:
+/// throws UsageError, else as `look`.
 std::filesystem::path folderIn(const CommandLine& line, const OndelCore::platform::MountTable& mounts);
 
 } // namespace TarnwickHost

@@ -1,6 +1,7 @@
 #include "TarnwickHost/Place.h"
 
 #include "OndelCore/benchmark/BenchmarkEngine.h"
+#include "OndelCore/platform/volumes/PortalFolder.h"
 #include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
@@ -30,7 +31,7 @@ std::filesystem::path folderTo(Purpose purpose, const CommandLine& line) {
         throw UsageError(HostFiles::tr("%1 is not a folder").arg(inQuotes(folder)));
     if (error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP)
         throw UsageError(because(inQuotes(folder), error));
-    return folder;
+    return OndelCore::platform::folderBehindPortal(folder);
 }
 
 RunPlace placeOf(const std::filesystem::path& folder) {
