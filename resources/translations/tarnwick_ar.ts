@@ -2826,6 +2826,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
         <translation>يكتب نظام الملفات البيانات مرتين، في سجله اليومي أولًا.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>جرى الوصول إلى هذا المجلد عبر بوابة سطح المكتب، وهي برنامج يدخل عمله في هذه القيم.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>اسمح للبيئة المعزولة باستخدام المجلد نفسه، ثم اختره من جديد.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>غير صالحة</translation>

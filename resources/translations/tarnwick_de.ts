@@ -2710,6 +2710,14 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
         <translation>Das Dateisystem schreibt Daten zweimal, zuerst in sein Journal.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Dieser Ordner wurde über das Portal der Arbeitsumgebung erreicht, ein Programm, das in die Messwerte eingeht.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Erlauben Sie der Sandbox den Zugriff auf den Ordner selbst, und wählen Sie ihn erneut.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>Ungültig</translation>

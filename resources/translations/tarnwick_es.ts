@@ -2710,6 +2710,14 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
         <translation>El sistema de archivos escribe los datos dos veces, primero en su diario.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Se accedió a esta carpeta a través del portal del escritorio, un programa que forma parte de los valores.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Permita que el entorno aislado use la carpeta misma y elíjala de nuevo.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>No válido</translation>

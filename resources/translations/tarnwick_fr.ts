@@ -2710,6 +2710,14 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
         <translation>Le système de fichiers écrit les données deux fois, d’abord dans son journal.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Ce dossier a été atteint par le portail du bureau, un programme qui entre dans les valeurs.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Autorisez le bac à sable à utiliser le dossier lui-même, puis choisissez-le de nouveau.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>Non valable</translation>

@@ -2710,6 +2710,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
         <translation>מערכת הקבצים כותבת נתונים פעמיים, תחילה ליומן שלה.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>הגישה לתיקייה זו הייתה דרך הפורטל של שולחן העבודה, תוכנית שפעולתה נכללת בנתונים.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>יש לאפשר לארגז החול להשתמש בתיקייה עצמה, ולבחור בה שוב.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>לא תקף</translation>

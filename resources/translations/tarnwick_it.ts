@@ -2710,6 +2710,14 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
         <translation>Il file system scrive i dati due volte, prima nel suo journal.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Questa cartella è stata raggiunta attraverso il portale del desktop, un programma che entra nei valori.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Consenti alla sandbox di usare la cartella stessa e sceglila di nuovo.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>Non valido</translation>

@@ -2681,6 +2681,14 @@ CSV は計測ごとに 1 行で、表計算やスクリプト向けの単純な�
         <translation>このファイルシステムはデータを 2 回、まずジャーナルに書き込みます。</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>このフォルダーにはデスクトップのポータル経由でアクセスしたため、測定値にはこのプログラムの処理も含まれます。</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>サンドボックスがフォルダー自体を使うことを許可し、もう一度選んでください。</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>無効</translation>

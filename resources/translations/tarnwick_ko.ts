@@ -2681,6 +2681,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
         <translation>파일 시스템이 데이터를 두 번 쓰며, 먼저 저널에 씁니다.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>이 폴더는 데스크톱의 포털을 통해 접근했으며, 측정값에는 이 프로그램의 처리도 포함됩니다.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>샌드박스가 폴더 자체를 사용하도록 허용한 다음 다시 선택하십시오.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>무효</translation>

@@ -2739,6 +2739,14 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
         <translation>System plików zapisuje dane dwukrotnie, najpierw w dzienniku.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Dostęp do tego katalogu odbywał się przez portal środowiska graficznego, czyli program, który wpływa na wyniki.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Zezwól izolowanemu środowisku na używanie samego katalogu i wybierz go ponownie.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>Nieważne</translation>

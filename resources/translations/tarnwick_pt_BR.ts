@@ -2710,6 +2710,14 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
         <translation>O sistema de arquivos grava os dados duas vezes, primeiro no journal.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Esta pasta foi acessada pelo portal da área de trabalho, um programa que faz parte dos valores.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Permita que o ambiente isolado use a própria pasta e escolha-a de novo.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>Inválido</translation>

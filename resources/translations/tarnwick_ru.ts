@@ -2739,6 +2739,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
         <translation>Файловая система записывает данные дважды, сначала в журнал.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Эта папка доступна через портал рабочего стола — программу, работа которой входит в значения.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Разрешите изолированной среде доступ к самой папке и выберите её снова.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>Недействительно</translation>

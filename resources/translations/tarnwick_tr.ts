@@ -2681,6 +2681,14 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
         <translation>Dosya sistemi verileri, önce günlüğüne olmak üzere iki kez yazar.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Bu klasöre masaüstünün portalı üzerinden erişildi; bu program da değerlerin bir parçasıdır.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Yalıtılmış ortamın klasörün kendisini kullanmasına izin verin ve klasörü yeniden seçin.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>Geçersiz</translation>

@@ -2739,6 +2739,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
         <translation>Файлова система записує дані двічі, спершу до журналу.</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Ця тека доступна через портал робочого столу — програму, робота якої входить до значень.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Дозвольте ізольованому середовищу доступ до самої теки й виберіть її знову.</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>Недійсно</translation>

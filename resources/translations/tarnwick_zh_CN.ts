@@ -2681,6 +2681,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
         <translation>此文件系统将数据写入两次，先写入日志。</translation>
     </message>
     <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>此文件夹是通过桌面的门户访问的，数值中包含了这个程序的影响。</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>请允许沙盒直接使用此文件夹，然后重新选择它。</translation>
+    </message>
+    <message>
         <source>Invalid</source>
         <extracomment>The weight of a remark: the figure is not that of the disk</extracomment>
         <translation>无效</translation>
