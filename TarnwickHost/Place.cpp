@@ -26,11 +26,11 @@ std::filesystem::path folderTo(Purpose purpose, const CommandLine& line) {
     if (folder.empty())
         throw UsageError(HostUsage::tr("the FOLDER's name is empty"));
 
-    const auto [error, isFolder] = look(folder);
+    const auto [error, isFolder, _] = look(folder);
     if (error == 0 && !isFolder)
         throw UsageError(HostFiles::tr("%1 is not a folder").arg(inQuotes(folder)));
     if (error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP)
-        throw UsageError(because(inQuotes(folder), error));
+        throw UsageError(lookUpFailure(folder, error));
     return OndelCore::platform::folderBehindPortal(folder);
 }
 

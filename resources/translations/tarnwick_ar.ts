@@ -1724,6 +1724,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 ليس مجلدًا</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 غير موجود في هذه البيئة المعزولة، إذ ليس فيها إلا بعض مجلدات الجهاز</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 يخص البيئة المعزولة نفسها؛ ومجلد الجهاز الذي يحمل هذا الاسم مخفي عنها.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>ملفات قياس آخر في هذا المجلد قيد الاستخدام ولم تُزل.</translation>
     </message>

@@ -1648,6 +1648,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 ist kein Ordner</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 ist in dieser Sandbox nicht vorhanden; sie enthält nur einige Ordner des Rechners</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 gehört der Sandbox selbst; der gleichnamige Ordner des Rechners ist vor ihr verborgen.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Dateien einer anderen Messung in diesem Ordner sind in Benutzung und wurden nicht entfernt.</translation>
     </message>

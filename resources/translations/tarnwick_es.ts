@@ -1648,6 +1648,16 @@ Abre el analizador de discos y volúmenes, elige la primera carpeta y muestra lo
         <translation>%1 no es una carpeta</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 no está en este entorno aislado, que solo tiene algunas carpetas del equipo</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 es del propio entorno aislado; la carpeta del equipo con ese nombre le está oculta.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>En esta carpeta hay archivos de otra medición en uso que no se han eliminado.</translation>
     </message>

@@ -1648,6 +1648,16 @@ Ouvre l’analyseur de disques et de volumes, choisit le premier dossier et mont
         <translation>%1 n’est pas un dossier</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 ne se trouve pas dans ce bac à sable, qui n’a que certains dossiers de la machine</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 appartient au bac à sable lui-même&#xa0;; le dossier de ce nom de la machine lui est caché.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Des fichiers d’une autre mesure dans ce dossier sont en cours d’utilisation et n’ont pas été supprimés.</translation>
     </message>

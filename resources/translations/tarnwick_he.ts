@@ -1648,6 +1648,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 אינו תיקייה</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 אינו נמצא בארגז החול הזה, שיש בו רק חלק מתיקיות המחשב</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 שייך לארגז החול עצמו; תיקיית המחשב בשם זה מוסתרת ממנו.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>קבצים של הרצה אחרת בתיקייה זו נמצאים בשימוש ולא הוסרו.</translation>
     </message>

@@ -1648,6 +1648,16 @@ Apre l’analizzatore di dischi e volumi, sceglie la prima cartella e mostra i f
         <translation>%1 non è una cartella</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 non è in questa sandbox, che ha solo alcune cartelle del computer</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 appartiene alla sandbox stessa; la cartella del computer con quel nome le è nascosta.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>In questa cartella ci sono file di un’altra misurazione in uso, che non sono stati rimossi.</translation>
     </message>

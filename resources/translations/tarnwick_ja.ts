@@ -1629,6 +1629,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 はフォルダーではありません</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 はこのサンドボックスにありません。サンドボックスにあるのはコンピューターの一部のフォルダーだけです</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 はサンドボックス自身のものです。コンピューターの同名のフォルダーはサンドボックスから見えません。</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>このフォルダーにある別の計測のファイルは使用中のため、削除しませんでした。</translation>
     </message>

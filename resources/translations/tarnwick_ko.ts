@@ -1629,6 +1629,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1은(는) 폴더가 아닙니다</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1은(는) 이 샌드박스에 없습니다. 샌드박스에는 컴퓨터의 일부 폴더만 있습니다</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1은(는) 샌드박스 자체의 것이며, 컴퓨터에 있는 같은 이름의 폴더는 샌드박스에서 보이지 않습니다.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>이 폴더에 있는 다른 측정의 파일이 사용 중이므로 제거하지 않았습니다.</translation>
     </message>

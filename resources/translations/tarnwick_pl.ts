@@ -1667,6 +1667,16 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
         <translation>%1 nie jest katalogiem</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 nie istnieje w tym izolowanym środowisku, które ma tylko niektóre katalogi komputera</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 należy do samego izolowanego środowiska; katalog komputera o tej nazwie jest przed nim ukryty.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Pliki innego pomiaru w tym katalogu są używane i nie zostały usunięte.</translation>
     </message>

@@ -1648,6 +1648,16 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
         <translation>%1 não é uma pasta</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 não está neste ambiente isolado, que tem apenas algumas pastas do computador</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 é do próprio ambiente isolado; a pasta do computador com esse nome está oculta para ele.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Arquivos de outra medição nesta pasta estão em uso e não foram removidos.</translation>
     </message>

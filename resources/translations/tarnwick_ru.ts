@@ -1667,6 +1667,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 — не папка</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 нет в этой изолированной среде: в ней есть лишь некоторые папки компьютера</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 — собственная папка изолированной среды; папка компьютера с таким именем от неё скрыта.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Файлы другого замера в этой папке используются и не были удалены.</translation>
     </message>

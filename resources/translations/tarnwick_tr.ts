@@ -1629,6 +1629,16 @@ Disk hızı ve birim çözümleyicisini açar, ilk klasörü seçer ve ölçüm 
         <translation>%1 bir klasör değil</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 bu yalıtılmış ortamda yok; ortamda makinenin klasörlerinden yalnızca bazıları bulunur</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 yalıtılmış ortamın kendisine aittir; makinenin bu addaki klasörü ondan gizlenmiştir.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Bu klasörde başka bir ölçümün dosyaları kullanımda; bu yüzden silinmedi.</translation>
     </message>

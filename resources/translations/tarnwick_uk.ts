@@ -1667,6 +1667,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 — не тека</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 немає в цьому ізольованому середовищі: у ньому є лише деякі теки комп’ютера</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 — власна тека ізольованого середовища; теку комп’ютера з такою назвою від нього приховано.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Файли іншого вимірювання в цій теці використовуються, їх не вилучено.</translation>
     </message>

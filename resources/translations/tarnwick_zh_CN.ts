@@ -1629,6 +1629,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 不是文件夹</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 不在此沙盒中，沙盒只包含本机的部分文件夹</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 属于沙盒本身；本机的同名文件夹对沙盒不可见。</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>此文件夹中另一次测试的文件正在使用，未将其删除。</translation>
     </message>

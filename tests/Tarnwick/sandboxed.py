@@ -174,6 +174,20 @@ def refuses_what_is_read_only(folder):
         check(ended == (1, "", REFUSED + "\n"), f"on {place} it ends with {ended}")
 
 
+def tells_what_is_hidden_from_it(folder):
+    """Whoever is told that a folder of the machine does not exist looks for it in the wrong place."""
+    sandbox = Sandbox(folder)
+    hidden = "'/var/log' is not in this sandbox, which has only some of the machine’s folders\n"
+    for command in (("facts",), ("smart-report",), ("run", "--size", "64M"), ("check", "--size", "16M")):
+        ended = sandbox.tells(*command, "/var/log")
+        check(ended == (2, "", f"tarnwick-host {command[0]}: {hidden}"), f"{command} ends with {ended}")
+    check("No such file" in sandbox.tells("facts", "none")[2], "a relative name is taken for a hidden folder")
+    for place, is_own in (("/", True), ("/tmp", True), (folder, False)):
+        status, _, complaints = sandbox.tells("facts", place)
+        own = f"'{place}' is the sandbox’s own; the machine’s folder of that name is hidden from it.\n"
+        check((status, complaints) == (0, own if is_own else ""), f"on {place} it ends with {status}: {complaints}")
+
+
 @contextlib.contextmanager
 def disk(folder):
     """A mounted file system and its device number."""
@@ -355,8 +369,9 @@ if __name__ == "__main__":
     if why := obstacle():
         print("skipped, no sandbox can be made here:", why)
         sys.exit(driver.SKIP)
-    cases = (measures_and_leaves_nothing, shows_the_volumes_of_people, refuses_what_is_read_only, reads_health_through_udisks,
-             measures_what_the_portal_hands_over, asks_the_portals, stays_awake_and_gives_notice_by_portal)
+    cases = (measures_and_leaves_nothing, shows_the_volumes_of_people, refuses_what_is_read_only, tells_what_is_hidden_from_it,
+             reads_health_through_udisks, measures_what_the_portal_hands_over, asks_the_portals,
+             stays_awake_and_gives_notice_by_portal)
     for case in driver.chosen(cases, sys.argv[3:]):
         with tempfile.TemporaryDirectory(prefix="ondel-sandbox-", dir=os.environ["HOME"]) as name:
             case(pathlib.Path(name))
