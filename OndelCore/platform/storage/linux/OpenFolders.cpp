@@ -179,8 +179,8 @@ FileDescriptor openInnerFolder(int parent, const std::string& name) {
     return FileDescriptor(openat(handle.get(), ".", toList));
 }
 
-/// Older document portals (1.16) open what lies below them by a link in /proc, with the caller's flags, and so
-/// call every file a symbolic link if those have O_NOFOLLOW. The kernel opens for O_PATH without asking
+/// Older document portals (1.16) open what lies below them by a link in /proc, with the caller's flags, and
+/// so call every file a symbolic link if those have O_NOFOLLOW. The kernel opens for O_PATH without asking
 /// them, and what is a link indeed cannot be opened by such a descriptor.
 FileDescriptor openInnerFile(int folder, const std::string& name, int flags) {
     flags |= O_NONBLOCK | O_CLOEXEC;
