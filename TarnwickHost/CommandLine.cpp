@@ -1,10 +1,14 @@
 #include "TarnwickHost/CommandLine.h"
 
+#include "OndelCore/platform/process/Sandbox.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
+#include "OndelCore/platform/volumes/PortalFolder.h"
 #include "TarnwickHost/HostText.h"
+#include "TarnwickHost/Output.h"
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <optional>
@@ -143,7 +147,18 @@ FolderLook look(std::string_view folder, const OndelCore::platform::MountTable& 
     const auto facts = pathFacts(folder, PathQuestion::place, mounts.mounts(), {.patience = defaultPatience});
     if (!facts)
         throw std::runtime_error(HostFiles::tr("%1 does not answer").arg(inQuotes(folder)).toStdString());
-    return {.error = facts->error, .isFolder = facts->isFolder};
+    const auto mount = std::ranges::find(mounts.mounts(), facts->mountId, &Mount::id);
+    return {.error = facts->error,
+            .isFolder = facts->isFolder,
+            .isOfSandbox = mount != mounts.mounts().end() && mount->mountPoint == "/" && sandbox()};
+}
+
+QString lookUpFailure(std::string_view folder, int error) {
+    if (error == ENOENT && folder.starts_with('/') && OndelCore::platform::sandbox())
+        //: %1 is a folder
+        return HostFiles::tr("%1 is not in this sandbox, which has only some of the machine’s folders")
+            .arg(inQuotes(folder));
+    return because(inQuotes(folder), error);
 }
 
 std::filesystem::path folderIn(const CommandLine& line, const OndelCore::platform::MountTable& mounts) {
@@ -152,9 +167,16 @@ std::filesystem::path folderIn(const CommandLine& line, const OndelCore::platfor
     if (line.operands().size() > 1)
         throw UsageError(HostUsage::tr("one FOLDER at a time"));
     const std::string_view folder = line.operands().front();
-    if (const int error = look(folder, mounts).error; error != 0)
-        throw UsageError(because(inQuotes(folder), error));
-    return folder;
+    const FolderLook seen = look(folder, mounts);
+    if (seen.error != 0)
+        throw UsageError(lookUpFailure(folder, seen.error));
+    if (seen.isOfSandbox)
+        //: %1 is a folder
+        complain(
+            HostFiles::tr("%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.")
+                .arg(inQuotes(folder)));
+    return OndelCore::platform::folderBehindPortal(folder, mounts.mounts(),
+                                                   {.patience = OndelCore::platform::defaultPatience});
 }
 
 } // namespace TarnwickHost

@@ -80,13 +80,19 @@ double seconds(std::string_view option, std::string_view text);
 struct FolderLook {
     int error = 0;
     bool isFolder = false;
+    bool isOfSandbox = false; ///< it belongs to the root folder that a sandbox made for this program
 };
 
 /// Waits up to half a minute for a volume that may be waking up; signals end the program meanwhile. Fails:
 /// throws std::runtime_error with a sentence for people if it does not answer.
 FolderLook look(std::string_view folder, const OndelCore::platform::MountTable& mounts = {});
 
-/// The one operand of a command, which must exist. Fails: throws UsageError, else as `look`.
+/// Why a look-up of the folder failed. A sandbox hides folders that are there outside of it.
+QString lookUpFailure(std::string_view folder, int error);
+
+/// The one operand of a command, which must exist, or the folder behind it (see folderBehindPortal). Says on
+/// standard error if that is none of the machine's folders. Fails:
+/// throws UsageError, else as `look`.
 std::filesystem::path folderIn(const CommandLine& line, const OndelCore::platform::MountTable& mounts);
 
 } // namespace TarnwickHost

@@ -1,6 +1,7 @@
 #include "TarnwickHost/Place.h"
 
 #include "OndelCore/benchmark/BenchmarkEngine.h"
+#include "OndelCore/platform/volumes/PortalFolder.h"
 #include "OndelCore/volumes/VolumeQuestions.h"
 #include "TarnwickHost/HostText.h"
 #include "TarnwickHost/Output.h"
@@ -25,12 +26,12 @@ std::filesystem::path folderTo(Purpose purpose, const CommandLine& line) {
     if (folder.empty())
         throw UsageError(HostUsage::tr("the FOLDER's name is empty"));
 
-    const auto [error, isFolder] = look(folder);
+    const auto [error, isFolder, _] = look(folder);
     if (error == 0 && !isFolder)
         throw UsageError(HostFiles::tr("%1 is not a folder").arg(inQuotes(folder)));
     if (error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP)
-        throw UsageError(because(inQuotes(folder), error));
-    return folder;
+        throw UsageError(lookUpFailure(folder, error));
+    return OndelCore::platform::folderBehindPortal(folder);
 }
 
 RunPlace placeOf(const std::filesystem::path& folder) {

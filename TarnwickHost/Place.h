@@ -19,8 +19,9 @@ struct RunPlace {
 /// What a folder is wanted for.
 enum class Purpose { measure, check };
 
-/// The one operand of a command that writes into a folder, which must exist: the bytes as given. Whether it
-/// can be written to is left to the engine. Fails: throws UsageError.
+/// The one operand of a command that writes into a folder, which must exist: the bytes as given, or
+/// the folder behind it (see folderBehindPortal). Whether it can be written to is left to the engine. Fails:
+/// throws UsageError.
 std::filesystem::path folderTo(Purpose purpose, const CommandLine& line);
 
 /// What is told of a place. Blocks on asking for the volume that holds it. Fails: never, what is not told is

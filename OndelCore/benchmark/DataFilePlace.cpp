@@ -9,11 +9,12 @@ namespace OndelCore::benchmark {
 
 platform::FileDescriptor DataFilePlace::open(int flags) {
     constexpr const char* name = "data.bin";
+    platform::FileDescriptor file;
     if ((flags & O_CREAT) != 0)
-        flags |= O_EXCL;
-    // O_NONBLOCK: opening a pipe that took the file's place would wait for its other end.
-    platform::FileDescriptor file(
-        openat(m_folder, name, flags | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR));
+        file = platform::FileDescriptor(
+            openat(m_folder, name, flags | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    else
+        file = platform::openInnerFile(m_folder, name, flags);
     if (!file)
         return file;
     const auto identity = platform::identityOf(file.get());

@@ -1,5 +1,7 @@
 #include "OndelCore/capacity/RangeFiles.h"
 
+#include "OndelCore/platform/storage/OpenFolders.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -67,9 +69,7 @@ const Piece& RangeFiles::pieceAt(std::int64_t offset) const {
 
 std::optional<PieceFile> RangeFiles::open(const Piece& piece, int flags) const {
     const auto index = static_cast<std::size_t>(&piece - m_pieces.data());
-    // O_NONBLOCK: opening a pipe that took the file's place would wait for its other end.
-    platform::FileDescriptor file(
-        openat(m_folder, pieceName(index).c_str(), flags | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    platform::FileDescriptor file = platform::openInnerFile(m_folder, pieceName(index), flags);
     if (!file)
         return std::nullopt;
     return PieceFile(m_system, std::move(file), piece);

@@ -1732,6 +1732,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 ليس مجلدًا</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 غير موجود في هذه البيئة المعزولة، إذ ليس فيها إلا بعض مجلدات الجهاز</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 يخص البيئة المعزولة نفسها؛ ومجلد الجهاز الذي يحمل هذا الاسم مخفي عنها.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>ملفات قياس آخر في هذا المجلد قيد الاستخدام ولم تُزل.</translation>
     </message>
@@ -2828,6 +2838,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>يكتب نظام الملفات البيانات مرتين، في سجل عملياته أولًا.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>جرى الوصول إلى هذا المجلد عبر بوابة سطح المكتب، وهي برنامج يدخل عمله في هذه القيم.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>اسمح للبيئة المعزولة باستخدام المجلد نفسه، ثم اختره من جديد.</translation>
     </message>
     <message>
         <source>Invalid</source>

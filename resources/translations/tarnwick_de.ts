@@ -1656,6 +1656,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 ist kein Ordner</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 ist in dieser Sandbox nicht vorhanden; sie enthält nur einige Ordner des Rechners</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 gehört der Sandbox selbst; der gleichnamige Ordner des Rechners ist vor ihr verborgen.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Dateien einer anderen Messung in diesem Ordner sind in Benutzung und wurden nicht entfernt.</translation>
     </message>
@@ -2712,6 +2722,14 @@ pro Messung, mit einfachen Zahlen für Tabellenkalkulationen und Skripte. JSON i
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>Das Dateisystem schreibt Daten zweimal, zuerst in sein Journal.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Dieser Ordner wurde über das Portal der Arbeitsumgebung erreicht, ein Programm, das in die Messwerte eingeht.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Erlauben Sie der Sandbox den Zugriff auf den Ordner selbst, und wählen Sie ihn erneut.</translation>
     </message>
     <message>
         <source>Invalid</source>

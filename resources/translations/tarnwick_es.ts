@@ -1656,6 +1656,16 @@ Abre el analizador de discos y volúmenes, elige la primera carpeta y muestra lo
         <translation>%1 no es una carpeta</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 no está en este entorno aislado, que solo tiene algunas carpetas del equipo</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 es del propio entorno aislado; la carpeta del equipo con ese nombre le está oculta.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>En esta carpeta hay archivos de otra medición en uso que no se han eliminado.</translation>
     </message>
@@ -2712,6 +2722,14 @@ línea por medición, con números simples para hojas de cálculo y scripts. JSO
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>El sistema de archivos escribe los datos dos veces, primero en su diario.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Se accedió a esta carpeta a través del portal del escritorio, un programa que forma parte de los valores.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Permita que el entorno aislado use la carpeta misma y elíjala de nuevo.</translation>
     </message>
     <message>
         <source>Invalid</source>

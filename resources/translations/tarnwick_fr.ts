@@ -1656,6 +1656,16 @@ Ouvre l’analyseur de vitesse des disques et de volumes, choisit le premier dos
         <translation>%1 n’est pas un dossier</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 ne se trouve pas dans ce bac à sable, qui n’a que certains dossiers de la machine</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 appartient au bac à sable lui-même&#xa0;; le dossier de ce nom de la machine lui est caché.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Des fichiers d’une autre mesure dans ce dossier sont en cours d’utilisation et n’ont pas été supprimés.</translation>
     </message>
@@ -2712,6 +2722,14 @@ a une ligne par mesure, avec des nombres simples pour tableurs et scripts. JSON 
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>Le système de fichiers écrit les données deux fois, d’abord dans son journal.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Ce dossier a été atteint par le portail du bureau, un programme qui entre dans les valeurs.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Autorisez le bac à sable à utiliser le dossier lui-même, puis choisissez-le de nouveau.</translation>
     </message>
     <message>
         <source>Invalid</source>

@@ -1656,6 +1656,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 אינו תיקייה</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 אינו נמצא בארגז החול הזה, שיש בו רק חלק מתיקיות המחשב</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 שייך לארגז החול עצמו; תיקיית המחשב בשם זה מוסתרת ממנו.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>קבצים של הרצה אחרת בתיקייה זו נמצאים בשימוש ולא הוסרו.</translation>
     </message>
@@ -2712,6 +2722,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>מערכת הקבצים כותבת נתונים פעמיים, תחילה ליומן שלה.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>הגישה לתיקייה זו הייתה דרך הפורטל של שולחן העבודה, תוכנית שפעולתה נכללת בנתונים.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>יש לאפשר לארגז החול להשתמש בתיקייה עצמה, ולבחור בה שוב.</translation>
     </message>
     <message>
         <source>Invalid</source>

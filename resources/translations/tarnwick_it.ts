@@ -1656,6 +1656,16 @@ Apre l’analizzatore di velocità dei dischi e di volumi, sceglie la prima cart
         <translation>%1 non è una cartella</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 non è in questa sandbox, che ha solo alcune cartelle del computer</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 appartiene alla sandbox stessa; la cartella del computer con quel nome le è nascosta.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>In questa cartella ci sono file di un’altra misurazione in uso, che non sono stati rimossi.</translation>
     </message>
@@ -2712,6 +2722,14 @@ riga per misurazione, con numeri semplici per fogli di calcolo e script. JSON è
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>Il file system scrive i dati due volte, prima nel suo journal.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Questa cartella è stata raggiunta attraverso il portale del desktop, un programma che entra nei valori.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Consenti alla sandbox di usare la cartella stessa e sceglila di nuovo.</translation>
     </message>
     <message>
         <source>Invalid</source>

@@ -1637,6 +1637,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 はフォルダーではありません</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 はこのサンドボックスにありません。サンドボックスにあるのはコンピューターの一部のフォルダーだけです</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 はサンドボックス自身のものです。コンピューターの同名のフォルダーはサンドボックスから見えません。</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>このフォルダーにある別の計測のファイルは使用中のため、削除しませんでした。</translation>
     </message>
@@ -2661,6 +2671,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>このファイルシステムはデータを 2 回、まずジャーナルに書き込みます。</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>このフォルダーにはデスクトップのポータル経由でアクセスしたため、測定値にはこのプログラムの処理も含まれます。</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>サンドボックスがフォルダー自体を使うことを許可し、もう一度選んでください。</translation>
     </message>
     <message>
         <source>Invalid</source>

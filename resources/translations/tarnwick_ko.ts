@@ -1637,6 +1637,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1은(는) 폴더가 아닙니다</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1은(는) 이 샌드박스에 없습니다. 샌드박스에는 컴퓨터의 일부 폴더만 있습니다</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1은(는) 샌드박스 자체의 것이며, 컴퓨터에 있는 같은 이름의 폴더는 샌드박스에서 보이지 않습니다.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>이 폴더에 있는 다른 측정의 파일이 사용 중이므로 제거하지 않았습니다.</translation>
     </message>
@@ -2683,6 +2693,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>파일 시스템이 데이터를 두 번 쓰며, 먼저 저널에 씁니다.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>이 폴더는 데스크톱의 포털을 통해 접근했으며, 측정값에는 이 프로그램의 처리도 포함됩니다.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>샌드박스가 폴더 자체를 사용하도록 허용한 다음 다시 선택하십시오.</translation>
     </message>
     <message>
         <source>Invalid</source>

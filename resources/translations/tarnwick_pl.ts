@@ -1675,6 +1675,16 @@ Otwiera analizator szybkości dysków i woluminów, wybiera pierwszy katalog i p
         <translation>%1 nie jest katalogiem</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 nie istnieje w tym izolowanym środowisku, które ma tylko niektóre katalogi komputera</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 należy do samego izolowanego środowiska; katalog komputera o tej nazwie jest przed nim ukryty.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Pliki innego pomiaru w tym katalogu są używane i nie zostały usunięte.</translation>
     </message>
@@ -2741,6 +2751,14 @@ CSV ma wiersz na każdy pomiar, z samymi liczbami dla arkuszy i skryptów. JSON 
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>System plików zapisuje dane dwukrotnie, najpierw w dzienniku.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Dostęp do tego katalogu odbywał się przez portal środowiska graficznego, czyli program, który wpływa na wyniki.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Zezwól izolowanemu środowisku na używanie samego katalogu i wybierz go ponownie.</translation>
     </message>
     <message>
         <source>Invalid</source>

@@ -1656,6 +1656,16 @@ Abre o analisador de discos e volumes, escolhe a primeira pasta e mostra os arqu
         <translation>%1 não é uma pasta</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 não está neste ambiente isolado, que tem apenas algumas pastas do computador</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 é do próprio ambiente isolado; a pasta do computador com esse nome está oculta para ele.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Arquivos de outra medição nesta pasta estão em uso e não foram removidos.</translation>
     </message>
@@ -2712,6 +2722,14 @@ uma linha por medição, com números puros para planilhas e scripts. JSON é um
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>O sistema de arquivos grava os dados duas vezes, primeiro no journal.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Esta pasta foi acessada pelo portal da área de trabalho, um programa que faz parte dos valores.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Permita que o ambiente isolado use a própria pasta e escolha-a de novo.</translation>
     </message>
     <message>
         <source>Invalid</source>

@@ -1675,6 +1675,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 — не папка</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 нет в этой изолированной среде: в ней есть лишь некоторые папки компьютера</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 — собственная папка изолированной среды; папка компьютера с таким именем от неё скрыта.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Файлы другого замера в этой папке используются и не были удалены.</translation>
     </message>
@@ -2741,6 +2751,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>Файловая система записывает данные дважды, сначала в журнал.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Эта папка доступна через портал рабочего стола — программу, работа которой входит в значения.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Разрешите изолированной среде доступ к самой папке и выберите её снова.</translation>
     </message>
     <message>
         <source>Invalid</source>

@@ -1637,6 +1637,16 @@ Disk hızı ve birim çözümleyicisini açar, ilk klasörü seçer ve ölçüm 
         <translation>%1 bir klasör değil</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 bu yalıtılmış ortamda yok; ortamda makinenin klasörlerinden yalnızca bazıları bulunur</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 yalıtılmış ortamın kendisine aittir; makinenin bu addaki klasörü ondan gizlenmiştir.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Bu klasörde başka bir ölçümün dosyaları kullanımda; bu yüzden silinmedi.</translation>
     </message>
@@ -2683,6 +2693,14 @@ programlarına ve betiklere uygun düz sayılı bir satır içerir. JSON, ölç�
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>Dosya sistemi verileri, önce günlüğüne olmak üzere iki kez yazar.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Bu klasöre masaüstünün portalı üzerinden erişildi; bu program da değerlerin bir parçasıdır.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Yalıtılmış ortamın klasörün kendisini kullanmasına izin verin ve klasörü yeniden seçin.</translation>
     </message>
     <message>
         <source>Invalid</source>

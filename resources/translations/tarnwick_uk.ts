@@ -1675,6 +1675,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 — не тека</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 немає в цьому ізольованому середовищі: у ньому є лише деякі теки комп’ютера</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 — власна тека ізольованого середовища; теку комп’ютера з такою назвою від нього приховано.</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>Файли іншого вимірювання в цій теці використовуються, їх не вилучено.</translation>
     </message>
@@ -2741,6 +2751,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>Файлова система записує дані двічі, спершу до журналу.</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>Ця тека доступна через портал робочого столу — програму, робота якої входить до значень.</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>Дозвольте ізольованому середовищу доступ до самої теки й виберіть її знову.</translation>
     </message>
     <message>
         <source>Invalid</source>

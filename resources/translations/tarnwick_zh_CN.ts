@@ -1637,6 +1637,16 @@ Opens the disk speed and volume analyzer, with the first folder chosen and run f
         <translation>%1 不是文件夹</translation>
     </message>
     <message>
+        <source>%1 is not in this sandbox, which has only some of the machine’s folders</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 不在此沙盒中，沙盒只包含本机的部分文件夹</translation>
+    </message>
+    <message>
+        <source>%1 is the sandbox’s own; the machine’s folder of that name is hidden from it.</source>
+        <extracomment>%1 is a folder</extracomment>
+        <translation>%1 属于沙盒本身；本机的同名文件夹对沙盒不可见。</translation>
+    </message>
+    <message>
         <source>Files of another run in this folder are in use and were not removed.</source>
         <translation>此文件夹中另一次测试的文件正在使用，未将其删除。</translation>
     </message>
@@ -2676,6 +2686,14 @@ plain numbers for spreadsheets and scripts. JSON is a list of run files&apos; co
     <message>
         <source>The file system writes data twice, to its journal first.</source>
         <translation>此文件系统将数据写入两次，先写入日志。</translation>
+    </message>
+    <message>
+        <source>This folder was reached through the desktop’s portal, a program that is part of the figures.</source>
+        <translation>此文件夹是通过桌面的门户访问的，数值中包含了这个程序的影响。</translation>
+    </message>
+    <message>
+        <source>Allow the sandbox to use the folder itself, and choose it again.</source>
+        <translation>请允许沙盒直接使用此文件夹，然后重新选择它。</translation>
     </message>
     <message>
         <source>Invalid</source>

@@ -1,13 +1,13 @@
 """A fake desktop: its dark (1) or light (2) setting, inhibition of suspend, and notifications.
 Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal needs, which is a session manager and
-notifications from the portal alone. With "desktop_portal.py NUMBER refuses" the portal accepts the request to inhibit suspend
+notifications from the portal alone. Notices come by the notification service or by the portal. With "desktop_portal.py NUMBER refuses" the portal accepts the request to inhibit suspend
 and then answers that it failed, and there is a login manager. With "desktop_portal.py NUMBER files" it has file dialogs that nobody
 sees, and tells of each one "asked JSON": method, parent, title and options. Lines on standard input: a number changes the setting,
 "contrast NUMBER" that of the contrast, "text NUMBER" that of the text scale,
-"press" activates the last notification, with the token "pressed"; of the last file dialog "answer CODE JSON" is the answer,
+"press" activates the last notification, with the token "pressed", "press portal's" that of the portal, by the application's name; of the last file dialog "answer CODE JSON" is the answer,
 "stranger CODE JSON" one of another program (both are followed by "said"), "nonsense" one of other types; "vanish" ends the portal.
 Lines on standard output: "ready", "awake FLAGS REASON", "asleep", "locked WHAT WHO WHY MODE", "unlocked", "notice TITLE: TEXT",
-"withdrawn", "asked JSON", "closed"."""
+"withdrawn", for those of the portal "portal's notice TITLE: TEXT" and "portal's withdrawn", "asked JSON", "closed"."""
 
 import json
 import os
@@ -29,6 +29,10 @@ INTERFACES = Gio.DBusNodeInfo.new_for_xml("""<node>
 <interface name="org.freedesktop.portal.Inhibit">
   <method name="Inhibit"><arg type="s" direction="in"/><arg type="u" direction="in"/><arg type="a{sv}" direction="in"/>
     <arg type="o" direction="out"/></method>
+</interface>
+<interface name="org.freedesktop.portal.Notification">
+  <method name="AddNotification"><arg type="s" direction="in"/><arg type="a{sv}" direction="in"/></method>
+  <method name="RemoveNotification"><arg type="s" direction="in"/></method>
 </interface>
 <interface name="org.freedesktop.portal.FileChooser">
   <method name="OpenFile"><arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="a{sv}" direction="in"/>
@@ -77,7 +81,7 @@ class Desktop:
         if scheme is None:
             self.serve("/org/gnome/SessionManager", SESSION)
         else:
-            for name in ("Settings", "Inhibit", *["FileChooser"] * has_files):
+            for name in ("Settings", "Inhibit", "Notification", *["FileChooser"] * has_files):
                 self.serve(PATH, f"org.freedesktop.portal.{name}")
         self.serve("/org/freedesktop/Notifications", NOTICES)
         own = Gio.bus_own_name_on_connection
@@ -172,6 +176,12 @@ class Desktop:
         tell("notice", f"{title}: {text}")
         return GLib.Variant("u", self.notices)
 
+    def AddNotification(self, _sender, _path, _name, notice):
+        tell("portal's notice", f"{notice['title']}: {notice['body']}")
+
+    def RemoveNotification(self, _sender, _path, _name):
+        tell("portal's withdrawn")
+
     def CloseNotification(self, _sender, _path, _notice):
         tell("withdrawn")
 
@@ -188,6 +198,10 @@ class Desktop:
         line = source.readline().decode().strip()
         if not line:
             loop.quit()
+        elif line == "press portal's":
+            token = {"activation-token": GLib.Variant("s", "pressed"), "desktop-startup-id": GLib.Variant("s", "pressed")}
+            self.bus.call_sync("tools.ondel.tarnwick", "/tools/ondel/tarnwick", "org.freedesktop.Application", "Activate",
+                               GLib.Variant("(a{sv})", (token,)), None, Gio.DBusCallFlags.NO_AUTO_START, -1, None)
         elif line == "press":
             self.bus.emit_signal(None, "/org/freedesktop/Notifications", NOTICES, "ActivationToken",
                                  GLib.Variant("(us)", (self.notices, "pressed")))

@@ -3,6 +3,7 @@
 buses that let through what the manifest names. Usage: sandboxed.py WINDOW-PROGRAM TERMINAL-PROGRAM [CASE]..."""
 
 import contextlib
+import io
 import json
 import os
 import pathlib
@@ -13,8 +14,8 @@ import threading
 import time
 
 import driver
-from driven_requests import child, desktop_of, hears_of
-from driven_window import nothing_left
+from driven_requests import child, desktop_of, hears_of, launch_that_ended
+from driven_window import choose_small_size, nothing_left, start, TESTS
 from driver import check
 
 NAME = "tools.ondel.tarnwick"
@@ -24,6 +25,8 @@ SESSION_BUS = ["--filter", f"--own={NAME}", f"--own={NAME}.*", "--call=org.freed
                "--broadcast=org.freedesktop.portal.*=@/org/freedesktop/portal/*"]
 SYSTEM_BUS = ["--filter", "--talk=org.freedesktop.UDisks2"]
 UDISKS = "org.freedesktop.UDisks2"
+PERMISSION_STORE = "/usr/libexec/xdg-permission-store"
+DOCUMENT_PORTAL = "/usr/libexec/xdg-document-portal"
 CONTROLLER = f"{UDISKS}.NVMe.Controller"
 INTERFACES = f"""<node>
 <interface name="org.freedesktop.DBus.ObjectManager">
@@ -171,6 +174,20 @@ def refuses_what_is_read_only(folder):
         check(ended == (1, "", REFUSED + "\n"), f"on {place} it ends with {ended}")
 
 
+def tells_what_is_hidden_from_it(folder):
+    """Whoever is told that a folder of the machine does not exist looks for it in the wrong place."""
+    sandbox = Sandbox(folder)
+    hidden = "'/var/log' is not in this sandbox, which has only some of the machine’s folders\n"
+    for command in (("facts",), ("smart-report",), ("run", "--size", "64M"), ("check", "--size", "16M")):
+        ended = sandbox.tells(*command, "/var/log")
+        check(ended == (2, "", f"tarnwick-host {command[0]}: {hidden}"), f"{command} ends with {ended}")
+    check("No such file" in sandbox.tells("facts", "none")[2], "a relative name is taken for a hidden folder")
+    for place, is_own in (("/", True), ("/tmp", True), (folder, False)):
+        status, _, complaints = sandbox.tells("facts", place)
+        own = f"'{place}' is the sandbox’s own; the machine’s folder of that name is hidden from it.\n"
+        check((status, complaints) == (0, own if is_own else ""), f"on {place} it ends with {status}: {complaints}")
+
+
 @contextlib.contextmanager
 def disk(folder):
     """A mounted file system and its device number."""
@@ -221,20 +238,120 @@ def reads_health_through_udisks(folder):
         check((status, complaints) == (0, "") and "UDisks2 for nvme0n1" in words and "Life used 7%" in words, f"{status} {told} {complaints}")
 
 
+def windowed(folder, bus):
+    """A sandbox with a display and a session bus."""
+    sandbox = Sandbox(folder)
+    sandbox.bind(bus, "/run/flatpak/bus")
+    sandbox.bind("/tmp/.X11-unix")
+    sandbox.set(DBUS_SESSION_BUS_ADDRESS="unix:path=/run/flatpak/bus", DISPLAY=os.environ["DISPLAY"], QT_QPA_PLATFORM="xcb")
+    return sandbox
+
+
 def asks_the_portals(folder):
     """Not through the accessibility tree: programs are known there by their numbers, which are others inside of a sandbox."""
     with desktop_of(2, "files") as desktop, filtered(os.environ["DBUS_SESSION_BUS_ADDRESS"], SESSION_BUS) as bus:
         told = hears_of(desktop)
         told("ready")
-        sandbox = Sandbox(folder)
-        sandbox.bind(bus, "/run/flatpak/bus")
-        sandbox.bind("/tmp/.X11-unix")
-        sandbox.set(DBUS_SESSION_BUS_ADDRESS="unix:path=/run/flatpak/bus", DISPLAY=os.environ["DISPLAY"], QT_QPA_PLATFORM="xcb")
-        with child(*sandbox.command("tarnwick", folder)):
+        with child(*windowed(folder, bus).command("tarnwick", folder)):
             driver.focus(driver.MAIN)
             driver.display.press("ctrl+o")
             question = json.loads(told("asked").removeprefix("asked "))
             check(question["directory"] and question["parent"].startswith("x11:"), f"asked {question}")
+
+
+@contextlib.contextmanager
+def document_portal(folder):
+    """The real one. Returns a function that hands a folder over, and returns its path in the portal's folder, which comes second."""
+    from gi.repository import Gio, GLib
+    (runtime := folder / "portal").mkdir(mode=0o700)
+    variables = os.environ | {"XDG_RUNTIME_DIR": str(runtime)}
+    bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+    place = "org.freedesktop.portal.Documents", "/org/freedesktop/portal/documents", "org.freedesktop.portal.Documents"
+
+    def hand_over(target):
+        descriptors = Gio.UnixFDList.new_from_array([os.open(target, os.O_PATH)])
+        is_folder = 8
+        words = GLib.Variant("(ahusas)", ([0], is_folder, NAME, ["read", "write", "grant-permissions"]))
+        answer, _ = bus.call_with_unix_fd_list_sync(*place, "AddFull", words, None, Gio.DBusCallFlags.NONE, -1, descriptors, None)
+        return f"{answer.unpack()[0][0]}/{target.name}"
+    with child(PERMISSION_STORE, env=variables), child(DOCUMENT_PORTAL, env=variables) as portal:
+        for name in ("org.freedesktop.impl.portal.PermissionStore", place[0]):
+            subprocess.run(["gdbus", "wait", "--session", name], check=True)
+        try:
+            yield hand_over, runtime / "doc/by-app" / NAME
+        finally:
+            portal.terminate()
+            portal.wait()
+            subprocess.run(["umount", "--lazy", runtime / "doc"], capture_output=True)
+
+
+def measures_what_the_portal_hands_over(folder):
+    """A folder that the sandbox has too is measured itself, where the portal tells its place (from version 1.18 on)."""
+    if os.getuid() != 0 or not os.path.exists("/dev/fuse") or not os.path.exists(DOCUMENT_PORTAL):
+        print("  skipped: needs root, FUSE and the document portal")
+        return
+    (reached := folder / "reached").mkdir()
+    with tempfile.TemporaryDirectory(dir="/var/tmp") as hidden, document_portal(folder) as (hand_over, documents):
+        for target in (reached, pathlib.Path(hidden)):
+            handed = hand_over(target)
+            tells = "user.document-portal.host-path" in os.listxattr(documents / handed)
+            sandbox = Sandbox(folder)
+            sandbox.bind(documents, "/run/user/1/doc")
+            status, told, complaints = sandbox.tells("run", "--size", "64M", "--json", f"/run/user/1/doc/{handed}")
+            check((status, complaints) == (0, ""), f"it ends with {status}: {complaints}")
+            codes = [remark["code"] for remark in json.loads(told)["remarks"]]
+            is_itself = tells and target == reached
+            check(("throughPortal" in codes) != is_itself, f"{target}: {codes}")
+            check(json.loads(told)["folder"] == (str(target) if is_itself else f"/run/user/1/doc/{handed}"), told)
+            nothing_left(target)
+            status, told, complaints = sandbox.tells("check", "--size", "16M", f"/run/user/1/doc/{handed}")
+            check((status, complaints) == (0, ""), f"the check ends with {status}: {told} {complaints}")
+            nothing_left(target)
+
+
+def inside(starter):
+    """The window program that bwrap has started, by its number outside."""
+    def found(number):
+        for child_of in pathlib.Path(f"/proc/{number}/task/{number}/children").read_text().split():
+            if pathlib.Path(f"/proc/{child_of}/comm").read_text() == "tarnwick\n":
+                return int(child_of)
+            if deeper := found(child_of):
+                return deeper
+        return None
+    driver.appearing(driver.MAIN)
+    program = driver.Started.__new__(driver.Started)
+    program.pid, program.stderr = found(starter.pid), io.StringIO()
+    program.descriptor = os.pidfd_open(program.pid)
+    return program
+
+
+def stays_awake_and_gives_notice_by_portal(folder):
+    """The window is driven on the accessibility bus as it is outside, where the program has another number."""
+    ask = ["gdbus", "call", "--session", "--dest", "org.a11y.Bus", "--object-path", "/org/a11y/bus", "--method", "org.a11y.Bus.GetAddress"]
+    address = subprocess.run(ask, check=True, capture_output=True, text=True).stdout.split("'")[1]
+    (target := folder / "measured").mkdir()
+    with (desktop_of(2) as desktop, filtered(os.environ["DBUS_SESSION_BUS_ADDRESS"], [*SESSION_BUS, "--talk=org.a11y.Bus"]) as bus,
+          child(pathlib.Path(sys.argv[1]).with_name("drag-source"), stdout=subprocess.PIPE) as other):
+        told = hears_of(desktop)
+        told("ready")
+        sandbox = windowed(folder, bus)
+        sandbox.bind(address.removeprefix("unix:path=").split(",")[0])
+        sandbox.set(QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        with child(*sandbox.command("tarnwick", target)) as starter, driver.Window(inside(starter)) as window:
+            choose_small_size(window)
+            for test in TESTS[1:]:
+                window.press(test)
+            driver.focus("Drag from here")
+            start(window, target)
+            told("awake 12 A benchmark is running")
+            window.find("Complete", "status bar")
+            told("asleep", "portal's notice Benchmark complete: ")
+            desktop.stdin.write(b"press portal's\n")
+            heard = launch_that_ended(other)
+            check(heard == 'remove: ID="pressed"', f"a press on the notice: the desktop heard {heard}")
+            driver.focus(driver.MAIN)
+            told("portal's withdrawn")
+        nothing_left(target)
 
 
 def obstacle():
@@ -252,8 +369,9 @@ if __name__ == "__main__":
     if why := obstacle():
         print("skipped, no sandbox can be made here:", why)
         sys.exit(driver.SKIP)
-    cases = (measures_and_leaves_nothing, shows_the_volumes_of_people, refuses_what_is_read_only, reads_health_through_udisks,
-             asks_the_portals)
+    cases = (measures_and_leaves_nothing, shows_the_volumes_of_people, refuses_what_is_read_only, tells_what_is_hidden_from_it,
+             reads_health_through_udisks, measures_what_the_portal_hands_over, asks_the_portals,
+             stays_awake_and_gives_notice_by_portal)
     for case in driver.chosen(cases, sys.argv[3:]):
         with tempfile.TemporaryDirectory(prefix="ondel-sandbox-", dir=os.environ["HOME"]) as name:
             case(pathlib.Path(name))

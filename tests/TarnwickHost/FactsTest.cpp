@@ -3,6 +3,7 @@
 #include "OndelCore/health/DiskHealth.h"
 #include "TarnwickHost/HostProcess.h"
 #include "support/DeafFileSystem.h"
+#include "support/PortalFolder.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -102,6 +103,24 @@ TEST(Volumes, ListTheRootOnceInBothForms) {
         }
     EXPECT_EQ(roots, 1);
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), list.array().size() + 1);
+}
+
+TEST(PortalFolder, IsTheFolderBehindForEachCommand) {
+    const test::TemporaryFolder behind;
+    test::PortalFolder portal(behind.path());
+    if (!portal.problem().empty())
+        GTEST_SKIP() << portal.problem();
+    portal.tell(behind.path().string());
+    const std::string handed = portal.path().string();
+    const auto facts = json({"facts", "--json", handed});
+    EXPECT_TRUE(facts["volume"].isObject());
+    EXPECT_EQ(facts["volume"]["volumeURL"],
+              json({"facts", "--json", behind.path().string()})["volume"]["volumeURL"]);
+    const auto run =
+        json({"run", "--json", "--tests", "randomRead", "--size", "1M", "--random-ops", "1", handed});
+    EXPECT_EQ(run["folder"].toString().toStdString(), behind.path().string());
+    const auto check = runHost({"check", "--size", "1M", handed});
+    EXPECT_EQ(check.exitStatus, 0) << check.errors;
 }
 
 TEST(HangingVolume, DoesNotBlockTheEndOfACommand) {

@@ -34,6 +34,7 @@ constexpr std::array codes{
     CodeFacts{RemarkCode::compresses, "compresses", 0},
     CodeFacts{RemarkCode::copiesOnWrite, "copiesOnWrite", 1},
     CodeFacts{RemarkCode::journalsData, "journalsData", 0},
+    CodeFacts{RemarkCode::throughPortal, "throughPortal", 0},
 };
 
 constexpr std::array<std::pair<RemarkWeight, std::string_view>, 3> weights{

@@ -34,6 +34,7 @@ enum class RemarkCode {
     compresses,    ///< the volume compresses
     copiesOnWrite, ///< the volume copies on write: 1 if it checksums data too, else 0
     journalsData,  ///< the volume writes data twice
+    throughPortal, ///< the folder was handed over by the desktop's document portal, which serves it
 };
 
 /// How much a remark takes from what it is about. A figure with an invalid one is not the disk's.

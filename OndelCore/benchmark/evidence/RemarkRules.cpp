@@ -5,6 +5,7 @@
 #include "OndelCore/benchmark/evidence/ObservedRun.h"
 #include "OndelCore/benchmark/evidence/RateCurve.h"
 #include "OndelCore/benchmark/evidence/Remark.h"
+#include "OndelCore/platform/volumes/PortalFolder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -176,9 +177,14 @@ Numbers powerSaving(const ObservedRun& run) {
     return when(kind > 0, {number(kind)});
 }
 
+Numbers throughPortal(const ObservedRun& run) {
+    return when(run.circumstances.fileSystemType == platform::portalFileSystem);
+}
+
+/// Through a portal it goes without saying.
 Numbers notObservable(const ObservedRun& run) {
     const bool hasNoDisk = run.hasCircumstances() && run.circumstances.disks == 0 && !run.seesDisks();
-    return when(!run.transfers.empty() && !run.reaches(FileSystemReach::memory) &&
+    return when(!run.transfers.empty() && !run.reaches(FileSystemReach::memory) && !throughPortal(run) &&
                 (hasNoDisk || run.isWitnessBlind));
 }
 
@@ -220,6 +226,7 @@ constexpr std::array runRules{
     RunRule{RemarkCode::misaligned, RemarkWeight::caution, misaligned},
     RunRule{RemarkCode::nearlyFull, RemarkWeight::caution, almostFull},
     RunRule{RemarkCode::nearlyFull, RemarkWeight::note, nearlyFull},
+    RunRule{RemarkCode::throughPortal, RemarkWeight::caution, throughPortal},
     RunRule{RemarkCode::smallTest, RemarkWeight::caution, fitsMemory},
     RunRule{RemarkCode::smallTest, RemarkWeight::note, fitsDriveCache},
     RunRule{RemarkCode::powerSaving, RemarkWeight::note, powerSaving},

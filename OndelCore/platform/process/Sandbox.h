@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OndelCore/Export.h"
+
 #include <filesystem>
 #include <optional>
 
@@ -11,6 +13,6 @@ struct Sandbox {
 };
 
 /// Threads: any. Fails: absent outside of a sandbox, whose store then does not update this program.
-std::optional<Sandbox> sandbox(const std::filesystem::path& root = "/");
+ONDEL_KIT std::optional<Sandbox> sandbox(const std::filesystem::path& root = "/");
 
 } // namespace OndelCore::platform

@@ -37,6 +37,11 @@ FileDescriptor openFolder(const std::filesystem::path& path);
 /// lacks the permissions, they are added. Fails: none, with errno set.
 FileDescriptor openInnerFolder(int parent, const std::string& name);
 
+/// Opens the existing file `name` in `folder` by the flags of open(2), without waiting: a pipe that took the
+/// file's place would wait for its other end. The descriptor has O_NONBLOCK. Fails: none, with errno set:
+/// ELOOP where a symbolic link has the name.
+FileDescriptor openInnerFile(int folder, const std::string& name, int flags);
+
 /// The entries of an open folder except "." and "..", in the order of its listing. Fails: the entries read
 /// before the error.
 std::vector<std::string> namesIn(int folder);

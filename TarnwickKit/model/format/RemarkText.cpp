@@ -229,6 +229,12 @@ constexpr std::array words{
     Words{RemarkCode::journalsData, nullptr,
           QT_TRANSLATE_NOOP("RemarkText", "The file system writes data twice, to its journal first."),
           nullptr},
+    Words{
+        RemarkCode::throughPortal, nullptr,
+        QT_TRANSLATE_NOOP(
+            "RemarkText",
+            "This folder was reached through the desktop’s portal, a program that is part of the figures."),
+        QT_TRANSLATE_NOOP("RemarkText", "Allow the sandbox to use the folder itself, and choose it again.")},
 };
 
 const Words& wordsOf(RemarkCode code) { return *std::ranges::find(words, code, &Words::code); }

@@ -7,6 +7,7 @@
 #include "OndelCore/platform/process/SystemCalls.h"
 #include "OndelCore/platform/storage/ReplaceFile.h"
 #include "OndelCore/platform/volumes/PathFacts.h"
+#include "OndelCore/platform/volumes/PortalFolder.h"
 #include "TarnwickKit/model/format/BenchmarkText.h"
 #include "TarnwickKit/model/format/Format.h"
 #include "TarnwickKit/model/format/VolumeText.h"
@@ -97,7 +98,7 @@ AnalyzerTarget::AnalyzerTarget(const AnalyzerServices& services, QObject* parent
     , m_services(services) {}
 
 void AnalyzerTarget::select(const std::filesystem::path& folder) {
-    m_folder = folder;
+    m_folder = OndelCore::platform::folderBehindPortal(folder, {.patience = m_services.volumePatience});
     Q_EMIT folderChanged();
     sweepOrphans();
     askForFacts();

@@ -47,9 +47,10 @@ public:
     const std::optional<std::filesystem::path>& folder() const { return m_folder; }
     Q_SIGNAL void folderChanged();
 
-    /// Selects a folder. Asks for the facts of its volume; in the background it removes what killed runs left
-    /// there and reads the drive's health. Selecting the same folder again repeats all of it. Blocks for
-    /// `volumePatience` at most; later facts are taken when they arrive.
+    /// Selects a folder, or the one behind it (see folderBehindPortal). Asks for the facts of its volume; in
+    /// the background it removes what killed runs left there and reads the drive's health. Selecting the same
+    /// folder again repeats all of it. Blocks for `volumePatience` at most; later facts are taken when they
+    /// arrive.
     void select(const std::filesystem::path& folder);
     /// The folder to test on the volume mounted at `mountPoint`. Blocks as `select`.
     std::filesystem::path folderOn(const std::filesystem::path& mountPoint) const;

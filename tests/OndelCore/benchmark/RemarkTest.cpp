@@ -213,6 +213,18 @@ TEST(Remarks, WhoCaches) {
         {"over the network",
          [](auto& r) { r.volume().reach = FileSystemReach::network, r.volume().disks = 0, r.setTraffic({}); },
          "notObservable note"},
+        {"through a portal, where nobody looks for a disk",
+         [](auto& r) {
+             r.volume().fileSystemType = "fuse.portal", r.volume().isServedByProgram = true;
+             r.volume().reach.reset(), r.volume().disks = 0, r.setTraffic({});
+         },
+         "throughPortal caution"},
+        {"file operations alone through a portal",
+         [](auto& r) {
+             r.volume().fileSystemType = "fuse.portal", r.volume().disks = 0;
+             r.result = {.fileOps = FileOpsResult{}, .circumstances = r.volume()};
+         },
+         "throughPortal caution"},
         {"file operations alone",
          [](auto& r) {
              r.volume().disks = 0;

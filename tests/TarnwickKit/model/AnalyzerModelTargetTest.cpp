@@ -1,5 +1,6 @@
 #include "ModelHarness.h"
 #include "TarnwickKit/model/session/AnalyzerTarget.h"
+#include "support/PortalFolder.h"
 
 #include <QTimeZone>
 
@@ -53,6 +54,19 @@ struct AnalyzerModelTarget : testing::Test {
     /// A file that is removed with the test's folder.
     std::filesystem::path file(const char* name) const { return engine.history.path() / name; }
 };
+
+TEST_F(AnalyzerModelTarget, IsTheFolderBehindAPortal) {
+    const test::TemporaryFolder behind;
+    test::PortalFolder portal(behind.path());
+    if (!portal.problem().empty())
+        GTEST_SKIP() << portal.problem();
+    AnalyzerTarget target(services);
+    target.select(portal.path());
+    EXPECT_EQ(target.folder(), portal.path());
+    portal.tell(behind.path().string());
+    target.select(portal.path());
+    EXPECT_EQ(target.folder(), behind.path());
+}
 
 TEST(VolumeFacts, NamesTheConnection) {
     using Kind = RunRecord::Kind;

@@ -272,6 +272,9 @@ const std::vector<Spoken> sentences{
     {compresses, {}, "The file system compresses. The test’s data does not, so other files may be faster."},
     {copiesOnWrite, {1}, "The file system writes changes to new places and checksums data."},
     {journalsData, {}, "The file system writes data twice, to its journal first."},
+    {throughPortal,
+     {},
+     "This folder was reached through the desktop’s portal, a program that is part of the figures."},
 };
 
 TEST(RemarkText, ASentenceForEachCode) {

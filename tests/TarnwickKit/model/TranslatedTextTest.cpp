@@ -78,6 +78,7 @@ const Remark remarksOfAllKinds[] = {
     {RemarkCode::copiesOnWrite, RemarkWeight::note, std::nullopt, {0}},
     {RemarkCode::copiesOnWrite, RemarkWeight::note, std::nullopt, {1}},
     {RemarkCode::journalsData, RemarkWeight::note, std::nullopt, {}},
+    {RemarkCode::throughPortal, RemarkWeight::caution, std::nullopt, {}},
 };
 
 OndelCore::health::OndelSMART everyFigure() {

@@ -179,6 +179,18 @@ FileDescriptor openInnerFolder(int parent, const std::string& name) {
     return FileDescriptor(openat(handle.get(), ".", toList));
 }
 
+/// Older document portals (1.16) open what lies below them by a link in /proc, with the caller's flags, and
+/// so call every file a symbolic link if those have O_NOFOLLOW. The kernel opens for O_PATH without asking
+/// them, and what is a link indeed cannot be opened by such a descriptor.
+FileDescriptor openInnerFile(int folder, const std::string& name, int flags) {
+    flags |= O_NONBLOCK | O_CLOEXEC;
+    FileDescriptor file(openat(folder, name.c_str(), flags | O_NOFOLLOW));
+    if (file || errno != ELOOP)
+        return file;
+    const FileDescriptor handle(openat(folder, name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
+    return FileDescriptor(open(("/proc/self/fd/" + std::to_string(handle.get())).c_str(), flags));
+}
+
 std::vector<std::string> namesIn(int folder) {
     // A separate open file description, which has a position of its own.
     FileDescriptor listed(openat(folder, ".", toList));
