@@ -10,7 +10,6 @@ import os
 import pathlib
 import re
 import shutil
-import subprocess
 import sys
 
 import driver
@@ -56,7 +55,7 @@ def contrast(one, other):
 
 class Picture:
     def __init__(self, window, title):
-        words = subprocess.run(["import", "-window", window.id(title), "-depth", "8", "ppm:-"], capture_output=True, check=True).stdout
+        words = driver.display.ppm(window.id(title))
         size = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", words)
         self.width, self.height = map(int, size.groups())
         self.bytes = words[size.end():]
