@@ -17,8 +17,8 @@ import saved_runs
 from driven_requests import desktop_of
 from driver import check
 
-LOOKS = {"light": ("2", "contrast 0"), "dark": ("1", "contrast 0"), "high contrast, light": ("2", "contrast 1"),
-         "high contrast, dark": ("1", "contrast 1")}
+LOOKS = {"light": ("2", "contrast 0", "high-contrast 0"), "dark": ("1", "contrast 0", "high-contrast 0"),
+         "high contrast, light": ("2", "contrast 1"), "high contrast, dark": ("1", "contrast 0", "high-contrast 1")}
 BARS = {"light": (0xfb, 0xf9, 0xf5), "dark": (0x18, 0x30, 0x4b), "high contrast, light": (255,) * 3, "high contrast, dark": (0,) * 3}
 DIMMING = 0.32
 LEAST_TARGET = 24  # logical pixels
