@@ -22,6 +22,10 @@ T.Menu {
     overlap: 1
     cascade: false
 
+    /// Opens with a corner at a place of the parent, on the side to which the language is written.
+    function openAt(x: real, y: real): void {
+        popup(Application.layoutDirection === Qt.RightToLeft ? x - implicitWidth : x, y); // `mirrored` is known only while it is open
+    }
     /// To the first entry that can be chosen, or the last one; `step`: from which end to look.
     function goToEnd(step: int): void {
         let place = step > 0 ? 0 : count - 1;

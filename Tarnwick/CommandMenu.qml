@@ -10,6 +10,7 @@ PopupMenu {
     required property list<Command> commands
 
     leastWidth: 200
+    x: mirrored && parent ? parent.width - width : 0 // begins where its title begins
     onAboutToShow: {
         items.model = commands.length;
         currentIndex = -1;

@@ -8,9 +8,9 @@
 #include "Tarnwick/CommandLine.h"
 #include "Tarnwick/Product.h"
 #include "Tarnwick/Toolkit.h"
+#include "TarnwickKit/model/language/ChosenLanguage.h"
 #include "TarnwickKit/model/language/Language.h"
 #include "TarnwickKit/views/style/TarnwickFonts.h"
-#include "TarnwickKit/views/window/LanguageSetting.h"
 
 #include <QCoreApplication>
 #include <QQmlComponent>
@@ -77,7 +77,7 @@ int TarnwickApp::run(int argc, char** argv) {
     if (!OndelCore::platform::sessionBusAnswers(busPatience))
         OndelCore::platform::doWithoutSessionBus();
     const auto application = startToolkit(argc, argv);
-    TarnwickKit::model::Language::install(TarnwickKit::views::LanguageSetting::code());
+    TarnwickKit::model::Language::install(TarnwickKit::model::ChosenLanguage::code());
     if (TarnwickKit::model::Language::isRightToLeft())
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     OpenRequests requests(product::id);

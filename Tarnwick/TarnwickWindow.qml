@@ -49,9 +49,6 @@ Window {
 
         width: parent.width
         window: window
-        // In a title bar of ours they stand before the title.
-        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft && !WindowFrames.areOurs
-        LayoutMirroring.childrenInherit: true
     }
     TarnwickView {
         id: view

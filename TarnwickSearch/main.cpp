@@ -1,3 +1,4 @@
+#include "TarnwickKit/model/language/ChosenLanguage.h"
 #include "TarnwickKit/model/language/Language.h"
 #include "TarnwickSearch/SearchProvider.h"
 
@@ -7,7 +8,10 @@
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    TarnwickKit::model::Language::install();
+    // Those of the window, whose settings it reads.
+    QCoreApplication::setOrganizationName(QStringLiteral("Ondel"));
+    QCoreApplication::setApplicationName(QStringLiteral("Ondel Tarnwick"));
+    TarnwickKit::model::Language::install(TarnwickKit::model::ChosenLanguage::code());
     TarnwickSearch::SearchProvider provider(QDBusConnection::sessionBus());
     return provider.begin() ? QCoreApplication::exec() : EXIT_FAILURE;
 }

@@ -27,7 +27,7 @@ function(ondel_test name)
   endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
-    ENVIRONMENT "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/thread-sanitizer.supp"
+    ENVIRONMENT "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/thread-sanitizer.supp:die_after_fork=0"
     LABELS program)
   add_dependencies(test-programs ${name})
   if(TEST_THREADS)

@@ -9,6 +9,7 @@ BaseMenu {
 
     required property BannerMenu button
 
+    palette: button.palette // a closed popup does not follow its window
     corner: 8
     onOpened: currentIndex = 0
 

@@ -23,7 +23,7 @@ BaseButton {
     focusColor: "white"
     onClicked: {
         choice.active = true;
-        menu.popup(button, 0, fitsBelow() ? height + Metrics.menuGap : -menu.implicitHeight - Metrics.menuGap);
+        menu.popup(button, LayoutMirroring.enabled ? width - menu.implicitWidth : 0, fitsBelow() ? height + Metrics.menuGap : -menu.implicitHeight - Metrics.menuGap);
     }
 
     Accessible.role: Accessible.ButtonMenu

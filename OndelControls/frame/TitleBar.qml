@@ -27,15 +27,18 @@ Item {
     WindowGrip {
         anchors.fill: parent
         onDoubleClicked: bar.toggleMaximized()
-        onMenuWanted: menu.popup()
+        onMenuWanted: place => menu.openAt(place.x, place.y)
     }
     PlainText {
-        readonly property real centred: (bar.window.width - implicitWidth) / 2 - bar.x
+        // From the bar's beginning, which is at the right in languages that are written from there.
+        readonly property real room: bar.width - buttons.width - buttons.anchors.rightMargin - 12
+        readonly property real centred: bar.width - (bar.window.width + implicitWidth) / 2
 
         // In the middle of the window, or else as near to it as the menus and the buttons allow.
-        x: Math.max(12, Math.min(centred, buttons.x - 12 - width))
+        anchors.left: parent.left
+        anchors.leftMargin: Math.max(12, Math.min(centred, room - width))
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, Math.max(0, buttons.x - 24))
+        width: Math.min(implicitWidth, Math.max(0, room - 12))
         visible: width >= Math.min(implicitWidth, 60)
         text: bar.window.title
         font.pixelSize: Metrics.textSize
@@ -109,6 +112,8 @@ Item {
     }
     BaseMenu {
         id: menu
+
+        palette: bar.palette // a closed popup does not follow its window
 
         BaseMenuItem {
             text: qsTr("Minimize")

@@ -11,10 +11,7 @@ Item {
     required property Window window
     property alias titleHeight: bar.height
     /// The width that the title bar leaves to something else at its beginning.
-    property alias titleIndent: bar.x
-    // The buttons stand where those of other windows do.
-    LayoutMirroring.enabled: false
-    LayoutMirroring.childrenInherit: true
+    property real titleIndent: 0
     readonly property bool isFloating: window.visibility === Window.Windowed
     readonly property bool isResizable: window.minimumWidth < window.maximumWidth
 
@@ -35,7 +32,8 @@ Item {
     TitleBar {
         id: bar
 
-        width: frame.width - x
+        anchors.right: parent.right
+        width: frame.width - frame.titleIndent
         height: 36
         window: frame.window
         isResizable: frame.isResizable
@@ -44,7 +42,8 @@ Item {
         anchors.fill: parent
         visible: frame.isFloating
         color: "transparent"
-        border.color: Qt.alpha(frame.palette.windowText, 0.35)
+        // A little more than other borders have; in high contrast these are plain themselves.
+        border.color: Qt.tint(frame.palette.mid, Qt.alpha(frame.palette.windowText, 0.35))
     }
     Repeater {
         model: frame.isFloating && frame.isResizable ? [Qt.TopEdge, Qt.BottomEdge, Qt.LeftEdge, Qt.RightEdge,

@@ -36,7 +36,7 @@ void WindowGrip::setEdges(Qt::Edges edges) {
 void WindowGrip::mousePressEvent(QMouseEvent* event) {
     m_pressedAt = event->position();
     if (event->button() == Qt::RightButton && !m_edges)
-        Q_EMIT menuWanted();
+        Q_EMIT menuWanted(m_pressedAt);
 }
 
 void WindowGrip::mouseMoveEvent(QMouseEvent* event) {

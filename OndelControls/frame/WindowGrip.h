@@ -23,7 +23,7 @@ public:
 
     Q_SIGNAL void doubleClicked();
     /// By the right button.
-    Q_SIGNAL void menuWanted();
+    Q_SIGNAL void menuWanted(QPointF place);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

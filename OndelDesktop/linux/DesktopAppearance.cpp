@@ -43,8 +43,8 @@ std::optional<double> scaleOf(const QVariant& value) {
     return isNumber && scale > 0 ? std::optional(std::clamp(scale, 0.5, 3.0)) : std::nullopt;
 }
 
-/// The first group is the portal's own. Not every desktop passes on its contrast in it, and none its
-/// animations.
+/// The first group is the portal's own. Not every desktop passes on its contrast in it (GNOME 43 does not),
+/// and none its animations.
 struct Setting {
     const char* group;
     const char* key;
@@ -57,6 +57,8 @@ constexpr Setting settingTable[] = {
      [](DesktopAppearance& all, const QVariant& value) { all.wantsHighContrast = value.toUInt() == 1; }},
     {"org.freedesktop.appearance", "reduced-motion",
      [](DesktopAppearance& all, const QVariant& value) { all.wantsNoMotion = value.toUInt() == 1; }},
+    {"org.gnome.desktop.a11y.interface", "high-contrast",
+     [](DesktopAppearance& all, const QVariant& value) { all.wantsHighContrast = value.toBool(); }},
     {"org.gnome.desktop.interface", "enable-animations",
      [](DesktopAppearance& all, const QVariant& value) { all.wantsNoMotion = !value.toBool(); }},
     {"org.gnome.desktop.interface", "text-scaling-factor",

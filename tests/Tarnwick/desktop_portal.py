@@ -1,11 +1,12 @@
-"""A fake desktop: its dark (1) or light (2) setting, inhibition of suspend, and notifications.
+"""A fake desktop: its dark (1) or light (2) setting, inhibition of suspend, and notifications by their service or by the portal.
 Usage: desktop_portal.py NUMBER, or desktop_portal.py behind: only what a real portal needs, which is a session manager and
-notifications from the portal alone. Notices come by the notification service or by the portal. With "desktop_portal.py NUMBER refuses" the portal accepts the request to inhibit suspend
+notifications from the portal alone. With "desktop_portal.py NUMBER refuses" the portal accepts the request to inhibit suspend
 and then answers that it failed, and there is a login manager. With "desktop_portal.py NUMBER files" it has file dialogs that nobody
 sees, and tells of each one "asked JSON": method, parent, title and options. Lines on standard input: a number changes the setting,
-"contrast NUMBER" that of the contrast, "text NUMBER" that of the text scale,
-"press" activates the last notification, with the token "pressed", "press portal's" that of the portal, by the application's name; of the last file dialog "answer CODE JSON" is the answer,
-"stranger CODE JSON" one of another program (both are followed by "said"), "nonsense" one of other types; "vanish" ends the portal.
+"contrast NUMBER" that of the contrast, "high-contrast NUMBER" GNOME's own of it, "text NUMBER" that of the text scale,
+"press" activates the last notification, with the token "pressed", "press portal's" that of the portal, by the application's name;
+of the last file dialog "answer CODE JSON" is the answer, "stranger CODE JSON" one of another program (both are followed by
+"said"), "nonsense" one of other types; "vanish" ends the portal.
 Lines on standard output: "ready", "awake FLAGS REASON", "asleep", "locked WHAT WHO WHY MODE", "unlocked", "notice TITLE: TEXT",
 "withdrawn", for those of the portal "portal's notice TITLE: TEXT" and "portal's withdrawn", "asked JSON", "closed"."""
 
@@ -16,7 +17,8 @@ import sys
 from gi.repository import Gio, GLib
 
 NAMESPACE, KEY = "org.freedesktop.appearance", "color-scheme"
-TEXT = "org.gnome.desktop.interface", "text-scaling-factor"
+OF_GNOME = {"text": ("org.gnome.desktop.interface", "text-scaling-factor", lambda word: GLib.Variant("d", float(word))),
+            "high-contrast": ("org.gnome.desktop.a11y.interface", "high-contrast", lambda word: GLib.Variant("b", word == "1"))}
 PATH = "/org/freedesktop/portal/desktop"
 NOTICES = "org.freedesktop.Notifications"
 LOGIN = "org.freedesktop.login1"
@@ -73,7 +75,7 @@ class Desktop:
         """Without a scheme it serves a real portal."""
         self.scheme = scheme
         self.numbers = {KEY: scheme}
-        self.text = None
+        self.of_gnome = {}
         self.refuses = refuses
         self.notices = 0
         self.requests = {}
@@ -112,8 +114,8 @@ class Desktop:
 
     def ReadAll(self, _sender, _path, groups):
         mine = {NAMESPACE: {key: GLib.Variant("u", value) for key, value in self.numbers.items()} | {"accent-color": GLib.Variant("(ddd)", (1, 0, 0))}}
-        if self.text:
-            mine[TEXT[0]] = {TEXT[1]: GLib.Variant("d", self.text)}
+        for group, key, value in self.of_gnome.values():
+            mine[group] = {key: value}
         return GLib.Variant("a{sa{sv}}", {name: mine[name] for name in groups if name in mine})
 
     def request(self, sender, options, end):
@@ -186,9 +188,9 @@ class Desktop:
         tell("withdrawn")
 
     def change(self, key, value):
-        if key == "text":
-            self.text = float(value)
-            setting = (*TEXT, GLib.Variant("d", self.text))
+        if key in OF_GNOME:
+            group, name, variant = OF_GNOME[key]
+            setting = self.of_gnome[key] = group, name, variant(value)
         else:
             self.numbers[key] = int(value)
             setting = (NAMESPACE, key, GLib.Variant("u", int(value)))

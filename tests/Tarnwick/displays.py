@@ -65,6 +65,9 @@ class X11:
     def pixels(self, window):
         return subprocess.run(["import", "-window", window, "rgb:-"], capture_output=True).stdout
 
+    def ppm(self, window):
+        return subprocess.run(["import", "-window", window, "-depth", "8", "ppm:-"], capture_output=True, check=True).stdout
+
     def picture(self, window, path):
         do("import", "-window", window, path)
 
@@ -150,6 +153,8 @@ class Wayland:
 
     def pixels(self, window):
         return subprocess.run(["grim", "-t", "ppm", "-g", self.place(window), "-"], capture_output=True).stdout
+
+    ppm = pixels
 
     def picture(self, window, path):
         do("grim", "-g", self.place(window), path)

@@ -10,11 +10,13 @@ import json
 import os
 import pathlib
 import re
+import subprocess
 import sys
 
 import driver
 import saved_runs
 import translated
+from displays import do, output
 from driver import check
 
 SIZE = (900, 620)
@@ -175,9 +177,23 @@ def card_of(window):
     return window.until("the picture", lambda: next(home.rglob("Ondel*.png"), None)).read_bytes()
 
 
+def told_in_search(run, env):
+    """What the desktop's search says of a run."""
+    name, place = "tools.ondel.tarnwick.SearchProvider", "/tools/ondel/tarnwick/SearchProvider"
+    with subprocess.Popen([programs / "tarnwick-search-provider"], env=os.environ | env) as provider:
+        try:
+            do("gdbus", "wait", "--session", "--timeout", "40", name)
+            return output("gdbus", "call", "--session", "--dest", name, "--object-path", place,
+                          "--method", "org.gnome.Shell.SearchProvider2.GetResultMetas", f"['{run['id'].lower()}']")
+        finally:
+            provider.terminate()
+
+
 def follows_the_setting(program, plugin, folder):
-    """It overrides the desktop's language from the next start on. Pictures to share stay English if that is wanted."""
-    saved_runs.lay_down([saved_runs.run(1)])
+    """It overrides the desktop's language from the next start on, in the desktop's search as well. Pictures to share stay English
+    if that is wanted."""
+    run = saved_runs.run(1)
+    saved_runs.lay_down([run])
     desktop = plugin | {"LC_ALL": "", "LANG": "en_US.UTF-8", "LANGUAGE": "fr"}
     with translated.Window(program, folder, words=str, env=desktop | {"LANGUAGE": "en"}) as window:
         english = card_of(window)
@@ -189,6 +205,8 @@ def follows_the_setting(program, plugin, folder):
         window.find("The window follows when Tarnwick is started the next time.")
         window.terminate()
     german = translated.words_of("de")
+    told = told_in_search(run, desktop)
+    check(f"{german('Write')} 412" in told, f"the search says {told}")
     for name, is_english in (("as it is", False), ("in English", True)):
         with translated.Window(program, folder, words=german, env=desktop) as window:
             window.find("Ready to benchmark")

@@ -10,7 +10,6 @@ import os
 import pathlib
 import re
 import shutil
-import subprocess
 import sys
 
 import driver
@@ -18,8 +17,8 @@ import saved_runs
 from driven_requests import desktop_of
 from driver import check
 
-LOOKS = {"light": ("2", "contrast 0"), "dark": ("1", "contrast 0"), "high contrast, light": ("2", "contrast 1"),
-         "high contrast, dark": ("1", "contrast 1")}
+LOOKS = {"light": ("2", "contrast 0", "high-contrast 0"), "dark": ("1", "contrast 0", "high-contrast 0"),
+         "high contrast, light": ("2", "contrast 1"), "high contrast, dark": ("1", "contrast 0", "high-contrast 1")}
 BARS = {"light": (0xfb, 0xf9, 0xf5), "dark": (0x18, 0x30, 0x4b), "high contrast, light": (255,) * 3, "high contrast, dark": (0,) * 3}
 DIMMING = 0.32
 LEAST_TARGET = 24  # logical pixels
@@ -56,7 +55,7 @@ def contrast(one, other):
 
 class Picture:
     def __init__(self, window, title):
-        words = subprocess.run(["import", "-window", window.id(title), "-depth", "8", "ppm:-"], capture_output=True, check=True).stdout
+        words = driver.display.ppm(window.id(title))
         size = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", words)
         self.width, self.height = map(int, size.groups())
         self.bytes = words[size.end():]

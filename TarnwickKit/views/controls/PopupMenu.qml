@@ -14,12 +14,4 @@ BaseMenu {
     shadowColor: PaletteKey.palette.shadow
 
     delegate: PopupMenuItem {}
-
-    /// Opens the menu as a context menu if the event is of one of the keys for that, at the head of a row or a pane.
-    function openByKey(event: KeyEvent): void {
-        if (event.key !== Qt.Key_Menu && !(event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier))
-            return;
-        popup(18, 30);
-        event.accepted = true;
-    }
 }

@@ -24,7 +24,7 @@ Item {
 
     function take(event: KeyEvent): void {
         if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier))
-            showMenu(18, 30);
+            showMenu(LayoutMirroring.enabled ? width - 18 : 18, 30);
         else if (event.key === Qt.Key_Delete)
             remove();
         else if (event.key === Qt.Key_F2)
@@ -39,7 +39,7 @@ Item {
         menu.active = true;
         const choices = menu.object as RunMenu;
         choices.hasLast = analyzer.hasLastOfVolume(facts.id);
-        choices.popup(x, y);
+        choices.openAt(x, y);
     }
     function copy(): void {
         tell(Runs.copyFigures(run));

@@ -1,19 +1,22 @@
 #include "TarnwickKit/views/window/LanguageSetting.h"
 
+#include "TarnwickKit/model/language/ChosenLanguage.h"
 #include "TarnwickKit/model/language/Language.h"
+
+#include <QSettings>
 
 namespace TarnwickKit::views {
 
+using model::ChosenLanguage;
 using model::Language;
 
 namespace {
 
-const auto languageKey = QStringLiteral("TarnwickLanguage");
 const auto englishCardsKey = QStringLiteral("TarnwickCardsInEnglish");
 
 /// What the process started with: a later object of the same process compares with it as well.
 const QString& codeAtStart() {
-    static const QString code = LanguageSetting::code();
+    static const QString code = ChosenLanguage::code();
     return code;
 }
 
@@ -22,8 +25,6 @@ const QString& codeAtStart() {
 LanguageSetting::LanguageSetting(QObject* parent)
     : QObject(parent)
     , m_atStart(codeAtStart()) {}
-
-QString LanguageSetting::code() { return QSettings().value(languageKey).toString(); }
 
 bool LanguageSetting::wantsEnglishCards() { return QSettings().value(englishCardsKey).toBool(); }
 
@@ -36,20 +37,19 @@ QStringList LanguageSetting::names() {
 
 int LanguageSetting::chosen() {
     const QList<Language::Choice>& all = Language::all();
+    const QString code = ChosenLanguage::code();
     for (qsizetype index = 0; index < all.size(); ++index)
-        if (all[index].code == code())
+        if (all[index].code == code)
             return static_cast<int>(index) + 1;
     return 0; // a code that was removed, or written by somebody else, as well
 }
 
+bool LanguageSetting::isPending() const { return m_atStart != ChosenLanguage::code(); }
+
 void LanguageSetting::choose(int index) {
     if (index == chosen() || index < 0 || index > Language::all().size())
         return;
-    QSettings settings;
-    if (index == 0)
-        settings.remove(languageKey);
-    else
-        settings.setValue(languageKey, Language::all()[index - 1].code);
+    ChosenLanguage::setCode(index == 0 ? QString() : Language::all()[index - 1].code);
     Q_EMIT changed();
 }
 

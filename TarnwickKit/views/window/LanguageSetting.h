@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <QQmlEngine>
-#include <QSettings>
 #include <QStringList>
 
 namespace TarnwickKit::views {
@@ -24,14 +23,12 @@ class LanguageSetting : public QObject {
 public:
     explicit LanguageSetting(QObject* parent = nullptr);
 
-    /// The code of the chosen language, empty for the desktop's; for Language::install.
-    static QString code();
     static bool wantsEnglishCards();
 
     static QStringList names();
     static int chosen();
     void choose(int index);
-    bool isPending() const { return m_atStart != code(); }
+    bool isPending() const;
     static bool englishCards() { return wantsEnglishCards(); }
     void setEnglishCards(bool english);
     Q_SIGNAL void changed();

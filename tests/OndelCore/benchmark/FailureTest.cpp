@@ -193,10 +193,10 @@ TEST_F(Failure, AKilledRunIsSweptAway) {
         system.run(smallPlan(everyTest, BenchmarkSize::fixed(1 << 20)), folder.path());
         _exit(0);
     }
+    close(ends[1]); // so that the end of the child is the end of the wait
     char first = 0;
     EXPECT_EQ(read(ends[0], &first, 1), 1);
     close(ends[0]);
-    close(ends[1]);
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     EXPECT_EQ(test::entriesIn(folder.path()), 1U);

@@ -134,7 +134,7 @@ QStringList textsWithUnits() {
                       spanText(30),
                       spanText(7500),
                       decimalSize(31'400'000'000)};
-    for (int code = 0; code <= static_cast<int>(RemarkCode::journalsData); ++code)
+    for (int code = 0; code <= static_cast<int>(RemarkCode::throughPortal); ++code)
         for (const double number : {0.5, 1.0, 20.0}) {
             Remark remark{.code = static_cast<RemarkCode>(code), .test = BenchmarkTest::sequentialWrite};
             remark.numbers.assign(numbersOf(remark.code), number);
