@@ -21,6 +21,7 @@ Item {
         id: letters
 
         visible: false
+        Accessible.ignored: true
         text: " "
         font: Typeface.text(13)
     }

@@ -15,7 +15,8 @@ BaseMenu {
 
     BaseMenuItem {
         text: menu.button.entry
-        rightPadding: 20
+        leftPadding: mirrored ? 20 : horizontalPadding
+        rightPadding: mirrored ? horizontalPadding : 20
         onTriggered: menu.button.chosen()
     }
 }

@@ -9,5 +9,5 @@ SwitchTrack {
     activeColor: PaletteKey.palette.accent
     idleColor: PaletteKey.palette.track
     activeKnob: PaletteKey.palette.onAccent
-    idleKnob: PaletteKey.palette.panel
+    idleKnob: Appearance.contrast ? PaletteKey.palette.border : PaletteKey.palette.panel
 }

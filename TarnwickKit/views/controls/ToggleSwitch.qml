@@ -38,7 +38,7 @@ ToggleButton {
         }
         PaletteSwitch {
             on: control.on
-            outline: control.hovered ? control.frameColor : "transparent"
+            outline: control.hovered || (Appearance.contrast && !control.on) ? control.frameColor : "transparent"
         }
     }
 }
