@@ -13,7 +13,6 @@
 #include <gtest/gtest.h>
 #include <sys/mount.h>
 
-#include <algorithm>
 #include <csignal>
 #include <cstring>
 #include <limits>
@@ -86,13 +85,7 @@ TEST(Facts, StayOnOneLineEachWhateverTheFolderIsCalled) {
 }
 
 TEST(Volumes, ListTheRootOnceInBothForms) {
-    const auto listed = [] { return json({"volumes", "--json"}); };
-    QJsonDocument list;
-    std::string text;
-    do { // until nobody mounts anything meanwhile
-        list = listed();
-        text = runHost({"volumes"}).output;
-    } while (listed().array().size() != list.array().size());
+    const QJsonDocument list = json({"volumes", "--json"});
     ASSERT_TRUE(list.isArray());
     int roots = 0;
     for (const QJsonValue& volume : list.array())
@@ -102,7 +95,10 @@ TEST(Volumes, ListTheRootOnceInBothForms) {
             EXPECT_FALSE(volume["name"].toString().isEmpty());
         }
     EXPECT_EQ(roots, 1);
-    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), list.array().size() + 1);
+    // Others may mount and unmount meanwhile, so the whole lists are not compared.
+    const QString text = QString::fromStdString(runHost({"volumes"}).output);
+    EXPECT_TRUE(text.startsWith("Name")) << text.toStdString();
+    EXPECT_EQ(text.count(" /\n"), 1) << text.toStdString();
 }
 
 TEST(PortalFolder, IsTheFolderBehindForEachCommand) {

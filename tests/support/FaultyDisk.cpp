@@ -2,15 +2,11 @@
 
 #include "support/Program.h"
 
-#include <fcntl.h>
 #include <linux/fuse.h>
-#include <poll.h>
-#include <sys/eventfd.h>
 #include <sys/mman.h>
 #include <sys/mount.h>
 #include <sys/random.h>
 #include <sys/stat.h>
-#include <sys/uio.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -20,6 +16,7 @@
 #include <cstring>
 #include <map>
 #include <system_error>
+#include <thread>
 
 using OndelCore::platform::FileDescriptor;
 
@@ -28,7 +25,6 @@ namespace test {
 namespace {
 
 constexpr std::int64_t diskBlock = 4096;
-constexpr std::size_t largestTransfer = 1048576;
 constexpr std::uint64_t diskNode = 2;
 
 /// Of 68 random bytes hardly one is zero. Of those of a file system's tables a quarter at least is, and of
@@ -42,9 +38,11 @@ bool looksRandom(std::span<const char> block) {
     return block.size() == diskBlock && zeros < few;
 }
 
-template <class Value>
-std::span<const char> bytesOf(const Value& value) {
-    return {reinterpret_cast<const char*>(&value), sizeof value};
+FileDescriptor memoryOf(std::int64_t bytes) {
+    FileDescriptor memory(memfd_create("faulty-disk", MFD_CLOEXEC));
+    if (!memory || ftruncate(memory.get(), bytes) != 0)
+        throw std::system_error(errno, std::generic_category(), "memory for a disk");
+    return memory;
 }
 
 fuse_attr attributesOf(std::uint64_t node, std::int64_t bytes) {
@@ -72,18 +70,6 @@ std::string complaintOfTool(const std::vector<std::string>& command, std::string
 
 } // namespace
 
-struct FaultyDisk::Request {
-    fuse_in_header head{};
-    std::span<const char> body;
-
-    template <class Value>
-    Value as() const {
-        Value value{};
-        std::memcpy(&value, body.data(), std::min(sizeof value, body.size()));
-        return value;
-    }
-};
-
 DiskFault::Kind diskFaultKind(const std::string& name) {
     using Kind = DiskFault::Kind;
     static const std::map<std::string, Kind> kinds{{"none", Kind::none},
@@ -103,29 +89,11 @@ DiskFault::Kind diskFaultKind(const std::string& name) {
 
 FaultyDisk::FaultyDisk(std::int64_t bytes)
     : m_bytes(bytes)
-    , m_mountPoint(m_folder.path() / "faulty")
-    , m_store(memfd_create("faulty-disk", MFD_CLOEXEC))
-    , m_requests(open("/dev/fuse", O_RDWR | O_CLOEXEC))
-    , m_endMark(eventfd(0, EFD_CLOEXEC)) {
-    std::filesystem::create_directory(m_mountPoint);
-    const std::string options = "fd=" + std::to_string(m_requests.get()) +
-                                ",rootmode=40000,user_id=0,group_id=0,allow_other,max_read=1048576";
-    if (!m_store || ftruncate(m_store.get(), bytes) != 0 || !m_requests ||
-        mount("faulty", m_mountPoint.c_str(), "fuse", 0, options.c_str()) != 0) {
-        m_problem = "no right to FUSE: " + std::generic_category().message(errno);
-        return;
-    }
-    m_program = std::thread([this] { serve(); });
-}
-
-FaultyDisk::~FaultyDisk() {
-    if (!m_problem.empty())
-        return;
-    umount2(m_mountPoint.c_str(), MNT_DETACH);
-    const std::uint64_t one = 1;
-    [[maybe_unused]] const ssize_t told = ::write(m_endMark.get(), &one, sizeof one);
-    m_program.join();
-}
+    , m_store(memoryOf(bytes))
+    , m_server("fuse", "user_id=0,max_read=1048576", [this](FuseServer& server, const auto& request) {
+        const std::lock_guard guard(m_lock);
+        answer(server, request);
+    }) {}
 
 void FaultyDisk::arm(const DiskFault& fault) {
     const std::lock_guard guard(m_lock);
@@ -134,40 +102,8 @@ void FaultyDisk::arm(const DiskFault& fault) {
     m_firstPlace = m_secondPlace = -1;
 }
 
-void FaultyDisk::serve() {
-    std::vector<char> memory(largestTransfer + 4096);
-    for (;;) {
-        std::array<pollfd, 2> watched{pollfd{m_requests.get(), POLLIN, 0},
-                                      pollfd{m_endMark.get(), POLLIN, 0}};
-        poll(watched.data(), watched.size(), -1);
-        if (watched[1].revents != 0)
-            return;
-        const ssize_t length = ::read(m_requests.get(), memory.data(), memory.size());
-        if (length < 0 && (errno == EINTR || errno == ENOENT || errno == EAGAIN))
-            continue;
-        if (length < static_cast<ssize_t>(sizeof(fuse_in_header)))
-            return;
-        Request request;
-        std::memcpy(&request.head, memory.data(), sizeof request.head);
-        request.body = std::span<const char>(memory).subspan(
-            sizeof request.head, static_cast<std::size_t>(length) - sizeof request.head);
-        const std::lock_guard guard(m_lock);
-        answer(request);
-    }
-}
-
-void FaultyDisk::reply(std::uint64_t unique, int error, std::span<const char> body) {
-    fuse_out_header head{};
-    head.len = static_cast<std::uint32_t>(sizeof head + body.size());
-    head.error = -error;
-    head.unique = unique;
-    std::array<iovec, 2> parts{iovec{&head, sizeof head}, iovec{const_cast<char*>(body.data()), body.size()}};
-    [[maybe_unused]] const ssize_t sent = writev(m_requests.get(), parts.data(), 2);
-}
-
-void FaultyDisk::answer(const Request& request) {
-    const auto& head = request.head;
-    switch (head.opcode) {
+void FaultyDisk::answer(FuseServer& server, const FuseServer::Request& request) {
+    switch (request.head.opcode) {
     case FUSE_INIT: {
         fuse_init_out init{};
         init.major = FUSE_KERNEL_VERSION;
@@ -175,9 +111,9 @@ void FaultyDisk::answer(const Request& request) {
         init.max_readahead = 0;
         init.flags = FUSE_BIG_WRITES | FUSE_MAX_PAGES;
         init.max_background = 64;
-        init.max_write = largestTransfer;
-        init.max_pages = largestTransfer / 4096;
-        return reply(head.unique, 0, bytesOf(init));
+        init.max_write = FuseServer::largestTransfer;
+        init.max_pages = FuseServer::largestTransfer / 4096;
+        return server.replyWith(request, init);
     }
     case FUSE_LOOKUP: {
         fuse_entry_out entry{};
@@ -185,25 +121,26 @@ void FaultyDisk::answer(const Request& request) {
         entry.entry_valid = entry.attr_valid = 3600;
         entry.attr = attributesOf(diskNode, m_bytes);
         const bool isKnown = std::strcmp(request.body.data(), "disk") == 0;
-        return reply(head.unique, isKnown ? 0 : ENOENT, isKnown ? bytesOf(entry) : std::span<const char>());
+        return isKnown ? server.replyWith(request, entry) : server.reply(request, ENOENT);
     }
     case FUSE_GETATTR:
     case FUSE_SETATTR: {
         fuse_attr_out attributes{};
         attributes.attr_valid = 3600;
-        attributes.attr = attributesOf(head.nodeid, m_bytes);
-        return reply(head.unique, 0, bytesOf(attributes));
+        attributes.attr = attributesOf(request.head.nodeid, m_bytes);
+        return server.replyWith(request, attributes);
     }
     case FUSE_OPEN: {
         fuse_open_out opened{};
         opened.open_flags = FOPEN_DIRECT_IO;
-        return reply(head.unique, 0, bytesOf(opened));
+        return server.replyWith(request, opened);
     }
     case FUSE_READ: {
         const auto ask = request.as<fuse_read_in>();
         std::vector<char> bytes(ask.size);
         const int error = moveBlocks(static_cast<std::int64_t>(ask.offset), bytes, {});
-        return reply(head.unique, error, error == 0 ? std::span<const char>(bytes) : std::span<const char>());
+        return server.reply(request, error,
+                            error == 0 ? std::span<const char>(bytes) : std::span<const char>());
     }
     case FUSE_WRITE: {
         const auto ask = request.as<fuse_write_in>();
@@ -211,7 +148,7 @@ void FaultyDisk::answer(const Request& request) {
             moveBlocks(static_cast<std::int64_t>(ask.offset), {}, request.body.subspan(sizeof ask, ask.size));
         fuse_write_out written{};
         written.size = ask.size;
-        return reply(head.unique, error, error == 0 ? bytesOf(written) : std::span<const char>());
+        return error == 0 ? server.replyWith(request, written) : server.reply(request, error);
     }
     case FUSE_FORGET:
     case FUSE_BATCH_FORGET:
@@ -219,15 +156,15 @@ void FaultyDisk::answer(const Request& request) {
         return;
     case FUSE_STATFS: {
         fuse_statfs_out facts{};
-        return reply(head.unique, 0, bytesOf(facts));
+        return server.replyWith(request, facts);
     }
     case FUSE_FLUSH:
     case FUSE_FSYNC:
     case FUSE_RELEASE:
     case FUSE_ACCESS:
-        return reply(head.unique, 0, {});
+        return server.reply(request, 0);
     default:
-        return reply(head.unique, ENOSYS, {});
+        return server.reply(request, ENOSYS);
     }
 }
 

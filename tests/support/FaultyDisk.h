@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OndelCore/platform/storage/FileDescriptor.h"
+#include "support/FuseServer.h"
 #include "support/TemporaryFolder.h"
 
 #include <atomic>
@@ -9,7 +10,6 @@
 #include <mutex>
 #include <span>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace test {
@@ -48,12 +48,9 @@ DiskFault::Kind diskFaultKind(const std::string& name);
 class FaultyDisk {
 public:
     explicit FaultyDisk(std::int64_t bytes);
-    ~FaultyDisk();
-    FaultyDisk(const FaultyDisk&) = delete;
-    FaultyDisk& operator=(const FaultyDisk&) = delete;
 
-    std::filesystem::path file() const { return m_mountPoint / "disk"; }
-    const std::string& problem() const { return m_problem; }
+    std::filesystem::path file() const { return m_server.path() / "disk"; }
+    const std::string& problem() const { return m_server.problem(); }
     /// From now on the disk has the fault. Threads: any.
     void arm(const DiskFault& fault);
     /// Units: bytes that were read and written.
@@ -61,21 +58,13 @@ public:
     std::int64_t bytesWritten() const { return m_written; }
 
 private:
-    struct Request;
-    void serve();
-    void answer(const Request& request);
+    void answer(FuseServer& server, const FuseServer::Request& request);
     int moveBlocks(std::int64_t offset, std::span<char> read, std::span<const char> written);
     int readBlock(std::int64_t place, std::span<char> bytes);
     int writeBlock(std::int64_t place, std::span<const char> bytes);
-    void reply(std::uint64_t unique, int error, std::span<const char> body);
 
     std::int64_t m_bytes;
-    TemporaryFolder m_folder;
-    std::filesystem::path m_mountPoint;
-    std::string m_problem;
     OndelCore::platform::FileDescriptor m_store;
-    OndelCore::platform::FileDescriptor m_requests;
-    OndelCore::platform::FileDescriptor m_endMark;
     std::mutex m_lock;
     DiskFault m_fault;
     std::int64_t m_dataBlocks = 0; ///< taken since the fault was armed
@@ -86,7 +75,7 @@ private:
     std::int64_t m_secondPlace = -1;
     std::atomic<std::int64_t> m_read = 0;
     std::atomic<std::int64_t> m_written = 0;
-    std::thread m_program;
+    FuseServer m_server; ///< ends first
 };
 
 /// A file system on a faulty disk.

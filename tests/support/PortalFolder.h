@@ -1,9 +1,7 @@
 #pragma once
 
-#include "OndelCore/platform/storage/FileDescriptor.h"
-#include "support/TemporaryFolder.h"
+#include "support/FuseServer.h"
 
-#include <linux/fuse.h>
 #include <sys/types.h>
 
 #include <filesystem>
@@ -11,7 +9,6 @@
 #include <mutex>
 #include <optional>
 #include <string>
-#include <thread>
 
 namespace test {
 
@@ -23,35 +20,25 @@ class PortalFolder {
 public:
     /// `user`: who is said to serve it.
     explicit PortalFolder(std::filesystem::path behind, const char* type = "fuse.portal", uid_t user = 0);
-    ~PortalFolder();
-    PortalFolder(const PortalFolder&) = delete;
-    PortalFolder& operator=(const PortalFolder&) = delete;
 
-    const std::filesystem::path& path() const { return m_mountPoint; }
-    const std::string& problem() const { return m_problem; }
+    const std::filesystem::path& path() const { return m_server.path(); }
+    const std::string& problem() const { return m_server.problem(); }
     /// The bytes of the attribute; absent: there is none. Threads: any.
     void tell(const std::optional<std::string>& hostPath);
     /// Changes each answer about the folder's attributes. Threads: called on one of its own.
     void distort(std::function<void(fuse_attr&)> change);
 
 private:
-    struct Request;
-    void serve();
-    void answer(const Request& request);
-    void answerLookup(const Request& request);
-    void answerAttribute(const Request& request);
-    void reply(std::uint64_t unique, int error, const void* body = nullptr, std::size_t length = 0);
+    void answer(FuseServer& server, const FuseServer::Request& request);
+    void answerLookup(FuseServer& server, const FuseServer::Request& request);
+    void answerAttribute(FuseServer& server, const FuseServer::Request& request);
     fuse_attr attributesOf(std::uint64_t node);
 
     std::filesystem::path m_behind;
-    TemporaryFolder m_folder;
-    std::filesystem::path m_mountPoint;
-    std::string m_problem;
-    OndelCore::platform::FileDescriptor m_requests;
     std::mutex m_lock;
     std::optional<std::string> m_hostPath;
     std::function<void(fuse_attr&)> m_change;
-    std::thread m_program;
+    FuseServer m_server; ///< ends first
 };
 
 } // namespace test
