@@ -22,6 +22,8 @@ TemporaryFolder::~TemporaryFolder() {
     fs::remove_all(m_path, ignored);
 }
 
+bool isOfATest(const fs::path& place) { return place.native().find("/ondel-") != std::string::npos; }
+
 std::string contentOf(const fs::path& file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};

@@ -21,6 +21,9 @@ private:
     std::filesystem::path m_path;
 };
 
+/// Whether a place lies in a temporary folder of some test, of this program or of another.
+bool isOfATest(const std::filesystem::path& place);
+
 /// All bytes of a file; none if it cannot be read.
 std::string contentOf(const std::filesystem::path& file);
 
