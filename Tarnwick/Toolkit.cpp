@@ -75,8 +75,7 @@ Toolkit startToolkit(int& argc, char** argv) {
     Toolkit application = withoutSecondBridge(argc, argv);
     qInstallMessageHandler(OndelCore::platform::isStandardErrorLogged() ? warnWithoutNames : defaultHandler);
     application->setApplicationName(QString::fromLatin1(product::name));
-    // Together with the application name: the name of the settings file.
-    application->setOrganizationName(QStringLiteral("Ondel"));
+    application->setOrganizationName(QString::fromLatin1(product::organization));
     application->setApplicationVersion(QStringLiteral(ONDEL_VERSION));
     application->setDesktopFileName(QString::fromLatin1(product::id));
     application->setQuitOnLastWindowClosed(false); // AppDelegate decides

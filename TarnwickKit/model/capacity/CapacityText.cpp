@@ -303,21 +303,23 @@ QString defectSentence(const CapacityDefect& defect) {
     return failureSentence(defect, place, length);
 }
 
-} // namespace
-
-QString spanText(double seconds) {
+QString figureOfSpan(double seconds) {
     constexpr double fewSeconds = 9.95; // more would read 10.0
     const auto whole = static_cast<std::int64_t>(std::lround(std::clamp(seconds, 0.0, 1e12)));
     if (seconds < fewSeconds && seconds != std::round(seconds))
-        return Format::leftToRight(u"%1 s"_s.arg(Format::decimals(std::max(0.0, seconds), 1)));
+        return u"%1 s"_s.arg(Format::decimals(std::max(0.0, seconds), 1));
     if (whole < 100)
-        return Format::leftToRight(u"%1 s"_s.arg(whole));
+        return u"%1 s"_s.arg(whole);
     const std::int64_t minutes = (whole + 30) / 60;
     if (minutes < 100)
-        return Format::leftToRight(u"%1 min"_s.arg(minutes));
-    return Format::leftToRight(minutes % 60 == 0 ? u"%1 h"_s.arg(minutes / 60)
-                                                 : u"%1 h %2 min"_s.arg(minutes / 60).arg(minutes % 60));
+        return u"%1 min"_s.arg(minutes);
+    return minutes % 60 == 0 ? u"%1 h"_s.arg(minutes / 60)
+                             : u"%1 h %2 min"_s.arg(minutes / 60).arg(minutes % 60);
 }
+
+} // namespace
+
+QString spanText(double seconds) { return Format::leftToRight(figureOfSpan(seconds)); }
 
 QString decimalSize(std::int64_t bytes) {
     constexpr std::array units{"B"_L1, "kB"_L1, "MB"_L1, "GB"_L1, "TB"_L1};
